@@ -1,0 +1,93 @@
+#include "worker/mirovaronrecord.h"
+
+#include <QLocale>
+
+#include <tuple>
+
+namespace {
+
+/// A date as the system locale writes it in short, an invalid one as an empty text.
+QString localDate(const QDate &date)
+{
+    return date.isValid() ? QLocale::system().toString(date, QLocale::ShortFormat) : QString();
+}
+
+/// All fields, in the order in which they are compared.
+auto fields(const MirovaRonRecord &r)
+{
+    return std::tie(r.osobniCislo, r.poradoveCisloPP, r.titul, r.jmeno, r.prijmeni, r.titulZa,
+                    r.telefon, r.datumNastupu, r.datumVystupu, r.stredisko, r.strediskoPopis,
+                    r.kalendar, r.kalendarPlatnostOd, r.typPracovnihoPomeru,
+                    r.stavPracovnihoPomeru, r.evidencniStav, r.rsFrom, r.rsTo, r.rsText,
+                    r.dovolenaZustatek, r.nadrizenyOsobniCislo);
+}
+
+QString shortText(const MirovaRonRecord &r)
+{
+    return QStringLiteral("%1.%2 %3 %4 %5 %6 (T: %7) N-V: %8 - %9 TPP: %10  K: %11  DOV: %12, "
+                          "S: %13")
+        .arg(r.osobniCislo)
+        .arg(r.poradoveCisloPP)
+        .arg(r.titul)
+        .arg(r.jmeno)
+        .arg(r.prijmeni)
+        .arg(r.titulZa)
+        .arg(r.telefon)
+        .arg(localDate(r.datumNastupu))
+        .arg(localDate(r.datumVystupu))
+        .arg(r.typPracovnihoPomeru)
+        .arg(r.kalendar)
+        .arg(r.dovolenaZustatek)
+        .arg(r.stredisko);
+}
+
+/// The surname comes before the first name here, the reverse of the short text.
+QString longText(const MirovaRonRecord &r)
+{
+    return QStringLiteral("%1.%2 %3 %4 (S: %5, K: %6 from %7) N-V: %8 - %9; ES: %10, "
+                          "RS: %11 - %12 '%13' TPP: %14  DOV: %15 NOC: %16")
+        .arg(r.osobniCislo)
+        .arg(r.poradoveCisloPP)
+        .arg(r.prijmeni)
+        .arg(r.jmeno)
+        .arg(r.stredisko)
+        .arg(r.kalendar)
+        .arg(localDate(r.kalendarPlatnostOd))
+        .arg(localDate(r.datumNastupu))
+        .arg(localDate(r.datumVystupu))
+        .arg(r.evidencniStav)
+        .arg(localDate(r.rsFrom))
+        .arg(localDate(r.rsTo))
+        .arg(r.rsText)
+        .arg(r.typPracovnihoPomeru)
+        .arg(r.dovolenaZustatek)
+        .arg(r.nadrizenyOsobniCislo);
+}
+
+} // namespace
+
+quint32 MirovaRonRecord::getPid() const
+{
+    const QString digits = QString::number(osobniCislo) + QString::number(poradoveCisloPP);
+    return digits.toUInt(nullptr, 10);
+}
+
+QString MirovaRonRecord::getPamId() const
+{
+    return QStringLiteral("%1.%2").arg(osobniCislo).arg(poradoveCisloPP);
+}
+
+QString MirovaRonRecord::getString(bool shortForm) const
+{
+    return shortForm ? shortText(*this) : longText(*this);
+}
+
+bool operator==(const MirovaRonRecord &a, const MirovaRonRecord &b)
+{
+    return fields(a) == fields(b);
+}
+
+bool operator!=(const MirovaRonRecord &a, const MirovaRonRecord &b)
+{
+    return !(a == b);
+}
