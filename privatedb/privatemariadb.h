@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class BoundProcess;
+class QSqlDatabase;
+class QTemporaryDir;
+
+/// A MariaDB server of one's own in a temporary folder, for tests, the demo and tools.
+///
+/// It reads no configuration file of the machine, listens on a socket only, dies with the program
+/// that started it (see BoundProcess for the thread) and takes its folder along. Its local time
+/// zone is that of the program's environment (`TZ`). It holds one database and two accounts: `root`
+/// without a password, and the account that an attendance server would use, with one.
+///
+/// Needs a QCoreApplication, for Qt's database drivers. Operations that return bool leave the
+/// reason of a failure in errorString().
+class PrivateMariaDb {
+public:
+    enum class Account {
+        Administrator, ///< `root`, without a password
+        Host ///< userName(), with password(): every right on the database, none elsewhere
+    };
+
+    PrivateMariaDb();
+    ~PrivateMariaDb(); ///< Stops the server and removes its folder.
+    PrivateMariaDb(const PrivateMariaDb &) = delete;
+    PrivateMariaDb &operator=(const PrivateMariaDb &) = delete;
+
+    /// Folder in which the server's own folder is made; the system's temporary folder by default.
+    void setBaseDir(const QString &dir) { m_baseDir = dir; }
+    /// Further options of mariadbd, as on its command line ("--general-log=1").
+    void setServerOptions(const QStringList &options) { m_serverOptions = options; }
+    /// Name of the database that the first start creates; "tepdb" by default.
+    void setDatabaseName(const QString &name) { m_databaseName = name; }
+    /// Leaves the folder behind at the end, for a look at the data and the error log.
+    void setKeepFiles(bool keep);
+
+    /// Starts the server; true once it answers queries. The first call makes the data folder, the
+    /// database and the accounts; after stop() or kill() it goes on with the same data and socket.
+    bool start();
+    /// Asks the server to shut down and waits until it has. True also when it was not running.
+    bool stop();
+    bool restart();
+    /// Ends the server at once (SIGKILL), as a crash would.
+    void kill();
+
+    /// Feeds a file of SQL statements (DELIMITER included) to the database, as administrator.
+    /// Stops at the first statement that fails.
+    bool load(const QString &sqlFile) { return load(QStringList{sqlFile}); }
+    /// As above, for several files in a row.
+    bool load(const QStringList &sqlFiles);
+
+    bool isRunning() const;
+    qint64 pid() const; ///< Process id of the server, 0 when it is not running.
+    QString errorString() const { return m_error; }
+
+    /// The server's folder; empty before the first start().
+    QString folder() const { return m_folder; }
+    QString dataDir() const;
+    QString socketPath() const;
+    QString errorLogPath() const;
+    /// File that holds password() and nothing else, readable by its owner only.
+    QString passwordFile() const;
+    QString databaseName() const { return m_databaseName; }
+    QString userName() const;
+    QString password() const;
+
+    /// Registers a connection to this server under \a connectionName, not yet opened. The caller
+    /// removes it.
+    QSqlDatabase addConnection(const QString &connectionName,
+                               Account account = Account::Host) const;
+
+private:
+    bool fail(const QString &error);
+    bool findPrograms();
+    bool makeFolder();
+    bool makeDataDir();
+    bool launch();
+    bool waitUntilReady();
+    bool makeAccounts();
+    QString errorLogTail() const;
+
+    QString m_baseDir;
+    QStringList m_serverOptions;
+    QString m_databaseName;
+    bool m_keepFiles = false;
+    bool m_prepared = false; ///< Data folder, database and accounts are there.
+    std::unique_ptr<QTemporaryDir> m_temporaryDir;
+    QString m_folder;
+    QString m_error;
+    std::unique_ptr<BoundProcess> m_server;
+};
