@@ -1,0 +1,65 @@
+#include "host/database.h"
+
+#include "host/hostoptions.h"
+
+#include <QSqlError>
+#include <QStringList>
+
+namespace {
+
+constexpr char kDriver[] = "QMYSQL";
+constexpr char kConnectionName[] = "yavhost";
+
+// "localhost" alone means the client library's default socket, so a socket is always named.
+QString connectOptions(const DatabaseOptions &options)
+{
+    QStringList parts;
+    if (!options.socket.isEmpty()) {
+        parts << QStringLiteral("UNIX_SOCKET=") + options.socket;
+    }
+    if (!options.connectOptions.isEmpty()) {
+        parts << options.connectOptions;
+    }
+    return parts.join(QLatin1Char(';'));
+}
+
+} // namespace
+
+Database::Database(const DatabaseOptions &options)
+    : m_connection(
+        QSqlDatabase::addDatabase(QLatin1String(kDriver), QLatin1String(kConnectionName)))
+{
+    m_connection.setHostName(options.socket.isEmpty() ? options.host : QStringLiteral("localhost"));
+    m_connection.setPort(options.port == 0 ? -1 : options.port);
+    m_connection.setDatabaseName(options.name);
+    m_connection.setUserName(options.user);
+    m_connection.setPassword(options.password);
+    m_connection.setConnectOptions(connectOptions(options));
+}
+
+Database::~Database()
+{
+    m_connection.close();
+    m_connection = QSqlDatabase();
+    QSqlDatabase::removeDatabase(QLatin1String(kConnectionName));
+}
+
+bool Database::open()
+{
+    return m_connection.open();
+}
+
+QString Database::errorText() const
+{
+    return m_connection.lastError().text();
+}
+
+QSqlDatabase Database::handle() const
+{
+    return m_connection;
+}
+
+bool Database::isDriverAvailable()
+{
+    return QSqlDatabase::isDriverAvailable(QLatin1String(kDriver));
+}

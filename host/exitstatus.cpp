@@ -1,0 +1,45 @@
+#include "host/exitstatus.h"
+
+#include <QStringList>
+
+namespace {
+
+constexpr ExitStatus kAll[] = {ExitStatus::Success,    ExitStatus::Usage,      ExitStatus::NoPlugin,
+                               ExitStatus::NoDatabase, ExitStatus::NotStarted, ExitStatus::Disabled,
+                               ExitStatus::NoPeople,   ExitStatus::Interrupted};
+
+} // namespace
+
+QString exitStatusSentence(ExitStatus status)
+{
+    switch (status) {
+    case ExitStatus::Success:
+        return QStringLiteral("Everything went well");
+    case ExitStatus::Usage:
+        return QStringLiteral("The command line is not understood");
+    case ExitStatus::NoPlugin:
+        return QStringLiteral("The library is not a plugin of the attendance server");
+    case ExitStatus::NoDatabase:
+        return QStringLiteral("The attendance database could not be opened");
+    case ExitStatus::NotStarted:
+        return QStringLiteral("The plugin could not start");
+    case ExitStatus::Disabled:
+        return QStringLiteral("The plugin is disabled by its INI file");
+    case ExitStatus::NoPeople:
+        return QStringLiteral("The people could not be loaded from the attendance database");
+    case ExitStatus::Interrupted:
+        return QStringLiteral("A signal came before the first synchronisation was over");
+    }
+    Q_UNREACHABLE();
+}
+
+QString exitStatusHelp()
+{
+    QStringList lines{QStringLiteral("Exit status:")};
+    for (const ExitStatus status : kAll) {
+        lines << QStringLiteral("  %1  %2")
+                     .arg(static_cast<int>(status))
+                     .arg(exitStatusSentence(status));
+    }
+    return lines.join(QLatin1Char('\n'));
+}

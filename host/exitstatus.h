@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+/// How yavhost ends; the numbers are part of its --help.
+enum class ExitStatus {
+    Success = 0,
+    Usage = 1, ///< the command line does not make sense
+    NoPlugin = 2, ///< the library is not a plugin of the attendance server
+    NoDatabase = 3, ///< the database could not be opened
+    NotStarted = 4, ///< the plugin reported that it could not start
+    Disabled = 5, ///< the plugin's INI file disables it
+    NoPeople = 6, ///< the plugin could not load the people from the database
+    Interrupted = 7, ///< a signal came before the first synchronisation was over
+};
+
+/// What to tell the user who meets this status: a sentence without its full stop.
+QString exitStatusSentence(ExitStatus status);
+
+/// The part of the help text that lists every status.
+QString exitStatusHelp();

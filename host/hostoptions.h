@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// How to reach the attendance database.
+struct DatabaseOptions {
+    QString host; ///< empty when a socket is used
+    int port = 0; ///< 0: the server's usual port
+    QString socket; ///< path of a UNIX socket; empty when a host is used
+    QString name;
+    QString user;
+    QString password;
+    QString connectOptions; ///< as QSqlDatabase::setConnectOptions takes them
+};
+
+/// What the command line asks for.
+struct HostOptions {
+    QString library; ///< path of the plugin
+    bool versionInfo = false; ///< print the version information instead of running the plugin
+    bool once = false; ///< end after the first synchronisation
+    unsigned char debugLevel = 1; ///< 0 none, 1 normal, 2 and more verbose
+    DatabaseOptions database;
+};
+
+/// The outcome of reading a command line.
+struct ParsedCommandLine {
+    HostOptions options; ///< of use only when help and error are empty
+    QString help; ///< the help text, when it was asked for
+    QString error; ///< what does not make sense, if anything does not
+};
+
+/// Reads the command line, whose first argument is the program's name, and the password from the
+/// file that it names or else from YAVHOST_PASSWORD. The variable is then removed, so that the
+/// programs that the plugin runs do not inherit it.
+ParsedCommandLine parseCommandLine(const QStringList &arguments);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "host/exitstatus.h"
+
+#include <QString>
+
+/// Prints a sentence of the host itself to standard output.
+void printInfo(const QString &sentence);
+
+/// Prints to standard error what went wrong, with what is known beyond the status; nothing for
+/// success.
+void printFailure(ExitStatus status, const QString &detail = QString());

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/database.h"
+#include "host/exitstatus.h"
+#include "host/hostoptions.h"
+#include "host/logprinter.h"
+#include "host/serverplugin.h"
+#include "host/synchronizationwatch.h"
+#include "host/unixsignals.h"
+
+#include <QString>
+
+/// One run of one plugin, as the attendance server does it: load, open the database, set up, start,
+/// keep, stop, unload.
+class HostSession {
+public:
+    explicit HostSession(const HostOptions &options);
+
+    /// Runs the application's event loop until a signal or, with once, the end of the first
+    /// synchronisation. To be called once.
+    ExitStatus run();
+
+    /// Why run() did not succeed, when more is known than its status says.
+    QString detail() const { return m_detail; }
+
+private:
+    LogPrinter::Observer observer();
+    bool openDatabase();
+    bool startPlugin();
+    void handleSignal(int signalNumber);
+
+    HostOptions m_options;
+    UnixSignals m_signals;
+    SynchronizationWatch m_watch;
+    LogPrinter m_log;
+    Database m_database; // before the plugin: the plugin holds a copy of its handle
+    ServerPlugin m_plugin;
+    QString m_detail;
+};

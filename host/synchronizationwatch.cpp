@@ -1,0 +1,39 @@
+#include "host/synchronizationwatch.h"
+
+#include "host/exitstatus.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct TellingMessage {
+    const char *begin;
+    ExitStatus status;
+};
+
+// The end of a synchronisation is a debug message: the plugin's debug level must be 1 at least.
+constexpr TellingMessage kTellingMessages[] = {
+    {"MHRWorker: END synchronization #", ExitStatus::Success},
+    {"MHRWorker::checkSync() - database not open!", ExitStatus::NoDatabase},
+    {"MHRWorker: load people from TEPDB failed - synchronization terminated!",
+     ExitStatus::NoPeople},
+    {"MirovaHR is DISABLED", ExitStatus::Disabled},
+};
+
+void endEventLoop(ExitStatus status)
+{
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [status] { QCoreApplication::exit(static_cast<int>(status)); }, Qt::QueuedConnection);
+}
+
+} // namespace
+
+void SynchronizationWatch::inspect(const QString &message)
+{
+    for (const TellingMessage &telling : kTellingMessages) {
+        if (message.startsWith(QLatin1String(telling.begin)) && !m_over.exchange(true)) {
+            endEventLoop(telling.status);
+        }
+    }
+}
