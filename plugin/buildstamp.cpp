@@ -7,8 +7,8 @@ QString BuildStamp::fromCompilerTexts(const QString &date, const QString &time)
 {
     const QTime buildTime = QTime::fromString(time.simplified(), QStringLiteral("hh:mm:ss"));
     // The compiler names the month in English, whatever the locale of the machine.
-    const QDate buildDate
-        = QLocale(QStringLiteral("en_US")).toDate(date.simplified(), QStringLiteral("MMM d yyyy"));
+    const QDate buildDate =
+        QLocale(QStringLiteral("en_US")).toDate(date.simplified(), QStringLiteral("MMM d yyyy"));
     const QDateTime stamp(buildDate, buildTime, Qt::LocalTime);
     return stamp.isValid() ? stamp.toString(QStringLiteral("yyMMddhhmm")) : QString();
 }

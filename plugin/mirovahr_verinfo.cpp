@@ -4,7 +4,7 @@
 
 QMap<QString, QString> MirovaHR::getVerInfo() const
 {
-    QMap<QString, QString> info {
+    QMap<QString, QString> info{
         {QStringLiteral("VER"), getVersion()},
         {QStringLiteral("corvaType"), QStringLiteral("PLG.MH")},
         {QStringLiteral("TEPDB"), QStringLiteral("20.11.26")},

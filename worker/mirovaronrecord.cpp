@@ -17,9 +17,9 @@ auto fields(const MirovaRonRecord &r)
 {
     return std::tie(r.osobniCislo, r.poradoveCisloPP, r.titul, r.jmeno, r.prijmeni, r.titulZa,
                     r.telefon, r.datumNastupu, r.datumVystupu, r.stredisko, r.strediskoPopis,
-                    r.kalendar, r.kalendarPlatnostOd, r.typPracovnihoPomeru,
-                    r.stavPracovnihoPomeru, r.evidencniStav, r.rsFrom, r.rsTo, r.rsText,
-                    r.dovolenaZustatek, r.nadrizenyOsobniCislo);
+                    r.kalendar, r.kalendarPlatnostOd, r.typPracovnihoPomeru, r.stavPracovnihoPomeru,
+                    r.evidencniStav, r.rsFrom, r.rsTo, r.rsText, r.dovolenaZustatek,
+                    r.nadrizenyOsobniCislo);
 }
 
 QString shortText(const MirovaRonRecord &r)

@@ -119,8 +119,8 @@ QDate firstDayOfPreviousMonth(const QDate &today)
 void continueRs(MirovaRonRecord &record, const MirovaRonRecord &last, const QString &text,
                 const QDate &today)
 {
-    const bool running = last.rsFrom.isValid() && last.rsFrom < today
-        && (!last.rsTo.isValid() || last.rsTo > today);
+    const bool running =
+        last.rsFrom.isValid() && last.rsFrom < today && (!last.rsTo.isValid() || last.rsTo > today);
     record.rsFrom = running ? last.rsFrom : today;
     record.rsTo = last.rsTo.isValid() && last.rsTo > today ? last.rsTo : QDate();
     record.rsText = text;
@@ -137,17 +137,19 @@ void closeRs(MirovaRonRecord &record, const MirovaRonRecord &last, const QDate &
     record.rsText = last.rsText;
 }
 
-bool vacationTarget(double days, qint64 &hundredths)
+bool vacationMove(double days, qint64 current, qint32 &value)
 {
     using Limits = std::numeric_limits<qint32>;
     // Truncated, not rounded: 1.15 days are 114 hundredths, because the product is 114.99….
     const double target = std::trunc(days * 100.0);
     if (std::isnan(target)) {
-        hundredths = 0;
+        value = 0;
         return false;
     }
-    hundredths = static_cast<qint64>(qBound(double(Limits::min()), target, double(Limits::max())));
-    return target >= Limits::min() && target <= Limits::max();
+    const double bounded = qBound(double(Limits::min()), target, double(Limits::max()));
+    const qint64 move = static_cast<qint64>(bounded) - current;
+    value = static_cast<qint32>(qBound(qint64(Limits::min()), move, qint64(Limits::max())));
+    return bounded == target && value == move;
 }
 
 } // namespace RecordCodes

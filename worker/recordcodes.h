@@ -54,8 +54,10 @@ void continueRs(MirovaRonRecord &record, const MirovaRonRecord &last, const QStr
 /// running period of the last record ends today, an ended one stays.
 void closeRs(MirovaRonRecord &record, const MirovaRonRecord &last, const QDate &today);
 
-/// The vacation balance in days as hundredths, truncated toward zero. False when the balance is
-/// not finite or does not fit 32 bits; `hundredths` is then saturated (0 for not a number).
-bool vacationTarget(double days, qint64 &hundredths);
+/// The fund move that brings the balance `current` (hundredths of a day) to the HR balance in days,
+/// which counts in hundredths truncated toward zero. False when there is no such move: the HR
+/// balance is not finite, or it or the move does not fit 32 bits; `value` is then saturated, and 0
+/// for a balance that is not a number.
+bool vacationMove(double days, qint64 current, qint32 &value);
 
 } // namespace RecordCodes

@@ -1,0 +1,149 @@
+// Branch and calendar of a person, and the recalculation of attendance.
+
+#include "worker/mhrworker.h"
+
+#include "db/groupsplanrepo.h"
+#include "worker/recordcodes.h"
+#include "worker/sqlreport.h"
+
+#include <QDebug>
+#include <QLocale>
+#include <QSqlQuery>
+#include <QVariant>
+
+namespace {
+
+const QLatin1String kSelectBranches("SELECT bid, number FROM branches WHERE number IS NOT NULL;");
+
+const QLatin1String kCountMembership("SELECT COUNT(*) FROM brape WHERE bid = %1 AND uid = (SELECT "
+                                     "uid FROM people WHERE pid = %2 LIMIT 1);");
+
+const QLatin1String kSelectGroup(
+    "SELECT gid FROM branches b LEFT JOIN mastergroups mg ON mg.mgid = b.mgid LEFT JOIN groups g "
+    "ON g.parent = mg.mgid WHERE bid = %1 AND g.calendarID = %2 LIMIT 1;");
+
+const QLatin1String
+    kCountPlan("SELECT COUNT(*) FROM groups_plan WHERE gid = %1 AND uid = %2 AND since = %3;");
+
+const QLatin1String kResetAttendance("UPDATE atten SET ok = -1 WHERE `lock` =0 AND `man`=0 AND "
+                                     "`date` >= %1 AND uid =%2");
+
+const QLatin1String
+    kResetLastCalc("UPDATE people set lastCalc = %1, calc = 0 WHERE lastCalc > %1 AND uid=%2");
+
+} // namespace
+
+bool MHRWorker::dbLoadBranches()
+{
+    if (m_debugLevel >= 2)
+        qDebug("MHRWorker::dbLoadBranches() - SQL ERROR");
+    m_branchIds.clear();
+    QSqlQuery query(m_db);
+    if (!SqlReport::exec(query, kSelectBranches, "MHRWorker::dbLoadBranches() - SQL ERROR"))
+        return false;
+    while (query.next())
+        m_branchIds.insert(query.value(1).toUInt(), query.value(0).toUInt());
+    return !m_branchIds.isEmpty();
+}
+
+bool MHRWorker::doSyncBranchAndCalendar(const MirovaRonRecord &rec)
+{
+    if (m_debugLevel >= 3)
+        qDebug("MHRWorker::doSyncBranchAndCalendar(%s)", qUtf8Printable(rec.getPamId()));
+
+    const quint32 bid = m_branchIds.value(rec.stredisko);
+    if (bid == 0) {
+        qWarning("MHRWorker: Branch '%u' NOT FOUND for employee: '%s'", rec.stredisko,
+                 qUtf8Printable(rec.getString(false)));
+        return false;
+    }
+
+    // A uid of 0 (a person not in the table) is not stopped here: the steps below refuse it, each
+    // with its own word in the log, and the branch gets "0", which names nobody.
+    const quint32 pid = rec.getPid();
+    const quint32 uid = getUidByPid(pid);
+    const bool queued = queueBranchMember(pid, uid, bid);
+    return rec.kalendar == 0 ? queued : joinCalendarGroup(rec, uid, bid) || queued;
+}
+
+bool MHRWorker::queueBranchMember(quint32 pid, quint32 uid, quint32 bid)
+{
+    if (dbCheckPersonInBranch(pid, bid))
+        return false;
+    m_pendingMembers[bid].append(QString::number(uid));
+    return true;
+}
+
+bool MHRWorker::joinCalendarGroup(const MirovaRonRecord &rec, quint32 uid, quint32 bid)
+{
+    const quint32 gid = dbGetGroupIdByCalendar(bid, rec.kalendar);
+    if (gid == 0) {
+        qWarning("MHRWorker: Group ID NOT found for Branch %u and calendar %u [employee: '%s']!",
+                 rec.stredisko, rec.kalendar, qUtf8Printable(rec.getString(false)));
+        return false;
+    }
+
+    const quint32 since = GroupsPlanRepo::monthFromDate(rec.kalendarPlatnostOd);
+    if (dbCheckGroupsPlan(gid, uid, since))
+        return true;
+    if (!m_groupsPlan->add({gid, uid, since})) {
+        qWarning("MHRWorker: can't add record '%s' into [groups_plan]!",
+                 qUtf8Printable(rec.getString(false)));
+        return false;
+    }
+
+    // An invalid date lies before every other one, so it asks for a recalculation, too.
+    if (rec.kalendarPlatnostOd < QDate::currentDate())
+        dbChangeLastCalc(uid, rec.kalendarPlatnostOd);
+    return true;
+}
+
+bool MHRWorker::dbCheckPersonInBranch(unsigned int pid, unsigned int bid)
+{
+    if (m_debugLevel >= 2)
+        qDebug("MHRWorker::dbCheckPersonInBranch(%u, %u)", pid, bid);
+    QSqlQuery query(m_db);
+    if (!SqlReport::exec(query, QString(kCountMembership).arg(bid).arg(pid),
+                         "MHRWorker::dbCheckPersonInBranch() - SQL ERROR"))
+        return false;
+    return SqlReport::nextNumber(query) != 0;
+}
+
+unsigned int MHRWorker::dbGetGroupIdByCalendar(unsigned int bid, unsigned int calendar) const
+{
+    if (m_debugLevel >= 2)
+        qDebug("MHRWorker::getGroupIdByCalendar(B: %u, C: %u)", bid, calendar);
+    QSqlQuery query(m_db);
+    if (!SqlReport::exec(query, QString(kSelectGroup).arg(bid).arg(calendar),
+                         "MHRWorker::getGroupIdByCalendar() - SQL ERROR"))
+        return 0;
+    return SqlReport::nextNumber(query);
+}
+
+bool MHRWorker::dbCheckGroupsPlan(unsigned int gid, unsigned int uid, unsigned int since) const
+{
+    if (m_debugLevel >= 2)
+        qDebug("MHRWorker::dbCheckGroupsPlan(%u, %u, %u)", gid, uid, since);
+    QSqlQuery query(m_db);
+    if (!SqlReport::exec(query, QString(kCountPlan).arg(gid).arg(uid).arg(since),
+                         "MHRWorker::dbCheckGroupsPlan() - SQL ERROR"))
+        return false;
+    return SqlReport::nextNumber(query) != 0;
+}
+
+bool MHRWorker::dbChangeLastCalc(unsigned int uid, const QDate &date)
+{
+    if (m_debugLevel >= 2) {
+        qDebug("MHRWorker::dbChangeLastCalc(%u, %s)", uid,
+               qUtf8Printable(QLocale::system().toString(date, QLocale::ShortFormat)));
+    }
+    const qint64 firstDay = RecordCodes::midnight(date);
+    const qint64 dayBefore = RecordCodes::midnight(date.addDays(-1));
+    QSqlQuery attendance(m_db);
+    if (!SqlReport::exec(attendance, QString(kResetAttendance).arg(firstDay).arg(uid),
+                         "MHRWorker::dbChangeLastCalc() [UPDATE atten] - SQL ERROR"))
+        return false;
+    QSqlQuery person(m_db);
+    return SqlReport::exec(person, QString(kResetLastCalc).arg(dayBefore).arg(uid),
+                           "MHRWorker::dbChangeLastCalc() [UPDATE people] - SQL ERROR");
+}

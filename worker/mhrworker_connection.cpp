@@ -1,0 +1,28 @@
+// The worker's connection to the attendance database: open during a tick, closed between ticks.
+
+#include "worker/mhrworker.h"
+
+#include <QDebug>
+#include <QMutexLocker>
+#include <QSqlError>
+
+bool MHRWorker::dbCheckOpen()
+{
+    if (m_debugLevel > 1)
+        qDebug("MHRWorker::dbCheckOpen() - SQL ERROR");
+    const QMutexLocker lock(&m_dbMutex);
+    if (m_db.isOpen() || m_db.open())
+        return true;
+    qCritical("MHRWorker::dbCheckOpen() - SQL ERROR: %s", qUtf8Printable(m_db.lastError().text()));
+    return false;
+}
+
+void MHRWorker::dbClose()
+{
+    // The text of dbCheckOpen(), which marks the open and the close of every tick alike.
+    if (m_debugLevel > 1)
+        qDebug("MHRWorker::dbCheckOpen() - SQL ERROR");
+    const QMutexLocker lock(&m_dbMutex);
+    if (m_db.isOpen())
+        m_db.close();
+}

@@ -1,0 +1,233 @@
+// The driver: which writing steps run for each record, and what the worker remembers of it.
+
+#include "worker/mhrworker.h"
+
+#include "db/branchesrepository.h"
+#include "worker/recordcodes.h"
+
+#include <QDebug>
+
+#include <tuple>
+#include <utility>
+
+namespace {
+
+/// The interval type (`funds.iid`) of the vacation fund.
+constexpr unsigned short kVacationIid = 3;
+
+/// True when the database's view of a person can be compared: both numbers and any name are there.
+bool isComplete(const MirovaRonRecord &known)
+{
+    return known.osobniCislo != 0 && known.poradoveCisloPP != 0
+        && !(known.jmeno.isEmpty() && known.prijmeni.isEmpty());
+}
+
+bool movesElsewhere(const MirovaRonRecord &rec, const MirovaRonRecord &known)
+{
+    return rec.kalendar != known.kalendar || rec.kalendarPlatnostOd != known.kalendarPlatnostOd
+        || rec.stredisko != known.stredisko;
+}
+
+/// The fields that a row of `people` holds. The description of the cost centre, the start of the
+/// calendar, the codes and the balance are not among them.
+auto rowFields(const MirovaRonRecord &r)
+{
+    return std::tie(r.osobniCislo, r.poradoveCisloPP, r.titul, r.jmeno, r.prijmeni, r.titulZa,
+                    r.telefon, r.datumNastupu, r.datumVystupu, r.kalendar, r.stredisko, r.rsFrom,
+                    r.rsTo, r.rsText);
+}
+
+} // namespace
+
+/// What is found out about one record on its way through the steps.
+struct MHRWorker::Reconciliation {
+    quint32 pid = 0;
+    quint32 uid = 0; ///< known once the attendance was checked
+    bool active = false;
+    bool fundsWritable = false; ///< today's balance correction may be written
+    bool fundRetry = false; ///< the last cycle could not correct the balance
+    bool checkFunds = false;
+    bool changed = false;
+    bool esChanged = false;
+    bool tppChanged = false;
+    bool supervisorChanged = false;
+    bool lastCalcNeeded = false;
+};
+
+void MHRWorker::doSync()
+{
+    if (m_records.isEmpty())
+        return;
+    if (m_debugLevel > 1)
+        qDebug("MHRWorker::doSync() - stack count: %i", m_records.size());
+
+    dbLoadBranches();
+    dbCheckDovolenkaFond(kVacationIid);
+    // Walked to its end, not taken from the front: that would move all other records every time.
+    const QVector<MirovaRonRecord> records = std::exchange(m_records, {});
+    for (const MirovaRonRecord &rec : records)
+        doSyncRecord(rec);
+    flushBranchMembers();
+}
+
+void MHRWorker::flushBranchMembers()
+{
+    const QMap<quint32, QStringList> pending = std::exchange(m_pendingMembers, {});
+    for (auto it = pending.cbegin(); it != pending.cend(); ++it) {
+        // The repository takes 16 bits: 65536 becomes 0, which it refuses.
+        m_branches->addPeopleToBranch(static_cast<ushort>(it.key()), it->join(QLatin1Char(',')));
+    }
+}
+
+void MHRWorker::doSyncRecord(const MirovaRonRecord &rec)
+{
+    if (m_debugLevel > 2)
+        qDebug("MHRWorker::doSyncRecord(%s)", qUtf8Printable(rec.getString(false)));
+
+    Reconciliation work;
+    work.pid = rec.getPid();
+    work.active = RecordCodes::isActive(rec, QDate::currentDate());
+    checkFunds(work);
+    compareWithLast(rec, work);
+    if (m_vacationFundId != 0)
+        m_fundRetry.insert(work.pid, !work.fundsWritable);
+
+    const bool written = (work.changed || m_force) && reconcile(rec, work);
+    // A changed record is remembered even when writing it failed, so an unchanged line does not
+    // try again: only a change of the line or a forced synchronisation does. Sites rely on it.
+    if (written || work.changed || !work.active)
+        m_lastRecords.insert(work.pid, rec);
+
+    if (work.active)
+        placeOrWait(rec, work);
+    if (work.lastCalcNeeded)
+        requestRecalculation(rec);
+}
+
+void MHRWorker::checkFunds(Reconciliation &work)
+{
+    if (m_vacationFundId == 0)
+        return;
+    // Both are always asked: the second also finds the uid.
+    const bool moveAllowed = dbCheckFundMove(work.pid);
+    const bool attendanceAllows = dbCheckAttendance(work.pid, work.uid);
+    work.fundsWritable = moveAllowed && attendanceAllows;
+    work.checkFunds = work.fundsWritable;
+    work.fundRetry = work.fundsWritable && m_fundRetry.value(work.pid);
+}
+
+void MHRWorker::compareWithLast(const MirovaRonRecord &rec, Reconciliation &work) const
+{
+    const auto last = m_lastRecords.constFind(work.pid);
+    if (last == m_lastRecords.constEnd()) {
+        work.changed = true;
+        work.esChanged = true;
+        work.tppChanged = true;
+        work.supervisorChanged = rec.nadrizenyOsobniCislo != 0;
+        return;
+    }
+
+    work.esChanged = rec.evidencniStav != last->evidencniStav;
+    work.tppChanged = rec.typPracovnihoPomeru != last->typPracovnihoPomeru;
+    work.supervisorChanged =
+        rec.nadrizenyOsobniCislo != 0 && rec.nadrizenyOsobniCislo != last->nadrizenyOsobniCislo;
+    if (!m_force && !work.fundRetry && rec.dovolenaZustatek == last->dovolenaZustatek)
+        work.checkFunds = false;
+    work.changed = work.checkFunds || rec != *last;
+}
+
+bool MHRWorker::reconcile(const MirovaRonRecord &rec, Reconciliation &work)
+{
+    if (m_people.contains(work.pid))
+        return updateKnownPerson(rec, work);
+    // Who has left already is never created.
+    return work.active && createPerson(rec);
+}
+
+bool MHRWorker::createPerson(const MirovaRonRecord &rec)
+{
+    if (!dbAddPerson(updateRs(rec, MirovaRonRecord())))
+        return false;
+
+    const uint payrollId = pamSettingsIdFromTPP(rec.typPracovnihoPomeru);
+    if (payrollId != 0 && !dbAddPersonIntoPam(rec.getPid(), payrollId)) {
+        qWarning("MHRWorker::doSyncRecord(%s) - dbAddPersonIntoPam(%u, %u) FAILED!",
+                 qUtf8Printable(rec.getString(false)), rec.getPid(), payrollId);
+    }
+    if (rec.nadrizenyOsobniCislo != 0 && employmentTypeFromTPP(rec.typPracovnihoPomeru) == 1)
+        processNadOsCis(rec);
+    return true;
+}
+
+bool MHRWorker::updateKnownPerson(const MirovaRonRecord &rec, Reconciliation &work)
+{
+    MirovaRonRecord &known = m_people[work.pid];
+    work.lastCalcNeeded = isComplete(known) && movesElsewhere(rec, known);
+
+    const MirovaRonRecord updated = updateRs(rec, known);
+    const bool sameRow = rowFields(updated) == rowFields(known);
+    const bool written = !(sameRow && !work.esChanged && !work.tppChanged)
+        && dbUpdatePerson(updated, work.esChanged);
+
+    if (work.checkFunds && correctVacation(rec, work))
+        work.lastCalcNeeded = true;
+    if (work.lastCalcNeeded) {
+        known.kalendar = rec.kalendar;
+        known.kalendarPlatnostOd = rec.kalendarPlatnostOd;
+        known.stredisko = rec.stredisko;
+        known.strediskoPopis = rec.strediskoPopis;
+        known.dovolenaZustatek = rec.dovolenaZustatek;
+    }
+
+    if (work.supervisorChanged && employmentTypeFromTPP(rec.typPracovnihoPomeru) == 1)
+        processNadOsCis(rec);
+    return written;
+}
+
+bool MHRWorker::correctVacation(const MirovaRonRecord &rec, const Reconciliation &work)
+{
+    bool loaded = false;
+    const qint64 balance = loadFundBalance(work.pid, loaded);
+    if (!loaded) {
+        qWarning("MHRWorker::doSyncRecord() - loadFundStatusAndMove3(): not loaded correctly!");
+        return false;
+    }
+
+    qint32 value = 0;
+    const bool writable = RecordCodes::vacationMove(rec.dovolenaZustatek, balance, value);
+    if (writable && value == 0)
+        return false;
+    if (writable && writeFundMove3(work.uid, value))
+        return true;
+    qWarning("MHRWorker::doSyncRecord() - funds_move type (type=3, valeu=%i) not writed for uid "
+             "%u (pid: %u)",
+             value, work.uid, work.pid);
+    return false;
+}
+
+void MHRWorker::placeOrWait(const MirovaRonRecord &rec, const Reconciliation &work)
+{
+    // A record waits until an equal one arrives. When the line changes meanwhile, the old one
+    // stays: the changed one is placed on its own account.
+    const bool waiting = m_waiting.contains(work.pid, rec);
+    if (rec.stredisko == 0 || !(m_force || work.changed || waiting))
+        return;
+    const bool placed = doSyncBranchAndCalendar(rec);
+    if (!placed && !waiting)
+        m_waiting.insert(work.pid, rec);
+    else if (placed && waiting)
+        m_waiting.remove(work.pid, rec);
+}
+
+void MHRWorker::requestRecalculation(const MirovaRonRecord &rec)
+{
+    const quint32 pid = rec.getPid();
+    const quint32 uid = getUidByPid(pid);
+    if (uid == 0) {
+        qWarning("MHRWorker: User (employee) ID NOT found for pid (Personal ID) %u [employee: "
+                 "'%s'] - lastCalc not changed (manual recalculation is needed)!",
+                 pid, qUtf8Printable(rec.getString(false)));
+        return;
+    }
+    dbChangeLastCalc(uid, RecordCodes::firstDayOfPreviousMonth(QDate::currentDate()));
+}

@@ -1,0 +1,87 @@
+// The HR export: reading the file and its lines.
+
+#include "worker/mhrworker.h"
+
+#include "worker/boundedlinereader.h"
+#include "worker/exportline.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+const QLatin1String kDefaultImportFile("/tmp/ron.data");
+
+} // namespace
+
+void MHRWorker::loadAndParseData()
+{
+    if (m_debugLevel > 1)
+        qDebug("MHRWorker::loadAndParseData() - SQL ERROR");
+    const QStringList fields = ExportLine::fieldNames();
+    if (m_debugLevel > 2) {
+        qDebug("MHRWorker::loadAndParseData() - fields: %s",
+               qUtf8Printable(fields.join(QStringLiteral(", "))));
+    }
+
+    const QString path = m_importFile.isEmpty() ? QString(kDefaultImportFile) : m_importFile;
+    const QFileInfo info(path);
+    if (m_debugLevel > 2) {
+        qInfo("MHRWorker::loadAndParseData() - loading data from file: '%s'",
+              qUtf8Printable(info.absoluteFilePath()));
+    }
+    if (!info.isFile()) {
+        if (m_debugLevel >= 2) {
+            qWarning("MHRWorker::loadAndParseData() - file '%s' NOT found!", qUtf8Printable(path));
+        }
+        return;
+    }
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCritical("MHRWorker::loadAndParseData() - file '%s' not opened!", qUtf8Printable(path));
+        return;
+    }
+    parseLines(file, fields);
+    file.close();
+
+    if (m_deleteFileAfterImport && !file.remove())
+        qWarning("MHRWorker::loadAndParseData() - file '%s' NOT removed!", qUtf8Printable(path));
+}
+
+void MHRWorker::parseLines(QIODevice &file, const QStringList &fields)
+{
+    BoundedLineReader reader(file);
+    while (reader.next()) {
+        // Decoding ends at the first NUL byte of the line.
+        const QString line = QString::fromUtf8(reader.line()).trimmed();
+        if (!line.isEmpty())
+            parseLine(line, fields, QLatin1Char('|'));
+    }
+}
+
+void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar separator)
+{
+    if (m_debugLevel > 2)
+        qDebug("MHRWorker::parseLine('%s')", qUtf8Printable(line));
+
+    const QStringList parts = line.split(separator, Qt::KeepEmptyParts, Qt::CaseSensitive);
+    if (parts.size() != fields.size()) {
+        if (m_debugLevel > 2) {
+            qWarning("MHRWorker::parseLine() - parts count (%i) <> fields count(%i) - line "
+                     "skipped!",
+                     parts.size(), fields.size());
+        }
+        return;
+    }
+
+    const MirovaRonRecord record = ExportLine::toRecord(parts);
+    if (ExportLine::isUsable(record))
+        m_records.append(record);
+}
+
+QDate MHRWorker::parseDate(const QString &text, const QString &format)
+{
+    return ExportLine::parseDate(text, format);
+}

@@ -1,0 +1,115 @@
+// What a synchronised person means to others: the payroll export and the attendance terminals.
+
+#include "worker/mhrworker.h"
+
+#include "db/sqlstatement.h"
+#include "db/tepdbsettings.h"
+#include "worker/sqlreport.h"
+
+#include <QDebug>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+namespace {
+
+const QLatin1String kActiveExports("exportPam.%.active");
+
+const QLatin1String kSelectUidForPam("SELECT uid FROM people WHERE pid=%1");
+
+const QLatin1String kInsertIntoPam("INSERT INTO people_pam (uid, id) VALUES(%1, %2)");
+const QLatin1String kOnDuplicatePam(" ON DUPLICATE KEY UPDATE id=VALUES(id)");
+
+const QLatin1String kSelectUidForTerminals("SELECT uid FROM people WHERE pid=%1 LIMIT 1");
+
+const QLatin1String kQueuePerson(
+    "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags) SELECT `tid` tid, "
+    "'%1' type, '%2' ref, 'uid' ref_col, %3 ref_id, UNIX_TIMESTAMP() created, 2 flags FROM "
+    "people_term JOIN term USING(tid) WHERE status = 1 AND uid = %3 AND (flags & 2);");
+
+const QLatin1String kMarkTerminals("CALL updateTermsSync(%1, 2);");
+
+/// The uid that the statement finds, 0 when it fails or finds none. The caller reports it.
+quint32 findUid(const QSqlDatabase &db, const QString &sql)
+{
+    QSqlQuery query(db);
+    return query.exec(sql) ? SqlReport::nextNumber(query) : 0;
+}
+
+} // namespace
+
+bool MHRWorker::addPersonIntoPam(unsigned int pid)
+{
+    if (m_debugLevel >= 2)
+        qDebug("MHRWorker::addPersonIntoPam(%u)", pid);
+    if (pid == 0)
+        return false;
+
+    // With none, or with several, nobody knows which one the person belongs to.
+    const QStringList exports = m_settings->variableGetMultiple(QString(kActiveExports)).keys();
+    if (exports.size() != 1)
+        return false;
+
+    QString selectionKey = exports.first();
+    selectionKey.replace(QLatin1String("active"), QLatin1String("selPeople"));
+    QStringList selection = m_settings->variableGet(selectionKey, QVariant())
+                                .toString()
+                                .split(QLatin1Char(','), Qt::SkipEmptyParts);
+    const QString entry = QString::number(pid);
+    if (selection.contains(entry))
+        return true;
+    selection.append(entry);
+    return m_settings->variableSet(selectionKey, selection.join(QLatin1Char(',')));
+}
+
+bool MHRWorker::dbAddPersonIntoPam(unsigned int pid, unsigned int pamSettingsID)
+{
+    if (m_debugLevel >= 1)
+        qDebug("MHRWorker::dbAddPersonIntoPam(pid: %u, pamSettingsID: %u)", pid, pamSettingsID);
+    if (m_testMode) {
+        if (m_debugLevel >= 1) {
+            qWarning("MHRWorker::dbAddPersonIntoPam(pid: %u, pamSettingsID: %u) - Testing mode is "
+                     "active, person not really add into PaM!",
+                     pid, pamSettingsID);
+        }
+        return true;
+    }
+
+    const quint32 uid = findUid(m_db, QString(kSelectUidForPam).arg(pid));
+    if (uid == 0) {
+        if (m_debugLevel >= 1) {
+            qWarning("MHRWorker::dbAddPersonIntoPam(pid: %u, pamSettingsID: %u) - Unique person "
+                     "ID ([people].uid) not found!",
+                     pid, pamSettingsID);
+        }
+        return false;
+    }
+
+    QSqlQuery query(m_db);
+    if (!query.exec(QString(kInsertIntoPam).arg(uid).arg(pamSettingsID) + kOnDuplicatePam)) {
+        qCritical("MHRWorker::dbAddPersonIntoPam(pid: %u, pamSettingsID: %u) - SQL ERROR: %s", pid,
+                  pamSettingsID, qUtf8Printable(query.lastError().text()));
+        return false;
+    }
+    return query.lastInsertId().toLongLong() >= 1 || query.numRowsAffected() > 0;
+}
+
+void MHRWorker::addTermSyncPerson(unsigned int pid, QChar type, const QString &ref)
+{
+    if (m_debugLevel >= 2) {
+        qDebug("MHRWorker::addTermSyncPerson(%u, %s, %s)", pid, qUtf8Printable(QString(type)),
+               qUtf8Printable(ref));
+    }
+    const quint32 uid = findUid(m_db, QString(kSelectUidForTerminals).arg(pid));
+    if (uid == 0) {
+        qWarning("MHRWorker::addTermSyncPerson(%u) - uid NOT selected from DB!", pid);
+        return;
+    }
+
+    const QSqlQuery queued =
+        SqlStatement::run(m_db, QString(kQueuePerson).arg(type).arg(ref).arg(uid));
+    if (SqlStatement::failed(queued, "MHRWorker::addTermSyncPerson() ERROR:"))
+        return;
+    const QSqlQuery marked = SqlStatement::runAll(m_db, QString(kMarkTerminals).arg(uid));
+    SqlStatement::failed(marked, "MHRWorker::addTermSyncPerson() - updateTermsSync() ERROR:");
+}

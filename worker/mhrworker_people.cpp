@@ -1,0 +1,229 @@
+// The people table: loading, finding, creating and updating persons.
+
+#include "worker/mhrworker.h"
+
+#include "worker/recordcodes.h"
+#include "worker/sqlreport.h"
+
+#include <QDebug>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+namespace {
+
+const QLatin1String kSelectPeople(
+    "SELECT p.pid, p.pamId, p.title, p.name, p.surname, p.title2, p.phone, p.begin, p.end, "
+    "p.rsBegin, p.rsEnd, p.rsText, p.calendarID, b.number FROM people p LEFT JOIN branches b "
+    "USING(bid) WHERE p.status;");
+
+const QLatin1String kSelectUid("SELECT uid FROM people WHERE pid = %1 LIMIT 1;");
+
+const QLatin1String kCountPid("SELECT COUNT(*) FROM people WHERE pid = %1;");
+
+// A person who comes back keeps the relationship state, calendar and branch of the old row, and
+// goes to department 1: the row's owner is then set by hand.
+const QLatin1String kInsertPerson(
+    "INSERT INTO people (pid, pamId, title, name, surname, title2, phone, begin, end, created, "
+    "rsBegin, rsEnd, rsText, type, did, calendarID, bid) VALUES('%1', '%2', '%3', '%4', '%5', "
+    "'%6', '%7', %8, %9, UNIX_TIMESTAMP(), %10, %11, '%12', %13, %14, %15, %16) ON DUPLICATE KEY "
+    "UPDATE pamId=VALUES(pamId), title=VALUES(title), name=VALUES(name), surname=VALUES(surname), "
+    "title2=VALUES(title2), phone=VALUES(phone), begin=VALUES(begin), end=VALUES(end), "
+    "edited=VALUES(created), status=1, type=VALUES(type), did=1");
+
+const QLatin1String kUpdatePersonAndLastCalc(
+    "UPDATE people SET pamId=%1, title='%2', name='%3', surname='%4', title2='%5', phone='%6', "
+    "begin=%7, end=%8, edited=UNIX_TIMESTAMP(), editor=0, rsBegin=%10, rsEnd=%11, rsText='%12', "
+    "lastCalc=%13, type=%14, did=%15, calendarID=%16, bid=%17 WHERE pid=%9");
+
+const QLatin1String kUpdatePerson(
+    "UPDATE people SET pamId=%1, title='%2', name='%3', surname='%4', title2='%5', phone='%6', "
+    "begin=%7, end=%8, edited=UNIX_TIMESTAMP(), editor=0, rsBegin=%10, rsEnd=%11, rsText='%12', "
+    "type=%13, did=%14, calendarID=%15, bid=%16  WHERE pid=%9");
+
+/// Personal number and relationship of a payroll id such as "1234.2".
+void setPayrollId(MirovaRonRecord &record, const QString &payrollId)
+{
+    const QStringList parts = payrollId.split(QLatin1Char('.'), Qt::KeepEmptyParts);
+    record.osobniCislo = parts.first().toUInt();
+    record.poradoveCisloPP = parts.value(1).toUInt();
+}
+
+/// The database's view of a person. The pid column is not read: the key of a person is the pid that
+/// the payroll id makes, which is what the export's records are looked up by.
+MirovaRonRecord personFromRow(const QSqlQuery &row)
+{
+    MirovaRonRecord person;
+    setPayrollId(person, row.value(1).toString());
+    person.titul = row.value(2).toString();
+    person.jmeno = row.value(3).toString();
+    person.prijmeni = row.value(4).toString();
+    person.titulZa = row.value(5).toString();
+    person.telefon = row.value(6).toString();
+    person.datumNastupu = RecordCodes::datNastFromTimestamp(row.value(7).toUInt());
+    person.datumVystupu = RecordCodes::datVystFromTimestamp(row.value(8).toUInt());
+    person.rsFrom = RecordCodes::datVystFromTimestamp(row.value(9).toUInt());
+    person.rsTo = RecordCodes::datVystFromTimestamp(row.value(10).toUInt());
+    person.rsText = row.value(11).toString();
+    person.kalendar = row.value(12).toUInt();
+    person.stredisko = row.value(13).toUInt();
+    return person;
+}
+
+} // namespace
+
+bool MHRWorker::dbLoadPeople()
+{
+    if (m_debugLevel >= 2)
+        qDebug("MHRWorker::dbLoadPeople() - SQL ERROR");
+    QSqlQuery query(m_db);
+    if (!SqlReport::exec(query, kSelectPeople, "MHRWorker::dbLoadPeople() - SQL ERROR"))
+        return false;
+    m_people.clear();
+    while (query.next()) {
+        const MirovaRonRecord person = personFromRow(query);
+        m_people.insert(person.getPid(), person);
+    }
+    return true;
+}
+
+uint MHRWorker::dbGetUidByPid(uint pid) const
+{
+    if (m_debugLevel >= 2)
+        qDebug("MHRWorker::dbGetUidByPid(%u)", pid);
+    QSqlQuery query(m_db);
+    if (!SqlReport::exec(query, QString(kSelectUid).arg(pid),
+                         "MHRWorker::dbGetUidByPid() - SQL ERROR"))
+        return 0;
+    return SqlReport::nextNumber(query);
+}
+
+uint MHRWorker::getUidByPid(uint pid) const
+{
+    // One cache for all workers of the process, without a lock: only one worker runs at a time.
+    static QHash<uint, uint> uids;
+    const uint cached = uids.value(pid);
+    if (cached != 0)
+        return cached;
+    const uint uid = dbGetUidByPid(pid);
+    if (uid != 0)
+        uids.insert(pid, uid);
+    return uid;
+}
+
+bool MHRWorker::dbCheckPerson(const MirovaRonRecord &rec)
+{
+    if (m_debugLevel >= 2)
+        qDebug("MHRWorker::dbCheckPerson(%s)", qUtf8Printable(rec.getPamId()));
+    QSqlQuery query(m_db);
+    if (!SqlReport::exec(query, QString(kCountPid).arg(rec.getPid()),
+                         "MHRWorker::dbCheckPerson() - SQL ERROR"))
+        return false;
+    return SqlReport::nextNumber(query) > 0;
+}
+
+bool MHRWorker::dbAddPerson(const MirovaRonRecord &rec)
+{
+    const QString payrollId = rec.getPamId();
+    if (m_debugLevel != 0)
+        qDebug("MHRWorker::dbAddPerson(%s)", qUtf8Printable(payrollId));
+    if (m_testMode) {
+        if (m_debugLevel != 0) {
+            qWarning("MHRWorker::dbAddPerson(%s) - Testing mode is active, person not really add!",
+                     qUtf8Printable(payrollId));
+        }
+        return true;
+    }
+
+    const QString sql = QString(kInsertPerson)
+                            .arg(rec.getPid())
+                            .arg(payrollId)
+                            .arg(rec.titul)
+                            .arg(rec.jmeno)
+                            .arg(rec.prijmeni)
+                            .arg(rec.titulZa)
+                            .arg(rec.telefon)
+                            .arg(personBeginForSql(rec.datumNastupu))
+                            .arg(personEndForSql(rec.datumVystupu, true))
+                            .arg(personEndForSql(rec.rsFrom, false))
+                            .arg(personEndForSql(rec.rsTo, false))
+                            .arg(rec.rsText)
+                            .arg(employmentTypeFromTPP(rec.typPracovnihoPomeru))
+                            .arg(departmentIdForSql())
+                            .arg(rec.kalendar)
+                            .arg(branchIdForSql(rec.stredisko));
+    QSqlQuery query(m_db);
+    if (!query.exec(sql)) {
+        qCritical("MHRWorker::dbAddPerson(%s) - SQL ERROR: %s", qUtf8Printable(payrollId),
+                  qUtf8Printable(query.lastError().text()));
+        return false;
+    }
+
+    const bool added = query.lastInsertId().toLongLong() > 0 || query.numRowsAffected() > 0;
+    if (!addPersonIntoPam(rec.getPid())) {
+        qWarning("MHRWorker::dbAddPerson(%s) - addPersonIntoPam() FAILED!",
+                 qUtf8Printable(payrollId));
+    }
+    return added;
+}
+
+bool MHRWorker::dbUpdatePerson(const MirovaRonRecord &rec, bool esChanged)
+{
+    const QString payrollId = rec.getPamId();
+    if (m_debugLevel != 0)
+        qDebug("MHRWorker::dbUpdatePerson(%s)", qUtf8Printable(payrollId));
+    if (m_testMode) {
+        if (m_debugLevel != 0) {
+            qWarning("MHRWorker::dbUpdatePerson(%s) - Testing mode is active, person not really "
+                     "update!",
+                     qUtf8Printable(payrollId));
+        }
+        return true;
+    }
+
+    QSqlQuery query(m_db);
+    if (!query.exec(updateStatement(rec, esChanged))) {
+        qCritical("MHRWorker::dbUpdatePerson(%s) - SQL ERROR: %s", qUtf8Printable(payrollId),
+                  qUtf8Printable(query.lastError().text()));
+        return false;
+    }
+    if (query.numRowsAffected() > 0)
+        addTermSyncPerson(rec.getPid(), QLatin1Char('U'), QStringLiteral("people"));
+    return true;
+}
+
+QString MHRWorker::updateStatement(const MirovaRonRecord &rec, bool esChanged) const
+{
+    // A new relationship state moves the last calculation back to the day before its first one.
+    const bool recalculate = esChanged && rec.rsFrom.isValid();
+    QString sql = QString(recalculate ? kUpdatePersonAndLastCalc : kUpdatePerson)
+                      .arg(rec.getPamId())
+                      .arg(rec.titul)
+                      .arg(rec.jmeno)
+                      .arg(rec.prijmeni)
+                      .arg(rec.titulZa)
+                      .arg(rec.telefon)
+                      .arg(personBeginForSql(rec.datumNastupu))
+                      .arg(personEndForSql(rec.datumVystupu, true))
+                      .arg(rec.getPid())
+                      .arg(personEndForSql(rec.rsFrom, false))
+                      .arg(personEndForSql(rec.rsTo, false))
+                      .arg(rec.rsText);
+    if (recalculate)
+        sql = sql.arg(RecordCodes::midnight32(rec.rsFrom.addDays(-1)));
+    return sql.arg(employmentTypeFromTPP(rec.typPracovnihoPomeru))
+        .arg(departmentIdForSql())
+        .arg(rec.kalendar)
+        .arg(branchIdForSql(rec.stredisko));
+}
+
+QString MHRWorker::departmentIdForSql() const
+{
+    return m_departmentId != 0 ? QString::number(m_departmentId) : QStringLiteral("NULL");
+}
+
+QString MHRWorker::branchIdForSql(quint32 number) const
+{
+    const quint32 bid = m_branchIds.value(number);
+    return bid != 0 ? QString::number(bid) : QStringLiteral("NULL");
+}
