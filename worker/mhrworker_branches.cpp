@@ -36,7 +36,7 @@ const QLatin1String
 bool MHRWorker::dbLoadBranches()
 {
     if (m_debugLevel >= 2)
-        qDebug("MHRWorker::dbLoadBranches() - SQL ERROR");
+        qDebug("MHRWorker::dbLoadBranches()");
     m_branchIds.clear();
     QSqlQuery query(m_db);
     if (!SqlReport::exec(query, kSelectBranches, "MHRWorker::dbLoadBranches() - SQL ERROR"))

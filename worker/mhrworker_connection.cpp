@@ -9,7 +9,7 @@
 bool MHRWorker::dbCheckOpen()
 {
     if (m_debugLevel > 1)
-        qDebug("MHRWorker::dbCheckOpen() - SQL ERROR");
+        qDebug("MHRWorker::dbCheckOpen()");
     const QMutexLocker lock(&m_dbMutex);
     if (m_db.isOpen() || m_db.open())
         return true;
@@ -21,7 +21,7 @@ void MHRWorker::dbClose()
 {
     // The text of dbCheckOpen(), which marks the open and the close of every tick alike.
     if (m_debugLevel > 1)
-        qDebug("MHRWorker::dbCheckOpen() - SQL ERROR");
+        qDebug("MHRWorker::dbCheckOpen()");
     const QMutexLocker lock(&m_dbMutex);
     if (m_db.isOpen())
         m_db.close();

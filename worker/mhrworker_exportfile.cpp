@@ -18,7 +18,7 @@ const QLatin1String kDefaultImportFile("/tmp/ron.data");
 void MHRWorker::loadAndParseData()
 {
     if (m_debugLevel > 1)
-        qDebug("MHRWorker::loadAndParseData() - SQL ERROR");
+        qDebug("MHRWorker::loadAndParseData()");
     const QStringList fields = ExportLine::fieldNames();
     if (m_debugLevel > 2) {
         qDebug("MHRWorker::loadAndParseData() - fields: %s",

@@ -60,7 +60,7 @@ int saturated(qint64 value)
 void MHRWorker::dbCheckDovolenkaFond(unsigned short iid)
 {
     if (m_debugLevel >= 2)
-        qDebug("MHRWorker::checkDovolenkaFond() - SQL ERROR");
+        qDebug("MHRWorker::checkDovolenkaFond()");
     QSqlQuery query(m_db);
     if (SqlReport::exec(query, QString(kSelectFund).arg(iid),
                         "MHRWorker::checkDovolenkaFond() - SQL ERROR")

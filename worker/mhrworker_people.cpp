@@ -75,7 +75,7 @@ MirovaRonRecord personFromRow(const QSqlQuery &row)
 bool MHRWorker::dbLoadPeople()
 {
     if (m_debugLevel >= 2)
-        qDebug("MHRWorker::dbLoadPeople() - SQL ERROR");
+        qDebug("MHRWorker::dbLoadPeople()");
     QSqlQuery query(m_db);
     if (!SqlReport::exec(query, kSelectPeople, "MHRWorker::dbLoadPeople() - SQL ERROR"))
         return false;
