@@ -1,0 +1,137 @@
+#include "db/groupsplanrepo.h"
+
+#include "db/sqlstatement.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+namespace {
+
+constexpr QLatin1String
+    kAdd("INSERT INTO groups_plan (gid, uid, since) VALUES(%1, %2, %3)"
+         " ON DUPLICATE KEY UPDATE gid=VALUES(gid), uid=VALUES(uid), since=VALUES(since);");
+constexpr QLatin1String kDel("DELETE FROM groups_plan WHERE gid = %1 AND uid = %2 AND since = %3");
+constexpr QLatin1String kUpdateGroupsMonth(
+    "INSERT INTO groups_month  (gid, uid, month)"
+    " SELECT getCurrentGid(p.uid, monthFromTimestamp(a.date), p.gid) gid, a.uid,"
+    " monthFromTimestamp(a.date) month  FROM atten a LEFT JOIN people p USING(uid)"
+    " WHERE a.uid=%1 AND monthFromTimestamp(a.date) >= %2 GROUP BY monthFromTimestamp(a.date)"
+    " HAVING gid IS NOT NULL"
+    " ON DUPLICATE KEY UPDATE gid=VALUES(gid), uid=VALUES(uid), month=VALUES(month);");
+constexpr QLatin1String kPlanOfPerson("WHERE uid = %1 ");
+constexpr QLatin1String kBegunByMonth("AND since <= %1");
+constexpr QLatin1String kBegunByNow("AND since <= DATE_FORMAT(NOW(), '%Y%m')");
+constexpr QLatin1String kSelectPlan("SELECT gid FROM groups_plan ");
+constexpr QLatin1String kLatestFirst(" ORDER BY since DESC LIMIT 1");
+constexpr QLatin1String kSelectDefault("SELECT gid FROM people WHERE uid = %1");
+
+bool failed(const QSqlQuery &query, const char *operation)
+{
+    const QSqlError error = query.lastError();
+    if (!error.isValid())
+        return false;
+    qCritical("%s - ERROR[%i]: %s", operation, error.nativeErrorCode().toInt(),
+              qUtf8Printable(error.text()));
+    return true;
+}
+
+QString planStatement(unsigned int uid, unsigned int month)
+{
+    QString condition = QString(kPlanOfPerson).arg(uid);
+    condition += month != 0 ? QString(kBegunByMonth).arg(month) : QString(kBegunByNow);
+    return kSelectPlan + condition + kLatestFirst;
+}
+
+unsigned int firstId(QSqlQuery &query)
+{
+    return query.next() ? query.value(0).toUInt() : 0;
+}
+
+} // namespace
+
+GroupsPlanRepo::GroupsPlanRepo(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void GroupsPlanRepo::setDB(const QSqlDatabase &db)
+{
+    m_db = db;
+}
+
+void GroupsPlanRepo::setAutoUpdateGroupsMonth(bool on)
+{
+    m_autoUpdateGroupsMonth = on;
+}
+
+bool GroupsPlanRepo::add(const GroupsPlanRecord &rec)
+{
+    return changePlan("GroupsPlanRepo::add", kAdd, rec);
+}
+
+bool GroupsPlanRepo::del(const GroupsPlanRecord &rec)
+{
+    return changePlan("GroupsPlanRepo::del", kDel, rec);
+}
+
+bool GroupsPlanRepo::updateGroupsMonth(unsigned int uid, unsigned int month)
+{
+    if (debugLevel >= 2)
+        qDebug("GroupsPlanRepo::updateGroupsMonth(%u, %u)", uid, month);
+    if (uid == 0 || month == 0)
+        return false;
+    return changesRows(QString(kUpdateGroupsMonth).arg(uid).arg(month),
+                       "GroupsPlanRepo::updateGroupsMonth");
+}
+
+unsigned int GroupsPlanRepo::getCurrentGid(unsigned int uid, unsigned int month,
+                                           bool fallbackToPeople) const
+{
+    if (uid == 0)
+        return 0;
+    QSqlQuery plan = SqlStatement::run(m_db, planStatement(uid, month));
+    if (failed(plan, "GroupsPlanRepo::getCurrentGid [groups_plan]"))
+        return 0;
+    const unsigned int gid = firstId(plan);
+    if (gid != 0 || !fallbackToPeople)
+        return gid;
+    QSqlQuery people = SqlStatement::run(m_db, QString(kSelectDefault).arg(uid));
+    if (failed(people, "GroupsPlanRepo::getCurrentGid [people]"))
+        return 0;
+    return firstId(people);
+}
+
+unsigned int GroupsPlanRepo::monthFromTimestamp(unsigned int ts)
+{
+    return monthFromDate(QDateTime::fromSecsSinceEpoch(ts).date());
+}
+
+unsigned int GroupsPlanRepo::monthFromDate(const QDate &date)
+{
+    return date.toString(QStringLiteral("yyyyMM")).toUInt();
+}
+
+bool GroupsPlanRepo::changePlan(const char *operation, QLatin1String sql,
+                                const GroupsPlanRecord &rec)
+{
+    if (debugLevel >= 2)
+        qDebug("%s(%s)", operation, qUtf8Printable(rec.getString()));
+    if (rec.gid == 0 || rec.uid == 0)
+        return false;
+    // An upsert of a row that is there already changes no row and so counts as a failure: the
+    // callers look for an identical row first.
+    if (!changesRows(QString(sql).arg(rec.gid).arg(rec.uid).arg(rec.since), operation))
+        return false;
+    if (m_autoUpdateGroupsMonth)
+        updateGroupsMonth(rec.uid, rec.since);
+    return true;
+}
+
+bool GroupsPlanRepo::changesRows(const QString &sql, const char *operation) const
+{
+    const QSqlQuery query = SqlStatement::run(m_db, sql);
+    return !failed(query, operation) && query.numRowsAffected() > 0;
+}
