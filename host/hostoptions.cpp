@@ -143,7 +143,7 @@ QString readOptions(const QCommandLineParser &parser, HostOptions &options)
     options.library = parser.positionalArguments().constFirst();
     options.versionInfo = parser.isSet(QStringLiteral("version-info"));
     options.once = parser.isSet(QStringLiteral("once"));
-    const QString error = readNumbers(parser, options);
+    QString error = readNumbers(parser, options);
     if (!error.isEmpty() || options.versionInfo) {
         return error;
     }

@@ -1,0 +1,57 @@
+# What the scripts beside this folder share; to be sourced by bash.
+
+project=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
+script=$(basename -- "$0")
+
+# What it takes to build the project and to run its tests and its demo.
+project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-server-core
+    mariadb-client-core util-linux)
+
+fail()
+{
+    printf '%s: %s\n' "$script" "$*" >&2
+    exit 1
+}
+
+# quietly COMMAND...: shows what COMMAND prints only when it fails.
+quietly()
+{
+    local output
+    output=$("$@" 2>&1 </dev/null) && return
+    printf '%s\n' "$output" >&2
+    return 1
+}
+
+is_installed()
+{
+    [[ $(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
+}
+
+# install_missing PACKAGE...: installs those Debian packages that are not there yet.
+install_missing()
+{
+    local package missing=() as_root=()
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    (( ${#missing[@]} > 0 )) || return 0
+
+    if (( EUID != 0 )); then
+        [[ -n $(command -v sudo) ]] || fail "please have these packages installed: ${missing[*]}"
+        as_root=(sudo)
+    fi
+    printf 'Installing %s ...\n' "${missing[*]}"
+    quietly "${as_root[@]}" apt-get -qq update \
+        && quietly "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get -qq install --no-install-recommends "${missing[@]}" \
+        || fail "these packages could not be installed: ${missing[*]}"
+}
+
+# build PRESET: configures and builds the project in build/PRESET.
+build()
+{
+    printf 'Building the project (%s) ...\n' "$1"
+    cd -- "$project" || fail "cannot enter $project"
+    quietly cmake --preset "$1" && quietly cmake --build --preset "$1" \
+        || fail "the project could not be built"
+}
