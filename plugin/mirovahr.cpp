@@ -8,7 +8,7 @@
 
 namespace {
 
-const auto kIniPath = QLatin1String("/etc/yav/MirovaHR.ini");
+constexpr QLatin1String kIniPath("/etc/yav/MirovaHR.ini");
 
 } // namespace
 

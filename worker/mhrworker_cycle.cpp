@@ -9,7 +9,7 @@
 
 namespace {
 
-const QLatin1String kForceSyncKey("YAV.MHRWorker.forceSync");
+constexpr QLatin1String kForceSyncKey("YAV.MHRWorker.forceSync");
 
 } // namespace
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-const QLatin1String kDefaultImportFile("/tmp/ron.data");
+constexpr QLatin1String kDefaultImportFile("/tmp/ron.data");
 
 } // namespace
 
