@@ -3,12 +3,12 @@
 #include "plugin/interfaces/serverinterface.h"
 #include "plugin/interfaces/verinfointerface.h"
 
-#include <QHash>
 #include <QObject>
 #include <QThread>
 
 class MHRWorker;
 class QSettings;
+struct Configuration;
 
 /// The plugin object that the attendance server loads and drives.
 ///
@@ -52,9 +52,7 @@ public Q_SLOTS:
     bool init();
 
 private:
-    void createWorker();
-    void configureWorker();
-    QHash<unsigned short, QString> readMessageTable();
+    void createWorker(const Configuration &config);
 
     QSettings *m_settings;
     bool m_initialized = false;

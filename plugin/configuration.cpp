@@ -1,0 +1,49 @@
+#include "plugin/configuration.h"
+
+#include <QSettings>
+
+namespace {
+
+QHash<unsigned short, QString> readMessages(QSettings &settings)
+{
+    QHash<unsigned short, QString> messages;
+    settings.beginGroup(QStringLiteral("MES"));
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys) {
+        // The low 16 bits of the number; a key that is no number is 0. A later key wins.
+        const auto code = static_cast<unsigned short>(key.toUInt(nullptr, 10));
+        messages[code] = QString::fromUtf8(settings.value(key).toByteArray());
+    }
+    settings.endGroup();
+    return messages;
+}
+
+} // namespace
+
+Configuration Configuration::read(QSettings &settings)
+{
+    const auto number = [&settings](const char *key, unsigned int fallback) {
+        return settings.value(QLatin1String(key), fallback).toUInt();
+    };
+    const auto flag = [&settings](const char *key, bool fallback) {
+        return settings.value(QLatin1String(key), fallback).toBool();
+    };
+    const auto text = [&settings](const char *key) {
+        return settings.value(QLatin1String(key)).toString();
+    };
+
+    Configuration config;
+    config.enabled = flag("enabled", config.enabled);
+    // In 32 bits: a period above 4294967 s wraps, and always has.
+    config.tickMilliseconds = number("timerInterval", 60) * 1000U;
+    config.syncInterval = number("syncInterval", config.syncInterval);
+    config.testMode = flag("testMode", config.testMode);
+    config.importFile = text("importFile");
+    config.deleteFile = flag("deleteFile", config.deleteFile);
+    config.syncCommand = text("syncCommand");
+    // In 8 bits: 257 means 1.
+    config.syncCommandRun = static_cast<unsigned char>(number("syncCommandRun", 0));
+    config.departmentId = number("departmentId", config.departmentId);
+    config.messages = readMessages(settings);
+    return config;
+}

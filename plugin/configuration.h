@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+class QSettings;
+
+/// What the INI file puts in force. A key that is missing has its default.
+///
+/// Numbers and booleans are read as QVariant converts the text: what is no number is 0, and of
+/// booleans only an empty value, "0" and "false" are false. A text with an unquoted comma is a list
+/// to QSettings and reads as empty.
+struct Configuration {
+    bool enabled = true; ///< `enabled`: whether the plugin works at all
+    unsigned int tickMilliseconds = 60000; ///< `timerInterval` in seconds, times 1000 in 32 bits
+    unsigned int syncInterval = 60; ///< `syncInterval`: ticks between regular synchronisations
+    bool testMode = false; ///< `testMode`: people are only logged, not written
+    QString importFile; ///< `importFile`: path of the HR export, empty for the default
+    bool deleteFile = true; ///< `deleteFile`: remove the export after it was read
+    QString syncCommand; ///< `syncCommand`: command line that writes the export
+    unsigned char syncCommandRun = 0; ///< `syncCommandRun`, low 8 bits: 0 never, 1 forced, 2 always
+    unsigned int departmentId = 1; ///< `departmentId`: `people.did`, 0 for none
+    QHash<unsigned short, QString> messages; ///< group `MES`: register state code to text
+
+    static Configuration read(QSettings &settings);
+};
