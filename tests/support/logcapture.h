@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+#include <QtGlobal>
+
+class QThread;
+
+/// One message of the Qt log.
+struct LogMessage {
+    QtMsgType type = QtDebugMsg;
+    QString category; ///< "default" unless the code names another
+    QString text;
+    Qt::HANDLE threadId = nullptr; ///< of the thread that logged it
+};
+
+/// Takes the messages of the Qt log, of all threads, from its construction to its destruction.
+///
+/// Lines have the form "D text", "I text", "W text" or "C text": debug, info, warning, critical.
+/// Nothing is printed meanwhile. Captures may be nested; only the innermost receives messages.
+///
+/// The wait functions look at every line since the construction or the last clear(), those already
+/// there included, and block the calling thread without running its event loop: what they wait for
+/// must happen in another thread.
+class LogCapture {
+public:
+    static constexpr int kPatienceMs = 30000;
+
+    LogCapture();
+    ~LogCapture();
+    LogCapture(const LogCapture &) = delete;
+    LogCapture &operator=(const LogCapture &) = delete;
+
+    QStringList lines() const;
+    QVector<LogMessage> messages() const;
+    int count(const QString &line) const;
+    bool contains(const QString &line) const { return count(line) > 0; }
+    void clear();
+
+    /// Waits until this very line is there.
+    bool waitForLine(const QString &line, int timeoutMs = kPatienceMs) const;
+    /// Waits until this very line is there \a times times.
+    bool waitForCount(const QString &line, int times, int timeoutMs = kPatienceMs) const;
+    /// Waits until a line contains \a part.
+    bool waitForText(const QString &part, int timeoutMs = kPatienceMs) const;
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text);
+
+    QVector<LogMessage> m_messages;
+    LogCapture *m_outer;
+    QtMessageHandler m_outerHandler;
+};
