@@ -47,11 +47,15 @@ install_missing()
         || fail "these packages could not be installed: ${missing[*]}"
 }
 
-# build PRESET: configures and builds the project in build/PRESET.
+# build PRESET [TARGET...]: configures the project in build/PRESET and builds all of it or the targets.
+# Leaves the caller in the project's folder.
 build()
 {
-    printf 'Building the project (%s) ...\n' "$1"
+    local preset=$1
+    shift
+    printf 'Building (%s) ...\n' "$preset"
     cd -- "$project" || fail "cannot enter $project"
-    quietly cmake --preset "$1" && quietly cmake --build --preset "$1" \
+    quietly cmake --preset "$preset" \
+        && quietly cmake --build --preset "$preset" ${1:+--target "$@"} \
         || fail "the project could not be built"
 }
