@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What the scripts beside this folder share; to be sourced by bash.
 
 project=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
