@@ -54,6 +54,7 @@ QStringList storageOptions()
             QStringLiteral("--innodb-flush-log-at-trx-commit=0"),
             QStringLiteral("--innodb-flush-method=nosync"),
             QStringLiteral("--innodb-doublewrite=0"),
+            QStringLiteral("--innodb-file-per-table=0"),
             QStringLiteral("--innodb-use-native-aio=0"),
             QStringLiteral("--aria-pagecache-buffer-size=8M"),
             QStringLiteral("--key-buffer-size=1M")};
