@@ -29,30 +29,28 @@ enum Field {
     NadrizenyOsobniCislo
 };
 
-/// Reads fixed-width decimal numbers out of a text.
-class Digits {
-public:
-    explicit Digits(const QString &text)
-        : m_text(text)
-    {
-    }
+/// The number that `count` ASCII digits at `from` make.
+int numberAt(const QString &text, int from, int count)
+{
+    int number = 0;
+    for (int i = from; i < from + count; ++i)
+        number = number * 10 + (text.at(i).unicode() - u'0');
+    return number;
+}
 
-    /// The number of `count` digits at `from`, -1 when one of them is no ASCII digit.
-    int at(int from, int count) const
-    {
-        int number = 0;
-        for (int i = from; i < from + count; ++i) {
-            const ushort digit = static_cast<ushort>(m_text.at(i).unicode() - u'0');
-            if (digit > 9)
-                return -1;
-            number = number * 10 + digit;
-        }
-        return number;
+/// True when the text has the shape to the letter, with an ASCII digit for each "#".
+bool hasShape(const QString &text, QLatin1String shape)
+{
+    if (text.size() != shape.size())
+        return false;
+    for (int i = 0; i < shape.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool digit = c >= QLatin1Char('0') && c <= QLatin1Char('9');
+        if (shape.at(i) == QLatin1Char('#') ? !digit : c != shape.at(i))
+            return false;
     }
-
-private:
-    const QString &m_text;
-};
+    return true;
+}
 
 /// The date of a text that has the export's form to the letter, an invalid date for any other.
 ///
@@ -61,16 +59,11 @@ private:
 /// Qt's parser does with a format.
 QDate wellFormedDate(const QString &text)
 {
-    static const QLatin1String shape("####-##-## ##:##:##.###");
-    if (text.size() != shape.size())
+    if (!hasShape(text, QLatin1String("####-##-## ##:##:##.###")))
         return QDate();
-    for (int i = 0; i < shape.size(); ++i) {
-        if (shape.at(i) != QLatin1Char('#') && text.at(i) != shape.at(i))
-            return QDate();
-    }
-    const Digits digits(text);
-    const QDate date(digits.at(0, 4), digits.at(5, 2), digits.at(8, 2));
-    const QTime time(digits.at(11, 2), digits.at(14, 2), digits.at(17, 2), digits.at(20, 3));
+    const QDate date(numberAt(text, 0, 4), numberAt(text, 5, 2), numberAt(text, 8, 2));
+    const QTime time(numberAt(text, 11, 2), numberAt(text, 14, 2), numberAt(text, 17, 2),
+                     numberAt(text, 20, 3));
     return time.isValid() ? date : QDate();
 }
 
