@@ -1,18 +1,9 @@
 #pragma once
 
+#include "cli/databaseoptions.h"
+
 #include <QString>
 #include <QStringList>
-
-/// How to reach the attendance database.
-struct DatabaseOptions {
-    QString host; ///< empty when a socket is used
-    int port = 0; ///< 0: the server's usual port
-    QString socket; ///< path of a UNIX socket; empty when a host is used
-    QString name;
-    QString user;
-    QString password;
-    QString connectOptions; ///< as QSqlDatabase::setConnectOptions takes them
-};
 
 /// What the command line asks for.
 struct HostOptions {

@@ -12,7 +12,7 @@ HostSession::HostSession(const HostOptions &options)
     : m_options(options)
     , m_signals({SIGINT, SIGTERM, SIGUSR1, SIGUSR2})
     , m_log(options.debugLevel > 0, observer())
-    , m_database(options.database)
+    , m_database(options.database, QStringLiteral("yavhost"))
     , m_plugin(options.library)
 {
     QObject::connect(&m_signals, &UnixSignals::received, &m_signals,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/database.h"
+#include "cli/database.h"
 #include "host/exitstatus.h"
 #include "host/hostoptions.h"
 #include "host/logprinter.h"

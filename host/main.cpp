@@ -1,4 +1,4 @@
-#include "host/database.h"
+#include "cli/database.h"
 #include "host/hostoptions.h"
 #include "host/hostoutput.h"
 #include "host/hostsession.h"
@@ -38,9 +38,7 @@ int printVersionInfo(const QString &library)
 int runPlugin(const HostOptions &options)
 {
     if (!Database::isDriverAvailable()) {
-        return end(
-            ExitStatus::NoDatabase,
-            QStringLiteral("Qt's MySQL driver is missing: install the package libqt5sql5-mysql"));
+        return end(ExitStatus::NoDatabase, Database::missingDriverText());
     }
     HostSession session(options);
     const ExitStatus status = session.run();

@@ -1,6 +1,6 @@
-#include "host/database.h"
+#include "cli/database.h"
 
-#include "host/hostoptions.h"
+#include "cli/databaseoptions.h"
 
 #include <QSqlError>
 #include <QStringList>
@@ -8,7 +8,6 @@
 namespace {
 
 constexpr char kDriver[] = "QMYSQL";
-constexpr char kConnectionName[] = "yavhost";
 
 // "localhost" alone means the client library's default socket, so a socket is always named.
 QString connectOptions(const DatabaseOptions &options)
@@ -25,9 +24,8 @@ QString connectOptions(const DatabaseOptions &options)
 
 } // namespace
 
-Database::Database(const DatabaseOptions &options)
-    : m_connection(
-        QSqlDatabase::addDatabase(QLatin1String(kDriver), QLatin1String(kConnectionName)))
+Database::Database(const DatabaseOptions &options, const QString &connectionName)
+    : m_connection(QSqlDatabase::addDatabase(QLatin1String(kDriver), connectionName))
 {
     m_connection.setHostName(options.socket.isEmpty() ? options.host : QStringLiteral("localhost"));
     m_connection.setPort(options.port == 0 ? -1 : options.port);
@@ -39,9 +37,10 @@ Database::Database(const DatabaseOptions &options)
 
 Database::~Database()
 {
+    const QString name = m_connection.connectionName();
     m_connection.close();
     m_connection = QSqlDatabase();
-    QSqlDatabase::removeDatabase(QLatin1String(kConnectionName));
+    QSqlDatabase::removeDatabase(name);
 }
 
 bool Database::open()
@@ -62,4 +61,9 @@ QSqlDatabase Database::handle() const
 bool Database::isDriverAvailable()
 {
     return QSqlDatabase::isDriverAvailable(QLatin1String(kDriver));
+}
+
+QString Database::missingDriverText()
+{
+    return QStringLiteral("Qt's MySQL driver is missing: install the package libqt5sql5-mysql");
 }

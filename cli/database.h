@@ -5,11 +5,11 @@
 
 struct DatabaseOptions;
 
-/// The host's own connection to the attendance database, registered with Qt under a fixed name as
-/// long as this object lives.
+/// A program's own connection to the attendance database, registered with Qt as long as this object
+/// lives.
 class Database {
 public:
-    explicit Database(const DatabaseOptions &options);
+    Database(const DatabaseOptions &options, const QString &connectionName);
     ~Database();
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
@@ -20,11 +20,14 @@ public:
     /// Why open() failed, in the database's or the driver's words.
     QString errorText() const;
 
-    /// The handle to pass to a plugin. Every copy must be gone before this object is.
+    /// The handle to work with. Every copy must be gone before this object is.
     QSqlDatabase handle() const;
 
     /// Whether Qt's driver for MySQL and MariaDB is installed.
     static bool isDriverAvailable();
+
+    /// What to tell a user without it: a sentence without its full stop.
+    static QString missingDriverText();
 
 private:
     QSqlDatabase m_connection;
