@@ -117,9 +117,10 @@ void TestReferenceDb::everyTableHasTheColumnsOfTheContractAndNoOther()
 {
     QFETCH(QString, table);
     QFETCH(QStringList, columns);
-    QCOMPARE(sorted(firstColumn(m_db.rows(QStringLiteral(
-                 "SELECT column_name FROM information_schema.columns"
-                 " WHERE table_schema = DATABASE() AND table_name = '%1'").arg(table)))),
+    QCOMPARE(sorted(firstColumn(
+                 m_db.rows(QStringLiteral("SELECT column_name FROM information_schema.columns"
+                                          " WHERE table_schema = DATABASE() AND table_name = '%1'")
+                               .arg(table)))),
              sorted(columns));
 }
 
@@ -149,9 +150,9 @@ void TestReferenceDb::generatedColumnsAreFilledByTheDatabase()
         if (*table.generatedColumn == '\0')
             continue;
         ++generated;
-        QCOMPARE(m_db.value(QStringLiteral(
-                     "SELECT extra FROM information_schema.columns WHERE table_schema = DATABASE()"
-                     " AND table_name = '%1' AND column_name = '%2'")
+        QCOMPARE(m_db.value(QStringLiteral("SELECT extra FROM information_schema.columns WHERE "
+                                           "table_schema = DATABASE()"
+                                           " AND table_name = '%1' AND column_name = '%2'")
                                 .arg(table.name, table.generatedColumn))
                      .toString(),
                  QString("auto_increment"));
@@ -203,8 +204,9 @@ void TestReferenceDb::aNewPersonIsActiveAndNeedsNoMoreThanAPid()
 
 void TestReferenceDb::timestampsOfPeopleTake64BitsWithSign()
 {
-    m_db.run("INSERT INTO people (pid, begin, end, rsBegin, rsEnd, lastCalc, calc)"
-             " VALUES (1, 4294967295, 253402300799, -62135596800, 253402300799, -86400, 4294967295)");
+    m_db.run(
+        "INSERT INTO people (pid, begin, end, rsBegin, rsEnd, lastCalc, calc)"
+        " VALUES (1, 4294967295, 253402300799, -62135596800, 253402300799, -86400, 4294967295)");
     QCOMPARE(m_db.rows("SELECT begin, end, rsBegin, rsEnd, lastCalc, calc FROM people"),
              TableRows({{"4294967295", "253402300799", "-62135596800", "253402300799", "-86400",
                          "4294967295"}}));
@@ -215,7 +217,8 @@ void TestReferenceDb::theLargestUnsignedNumbersFit()
     m_db.run("INSERT INTO people (pid, pamId, did, calendarID, bid)"
              " VALUES (4294967295, '4294967295.4294967295', 4294967295, 4294967295, 4294967295)");
     m_db.run("INSERT INTO branches (number, name, mgid) VALUES (4294967295, 'b', 4294967295)");
-    m_db.run("INSERT INTO groups_plan (gid, uid, since) VALUES (4294967295, 4294967295, 4294967295)");
+    m_db.run(
+        "INSERT INTO groups_plan (gid, uid, since) VALUES (4294967295, 4294967295, 4294967295)");
     m_db.run("INSERT INTO admins (personalNumber) VALUES (4294967295)");
     QCOMPARE(m_db.value("SELECT pamId FROM people").toString(), QString("4294967295.4294967295"));
 }
@@ -242,8 +245,8 @@ void TestReferenceDb::theQueueTakesTheSameRowTwice()
                  " VALUES (1, 'U', 'people', 'uid', 4294967295, 1700000000, 2)");
         m_db.run("INSERT INTO pzt (zid, tid) VALUES (1, 1)");
     }
-    const QStringList queued
-        = {"1", "U", "people", "uid", "4294967295", "NULL", "NULL", "1700000000", "2"};
+    const QStringList queued = {"1",    "U",    "people",     "uid", "4294967295",
+                                "NULL", "NULL", "1700000000", "2"};
     QCOMPARE(m_db.rows("SELECT * FROM term_sync"), TableRows({queued, queued}));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM pzt").toInt(), 2);
 }
@@ -258,14 +261,22 @@ void TestReferenceDb::midnightBeginsTheDayOfTheTimestamp_data()
 {
     QTest::addColumn<QString>("moment");
     QTest::addColumn<QString>("midnight");
-    QTest::newRow("noon") << "2024-02-29T12:00:00" << "2024-02-29T00:00:00";
-    QTest::newRow("the midnight itself") << "2024-02-29T00:00:00" << "2024-02-29T00:00:00";
-    QTest::newRow("the last second of a day") << "2024-02-29T23:59:59" << "2024-02-29T00:00:00";
-    QTest::newRow("before the clock goes forward") << "2024-03-31T01:59:59" << "2024-03-31T00:00:00";
-    QTest::newRow("after the clock went forward") << "2024-03-31T03:00:00" << "2024-03-31T00:00:00";
-    QTest::newRow("end of the day of 23 hours") << "2024-03-31T23:59:59" << "2024-03-31T00:00:00";
-    QTest::newRow("end of the day of 25 hours") << "2024-10-27T23:59:59" << "2024-10-27T00:00:00";
-    QTest::newRow("the day after 25 hours") << "2024-10-28T00:00:00" << "2024-10-28T00:00:00";
+    QTest::newRow("noon") << "2024-02-29T12:00:00"
+                          << "2024-02-29T00:00:00";
+    QTest::newRow("the midnight itself") << "2024-02-29T00:00:00"
+                                         << "2024-02-29T00:00:00";
+    QTest::newRow("the last second of a day") << "2024-02-29T23:59:59"
+                                              << "2024-02-29T00:00:00";
+    QTest::newRow("before the clock goes forward") << "2024-03-31T01:59:59"
+                                                   << "2024-03-31T00:00:00";
+    QTest::newRow("after the clock went forward") << "2024-03-31T03:00:00"
+                                                  << "2024-03-31T00:00:00";
+    QTest::newRow("end of the day of 23 hours") << "2024-03-31T23:59:59"
+                                                << "2024-03-31T00:00:00";
+    QTest::newRow("end of the day of 25 hours") << "2024-10-27T23:59:59"
+                                                << "2024-10-27T00:00:00";
+    QTest::newRow("the day after 25 hours") << "2024-10-28T00:00:00"
+                                            << "2024-10-28T00:00:00";
 }
 
 void TestReferenceDb::midnightBeginsTheDayOfTheTimestamp()
@@ -319,12 +330,24 @@ void TestReferenceDb::theCurrentGroupIsTheLatestPlannedOneThatHasBegun_data()
     QTest::addColumn<QString>("month");
     QTest::addColumn<QString>("defaultGid");
     QTest::addColumn<QString>("gid");
-    QTest::newRow("before the first plan") << "202312" << "5" << "5";
-    QTest::newRow("before the first plan, no default") << "202312" << "NULL" << "NULL";
-    QTest::newRow("first month of the first plan") << "202401" << "5" << "11";
-    QTest::newRow("last month of the first plan") << "202405" << "5" << "11";
-    QTest::newRow("first month of the second plan") << "202406" << "NULL" << "12";
-    QTest::newRow("a year later") << "202506" << "5" << "12";
+    QTest::newRow("before the first plan") << "202312"
+                                           << "5"
+                                           << "5";
+    QTest::newRow("before the first plan, no default") << "202312"
+                                                       << "NULL"
+                                                       << "NULL";
+    QTest::newRow("first month of the first plan") << "202401"
+                                                   << "5"
+                                                   << "11";
+    QTest::newRow("last month of the first plan") << "202405"
+                                                  << "5"
+                                                  << "11";
+    QTest::newRow("first month of the second plan") << "202406"
+                                                    << "NULL"
+                                                    << "12";
+    QTest::newRow("a year later") << "202506"
+                                  << "5"
+                                  << "12";
 }
 
 void TestReferenceDb::theCurrentGroupIsTheLatestPlannedOneThatHasBegun()
@@ -345,9 +368,11 @@ void TestReferenceDb::groupsOfOtherPeopleDoNotCount()
 
 void TestReferenceDb::terminalsOfThePersonAreMarked()
 {
-    m_db.run("INSERT INTO term (tid, status, flags, syn) VALUES"
-             " (1, 1, 3, 64), (2, 1, 1, 0), (3, 0, 2, 0), (4, 2, 2, 0), (5, 1, 2, 2), (6, 1, 2, 0)");
-    m_db.run("INSERT INTO people_term (tid, uid) VALUES (1, 7), (2, 7), (3, 7), (4, 7), (5, 7), (6, 8)");
+    m_db.run(
+        "INSERT INTO term (tid, status, flags, syn) VALUES"
+        " (1, 1, 3, 64), (2, 1, 1, 0), (3, 0, 2, 0), (4, 2, 2, 0), (5, 1, 2, 2), (6, 1, 2, 0)");
+    m_db.run(
+        "INSERT INTO people_term (tid, uid) VALUES (1, 7), (2, 7), (3, 7), (4, 7), (5, 7), (6, 8)");
     m_db.run("CALL updateTermsSync(7, 2);");
     // Marked is the active terminal that holds the person and takes people; other bits stay.
     QCOMPARE(m_db.rows("SELECT tid, syn FROM term ORDER BY tid"),
@@ -379,16 +404,28 @@ void TestReferenceDb::theSampleDataLoadsInStrictModeAndShowsEveryKindOfRow()
     const DatabaseState state = m_db.dumpAll({"term_sync"}); // filled by synchronisations only
     for (auto table = state.begin(); table != state.end(); ++table)
         QVERIFY2(!table->isEmpty(), qPrintable(table.key()));
-    const QStringList kinds = {
-        "people WHERE status = 0", "people WHERE bid IS NULL", "people WHERE gid IS NULL",
-        "branches WHERE number IS NULL", "branches WHERE mgid IS NULL", "branches WHERE wh6b > 0",
-        "term WHERE status = 0", "term WHERE status = 2", "term WHERE bid IS NULL",
-        "term WHERE status = 1 AND NOT flags & 2", "term WHERE status = 1 AND flags & 64",
-        "term WHERE status = 1 AND flags & 256", "atten WHERE `lock` = 1", "atten WHERE man = 1",
-        "funds WHERE iid = 3 AND unit = 2", "funds WHERE iid = 3 AND unit <> 2",
-        "funds_move WHERE type = 3", "admins WHERE personalNumber IS NULL",
-        "admins_people WHERE request = 1", "admins_people WHERE request = 0",
-        "vars WHERE name = 'exportPam.1.active'", "vars WHERE name = 'exportPam.1.selPeople'"};
+    const QStringList kinds = {"people WHERE status = 0",
+                               "people WHERE bid IS NULL",
+                               "people WHERE gid IS NULL",
+                               "branches WHERE number IS NULL",
+                               "branches WHERE mgid IS NULL",
+                               "branches WHERE wh6b > 0",
+                               "term WHERE status = 0",
+                               "term WHERE status = 2",
+                               "term WHERE bid IS NULL",
+                               "term WHERE status = 1 AND NOT flags & 2",
+                               "term WHERE status = 1 AND flags & 64",
+                               "term WHERE status = 1 AND flags & 256",
+                               "atten WHERE `lock` = 1",
+                               "atten WHERE man = 1",
+                               "funds WHERE iid = 3 AND unit = 2",
+                               "funds WHERE iid = 3 AND unit <> 2",
+                               "funds_move WHERE type = 3",
+                               "admins WHERE personalNumber IS NULL",
+                               "admins_people WHERE request = 1",
+                               "admins_people WHERE request = 0",
+                               "vars WHERE name = 'exportPam.1.active'",
+                               "vars WHERE name = 'exportPam.1.selPeople'"};
     for (const QString &kind : kinds)
         QVERIFY2(m_db.value("SELECT COUNT(*) FROM " + kind).toInt() > 0, qPrintable(kind));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM funds WHERE iid = 3 AND unit = 2").toInt(), 1);
@@ -396,7 +433,8 @@ void TestReferenceDb::theSampleDataLoadsInStrictModeAndShowsEveryKindOfRow()
                         " OR month <> monthFromTimestamp(day)")
                  .toInt(),
              0);
-    QCOMPARE(m_db.value("SELECT COUNT(*) FROM atten WHERE date <> midnightFromTs(date)").toInt(), 0);
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM atten WHERE date <> midnightFromTs(date)").toInt(),
+             0);
 }
 
 void TestReferenceDb::theSampleDataIsTheSameEveryTime()
