@@ -151,13 +151,15 @@ private:
     QRandomGenerator m_random;
 };
 
-/// True when the zone's clocks skip this moment.
+/// True for a text of the export's form whose moment the zone's clocks skip.
 bool isSkipped(const QString &text, const QByteArray &zone)
 {
-    const QDateTime anywhere =
-        QDateTime(QDate::fromString(text.left(10), "yyyy-MM-dd"),
-                  QTime::fromString(text.mid(11), "hh:mm:ss.zzz"), QTimeZone(zone));
-    return anywhere.date().isValid() && anywhere.time().isValid() && !anywhere.isValid();
+    static const QRegularExpression form(R"(^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3}$)");
+    if (!form.match(text).hasMatch())
+        return false;
+    const QDate date = QDate::fromString(text.left(10), "yyyy-MM-dd");
+    const QTime time = QTime::fromString(text.mid(11), "hh:mm:ss.zzz");
+    return date.isValid() && time.isValid() && !QDateTime(date, time, QTimeZone(zone)).isValid();
 }
 
 /// The line of the format's example, with one part replaced.
