@@ -1,0 +1,298 @@
+#include "tests/cycle/cycletest.h"
+
+#include <QMetaEnum>
+#include <QMetaMethod>
+#include <QTimer>
+#include <QtTest>
+
+#include <limits>
+
+class TestWorkerSetup : public CycleTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theSlotsAreFourInTheirOrder();
+    void thereAreNoSignals();
+    void withoutSettingsTheTickIsAMinute();
+    void thePeriodIsAtLeastOneSecondAndAtMostWhatATimerTakes_data();
+    void thePeriodIsAtLeastOneSecondAndAtMostWhatATimerTakes();
+    void theMessageTableIsLoggedByItsSize();
+    void theConnectionIsNamedAfterTheDatabase_data();
+    void theConnectionIsNamedAfterTheDatabase();
+    void theConnectionIsClonedAndNotYetOpened();
+    void anExistingConnectionIsTakenUpAndOpened();
+    void aNewDatabaseReachesTheSettingsAndTheBranches();
+    void theConnectionOutlivesTheWorker();
+    void startLogsAndStopLogsTheTextOfInit_data();
+    void startLogsAndStopLogsTheTextOfInit();
+    void stopBeforeStartOnlyLogs();
+    void everyStartSetsUpOneMoreTimer();
+    void initCreatesEverythingAndSucceeds();
+    void processErrorsHaveNames_data();
+    void processErrorsHaveNames();
+
+private:
+    QVector<int> periods() const;
+    QVector<bool> activity() const;
+};
+
+/// Of the worker's timers, the oldest first.
+QVector<int> TestWorkerSetup::periods() const
+{
+    QVector<int> periods;
+    for (const QTimer *timer : m_worker->findChildren<QTimer *>())
+        periods += timer->interval();
+    return periods;
+}
+
+QVector<bool> TestWorkerSetup::activity() const
+{
+    QVector<bool> activity;
+    for (const QTimer *timer : m_worker->findChildren<QTimer *>())
+        activity += timer->isActive();
+    return activity;
+}
+
+void TestWorkerSetup::theSlotsAreFourInTheirOrder()
+{
+    const QMetaObject &meta = MHRWorker::staticMetaObject;
+    QStringList slotNames;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        if (meta.method(i).methodType() == QMetaMethod::Slot)
+            slotNames += meta.method(i).methodSignature();
+    }
+    QCOMPARE(slotNames,
+             QStringList({"start()", "stop()", "checkSync()",
+                          "isqlProcessErrorOccurred(QProcess::ProcessError)"}));
+}
+
+void TestWorkerSetup::thereAreNoSignals()
+{
+    const QMetaObject &meta = MHRWorker::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        QVERIFY(meta.method(i).methodType() != QMetaMethod::Signal);
+}
+
+void TestWorkerSetup::withoutSettingsTheTickIsAMinute()
+{
+    startWorker();
+    QCOMPARE(periods(), QVector<int>{60000});
+}
+
+void TestWorkerSetup::thePeriodIsAtLeastOneSecondAndAtMostWhatATimerTakes_data()
+{
+    QTest::addColumn<uint>("ms");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("0") << 0U << 1000;
+    QTest::newRow("999") << 999U << 1000;
+    QTest::newRow("1000") << 1000U << 1000;
+    QTest::newRow("1001") << 1001U << 1001;
+    QTest::newRow("2147483647") << 2147483647U << 2147483647;
+    QTest::newRow("2147483648") << 2147483648U << 2147483647;
+    QTest::newRow("4294967295") << 4294967295U << 2147483647;
+}
+
+void TestWorkerSetup::thePeriodIsAtLeastOneSecondAndAtMostWhatATimerTakes()
+{
+    QFETCH(uint, ms);
+    QFETCH(int, expected);
+    MHRWorker &worker = makeWorker();
+    worker.setInterval(ms);
+    worker.start();
+    QCOMPARE(periods(), QVector<int>{expected});
+
+    worker.setInterval(5000);
+    QCOMPARE(periods(), QVector<int>{5000});
+    worker.setInterval(ms);
+    QCOMPARE(periods(), QVector<int>{expected});
+    QCOMPARE(activity(), QVector<bool>{true});
+}
+
+void TestWorkerSetup::theMessageTableIsLoggedByItsSize()
+{
+    makeWorker(0).setMes({{1, "a"}});
+    QCOMPARE(m_log->lines(), QStringList());
+    makeWorker(1);
+    m_log->clear();
+    m_worker->setMes({});
+    m_worker->setMes({{1, "a"}, {7, "b"}});
+    QCOMPARE(m_log->lines(),
+             QStringList({"D MHRWorker::setMes() count: 0)", "D MHRWorker::setMes() count: 2)"}));
+}
+
+void TestWorkerSetup::theConnectionIsNamedAfterTheDatabase_data()
+{
+    QTest::addColumn<int>("debugLevel");
+    QTest::addColumn<QStringList>("expected");
+    const QStringList logged("D MHRWorker::setTepDb(YAV.tepdb.MirovaHR)");
+    QTest::newRow("level 0") << 0 << QStringList();
+    QTest::newRow("level 1") << 1 << logged;
+    QTest::newRow("level 2") << 2 << logged;
+}
+
+void TestWorkerSetup::theConnectionIsNamedAfterTheDatabase()
+{
+    QFETCH(int, debugLevel);
+    QFETCH(QStringList, expected);
+    makeWorker(static_cast<unsigned char>(debugLevel));
+    QCOMPARE(m_log->lines(), expected);
+    QVERIFY(QSqlDatabase::contains("YAV.tepdb.MirovaHR"));
+}
+
+void TestWorkerSetup::theConnectionIsClonedAndNotYetOpened()
+{
+    MHRWorker worker;
+    const QSqlDatabase hosts = m_db.openPluginConnection();
+    worker.setTepDb(hosts);
+    const QSqlDatabase own = QSqlDatabase::database("YAV.tepdb.MirovaHR", false);
+    QVERIFY(own.isValid());
+    QVERIFY(!own.isOpen());
+    QCOMPARE(own.databaseName(), QString("tepdb"));
+    QCOMPARE(own.userName(), hosts.userName());
+    QCOMPARE(own.connectOptions(), hosts.connectOptions());
+    QVERIFY(hosts.isOpen());
+}
+
+void TestWorkerSetup::anExistingConnectionIsTakenUpAndOpened()
+{
+    QSqlDatabase existing = m_db.pluginConnection("YAV.tepdb.MirovaHR");
+    MHRWorker &worker = makeWorker();
+    QVERIFY(existing.isOpen());
+    worker.start();
+    tick();
+    QVERIFY(m_log->contains("D MHRWorker: BEGIN synchronization #1 (force: NO)"));
+    QVERIFY(!existing.isOpen());
+    existing = QSqlDatabase();
+}
+
+void TestWorkerSetup::aNewDatabaseReachesTheSettingsAndTheBranches()
+{
+    startWorker();
+    tick();
+    m_db.run("CREATE DATABASE other");
+    m_db.run("GRANT ALL ON other.* TO '" + m_db.server().userName() + "'@'localhost'");
+    for (const char *table : {"vars", "people", "branches", "funds", "brape", "mastergroups",
+                              "groups", "term", "bradm", "admins_people", "people_pam"})
+        m_db.run(QString("CREATE TABLE other.`%1` LIKE tepdb.`%1`").arg(table));
+    m_db.run("INSERT INTO other.vars (name, value) VALUES ('YAV.MHRWorker.forceSync', '1')");
+    m_db.run("INSERT INTO other.branches (bid, number) VALUES (77, 120)");
+
+    QSqlDatabase other = m_db.pluginConnection();
+    other.setDatabaseName("other");
+    m_log->clear();
+    m_worker->setTepDb(other);
+    QCOMPARE(m_log->lines(), QStringList("D MHRWorker::setTepDb(YAV.other.MirovaHR)"));
+
+    m_file->write({ExportLine().with(&ExportLine::kalendar, 0)});
+    const QStringList lines = tick();
+    QVERIFY(lines.contains("D MHRWorker: BEGIN synchronization #2 (force: YES)"));
+    QCOMPARE(m_db.value("SELECT value FROM other.vars WHERE name = 'YAV.MHRWorker.forceSync'"),
+             QVariant("0"));
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM other.brape WHERE bid = 77").toInt(), 1);
+
+    m_worker.reset();
+    other = QSqlDatabase();
+    QSqlDatabase::removeDatabase("YAV.other.MirovaHR");
+    m_db.run("DROP DATABASE other");
+}
+
+void TestWorkerSetup::theConnectionOutlivesTheWorker()
+{
+    startWorker();
+    m_worker.reset();
+    QVERIFY(QSqlDatabase::contains("YAV.tepdb.MirovaHR"));
+}
+
+void TestWorkerSetup::startLogsAndStopLogsTheTextOfInit_data()
+{
+    QTest::addColumn<int>("debugLevel");
+    QTest::addColumn<QStringList>("started");
+    QTest::addColumn<QStringList>("stopped");
+    const QStringList started = {"D MHRWorker::start()", "D MHRWorker::init()"};
+    const QStringList stopped = {"D MHRWorker::init()"};
+    QTest::newRow("level 0") << 0 << QStringList() << QStringList();
+    QTest::newRow("level 1") << 1 << started << stopped;
+    QTest::newRow("level 2") << 2 << started << stopped;
+}
+
+void TestWorkerSetup::startLogsAndStopLogsTheTextOfInit()
+{
+    QFETCH(int, debugLevel);
+    QFETCH(QStringList, started);
+    QFETCH(QStringList, stopped);
+    makeWorker(static_cast<unsigned char>(debugLevel));
+    m_log->clear();
+    m_worker->start();
+    QCOMPARE(m_log->lines(), started);
+    QCOMPARE(activity(), QVector<bool>{true});
+    m_log->clear();
+    m_worker->stop();
+    QCOMPARE(m_log->lines(), stopped);
+    QCOMPARE(activity(), QVector<bool>{false});
+}
+
+void TestWorkerSetup::stopBeforeStartOnlyLogs()
+{
+    makeWorker();
+    m_log->clear();
+    m_worker->stop();
+    QCOMPARE(m_log->lines(), QStringList("D MHRWorker::init()"));
+    QCOMPARE(periods(), QVector<int>());
+}
+
+void TestWorkerSetup::everyStartSetsUpOneMoreTimer()
+{
+    startWorker();
+    m_worker->start();
+    QCOMPARE(activity(), QVector<bool>({true, true}));
+    m_worker->stop();
+    QCOMPARE(activity(), QVector<bool>({true, false}));
+    m_worker->stop();
+    QCOMPARE(activity(), QVector<bool>({true, false}));
+    m_worker->start();
+    QCOMPARE(activity(), QVector<bool>({true, false, true}));
+    QCOMPARE(m_log->lines(),
+             QStringList({"D MHRWorker::start()", "D MHRWorker::init()", "D MHRWorker::init()",
+                          "D MHRWorker::init()", "D MHRWorker::start()", "D MHRWorker::init()"}));
+    // The settings of the newest start serve the tick.
+    setForce("1");
+    tick();
+    QCOMPARE(force(), QString("0"));
+}
+
+void TestWorkerSetup::initCreatesEverythingAndSucceeds()
+{
+    MHRWorker &worker = makeWorker();
+    m_log->clear();
+    QVERIFY(worker.init());
+    QCOMPARE(m_log->lines(), QStringList("D MHRWorker::init()"));
+    QCOMPARE(activity(), QVector<bool>{false});
+    QStringList children;
+    for (const QObject *child : worker.children())
+        children += child->metaObject()->className();
+    QCOMPARE(children, QStringList({"QTimer", "BranchesRepository", "GroupsPlanRepo"}));
+}
+
+void TestWorkerSetup::processErrorsHaveNames_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("0") << 0 << "C MHRWorker: isql process Failed to start";
+    QTest::newRow("1") << 1 << "C MHRWorker: isql process Crashed";
+    QTest::newRow("2") << 2 << "C MHRWorker: isql process Timedout";
+    QTest::newRow("3") << 3 << "C MHRWorker: isql process Read Error";
+    QTest::newRow("4") << 4 << "C MHRWorker: isql process Write Error";
+    QTest::newRow("5") << 5 << "C MHRWorker: isql process Unknown Error";
+}
+
+void TestWorkerSetup::processErrorsHaveNames()
+{
+    QFETCH(int, error);
+    QFETCH(QString, expected);
+    MHRWorker worker;
+    worker.isqlProcessErrorOccurred(static_cast<QProcess::ProcessError>(error));
+    QCOMPARE(m_log->lines(), QStringList(expected));
+}
+
+QTEST_GUILESS_MAIN(TestWorkerSetup)
+#include "tst_workersetup.moc"
