@@ -1,0 +1,104 @@
+#include "tests/host/programrun.h"
+
+#include <QtTest>
+
+namespace {
+
+const QString kProject = QStringLiteral(PROJECT_FOLDER);
+
+} // namespace
+
+/// What scripts/demo shows, with the programs of this build.
+class TestDemo : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void theDemoEndsByItself();
+    void brokenLinesAndAnUnknownBranchAreWarnedOf();
+    void theFirstSynchronisationShowsEveryKindOfChange_data();
+    void theFirstSynchronisationShowsEveryKindOfChange();
+    void theSecondSynchronisationShowsWhatHrChanged_data();
+    void theSecondSynchronisationShowsWhatHrChanged();
+
+private:
+    static void addRows(const QVector<QByteArray> &texts);
+
+    ProgramRun m_demo;
+    QString m_first;
+    QString m_second;
+};
+
+void TestDemo::initTestCase()
+{
+    m_demo.setVariable("MIROVAHR_INI", kProject + "/demo/MirovaHR.ini");
+    m_demo.setVariable("LC_ALL", "C.UTF-8");
+    QStringList arguments{PRIVATE_MARIADB};
+    for (const char *file : {"schema", "routines", "sample"})
+        arguments += {"--load", kProject + "/reference-db/" + file + ".sql"};
+    arguments += {"--", kProject + "/demo/run", YAVHOST, MIROVAHR_PLUGIN};
+    QVERIFY2(m_demo.run(kProject + "/scripts/private-view", arguments),
+             m_demo.report().constData());
+    const int later = m_demo.output().indexOf("\nLater, HR has changed");
+    QVERIFY2(later > 0, m_demo.report().constData());
+    m_first = m_demo.output().left(later);
+    m_second = m_demo.output().mid(later);
+}
+
+void TestDemo::theDemoEndsByItself()
+{
+    COMPARE_STATUS(m_demo, 0);
+    QCOMPARE(m_demo.errors(), QString());
+    QVERIFY(m_second.contains("    yavhost: The plugin is unloaded.\n"));
+    QVERIFY(m_second.contains("| YAV.MHRWorker.forceSync | 0     |\n"));
+}
+
+void TestDemo::brokenLinesAndAnUnknownBranchAreWarnedOf()
+{
+    for (const char *text : {"parts count (17) <> fields count(18) - line skipped!",
+                             "parts count (19) <> fields count(18) - line skipped!",
+                             "Branch '150' NOT FOUND for employee: '1244.1",
+                             "END synchronization #1 (waiting records: 1)"}) {
+        QVERIFY2(m_first.contains(text), m_demo.report().constData());
+    }
+    QVERIFY(m_second.contains("END synchronization #2 (waiting records: 0)"));
+    for (const char *surname : {"Malá", "Veľký", "Dlhá"})
+        QVERIFY2(!m_demo.output().contains(surname), surname);
+}
+
+void TestDemo::addRows(const QVector<QByteArray> &texts)
+{
+    QTest::addColumn<QByteArray>("text");
+    for (const QByteArray &text : texts)
+        QTest::newRow(text.constData()) << text;
+}
+
+void TestDemo::theFirstSynchronisationShowsEveryKindOfChange_data()
+{
+    addRows({"\nPeople: ", "| 1241.1 | Katarína Poláková",
+             "\nBranches: ", "\nCalendars: ", "\nAttendance: ", "| 2025-03-04, 2025-03-05 |",
+             "\nVacation: ", "| 17.50       | -5.00      | 12.50    |",
+             "\nSupervisors: ", "no longer gets them", "\nAdministrators of a branch",
+             "\nTerminals of a branch", "\nThe terminal queue: ", "\nPayroll: "});
+}
+
+void TestDemo::theFirstSynchronisationShowsEveryKindOfChange()
+{
+    QFETCH(QByteArray, text);
+    QVERIFY2(m_first.contains(QString::fromUtf8(text)), m_demo.report().constData());
+}
+
+void TestDemo::theSecondSynchronisationShowsWhatHrChanged_data()
+{
+    addRows({"BEGIN synchronization #2 (force: YES)", "surname \"Nováková\" -> \"Krajčírová\"",
+             "state \"rodičovská dovolenka\"", "| leaves ", "| 1245.1 | Filip Dobrovodský",
+             "|         150 | Dielňa"});
+}
+
+void TestDemo::theSecondSynchronisationShowsWhatHrChanged()
+{
+    QFETCH(QByteArray, text);
+    QVERIFY2(m_second.contains(QString::fromUtf8(text)), m_demo.report().constData());
+}
+
+QTEST_GUILESS_MAIN(TestDemo)
+#include "tst_demo.moc"
