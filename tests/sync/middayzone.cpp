@@ -1,0 +1,50 @@
+#include "tests/sync/middayzone.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+#include <ctime>
+
+namespace {
+
+/// Hours east of Greenwich.
+int middayOffset(const QDateTime &utc)
+{
+    const int hour = utc.time().hour();
+    if (utc.date().day() != 1)
+        return 12 - hour;
+    // On the first of a month: the small hours of the second, or late on the last of the month.
+    return hour == 0 ? -3 : 25 - hour;
+}
+
+} // namespace
+
+QByteArray middayZone()
+{
+    // The sign of `TZ` counts hours west. Daylight saving time adds an hour.
+    const int west = -middayOffset(QDateTime::currentDateTimeUtc());
+    return "STD" + QByteArray::number(west) + "DST,M3.5.0,M10.5.0/3";
+}
+
+qint64 localMidnight(const QDate &date)
+{
+    return localSeconds(date, QTime(0, 0));
+}
+
+qint64 localSeconds(const QDate &date, const QTime &time)
+{
+    std::tm parts = {};
+    parts.tm_year = date.year() - 1900;
+    parts.tm_mon = date.month() - 1;
+    parts.tm_mday = date.day();
+    parts.tm_hour = time.hour();
+    parts.tm_min = time.minute();
+    parts.tm_sec = time.second();
+    parts.tm_isdst = -1;
+    return std::mktime(&parts);
+}
+
+QString shortDate(const QDate &date)
+{
+    return QLocale::c().toString(date, QStringLiteral("d MMM yyyy"));
+}
