@@ -20,6 +20,13 @@ QHash<unsigned short, QString> readMessages(QSettings &settings)
 
 } // namespace
 
+std::unique_ptr<QSettings> Configuration::open(const QString &path)
+{
+    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    settings->setIniCodec("UTF-8");
+    return settings;
+}
+
 Configuration Configuration::read(QSettings &settings)
 {
     const auto number = [&settings](const char *key, unsigned int fallback) {

@@ -3,6 +3,8 @@
 #include <QHash>
 #include <QString>
 
+#include <memory>
+
 class QSettings;
 
 /// What the INI file puts in force. A key that is missing has its default.
@@ -21,6 +23,12 @@ struct Configuration {
     unsigned char syncCommandRun = 0; ///< `syncCommandRun`, low 8 bits: 0 never, 1 forced, 2 always
     unsigned int departmentId = 1; ///< `departmentId`: `people.did`, 0 for none
     QHash<unsigned short, QString> messages; ///< group `MES`: register state code to text
+
+    /// Where the plugin finds its INI file.
+    static constexpr QLatin1String kPath{"/etc/yav/MirovaHR.ini"};
+
+    /// Opens an INI file as the plugin does. A missing file is one without keys.
+    static std::unique_ptr<QSettings> open(const QString &path);
 
     static Configuration read(QSettings &settings);
 };

@@ -1,26 +1,20 @@
 #include "plugin/mirovahr.h"
 
+#include "plugin/configuration.h"
 #include "worker/mhrworker.h"
 
 #include <QDebug>
 #include <QFileInfo>
 #include <QSettings>
 
-namespace {
-
-constexpr QLatin1String kIniPath("/etc/yav/MirovaHR.ini");
-
-} // namespace
-
 MirovaHR::MirovaHR(QObject *parent)
     : QObject(parent)
 {
-    const QString path = kIniPath;
+    const QString path = Configuration::kPath;
     if (!QFileInfo(path).isFile())
         qWarning() << "MirovaHR: INI file not found on:" << path;
 
-    m_settings = new QSettings(path, QSettings::IniFormat);
-    m_settings->setIniCodec("UTF-8");
+    m_settings = Configuration::open(path).release();
 }
 
 MirovaHR::~MirovaHR()

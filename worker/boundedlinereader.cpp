@@ -18,11 +18,10 @@ BoundedLineReader::BoundedLineReader(QIODevice &device)
 bool BoundedLineReader::next()
 {
     for (;;) {
-        const qint64 length = m_device.readLine(m_buffer.data(), kBufferSize);
-        if (length <= 0)
+        if (!read())
             return false;
-        const bool complete = m_buffer.at(static_cast<int>(length) - 1) == '\n';
-        if (complete || length <= kLongestLine)
+        ++m_lineNumber;
+        if (isComplete() || m_length <= kLongestLine)
             return true;
         if (!skipRestOfLine())
             return false;
@@ -31,11 +30,20 @@ bool BoundedLineReader::next()
 
 bool BoundedLineReader::skipRestOfLine()
 {
-    for (;;) {
-        const qint64 length = m_device.readLine(m_buffer.data(), kBufferSize);
-        if (length <= 0)
-            return false;
-        if (m_buffer.at(static_cast<int>(length) - 1) == '\n')
+    while (read()) {
+        if (isComplete())
             return true;
     }
+    return false;
+}
+
+bool BoundedLineReader::read()
+{
+    m_length = static_cast<int>(m_device.readLine(m_buffer.data(), kBufferSize));
+    return m_length > 0;
+}
+
+bool BoundedLineReader::isComplete() const
+{
+    return m_buffer.at(m_length - 1) == '\n';
 }

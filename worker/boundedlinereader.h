@@ -18,9 +18,20 @@ public:
     /// The current line as read, with its line feed, ended by a NUL byte; valid until next().
     const char *line() const { return m_buffer.constData(); }
 
+    /// The bytes of the current line with its line feed. It may itself contain NUL bytes.
+    int length() const { return m_length; }
+
+    /// The number of the current line, counted from 1 and with the lines that were skipped; after
+    /// the end, the number of all lines.
+    qint64 lineNumber() const { return m_lineNumber; }
+
 private:
     bool skipRestOfLine();
+    bool read();
+    bool isComplete() const;
 
     QIODevice &m_device;
     QByteArray m_buffer;
+    int m_length = 0;
+    qint64 m_lineNumber = 0;
 };

@@ -8,27 +8,6 @@ const QLatin1String kDateFormat("yyyy-MM-dd hh:mm:ss.zzz");
 
 namespace {
 
-enum Field {
-    OsobniCislo,
-    PoradoveCisloPP,
-    Titul,
-    Jmeno,
-    Prijmeni,
-    TitulZa,
-    Telefon,
-    DatumNastupu,
-    DatumVystupu,
-    Stredisko,
-    StrediskoPopis,
-    Kalendar,
-    KalendarPlatnostOd,
-    TypPracovnihoPomeru,
-    StavPracovnihoPomeru,
-    EvidencniStav,
-    DovolenaZustatek,
-    NadrizenyOsobniCislo
-};
-
 /// The number that `count` ASCII digits at `from` make.
 int numberAt(const QString &text, int from, int count)
 {
@@ -65,11 +44,6 @@ QDate wellFormedDate(const QString &text)
     const QTime time(numberAt(text, 11, 2), numberAt(text, 14, 2), numberAt(text, 17, 2),
                      numberAt(text, 20, 3));
     return time.isValid() ? date : QDate();
-}
-
-quint32 toNumber(const QString &text)
-{
-    return text.toUInt(nullptr, 10);
 }
 
 quint16 toCode(const QString &text)
@@ -109,6 +83,26 @@ QStringList fieldNames()
     };
 }
 
+QString decode(const char *line)
+{
+    return QString::fromUtf8(line).trimmed();
+}
+
+QStringList split(const QString &line, QChar separator)
+{
+    return line.split(separator, Qt::KeepEmptyParts, Qt::CaseSensitive);
+}
+
+quint32 toNumber(const QString &text, bool *ok)
+{
+    return text.toUInt(ok, 10);
+}
+
+double toBalance(const QString &text, bool *ok)
+{
+    return text.toDouble(ok);
+}
+
 QDate parseDate(const QString &text, const QString &format)
 {
     if (format == kDateFormat) {
@@ -138,7 +132,7 @@ MirovaRonRecord toRecord(const QStringList &parts)
     record.typPracovnihoPomeru = toCode(parts.at(TypPracovnihoPomeru));
     record.stavPracovnihoPomeru = toCode(parts.at(StavPracovnihoPomeru));
     record.evidencniStav = toCode(parts.at(EvidencniStav));
-    record.dovolenaZustatek = parts.at(DovolenaZustatek).toDouble();
+    record.dovolenaZustatek = toBalance(parts.at(DovolenaZustatek));
     record.nadrizenyOsobniCislo = toNumber(parts.at(NadrizenyOsobniCislo));
     return record;
 }

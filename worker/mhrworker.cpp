@@ -3,12 +3,11 @@
 #include "db/branchesrepository.h"
 #include "db/groupsplanrepo.h"
 #include "db/tepdbsettings.h"
+#include "worker/schedule.h"
 
 #include <QDebug>
 #include <QThread>
 #include <QTimer>
-
-#include <limits>
 
 MHRWorker::MHRWorker(QObject *parent)
     : QObject(parent)
@@ -27,7 +26,7 @@ void MHRWorker::setDebugLevel(const unsigned char &level)
 
 void MHRWorker::setInterval(const unsigned int &ms)
 {
-    m_interval = qMax(ms, 1000U);
+    m_interval = Schedule::tickPeriod(ms);
     if (m_timer)
         applyInterval();
 }
@@ -106,9 +105,7 @@ bool MHRWorker::init()
 
 void MHRWorker::applyInterval()
 {
-    // The stored period is 32 bits unsigned, a timer takes 31.
-    constexpr quint32 kLongest = std::numeric_limits<int>::max();
-    m_timer->setInterval(static_cast<int>(qMin(m_interval, kLongest)));
+    m_timer->setInterval(Schedule::timerInterval(m_interval));
 }
 
 void MHRWorker::createSettingsStore()

@@ -3,6 +3,7 @@
 #include "worker/mhrworker.h"
 
 #include "db/tepdbsettings.h"
+#include "worker/schedule.h"
 
 #include <QDebug>
 #include <QVariant>
@@ -39,7 +40,8 @@ void MHRWorker::checkSync()
 
 bool MHRWorker::isSyncDue() const
 {
-    return m_force || m_tickCounter == 1 || m_tickCounter % qMax(m_syncInterval, 1U) == 0;
+    return m_force || m_tickCounter == 1
+        || m_tickCounter % Schedule::ticksPerSynchronisation(m_syncInterval) == 0;
 }
 
 void MHRWorker::synchronise()

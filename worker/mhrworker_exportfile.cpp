@@ -4,16 +4,11 @@
 
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
+#include "worker/importfile.h"
 
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
-
-namespace {
-
-constexpr QLatin1String kDefaultImportFile("/tmp/ron.data");
-
-} // namespace
 
 void MHRWorker::loadAndParseData()
 {
@@ -25,7 +20,7 @@ void MHRWorker::loadAndParseData()
                qUtf8Printable(fields.join(QStringLiteral(", "))));
     }
 
-    const QString path = m_importFile.isEmpty() ? QString(kDefaultImportFile) : m_importFile;
+    const QString path = ImportFile::path(m_importFile);
     const QFileInfo info(path);
     if (m_debugLevel > 2) {
         qInfo("MHRWorker::loadAndParseData() - loading data from file: '%s'",
@@ -54,10 +49,9 @@ void MHRWorker::parseLines(QIODevice &file, const QStringList &fields)
 {
     BoundedLineReader reader(file);
     while (reader.next()) {
-        // Decoding ends at the first NUL byte of the line.
-        const QString line = QString::fromUtf8(reader.line()).trimmed();
+        const QString line = ExportLine::decode(reader.line());
         if (!line.isEmpty())
-            parseLine(line, fields, QLatin1Char('|'));
+            parseLine(line, fields, ExportLine::kSeparator);
     }
 }
 
@@ -66,7 +60,7 @@ void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar 
     if (m_debugLevel > 2)
         qDebug("MHRWorker::parseLine('%s')", qUtf8Printable(line));
 
-    const QStringList parts = line.split(separator, Qt::KeepEmptyParts, Qt::CaseSensitive);
+    const QStringList parts = ExportLine::split(line, separator);
     if (parts.size() != fields.size()) {
         if (m_debugLevel > 2) {
             qWarning("MHRWorker::parseLine() - parts count (%i) <> fields count(%i) - line "

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// What the configured periods come to. Pure functions.
+namespace Schedule {
+
+/// The tick period in milliseconds for a configured one: not below a second.
+quint32 tickPeriod(quint32 configured);
+
+/// What a timer is given for a tick period: it takes 31 bits only.
+int timerInterval(quint32 tickPeriod);
+
+/// Every how many ticks a regular synchronisation runs, for a configured number: 0 counts as 1.
+quint32 ticksPerSynchronisation(quint32 configured);
+
+} // namespace Schedule
