@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+
+/// An export command that holds the synchronisation that runs it, until the test lets it go on.
+/// For one run of the command.
+class CommandGate {
+public:
+    CommandGate();
+    ~CommandGate(); ///< Opens the gate.
+    CommandGate(const CommandGate &) = delete;
+    CommandGate &operator=(const CommandGate &) = delete;
+
+    QString command() const; ///< The command line.
+    void waitForCommand(); ///< Waits until the command runs. It then stays until open().
+    void open();
+
+private:
+    QTemporaryDir m_dir;
+    QByteArray m_path;
+    int m_handle = -1;
+};
