@@ -2,6 +2,8 @@
 
 #include "tests/support/exportfile.h"
 
+#include <QMetaType>
+
 /// Export lines of people of the sample data. Each agrees with the database in everything that a
 /// synchronisation compares: person, branch, calendar group, vacation balance; no supervisor.
 namespace SampleExport {
@@ -21,3 +23,5 @@ ExportLine tomas();
 ExportLine newcomer(int personalNumber);
 
 } // namespace SampleExport
+
+Q_DECLARE_METATYPE(ExportLine)

@@ -53,10 +53,10 @@ void SyncTest::init()
     newWorker();
 }
 
-void SyncTest::cleanupTestCase()
+void SyncTest::cleanup()
 {
-    m_worker.reset();
-    QSqlDatabase::removeDatabase(QStringLiteral("YAV.tepdb.MirovaHR"));
+    const LogCapture log;
+    m_worker->dbClose();
 }
 
 void SyncTest::newWorker(int debugLevel)

@@ -73,7 +73,7 @@ protected:
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void cleanupTestCase();
+    void cleanup();
 
 private:
     void learnUids();

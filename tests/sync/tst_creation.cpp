@@ -1,0 +1,316 @@
+#include "tests/sync/sampleexport.h"
+#include "tests/sync/sent.h"
+#include "tests/sync/synctest.h"
+
+using namespace SampleExport;
+
+namespace {
+
+QDate today()
+{
+    return QDate::currentDate();
+}
+
+uint pidOf(const ExportLine &line)
+{
+    return (line.osobniCislo + line.poradoveCisloPP).toUInt();
+}
+
+/// Both checks of a person who is not in the table: the second finds no uid to go on with.
+QStringList fundChecksOfNobody(uint pid)
+{
+    return {Sent::movesOfToday(pid), Sent::calculation(pid)};
+}
+
+int tomorrowsMonth()
+{
+    const QDate tomorrow = today().addDays(1);
+    return tomorrow.year() * 100 + tomorrow.month();
+}
+
+/// How the log shows a newcomer.
+QString described(const QString &payrollId)
+{
+    return payrollId + " Malá Eva (S: 120, K: 1 from " + shortDate(today().addDays(1)) + ") N-V: "
+        + shortDate(today().addDays(-10)) + " - ; ES: 0, RS:  -  '' TPP: 11  DOV: 0 " + "NOC: 0";
+}
+
+} // namespace
+
+/// What the driver does with people that the database does not know.
+class TestCreation : public SyncTest {
+    Q_OBJECT
+private Q_SLOTS:
+    void aNewcomerIsCreatedRegisteredAndPlaced();
+    void theCycleAfterTheCreationSettlesTheBalance();
+    void theRelationshipStateOfANewcomerBeginsToday();
+    void thePayrollSettingsFollowTheEmploymentType_data();
+    void thePayrollSettingsFollowTheEmploymentType();
+    void aFailedPayrollRegistrationIsReported_data() { addDebugLevels(); }
+    void aFailedPayrollRegistrationIsReported();
+    void theSupervisorOfANewcomerIsAssigned();
+    void theSupervisorOfANewcomerOfAnotherTypeIsNot();
+
+    void whoHasLeftIsNotCreated_data();
+    void whoHasLeftIsNotCreated();
+    void whoIsStillThereIsCreated_data();
+    void whoIsStillThereIsCreated();
+    void whoHasLeftIsRemembered();
+    void whoHasLeftIsNotCreatedByForceEither();
+
+    void aFailedCreationStillAsksForThePlace();
+    void aFailedCreationIsNotRepeatedForTheSameLine();
+    void aFailedCreationIsRepeatedForAChangedLine();
+    void aFailedCreationIsRepeatedWhenForced();
+    void anInactiveRowOfTheSamePidIsTakenUpAgain();
+};
+
+void TestCreation::aNewcomerIsCreatedRegisteredAndPlaced()
+{
+    const ExportLine line = newcomer(newPersonalNumber());
+    const uint pid = pidOf(line);
+    const Trace trace = synchronise({line});
+    QCOMPARE(trace.log, QStringList());
+    QCOMPARE(trace.statements,
+             Sent::begin() << fundChecksOfNobody(pid) << Sent::insertPerson(line)
+                           << Sent::payrollSelection(pid) << Sent::payrollBinding(pid, 9, 1)
+                           << Sent::findUid(pid) << Sent::membership(pid, 1) << Sent::group(1, 1)
+                           << Sent::plannedGroup(11, 9, tomorrowsMonth())
+                           << Sent::planGroup(11, 9, tomorrowsMonth())
+                           << Sent::updateMonths(9, tomorrowsMonth()) << Sent::joinBranch(1, "9")
+                           << Sent::propagation(1, {"9"}, {1, 2}, {1, 4}));
+}
+
+void TestCreation::theCycleAfterTheCreationSettlesTheBalance()
+{
+    ExportLine line = newcomer(newPersonalNumber()).with(&ExportLine::dovolenaZustatek, "20");
+    const uint pid = pidOf(line);
+    synchronise({line});
+    // The person exists now, so what could not be checked then can be made up for.
+    QCOMPARE(synchronise().statements,
+             Sent::begin() << Sent::fundChecks(pid, 9) << Sent::balance(pid)
+                           << Sent::correction(9, 2000) << Sent::membership(pid, 1)
+                           << Sent::group(1, 1) << Sent::plannedGroup(11, 9, tomorrowsMonth())
+                           << Sent::recalculation(9));
+    QCOMPARE(synchronise().statements, Sent::begin() << Sent::fundChecks(pid, 9));
+}
+
+void TestCreation::theRelationshipStateOfANewcomerBeginsToday()
+{
+    m_worker->setMes({{1, "v skúške"}});
+    const ExportLine line = newcomer(newPersonalNumber()).with(&ExportLine::evidencniStav, 1);
+    Sent::PersonValues values;
+    values.rsBegin = QString::number(localMidnight(today()));
+    values.rsText = "v skúške";
+    QVERIFY(synchronise({line}).statements.contains(Sent::insertPerson(line, values)));
+}
+
+void TestCreation::thePayrollSettingsFollowTheEmploymentType_data()
+{
+    QTest::addColumn<int>("employmentType");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<int>("payrollId");
+    QTest::newRow("11") << 11 << "1" << 1;
+    QTest::newRow("65") << 65 << "1" << 1;
+    QTest::newRow("51") << 51 << "4" << 2;
+    QTest::newRow("54") << 54 << "4" << 2;
+    QTest::newRow("12 is not registered") << 12 << "0" << 0;
+}
+
+void TestCreation::thePayrollSettingsFollowTheEmploymentType()
+{
+    QFETCH(int, employmentType);
+    QFETCH(QString, type);
+    QFETCH(int, payrollId);
+    const ExportLine line =
+        newcomer(newPersonalNumber()).with(&ExportLine::typPracovnihoPomeru, employmentType);
+    Sent::PersonValues values;
+    values.type = type;
+    const Trace trace = synchronise({line});
+    QVERIFY(trace.statements.contains(Sent::insertPerson(line, values)));
+    QStringList binding = Sent::payrollBinding(pidOf(line), 9, payrollId);
+    QCOMPARE(trace.statements.filter("people_pam"),
+             payrollId != 0 ? QStringList(binding.last()) : QStringList());
+    QCOMPARE(trace.statements.contains(binding.first()), payrollId != 0);
+}
+
+void TestCreation::aFailedPayrollRegistrationIsReported()
+{
+    QFETCH(int, debugLevel);
+    m_db.refuse("INSERT", "people_pam");
+    newWorker(debugLevel);
+    const ExportLine line = newcomer(newPersonalNumber());
+    const QString pid = QString::number(pidOf(line));
+    const QString ids = "pid: " + pid + ", pamSettingsID: 1";
+    QCOMPARE(synchronise({line}).log.filter("PersonIntoPam("),
+             linesAt(debugLevel,
+                     {{2, "D MHRWorker::addPersonIntoPam(" + pid + ")"},
+                      {1, "D MHRWorker::dbAddPersonIntoPam(" + ids + ")"},
+                      {0,
+                       "C MHRWorker::dbAddPersonIntoPam(" + ids
+                           + ") - SQL ERROR: refused by the test QMYSQL: Unable to execute query"},
+                      {0,
+                       "W MHRWorker::doSyncRecord(" + described(line.osobniCislo + ".1")
+                           + ") - dbAddPersonIntoPam(" + pid + ", 1) FAILED!"}}));
+}
+
+void TestCreation::theSupervisorOfANewcomerIsAssigned()
+{
+    const ExportLine line =
+        newcomer(newPersonalNumber()).with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    const uint pid = pidOf(line);
+    const QStringList statements = synchronise({line}).statements;
+    const int from = statements.indexOf(Sent::payrollBinding(pid, 9, 1).last()) + 1;
+    QCOMPARE(statements.mid(from, 7),
+             QStringList(Sent::findAdmin(1002))
+                 << Sent::findUid(pid) << Sent::supervisor(2, 9) << Sent::membership(pid, 1));
+}
+
+void TestCreation::theSupervisorOfANewcomerOfAnotherTypeIsNot()
+{
+    const ExportLine line = newcomer(newPersonalNumber())
+                                .with(&ExportLine::typPracovnihoPomeru, 51)
+                                .with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    QCOMPARE(synchronise({line}).statements.filter("FROM admins "), QStringList());
+}
+
+void TestCreation::whoHasLeftIsNotCreated_data()
+{
+    QTest::addColumn<ExportLine>("change");
+    QTest::newRow("state 4") << ExportLine().with(&ExportLine::stavPracovnihoPomeru, 4);
+    QTest::newRow("state 9, no leaving date")
+        << ExportLine().with(&ExportLine::stavPracovnihoPomeru, 9);
+    QTest::newRow("left yesterday")
+        << ExportLine().with(&ExportLine::datumVystupu, today().addDays(-1));
+    QTest::newRow("state 4, leaves tomorrow")
+        << ExportLine()
+               .with(&ExportLine::stavPracovnihoPomeru, 4)
+               .with(&ExportLine::datumVystupu, today().addDays(1));
+}
+
+void TestCreation::whoHasLeftIsNotCreated()
+{
+    QFETCH(ExportLine, change);
+    const ExportLine line =
+        newcomer(newPersonalNumber())
+            .with(&ExportLine::stavPracovnihoPomeru, change.stavPracovnihoPomeru)
+            .with(&ExportLine::datumVystupu, change.datumVystupu);
+    const DatabaseState before = m_db.dumpAll();
+    for (int cycle = 0; cycle < 2; ++cycle) {
+        const Trace trace = synchronise({line});
+        QCOMPARE(trace.log, QStringList());
+        QCOMPARE(trace.statements, Sent::begin() << fundChecksOfNobody(pidOf(line)));
+    }
+    QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
+}
+
+void TestCreation::whoIsStillThereIsCreated_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QDate>("end");
+    QTest::newRow("state 0") << 0 << QDate();
+    QTest::newRow("state 3") << 3 << QDate();
+    QTest::newRow("leaves today") << 1 << today();
+    QTest::newRow("leaves tomorrow") << 3 << today().addDays(1);
+}
+
+void TestCreation::whoIsStillThereIsCreated()
+{
+    QFETCH(int, state);
+    QFETCH(QDate, end);
+    const ExportLine line = newcomer(newPersonalNumber())
+                                .with(&ExportLine::stavPracovnihoPomeru, state)
+                                .with(&ExportLine::datumVystupu, end);
+    QVERIFY(synchronise({line}).statements.contains(Sent::insertPerson(line)));
+    QCOMPARE(uidOf(pidOf(line)), 9);
+}
+
+void TestCreation::whoHasLeftIsRemembered()
+{
+    m_db.run("DELETE FROM funds");
+    const ExportLine line =
+        newcomer(newPersonalNumber()).with(&ExportLine::stavPracovnihoPomeru, 4);
+    synchronise({line});
+    // The row now comes from elsewhere. Seen for the first time, it would be written.
+    m_db.run(QString("INSERT INTO people (pid, pamId, name) VALUES (%1, '%2.1', 'Eva')")
+                 .arg(pidOf(line))
+                 .arg(line.osobniCislo));
+    QCOMPARE(synchronise().statements, Sent::begin());
+}
+
+void TestCreation::whoHasLeftIsNotCreatedByForceEither()
+{
+    const ExportLine line =
+        newcomer(newPersonalNumber()).with(&ExportLine::stavPracovnihoPomeru, 4);
+    synchronise({line});
+    force();
+    QCOMPARE(synchronise().statements,
+             Sent::begin() << fundChecksOfNobody(pidOf(line)) << Sent::resetForce());
+}
+
+void TestCreation::aFailedCreationStillAsksForThePlace()
+{
+    m_db.refuse("INSERT", "people");
+    const ExportLine line =
+        newcomer(newPersonalNumber()).with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    const uint pid = pidOf(line);
+    const Trace trace = synchronise({line});
+    QCOMPARE(trace.log,
+             QStringList({"C MHRWorker::dbAddPerson(" + line.osobniCislo
+                              + ".1) - SQL ERROR: refused by the test QMYSQL: Unable to execute "
+                                "query",
+                          "W MHRWorker: can't add record '"
+                              + described(line.osobniCislo + ".1").replace("NOC: 0", "NOC: 1002")
+                              + "' into [groups_plan]!"}));
+    // Without a uid: the branch gets "0", which names nobody.
+    QCOMPARE(trace.statements,
+             Sent::begin() << fundChecksOfNobody(pid) << Sent::insertPerson(line)
+                           << Sent::findUid(pid) << Sent::membership(pid, 1) << Sent::group(1, 1)
+                           << Sent::plannedGroup(11, 0, tomorrowsMonth())
+                           << Sent::joinBranch(1, "0"));
+}
+
+void TestCreation::aFailedCreationIsNotRepeatedForTheSameLine()
+{
+    m_db.refuse("INSERT", "people");
+    const ExportLine line = newcomer(newPersonalNumber());
+    synchronise({line});
+    m_db.allow("INSERT", "people");
+    QCOMPARE(synchronise().statements, Sent::begin() << fundChecksOfNobody(pidOf(line)));
+}
+
+void TestCreation::aFailedCreationIsRepeatedForAChangedLine()
+{
+    m_db.refuse("INSERT", "people");
+    ExportLine line = newcomer(newPersonalNumber());
+    synchronise({line});
+    m_db.allow("INSERT", "people");
+    line.with(&ExportLine::strediskoPopis, "Hlavný sklad");
+    QVERIFY(synchronise({line}).statements.contains(Sent::insertPerson(line)));
+    QVERIFY(uidOf(pidOf(line)) != 0);
+}
+
+void TestCreation::aFailedCreationIsRepeatedWhenForced()
+{
+    m_db.refuse("INSERT", "people");
+    const ExportLine line = newcomer(newPersonalNumber());
+    synchronise({line});
+    m_db.allow("INSERT", "people");
+    force();
+    QVERIFY(synchronise().statements.contains(Sent::insertPerson(line)));
+    QVERIFY(uidOf(pidOf(line)) != 0);
+}
+
+void TestCreation::anInactiveRowOfTheSamePidIsTakenUpAgain()
+{
+    // Štefan Žiak, uid 7, is in the table with status 0, so he is not among the loaded people.
+    const ExportLine line = newcomer(1237);
+    const QStringList statements = synchronise({line}).statements;
+    QVERIFY(statements.contains(Sent::insertPerson(line)));
+    QVERIFY(statements.contains(Sent::joinBranch(1, "7")));
+    QCOMPARE(m_db.rows("SELECT surname, status, edited > 0, calendarID FROM people WHERE uid = 7"),
+             TableRows({{"Malá", "1", "1", "1"}}));
+}
+
+SYNC_TEST_MAIN(TestCreation)
+#include "tst_creation.moc"
