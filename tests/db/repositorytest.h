@@ -17,7 +17,7 @@ protected:
     TestDatabase m_database;
     QSqlDatabase m_connection;
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void initTestCase();
-    void init();
+    virtual void init();
 };
