@@ -4,15 +4,16 @@
 
 namespace {
 
+const QLatin1String kMessageGroup("MES");
+
 QHash<unsigned short, QString> readMessages(QSettings &settings)
 {
     QHash<unsigned short, QString> messages;
-    settings.beginGroup(QStringLiteral("MES"));
-    const QStringList keys = settings.allKeys();
+    const QStringList keys = Configuration::messageKeys(settings);
+    settings.beginGroup(kMessageGroup);
     for (const QString &key : keys) {
-        // The low 16 bits of the number; a key that is no number is 0. A later key wins.
-        const auto code = static_cast<unsigned short>(key.toUInt(nullptr, 10));
-        messages[code] = QString::fromUtf8(settings.value(key).toByteArray());
+        messages[Configuration::messageCode(key)] =
+            QString::fromUtf8(settings.value(key).toByteArray());
     }
     settings.endGroup();
     return messages;
@@ -53,4 +54,17 @@ Configuration Configuration::read(QSettings &settings)
     config.departmentId = number("departmentId", config.departmentId);
     config.messages = readMessages(settings);
     return config;
+}
+
+QStringList Configuration::messageKeys(QSettings &settings)
+{
+    settings.beginGroup(kMessageGroup);
+    const QStringList keys = settings.allKeys();
+    settings.endGroup();
+    return keys;
+}
+
+unsigned short Configuration::messageCode(const QString &key)
+{
+    return static_cast<unsigned short>(key.toUInt(nullptr, 10));
 }

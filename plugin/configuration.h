@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -31,4 +32,12 @@ struct Configuration {
     static std::unique_ptr<QSettings> open(const QString &path);
 
     static Configuration read(QSettings &settings);
+
+    /// The keys of group `MES`, without the group, in the order in which they are read: of several
+    /// with the same code the last one is in force.
+    static QStringList messageKeys(QSettings &settings);
+
+    /// The register state code that a key of group `MES` stands for: the low 16 bits of its number,
+    /// 0 for a key that is no number.
+    static unsigned short messageCode(const QString &key);
 };

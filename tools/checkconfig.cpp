@@ -1,0 +1,62 @@
+#include "tools/checkconfig.h"
+
+#include "tools/commandline.h"
+#include "tools/configcheck.h"
+#include "tools/console.h"
+#include "tools/report.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr char kDescription[] =
+    "Reads the plugin's INI file exactly as the plugin does. Says for each key what will\n"
+    "be in force, and what is wrong. Needs no database, and changes nothing.";
+
+QString verdict(ExitStatus status)
+{
+    return status == ExitStatus::Fine
+        ? QStringLiteral("Nothing is wrong with the configuration.")
+        : QStringLiteral("Somebody should look at the configuration.");
+}
+
+ExitStatus report(ConfigCheck &check, const QString &path, Report &report)
+{
+    report.begin(QStringLiteral("check-config"), QStringLiteral("Configuration %1").arg(path));
+    report.section(QStringLiteral("keys"), QStringLiteral("What is in force"));
+    report.sentence(QStringLiteral("The plugin reads the file when the attendance server loads it. "
+                                   "A change takes effect at the next start of the server."));
+    report.table(check.keys());
+
+    const QVector<Finding> findings = check.findings();
+    if (!findings.isEmpty())
+        report.section(QStringLiteral("findings"), QStringLiteral("What to look at"));
+    for (const Finding &finding : findings)
+        report.finding(finding);
+    return report.conclude(report.findingsStatus(), verdict(report.findingsStatus()));
+}
+
+} // namespace
+
+ExitStatus runCheckConfig(const QStringList &arguments, Console &console)
+{
+    CommandLine line("check-config", kDescription);
+    line.addOptionalArgument("file", "The INI file; /etc/yav/MirovaHR.ini when left out.");
+    line.addReportOptions(CommandLine::Page::NotOffered);
+    if (const auto end = line.parse(arguments, console))
+        return *end;
+
+    const QString path =
+        line.argument(0).isEmpty() ? QString(Configuration::kPath) : line.argument(0);
+    const QFileInfo info(path);
+    if (info.exists() && !(info.isFile() && info.isReadable())) {
+        return console.fail(
+            ExitStatus::Usage,
+            QStringLiteral("check-config: '%1' is no file that can be read").arg(path));
+    }
+    Report output(line, console);
+    if (const auto end = output.open())
+        return *end;
+    ConfigCheck check(path);
+    return report(check, path, output);
+}

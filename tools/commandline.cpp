@@ -1,0 +1,143 @@
+#include "tools/commandline.h"
+
+#include "cli/databaseoptions.h"
+#include "tools/console.h"
+
+namespace {
+
+constexpr char kPasswordVariable[] = "MIROVAHRCTL_PASSWORD";
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+} // namespace
+
+CommandLine::CommandLine(const char *subcommand, const char *description)
+    : m_subcommand(text(subcommand))
+    , m_description(text(description))
+{
+    m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
+                        QStringLiteral("Print this help, and end.")});
+}
+
+void CommandLine::addArgument(const char *name, const char *description)
+{
+    m_required << text(name).toUpper();
+    m_parser.addPositionalArgument(m_required.constLast(), text(description));
+}
+
+void CommandLine::addOptionalArgument(const char *name, const char *description)
+{
+    m_optional << text(name).toUpper();
+    m_parser.addPositionalArgument(m_optional.constLast(), text(description));
+}
+
+void CommandLine::addFlag(const char *name, const char *description)
+{
+    m_parser.addOption({text(name), text(description)});
+}
+
+void CommandLine::addOption(const char *name, const char *valueName, const char *description)
+{
+    m_parser.addOption({text(name), text(description), text(valueName)});
+}
+
+void CommandLine::addReportOptions(Page page)
+{
+    addFlag("json", "Write the result as JSON, for scripts.");
+    m_offersPage = page == Page::Offered;
+    if (m_offersPage) {
+        addOption("html", "file",
+                  "Also write the result as a web page of one file, for somebody without a "
+                  "terminal.");
+    }
+}
+
+void CommandLine::addDatabaseOptions()
+{
+    m_description += QStringLiteral("\n\nThe database password is read from --password-file or "
+                                    "from the environment\nvariable %1.")
+                         .arg(QLatin1String(kPasswordVariable));
+    ::addDatabaseOptions(m_parser);
+}
+
+std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, Console &console)
+{
+    // The parser takes the first argument for the program's name.
+    const bool understood = m_parser.parse(QStringList(m_subcommand) + arguments);
+    if (understood && m_parser.isSet(QStringLiteral("help"))) {
+        console.print(helpText());
+        return ExitStatus::Fine;
+    }
+    const QString error = understood ? argumentError() : m_parser.errorText();
+    if (error.isEmpty())
+        return std::nullopt;
+    return console.fail(ExitStatus::Usage, QStringLiteral("%1: %2").arg(m_subcommand, error));
+}
+
+bool CommandLine::isSet(const char *option) const
+{
+    return m_parser.isSet(text(option));
+}
+
+QString CommandLine::value(const char *option) const
+{
+    return m_parser.value(text(option));
+}
+
+QString CommandLine::argument(int position) const
+{
+    return m_parser.positionalArguments().value(position);
+}
+
+QString CommandLine::pagePath() const
+{
+    return m_offersPage ? value("html") : QString();
+}
+
+bool CommandLine::namesDatabase() const
+{
+    return hasDatabaseOptions(m_parser);
+}
+
+std::optional<ExitStatus> CommandLine::readDatabase(DatabaseOptions &options,
+                                                    Console &console) const
+{
+    const QString error = readDatabaseOptions(m_parser, kPasswordVariable, options);
+    if (error.isEmpty())
+        return std::nullopt;
+    return console.fail(ExitStatus::Usage, QStringLiteral("%1: %2").arg(m_subcommand, error));
+}
+
+QString CommandLine::usage() const
+{
+    QString usage = QStringLiteral("Usage: mirovahrctl %1 [OPTION...]").arg(m_subcommand);
+    for (const QString &name : m_required)
+        usage += QLatin1Char(' ') + name;
+    for (const QString &name : m_optional)
+        usage += QStringLiteral(" [%1]").arg(name);
+    return usage;
+}
+
+QString CommandLine::helpText() const
+{
+    // The parser's own first line knows the program only, not the subcommand.
+    const QString parserText = m_parser.helpText();
+    const QString options = parserText.mid(parserText.indexOf(QLatin1Char('\n')) + 1);
+    return QStringList{usage(), QString(), m_description, options, exitStatusHelp()}.join(
+        QLatin1Char('\n'));
+}
+
+QString CommandLine::argumentError() const
+{
+    const int count = m_parser.positionalArguments().size();
+    if (count < m_required.size())
+        return QStringLiteral("%1 is missing; --help explains").arg(m_required.at(count));
+    if (count > m_required.size() + m_optional.size()) {
+        return QStringLiteral("'%1' is one argument too many")
+            .arg(argument(m_required.size() + m_optional.size()));
+    }
+    return {};
+}

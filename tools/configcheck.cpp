@@ -1,0 +1,269 @@
+#include "tools/configcheck.h"
+
+#include "tools/configtable.h"
+#include "tools/plaintext.h"
+#include "worker/schedule.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr QLatin1String kFlags[] = {QLatin1String("enabled"), QLatin1String("testMode"),
+                                    QLatin1String("deleteFile")};
+constexpr QLatin1String kNumbers[] = {QLatin1String("timerInterval"), QLatin1String("syncInterval"),
+                                      QLatin1String("syncCommandRun"),
+                                      QLatin1String("departmentId")};
+constexpr QLatin1String kTexts[] = {QLatin1String("importFile"), QLatin1String("syncCommand")};
+
+QStringList knownKeys()
+{
+    QStringList keys;
+    std::copy(std::begin(kFlags), std::end(kFlags), std::back_inserter(keys));
+    std::copy(std::begin(kNumbers), std::end(kNumbers), std::back_inserter(keys));
+    std::copy(std::begin(kTexts), std::end(kTexts), std::back_inserter(keys));
+    return keys;
+}
+
+/// The known key that somebody may have meant: the same letters in another case, or the same key
+/// in another group.
+QString meantKey(const QString &key)
+{
+    const QString name = key.section(QLatin1Char('/'), -1);
+    const QStringList known = knownKeys();
+    const auto found =
+        std::find_if(known.cbegin(), known.cend(), [&name](const QString &candidate) {
+            return candidate.compare(name, Qt::CaseInsensitive) == 0;
+        });
+    return found == known.cend() ? QString() : *found;
+}
+
+bool isPlainFlag(const QString &text)
+{
+    static const QStringList plain{QStringLiteral("true"), QStringLiteral("false"),
+                                   QStringLiteral("0"),    QStringLiteral("1"),
+                                   QStringLiteral("yes"),  QStringLiteral("on")};
+    return plain.contains(text, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+ConfigCheck::ConfigCheck(const QString &path)
+    : m_path(path)
+    , m_lines(readIniLines(path))
+    , m_settings(Configuration::open(path))
+    , m_config(Configuration::read(*m_settings))
+{
+}
+
+ConfigCheck::~ConfigCheck() = default;
+
+Table ConfigCheck::keys() const
+{
+    return configurationTable(*m_settings, m_config);
+}
+
+QVector<Finding> ConfigCheck::findings()
+{
+    m_findings.clear();
+    checkFile();
+    checkKeys();
+    for (const QLatin1String key : kFlags)
+        checkFlag(key);
+    for (const QLatin1String key : kNumbers)
+        checkNumber(key);
+    for (const QLatin1String key : kTexts)
+        checkText(key);
+    checkOperation();
+    checkPeriods();
+    checkImportFile();
+    checkSyncCommand();
+    checkMessages();
+    std::stable_sort(m_findings.begin(), m_findings.end(),
+                     [](const Finding &a, const Finding &b) { return a.line < b.line; });
+    return m_findings;
+}
+
+void ConfigCheck::checkFile()
+{
+    if (!QFileInfo::exists(m_path)) {
+        add(Severity::Warning, "file-missing", {},
+            QStringLiteral("There is no such file: every key has its default."),
+            QStringLiteral("Start from the sample MirovaHR.ini that comes with the plugin."));
+        return;
+    }
+    if (m_settings->status() == QSettings::FormatError) {
+        add(Severity::Error, "file-format", {},
+            QStringLiteral("The file has lines that are neither key=value, nor [group], nor a "
+                           "comment; they are left out."),
+            QStringLiteral("Compare the file with the sample MirovaHR.ini."));
+    }
+    if (QFileInfo(m_path).permission(QFileDevice::WriteOther)) {
+        add(Severity::Error, "file-world-writable", {},
+            QStringLiteral("Every user of the machine can change this file, and with syncCommand "
+                           "run programs as the attendance server."),
+            QStringLiteral("Take the right away: chmod o-w '%1'.").arg(m_path));
+    }
+}
+
+void ConfigCheck::checkKeys()
+{
+    QStringList seen;
+    for (const IniLine &line : m_lines) {
+        const bool known =
+            line.key.startsWith(QLatin1String("MES/")) || knownKeys().contains(line.key);
+        const QString meant = meantKey(line.key);
+        if (!known) {
+            add(Severity::Error, "unknown-key", line.key,
+                QStringLiteral("The plugin does not know this key; the line has no effect."),
+                meant.isEmpty() ? QStringLiteral("Remove the line, or see the sample "
+                                                 "MirovaHR.ini for the keys that there are.")
+                                : QStringLiteral("Perhaps %1 is meant: letter case counts, and it "
+                                                 "stands before the first group.")
+                                      .arg(meant));
+        }
+        if (seen.contains(line.key)) {
+            add(Severity::Warning, "key-twice", line.key,
+                QStringLiteral("The key stands in the file more than once; the last line counts."),
+                QStringLiteral("Leave one of the lines."));
+        }
+        if (hasUnquoted(line.value, QLatin1Char(';'))) {
+            add(Severity::Warning, "unquoted-semicolon", line.key,
+                QStringLiteral("The value ends at the semicolon; the rest of the line is a "
+                               "comment."),
+                QStringLiteral("Put the whole value in quotation marks."));
+        }
+        seen << line.key;
+    }
+}
+
+void ConfigCheck::checkFlag(const QString &key)
+{
+    if (!m_settings->contains(key))
+        return;
+    const QString text = written(key);
+    if (isPlainFlag(text))
+        return;
+    if (m_settings->value(key).toBool()) {
+        add(Severity::Warning, "flag-reads-as-true", key,
+            QStringLiteral("%1 reads as true, as everything does but 0, false and an empty value.")
+                .arg(PlainText::quoted(text)),
+            QStringLiteral("Write true or false."));
+    } else {
+        add(Severity::Warning, "flag-empty", key, QStringLiteral("An empty value reads as false."),
+            QStringLiteral("Write true or false."));
+    }
+}
+
+void ConfigCheck::checkNumber(const QString &key)
+{
+    if (!m_settings->contains(key))
+        return;
+    const QVariant value = m_settings->value(key);
+    bool isNumber = false;
+    const quint64 number = value.toULongLong(&isNumber);
+    if (!isNumber) {
+        add(Severity::Error, "number-reads-as-0", key,
+            QStringLiteral("%1 is no whole number and reads as 0.")
+                .arg(PlainText::quoted(written(key))),
+            QStringLiteral("Write digits only, without sign, unit, point or comma."));
+    } else if (number > std::numeric_limits<quint32>::max()) {
+        add(Severity::Error, "number-wraps", key,
+            QStringLiteral("%1 is too large and reads as %2.").arg(number).arg(value.toUInt()),
+            QStringLiteral("Write a number up to %1.").arg(std::numeric_limits<quint32>::max()));
+    }
+}
+
+void ConfigCheck::checkText(const QString &key)
+{
+    if (!isList(key))
+        return;
+    add(Severity::Error, "unquoted-comma", key,
+        QStringLiteral("The text has a comma outside quotation marks and reads as empty."),
+        QStringLiteral("Put the whole value in quotation marks."));
+}
+
+void ConfigCheck::checkOperation()
+{
+    const QString enabled = QStringLiteral("enabled");
+    if (!m_config.enabled) {
+        add(Severity::Warning, "disabled", enabled,
+            QStringLiteral("The plugin is switched off: it does nothing at all."),
+            QStringLiteral("Write enabled=true once it shall work."));
+    }
+    if (m_config.testMode) {
+        add(Severity::Warning, "test-mode", QStringLiteral("testMode"),
+            QStringLiteral("Test mode is on: people are neither created nor updated. Branches, "
+                           "calendars, balances, supervisors and terminals are written all the "
+                           "same."),
+            QStringLiteral("Write testMode=false for normal work."));
+    }
+    if (m_config.departmentId == 0) {
+        add(Severity::Note, "no-department", QStringLiteral("departmentId"),
+            QStringLiteral("New and updated people belong to no department."), {});
+    }
+}
+
+void ConfigCheck::checkPeriods()
+{
+    const QString key = QStringLiteral("timerInterval");
+    const quint32 seconds = m_settings->value(key, 60).toUInt();
+    const quint32 tick = Schedule::tickPeriod(m_config.tickMilliseconds);
+    if (quint64(seconds) * 1000 != m_config.tickMilliseconds) {
+        add(Severity::Error, "tick-overflows", key,
+            QStringLiteral("%1 seconds are more milliseconds than 32 bits hold: a tick comes "
+                           "every %2 ms.")
+                .arg(seconds)
+                .arg(tick),
+            QStringLiteral("Write at most 2147483."));
+    } else if (tick != m_config.tickMilliseconds) {
+        add(Severity::Warning, "tick-too-short", key,
+            QStringLiteral("A tick comes every second: the period is never shorter."),
+            QStringLiteral("Write the seconds between two ticks, 60 for a minute."));
+    } else if (quint32(Schedule::timerInterval(tick)) != tick) {
+        add(Severity::Warning, "tick-too-long", key,
+            QStringLiteral("The period is longer than a timer takes: a tick comes every %1 ms.")
+                .arg(Schedule::timerInterval(tick)),
+            QStringLiteral("Write at most 2147483."));
+    }
+    if (Schedule::ticksPerSynchronisation(m_config.syncInterval) != m_config.syncInterval) {
+        add(Severity::Warning, "sync-interval-zero", QStringLiteral("syncInterval"),
+            QStringLiteral("0 counts as 1: every tick synchronises."),
+            QStringLiteral("Write the number of ticks between two synchronisations."));
+    }
+}
+
+QString ConfigCheck::written(const QString &key) const
+{
+    // A list when the text has unquoted commas.
+    return m_settings->value(key).toStringList().join(QLatin1Char(','));
+}
+
+bool ConfigCheck::isList(const QString &key) const
+{
+    return m_settings->value(key).type() == QVariant::StringList;
+}
+
+qint64 ConfigCheck::lineOf(const QString &key) const
+{
+    // The last one: it is the one in force.
+    const auto found = std::find_if(m_lines.crbegin(), m_lines.crend(),
+                                    [&key](const IniLine &line) { return line.key == key; });
+    return found == m_lines.crend() ? 0 : found->number;
+}
+
+void ConfigCheck::add(Severity severity, const char *rule, const QString &key,
+                      const QString &message, const QString &advice)
+{
+    Finding finding;
+    finding.severity = severity;
+    finding.rule = QString::fromLatin1(rule);
+    finding.message = message;
+    finding.advice = advice;
+    finding.line = lineOf(key);
+    finding.field = key;
+    m_findings.append(finding);
+}

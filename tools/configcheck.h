@@ -1,0 +1,58 @@
+#pragma once
+
+#include "plugin/configuration.h"
+#include "tools/finding.h"
+#include "tools/inifile.h"
+#include "tools/reportwriter.h"
+
+#include <QVector>
+
+#include <memory>
+
+class QSettings;
+
+/// What an INI file puts in force, and what is wrong with it. Reads the file as the plugin does,
+/// and looks at the files and folders that it names; nothing else.
+class ConfigCheck {
+public:
+    explicit ConfigCheck(const QString &path);
+    ~ConfigCheck();
+    ConfigCheck(const ConfigCheck &) = delete;
+    ConfigCheck &operator=(const ConfigCheck &) = delete;
+
+    /// What is in force.
+    const Configuration &configuration() const { return m_config; }
+
+    /// Each key with what the file says and what is in force.
+    Table keys() const;
+
+    /// Everything that is wrong, in the order of the lines; first what has no line.
+    QVector<Finding> findings();
+
+private:
+    void checkFile();
+    void checkKeys();
+    void checkNumber(const QString &key);
+    void checkFlag(const QString &key);
+    void checkText(const QString &key);
+    void checkOperation();
+    void checkPeriods();
+    void checkImportFile();
+    void checkImportFolder(const QString &folder);
+    void checkSyncCommand();
+    void checkMessages();
+    void checkMessageKey(const QString &key);
+    void checkMessageCollisions(const QStringList &keys);
+
+    QString written(const QString &key) const;
+    bool isList(const QString &key) const;
+    qint64 lineOf(const QString &key) const;
+    void add(Severity severity, const char *rule, const QString &key, const QString &message,
+             const QString &advice);
+
+    const QString m_path;
+    const QVector<IniLine> m_lines;
+    std::unique_ptr<QSettings> m_settings;
+    Configuration m_config;
+    QVector<Finding> m_findings;
+};

@@ -1,0 +1,65 @@
+// The relationship states: group MES.
+
+#include "tools/configcheck.h"
+
+#include "tools/plaintext.h"
+
+#include <QSettings>
+
+namespace {
+
+QString settingsKey(const QString &key)
+{
+    return QStringLiteral("MES/") + key;
+}
+
+} // namespace
+
+void ConfigCheck::checkMessages()
+{
+    const QStringList keys = Configuration::messageKeys(*m_settings);
+    if (keys.isEmpty()) {
+        add(Severity::Note, "no-messages", QStringLiteral("MES"),
+            QStringLiteral("No register state is a relationship state: nobody has one running."),
+            {});
+    }
+    for (const QString &key : keys) {
+        checkMessageKey(key);
+        checkText(settingsKey(key));
+    }
+    checkMessageCollisions(keys);
+}
+
+void ConfigCheck::checkMessageKey(const QString &key)
+{
+    bool isNumber = false;
+    const uint number = key.toUInt(&isNumber, 10);
+    const unsigned short code = Configuration::messageCode(key);
+    if (!isNumber) {
+        add(Severity::Error, "mes-key-no-number", settingsKey(key),
+            QStringLiteral("The key is no register state code; it counts as code 0."),
+            QStringLiteral("Write the code of HR as the key, in digits."));
+    } else if (number != code) {
+        add(Severity::Error, "mes-key-wraps", settingsKey(key),
+            QStringLiteral("Only the low 16 bits of the code are kept: it counts as code %1.")
+                .arg(code),
+            QStringLiteral("Write a code up to 65535."));
+    }
+}
+
+void ConfigCheck::checkMessageCollisions(const QStringList &keys)
+{
+    QHash<unsigned short, QString> inForce;
+    for (const QString &key : keys)
+        inForce.insert(Configuration::messageCode(key), key);
+    for (const QString &key : keys) {
+        const unsigned short code = Configuration::messageCode(key);
+        const QString winner = inForce.value(code);
+        if (key == winner)
+            continue;
+        add(Severity::Error, "mes-keys-collide", settingsKey(key),
+            QStringLiteral("%1 and %2 are the same code %3; the text of %2 is in force.")
+                .arg(settingsKey(key), settingsKey(winner), QString::number(code)),
+            QStringLiteral("Leave one of the two lines."));
+    }
+}

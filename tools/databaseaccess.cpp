@@ -1,0 +1,39 @@
+#include "tools/databaseaccess.h"
+
+#include "cli/database.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+namespace {
+
+constexpr char kReadOnly[] = "SET SESSION TRANSACTION READ ONLY";
+
+bool refuseWriting(const Database &database, QString &error)
+{
+    QSqlQuery query(database.handle());
+    if (query.exec(QLatin1String(kReadOnly)))
+        return true;
+    error = QStringLiteral("The database cannot be opened for reading only: %1")
+                .arg(query.lastError().text());
+    return false;
+}
+
+} // namespace
+
+std::unique_ptr<Database> openDatabase(const DatabaseOptions &options, DatabaseAccess access,
+                                       QString &error)
+{
+    if (!Database::isDriverAvailable()) {
+        error = Database::missingDriverText();
+        return nullptr;
+    }
+    auto database = std::make_unique<Database>(options, QStringLiteral("mirovahrctl"));
+    if (!database->open()) {
+        error = QStringLiteral("The database cannot be opened: %1").arg(database->errorText());
+        return nullptr;
+    }
+    if (access == DatabaseAccess::ReadOnly && !refuseWriting(*database, error))
+        return nullptr;
+    return database;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class Database;
+struct DatabaseOptions;
+
+/// What a subcommand means to do with the site's database.
+enum class DatabaseAccess {
+    ReadOnly, ///< the server itself refuses whatever would write
+    ReadWrite
+};
+
+/// Opens a connection to the site's database. Null when that fails; `error` then says why, a
+/// sentence without its full stop.
+std::unique_ptr<Database> openDatabase(const DatabaseOptions &options, DatabaseAccess access,
+                                       QString &error);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+/// How mirovahrctl ends. Scripts and monitoring rely on the numbers: they are part of the help text
+/// and of the manual, and never change their meaning.
+enum class ExitStatus {
+    Fine = 0, ///< nothing to object to
+    Findings = 1, ///< there is something that a person should look at
+    Usage = 2, ///< the command line, a file that it names or the configuration is of no use
+    NoDatabase = 3, ///< the database cannot be reached or used
+    ContractBroken = 4, ///< the database is not what the plugin relies on
+    GuardTripped = 5, ///< a guard refused what was asked for; nothing was changed
+};
+
+/// What the status means: a sentence without its full stop.
+QString exitStatusSentence(ExitStatus status);
+
+/// A stable word for scripts: "fine", "findings", "usage", "no-database", "contract-broken" or
+/// "guard-tripped".
+QString exitStatusWord(ExitStatus status);
+
+/// The part of the help texts that lists every status.
+QString exitStatusHelp();

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+/// How much a finding matters. Notes alone leave the exit status at "fine".
+enum class Severity {
+    Note, ///< good to know; nothing is lost
+    Warning, ///< works, but hardly as meant
+    Error, ///< does not work: a line is dropped, a person not written, a key without effect
+};
+
+/// One thing that a checker has to say.
+struct Finding {
+    Severity severity = Severity::Warning;
+    QString rule; ///< stable name of the rule, such as "field-count"; scripts rely on it
+    QString message; ///< what is wrong, in plain sentences
+    QString advice; ///< what to do or to tell HR; may be empty
+    qint64 line = 0; ///< line of the checked file, counted from 1; 0: the file as a whole
+    QString field; ///< field of the export, key of the INI file, column; may be empty
+    QString subject; ///< whom or what it is about, such as "1234.1 Jana Nováková"; may be empty
+    bool dropped = false; ///< the plugin leaves this line out
+};
+
+/// "note", "warning" or "error".
+QString severityWord(Severity severity);

@@ -1,0 +1,211 @@
+#include "tools/htmlreport.h"
+
+#include "tools/finding.h"
+#include "tools/plaintext.h"
+
+#include <QDateTime>
+#include <QIODevice>
+
+namespace {
+
+// The policy makes sure that the page fetches nothing, whatever a file put into it.
+constexpr char kHead[] = R"(<!DOCTYPE html>
+<html lang="en">
+<head>
+<meta charset="utf-8">
+<meta name="viewport" content="width=device-width, initial-scale=1">
+<meta http-equiv="Content-Security-Policy" content="default-src 'none'; style-src 'unsafe-inline'">
+)";
+
+constexpr char kStyle[] = R"(<style>
+:root { color-scheme: light; }
+body { font: 16px/1.45 system-ui, "DejaVu Sans", sans-serif; color: #1c2430; background: #fff;
+       max-width: 75rem; margin: 0 auto; padding: 1rem; }
+h1 { font-size: 1.5rem; margin: 0 0 .5rem; overflow-wrap: anywhere; }
+h2 { font-size: 1.2rem; margin: 2rem 0 .5rem; border-bottom: 2px solid #d5dbe3; }
+p { margin: .4rem 0; overflow-wrap: anywhere; }
+.verdict { font-weight: 600; padding: .6rem .8rem; border-left: .4rem solid #b3261e;
+           background: #fbeceb; }
+.verdict.fine { border-color: #1d6b3a; background: #e9f5ed; }
+dl { display: flex; flex-wrap: wrap; gap: .3rem 1.5rem; margin: .8rem 0; }
+dl div { display: flex; gap: .4rem; }
+dt { color: #50596a; }
+dd { margin: 0; font-weight: 600; overflow-wrap: anywhere; }
+table { border-collapse: collapse; width: 100%; margin: .6rem 0; }
+th, td { text-align: left; vertical-align: top; padding: .35rem .5rem;
+         border-bottom: 1px solid #d5dbe3; overflow-wrap: anywhere; }
+th { background: #eef1f5; }
+.error { color: #b3261e; font-weight: 600; }
+.warning { color: #8a5300; font-weight: 600; }
+.note { color: #50596a; }
+.advice { color: #33415c; }
+footer { margin-top: 2rem; color: #50596a; font-size: .85rem; }
+@media (max-width: 44rem) {
+  thead { display: none; }
+  table, tbody, tr, td { display: block; }
+  tr { border: 1px solid #d5dbe3; border-radius: .4rem; margin: .6rem 0; padding: .2rem 0; }
+  td { border: 0; padding: .2rem .6rem; }
+  td:empty { display: none; }
+  td[data-label]::before { content: attr(data-label) ": "; color: #50596a; font-weight: 400; }
+}
+@media print {
+  body { font-size: 10pt; max-width: none; padding: 0; }
+  thead { display: table-header-group; }
+  tr { break-inside: avoid; }
+  h2 { break-after: avoid; }
+}
+</style>
+)";
+
+QString html(const QString &text)
+{
+    return PlainText::visible(text).toHtmlEscaped();
+}
+
+QString cell(const QString &label, const QString &content)
+{
+    return QStringLiteral("<td data-label=\"%1\">%2</td>").arg(html(label), content);
+}
+
+QString placeOf(const Finding &finding)
+{
+    return finding.line > 0 ? QString::number(finding.line) : QString();
+}
+
+QString messageOf(const Finding &finding)
+{
+    QString text = html(finding.message);
+    if (!finding.advice.isEmpty())
+        text += QStringLiteral("<p class=\"advice\">%1</p>").arg(html(finding.advice));
+    return text;
+}
+
+QString severityOf(const Finding &finding)
+{
+    const QString word = severityWord(finding.severity);
+    const QString text = finding.dropped ? QStringLiteral("dropped") : word;
+    return QStringLiteral("<span class=\"%1\">%2</span>").arg(word, text);
+}
+
+QString tableHead(const Table &table)
+{
+    QString text = QStringLiteral("<table>\n<thead><tr>");
+    for (const Table::Column &column : table.columns)
+        text += QStringLiteral("<th>%1</th>").arg(html(column.heading));
+    return text + QStringLiteral("</tr></thead>\n<tbody>\n");
+}
+
+QString tableRow(const Table &table, const QVariantList &row)
+{
+    QString text = QStringLiteral("<tr>");
+    for (int i = 0; i < table.columns.size(); ++i)
+        text += cell(table.columns.at(i).heading, html(row.at(i).toString()));
+    return text + QStringLiteral("</tr>\n");
+}
+
+} // namespace
+
+HtmlReport::HtmlReport(QIODevice &out)
+    : m_out(out)
+{
+}
+
+void HtmlReport::begin(const QString &, const QString &title)
+{
+    m_title = title;
+}
+
+void HtmlReport::section(const QString &id, const QString &heading)
+{
+    endSection();
+    m_sections += QStringLiteral("<section id=\"%1\">\n<h2>%2</h2>\n").arg(html(id), html(heading));
+    m_inSection = true;
+}
+
+void HtmlReport::sentence(const QString &text)
+{
+    endFindings();
+    m_sections += QStringLiteral("<p>%1</p>\n").arg(html(text));
+}
+
+void HtmlReport::table(const Table &table)
+{
+    endFindings();
+    m_sections += tableHead(table);
+    for (const QVariantList &row : table.rows)
+        m_sections += tableRow(table, row);
+    m_sections += QStringLiteral("</tbody>\n</table>\n");
+}
+
+void HtmlReport::finding(const Finding &finding)
+{
+    if (m_findingCount == kMostFindings) {
+        ++m_leftOut;
+        return;
+    }
+    ++m_findingCount;
+    beginFindings();
+    m_sections += QStringLiteral("<tr>%1%2%3%4%5</tr>\n")
+                      .arg(cell(QStringLiteral("Line"), placeOf(finding)),
+                           cell(QStringLiteral("Who"), html(finding.subject)),
+                           cell(QStringLiteral("Field"), html(finding.field)),
+                           cell(QStringLiteral("Result"), severityOf(finding)),
+                           cell(QStringLiteral("What is wrong"), messageOf(finding)));
+}
+
+void HtmlReport::fact(const QString &, const QString &label, const QVariant &value)
+{
+    m_facts += QStringLiteral("<div><dt>%1:</dt><dd>%2</dd></div>\n")
+                   .arg(html(label), html(value.toString()));
+}
+
+void HtmlReport::end(ExitStatus status, const QString &verdict)
+{
+    endSection();
+    const QString now = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm"));
+    const QString page =
+        QStringLiteral("<title>%1</title>\n%2</head>\n<body>\n<header>\n<h1>%1</h1>\n"
+                       "<p class=\"verdict %3\">%4</p>\n<dl>\n%5</dl>\n</header>\n<main>\n%6"
+                       "</main>\n<footer><p>Written by mirovahrctl %7 on %8.</p></footer>\n"
+                       "</body>\n</html>\n")
+            .arg(html(m_title), QLatin1String(kStyle), exitStatusWord(status), html(verdict),
+                 m_facts, m_sections, QStringLiteral(MIROVAHR_VERSION), now);
+    m_out.write(kHead);
+    m_out.write(page.toUtf8());
+}
+
+void HtmlReport::endSection()
+{
+    endFindings();
+    leaveOutRest();
+    if (m_inSection)
+        m_sections += QStringLiteral("</section>\n");
+    m_inSection = false;
+}
+
+void HtmlReport::beginFindings()
+{
+    if (m_inFindings)
+        return;
+    m_sections += QStringLiteral("<table class=\"findings\">\n<thead><tr><th>Line</th><th>Who</th>"
+                                 "<th>Field</th><th>Result</th><th>What is wrong</th></tr></thead>"
+                                 "\n<tbody>\n");
+    m_inFindings = true;
+}
+
+void HtmlReport::endFindings()
+{
+    if (m_inFindings)
+        m_sections += QStringLiteral("</tbody>\n</table>\n");
+    m_inFindings = false;
+}
+
+void HtmlReport::leaveOutRest()
+{
+    if (m_leftOut == 0)
+        return;
+    m_sections += QStringLiteral("<p>This page ends here: %1 more are not shown.</p>\n")
+                      .arg(PlainText::counted(m_leftOut, QStringLiteral("finding"),
+                                              QStringLiteral("findings")));
+    m_leftOut = 0;
+}

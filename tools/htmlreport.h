@@ -1,0 +1,42 @@
+#pragma once
+
+#include "tools/reportwriter.h"
+
+#include <QString>
+
+class QIODevice;
+
+/// A report as one web page that needs nothing but itself: no network, no script, readable on a
+/// phone and in print. For somebody without a terminal.
+///
+/// The verdict and the facts stand at the top. The page is kept in memory and written by end(), so
+/// it shows only the first findings and says how many more there are.
+class HtmlReport : public ReportWriter {
+public:
+    static constexpr int kMostFindings = 1000;
+
+    explicit HtmlReport(QIODevice &out);
+
+    void begin(const QString &subcommand, const QString &title) override;
+    void section(const QString &id, const QString &heading) override;
+    void sentence(const QString &text) override;
+    void table(const Table &table) override;
+    void finding(const Finding &finding) override;
+    void fact(const QString &id, const QString &label, const QVariant &value) override;
+    void end(ExitStatus status, const QString &verdict) override;
+
+private:
+    void endSection();
+    void beginFindings();
+    void endFindings();
+    void leaveOutRest();
+
+    QIODevice &m_out;
+    QString m_title;
+    QString m_facts;
+    QString m_sections;
+    bool m_inSection = false;
+    bool m_inFindings = false;
+    int m_findingCount = 0; ///< in the whole report
+    qint64 m_leftOut = 0; ///< findings that the current table of findings does not show
+};

@@ -1,0 +1,118 @@
+#include "tools/jsonreport.h"
+
+#include "tools/finding.h"
+
+#include <QIODevice>
+#include <QJsonDocument>
+
+namespace {
+
+QByteArray compact(const QJsonObject &object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+/// The members of an object without its braces.
+QByteArray members(const QJsonObject &object)
+{
+    const QByteArray text = compact(object);
+    return text.mid(1, text.size() - 2);
+}
+
+void insertText(QJsonObject &object, const char *name, const QString &text)
+{
+    if (!text.isEmpty())
+        object.insert(QLatin1String(name), text);
+}
+
+QJsonObject findingObject(const Finding &finding)
+{
+    QJsonObject object{{QStringLiteral("severity"), severityWord(finding.severity)},
+                       {QStringLiteral("rule"), finding.rule},
+                       {QStringLiteral("message"), finding.message}};
+    insertText(object, "advice", finding.advice);
+    insertText(object, "field", finding.field);
+    insertText(object, "subject", finding.subject);
+    if (finding.line > 0)
+        object.insert(QStringLiteral("line"), finding.line);
+    if (finding.dropped)
+        object.insert(QStringLiteral("dropped"), true);
+    return object;
+}
+
+QJsonObject rowObject(const Table &table, const QVariantList &row)
+{
+    QJsonObject object;
+    for (int i = 0; i < table.columns.size(); ++i)
+        object.insert(table.columns.at(i).id, QJsonValue::fromVariant(row.at(i)));
+    return object;
+}
+
+} // namespace
+
+JsonReport::JsonReport(QIODevice &out)
+    : m_out(out)
+{
+}
+
+void JsonReport::begin(const QString &subcommand, const QString &title)
+{
+    m_out.write("{"
+                + members({{QStringLiteral("mirovahrctl"), QStringLiteral(MIROVAHR_VERSION)},
+                           {QStringLiteral("subcommand"), subcommand},
+                           {QStringLiteral("title"), title}})
+                + ",\n\"findings\":[");
+}
+
+void JsonReport::section(const QString &id, const QString &heading)
+{
+    endSection();
+    m_section = {{QStringLiteral("id"), id}, {QStringLiteral("heading"), heading}};
+}
+
+void JsonReport::sentence(const QString &text)
+{
+    m_sentences.append(text);
+}
+
+void JsonReport::table(const Table &table)
+{
+    QJsonArray rows;
+    for (const QVariantList &row : table.rows)
+        rows.append(rowObject(table, row));
+    m_tables.insert(table.id, rows);
+}
+
+void JsonReport::finding(const Finding &finding)
+{
+    m_out.write((m_hasFindings ? ",\n" : "\n") + compact(findingObject(finding)));
+    m_hasFindings = true;
+}
+
+void JsonReport::fact(const QString &id, const QString &, const QVariant &value)
+{
+    m_facts.insert(id, QJsonValue::fromVariant(value));
+}
+
+void JsonReport::end(ExitStatus status, const QString &verdict)
+{
+    endSection();
+    m_out.write("],\n"
+                + members({{QStringLiteral("sections"), m_sections},
+                           {QStringLiteral("facts"), m_facts},
+                           {QStringLiteral("status"), static_cast<int>(status)},
+                           {QStringLiteral("result"), exitStatusWord(status)},
+                           {QStringLiteral("verdict"), verdict}})
+                + "}\n");
+}
+
+void JsonReport::endSection()
+{
+    if (m_section.isEmpty())
+        return;
+    m_section.insert(QStringLiteral("sentences"), m_sentences);
+    m_section.insert(QStringLiteral("tables"), m_tables);
+    m_sections.append(m_section);
+    m_sentences = {};
+    m_tables = {};
+}

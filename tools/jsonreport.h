@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tools/reportwriter.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+class QIODevice;
+
+/// A report as one JSON object:
+///
+///     {"mirovahrctl": version, "subcommand": ..., "title": ...,
+///      "findings": [{"severity", "rule", "message", "advice", "line", "field", "subject",
+///                    "dropped"}, ...],
+///      "sections": [{"id", "heading", "sentences": [...], "tables": {id: [{column: cell}, ...]}}],
+///      "facts": {id: value}, "status": number, "result": word, "verdict": sentence}
+///
+/// Findings are written as they come, one on a line. Members that a finding has not are absent.
+class JsonReport : public ReportWriter {
+public:
+    explicit JsonReport(QIODevice &out);
+
+    void begin(const QString &subcommand, const QString &title) override;
+    void section(const QString &id, const QString &heading) override;
+    void sentence(const QString &text) override;
+    void table(const Table &table) override;
+    void finding(const Finding &finding) override;
+    void fact(const QString &id, const QString &label, const QVariant &value) override;
+    void end(ExitStatus status, const QString &verdict) override;
+
+private:
+    void endSection();
+
+    QIODevice &m_out;
+    bool m_hasFindings = false;
+    QJsonArray m_sections;
+    QJsonObject m_section; ///< the current one; empty before the first
+    QJsonArray m_sentences; ///< of the current section
+    QJsonObject m_tables; ///< of the current section
+    QJsonObject m_facts;
+};

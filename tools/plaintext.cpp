@@ -1,0 +1,49 @@
+#include "tools/plaintext.h"
+
+namespace PlainText {
+
+namespace {
+
+constexpr int kLongest = 60;
+
+bool isInvisible(QChar c)
+{
+    return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format
+        || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
+QString escaped(QChar c)
+{
+    if (c.unicode() < 0x100)
+        return QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+    return QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+}
+
+} // namespace
+
+QString visible(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar c : text) {
+        if (isInvisible(c))
+            result += escaped(c);
+        else
+            result += c;
+    }
+    return result;
+}
+
+QString quoted(const QString &text)
+{
+    const bool cut = text.size() > kLongest;
+    return QStringLiteral("\"%1\"%2")
+        .arg(visible(text.left(kLongest)), cut ? QStringLiteral("…") : QString());
+}
+
+QString counted(qint64 count, const QString &one, const QString &many)
+{
+    return QStringLiteral("%1 %2").arg(QString::number(count), count == 1 ? one : many);
+}
+
+} // namespace PlainText

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// Texts from files and databases, made fit to be shown.
+namespace PlainText {
+
+/// The text with every control character as a visible escape such as "\x1b": what an export
+/// contains must not steer a terminal or break a line.
+QString visible(const QString &text);
+
+/// As visible(), between quotation marks and cut short when it is long.
+QString quoted(const QString &text);
+
+/// "1 line", "2 lines".
+QString counted(qint64 count, const QString &one, const QString &many);
+
+} // namespace PlainText

@@ -1,0 +1,43 @@
+#include "tools/progress.h"
+
+#include "tools/console.h"
+
+#include <QIODevice>
+
+namespace {
+
+constexpr qint64 kMillisecondsBetweenShows = 200;
+
+// Back to the first column, and the rest of the line cleared.
+constexpr char kLineStart[] = "\r\x1b[K";
+
+} // namespace
+
+Progress::Progress(Console &console, const QString &what, qint64 total)
+    : m_console(console)
+    , m_what(what)
+    , m_total(total)
+{
+    m_sinceShown.start();
+}
+
+Progress::~Progress()
+{
+    if (m_shown)
+        m_console.err().write(kLineStart);
+}
+
+void Progress::update(qint64 done)
+{
+    if (m_console.isInteractive() && m_sinceShown.elapsed() >= kMillisecondsBetweenShows)
+        show(done);
+}
+
+void Progress::show(qint64 done)
+{
+    const qint64 percent = m_total > 0 ? qMin<qint64>(100, done * 100 / m_total) : 0;
+    m_console.err().write(kLineStart);
+    m_console.err().write(QStringLiteral("%1: %2 %").arg(m_what).arg(percent).toUtf8());
+    m_sinceShown.restart();
+    m_shown = true;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QString>
+
+class Console;
+
+/// How far a long piece of work is, in one line on standard error that is gone at the end. Shows
+/// nothing when standard error is no terminal, and nothing for work that is done at once.
+class Progress {
+public:
+    /// \a what names the work, such as "Reading the export".
+    Progress(Console &console, const QString &what, qint64 total);
+    ~Progress();
+    Progress(const Progress &) = delete;
+    Progress &operator=(const Progress &) = delete;
+
+    /// Cheap enough to be called for every line of a file.
+    void update(qint64 done);
+
+private:
+    void show(qint64 done);
+
+    Console &m_console;
+    const QString m_what;
+    const qint64 m_total;
+    QElapsedTimer m_sinceShown;
+    bool m_shown = false;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "tools/reportwriter.h"
+
+#include <QSaveFile>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class CommandLine;
+class Console;
+
+/// The report of a subcommand in every form that its command line asks for: text or JSON on the
+/// console, and the page of --html.
+class Report : public ReportWriter {
+public:
+    Report(const CommandLine &line, Console &console);
+
+    /// Opens what must be opened. Has a status when the subcommand must end with it: the page
+    /// cannot be written, which was said on the console.
+    std::optional<ExitStatus> open();
+
+    void begin(const QString &subcommand, const QString &title) override;
+    void section(const QString &id, const QString &heading) override;
+    void sentence(const QString &text) override;
+    void table(const Table &table) override;
+    /// Also remembers whether it is worse than a note, for findingsStatus().
+    void finding(const Finding &finding) override;
+    void fact(const QString &id, const QString &label, const QVariant &value) override;
+    void end(ExitStatus status, const QString &verdict) override;
+
+    /// Fine, or Findings once there was a warning or an error.
+    ExitStatus findingsStatus() const;
+
+    /// Ends the report and puts the page in its place. Returns the status to end with: the given
+    /// one, or Usage when the page could not be written, which was said on the console.
+    ExitStatus conclude(ExitStatus status, const QString &verdict);
+
+private:
+    ExitStatus failPage() const;
+
+    Console &m_console;
+    QSaveFile m_page;
+    std::vector<std::unique_ptr<ReportWriter>> m_writers;
+    bool m_hasSeriousFindings = false;
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "tools/exitstatus.h"
+
+#include <QString>
+#include <QVariant>
+#include <QVector>
+
+struct Finding;
+
+/// A table of a report. A cell that is an invalid QVariant stands for "nothing there".
+struct Table {
+    struct Column {
+        QString id; ///< stable name for scripts
+        QString heading; ///< for people
+    };
+
+    QString id; ///< stable name for scripts, unique in its section
+    QVector<Column> columns;
+    QVector<QVariantList> rows; ///< a cell for each column
+};
+
+/// Writes what a subcommand found out, in one form: see TextReport, JsonReport, HtmlReport and, for
+/// all that the command line asks for, Report.
+///
+/// The calls come in the order in which people shall read: begin(), then for each section
+/// section() and its sentences, tables and findings, then end(). Facts may stand anywhere between
+/// begin() and end(). Findings are not kept, so that there may be millions of them; tables and
+/// sentences are kept by some forms.
+class ReportWriter {
+public:
+    ReportWriter() = default;
+    virtual ~ReportWriter() = default;
+    ReportWriter(const ReportWriter &) = delete;
+    ReportWriter &operator=(const ReportWriter &) = delete;
+
+    /// \a subcommand as on the command line, \a title for people.
+    virtual void begin(const QString &subcommand, const QString &title) = 0;
+    /// Begins a section. \a id is its stable name for scripts, unique in the report.
+    virtual void section(const QString &id, const QString &heading) = 0;
+    virtual void sentence(const QString &text) = 0;
+    virtual void table(const Table &table) = 0;
+    virtual void finding(const Finding &finding) = 0;
+    /// One number or text about the whole: "lines", "Lines in the file", 1200.
+    virtual void fact(const QString &id, const QString &label, const QVariant &value) = 0;
+    /// Ends the report. \a verdict is the result in one plain sentence.
+    virtual void end(ExitStatus status, const QString &verdict) = 0;
+};

@@ -1,0 +1,69 @@
+#include "tools/subcommand.h"
+
+#include "tools/checkconfig.h"
+#include "tools/console.h"
+
+#include <algorithm>
+
+namespace {
+
+QString overview()
+{
+    QStringList lines{
+        QStringLiteral("Usage: mirovahrctl SUBCOMMAND [OPTION...] [ARGUMENT...]"),
+        QString(),
+        QStringLiteral("The operator's side of MirovaHR, the plugin that brings an attendance "
+                       "database in step"),
+        QStringLiteral("with the export of an HR system."),
+        QString(),
+        QStringLiteral("Subcommands:"),
+    };
+    for (const Subcommand &subcommand : subcommands()) {
+        lines << QStringLiteral("  %1 %2")
+                     .arg(QLatin1String(subcommand.name), -14)
+                     .arg(QLatin1String(subcommand.summary));
+    }
+    lines << QString()
+          << QStringLiteral("  mirovahrctl SUBCOMMAND --help   what it does and its options")
+          << QStringLiteral("  mirovahrctl --help              this overview")
+          << QStringLiteral("  mirovahrctl --version           the version") << QString()
+          << exitStatusHelp();
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+const QVector<Subcommand> &subcommands()
+{
+    static const QVector<Subcommand> all{
+        {"check-config", "What the INI file puts in force, and what is wrong with it",
+         runCheckConfig},
+    };
+    return all;
+}
+
+ExitStatus runMirovahrctl(const QStringList &arguments, Console &console)
+{
+    const QString name = arguments.value(0);
+    if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
+        console.print(overview());
+        return ExitStatus::Fine;
+    }
+    if (name == QLatin1String("--version")) {
+        console.print(QStringLiteral("mirovahrctl " MIROVAHR_VERSION));
+        return ExitStatus::Fine;
+    }
+    const auto all = subcommands();
+    const auto found =
+        std::find_if(all.cbegin(), all.cend(), [&name](const Subcommand &subcommand) {
+            return name == QLatin1String(subcommand.name);
+        });
+    if (found == all.cend()) {
+        return console.fail(
+            ExitStatus::Usage,
+            name.isEmpty()
+                ? QStringLiteral("Name a subcommand; --help lists them")
+                : QStringLiteral("There is no subcommand '%1'; --help lists them").arg(name));
+    }
+    return found->run(arguments.mid(1), console);
+}
