@@ -10,6 +10,7 @@
 
 namespace {
 
+// The texts are fixed, doubled blanks included.
 constexpr QLatin1String kTermsOfBranch("SELECT tid FROM term WHERE status > 0 AND bid = %1");
 constexpr QLatin1String kAdminsOfBranch("SELECT aid FROM bradm WHERE bid = %1");
 constexpr QLatin1String kPeopleOfBranch("SELECT uid FROM brape WHERE bid = %1");
@@ -170,6 +171,7 @@ bool BranchesRepository::deletePeopleFromTerms(ushort bid, const QStringList &ui
 bool BranchesRepository::deletePeopleFromAdmins(ushort bid, const QStringList &uids)
 {
     logCall("BranchesRepository::deletePeopleFromAdmins", bid, joined(uids));
+    // Administrators are compared by their whole ids; only the removal takes 16 bits.
     const QVector<unsigned int> aids = getAids4Branch(bid);
     return forEveryId(uids, [&](const QString &text) {
         const unsigned int uid = text.toUInt();

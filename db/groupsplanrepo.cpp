@@ -28,13 +28,19 @@ constexpr QLatin1String kSelectPlan("SELECT gid FROM groups_plan ");
 constexpr QLatin1String kLatestFirst(" ORDER BY since DESC LIMIT 1");
 constexpr QLatin1String kSelectDefault("SELECT gid FROM people WHERE uid = %1");
 
+/// The database's error number; -1 when the error is not one of the database.
+int errorNumber(const QSqlError &error)
+{
+    const QString code = error.nativeErrorCode();
+    return code.isEmpty() ? -1 : code.toInt();
+}
+
 bool failed(const QSqlQuery &query, const char *operation)
 {
     const QSqlError error = query.lastError();
     if (!error.isValid())
         return false;
-    qCritical("%s - ERROR[%i]: %s", operation, error.nativeErrorCode().toInt(),
-              qUtf8Printable(error.text()));
+    qCritical("%s - ERROR[%i]: %s", operation, errorNumber(error), qUtf8Printable(error.text()));
     return true;
 }
 

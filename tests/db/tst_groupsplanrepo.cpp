@@ -57,6 +57,7 @@ private Q_SLOTS:
     void callsAreLoggedFromLevel2On();
     void errorTextsAreLoggedInUtf8();
     void aClosedConnectionFailsWithoutAnError();
+    void aRepositoryWithoutAConnectionReportsThat();
 
     void monthOfATimestampIsLocal_data();
     void monthOfATimestampIsLocal();
@@ -568,6 +569,15 @@ void TestGroupsPlanRepo::aClosedConnectionFailsWithoutAnError()
     QVERIFY(!repo.updateGroupsMonth(17, 202403));
     QCOMPARE(repo.getCurrentGid(17, 202403, true), 0u);
     QCOMPARE(log.lines().filter(QRegularExpression("^C")), QStringList());
+}
+
+void TestGroupsPlanRepo::aRepositoryWithoutAConnectionReportsThat()
+{
+    GroupsPlanRepo repo(nullptr);
+    LogCapture log;
+    QVERIFY(!repo.add({4, 17, 202403}));
+    QCOMPARE(log.lines().last(),
+             QString("C GroupsPlanRepo::add - ERROR[-1]: Driver not loaded Driver not loaded"));
 }
 
 void TestGroupsPlanRepo::monthOfATimestampIsLocal_data()
