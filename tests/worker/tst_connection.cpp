@@ -1,0 +1,202 @@
+#include "tests/support/logcapture.h"
+#include "tests/worker/workertest.h"
+
+#include <QtTest>
+
+/// The worker's connection: opened, closed and lost.
+class TestConnection : public WorkerTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void openingAndClosingAreLoggedAlikeFromDebugLevel2On_data();
+    void openingAndClosingAreLoggedAlikeFromDebugLevel2On();
+    void anOpenConnectionIsKept();
+    void aClosedConnectionIsOpenedAgain();
+    void closingTwiceIsHarmless();
+    void aServerThatIsDownIsCritical_data();
+    void aServerThatIsDownIsCritical();
+    void openingWorksAgainOnceTheServerIsBack();
+    void aLostConnectionFailsUntilItIsClosed();
+    void aClosedConnectionFailsEveryOperation();
+
+private:
+    QStringList connectionEvents();
+};
+
+/// The begin and end of connections as the server saw them.
+QStringList TestConnection::connectionEvents()
+{
+    QStringList commands;
+    for (const ServerEvent &event : m_db.events()) {
+        if (event.command == "Connect" || event.command == "Quit")
+            commands += event.command;
+    }
+    return commands;
+}
+
+void TestConnection::openingAndClosingAreLoggedAlikeFromDebugLevel2On_data()
+{
+    addDebugLevels();
+}
+
+void TestConnection::openingAndClosingAreLoggedAlikeFromDebugLevel2On()
+{
+    QFETCH(int, level);
+    setDebugLevel(level);
+    const QStringList expected = linesAt(level, {{2, "D MHRWorker::dbCheckOpen()"}});
+    QCOMPARE(observe([this] { QVERIFY(m_worker->dbCheckOpen()); }).log, expected);
+    QCOMPARE(observe([this] { m_worker->dbClose(); }).log, expected);
+    QCOMPARE(observe([this] { m_worker->dbClose(); }).log, expected);
+    QCOMPARE(observe([this] { QVERIFY(m_worker->dbCheckOpen()); }).log, expected);
+}
+
+void TestConnection::anOpenConnectionIsKept()
+{
+    const Trace trace = observe([this] {
+        QVERIFY(m_worker->dbCheckOpen());
+        QVERIFY(m_worker->dbCheckOpen());
+        QCOMPARE(connectionEvents(), QStringList());
+    });
+    QCOMPARE(trace.statements, QStringList());
+}
+
+void TestConnection::aClosedConnectionIsOpenedAgain()
+{
+    const Trace trace = observe([this] {
+        m_worker->dbClose();
+        QVERIFY(m_worker->dbCheckOpen());
+        QCOMPARE(connectionEvents(), QStringList({"Quit", "Connect"}));
+    });
+    QCOMPARE(trace.log, QStringList());
+    QCOMPARE(trace.statements, QStringList());
+}
+
+void TestConnection::closingTwiceIsHarmless()
+{
+    const Trace trace = observe([this] {
+        m_worker->dbClose();
+        m_worker->dbClose();
+        QCOMPARE(connectionEvents(), QStringList("Quit"));
+    });
+    QCOMPARE(trace.log, QStringList());
+}
+
+void TestConnection::aServerThatIsDownIsCritical_data()
+{
+    addDebugLevels();
+}
+
+void TestConnection::aServerThatIsDownIsCritical()
+{
+    QFETCH(int, level);
+    const QString error =
+        "Can't connect to local server through socket '" + m_db.server().socketPath() + "' (2)";
+    m_worker->dbClose();
+    m_db.stopServer();
+    setDebugLevel(level);
+    QStringList lines;
+    {
+        const LogCapture log;
+        QVERIFY(!m_worker->dbCheckOpen());
+        lines = log.lines();
+    }
+    m_db.startServer();
+    QCOMPARE(lines,
+             linesAt(level,
+                     {{2, "D MHRWorker::dbCheckOpen()"},
+                      {0,
+                       "C MHRWorker::dbCheckOpen() - SQL ERROR: " + error
+                           + " QMYSQL: Unable to connect"}}));
+}
+
+void TestConnection::openingWorksAgainOnceTheServerIsBack()
+{
+    m_worker->dbClose();
+    m_db.stopServer();
+    {
+        const LogCapture log;
+        QVERIFY(!m_worker->dbCheckOpen());
+        QVERIFY(!m_worker->dbCheckOpen());
+        QCOMPARE(log.lines().size(), 2);
+    }
+    m_db.startServer();
+    // The error of the failed attempts is not reported again.
+    const Trace trace = observe([this] {
+        QVERIFY(m_worker->dbCheckOpen());
+        QVERIFY(m_worker->dbCheckOpen());
+        QVERIFY(m_worker->dbLoadPeople());
+    });
+    QCOMPARE(trace.log, QStringList());
+    QCOMPARE(trace.statements.size(), 1);
+}
+
+void TestConnection::aLostConnectionFailsUntilItIsClosed()
+{
+    const MirovaRonRecord record = fullRecord();
+    m_db.killServer();
+    m_db.startServer();
+
+    // The connection still calls itself open, and no statement reaches the server.
+    const Trace lost = observe([this, &record] {
+        QVERIFY(m_worker->dbCheckOpen());
+        QVERIFY(!m_worker->dbLoadPeople());
+        QVERIFY(m_worker->dbCheckOpen());
+        QCOMPARE(m_worker->dbGetUidByPid(1), 0U);
+        QVERIFY(!m_worker->dbCheckPerson(record));
+        QVERIFY(!m_worker->dbAddPerson(record));
+        QVERIFY(!m_worker->dbUpdatePerson(record, false));
+        QVERIFY(!m_worker->addPersonIntoPam(1));
+        QVERIFY(!m_worker->dbAddPersonIntoPam(1, 1));
+        m_worker->addTermSyncPerson(1, 'U', "people");
+    });
+    QCOMPARE(lost.statements, QStringList());
+    QCOMPARE(lost.log,
+             QStringList({
+                 "C MHRWorker::dbLoadPeople() - SQL ERROR [2006]: " + goneText(),
+                 "C MHRWorker::dbGetUidByPid() - SQL ERROR [2006]: " + goneText(),
+                 "C MHRWorker::dbCheckPerson() - SQL ERROR [2006]: " + goneText(),
+                 "C MHRWorker::dbAddPerson(1234.2) - SQL ERROR: " + goneText(),
+                 "C MHRWorker::dbUpdatePerson(1234.2) - SQL ERROR: " + goneText(),
+                 "C TepDbSettings::variableGetMultiple - SQL ERROR: " + goneText(),
+                 "W MHRWorker::addTermSyncPerson(1) - uid NOT selected from DB!",
+             }));
+
+    const Trace healed = observe([this] {
+        m_worker->dbClose();
+        QVERIFY(m_worker->dbCheckOpen());
+        QVERIFY(m_worker->dbLoadPeople());
+    });
+    QCOMPARE(healed.log, QStringList());
+    QCOMPARE(healed.statements.size(), 1);
+}
+
+void TestConnection::aClosedConnectionFailsEveryOperation()
+{
+    // A statement on a closed connection fails without leaving an error: only its result tells.
+    const MirovaRonRecord record = fullRecord();
+    m_worker->dbClose();
+    Trace trace = observe([this, &record] {
+        QVERIFY(!m_worker->dbLoadPeople());
+        QCOMPARE(m_worker->dbGetUidByPid(1), 0U);
+        QVERIFY(!m_worker->dbCheckPerson(record));
+        QVERIFY(!m_worker->dbAddPerson(record));
+        QVERIFY(!m_worker->dbUpdatePerson(record, false));
+        QVERIFY(!m_worker->addPersonIntoPam(1));
+        QVERIFY(!m_worker->dbAddPersonIntoPam(1, 1));
+        m_worker->addTermSyncPerson(1, 'U', "people");
+    });
+    trace.log.removeAll("W QSqlQuery::exec: database not open");
+    QCOMPARE(trace.statements, QStringList());
+    QCOMPARE(trace.log,
+             QStringList({
+                 "C MHRWorker::dbLoadPeople() - SQL ERROR []: ",
+                 "C MHRWorker::dbGetUidByPid() - SQL ERROR []: ",
+                 "C MHRWorker::dbCheckPerson() - SQL ERROR []: ",
+                 "C MHRWorker::dbAddPerson(1234.2) - SQL ERROR: ",
+                 "C MHRWorker::dbUpdatePerson(1234.2) - SQL ERROR: ",
+                 "W MHRWorker::addTermSyncPerson(1) - uid NOT selected from DB!",
+             }));
+}
+
+QTEST_GUILESS_MAIN(TestConnection)
+#include "tst_connection.moc"

@@ -1,0 +1,130 @@
+#include "tests/worker/workertest.h"
+
+#include "tests/support/logcapture.h"
+#include "tests/support/verifysql.h"
+
+#include <QtTest>
+
+#include <ctime>
+
+namespace {
+
+const QString kHostConnection = "host";
+const QString kWorkerConnection = "YAV.tepdb.MirovaHR";
+
+} // namespace
+
+void WorkerTest::initMain()
+{
+    qputenv("TZ", "Europe/Bratislava");
+    qputenv("LC_ALL", "sk_SK.UTF-8");
+    tzset();
+}
+
+void WorkerTest::initTestCase()
+{
+    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+}
+
+void WorkerTest::init()
+{
+    m_db.resetEmpty();
+    m_worker = std::make_unique<MHRWorker>();
+    m_worker->setTepDb(m_db.pluginConnection(kHostConnection));
+    m_worker->init();
+    QVERIFY(m_worker->dbCheckOpen());
+}
+
+void WorkerTest::cleanup()
+{
+    m_worker.reset();
+    QSqlDatabase::removeDatabase(kWorkerConnection);
+    QSqlDatabase::removeDatabase(kHostConnection);
+}
+
+void WorkerTest::setDebugLevel(int level)
+{
+    m_worker->setDebugLevel(static_cast<unsigned char>(level));
+}
+
+Trace WorkerTest::observe(const std::function<void()> &work) const
+{
+    m_db.clearStatements();
+    QStringList lines;
+    {
+        const LogCapture log;
+        work();
+        lines = log.lines();
+    }
+    return {lines, m_db.statements()};
+}
+
+QSqlDatabase WorkerTest::connection()
+{
+    return QSqlDatabase::database(kWorkerConnection, false);
+}
+
+void WorkerTest::freezeTime()
+{
+    QSqlQuery query(connection());
+    VERIFY_SQL(query, query.exec(QString("SET timestamp = %1").arg(kFrozenTime)));
+}
+
+void WorkerTest::addDebugLevels()
+{
+    QTest::addColumn<int>("level");
+    for (int level = 0; level <= 4; ++level)
+        QTest::addRow("debug level %d", level) << level;
+}
+
+QStringList WorkerTest::linesAt(int level, const QVector<LogLine> &lines)
+{
+    QStringList texts;
+    for (const LogLine &line : lines) {
+        if (level >= line.level)
+            texts += line.text;
+    }
+    return texts;
+}
+
+QString WorkerTest::missingText(const QString &table)
+{
+    return "Table 'tepdb." + table + "' doesn't exist QMYSQL: Unable to execute query";
+}
+
+QString WorkerTest::refusedText()
+{
+    return "refused by the test QMYSQL: Unable to execute query";
+}
+
+QString WorkerTest::goneText()
+{
+    return "Server has gone away QMYSQL: Unable to execute query";
+}
+
+MirovaRonRecord WorkerTest::fullRecord()
+{
+    MirovaRonRecord r;
+    r.osobniCislo = 1234;
+    r.poradoveCisloPP = 2;
+    r.titul = "Ing.";
+    r.jmeno = "Jana";
+    r.prijmeni = "Nováková";
+    r.titulZa = "PhD.";
+    r.telefon = "555123456";
+    r.datumNastupu = QDate(2019, 4, 1);
+    r.datumVystupu = QDate(2030, 12, 31);
+    r.stredisko = 120;
+    r.strediskoPopis = "Sklad";
+    r.kalendar = 3;
+    r.kalendarPlatnostOd = QDate(2020, 5, 1);
+    r.typPracovnihoPomeru = 11;
+    r.stavPracovnihoPomeru = 1;
+    r.evidencniStav = 21;
+    r.rsFrom = QDate(2021, 6, 1);
+    r.rsTo = QDate(2021, 7, 1);
+    r.rsText = "materská dovolenka";
+    r.dovolenaZustatek = 12.5;
+    r.nadrizenyOsobniCislo = 1001;
+    return r;
+}
