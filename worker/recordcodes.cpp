@@ -146,10 +146,12 @@ bool vacationMove(double days, qint64 current, qint32 &value)
         value = 0;
         return false;
     }
-    const double bounded = qBound(double(Limits::min()), target, double(Limits::max()));
-    const qint64 move = static_cast<qint64>(bounded) - current;
+    // Far beyond 32 bits, and so that the difference of any two stays within 64.
+    constexpr qint64 kWide = qint64(1) << 61;
+    const auto wideTarget = static_cast<qint64>(qBound(double(-kWide), target, double(kWide)));
+    const qint64 move = wideTarget - qBound(-kWide, current, kWide);
     value = static_cast<qint32>(qBound(qint64(Limits::min()), move, qint64(Limits::max())));
-    return bounded == target && value == move;
+    return target >= Limits::min() && target <= Limits::max() && value == move;
 }
 
 } // namespace RecordCodes
