@@ -102,6 +102,15 @@ int SyncTest::uidOf(uint pid)
     return m_db.value(QStringLiteral("SELECT uid FROM people WHERE pid = %1").arg(pid)).toInt();
 }
 
+void SyncTest::refuseSums(const QString &condition)
+{
+    m_db.hideTable("funds_move");
+    m_db.run("CREATE FUNCTION refuseValue() RETURNS INT BEGIN "
+             "SIGNAL SQLSTATE '45000' SET MESSAGE_TEXT = 'refused by the test'; RETURN 0; END");
+    m_db.run("CREATE VIEW funds_move AS SELECT type, day, month, IF(" + condition
+             + ", refuseValue(), value) value, fid, uid FROM funds_move_hidden");
+}
+
 void SyncTest::addDebugLevels()
 {
     QTest::addColumn<int>("debugLevel");
@@ -118,4 +127,9 @@ QString SyncTest::missingTable(const QString &table)
 QString SyncTest::refused()
 {
     return QStringLiteral("[1644]: refused by the test QMYSQL: Unable to execute query");
+}
+
+QString SyncTest::refusedSum()
+{
+    return QStringLiteral("[1644]: refused by the test QMYSQL: Unable to store result");
 }

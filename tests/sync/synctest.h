@@ -51,6 +51,9 @@ protected:
     /// Makes the next tick a forced one.
     void force();
 
+    /// Makes every sum over the values of fund moves fail that meets a move of \a condition.
+    void refuseSums(const QString &condition);
+
     /// A personal number that no other test of the program uses: the uid of a person is looked up
     /// only once in the life of a program.
     int newPersonalNumber() { return m_nextPersonalNumber++; }
@@ -65,6 +68,8 @@ protected:
     static QString missingTable(const QString &table);
     /// How the log shows that a statement failed because TestDatabase::refuse() refused it.
     static QString refused();
+    /// The same of a query that refuseSums() refused.
+    static QString refusedSum();
 
     TestDatabase m_db;
     ExportFile m_export;
