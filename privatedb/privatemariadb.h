@@ -12,9 +12,10 @@ class QTemporaryDir;
 /// A MariaDB server of one's own in a temporary folder, for tests, the demo and tools.
 ///
 /// It reads no configuration file of the machine, listens on a socket only, dies with the program
-/// that started it (see BoundProcess for the thread) and takes its folder along. Its local time
-/// zone is that of the program's environment (`TZ`). It holds one database and two accounts: `root`
-/// without a password, and the account that an attendance server would use, with one.
+/// that started it (see BoundProcess for the thread) and takes its folder along; only a program
+/// that is killed leaves the folder behind. Its local time zone is that of the program's
+/// environment (`TZ`). It holds one database and two accounts: `root` without a password, and the
+/// account that an attendance server would use, with one.
 ///
 /// Needs a QCoreApplication, for Qt's database drivers. Operations that return bool leave the
 /// reason of a failure in errorString().

@@ -5,7 +5,6 @@
 #include <QSqlField>
 #include <QSqlQuery>
 #include <QSqlRecord>
-#include <QTest>
 #include <QUuid>
 
 #include <algorithm>
@@ -74,6 +73,14 @@ QString triggerName(const QString &event, const QString &table)
 }
 
 } // namespace
+
+template <> char *QTest::toString(const TableRows &rows)
+{
+    QStringList lines;
+    for (const QStringList &row : rows)
+        lines += row.join(" | ");
+    return qstrdup(lines.join('\n').toUtf8());
+}
 
 TestDatabase::TestDatabase()
     : m_prefix(QStringLiteral("test.%1").arg(QUuid::createUuid().toString(QUuid::Id128)))

@@ -6,12 +6,19 @@
 #include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
+#include <QTest>
 #include <QVariant>
 #include <QVector>
 
 class QSqlQuery;
 
 using TableRows = QVector<QStringList>;
+
+namespace QTest {
+/// Lets QCOMPARE show rows, one a line.
+template <> char *toString(const TableRows &rows);
+} // namespace QTest
+
 /// Rows of every table, by table name.
 using DatabaseState = QMap<QString, TableRows>;
 

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void aTextOfSeveralStatementsIsLoggedWhole();
     void theDriversOwnEventsAreLeftOut();
     void valuesOfRowsAreTextAndNullIsSpelledOut();
+    void rowsAreShownOneALine();
     void differenceNamesTheRowsThatChanged();
     void aHiddenTableFailsEveryStatementOnIt();
     void aRefusedEventFailsForTheRowsOfItsCondition();
@@ -166,6 +167,12 @@ void TestSupport::valuesOfRowsAreTextAndNullIsSpelledOut()
     QCOMPARE(m_db.value("SELECT personalNumber FROM admins WHERE aid = 2").toUInt(), 7u);
     QCOMPARE(m_db.value("SELECT 1 FROM admins WHERE aid = 3"), QVariant());
     QCOMPARE(m_db.dump("admins"), QString("aid=1 personalNumber=NULL\naid=2 personalNumber=7"));
+}
+
+void TestSupport::rowsAreShownOneALine()
+{
+    const QScopedArrayPointer<char> shown(QTest::toString(TableRows({{"1", "NULL"}, {"2", "ž"}})));
+    QCOMPARE(shown.data(), "1 | NULL\n2 | ž");
 }
 
 void TestSupport::differenceNamesTheRowsThatChanged()
