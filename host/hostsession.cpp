@@ -17,6 +17,10 @@ HostSession::HostSession(const HostOptions &options)
 {
     QObject::connect(&m_signals, &UnixSignals::received, &m_signals,
                      [this](int signalNumber) { handleSignal(signalNumber); });
+    // Queued: it comes from the plugin's thread, or before the event loop runs.
+    QObject::connect(
+        &m_watch, &SynchronizationWatch::over, QCoreApplication::instance(),
+        [](int status) { QCoreApplication::exit(status); }, Qt::QueuedConnection);
 }
 
 LogPrinter::Observer HostSession::observer()

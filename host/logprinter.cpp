@@ -4,9 +4,11 @@
 #include <QtGlobal>
 
 #include <cstdio>
+#include <mutex>
 
 namespace {
 
+std::mutex g_mutex; // a message may be on its way in another thread at any time
 bool g_printDebug = true;
 LogPrinter::Observer g_observer;
 
@@ -32,9 +34,9 @@ const char *levelName(QtMsgType type)
     Q_UNREACHABLE();
 }
 
-// One call of the C library a message: it keeps the messages of two threads apart.
 void print(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
+    const std::lock_guard<std::mutex> lock(g_mutex);
     if (!isQuiet(type) || g_printDebug) {
         std::FILE *stream = isQuiet(type) ? stdout : stderr;
         std::fprintf(stream, "%-8s  %s\n", levelName(type), text.toUtf8().constData());
@@ -49,8 +51,11 @@ void print(QtMsgType type, const QMessageLogContext &, const QString &text)
 
 LogPrinter::LogPrinter(bool printDebug, const Observer &observer)
 {
-    g_printDebug = printDebug;
-    g_observer = observer;
+    {
+        const std::lock_guard<std::mutex> lock(g_mutex);
+        g_printDebug = printDebug;
+        g_observer = observer;
+    }
     // Some systems ship a rule that turns debug messages off.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=true\ndefault.info=true"));
     qInstallMessageHandler(print);
@@ -59,5 +64,6 @@ LogPrinter::LogPrinter(bool printDebug, const Observer &observer)
 LogPrinter::~LogPrinter()
 {
     qInstallMessageHandler(nullptr);
+    const std::lock_guard<std::mutex> lock(g_mutex);
     g_observer = nullptr;
 }

@@ -10,6 +10,7 @@
 class LogPrinter {
 public:
     /// Called with the text of every message, printed or not, in the thread that logs it.
+    /// It must not log anything itself.
     using Observer = std::function<void(const QString &text)>;
 
     /// Prints debug and info messages only with printDebug. The observer may be empty.

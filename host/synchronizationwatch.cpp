@@ -2,8 +2,6 @@
 
 #include "host/exitstatus.h"
 
-#include <QCoreApplication>
-
 namespace {
 
 struct TellingMessage {
@@ -20,20 +18,13 @@ constexpr TellingMessage kTellingMessages[] = {
     {"MirovaHR is DISABLED", ExitStatus::Disabled},
 };
 
-void endEventLoop(ExitStatus status)
-{
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(),
-        [status] { QCoreApplication::exit(static_cast<int>(status)); }, Qt::QueuedConnection);
-}
-
 } // namespace
 
 void SynchronizationWatch::inspect(const QString &message)
 {
     for (const TellingMessage &telling : kTellingMessages) {
         if (message.startsWith(QLatin1String(telling.begin)) && !m_over.exchange(true)) {
-            endEventLoop(telling.status);
+            Q_EMIT over(static_cast<int>(telling.status));
         }
     }
 }

@@ -67,11 +67,12 @@ int ProgramRun::status() const
 
 QByteArray ProgramRun::report() const
 {
-    return QStringLiteral("status %1 (%2)\n--- standard output:\n%3\n--- standard error:\n%4")
+    // QtTest cuts long messages: what matters most comes first.
+    return QStringLiteral("status %1 (%2)\n--- standard error:\n%3\n--- standard output:\n%4")
         .arg(status())
         .arg(m_process.errorString())
-        .arg(output())
         .arg(errors())
+        .arg(output())
         .toUtf8();
 }
 
