@@ -8,12 +8,12 @@
 
 namespace {
 
-constexpr QLatin1String kInsert(
+const QLatin1String kInsert(
     "INSERT INTO `branches` (`number`, `name`, `address`, `note`, `wh1b`, `wh1e`, `wh2b`, `wh2e`,"
     " `wh3b`, `wh3e`, `wh4b`, `wh4e`, `wh5b`, `wh5e`, `wh6b`, `wh6e`, `wh7b`, `wh7e`, `mgid`)"
     " VALUES (%1, '%2', '%3', '%4', %5, %6, %7, %8, %9, %10, %11, %12, %13, %14, %15, %16, %17,"
     " %18, %19);");
-constexpr QLatin1String kUpdate(
+const QLatin1String kUpdate(
     "UPDATE `branches` SET `name`='%1', `address`='%2', `note`='%3', `wh1b`=%4, `wh1e`=%5,"
     " `wh2b`=%6, `wh2e`=%7, `wh3b`=%8, `wh3e`=%9, `wh4b`=%10, `wh4e`=%11, `wh5b`=%12,"
     " `wh5e`=%13, `wh6b`=%14, `wh6e`=%15, `wh7b`=%16, `wh7e`=%17,`number` = %18, `mgid`= %19"

@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr QLatin1String kAdd("INSERT INTO `bas` (bid, attrid, secid) VALUES(?, ?, ?)"
-                             " ON DUPLICATE KEY UPDATE bid=VALUES(bid);");
-constexpr QLatin1String kDelete("DELETE FROM `bas` WHERE bid = ? AND attrid = ? AND secid = ?;");
+const QLatin1String kAdd("INSERT INTO `bas` (bid, attrid, secid) VALUES(?, ?, ?)"
+                         " ON DUPLICATE KEY UPDATE bid=VALUES(bid);");
+const QLatin1String kDelete("DELETE FROM `bas` WHERE bid = ? AND attrid = ? AND secid = ?;");
 
 constexpr char kAddName[] = "BranchesRepository::addBAS";
 constexpr char kDeleteName[] = "BranchesRepository::deleteBAS";

@@ -8,21 +8,21 @@
 
 namespace {
 
-constexpr QLatin1String
+const QLatin1String
     kAddPeople("INSERT INTO brape (bid, uid, since) SELECT %1 bid, uid, UNIX_TIMESTAMP() since"
                " FROM people WHERE uid IN(%2) ON DUPLICATE KEY UPDATE since=UNIX_TIMESTAMP()");
-constexpr QLatin1String kDelPeople("DELETE FROM brape WHERE bid = %1 AND uid IN(%2)");
-constexpr QLatin1String kAddTerms("UPDATE term SET bid = %1 WHERE tid IN(%2)");
-constexpr QLatin1String kDelTerms("UPDATE term SET bid = NULL WHERE tid IN(%1)");
-constexpr QLatin1String
+const QLatin1String kDelPeople("DELETE FROM brape WHERE bid = %1 AND uid IN(%2)");
+const QLatin1String kAddTerms("UPDATE term SET bid = %1 WHERE tid IN(%2)");
+const QLatin1String kDelTerms("UPDATE term SET bid = NULL WHERE tid IN(%1)");
+const QLatin1String
     kAddAdmins("INSERT INTO bradm (bid, aid) SELECT %1 bid, aid FROM admins WHERE aid IN(%2)"
                " ON DUPLICATE KEY UPDATE bid=%1");
-constexpr QLatin1String kDelAdmins("DELETE FROM bradm WHERE bid = %1 AND aid IN(%2)");
-constexpr QLatin1String kAddSections(
+const QLatin1String kDelAdmins("DELETE FROM bradm WHERE bid = %1 AND aid IN(%2)");
+const QLatin1String kAddSections(
     "INSERT INTO sec_branch (secid, bid) SELECT secid, %1 bid FROM sections WHERE secid IN(%2)"
     " ON DUPLICATE KEY UPDATE bid=%1");
-constexpr QLatin1String kDelTriplesOfSections("DELETE FROM bas WHERE bid = %1 AND secid IN(%2)");
-constexpr QLatin1String kDelSections("DELETE FROM sec_branch WHERE bid = %1 AND secid IN(%2)");
+const QLatin1String kDelTriplesOfSections("DELETE FROM bas WHERE bid = %1 AND secid IN(%2)");
+const QLatin1String kDelSections("DELETE FROM sec_branch WHERE bid = %1 AND secid IN(%2)");
 
 QString filled(QLatin1String sql, ushort bid, const QString &ids)
 {

@@ -11,22 +11,20 @@
 namespace {
 
 // The texts are fixed, doubled blanks included.
-constexpr QLatin1String kTermsOfBranch("SELECT tid FROM term WHERE status > 0 AND bid = %1");
-constexpr QLatin1String kAdminsOfBranch("SELECT aid FROM bradm WHERE bid = %1");
-constexpr QLatin1String kPeopleOfBranch("SELECT uid FROM brape WHERE bid = %1");
-constexpr QLatin1String
+const QLatin1String kTermsOfBranch("SELECT tid FROM term WHERE status > 0 AND bid = %1");
+const QLatin1String kAdminsOfBranch("SELECT aid FROM bradm WHERE bid = %1");
+const QLatin1String kPeopleOfBranch("SELECT uid FROM brape WHERE bid = %1");
+const QLatin1String
     kAdminsOfPerson("SELECT DISTINCT aid FROM bradm JOIN brape USING(bid) WHERE uid = %1");
 
-constexpr QLatin1String kAddPeopleToTerm("INSERT INTO people_term (tid, uid) VALUES %1"
-                                         " ON DUPLICATE KEY UPDATE tid=VALUES(tid);");
-constexpr QLatin1String
-    kDeletePeopleFromTerm("DELETE FROM people_term WHERE tid=%1  AND uid IN(%2);");
-constexpr QLatin1String kAddPeopleToAdmins("INSERT INTO admins_people (aid, uid) VALUES %1"
-                                           " ON DUPLICATE KEY UPDATE uid=VALUES(uid);");
-constexpr QLatin1String
+const QLatin1String kAddPeopleToTerm("INSERT INTO people_term (tid, uid) VALUES %1"
+                                     " ON DUPLICATE KEY UPDATE tid=VALUES(tid);");
+const QLatin1String kDeletePeopleFromTerm("DELETE FROM people_term WHERE tid=%1  AND uid IN(%2);");
+const QLatin1String kAddPeopleToAdmins("INSERT INTO admins_people (aid, uid) VALUES %1"
+                                       " ON DUPLICATE KEY UPDATE uid=VALUES(uid);");
+const QLatin1String
     kDeletePeopleFromAdmin("DELETE FROM admins_people WHERE aid=%1  AND uid IN(%2);");
-constexpr QLatin1String
-    kDeletePersonFromAdmin("DELETE FROM admins_people WHERE aid=%1  AND uid=%2;");
+const QLatin1String kDeletePersonFromAdmin("DELETE FROM admins_people WHERE aid=%1  AND uid=%2;");
 
 constexpr QLatin1Char kInserted('I');
 constexpr QLatin1Char kDeleted('D');

@@ -10,23 +10,23 @@
 
 namespace {
 
-constexpr QLatin1String
+const QLatin1String
     kAdd("INSERT INTO groups_plan (gid, uid, since) VALUES(%1, %2, %3)"
          " ON DUPLICATE KEY UPDATE gid=VALUES(gid), uid=VALUES(uid), since=VALUES(since);");
-constexpr QLatin1String kDel("DELETE FROM groups_plan WHERE gid = %1 AND uid = %2 AND since = %3");
-constexpr QLatin1String kUpdateGroupsMonth(
+const QLatin1String kDel("DELETE FROM groups_plan WHERE gid = %1 AND uid = %2 AND since = %3");
+const QLatin1String kUpdateGroupsMonth(
     "INSERT INTO groups_month  (gid, uid, month)"
     " SELECT getCurrentGid(p.uid, monthFromTimestamp(a.date), p.gid) gid, a.uid,"
     " monthFromTimestamp(a.date) month  FROM atten a LEFT JOIN people p USING(uid)"
     " WHERE a.uid=%1 AND monthFromTimestamp(a.date) >= %2 GROUP BY monthFromTimestamp(a.date)"
     " HAVING gid IS NOT NULL"
     " ON DUPLICATE KEY UPDATE gid=VALUES(gid), uid=VALUES(uid), month=VALUES(month);");
-constexpr QLatin1String kPlanOfPerson("WHERE uid = %1 ");
-constexpr QLatin1String kBegunByMonth("AND since <= %1");
-constexpr QLatin1String kBegunByNow("AND since <= DATE_FORMAT(NOW(), '%Y%m')");
-constexpr QLatin1String kSelectPlan("SELECT gid FROM groups_plan ");
-constexpr QLatin1String kLatestFirst(" ORDER BY since DESC LIMIT 1");
-constexpr QLatin1String kSelectDefault("SELECT gid FROM people WHERE uid = %1");
+const QLatin1String kPlanOfPerson("WHERE uid = %1 ");
+const QLatin1String kBegunByMonth("AND since <= %1");
+const QLatin1String kBegunByNow("AND since <= DATE_FORMAT(NOW(), '%Y%m')");
+const QLatin1String kSelectPlan("SELECT gid FROM groups_plan ");
+const QLatin1String kLatestFirst(" ORDER BY since DESC LIMIT 1");
+const QLatin1String kSelectDefault("SELECT gid FROM people WHERE uid = %1");
 
 /// The database's error number; -1 when the error is not one of the database.
 int errorNumber(const QSqlError &error)

@@ -8,13 +8,13 @@
 
 namespace {
 
-constexpr QLatin1String kSelectOne("SELECT value FROM vars WHERE name='%1' LIMIT 1");
-constexpr QLatin1String kSelectListed("SELECT name, value FROM vars WHERE name IN(%1)");
-constexpr QLatin1String kSelectPrefix("SELECT name, value FROM vars WHERE name LIKE '%1%'");
-constexpr QLatin1String kUpsert("INSERT INTO vars (name, value) VALUES(:name, :value)"
-                                " ON DUPLICATE KEY UPDATE value=VALUES(value);");
-constexpr QLatin1String kDeleteOne("DELETE FROM vars WHERE name='%1'");
-constexpr QLatin1String kDeletePrefix("DELETE FROM vars WHERE name LIKE '%1%'");
+const QLatin1String kSelectOne("SELECT value FROM vars WHERE name='%1' LIMIT 1");
+const QLatin1String kSelectListed("SELECT name, value FROM vars WHERE name IN(%1)");
+const QLatin1String kSelectPrefix("SELECT name, value FROM vars WHERE name LIKE '%1%'");
+const QLatin1String kUpsert("INSERT INTO vars (name, value) VALUES(:name, :value)"
+                            " ON DUPLICATE KEY UPDATE value=VALUES(value);");
+const QLatin1String kDeleteOne("DELETE FROM vars WHERE name='%1'");
+const QLatin1String kDeletePrefix("DELETE FROM vars WHERE name LIKE '%1%'");
 
 void logSetError(const QSqlQuery &query)
 {

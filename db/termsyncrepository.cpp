@@ -13,70 +13,70 @@ constexpr unsigned short kPeople = 2;
 constexpr unsigned short kTimezones = 64;
 constexpr unsigned short kColorGroups = 256;
 
-constexpr QLatin1String kQueuePerson(
+const QLatin1String kQueuePerson(
     "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
     " SELECT `tid` tid, '%1' type, '%2' ref, 'uid' ref_col, %3 ref_id, UNIX_TIMESTAMP() created,"
     " 2 flags FROM people_term JOIN term USING(tid)"
     " WHERE status = 1 AND uid = %3 AND (flags & 2);");
-constexpr QLatin1String
+const QLatin1String
     kQueuePersonForTerm("INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
                         " VALUES(%1, '%2', '%3', 'uid', %4, UNIX_TIMESTAMP(), 2)");
-constexpr QLatin1String kQueuePeopleForTerm(
+const QLatin1String kQueuePeopleForTerm(
     "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
     " SELECT %1 tid, '%2' type, 'people_term' ref, 'uid' ref_col, `uid` ref_id,"
     " UNIX_TIMESTAMP() created, 2 flags FROM people WHERE status = 1 AND uid IN(%3);");
-constexpr QLatin1String kQueueInter(
+const QLatin1String kQueueInter(
     "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
     " SELECT `tid` tid, '%1' type, '%2' ref, 'iid' ref_col, %3 ref_id, UNIX_TIMESTAMP() created,"
     " 1 flags FROM inters_term JOIN term USING(tid)"
     " WHERE status = 1 AND iid = %3 AND (flags & 1);");
-constexpr QLatin1String
+const QLatin1String
     kQueueInterForTerm("INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
                        " VALUES(%1, '%2', '%3', 'iid', %4, UNIX_TIMESTAMP(), 1)");
-constexpr QLatin1String
+const QLatin1String
     kQueueIntersForTerm("INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
                         " SELECT %1 tid, '%2' type, 'inters_term' ref, 'iid' ref_col, `iid` ref_id,"
                         " UNIX_TIMESTAMP() created, 1 flags FROM inters WHERE iid IN(%3);");
-constexpr QLatin1String kQueueTimezone(
+const QLatin1String kQueueTimezone(
     "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
     " SELECT `tid` tid, '%1' type, '%2' ref, 'zid' ref_col, %3 ref_id, UNIX_TIMESTAMP() created,"
     " 64 flags FROM pzt JOIN term t USING(tid)"
     " WHERE zid = %3 AND t.status = 1 AND (t.flags & 64) GROUP BY t.tid;");
-constexpr QLatin1String kQueueZoneAssignment(
+const QLatin1String kQueueZoneAssignment(
     "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, ref_col2, ref_id2, created, flags)"
     " VALUES(%1, '%2', '%3', 'zid', %4, 'uid', %5, UNIX_TIMESTAMP(), 64)");
-constexpr QLatin1String
+const QLatin1String
     kQueueColorGroup("INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
                      " VALUES(%1, 'U', 'people_term', 'uid', %2, UNIX_TIMESTAMP(), 256)");
-constexpr QLatin1String kQueueColorGroupsOfPeople(
+const QLatin1String kQueueColorGroupsOfPeople(
     "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
     " SELECT %1 tid, 'U' type, 'people_term' ref, 'uid' ref_col, `uid` ref_id,"
     " UNIX_TIMESTAMP() created, 256 flags FROM people WHERE status = 1 AND uid IN(%2);");
-constexpr QLatin1String
+const QLatin1String
     kQueueColorGroups("INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
                       " SELECT tid, 'U' type, 'vars' ref, 'colorGroups' ref_col, 0 ref_id,"
                       " UNIX_TIMESTAMP() created, 256 flags FROM term t"
                       " WHERE t.status = 1 AND (t.flags & 256);");
 
-constexpr QLatin1String kMarkTerm("Update `term` SET syn = syn | %1 WHERE status = 1 AND tid = %2");
-constexpr QLatin1String kMarkTermsOfPerson("CALL updateTermsSync(%1, 2);");
-constexpr QLatin1String
+const QLatin1String kMarkTerm("Update `term` SET syn = syn | %1 WHERE status = 1 AND tid = %2");
+const QLatin1String kMarkTermsOfPerson("CALL updateTermsSync(%1, 2);");
+const QLatin1String
     kSelectTermsOfInter("SELECT it.tid FROM inters_term it JOIN term t ON it.tid = t.tid"
                         " WHERE t.status = 1 AND iid = %1 AND (t.flags & 1)");
-constexpr QLatin1String
+const QLatin1String
     kMarkTermsForInters("UPDATE `term` SET `syn` = (`syn` | 1 ) WHERE `tid` IN (%1)");
 // Takes every terminal with a status above 0, though only those with status 1 get queue rows. The
 // difference is wanted: do not align the two.
-constexpr QLatin1String kMarkTermsOfTimezone(
+const QLatin1String kMarkTermsOfTimezone(
     "DROP TEMPORARY TABLE IF EXISTS tmptbl_updateTermsSyncTZ;"
     "CREATE TEMPORARY TABLE tmptbl_updateTermsSyncTZ AS (SELECT DISTINCT t.tid"
     " FROM pzt JOIN term t USING(tid) WHERE zid = %1 AND (t.status > 0) AND (t.flags & 64));"
     "UPDATE `term` SET `syn` = (`syn` | 64 )"
     " WHERE `tid` IN (SELECT tid FROM tmptbl_updateTermsSyncTZ);"
     "DROP TEMPORARY TABLE IF EXISTS tmptbl_updateTermsSyncTZ;");
-constexpr QLatin1String
+const QLatin1String
     kMarkTermForTimezones("UPDATE `term` SET `syn` = (`syn` | 64 ) WHERE `tid` = %1");
-constexpr QLatin1String kMarkTermsForColorGroups(
+const QLatin1String kMarkTermsForColorGroups(
     "Update `term` SET syn = syn | 256 WHERE status = 1 AND (flags & 256);");
 
 QString idList(const QStringList &ids)
