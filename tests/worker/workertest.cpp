@@ -26,7 +26,7 @@ void WorkerTest::initTestCase()
     QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
 }
 
-void WorkerTest::init()
+void WorkerTest::setUp()
 {
     m_db.resetEmpty();
     m_worker = std::make_unique<MHRWorker>();

@@ -36,6 +36,10 @@ public:
 protected:
     static constexpr qint64 kFrozenTime = 1700000000;
 
+    /// Empty tables and a new worker. A test program that needs more before each test function has
+    /// an init() of its own, which begins with this.
+    void setUp();
+
     void setDebugLevel(int level);
 
     /// Runs a piece of work.
@@ -67,6 +71,6 @@ protected:
 
 private Q_SLOTS:
     void initTestCase();
-    void init();
+    void init() { setUp(); }
     void cleanup();
 };
