@@ -12,6 +12,7 @@ void RepositoryTest::runOnConnection(const QString &sql)
 void RepositoryTest::initTestCase()
 {
     QVERIFY2(m_database.start(), qPrintable(m_database.errorString()));
+    m_database.grant("grants-repositories.sql");
     m_connection = m_database.pluginConnection();
 }
 

@@ -6,7 +6,8 @@
 #include <QSqlDatabase>
 
 /// What the test programs of the repositories share: a server of their own with empty tables for
-/// every test function, and the connection that the code under test uses.
+/// every test function, and the connection that the code under test uses, with the rights of a
+/// server that uses the repositories itself.
 class RepositoryTest : public QObject {
     Q_OBJECT
 

@@ -86,6 +86,8 @@ private Q_SLOTS:
     void aPersonMovedOutKeepsASharedAdministrator();
     void aFailedPropagationDoesNotFailTheChange();
 
+    void aClosedConnectionFailsWithoutAnError();
+
 protected Q_SLOTS:
     void init() override;
 
@@ -978,6 +980,20 @@ void TestBranchesPropagation::aFailedPropagationDoesNotFailTheChange()
                           " 'tepdb.admins_people"
                               + kDoesNotExist,
                           kAdminsFailed}));
+}
+
+void TestBranchesPropagation::aClosedConnectionFailsWithoutAnError()
+{
+    Repo repo(*this);
+    m_connection.close();
+    LogCapture log;
+    QVERIFY(!repo.addPeopleToTerm(11, {"21"}));
+    QVERIFY(!repo.deletePeopleFromTerm(11, {"21"}));
+    QVERIFY(!repo.addPeopleToAdmin(31, {"21"}));
+    QVERIFY(!repo.deletePeopleFromAdmin(31, QStringList("21")));
+    QVERIFY(!repo.deletePeopleFromAdmin(31, 21u));
+    QCOMPARE(repo.getUids4Branch(2), QVector<unsigned int>());
+    QCOMPARE(log.lines().filter(QRegularExpression("^C")), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestBranchesPropagation)
