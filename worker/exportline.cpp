@@ -107,7 +107,8 @@ QDate parseDate(const QString &text, const QString &format)
 {
     if (format == kDateFormat) {
         const QDate date = wellFormedDate(text);
-        if (date.isValid())
+        // Most people have no leaving date, and Qt's parser asks the local zone even for that.
+        if (date.isValid() || text.isEmpty())
             return date;
     }
     return QDateTime::fromString(text, format).date();
