@@ -13,10 +13,9 @@ constexpr char kLineStart[] = "\r\x1b[K";
 
 } // namespace
 
-Progress::Progress(Console &console, const QString &what, qint64 total)
+Progress::Progress(Console &console, const QString &what)
     : m_console(console)
     , m_what(what)
-    , m_total(total)
 {
     m_sinceShown.start();
 }
@@ -27,15 +26,15 @@ Progress::~Progress()
         m_console.err().write(kLineStart);
 }
 
-void Progress::update(qint64 done)
+void Progress::update(qint64 done, qint64 total)
 {
     if (m_console.isInteractive() && m_sinceShown.elapsed() >= kMillisecondsBetweenShows)
-        show(done);
+        show(done, total);
 }
 
-void Progress::show(qint64 done)
+void Progress::show(qint64 done, qint64 total)
 {
-    const qint64 percent = m_total > 0 ? qMin<qint64>(100, done * 100 / m_total) : 0;
+    const qint64 percent = total > 0 ? qMin<qint64>(100, done * 100 / total) : 0;
     m_console.err().write(kLineStart);
     m_console.err().write(QStringLiteral("%1: %2 %").arg(m_what).arg(percent).toUtf8());
     m_sinceShown.restart();

@@ -10,20 +10,19 @@ class Console;
 class Progress {
 public:
     /// \a what names the work, such as "Reading the export".
-    Progress(Console &console, const QString &what, qint64 total);
+    Progress(Console &console, const QString &what);
     ~Progress();
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
 
-    /// Cheap enough to be called for every line of a file.
-    void update(qint64 done);
+    /// How much of how much is done. Cheap enough to be called for every line of a file.
+    void update(qint64 done, qint64 total);
 
 private:
-    void show(qint64 done);
+    void show(qint64 done, qint64 total);
 
     Console &m_console;
     const QString m_what;
-    const qint64 m_total;
     QElapsedTimer m_sinceShown;
     bool m_shown = false;
 };

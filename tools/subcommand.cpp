@@ -1,6 +1,7 @@
 #include "tools/subcommand.h"
 
 #include "tools/checkconfig.h"
+#include "tools/checkfile.h"
 #include "tools/console.h"
 
 #include <algorithm>
@@ -38,6 +39,7 @@ const QVector<Subcommand> &subcommands()
     static const QVector<Subcommand> all{
         {"check-config", "What the INI file puts in force, and what is wrong with it",
          runCheckConfig},
+        {"check-file", "What the plugin would drop or misread of an HR export", runCheckFile},
     };
     return all;
 }

@@ -25,9 +25,8 @@ QString findingHead(const Finding &finding)
     if (!finding.subject.isEmpty())
         head += QStringLiteral(" (%1)").arg(PlainText::visible(finding.subject));
     if (!head.isEmpty())
-        head += QStringLiteral(": ");
-    return head.trimmed() + QLatin1Char(' ') + severityWord(finding.severity)
-        + QStringLiteral(": ");
+        head = head.trimmed() + QStringLiteral(": ");
+    return head + severityWord(finding.severity) + QStringLiteral(": ");
 }
 
 QStringList cellTexts(const QVariantList &row)

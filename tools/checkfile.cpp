@@ -1,0 +1,213 @@
+#include "tools/checkfile.h"
+
+#include "cli/database.h"
+#include "cli/databaseoptions.h"
+#include "tools/commandline.h"
+#include "tools/console.h"
+#include "tools/databaseaccess.h"
+#include "tools/exportcheck.h"
+#include "tools/plaintext.h"
+#include "tools/progress.h"
+#include "tools/rejectsfile.h"
+#include "tools/report.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+
+namespace {
+
+constexpr char kDescription[] =
+    "Reads an HR export exactly as the plugin does, and changes nothing. Tells of every\n"
+    "line that the plugin would drop and every field that it would misread, of people\n"
+    "who stand there twice or have the same number, and of texts that break a statement.\n"
+    "With a database also of texts that are longer than its columns.";
+
+class CheckFileRun {
+public:
+    CheckFileRun(const CommandLine &line, Console &console);
+
+    ExitStatus run();
+
+private:
+    std::optional<ExitStatus> prepare();
+    std::optional<ExitStatus> readWidths();
+    void check(ExportCheck &check);
+    void report(const CheckedLine &line);
+    void report(const Finding &finding);
+    void conclude(const ExportCheck &check);
+    ExitStatus commit(const ExportCheck::Counts &counts);
+    ExitStatus fail(ExitStatus status, const QString &sentence);
+
+    const CommandLine &m_line;
+    Console &m_console;
+    QFile m_file;
+    RejectsFile m_rejects;
+    const bool m_wantsRejects;
+    Report m_report;
+    TextWidths m_widths;
+    QMap<QString, qint64> m_countByRule;
+};
+
+Table ruleTable(const QMap<QString, qint64> &countByRule)
+{
+    Table table{QStringLiteral("rules"),
+                {{QStringLiteral("rule"), QStringLiteral("Rule")},
+                 {QStringLiteral("count"), QStringLiteral("Findings")}},
+                {}};
+    for (auto rule = countByRule.cbegin(); rule != countByRule.cend(); ++rule)
+        table.rows.append({rule.key(), rule.value()});
+    return table;
+}
+
+QString verdict(const ExportCheck::Counts &counts, ExitStatus status)
+{
+    if (status == ExitStatus::Fine)
+        return QStringLiteral("The export is fine.");
+    if (counts.rejected == 0)
+        return QStringLiteral("Everybody in the export arrives, but not everything is as it "
+                              "should be.");
+    return QStringLiteral("%1 of the export %2 not arrive as %3 should; the plugin drops %4 of "
+                          "them.")
+        .arg(PlainText::counted(counts.rejected, QStringLiteral("line"), QStringLiteral("lines")),
+             counts.rejected == 1 ? QStringLiteral("does") : QStringLiteral("do"),
+             counts.rejected == 1 ? QStringLiteral("it") : QStringLiteral("they"),
+             QString::number(counts.dropped));
+}
+
+CheckFileRun::CheckFileRun(const CommandLine &line, Console &console)
+    : m_line(line)
+    , m_console(console)
+    , m_file(line.argument(0))
+    , m_rejects(line.value("rejects"), QFileInfo(line.argument(0)).fileName())
+    , m_wantsRejects(line.isSet("rejects"))
+    , m_report(line, console)
+{
+}
+
+ExitStatus CheckFileRun::run()
+{
+    if (const auto end = prepare())
+        return *end;
+    ExportCheck exportCheck(m_file, m_widths);
+    m_report.begin(m_line.subcommand(), QStringLiteral("HR export %1").arg(m_file.fileName()));
+    check(exportCheck);
+    if (m_file.error() != QFileDevice::NoError) {
+        return fail(ExitStatus::Usage,
+                    QStringLiteral("'%1' cannot be read to its end: %2")
+                        .arg(m_file.fileName(), m_file.errorString()));
+    }
+    conclude(exportCheck);
+    return commit(exportCheck.counts());
+}
+
+std::optional<ExitStatus> CheckFileRun::prepare()
+{
+    if (!QFileInfo(m_file.fileName()).isFile()) {
+        return fail(ExitStatus::Usage,
+                    QStringLiteral("There is no file '%1'").arg(m_file.fileName()));
+    }
+    if (!m_file.open(QIODevice::ReadOnly)) {
+        return fail(ExitStatus::Usage,
+                    QStringLiteral("'%1' cannot be opened: %2")
+                        .arg(m_file.fileName(), m_file.errorString()));
+    }
+    if (m_wantsRejects && !m_rejects.open()) {
+        return fail(ExitStatus::Usage,
+                    QStringLiteral("'%1' cannot be written: %2")
+                        .arg(m_rejects.path(), m_rejects.errorString()));
+    }
+    if (const auto end = readWidths())
+        return end;
+    return m_report.open();
+}
+
+std::optional<ExitStatus> CheckFileRun::readWidths()
+{
+    if (!m_line.namesDatabase())
+        return std::nullopt;
+    DatabaseOptions options;
+    if (const auto end = m_line.readDatabase(options, m_console))
+        return end;
+    QString error;
+    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
+    if (!database)
+        return fail(ExitStatus::NoDatabase, error);
+    m_widths = readTextWidths(database->handle(), error);
+    if (m_widths.isEmpty())
+        return fail(ExitStatus::ContractBroken, error);
+    return std::nullopt;
+}
+
+void CheckFileRun::check(ExportCheck &check)
+{
+    Progress progress(m_console, QStringLiteral("Checking the export"));
+    check.setProgressListener(
+        [&progress](qint64 done, qint64 total) { progress.update(done, total); });
+    check.run([this](const CheckedLine &line) { report(line); });
+}
+
+void CheckFileRun::report(const CheckedLine &line)
+{
+    for (const Finding &finding : line.findings)
+        report(finding);
+    if (m_wantsRejects && line.isRejected())
+        m_rejects.add(line);
+}
+
+void CheckFileRun::report(const Finding &finding)
+{
+    if (m_countByRule.isEmpty())
+        m_report.section(QStringLiteral("findings"), QStringLiteral("What to look at"));
+    ++m_countByRule[finding.rule];
+    m_report.finding(finding);
+}
+
+void CheckFileRun::conclude(const ExportCheck &check)
+{
+    const QVector<Finding> findings = check.fileFindings();
+    for (const Finding &finding : findings)
+        report(finding);
+    m_report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
+    if (!m_countByRule.isEmpty())
+        m_report.table(ruleTable(m_countByRule));
+    const ExportCheck::Counts &counts = check.counts();
+    m_report.fact(QStringLiteral("lines"), QStringLiteral("Lines"), counts.lines);
+    m_report.fact(QStringLiteral("records"), QStringLiteral("Read as people"), counts.records);
+    m_report.fact(QStringLiteral("dropped"), QStringLiteral("Dropped by the plugin"),
+                  counts.dropped);
+    m_report.fact(QStringLiteral("rejected"), QStringLiteral("Not arriving as they should"),
+                  counts.rejected);
+}
+
+ExitStatus CheckFileRun::commit(const ExportCheck::Counts &counts)
+{
+    const ExitStatus status = m_report.findingsStatus();
+    const ExitStatus end = m_report.conclude(status, verdict(counts, status));
+    if (!m_wantsRejects || m_rejects.commit())
+        return end;
+    return fail(ExitStatus::Usage,
+                QStringLiteral("'%1' cannot be written: %2")
+                    .arg(m_rejects.path(), m_rejects.errorString()));
+}
+
+ExitStatus CheckFileRun::fail(ExitStatus status, const QString &sentence)
+{
+    return m_console.fail(status, m_line.subcommand() + QStringLiteral(": ") + sentence);
+}
+
+} // namespace
+
+ExitStatus runCheckFile(const QStringList &arguments, Console &console)
+{
+    CommandLine line("check-file", kDescription);
+    line.addArgument("file", "The export.");
+    line.addOption("rejects", "file",
+                   "Also write the lines that do not arrive as they should into a file, with "
+                   "the reasons, to send to HR.");
+    line.addReportOptions(CommandLine::Page::Offered);
+    line.addDatabaseOptions();
+    if (const auto end = line.parse(arguments, console))
+        return *end;
+    return CheckFileRun(line, console).run();
+}

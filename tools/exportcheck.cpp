@@ -1,0 +1,173 @@
+#include "tools/exportcheck.h"
+
+#include "tools/personname.h"
+#include "worker/boundedlinereader.h"
+#include "worker/exportline.h"
+
+#include <QFile>
+
+namespace {
+
+/// The first two fields of a line with its line feed, as a text of their own.
+QByteArray identityOf(const BoundedLineReader &reader)
+{
+    const char separator = ExportLine::kSeparator.toLatin1();
+    const QByteArray line = QByteArray::fromRawData(reader.line(), reader.length());
+    const int first = line.indexOf(separator);
+    const int second = first < 0 ? -1 : line.indexOf(separator, first + 1);
+    return QByteArray(reader.line(), second < 0 ? 0 : second);
+}
+
+bool isSameRelationship(const RepeatedPids::First &first, const MirovaRonRecord &record)
+{
+    return first.osobniCislo == record.osobniCislo
+        && first.poradoveCisloPP == record.poradoveCisloPP;
+}
+
+Finding &addDuplicate(CheckedLine &line, const RepeatedPids::First &first)
+{
+    return line.add(Severity::Warning, "duplicate-relationship",
+                    QStringLiteral("Line %1 is about the same employment relationship. The plugin "
+                                   "takes one after the other, and the last prevails.")
+                        .arg(first.line),
+                    QStringLiteral("Tell HR: each relationship stands in the export once."));
+}
+
+Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 pid)
+{
+    return line.add(Severity::Error, "pid-clash",
+                    QStringLiteral("The person of line %1, %2.%3, has the same number %4: the "
+                                   "plugin takes both for one person, and the last line prevails.")
+                        .arg(first.line)
+                        .arg(first.osobniCislo)
+                        .arg(first.poradoveCisloPP)
+                        .arg(pid),
+                    QStringLiteral("Tell HR: one of the two needs another personal number."));
+}
+
+} // namespace
+
+ExportCheck::ExportCheck(QFile &file, const TextWidths &widths)
+    : m_file(file)
+    , m_lineCheck(widths)
+{
+}
+
+bool ExportCheck::run(const LineListener &listener)
+{
+    m_size = m_file.size();
+    notePids();
+    if (m_file.error() != QFileDevice::NoError || !m_file.seek(0))
+        return false;
+    checkLines(listener);
+    m_endsWithLineFeed = endsWithLineFeed();
+    return m_file.error() == QFileDevice::NoError;
+}
+
+QVector<Finding> ExportCheck::fileFindings() const
+{
+    CheckedLine file;
+    if (m_counts.records == 0) {
+        file.add(Severity::Warning, "no-records",
+                 QStringLiteral("There is nobody in the file: the plugin would do nothing."),
+                 QStringLiteral("Ask HR whether the export went wrong."));
+    }
+    if (!m_endsWithLineFeed) {
+        file.add(Severity::Warning, "no-final-line-feed",
+                 QStringLiteral("The last line has no line feed at its end. The plugin reads it as "
+                                "it stands, but the file may have been cut off."),
+                 QStringLiteral("Ask HR whether the export is whole."));
+    }
+    if (!m_pids.isComplete()) {
+        file.add(Severity::Warning, "repetitions-not-all-found",
+                 QStringLiteral("So many people stand in the file more than once that not all of "
+                                "them were compared."),
+                 QStringLiteral("Ask HR whether the export was written several times into one "
+                                "file."));
+    }
+    return file.findings;
+}
+
+void ExportCheck::notePids()
+{
+    BoundedLineReader reader(m_file);
+    while (reader.next()) {
+        notePid(reader);
+        tellProgress(m_file.pos());
+    }
+}
+
+/// Takes the two numbers only. A line that is dropped for another reason is noted, too; that does
+/// no harm.
+void ExportCheck::notePid(const BoundedLineReader &reader)
+{
+    const QByteArray identity = identityOf(reader);
+    const QStringList parts =
+        ExportLine::split(ExportLine::decode(identity.constData()), ExportLine::kSeparator);
+    if (parts.size() < 2)
+        return;
+    MirovaRonRecord record;
+    record.osobniCislo = ExportLine::toNumber(parts.at(0));
+    record.poradoveCisloPP = ExportLine::toNumber(parts.at(1));
+    if (record.osobniCislo != 0 && record.poradoveCisloPP != 0)
+        m_pids.note(record.getPid());
+}
+
+void ExportCheck::checkLines(const LineListener &listener)
+{
+    BoundedLineReader reader(m_file);
+    qint64 checked = 0;
+    while (reader.next()) {
+        reportTooLong(checked + 1, reader.lineNumber(), listener);
+        checked = reader.lineNumber();
+        CheckedLine line = m_lineCheck.check(reader);
+        checkRepetition(line);
+        report(line, listener);
+        tellProgress(m_size + m_file.pos());
+    }
+    reportTooLong(checked + 1, reader.lineNumber() + 1, listener);
+    m_counts.lines = reader.lineNumber();
+}
+
+/// The reader tells of a line that is too long only by leaving out its number.
+void ExportCheck::reportTooLong(qint64 from, qint64 to, const LineListener &listener)
+{
+    for (qint64 number = from; number < to; ++number)
+        report(LineCheck::tooLong(number), listener);
+}
+
+void ExportCheck::checkRepetition(CheckedLine &line)
+{
+    // People with pid 0 have a finding of their own.
+    if (!line.record || line.record->getPid() == 0)
+        return;
+    const MirovaRonRecord &record = *line.record;
+    const auto first = m_pids.first(record, line.number);
+    if (!first)
+        return;
+    Finding &finding = isSameRelationship(*first, record) ? addDuplicate(line, *first)
+                                                          : addClash(line, *first, record.getPid());
+    finding.subject = personName(record);
+}
+
+void ExportCheck::report(const CheckedLine &line, const LineListener &listener)
+{
+    if (line.isBlank && line.findings.isEmpty())
+        return;
+    m_counts.records += line.record ? 1 : 0;
+    m_counts.dropped += line.isDropped() ? 1 : 0;
+    m_counts.rejected += line.isRejected() ? 1 : 0;
+    listener(line);
+}
+
+void ExportCheck::tellProgress(qint64 done) const
+{
+    if (m_progress)
+        m_progress(done, 2 * m_size);
+}
+
+bool ExportCheck::endsWithLineFeed()
+{
+    char last = '\n';
+    return m_size == 0 || (m_file.seek(m_size - 1) && m_file.getChar(&last) && last == '\n');
+}

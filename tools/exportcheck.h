@@ -1,0 +1,57 @@
+#pragma once
+
+#include "tools/linecheck.h"
+#include "tools/repeatedpids.h"
+
+#include <functional>
+
+class BoundedLineReader;
+class QFile;
+
+/// Goes over a whole export and tells of each line what the plugin makes of it. The memory that it
+/// takes does not depend on the length of the export.
+class ExportCheck {
+public:
+    struct Counts {
+        qint64 lines = 0; ///< with blank ones
+        qint64 records = 0; ///< lines that the plugin reads as a person
+        qint64 dropped = 0; ///< lines that it leaves out
+        qint64 rejected = 0; ///< lines that do not reach the database as they should
+    };
+
+    using LineListener = std::function<void(const CheckedLine &)>;
+    /// Is told how many of how many bytes are done.
+    using ProgressListener = std::function<void(qint64 done, qint64 total)>;
+
+    /// The file must be open and at its beginning.
+    ExportCheck(QFile &file, const TextWidths &widths);
+
+    void setProgressListener(const ProgressListener &listener) { m_progress = listener; }
+
+    /// Reads the export and hands its lines to the listener, in their order, blank ones left out.
+    /// False when the export cannot be read to its end.
+    bool run(const LineListener &listener);
+
+    const Counts &counts() const { return m_counts; }
+
+    /// What is to be said about the file as a whole, after run().
+    QVector<Finding> fileFindings() const;
+
+private:
+    void notePids();
+    void notePid(const BoundedLineReader &reader);
+    void checkLines(const LineListener &listener);
+    void reportTooLong(qint64 from, qint64 to, const LineListener &listener);
+    void checkRepetition(CheckedLine &line);
+    void report(const CheckedLine &line, const LineListener &listener);
+    void tellProgress(qint64 done) const;
+    bool endsWithLineFeed();
+
+    QFile &m_file;
+    const LineCheck m_lineCheck;
+    RepeatedPids m_pids;
+    ProgressListener m_progress;
+    Counts m_counts;
+    qint64 m_size = 0;
+    bool m_endsWithLineFeed = true;
+};

@@ -1,0 +1,284 @@
+#include "tools/fieldrules.h"
+
+#include "tools/plaintext.h"
+#include "tools/sqltext.h"
+#include "worker/exportline.h"
+#include "worker/recordcodes.h"
+
+#include <QDateTime>
+
+#include <limits>
+
+namespace {
+
+using namespace ExportLine;
+
+/// What becomes of a person when a field cannot be read: the rest of a sentence.
+QString consequence(int field)
+{
+    switch (field) {
+    case DatumNastupu:
+        return QStringLiteral("employment counts from 1 January 2000.");
+    case DatumVystupu:
+        return QStringLiteral("the person counts as not leaving.");
+    case Stredisko:
+        return QStringLiteral("the person is put into no branch.");
+    case Kalendar:
+        return QStringLiteral("the person is put into no calendar group.");
+    case KalendarPlatnostOd:
+        return QStringLiteral("the calendar has no beginning, and all attendance of the person is "
+                              "calculated anew.");
+    case TypPracovnihoPomeru:
+        return QStringLiteral("the person has no employment type and no payroll export.");
+    case StavPracovnihoPomeru:
+        return QStringLiteral("the employment counts as running.");
+    case EvidencniStav:
+        return QStringLiteral("the register state counts as 0.");
+    case DovolenaZustatek:
+        return QStringLiteral("the vacation balance is set to 0 days.");
+    default:
+        return QStringLiteral("the person gets no new supervisor.");
+    }
+}
+
+QString dateAdvice(const QString &text)
+{
+    const QDate day = QDate::fromString(text.trimmed().left(10), Qt::ISODate);
+    if (day.isValid()) {
+        return QStringLiteral("Tell HR: a date has a time behind it, as in %1 00:00:00.000.")
+            .arg(day.toString(Qt::ISODate));
+    }
+    return QStringLiteral("Tell HR: dates look like 2021-03-31 00:00:00.000.");
+}
+
+QString balanceAdvice(const QString &text)
+{
+    return text.contains(QLatin1Char(','))
+        ? QStringLiteral("Tell HR: the balance is written with a point, as in 12.5.")
+        : QStringLiteral("Tell HR: the balance is a number of days, as in 12.5.");
+}
+
+/// Whether the database gives the day back as it was written: the plugin reads Unix times as
+/// unsigned numbers of 32 bits, and 0 as no time.
+bool isKept(const QDate &day)
+{
+    if (day.year() > 1970 && day.year() < 2106)
+        return true;
+    return RecordCodes::midnight(day) > 0
+        && RecordCodes::midnight(day.addDays(1)) <= qint64(std::numeric_limits<quint32>::max());
+}
+
+} // namespace
+
+FieldRules::FieldRules(const QStringList &parts, const MirovaRonRecord &record,
+                       const TextWidths &widths, CheckedLine &line)
+    : m_parts(parts)
+    , m_record(record)
+    , m_widths(widths)
+    , m_line(line)
+{
+}
+
+void FieldRules::check()
+{
+    checkIdentity();
+    checkPid();
+    checkTexts();
+    checkDates();
+    checkNumber(Stredisko);
+    checkNumber(Kalendar);
+    checkCode(TypPracovnihoPomeru, m_record.typPracovnihoPomeru);
+    checkCode(StavPracovnihoPomeru, m_record.stavPracovnihoPomeru);
+    checkCode(EvidencniStav, m_record.evidencniStav);
+    checkBalance();
+    // Most people at the top have no supervisor.
+    if (!m_parts.at(NadrizenyOsobniCislo).isEmpty())
+        checkNumber(NadrizenyOsobniCislo);
+}
+
+void FieldRules::checkIdentity()
+{
+    if (m_record.osobniCislo == 0) {
+        add(OsobniCislo, Severity::Error, "no-personal-number",
+            notANumber(OsobniCislo)
+                + QStringLiteral(" Without a personal number the plugin drops the line."),
+            QStringLiteral("Tell HR: the first field is the personal number, in digits, above 0."));
+    }
+    if (m_record.poradoveCisloPP == 0) {
+        add(PoradoveCisloPP, Severity::Error, "no-relationship-number",
+            notANumber(PoradoveCisloPP)
+                + QStringLiteral(" Without the number of the employment relationship the plugin "
+                                 "drops the line."),
+            QStringLiteral("Tell HR: the second field is the number of the employment "
+                           "relationship, in digits, above 0."));
+    }
+    if (m_record.jmeno.isEmpty() && m_record.prijmeni.isEmpty()) {
+        add(Prijmeni, Severity::Error, "no-name",
+            QStringLiteral("There is neither a first name nor a surname. The plugin drops the "
+                           "line."),
+            QStringLiteral("Tell HR: one of the two is needed."));
+    }
+}
+
+void FieldRules::checkPid()
+{
+    if (!isUsable(m_record) || m_record.getPid() != 0)
+        return;
+    add(OsobniCislo, Severity::Error, "pid-zero",
+        QStringLiteral("Personal number and relationship make one number, %1%2, which is above "
+                       "4294967295: the person gets the number 0, as everybody of this kind does.")
+            .arg(QString::number(m_record.osobniCislo), QString::number(m_record.poradoveCisloPP)),
+        QStringLiteral("Tell HR: the person needs a shorter personal number."));
+}
+
+void FieldRules::checkTexts()
+{
+    checkText(Titul, "title");
+    checkText(Jmeno, "name");
+    checkText(Prijmeni, "surname");
+    checkText(TitulZa, "title2");
+    checkText(Telefon, "phone");
+}
+
+void FieldRules::checkText(int field, const char *column)
+{
+    const QString &text = m_parts.at(field);
+    if (text.contains(QLatin1Char('\''))) {
+        add(field, Severity::Error, "quote-in-text",
+            QStringLiteral("The text %1 has an apostrophe. It goes into the statement as it is, "
+                           "and the statement fails, or does something else: the person is not "
+                           "written.")
+                .arg(PlainText::quoted(text)),
+            QStringLiteral("Tell HR: write the text without ', or with the character \u2019."));
+    }
+    if (text.contains(QLatin1Char('\\'))) {
+        add(field, Severity::Error, "backslash-in-text",
+            QStringLiteral("The text %1 has a backslash. It goes into the statement as it is: the "
+                           "text arrives changed, or the statement fails.")
+                .arg(PlainText::quoted(text)),
+            QStringLiteral("Tell HR: write the text without \\."));
+    }
+    if (SqlText::hasPlaceholder(text)) {
+        add(field, Severity::Error, "placeholder-in-text",
+            QStringLiteral("The text %1 has a digit behind a percent sign. The plugin puts another "
+                           "value there: wrong data is written, or the statement fails.")
+                .arg(PlainText::quoted(text)),
+            QStringLiteral("Tell HR: write the text without %."));
+    }
+    checkWidth(field, column);
+}
+
+void FieldRules::checkWidth(int field, const char *column)
+{
+    const auto width = m_widths.constFind(QString::fromLatin1(column));
+    if (width == m_widths.constEnd())
+        return;
+    const int length = m_parts.at(field).toUcs4().size();
+    if (length <= *width)
+        return;
+    add(field, Severity::Error, "text-too-long",
+        QStringLiteral("The text has %1 characters; the database keeps %2. Depending on its mode "
+                       "it cuts the text or refuses the person.")
+            .arg(QString::number(length), QString::number(*width)),
+        QStringLiteral("Tell HR: shorten the text to %1 characters.").arg(*width));
+}
+
+void FieldRules::checkDates()
+{
+    checkDate(DatumNastupu, m_record.datumNastupu);
+    // Who stays has no leaving date, and who has no calendar has no beginning of it.
+    if (!m_parts.at(DatumVystupu).isEmpty())
+        checkDate(DatumVystupu, m_record.datumVystupu);
+    if (!m_parts.at(KalendarPlatnostOd).isEmpty() || m_record.kalendar != 0)
+        checkDate(KalendarPlatnostOd, m_record.kalendarPlatnostOd);
+    if (m_record.datumVystupu.isValid() && m_record.datumVystupu < m_record.datumNastupu) {
+        add(DatumVystupu, Severity::Warning, "leaves-before-start",
+            QStringLiteral("The person leaves on %1, before employment begins on %2.")
+                .arg(m_record.datumVystupu.toString(Qt::ISODate),
+                     m_record.datumNastupu.toString(Qt::ISODate)),
+            QStringLiteral("Tell HR: one of the two dates is wrong."));
+    }
+}
+
+void FieldRules::checkDate(int field, const QDate &date)
+{
+    const QString &text = m_parts.at(field);
+    if (text.isEmpty()) {
+        add(field, Severity::Warning, "empty-date",
+            QStringLiteral("There is no date: ") + consequence(field),
+            QStringLiteral("Tell HR: the date is needed."));
+    } else if (!date.isValid()) {
+        add(field, Severity::Warning, "bad-date",
+            QStringLiteral("%1 is no date to the plugin: %2")
+                .arg(PlainText::quoted(text), consequence(field)),
+            dateAdvice(text));
+    } else if (field != KalendarPlatnostOd && !isKept(date)) {
+        add(field, Severity::Warning, "date-out-of-range",
+            QStringLiteral("The plugin keeps days from 1970 to 2106; %1 comes back from the "
+                           "database as another day.")
+                .arg(date.toString(Qt::ISODate)),
+            field == DatumVystupu
+                ? QStringLiteral("Tell HR: who does not leave has an empty leaving date.")
+                : QStringLiteral("Tell HR: the date cannot be right."));
+    }
+}
+
+void FieldRules::checkNumber(int field)
+{
+    bool isNumber = false;
+    toNumber(m_parts.at(field), &isNumber);
+    if (isNumber)
+        return;
+    add(field, Severity::Warning, m_parts.at(field).isEmpty() ? "empty-number" : "bad-number",
+        QStringLiteral("%1 It reads as 0: %2").arg(notANumber(field), consequence(field)),
+        QStringLiteral("Tell HR: write digits only, up to 4294967295."));
+}
+
+void FieldRules::checkCode(int field, ushort code)
+{
+    checkNumber(field);
+    if (toNumber(m_parts.at(field)) == code)
+        return;
+    add(field, Severity::Warning, "code-wraps",
+        QStringLiteral("Codes go up to 65535; %1 reads as %2.")
+            .arg(PlainText::quoted(m_parts.at(field)), QString::number(code)),
+        QStringLiteral("Tell HR: the code cannot be right."));
+}
+
+void FieldRules::checkBalance()
+{
+    const QString &text = m_parts.at(DovolenaZustatek);
+    bool isNumber = false;
+    toBalance(text, &isNumber);
+    qint32 hundredths = 0;
+    if (!isNumber) {
+        add(DovolenaZustatek, Severity::Warning, text.isEmpty() ? "empty-number" : "bad-number",
+            QStringLiteral("%1 It reads as 0: %2")
+                .arg(notANumber(DovolenaZustatek), consequence(DovolenaZustatek)),
+            balanceAdvice(text));
+    } else if (!RecordCodes::vacationMove(m_record.dovolenaZustatek, 0, hundredths)) {
+        add(DovolenaZustatek, Severity::Warning, "balance-out-of-range",
+            QStringLiteral("%1 days are no balance that can be kept: the balance is not changed.")
+                .arg(PlainText::quoted(text)),
+            QStringLiteral("Tell HR: the balance cannot be right."));
+    }
+}
+
+/// Says in a sentence why a field is no number, or none above 0.
+QString FieldRules::notANumber(int field) const
+{
+    const QString &text = m_parts.at(field);
+    bool isNumber = false;
+    toNumber(text, &isNumber);
+    if (text.isEmpty())
+        return QStringLiteral("The field is empty.");
+    return isNumber ? QStringLiteral("The number is 0.")
+                    : QStringLiteral("%1 is no number to the plugin.").arg(PlainText::quoted(text));
+}
+
+void FieldRules::add(int field, Severity severity, const char *rule, const QString &message,
+                     const QString &advice)
+{
+    static const QStringList names = fieldNames();
+    m_line.add(severity, rule, message, advice).field = names.at(field);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tools/linecheck.h"
+
+/// The rules for the fields of one line that has all of them.
+class FieldRules {
+public:
+    /// \a record is what the plugin makes of the parts; findings go to the line. All four must
+    /// outlive the object.
+    FieldRules(const QStringList &parts, const MirovaRonRecord &record, const TextWidths &widths,
+               CheckedLine &line);
+
+    void check();
+
+private:
+    void checkIdentity();
+    void checkPid();
+    void checkTexts();
+    void checkText(int field, const char *column);
+    void checkWidth(int field, const char *column);
+    void checkDates();
+    void checkDate(int field, const QDate &date);
+    void checkNumber(int field);
+    void checkCode(int field, ushort code);
+    void checkBalance();
+
+    QString notANumber(int field) const;
+    void add(int field, Severity severity, const char *rule, const QString &message,
+             const QString &advice);
+
+    const QStringList &m_parts;
+    const MirovaRonRecord &m_record;
+    const TextWidths &m_widths;
+    CheckedLine &m_line;
+};

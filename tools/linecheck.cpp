@@ -1,0 +1,169 @@
+#include "tools/linecheck.h"
+
+#include "tools/fieldrules.h"
+#include "tools/personname.h"
+#include "tools/plaintext.h"
+#include "worker/boundedlinereader.h"
+#include "worker/exportline.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
+constexpr char kReplacementCharacter[] = "\xEF\xBF\xBD";
+
+/// The bytes of the reader's line without its line ending.
+QByteArray rawLine(const BoundedLineReader &reader)
+{
+    QByteArray raw(reader.line(), reader.length());
+    if (raw.endsWith('\n'))
+        raw.chop(1);
+    if (raw.endsWith('\r'))
+        raw.chop(1);
+    return raw;
+}
+
+bool isUtf16(const QByteArray &raw)
+{
+    return raw.startsWith("\xFF\xFE") || raw.startsWith("\xFE\xFF");
+}
+
+/// Whether decoding had to replace bytes that are not UTF-8. A replacement character that stands in
+/// the export itself is one that HR's program has put there.
+bool isDamaged(const QString &text, const QByteArray &raw)
+{
+    return text.count(QChar::ReplacementCharacter) > raw.count(kReplacementCharacter);
+}
+
+void checkBytes(const QString &text, CheckedLine &line)
+{
+    if (line.number == 1 && isUtf16(line.raw)) {
+        line.add(Severity::Error, "utf-16",
+                 QStringLiteral("The file is written in UTF-16; the plugin reads UTF-8 only."),
+                 QStringLiteral("Tell HR: save the export as UTF-8."));
+    }
+    if (line.raw.startsWith(kByteOrderMark)) {
+        line.add(Severity::Note, "byte-order-mark",
+                 QStringLiteral("The line begins with a byte order mark, which the plugin passes "
+                                "over."),
+                 QStringLiteral("Tell HR: save the export as UTF-8 without a byte order mark."));
+    }
+    if (line.raw.contains('\0')) {
+        line.add(Severity::Error, "nul-byte",
+                 QStringLiteral("The line has a NUL byte; nothing behind it is read."),
+                 QStringLiteral("Tell HR: the export is damaged, or not written in UTF-8."));
+    }
+    if (isDamaged(text, line.raw)) {
+        line.add(Severity::Warning, "not-utf8",
+                 QStringLiteral("Some bytes are not UTF-8; each is read as the character \uFFFD."),
+                 QStringLiteral("Tell HR: save the export as UTF-8."));
+    }
+}
+
+QString fieldCountAdvice(const QStringList &parts, int expected)
+{
+    const QString &text = parts.constFirst();
+    if (parts.size() == 1
+        && (text.count(QLatin1Char(';')) > 1 || text.count(QLatin1Char('\t')) > 1))
+        return QStringLiteral("Tell HR: fields are separated by the character |, nothing else.");
+    if (parts.size() == expected + 1 && parts.constLast().isEmpty())
+        return QStringLiteral("Tell HR: there must be no | behind the last field.");
+    if (parts.size() > expected)
+        return QStringLiteral("Tell HR: no text may contain the character |.");
+    return QStringLiteral("Tell HR: empty fields must be there, too, each with its |.");
+}
+
+bool isHeader(const QStringList &parts, const QStringList &fieldNames)
+{
+    return parts.constFirst().trimmed().compare(fieldNames.constFirst(), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+bool CheckedLine::isRejected() const
+{
+    return std::any_of(findings.cbegin(), findings.cend(),
+                       [](const Finding &finding) { return finding.severity == Severity::Error; });
+}
+
+Finding &CheckedLine::add(Severity severity, const char *rule, const QString &message,
+                          const QString &advice)
+{
+    Finding finding;
+    finding.severity = severity;
+    finding.rule = QString::fromLatin1(rule);
+    finding.message = message;
+    finding.advice = advice;
+    finding.line = number;
+    findings.append(finding);
+    return findings.last();
+}
+
+LineCheck::LineCheck(const TextWidths &widths)
+    : m_fieldNames(ExportLine::fieldNames())
+    , m_widths(widths)
+{
+}
+
+CheckedLine LineCheck::check(const BoundedLineReader &reader) const
+{
+    CheckedLine line;
+    line.number = reader.lineNumber();
+    line.raw = rawLine(reader);
+    const QString text = ExportLine::decode(reader.line());
+    checkBytes(text, line);
+    checkText(text, line);
+    for (Finding &finding : line.findings)
+        finding.dropped = line.isDropped();
+    return line;
+}
+
+CheckedLine LineCheck::tooLong(qint64 number)
+{
+    CheckedLine line;
+    line.number = number;
+    line.add(Severity::Error, "line-too-long",
+             QStringLiteral("The line is longer than %1 bytes; the plugin passes over it.")
+                 .arg(BoundedLineReader::kLongestLine),
+             QStringLiteral("Tell HR: the export is damaged; perhaps line feeds are missing."))
+        .dropped = true;
+    return line;
+}
+
+void LineCheck::checkText(const QString &text, CheckedLine &line) const
+{
+    if (text.isEmpty()) {
+        // What stands behind a NUL byte is lost, so that such a line is more than an empty one.
+        line.isBlank = !line.raw.contains('\0');
+        return;
+    }
+    const QStringList parts = ExportLine::split(text, ExportLine::kSeparator);
+    if (parts.size() == m_fieldNames.size()) {
+        checkParts(parts, line);
+        return;
+    }
+    line.add(Severity::Error, "field-count",
+             QStringLiteral("The line has %1 instead of %2.")
+                 .arg(PlainText::counted(parts.size(), QStringLiteral("field"),
+                                         QStringLiteral("fields")),
+                      QString::number(m_fieldNames.size())),
+             fieldCountAdvice(parts, m_fieldNames.size()));
+}
+
+void LineCheck::checkParts(const QStringList &parts, CheckedLine &line) const
+{
+    const MirovaRonRecord record = ExportLine::toRecord(parts);
+    if (ExportLine::isUsable(record))
+        line.record = record;
+    if (!line.record && isHeader(parts, m_fieldNames)) {
+        line.add(Severity::Error, "header-line",
+                 QStringLiteral("This is a line of field names; the plugin takes it for a person "
+                                "without a number."),
+                 QStringLiteral("Tell HR: the export has no header."));
+        return;
+    }
+    FieldRules(parts, record, m_widths, line).check();
+    for (Finding &finding : line.findings)
+        finding.subject = personName(record);
+}

@@ -1,0 +1,22 @@
+#include "tools/sqltext.h"
+
+namespace SqlText {
+
+bool hasPlaceholder(const QString &text)
+{
+    const QLatin1Char percent('%');
+    for (int i = text.indexOf(percent); i >= 0; i = text.indexOf(percent, i + 1)) {
+        const int digit = text.midRef(i + 1, 1) == QLatin1String("L") ? i + 2 : i + 1;
+        if (digit < text.size() && text.at(digit).digitValue() >= 0)
+            return true;
+    }
+    return false;
+}
+
+bool breaksStatement(const QString &text)
+{
+    return text.contains(QLatin1Char('\'')) || text.contains(QLatin1Char('\\'))
+        || hasPlaceholder(text);
+}
+
+} // namespace SqlText
