@@ -42,6 +42,7 @@ private:
     void checkSyncCommand();
     void checkMessages();
     void checkMessageKey(const QString &key);
+    void checkMessageText(const QString &key);
     void checkMessageCollisions(const QStringList &keys);
 
     QString written(const QString &key) const;

@@ -2,7 +2,7 @@
 
 #include "tools/configcheck.h"
 
-#include "tools/plaintext.h"
+#include "tools/sqltext.h"
 
 #include <QSettings>
 
@@ -26,6 +26,7 @@ void ConfigCheck::checkMessages()
     for (const QString &key : keys) {
         checkMessageKey(key);
         checkText(settingsKey(key));
+        checkMessageText(key);
     }
     checkMessageCollisions(keys);
 }
@@ -45,6 +46,17 @@ void ConfigCheck::checkMessageKey(const QString &key)
                 .arg(code),
             QStringLiteral("Write a code up to 65535."));
     }
+}
+
+void ConfigCheck::checkMessageText(const QString &key)
+{
+    const QString text = m_settings->value(settingsKey(key)).toString();
+    if (!SqlText::breaksStatement(text))
+        return;
+    add(Severity::Error, "mes-text-breaks-sql", settingsKey(key),
+        QStringLiteral("The text has an apostrophe, a backslash or a digit behind a percent sign. "
+                       "It goes into the statement as it is: nobody in this state can be written."),
+        QStringLiteral("Write the text without these characters."));
 }
 
 void ConfigCheck::checkMessageCollisions(const QStringList &keys)

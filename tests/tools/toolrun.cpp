@@ -1,0 +1,60 @@
+#include "tests/tools/toolrun.h"
+
+#include "tools/console.h"
+#include "tools/subcommand.h"
+
+#include <QBuffer>
+#include <QJsonDocument>
+#include <QSet>
+
+#include <algorithm>
+
+QJsonObject ToolRun::json() const
+{
+    return QJsonDocument::fromJson(out.toUtf8()).object();
+}
+
+QJsonArray ToolRun::findings() const
+{
+    return json().value("findings").toArray();
+}
+
+QVector<QJsonObject> ToolRun::findingsOf(const QString &rule) const
+{
+    QVector<QJsonObject> found;
+    const QJsonArray all = findings();
+    for (const QJsonValue &finding : all) {
+        if (finding.toObject().value("rule").toString() == rule)
+            found << finding.toObject();
+    }
+    return found;
+}
+
+QStringList ToolRun::rules() const
+{
+    QSet<QString> rules;
+    const QJsonArray all = findings();
+    for (const QJsonValue &finding : all)
+        rules << finding.toObject().value("rule").toString();
+    QStringList sorted = rules.values();
+    sorted.sort();
+    return sorted;
+}
+
+QByteArray ToolRun::report() const
+{
+    return QStringLiteral("status %1\n%2\n%3")
+        .arg(QString::number(static_cast<int>(status)), out, err)
+        .toUtf8();
+}
+
+ToolRun runTool(const QStringList &arguments, bool interactive)
+{
+    QBuffer out;
+    QBuffer err;
+    out.open(QIODevice::WriteOnly);
+    err.open(QIODevice::WriteOnly);
+    Console console(out, err, interactive);
+    const ExitStatus status = runMirovahrctl(arguments, console);
+    return {status, QString::fromUtf8(out.data()), QString::fromUtf8(err.data())};
+}

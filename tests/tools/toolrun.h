@@ -1,0 +1,32 @@
+#pragma once
+
+#include "tools/exitstatus.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+/// One run of a subcommand of mirovahrctl, in the process of the test.
+struct ToolRun {
+    ExitStatus status = ExitStatus::Usage;
+    QString out;
+    QString err;
+
+    /// The output as JSON; empty when it is none.
+    QJsonObject json() const;
+    /// The findings of a run with --json.
+    QJsonArray findings() const;
+    /// The findings of one rule.
+    QVector<QJsonObject> findingsOf(const QString &rule) const;
+    /// The rules of all findings, each once, in alphabetical order.
+    QStringList rules() const;
+    /// Everything there is to know, for the message of a failed check.
+    QByteArray report() const;
+};
+
+/// Runs `mirovahrctl` with these arguments. Standard error is no terminal unless \a interactive.
+ToolRun runTool(const QStringList &arguments, bool interactive = false);
+
+/// Fails the test, with what the tool printed, unless it ended with this status.
+#define COMPARE_EXIT(run, expected) QVERIFY2((run).status == (expected), (run).report().constData())
