@@ -79,7 +79,8 @@ QStringList LogCapture::lines() const
 QVector<LogMessage> LogCapture::messages() const
 {
     const std::lock_guard<std::mutex> lock(g_mutex);
-    return m_messages;
+    // A vector of the caller's own: one that is shared with ours would be read while ours grows.
+    return QVector<LogMessage>(m_messages.begin(), m_messages.end());
 }
 
 int LogCapture::count(const QString &line) const
