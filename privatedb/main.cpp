@@ -34,6 +34,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption keep(
         QStringLiteral("keep"),
         QStringLiteral("Leave the server's folder behind and print its name."));
+    const QCommandLineOption noRights(
+        QStringLiteral("no-rights"),
+        QStringLiteral("Give the account no rights but those that the loaded files grant."));
     const QCommandLineOption option(
         QStringLiteral("option"),
         QStringLiteral("A further option of mariadbd, without its dashes; may be repeated."),
@@ -48,7 +51,7 @@ int main(int argc, char *argv[])
         "The exit status is the command's; 125 when the server could not be set up, 127 when the\n"
         "command could not be started."));
     parser.addHelpOption();
-    parser.addOptions({load, database, keep, option});
+    parser.addOptions({load, database, keep, noRights, option});
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("What to run."),
                                  QStringLiteral("-- command [argument...]"));
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
@@ -68,6 +71,8 @@ int main(int argc, char *argv[])
     server.setDatabaseName(parser.value(database));
     server.setServerOptions(serverOptions);
     server.setKeepFiles(parser.isSet(keep));
+    if (parser.isSet(noRights))
+        server.setHostRights(PrivateMariaDb::HostRights::None);
     if (!server.start() || (!run.interrupted() && !server.load(parser.values(load))))
         return reportFailure(server);
     if (parser.isSet(keep))

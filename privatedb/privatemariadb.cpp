@@ -350,14 +350,17 @@ bool PrivateMariaDb::makeAccounts()
     if (!connection.database().open())
         return fail(connection.database().lastError().text());
     QSqlQuery query(connection.database());
-    for (const QString &statement :
-         {QStringLiteral("CREATE DATABASE `%1` CHARACTER SET utf8mb4").arg(m_databaseName),
-          QStringLiteral("CREATE USER '%1'@'localhost' IDENTIFIED BY '%2'")
-              .arg(userName())
-              .arg(password()),
-          QStringLiteral("GRANT ALL ON `%1`.* TO '%2'@'localhost'")
-              .arg(m_databaseName)
-              .arg(userName())}) {
+    QStringList statements{
+        QStringLiteral("CREATE DATABASE `%1` CHARACTER SET utf8mb4").arg(m_databaseName),
+        QStringLiteral("CREATE USER '%1'@'localhost' IDENTIFIED BY '%2'")
+            .arg(userName())
+            .arg(password())};
+    if (m_hostRights == HostRights::All) {
+        statements += QStringLiteral("GRANT ALL ON `%1`.* TO '%2'@'localhost'")
+                          .arg(m_databaseName)
+                          .arg(userName());
+    }
+    for (const QString &statement : qAsConst(statements)) {
         if (!query.exec(statement))
             return fail(query.lastError().text());
     }

@@ -23,7 +23,12 @@ class PrivateMariaDb {
 public:
     enum class Account {
         Administrator, ///< `root`, without a password
-        Host ///< userName(), with password(): every right on the database, none elsewhere
+        Host ///< userName(), with password(): rights on the database only, see HostRights
+    };
+
+    enum class HostRights {
+        All, ///< every right on the database
+        None ///< only what the administrator grants
     };
 
     PrivateMariaDb();
@@ -37,6 +42,8 @@ public:
     void setServerOptions(const QStringList &options) { m_serverOptions = options; }
     /// Name of the database that the first start creates; "tepdb" by default.
     void setDatabaseName(const QString &name) { m_databaseName = name; }
+    /// What the first start() grants to Account::Host; everything by default.
+    void setHostRights(HostRights rights) { m_hostRights = rights; }
     /// Leaves the folder behind at the end, for a look at the data and the error log.
     void setKeepFiles(bool keep);
 
@@ -88,6 +95,7 @@ private:
     QString m_baseDir;
     QStringList m_serverOptions;
     QString m_databaseName;
+    HostRights m_hostRights = HostRights::All;
     bool m_keepFiles = false;
     bool m_prepared = false; ///< Data folder, database and accounts are there.
     std::unique_ptr<QTemporaryDir> m_temporaryDir;

@@ -124,6 +124,7 @@ private Q_SLOTS:
 
     void aStartedServerAnswersBothAccounts();
     void theHostAccountHasNoRightsOnOtherDatabases();
+    void theHostAccountHasOnlyWhatIsGranted();
     void theServerListensOnItsSocketOnly();
     void configurationFilesAreNotRead();
     void theFolderGoesAwayWithTheServer();
@@ -139,6 +140,7 @@ private Q_SLOTS:
     void aMissingProgramNamesThePackage();
 
     void theCommandFindsTheServerInItsEnvironment();
+    void theAccountOfTheProgramCanBeWithoutRights();
     void theExitStatusIsTheCommands_data();
     void theExitStatusIsTheCommands();
     void aFailedLoadRunsNoCommand();
@@ -200,6 +202,18 @@ void TestPrivateMariaDb::theHostAccountHasNoRightsOnOtherDatabases()
     PrivateMariaDb server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     QVERIFY(answer(server, "SELECT COUNT(*) FROM mysql.user").contains("denied"));
+}
+
+void TestPrivateMariaDb::theHostAccountHasOnlyWhatIsGranted()
+{
+    writeFile(m_temp->filePath("a.sql"),
+              "CREATE TABLE a (n INT);\nGRANT SELECT ON a TO yav@localhost;\n");
+    PrivateMariaDb server;
+    server.setHostRights(PrivateMariaDb::HostRights::None);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QVERIFY2(server.load(m_temp->filePath("a.sql")), qPrintable(server.errorString()));
+    QCOMPARE(answer(server, "SELECT COUNT(*) FROM a"), QString("0"));
+    QVERIFY(answer(server, "INSERT INTO a VALUES (1)").contains("denied"));
 }
 
 void TestPrivateMariaDb::theServerListensOnItsSocketOnly()
@@ -373,6 +387,19 @@ void TestPrivateMariaDb::theCommandFindsTheServerInItsEnvironment()
     QCOMPARE(program.readAllStandardOutput(), QByteArray("loaded\tmine\t19\n"));
     QCOMPARE(program.exitCode(), 0);
     QCOMPARE(entries(m_temp->path()), QStringList("a.sql"));
+}
+
+void TestPrivateMariaDb::theAccountOfTheProgramCanBeWithoutRights()
+{
+    writeFile(m_temp->filePath("a.sql"),
+              "CREATE TABLE a (n INT);\nGRANT SELECT (n) ON a TO yav@localhost;\n");
+    QProcess program;
+    runProgram(program,
+               {"--no-rights", "--load", m_temp->filePath("a.sql"), "--", "sh", "-c",
+                "mariadb --no-defaults -N --socket=$MIROVAHR_DB_SOCKET --user=root"
+                " -e 'SHOW GRANTS FOR yav@localhost' | sed '1d'"});
+    QCOMPARE(program.readAllStandardOutput(),
+             QByteArray("GRANT SELECT (`n`) ON `tepdb`.`a` TO `yav`@`localhost`\n"));
 }
 
 void TestPrivateMariaDb::theExitStatusIsTheCommands_data()

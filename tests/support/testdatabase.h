@@ -32,9 +32,10 @@ struct ServerEvent {
 /// A private server with the reference database, for one test program: start() in initTestCase(),
 /// reset() or resetEmpty() in init().
 ///
-/// The code under test connects as `yav` (pluginConnection()); the test itself looks and changes
-/// things as `root` through run(), value(), rows() and dump(), which statements() leaves out. When
-/// the SQL of a test fails, the test function fails with the database's error at the caller's line.
+/// The code under test connects as `yav` (pluginConnection()), with the rights of
+/// reference-db/grants.sql and no others; the test itself looks and changes things as `root` through
+/// run(), value(), rows() and dump(), which statements() leaves out. When the SQL of a test fails,
+/// the test function fails with the database's error at the caller's line.
 ///
 /// The server's time zone is the program's (`TZ` at the time of start()).
 class TestDatabase {
@@ -48,6 +49,9 @@ public:
     /// `QVERIFY2(m_db.start(), qPrintable(m_db.errorString()))`.
     bool start(const QStringList &serverOptions = {});
     QString errorString() const { return m_server.errorString(); }
+
+    /// Grants what a file of the reference database says, to stay; after start().
+    void grant(const char *file);
 
     /// Drops the whole database, whatever the test did to its tables, triggers and routines, and
     /// loads schema, routines and sample data anew. Then clears the statement log. Open connections

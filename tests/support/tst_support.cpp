@@ -119,12 +119,12 @@ void TestSupport::aFailedExecutionIsLoggedAsWell()
 {
     QSqlQuery query(m_db.openPluginConnection());
     m_db.clearStatements();
-    VERIFY_SQL(query, query.prepare("INSERT INTO inters (iid) VALUES(?)"));
+    VERIFY_SQL(query, query.prepare("INSERT INTO people_pam (uid, id) VALUES(1, ?)"));
     query.bindValue(0, 1);
     QVERIFY(!query.exec());
     QCOMPARE(m_db.statements(),
-             QStringList({"PREPARE: INSERT INTO inters (iid) VALUES(?)",
-                          "EXECUTE: INSERT INTO inters (iid) VALUES(1)"}));
+             QStringList({"PREPARE: INSERT INTO people_pam (uid, id) VALUES(1, ?)",
+                          "EXECUTE: INSERT INTO people_pam (uid, id) VALUES(1, 1)"}));
 }
 
 void TestSupport::theServerLogsATextWithoutItsTrailingSemicolon()

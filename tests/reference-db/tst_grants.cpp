@@ -1,0 +1,319 @@
+#include "db/branchesrepository.h"
+#include "db/groupsplanrepo.h"
+#include "db/tepdbsettings.h"
+#include "db/termsyncrepository.h"
+#include "tests/support/logcapture.h"
+#include "tests/sync/sampleexport.h"
+#include "tests/sync/synctest.h"
+
+namespace {
+
+/// One right of an account, as a GRANT or REVOKE names it.
+struct Right {
+    QString privilege; ///< "SELECT (`uid`)"
+    QString object; ///< "`people`"
+
+    QString text() const { return privilege + " ON " + object; }
+};
+
+const char kAccount[] = "'yav'@'localhost'";
+
+QString quoted(const QString &name)
+{
+    return '`' + name + '`';
+}
+
+QStringList texts(const QVector<Right> &rights)
+{
+    QStringList texts;
+    for (const Right &right : rights)
+        texts += right.text();
+    return texts;
+}
+
+QStringList denials(const QStringList &log)
+{
+    return log.filter(QRegularExpression("^C .*denied"));
+}
+
+/// What the log shows while the repositories do everything that they can.
+QStringList useTheRepositories(const QSqlDatabase &db)
+{
+    const LogCapture log;
+    BranchesRepository branches(nullptr, true, true);
+    branches.setDB(db);
+    BranchRecord branch;
+    branch.name = "Dielňa";
+    branch.bid = branches.addBranch(branch);
+    branches.updateBranch(branch);
+    branches.addPeopleToBranch(1, "6");
+    branches.delPeopleFromBranch(1, "4");
+    branches.addBranchToTerms(1, "6");
+    branches.delBranchFromTerms(1, "1");
+    branches.addAdminsToBranch(1, "2");
+    branches.delAdminsFromBranch(1, "4");
+    branches.addSectionsToBranch(1, "3");
+    branches.delSectionsFromBranch(1, "1");
+    branches.addBAS(BASData{1, 2, 3});
+    branches.deleteBAS(QStringList{"2-1-2"});
+    branches.getUids4Branch(1);
+
+    GroupsPlanRepo plan(nullptr);
+    plan.setDB(db);
+    plan.add({12, 4, 202503});
+    plan.del({12, 5, 202006});
+    plan.getCurrentGid(5, 0, true);
+
+    TermSyncRepository queue;
+    queue.setDB(db);
+    queue.addTermSyncPerson(4, 'U', "people");
+    queue.addTermSyncPerson(1, 4, 'U', "people");
+    queue.addTermSyncInter(1, 'U', "inters");
+    queue.addTermSyncInter(1, 1, 'U', "inters");
+    queue.addTermSyncInters(1, {"1"}, 'U');
+    queue.addTermSyncPZT(4, 1, 1, 'I', "pzt");
+    queue.addColorGroup(1, 4);
+    queue.addColorGroup(1, QStringList{"4"});
+    queue.addColorGroupsToTermSync();
+
+    TepDbSettings settings(db);
+    settings.variableGetMultiple(QStringList{"a"});
+    settings.variableSet("a", 1);
+    settings.variableDel("a", false);
+    settings.variableDel("a", true);
+    return log.lines();
+}
+
+} // namespace
+
+/// The accounts of reference-db/grants.sql: enough, and nothing to spare.
+class TestGrants : public SyncTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theRightsOfThePluginAreEnough();
+    void thePluginNeedsEveryRightOfItsAccount_data();
+    void thePluginNeedsEveryRightOfItsAccount();
+    void otherServersWantTwoRightsMore();
+    void thePluginMayNeitherDeleteNorMakeTables();
+
+    void theRightsForTheRepositoriesAreEnough();
+    void theRepositoriesNeedEveryFurtherRight_data();
+    void theRepositoriesNeedEveryFurtherRight();
+
+    void aNewAccountIsLocked_data();
+    void aNewAccountIsLocked();
+    void loadingTwiceChangesNothing();
+
+private:
+    QVector<Right> rights();
+    const QVector<Right> &pluginRights();
+    QVector<Right> repositoryRights();
+    QVector<Right> rightsOnTables();
+    QVector<Right> rightsOnRoutines();
+    void addRightRows(const QVector<Right> &rights);
+    void revoke(const Right &right);
+    void give(const Right &right);
+    QStringList runThePlugin();
+
+    QVector<Right> m_pluginRights;
+};
+
+QVector<Right> TestGrants::rightsOnTables()
+{
+    QVector<Right> rights;
+    const TableRows rows = m_db.rows(
+        QStringLiteral("SELECT CONCAT(privilege_type, ' (`', column_name, '`)'), table_name"
+                       " FROM information_schema.column_privileges WHERE grantee = \"%1\""
+                       " UNION ALL SELECT privilege_type, table_name"
+                       " FROM information_schema.table_privileges WHERE grantee = \"%1\"")
+            .arg(kAccount));
+    for (const QStringList &row : rows)
+        rights.append({row.at(0), quoted(row.at(1))});
+    const TableRows ofSchema =
+        m_db.rows(QStringLiteral("SELECT privilege_type FROM information_schema.schema_privileges"
+                                 " WHERE grantee = \"%1\"")
+                      .arg(kAccount));
+    for (const QStringList &row : ofSchema)
+        rights.append({row.first(), "*"});
+    return rights;
+}
+
+QVector<Right> TestGrants::rightsOnRoutines()
+{
+    QVector<Right> rights;
+    const TableRows rows = m_db.rows("SELECT proc_priv, routine_type, routine_name"
+                                     " FROM mysql.procs_priv WHERE user = 'yav'");
+    for (const QStringList &row : rows)
+        rights.append({row.at(0), row.at(1) + ' ' + quoted(row.at(2))});
+    return rights;
+}
+
+QVector<Right> TestGrants::rights()
+{
+    return rightsOnTables() + rightsOnRoutines();
+}
+
+/// As long as nothing but grants.sql was loaded.
+const QVector<Right> &TestGrants::pluginRights()
+{
+    if (m_pluginRights.isEmpty())
+        m_pluginRights = rights();
+    return m_pluginRights;
+}
+
+/// What grants-repositories.sql grants on top. It stays granted.
+QVector<Right> TestGrants::repositoryRights()
+{
+    const QStringList known = texts(pluginRights());
+    m_db.grant("grants-repositories.sql");
+    QVector<Right> further;
+    const QVector<Right> all = rights();
+    for (const Right &right : all) {
+        if (!known.contains(right.text()))
+            further.append(right);
+    }
+    return further;
+}
+
+void TestGrants::addRightRows(const QVector<Right> &rights)
+{
+    QTest::addColumn<QString>("privilege");
+    QTest::addColumn<QString>("object");
+    for (const Right &right : rights)
+        QTest::newRow(qPrintable(right.text())) << right.privilege << right.object;
+}
+
+void TestGrants::revoke(const Right &right)
+{
+    m_db.run(QStringLiteral("REVOKE %1 FROM %2").arg(right.text(), kAccount));
+}
+
+void TestGrants::give(const Right &right)
+{
+    m_db.run(QStringLiteral("GRANT %1 TO %2").arg(right.text(), kAccount));
+}
+
+/// What the log shows of a forced synchronisation in which everything happens that can.
+QStringList TestGrants::runThePlugin()
+{
+    m_db.run("UPDATE people SET rsBegin = 1700000000 WHERE uid = 4");
+    m_db.run("UPDATE people SET status = 0 WHERE uid = 5");
+    m_db.run("DELETE FROM people_pam WHERE uid = 5");
+    force();
+    const QVector<ExportLine> lines{
+        SampleExport::maria().with(&ExportLine::dovolenaZustatek, QStringLiteral("21")),
+        SampleExport::peter().with(&ExportLine::nadrizenyOsobniCislo, 1001),
+        SampleExport::jana().with(&ExportLine::stredisko, 130), SampleExport::jan(),
+        SampleExport::newcomer(newPersonalNumber())
+            .with(&ExportLine::kalendarPlatnostOd, QDate(2024, 1, 1))};
+    return synchronise(lines).log;
+}
+
+void TestGrants::theRightsOfThePluginAreEnough()
+{
+    QCOMPARE(runThePlugin().filter(QRegularExpression("^[CW] ")).join('\n'), QString());
+    QCOMPARE(m_db.value("SELECT value FROM vars WHERE name = 'YAV.MHRWorker.forceSync'").toInt(),
+             0);
+}
+
+void TestGrants::thePluginNeedsEveryRightOfItsAccount_data()
+{
+    QVector<Right> needed;
+    for (const Right &right : pluginRights()) {
+        if (right.text() != "SELECT (`bid`) ON `people`"
+            && right.text() != "UPDATE (`status`) ON `people`") {
+            needed.append(right);
+        }
+    }
+    addRightRows(needed);
+}
+
+void TestGrants::thePluginNeedsEveryRightOfItsAccount()
+{
+    QFETCH(QString, privilege);
+    QFETCH(QString, object);
+    const Right right{privilege, object};
+    revoke(right);
+    const QStringList log = runThePlugin();
+    give(right);
+    QVERIFY2(!denials(log).isEmpty(), qPrintable(log.join('\n')));
+}
+
+void TestGrants::otherServersWantTwoRightsMore()
+{
+    // Should this server begin to ask for them, they belong to the rows of the test above.
+    const QVector<Right> spare{{"SELECT (`bid`)", "`people`"}, {"UPDATE (`status`)", "`people`"}};
+    for (const Right &right : spare) {
+        QVERIFY(texts(pluginRights()).contains(right.text()));
+        revoke(right);
+    }
+    const QStringList log = runThePlugin();
+    for (const Right &right : spare)
+        give(right);
+    QCOMPARE(denials(log), QStringList());
+}
+
+void TestGrants::thePluginMayNeitherDeleteNorMakeTables()
+{
+    for (const Right &right : pluginRights()) {
+        const QString verb = right.privilege.section(' ', 0, 0);
+        QVERIFY2(QStringList({"SELECT", "INSERT", "UPDATE", "Execute"}).contains(verb),
+                 qPrintable(right.text()));
+        QVERIFY2(verb == "Execute" || right.privilege.contains('('), qPrintable(right.text()));
+    }
+}
+
+void TestGrants::theRightsForTheRepositoriesAreEnough()
+{
+    QVERIFY(!repositoryRights().isEmpty());
+    QCOMPARE(useTheRepositories(m_db.openPluginConnection()).join('\n'), QString());
+}
+
+void TestGrants::theRepositoriesNeedEveryFurtherRight_data()
+{
+    addRightRows(repositoryRights());
+}
+
+void TestGrants::theRepositoriesNeedEveryFurtherRight()
+{
+    QFETCH(QString, privilege);
+    QFETCH(QString, object);
+    const Right right{privilege, object};
+    revoke(right);
+    const QStringList log = useTheRepositories(m_db.openPluginConnection());
+    give(right);
+    QVERIFY2(!denials(log).isEmpty(), qPrintable(log.join('\n')));
+}
+
+void TestGrants::aNewAccountIsLocked_data()
+{
+    QTest::addColumn<QString>("account");
+    QTest::newRow("the plugin's") << "yav";
+    QTest::newRow("the tool's") << "mirovahrctl";
+}
+
+void TestGrants::aNewAccountIsLocked()
+{
+    QFETCH(QString, account);
+    const QString name = QStringLiteral("'%1'@'localhost'").arg(account);
+    const QString before = m_db.value("SHOW CREATE USER " + name).toString();
+    m_db.run("DROP USER " + name);
+    m_db.grant("grants.sql");
+    QCOMPARE(m_db.value("SHOW CREATE USER " + name).toString(),
+             QStringLiteral("CREATE USER `%1`@`localhost` ACCOUNT LOCK").arg(account));
+    m_db.run("DROP USER " + name);
+    m_db.run(before);
+    m_db.grant("grants.sql");
+}
+
+void TestGrants::loadingTwiceChangesNothing()
+{
+    const QStringList before = texts(rights());
+    m_db.grant("grants.sql");
+    QCOMPARE(texts(rights()), before);
+    QVERIFY(m_db.openPluginConnection().isOpen()); // neither locked nor without its password
+}
+
+SYNC_TEST_MAIN(TestGrants)
+#include "tst_grants.moc"
