@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QMetaMethod>
 #include <QSqlDatabase>
+#include <QThread>
 #include <QtTest>
 
 #include <memory>
@@ -241,7 +242,8 @@ void TestPluginLifecycle::aDisabledPluginReportsSuccessAndDoesNothing()
     const int threads = threadCount();
     QVERIFY(plugin->start());
     QCOMPARE(m_log->lines(), expected);
-    QCOMPARE(threadCount(), threads);
+    // Not more: one of an earlier plugin may have been on its way out.
+    QVERIFY(threadCount() <= threads);
     QVERIFY(HostApplication::instance()->worker() == nullptr);
 }
 
@@ -343,11 +345,12 @@ void TestPluginLifecycle::theConfigurationIsReadOnce()
 
 void TestPluginLifecycle::destroyingARunningPluginEndsItsThread()
 {
-    const int threads = threadCount();
     QVERIFY(load(0)->start());
-    QCOMPARE(threadCount(), threads + 1);
+    bool ended = false;
+    connect(HostApplication::instance()->worker()->thread(), &QThread::finished,
+            [&ended] { ended = true; });
     m_plugin.reset();
-    QCOMPARE(threadCount(), threads);
+    QVERIFY(ended);
 }
 
 int main(int argc, char *argv[])
