@@ -50,12 +50,13 @@ Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 p
 ExportCheck::ExportCheck(QFile &file, const TextWidths &widths)
     : m_file(file)
     , m_lineCheck(widths)
+    , m_size(file.size())
+    , m_pids(m_size)
 {
 }
 
 bool ExportCheck::run(const LineListener &listener)
 {
-    m_size = m_file.size();
     notePids();
     if (m_file.error() != QFileDevice::NoError || !m_file.seek(0))
         return false;

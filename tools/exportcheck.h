@@ -49,9 +49,9 @@ private:
 
     QFile &m_file;
     const LineCheck m_lineCheck;
+    const qint64 m_size;
     RepeatedPids m_pids;
     ProgressListener m_progress;
     Counts m_counts;
-    qint64 m_size = 0;
     bool m_endsWithLineFeed = true;
 };

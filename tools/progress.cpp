@@ -17,7 +17,6 @@ Progress::Progress(Console &console, const QString &what)
     : m_console(console)
     , m_what(what)
 {
-    m_sinceShown.start();
 }
 
 Progress::~Progress()
@@ -28,7 +27,9 @@ Progress::~Progress()
 
 void Progress::update(qint64 done, qint64 total)
 {
-    if (m_console.isInteractive() && m_sinceShown.elapsed() >= kMillisecondsBetweenShows)
+    if (!m_console.isInteractive())
+        return;
+    if (!m_sinceShown.isValid() || m_sinceShown.elapsed() >= kMillisecondsBetweenShows)
         show(done, total);
 }
 
@@ -37,6 +38,6 @@ void Progress::show(qint64 done, qint64 total)
     const qint64 percent = total > 0 ? qMin<qint64>(100, done * 100 / total) : 0;
     m_console.err().write(kLineStart);
     m_console.err().write(QStringLiteral("%1: %2 %").arg(m_what).arg(percent).toUtf8());
-    m_sinceShown.restart();
+    m_sinceShown.start();
     m_shown = true;
 }

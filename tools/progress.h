@@ -6,7 +6,7 @@
 class Console;
 
 /// How far a long piece of work is, in one line on standard error that is gone at the end. Shows
-/// nothing when standard error is no terminal, and nothing for work that is done at once.
+/// nothing when standard error is no terminal.
 class Progress {
 public:
     /// \a what names the work, such as "Reading the export".

@@ -4,20 +4,24 @@
 
 namespace {
 
-// 8 MiB for each array. With a million people 1 in 60 is a candidate without cause.
-constexpr int kIndexBits = 26;
+// At most 8 MiB for each array. With a million people 1 in 60 is then a candidate without cause.
+constexpr int kMostIndexBits = 26;
 
-/// Multiplication spreads pids, which come in rows, over all bits.
-int indexOf(quint32 pid)
+/// Some hundred bits for a line, so that few people of one export share one.
+int indexBits(qint64 bytes)
 {
-    return static_cast<int>((pid * 2654435769U) >> (32 - kIndexBits));
+    int bits = 10;
+    while (bits < kMostIndexBits && (qint64(1) << bits) < 4 * bytes)
+        ++bits;
+    return bits;
 }
 
 } // namespace
 
-RepeatedPids::RepeatedPids()
-    : m_seen(1 << kIndexBits)
-    , m_seenTwice(1 << kIndexBits)
+RepeatedPids::RepeatedPids(qint64 bytes)
+    : m_indexBits(indexBits(bytes))
+    , m_seen(1 << m_indexBits)
+    , m_seenTwice(1 << m_indexBits)
 {
 }
 
@@ -43,4 +47,10 @@ std::optional<RepeatedPids::First> RepeatedPids::first(const MirovaRonRecord &re
     else
         m_complete = false;
     return std::nullopt;
+}
+
+/// Multiplication spreads pids, which come in rows, over all bits.
+int RepeatedPids::indexOf(quint32 pid) const
+{
+    return static_cast<int>((pid * 2654435769U) >> (32 - m_indexBits));
 }

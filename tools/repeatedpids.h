@@ -16,7 +16,7 @@ class RepeatedPids {
 public:
     /// The most candidates that the second pass keeps. Beyond them it finds no more repetitions;
     /// see isComplete().
-    static constexpr int kMostCandidates = 500000;
+    static constexpr int kMostCandidates = 200000;
 
     /// Where a pid came first.
     struct First {
@@ -25,7 +25,8 @@ public:
         quint32 poradoveCisloPP = 0;
     };
 
-    RepeatedPids();
+    /// \a bytes: the size of the export, by which the bit arrays are made.
+    explicit RepeatedPids(qint64 bytes);
 
     /// First pass: this pid is in the export.
     void note(quint32 pid);
@@ -38,6 +39,9 @@ public:
     bool isComplete() const { return m_complete; }
 
 private:
+    int indexOf(quint32 pid) const;
+
+    const int m_indexBits;
     QBitArray m_seen;
     QBitArray m_seenTwice;
     QHash<quint32, First> m_candidates;

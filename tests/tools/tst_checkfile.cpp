@@ -1,0 +1,581 @@
+#include "tests/support/exportfile.h"
+#include "tests/tools/toolrun.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+/// The good line of test support with one field replaced.
+QByteArray line(QString ExportLine::*field, const QString &value)
+{
+    return ExportLine().with(field, value).text().toUtf8() + '\n';
+}
+
+QByteArray good()
+{
+    return ExportLine().text().toUtf8() + '\n';
+}
+
+QByteArray goodOf(const QString &personalNumber, const QString &relationship)
+{
+    return ExportLine()
+               .with(&ExportLine::osobniCislo, personalNumber)
+               .with(&ExportLine::poradoveCisloPP, relationship)
+               .text()
+               .toUtf8()
+        + '\n';
+}
+
+} // namespace
+
+/// What check-file says of an export, without a database.
+class TestCheckFile : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void aRuleTripsOnItsFixtureOnly_data();
+    void aRuleTripsOnItsFixtureOnly();
+    void aDroppedLineIsFlaggedAsSuch_data();
+    void aDroppedLineIsFlaggedAsSuch();
+    void aGoodExportIsFine();
+    void notesAloneAreFine();
+    void factsCountTheLines();
+    void aFindingSaysWhoAndWhere();
+    void theTextTellsEverything();
+    void theAdviceFitsTheMistake_data();
+    void theAdviceFitsTheMistake();
+    void aDuplicateNamesTheFirstLine();
+    void aClashNamesTheFirstPerson();
+    void tooManyRepetitionsAreSaidToBeIncomplete();
+    void everyLineOfALargeExportIsChecked();
+    void theRejectsHoldTheLinesAsTheyStand();
+    void theRejectsAreWrittenWithoutRejects();
+    void theRejectsAreNoExport();
+    void theExportIsNotChanged();
+    void badUsageIsRefused_data();
+    void badUsageIsRefused();
+    void whatCannotBeWrittenIsBadUsage_data();
+    void whatCannotBeWrittenIsBadUsage();
+    void anUnreadableFileIsBadUsage();
+    void progressIsShownOnATerminalOnly();
+
+private:
+    ToolRun check(const QByteArray &content, const QStringList &options = {"--json"});
+
+    QScopedPointer<ExportFile> m_export;
+    QScopedPointer<QTemporaryDir> m_dir;
+};
+
+void TestCheckFile::init()
+{
+    m_export.reset(new ExportFile);
+    m_dir.reset(new QTemporaryDir);
+}
+
+ToolRun TestCheckFile::check(const QByteArray &content, const QStringList &options)
+{
+    m_export->writeBytes(content);
+    return runTool(QStringList{"check-file", m_export->path()} + options);
+}
+
+void TestCheckFile::aRuleTripsOnItsFixtureOnly_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<int>("lineNumber"); // -1: the rule must not trip; 0: the file as a whole
+    QTest::addColumn<QString>("field");
+
+    const auto trips = [](const char *name, const QByteArray &content, const char *rule,
+                          int lineNumber, const char *field) {
+        QTest::newRow(name) << content << QString(rule) << lineNumber << QString(field);
+    };
+    const auto passes = [](const char *name, const QByteArray &content, const char *rule) {
+        QTest::newRow(name) << content << QString(rule) << -1 << QString();
+    };
+    using E = ExportLine;
+
+    trips("17 fields", good() + E().text().section('|', 0, 16).toUtf8() + "\n", "field-count", 2,
+          "");
+    trips("19 fields", E().text().toUtf8() + "|\n", "field-count", 1, "");
+    passes("18 fields", good(), "field-count");
+    passes("an empty line", "\n" + good() + " \t\r\n", "field-count");
+    trips("a header", "OsobniCislo" + QByteArray(17, '|') + "\n" + good(), "header-line", 1, "");
+    passes("no header", good(), "header-line");
+
+    trips("a personal number that is a word", line(&E::osobniCislo, "abc"), "no-personal-number", 1,
+          "OsobniCislo");
+    trips("a personal number of 0", line(&E::osobniCislo, "000"), "no-personal-number", 1,
+          "OsobniCislo");
+    trips("a personal number of 33 bits", line(&E::osobniCislo, "4294967296"), "no-personal-number",
+          1, "OsobniCislo");
+    passes("a personal number with zeros in front", line(&E::osobniCislo, "0001234"),
+           "no-personal-number");
+    passes("a personal number between blanks", line(&E::osobniCislo, " 1234 "),
+           "no-personal-number");
+    trips("no relationship", line(&E::poradoveCisloPP, ""), "no-relationship-number", 1,
+          "PoradoveCisloPP");
+    passes("a relationship", line(&E::poradoveCisloPP, "2"), "no-relationship-number");
+    trips("no name at all", E().with(&E::jmeno, "").with(&E::prijmeni, "").text().toUtf8() + "\n",
+          "no-name", 1, "Prijmeni");
+    passes("a first name only", line(&E::prijmeni, ""), "no-name");
+    passes("a surname only", line(&E::jmeno, ""), "no-name");
+    passes("a name of one blank", E().with(&E::jmeno, " ").with(&E::prijmeni, "").text().toUtf8(),
+           "no-name");
+
+    trips("numbers that make more than 32 bits", goodOf("4294967", "296"), "pid-zero", 1,
+          "OsobniCislo");
+    passes("numbers that make 32 bits", goodOf("4294967", "295"), "pid-zero");
+    trips("two people of one number", goodOf("1234", "1") + goodOf("123", "41"), "pid-clash", 2,
+          "");
+    passes("two people of two numbers", goodOf("1234", "1") + goodOf("124", "1"), "pid-clash");
+    passes("two people with the number 0", goodOf("4294967", "296") + goodOf("4294968", "1"),
+           "pid-clash");
+    trips("a relationship that comes twice", goodOf("1234", "1") + goodOf("01234", "1"),
+          "duplicate-relationship", 2, "");
+    passes("two relationships of one person", goodOf("1234", "1") + goodOf("1234", "2"),
+           "duplicate-relationship");
+    passes("a dropped line of the same number",
+           goodOf("1234", "1") + goodOf("1234", "1").replace('\n', "|\n"),
+           "duplicate-relationship");
+
+    trips("an apostrophe", line(&E::prijmeni, "O'Neil"), "quote-in-text", 1, "Prijmeni");
+    passes("a typographic apostrophe", line(&E::prijmeni, "O’Neil"), "quote-in-text");
+    passes("an apostrophe where no statement has it", line(&E::strediskoPopis, "O'Neil"),
+           "quote-in-text");
+    trips("a backslash", line(&E::telefon, "12\\34"), "backslash-in-text", 1, "Telefon");
+    passes("a slash", line(&E::telefon, "12/34"), "backslash-in-text");
+    trips("a placeholder", line(&E::titul, "%1"), "placeholder-in-text", 1, "Titul");
+    trips("a placeholder for a local number", line(&E::titulZa, "a %L9"), "placeholder-in-text", 1,
+          "TitulZa");
+    trips("a placeholder behind another percent sign", line(&E::jmeno, "%%5"),
+          "placeholder-in-text", 1, "Jmeno");
+    passes("a percent sign", line(&E::jmeno, "100% 5 %L %x"), "placeholder-in-text");
+
+    trips("a leaving date in another form", line(&E::datumVystupu, "31.3.2021"), "bad-date", 1,
+          "DatumVystupu");
+    trips("a day that does not exist", line(&E::datumNastupu, "2021-02-30 00:00:00.000"),
+          "bad-date", 1, "DatumNastupu");
+    trips("a date between blanks", line(&E::kalendarPlatnostOd, " 2021-03-01 00:00:00.000"),
+          "bad-date", 1, "KalendarPlatnostOd");
+    passes("a leaving date", line(&E::datumVystupu, "2021-03-31 00:00:00.000"), "bad-date");
+    passes("no leaving date", good(), "bad-date");
+    trips("no start date", line(&E::datumNastupu, ""), "empty-date", 1, "DatumNastupu");
+    trips("a calendar without a start", line(&E::kalendarPlatnostOd, ""), "empty-date", 1,
+          "KalendarPlatnostOd");
+    passes("neither a calendar nor its start",
+           E().with(&E::kalendarPlatnostOd, "").with(&E::kalendar, "0").text().toUtf8(),
+           "empty-date");
+    passes("an open end", good(), "empty-date");
+    trips("an end in the far future", line(&E::datumVystupu, "9999-12-31 00:00:00.000"),
+          "date-out-of-range", 1, "DatumVystupu");
+    trips("a start before 1970", line(&E::datumNastupu, "1969-12-31 00:00:00.000"),
+          "date-out-of-range", 1, "DatumNastupu");
+    passes("a start in 1971", line(&E::datumNastupu, "1971-01-01 00:00:00.000"),
+           "date-out-of-range");
+    passes("an end in 2105", line(&E::datumVystupu, "2105-12-31 00:00:00.000"),
+           "date-out-of-range");
+    trips("an end before the start", line(&E::datumVystupu, "2019-03-31 00:00:00.000"),
+          "leaves-before-start", 1, "DatumVystupu");
+    passes("an end on the first day", line(&E::datumVystupu, "2019-04-01 00:00:00.000"),
+           "leaves-before-start");
+
+    trips("a cost centre that is a word", line(&E::stredisko, "Sklad"), "bad-number", 1,
+          "Stredisko");
+    trips("a negative calendar", line(&E::kalendar, "-3"), "bad-number", 1, "Kalendar");
+    trips("a supervisor with a relationship", line(&E::nadrizenyOsobniCislo, "1001.1"),
+          "bad-number", 1, "NadrizenyOsobniCislo");
+    trips("a balance with a comma", line(&E::dovolenaZustatek, "12,5"), "bad-number", 1,
+          "DovolenaZustatek");
+    passes("a balance with a point", line(&E::dovolenaZustatek, "-12.5"), "bad-number");
+    passes("a cost centre of 0", line(&E::stredisko, "0"), "bad-number");
+    trips("no cost centre", line(&E::stredisko, ""), "empty-number", 1, "Stredisko");
+    trips("no register state", line(&E::evidencniStav, ""), "empty-number", 1, "EvidencniStav");
+    trips("no balance", line(&E::dovolenaZustatek, ""), "empty-number", 1, "DovolenaZustatek");
+    passes("no supervisor", line(&E::nadrizenyOsobniCislo, ""), "empty-number");
+    trips("a code of 17 bits", line(&E::evidencniStav, "65537"), "code-wraps", 1, "EvidencniStav");
+    passes("a code of 16 bits", line(&E::evidencniStav, "65535"), "code-wraps");
+    trips("a balance without end", line(&E::dovolenaZustatek, "inf"), "balance-out-of-range", 1,
+          "DovolenaZustatek");
+    trips("a balance that is no number", line(&E::dovolenaZustatek, "nan"), "balance-out-of-range",
+          1, "DovolenaZustatek");
+    trips("a balance of 31 bits and more", line(&E::dovolenaZustatek, "21474836.48"),
+          "balance-out-of-range", 1, "DovolenaZustatek");
+    passes("the largest balance", line(&E::dovolenaZustatek, "21474836.46"),
+           "balance-out-of-range");
+
+    trips("a line of more than 64 KiB", good() + QByteArray(65537, 'x') + "\n" + good(),
+          "line-too-long", 2, "");
+    trips("a last line of more than 64 KiB", good() + QByteArray(65537, 'x'), "line-too-long", 2,
+          "");
+    passes("a line of 64 KiB", QByteArray(65536, 'x') + "\n", "line-too-long");
+    trips("a NUL byte", good().replace("Jana", QByteArray("J\0na", 4)), "nul-byte", 1, "");
+    trips("a line of NUL bytes", QByteArray("\0\0\n", 3), "nul-byte", 1, "");
+    passes("no NUL byte", good(), "nul-byte");
+    trips("bytes of another encoding", good().replace("Jana", "J\xE1na"), "not-utf8", 1, "");
+    passes("a replacement character of HR's own", line(&E::jmeno, QString(QChar(0xFFFD))),
+           "not-utf8");
+    trips("a byte order mark", "\xEF\xBB\xBF" + good(), "byte-order-mark", 1, "");
+    passes("no byte order mark", good(), "byte-order-mark");
+    trips("UTF-16",
+          QByteArray("\xFF\xFE"
+                     "1\0|\0\n\0",
+                     8),
+          "utf-16", 1, "");
+    passes("UTF-8", good(), "utf-16");
+
+    trips("a file that ends in a line", good().chopped(1), "no-final-line-feed", 0, "");
+    passes("a file that ends in a line feed", good(), "no-final-line-feed");
+    trips("an empty file", "", "no-records", 0, "");
+    passes("an empty file has no last line", "", "no-final-line-feed");
+    passes("a file with a person", good(), "no-records");
+}
+
+void TestCheckFile::aRuleTripsOnItsFixtureOnly()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, rule);
+    QFETCH(int, lineNumber);
+    QFETCH(QString, field);
+
+    const ToolRun run = check(content);
+
+    const QVector<QJsonObject> found = run.findingsOf(rule);
+    if (lineNumber < 0) {
+        QVERIFY2(found.isEmpty(), run.report().constData());
+        return;
+    }
+    QVERIFY2(found.size() == 1, run.report().constData());
+    QCOMPARE(found[0]["line"].toInt(), lineNumber);
+    QCOMPARE(found[0]["field"].toString(), field);
+    QVERIFY(!found[0]["message"].toString().isEmpty());
+    QVERIFY(!found[0]["advice"].toString().isEmpty());
+    COMPARE_EXIT(
+        run, found[0]["severity"].toString() == "note" ? ExitStatus::Fine : ExitStatus::Findings);
+}
+
+void TestCheckFile::aDroppedLineIsFlaggedAsSuch_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("dropped");
+    using E = ExportLine;
+
+    QTest::newRow("too few fields") << QByteArray("1|2\n") << true;
+    QTest::newRow("a header") << "osobnicislo" + QByteArray(17, '|') + "\n" << true;
+    QTest::newRow("no personal number") << line(&E::osobniCislo, "x") << true;
+    QTest::newRow("no relationship") << line(&E::poradoveCisloPP, "0") << true;
+    QTest::newRow("no name") << E().with(&E::jmeno, "").with(&E::prijmeni, "").text().toUtf8()
+                             << true;
+    QTest::newRow("too long") << QByteArray(70000, 'x') << true;
+    QTest::newRow("a NUL byte in the last field")
+        << good().replace("12.5|0", QByteArray("12.5|0\0", 7)) << false;
+    QTest::newRow("a NUL byte before") << good().replace("Sklad", QByteArray(1, '\0')) << true;
+    QTest::newRow("an apostrophe") << line(&E::jmeno, "'") << false;
+    QTest::newRow("no number of 32 bits") << goodOf("4294967", "296") << false;
+    QTest::newRow("no date and no numbers") << QByteArray("1|1|||x|||||||||||||") << false;
+}
+
+void TestCheckFile::aDroppedLineIsFlaggedAsSuch()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, dropped);
+    const ToolRun run = check(content);
+    QVERIFY(!run.findings().isEmpty());
+    for (const QJsonValue &finding : run.findings()) {
+        if (finding.toObject().contains("line"))
+            QCOMPARE(finding.toObject()["dropped"].toBool(), dropped);
+    }
+    QCOMPARE(run.json()["facts"].toObject()["dropped"].toInt(), dropped ? 1 : 0);
+    QCOMPARE(run.json()["facts"].toObject()["records"].toInt(), dropped ? 0 : 1);
+}
+
+void TestCheckFile::aGoodExportIsFine()
+{
+    const ToolRun run = check(good() + goodOf("77", "1"), {});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.out,
+             QString("HR export %1\n").arg(m_export->path())
+                 + QString(10 + m_export->path().size(), '=')
+                 + "\n\nSummary\n-------\n"
+                   "Lines: 2\nRead as people: 2\nDropped by the plugin: 0\n"
+                   "Not arriving as they should: 0\n\nThe export is fine.\n");
+    QCOMPARE(run.err, QString());
+}
+
+void TestCheckFile::notesAloneAreFine()
+{
+    const ToolRun run = check("\xEF\xBB\xBF" + good());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.json()["result"].toString(), QString("fine"));
+    QCOMPARE(run.rules(), QStringList{"byte-order-mark"});
+}
+
+void TestCheckFile::factsCountTheLines()
+{
+    const ToolRun run = check(good() + "\n" + line(&ExportLine::osobniCislo, "x")
+                              + goodOf("4294967", "296") + QByteArray(70000, 'x') + "\n");
+    const QJsonObject facts = run.json()["facts"].toObject();
+    QCOMPARE(facts["lines"].toInt(), 5);
+    QCOMPARE(facts["records"].toInt(), 2);
+    QCOMPARE(facts["dropped"].toInt(), 2);
+    QCOMPARE(facts["rejected"].toInt(), 3);
+    QCOMPARE(run.json()["status"].toInt(), 1);
+    QCOMPARE(run.json()["result"].toString(), QString("findings"));
+    QCOMPARE(run.json()["subcommand"].toString(), QString("check-file"));
+}
+
+void TestCheckFile::aFindingSaysWhoAndWhere()
+{
+    const QJsonObject finding =
+        check(line(&ExportLine::dovolenaZustatek, "12,5")).findingsOf("bad-number").value(0);
+    QCOMPARE(finding["subject"].toString(), QString("1234.1 Jana Nováková"));
+    QCOMPARE(finding["severity"].toString(), QString("warning"));
+    QCOMPARE(finding["message"].toString(),
+             QString("\"12,5\" is no number to the plugin. It reads as 0: the vacation balance is "
+                     "set to 0 days."));
+    QVERIFY(!finding.contains("dropped"));
+}
+
+void TestCheckFile::theTextTellsEverything()
+{
+    const ToolRun run = check(line(&ExportLine::datumVystupu, "31.3.2021").chopped(1), {});
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(
+        run.out.section('\n', 2),
+        QString("\nWhat to look at\n---------------\n"
+                "line 1, DatumVystupu (1234.1 Jana Nováková): warning: \"31.3.2021\" is no "
+                "date to the plugin: the person counts as not leaving. [bad-date]\n"
+                "    Tell HR: dates look like 2021-03-31 00:00:00.000.\n"
+                "warning: The last line has no line feed at its end. The plugin reads it as "
+                "it stands, but the file may have been cut off. [no-final-line-feed]\n"
+                "    Ask HR whether the export is whole.\n"
+                "\nSummary\n-------\n"
+                "Rule                Findings\n"
+                "------------------  --------\n"
+                "bad-date            1\n"
+                "no-final-line-feed  1\n"
+                "Lines: 1\nRead as people: 1\nDropped by the plugin: 0\n"
+                "Not arriving as they should: 0\n"
+                "\nEverybody in the export arrives, but not everything is as it should be.\n"));
+}
+
+void TestCheckFile::theAdviceFitsTheMistake_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("advice");
+    using E = ExportLine;
+    QTest::newRow("semicolons") << good().replace(
+        '|', ';') << "Tell HR: fields are separated by the character |, nothing else.";
+    QTest::newRow("a separator at the end")
+        << good().replace('\n', "|\n") << "Tell HR: there must be no | behind the last field.";
+    QTest::newRow("a separator in a text")
+        << good().replace("Jana", "Ja|na") << "Tell HR: no text may contain the character |.";
+    QTest::newRow("a field left out")
+        << good().replace("|Sklad", "")
+        << "Tell HR: empty fields must be there, too, each with its |.";
+    QTest::newRow("a date without a time")
+        << line(&E::datumVystupu, "2021-03-31")
+        << "Tell HR: a date has a time behind it, as in 2021-03-31 00:00:00.000.";
+    QTest::newRow("a decimal comma") << line(&E::dovolenaZustatek, "12,5")
+                                     << "Tell HR: the balance is written with a point, as in 12.5.";
+    QTest::newRow("the end of time") << line(&E::datumVystupu, "9999-12-31 00:00:00.000")
+                                     << "Tell HR: who does not leave has an empty leaving date.";
+}
+
+void TestCheckFile::theAdviceFitsTheMistake()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, advice);
+    const ToolRun run = check(content);
+    QVERIFY2(!run.findings().isEmpty(), run.report().constData());
+    QCOMPARE(run.findings()[0].toObject()["advice"].toString(), advice);
+}
+
+void TestCheckFile::aDuplicateNamesTheFirstLine()
+{
+    const ToolRun run = check("\n" + good() + goodOf("7", "1") + good() + good());
+    const QVector<QJsonObject> found = run.findingsOf("duplicate-relationship");
+    QCOMPARE(found.size(), 2);
+    QCOMPARE(found[0]["line"].toInt(), 4);
+    QCOMPARE(found[1]["line"].toInt(), 5);
+    QVERIFY(found[1]["message"].toString().startsWith("Line 2 is about the same employment"));
+}
+
+void TestCheckFile::aClashNamesTheFirstPerson()
+{
+    const ToolRun run = check(goodOf("123", "41") + goodOf("7", "1") + goodOf("1234", "1"));
+    const QVector<QJsonObject> found = run.findingsOf("pid-clash");
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found[0]["subject"].toString(), QString("1234.1 Jana Nováková"));
+    QCOMPARE(found[0]["message"].toString(),
+             QString("The person of line 1, 123.41, has the same number 12341: the plugin takes "
+                     "both for one person, and the last line prevails."));
+}
+
+void TestCheckFile::tooManyRepetitionsAreSaidToBeIncomplete()
+{
+    const auto people = [](int count) {
+        QByteArray content;
+        for (int i = 1; i <= count; ++i)
+            content += goodOf(QString::number(i), "1");
+        return content;
+    };
+    QVERIFY(check(people(1000).repeated(2)).findingsOf("repetitions-not-all-found").isEmpty());
+
+    // More people than are compared, each twice.
+    const ToolRun run = check(people(200001).repeated(2));
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.findingsOf("repetitions-not-all-found").size(), 1);
+    QCOMPARE(run.findingsOf("duplicate-relationship").size(), 200000);
+}
+
+void TestCheckFile::everyLineOfALargeExportIsChecked()
+{
+    QByteArray content;
+    QVector<int> expected;
+    for (int i = 1; i <= 60000; ++i) {
+        const bool bad = i % 1013 == 0;
+        content += goodOf(bad ? QString("x") : QString::number(i), "1");
+        if (bad)
+            expected << i;
+    }
+    QVector<int> found;
+    for (const QJsonObject &finding : check(content).findingsOf("no-personal-number"))
+        found << finding["line"].toInt();
+    QCOMPARE(found, expected);
+}
+
+void TestCheckFile::theRejectsHoldTheLinesAsTheyStand()
+{
+    const QString path = m_dir->filePath("rejects.txt");
+    const QByteArray broken("1|Ji\xF8\xED|\"x\\\r");
+    const ToolRun run =
+        check(good() + broken + "\n" + line(&ExportLine::dovolenaZustatek, "1,5")
+                  + line(&ExportLine::jmeno, "O'Neil") + QByteArray(70000, 'x') + "\n",
+              {"--rejects", path});
+    COMPARE_EXIT(run, ExitStatus::Findings);
+
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    QCOMPARE(lines.value(0),
+             "# Lines of the export " + QFileInfo(m_export->path()).fileName().toUtf8()
+                 + " that do not arrive in the attendance system as they should.");
+    QVERIFY(lines.value(1).startsWith("# Checked on "));
+    QCOMPARE(lines.mid(2),
+             QList<QByteArray>({
+                 "",
+                 "# Line 2: The line has 3 fields instead of 18. Tell HR: empty fields must be "
+                 "there, too, each with its |.",
+                 broken.chopped(1),
+                 "",
+                 "# Line 4: Jmeno: The text \"O'Neil\" has an apostrophe. It goes into the "
+                 "statement as it is, and the statement fails, or does something else: the person "
+                 "is not written. Tell HR: write the text without ', or with the character ’.",
+                 ExportLine().with(&ExportLine::jmeno, "O'Neil").text().toUtf8(),
+                 "",
+                 "# Line 5: The line is longer than 65536 bytes; the plugin passes over it. Tell "
+                 "HR: the export is damaged; perhaps line feeds are missing.",
+                 "",
+                 "# 3 lines.",
+                 "",
+             }));
+}
+
+void TestCheckFile::theRejectsAreWrittenWithoutRejects()
+{
+    const QString path = m_dir->filePath("rejects.txt");
+    COMPARE_EXIT(check(good(), {"--rejects", path}), ExitStatus::Fine);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().endsWith("\n\n# 0 lines.\n"));
+}
+
+void TestCheckFile::theRejectsAreNoExport()
+{
+    // Sent back by mistake, the remarks among the lines must not become people.
+    const QString path = m_dir->filePath("rejects.txt");
+    check(line(&ExportLine::jmeno, "'"), {"--rejects", path});
+    const ToolRun run = runTool({"check-file", "--json", path});
+    QCOMPARE(run.json()["facts"].toObject()["records"].toInt(), 1);
+    QCOMPARE(run.json()["facts"].toObject()["dropped"].toInt(), 4);
+}
+
+void TestCheckFile::theExportIsNotChanged()
+{
+    const QByteArray content = good() + "broken\n";
+    check(content);
+    QFile file(m_export->path());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), content);
+}
+
+void TestCheckFile::badUsageIsRefused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("no file") << QStringList()
+                             << "mirovahrctl: check-file: FILE is missing; --help explains.\n";
+    QTest::newRow("two files") << QStringList{"a", "b"}
+                               << "mirovahrctl: check-file: 'b' is one argument too many.\n";
+    QTest::newRow("an option that is none")
+        << QStringList{"a", "--strict"} << "mirovahrctl: check-file: Unknown option 'strict'.\n";
+    QTest::newRow("an absent file") << QStringList{"/nowhere/ron.data"}
+                                    << "mirovahrctl: check-file: There is no file "
+                                       "'/nowhere/ron.data'.\n";
+    QTest::newRow("a folder") << QStringList{"/srv"}
+                              << "mirovahrctl: check-file: There is no file '/srv'.\n";
+    QTest::newRow("a database without a user")
+        << QStringList{"/etc/hostname", "--host", "h", "--database", "d"}
+        << "mirovahrctl: check-file: Name the database user with --user.\n";
+}
+
+void TestCheckFile::badUsageIsRefused()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, error);
+    const ToolRun run = runTool(QStringList("check-file") + arguments);
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err, error);
+    QCOMPARE(run.out, QString());
+}
+
+void TestCheckFile::whatCannotBeWrittenIsBadUsage_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("rejects") << "--rejects";
+    QTest::newRow("page") << "--html";
+}
+
+void TestCheckFile::whatCannotBeWrittenIsBadUsage()
+{
+    QFETCH(QString, option);
+    const ToolRun run = check(good(), {option, "/nowhere/x"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QVERIFY2(run.err.contains("'/nowhere/x' cannot be written: "), run.report().constData());
+    QCOMPARE(run.out, QString());
+}
+
+void TestCheckFile::anUnreadableFileIsBadUsage()
+{
+    // Opens like a file, but gives no byte.
+    const ToolRun run = runTool({"check-file", "/proc/self/mem"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QVERIFY2(run.err.contains("'/proc/self/mem' cannot be read to its end: "),
+             run.report().constData());
+}
+
+void TestCheckFile::progressIsShownOnATerminalOnly()
+{
+    m_export->writeBytes(good());
+    QCOMPARE(runTool({"check-file", m_export->path()}, false).err, QString());
+    const QString shown = runTool({"check-file", m_export->path()}, true).err;
+    QVERIFY2(shown.startsWith("\r\x1b[KChecking the export: 50 %"), qPrintable(shown));
+    QVERIFY(shown.endsWith("\r\x1b[K"));
+}
+
+QTEST_GUILESS_MAIN(TestCheckFile)
+#include "tst_checkfile.moc"

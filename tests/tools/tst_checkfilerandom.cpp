@@ -1,0 +1,242 @@
+#include "tests/support/exportfile.h"
+#include "tests/support/logcapture.h"
+#include "tests/tools/toolrun.h"
+#include "worker/mhrworker.h"
+
+#include <QRandomGenerator>
+#include <QSet>
+#include <QtTest>
+
+#include <algorithm>
+
+namespace {
+
+constexpr quint32 kSeed = 20210331;
+constexpr int kFiles = 2500;
+constexpr int kMostLines = 12;
+
+using Random = QRandomGenerator;
+
+template <typename T> const T &oneOf(Random &random, const QVector<T> &values)
+{
+    return values.at(random.bounded(values.size()));
+}
+
+QString randomNumber(Random &random)
+{
+    static const QVector<QString> numbers{"",           "0",
+                                          "00",         "1",
+                                          "0012",       " 12 ",
+                                          "\t7",        "-1",
+                                          "+5",         "12.0",
+                                          "1 2",        "abc",
+                                          "12a",        "0x10",
+                                          "1e3",        "１２",
+                                          "٣",          "\u00a01",
+                                          "65536",      "4294967295",
+                                          "4294967296", "99999999999999999999"};
+    return oneOf(random, numbers);
+}
+
+QString randomText(Random &random)
+{
+    static const QVector<QString> texts{"",       "",       " ", "Jana", "O'Neil", "\\", "%1",
+                                        "\u00a0", "\u2028", "👤", ";",    "ž",      "\t"};
+    return oneOf(random, texts);
+}
+
+/// The fields of a person, often with bad numbers and names.
+QStringList randomFields(Random &random)
+{
+    ExportLine line;
+    line.with(&ExportLine::osobniCislo, 1000 + random.bounded(10));
+    if (random.bounded(3) == 0)
+        line.with(&ExportLine::osobniCislo, randomNumber(random));
+    if (random.bounded(3) == 0)
+        line.with(&ExportLine::poradoveCisloPP, randomNumber(random));
+    if (random.bounded(2) == 0)
+        line.with(&ExportLine::jmeno, randomText(random));
+    if (random.bounded(2) == 0)
+        line.with(&ExportLine::prijmeni, randomText(random));
+    if (random.bounded(3) == 0)
+        line.with(&ExportLine::titul, randomText(random));
+    if (random.bounded(3) == 0)
+        line.with(&ExportLine::datumVystupu, randomText(random));
+    if (random.bounded(3) == 0)
+        line.with(&ExportLine::stredisko, randomNumber(random));
+    if (random.bounded(3) == 0)
+        line.with(&ExportLine::dovolenaZustatek, randomNumber(random));
+    return line.fields();
+}
+
+QByteArray randomPerson(Random &random)
+{
+    QStringList fields = randomFields(random);
+    switch (random.bounded(12)) {
+    case 0:
+        fields.removeAt(random.bounded(fields.size()));
+        break;
+    case 1:
+        fields.insert(random.bounded(fields.size()), "x");
+        break;
+    case 2:
+        fields.append("");
+        break;
+    default:
+        break;
+    }
+    return fields.join('|').toUtf8();
+}
+
+/// Bytes that a transfer may put into a line or around it, line feeds excepted.
+QByteArray damaged(Random &random, QByteArray line)
+{
+    static const QVector<QByteArray> bytes{
+        QByteArray(1, '\0'), "\xFF",        "\xC5", "\xEF\xBB\xBF", "\r", " ", "|", "\x1A",
+        "\xC2\xA0",          "\xED\xA0\x80"};
+    switch (random.bounded(8)) {
+    case 0:
+        return oneOf(random, bytes) + line;
+    case 1:
+        return line.insert(random.bounded(line.size()), oneOf(random, bytes));
+    case 2:
+        return line.left(random.bounded(line.size()));
+    case 3:
+        return line + "\r";
+    case 4:
+        return " \t" + line + " ";
+    default:
+        return line;
+    }
+}
+
+QByteArray randomLine(Random &random)
+{
+    static const QVector<QByteArray> odd{"",
+                                         " ",
+                                         "\r",
+                                         "\t \t",
+                                         "\xC2\xA0",
+                                         "\xEF\xBB\xBF",
+                                         QByteArray(3, '\0'),
+                                         QByteArray("\0x", 2),
+                                         "|",
+                                         "OsobniCislo|||||||||||||||||",
+                                         "|||||||||||||||||"};
+    const int kind = random.bounded(60);
+    if (kind < 8)
+        return oneOf(random, odd);
+    const QByteArray person = randomPerson(random);
+    if (kind == 8)
+        return person + QByteArray(65537 - person.size(), random.bounded(2) == 0 ? ' ' : 'x');
+    if (kind == 9)
+        return QByteArray(65536 - person.size(), ' ') + person;
+    return damaged(random, person);
+}
+
+QVector<QByteArray> randomLines(Random &random)
+{
+    QVector<QByteArray> lines;
+    const int count = 1 + random.bounded(kMostLines);
+    for (int i = 0; i < count; ++i)
+        lines << randomLine(random);
+    return lines;
+}
+
+QByteArray joined(Random &random, const QVector<QByteArray> &lines)
+{
+    QByteArray content;
+    for (const QByteArray &line : lines)
+        content += line + '\n';
+    if (random.bounded(4) == 0)
+        content.chop(1);
+    return content;
+}
+
+/// True when there is anything in the line that could be lost.
+bool hasContent(const QByteArray &line)
+{
+    return line.contains('\0') || !QString::fromUtf8(line).trimmed().isEmpty();
+}
+
+} // namespace
+
+/// check-file against the plugin itself, on files that no person would think of.
+class TestCheckFileRandom : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theLinesFlaggedAsDroppedAreThoseThatThePluginDrops();
+
+private:
+    int readByPlugin(const QByteArray &content);
+    QSet<int> droppedByPlugin(const QVector<QByteArray> &lines);
+    QSet<int> flaggedByTool(const QByteArray &content);
+
+    ExportFile m_export;
+};
+
+/// How many records the worker makes of a file, taken from its log. There is no database behind it.
+int TestCheckFileRandom::readByPlugin(const QByteArray &content)
+{
+    m_export.writeBytes(content);
+    const LogCapture log;
+    MHRWorker worker;
+    worker.setDebugLevel(2);
+    worker.setImportFile(m_export.path());
+    worker.loadAndParseData();
+    worker.doSync();
+
+    static const QString count = "D MHRWorker::doSync() - stack count: ";
+    const QStringList counts = log.lines().filter(count);
+    return counts.isEmpty() ? 0 : counts.constFirst().mid(count.size()).toInt();
+}
+
+/// Each line on its own, so that there is no doubt about which one is read.
+QSet<int> TestCheckFileRandom::droppedByPlugin(const QVector<QByteArray> &lines)
+{
+    QSet<int> numbers;
+    for (int i = 0; i < lines.size(); ++i) {
+        if (hasContent(lines.at(i)) && readByPlugin(lines.at(i) + '\n') == 0)
+            numbers << i + 1;
+    }
+    return numbers;
+}
+
+QSet<int> TestCheckFileRandom::flaggedByTool(const QByteArray &content)
+{
+    m_export.writeBytes(content);
+    const ToolRun run = runTool({"check-file", "--json", m_export.path()});
+    QSet<int> numbers;
+    for (const QJsonValue &finding : run.findings()) {
+        if (finding.toObject()["dropped"].toBool())
+            numbers << finding.toObject()["line"].toInt();
+    }
+    return numbers;
+}
+
+void TestCheckFileRandom::theLinesFlaggedAsDroppedAreThoseThatThePluginDrops()
+{
+    Random random(kSeed);
+    int droppedLines = 0;
+    int readLines = 0;
+    for (int file = 0; file < kFiles; ++file) {
+        const QVector<QByteArray> lines = randomLines(random);
+        const QByteArray content = joined(random, lines);
+        const QSet<int> dropped = droppedByPlugin(lines);
+        const int read = readByPlugin(content);
+        const auto full = std::count_if(lines.cbegin(), lines.cend(), hasContent);
+        const QByteArray message = "file " + QByteArray::number(file) + ":\n" + content.left(4000);
+
+        QVERIFY2(flaggedByTool(content) == dropped, message.constData());
+        QVERIFY2(read == full - dropped.size(), message.constData());
+        droppedLines += dropped.size();
+        readLines += read;
+    }
+    // Both kinds came often, or the comparison says little.
+    QVERIFY(droppedLines > kFiles);
+    QVERIFY(readLines > kFiles);
+}
+
+QTEST_GUILESS_MAIN(TestCheckFileRandom)
+#include "tst_checkfilerandom.moc"
