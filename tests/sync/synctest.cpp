@@ -102,13 +102,21 @@ int SyncTest::uidOf(uint pid)
     return m_db.value(QStringLiteral("SELECT uid FROM people WHERE pid = %1").arg(pid)).toInt();
 }
 
-void SyncTest::refuseSums(const QString &condition)
+void SyncTest::refuseColumn(const QString &table, const QString &column, const QString &condition)
 {
-    m_db.hideTable("funds_move");
+    QStringList values;
+    const TableRows columns = m_db.rows("SHOW COLUMNS FROM " + table);
+    for (const QStringList &row : columns) {
+        const QString name = "`" + row.first() + "`";
+        values += row.first() == column
+            ? "IF(" + condition + ", refuseValue(), " + name + ") " + name
+            : name;
+    }
+    m_db.hideTable(table);
     m_db.run("CREATE FUNCTION refuseValue() RETURNS INT BEGIN "
              "SIGNAL SQLSTATE '45000' SET MESSAGE_TEXT = 'refused by the test'; RETURN 0; END");
-    m_db.run("CREATE VIEW funds_move AS SELECT type, day, month, IF(" + condition
-             + ", refuseValue(), value) value, fid, uid FROM funds_move_hidden");
+    m_db.run("CREATE VIEW " + table + " AS SELECT " + values.join(", ") + " FROM " + table
+             + "_hidden");
 }
 
 void SyncTest::addDebugLevels()
@@ -129,7 +137,7 @@ QString SyncTest::refused()
     return QStringLiteral("[1644]: refused by the test QMYSQL: Unable to execute query");
 }
 
-QString SyncTest::refusedSum()
+QString SyncTest::refusedColumn()
 {
     return QStringLiteral("[1644]: refused by the test QMYSQL: Unable to store result");
 }

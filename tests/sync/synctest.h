@@ -51,8 +51,9 @@ protected:
     /// Makes the next tick a forced one.
     void force();
 
-    /// Makes every sum over the values of fund moves fail that meets a move of \a condition.
-    void refuseSums(const QString &condition);
+    /// Makes every query fail that reads a column in a row of \a condition.
+    void refuseColumn(const QString &table, const QString &column,
+                      const QString &condition = QStringLiteral("TRUE"));
 
     /// A personal number that no other test of the program uses: the uid of a person is looked up
     /// only once in the life of a program.
@@ -68,8 +69,8 @@ protected:
     static QString missingTable(const QString &table);
     /// How the log shows that a statement failed because TestDatabase::refuse() refused it.
     static QString refused();
-    /// The same of a query that refuseSums() refused.
-    static QString refusedSum();
+    /// The same of a query that refuseColumn() refused.
+    static QString refusedColumn();
 
     TestDatabase m_db;
     ExportFile m_export;

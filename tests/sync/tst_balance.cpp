@@ -277,12 +277,12 @@ void TestBalance::aBalanceThatCannotBeLoadedIsReported()
 {
     QFETCH(int, debugLevel);
     newWorker(debugLevel);
-    refuseSums("type = 2");
+    refuseColumn("funds_move", "value", "type = 2");
     const Trace trace = synchronise({jana().with(&ExportLine::dovolenaZustatek, "5")});
     QCOMPARE(trace.log.filter("loadFundStatusAndMove3"),
              linesAt(debugLevel,
                      {{2, "D MHRWorker::loadFundStatusAndMove3(pid: 12341)"},
-                      {0, "C MHRWorker::loadFundStatusAndMove3() - SQL 1 ERROR " + refusedSum()},
+                      {0, "C MHRWorker::loadFundStatusAndMove3() - SQL 1 ERROR " + refusedColumn()},
                       {1, "I MHRWorker::loadFundStatusAndMove3(pid: 12341): 0, load OK: NO"},
                       {0,
                        "W MHRWorker::doSyncRecord() - loadFundStatusAndMove3(): not loaded "
