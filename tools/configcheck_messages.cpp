@@ -54,8 +54,9 @@ void ConfigCheck::checkMessageText(const QString &key)
     if (!SqlText::breaksStatement(text))
         return;
     add(Severity::Error, "mes-text-breaks-sql", settingsKey(key),
-        QStringLiteral("The text has an apostrophe, a backslash or a digit behind a percent sign. "
-                       "It goes into the statement as it is: nobody in this state can be written."),
+        QStringLiteral("The text has an apostrophe, a backslash, a digit behind a percent sign or "
+                       "a character above U+FFFF. It goes into the statement as it is: nobody in "
+                       "this state can be written."),
         QStringLiteral("Write the text without these characters."));
 }
 

@@ -165,6 +165,14 @@ void FieldRules::checkText(int field, const char *column)
                 .arg(PlainText::quoted(text)),
             QStringLiteral("Tell HR: write the text without %."));
     }
+    if (SqlText::hasWideCharacter(text)) {
+        add(field, Severity::Error, "wide-character",
+            QStringLiteral("The text %1 has a character above U+FFFF, such as an emoji. The "
+                           "connection to the database cannot carry it: the person is not written, "
+                           "or the text is cut there.")
+                .arg(PlainText::quoted(text)),
+            QStringLiteral("Tell HR: write the text without it."));
+    }
     checkWidth(field, column);
 }
 

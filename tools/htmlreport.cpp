@@ -204,8 +204,8 @@ void HtmlReport::leaveOutRest()
 {
     if (m_leftOut == 0)
         return;
-    m_sections += QStringLiteral("<p>This page ends here: %1 more are not shown.</p>\n")
-                      .arg(PlainText::counted(m_leftOut, QStringLiteral("finding"),
-                                              QStringLiteral("findings")));
+    m_sections += QStringLiteral("<p>This page ends here: %1 not shown.</p>\n")
+                      .arg(PlainText::counted(m_leftOut, QStringLiteral("finding more is"),
+                                              QStringLiteral("findings more are")));
     m_leftOut = 0;
 }

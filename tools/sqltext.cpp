@@ -1,5 +1,7 @@
 #include "tools/sqltext.h"
 
+#include <algorithm>
+
 namespace SqlText {
 
 bool hasPlaceholder(const QString &text)
@@ -13,10 +15,15 @@ bool hasPlaceholder(const QString &text)
     return false;
 }
 
+bool hasWideCharacter(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSurrogate(); });
+}
+
 bool breaksStatement(const QString &text)
 {
     return text.contains(QLatin1Char('\'')) || text.contains(QLatin1Char('\\'))
-        || hasPlaceholder(text);
+        || hasPlaceholder(text) || hasWideCharacter(text);
 }
 
 } // namespace SqlText

@@ -29,4 +29,8 @@ struct ToolRun {
 ToolRun runTool(const QStringList &arguments, bool interactive = false);
 
 /// Fails the test, with what the tool printed, unless it ended with this status.
-#define COMPARE_EXIT(run, expected) QVERIFY2((run).status == (expected), (run).report().constData())
+#define COMPARE_EXIT(run, expected)                                                                \
+    do {                                                                                           \
+        const ToolRun &comparedRun = run;                                                          \
+        QVERIFY2(comparedRun.status == (expected), comparedRun.report().constData());              \
+    } while (false)

@@ -187,6 +187,7 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
     message("a comma in a quoted message", "21=\"a, b\"", "unquoted-comma", QString());
     message("an apostrophe in a message", "21=\"d'Arc\"", "mes-text-breaks-sql", "MES/21");
     message("a placeholder in a message", "21=\"100 %1\"", "mes-text-breaks-sql", "MES/21");
+    message("an emoji in a message", "21=\"👤\"", "mes-text-breaks-sql", "MES/21");
     message("a plain message", "21=\"100 %\"", "mes-text-breaks-sql", QString());
 }
 

@@ -155,6 +155,10 @@ void TestCheckFile::aRuleTripsOnItsFixtureOnly_data()
           "placeholder-in-text", 1, "Jmeno");
     passes("a percent sign", line(&E::jmeno, "100% 5 %L %x"), "placeholder-in-text");
 
+    trips("an emoji", line(&E::jmeno, "Jana 👤"), "wide-character", 1, "Jmeno");
+    passes("an emoji where no statement has it", line(&E::strediskoPopis, "👤"), "wide-character");
+    passes("letters of Slovak", line(&E::jmeno, "ľščťžýáíéôäňĎŇĹŔ"), "wide-character");
+
     trips("a leaving date in another form", line(&E::datumVystupu, "31.3.2021"), "bad-date", 1,
           "DatumVystupu");
     trips("a day that does not exist", line(&E::datumNastupu, "2021-02-30 00:00:00.000"),

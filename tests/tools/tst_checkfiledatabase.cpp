@@ -1,0 +1,197 @@
+#include "tests/support/exportfile.h"
+#include "tests/support/testdatabase.h"
+#include "tests/tools/toolrun.h"
+#include "tools/sqltext.h"
+#include "worker/mhrworker.h"
+
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// What check-file says of an export with the help of a database, and what it says about SQL texts
+/// compared with what a database does to them.
+class TestCheckFileDatabase : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void aTextLongerThanItsColumnIsFound_data();
+    void aTextLongerThanItsColumnIsFound();
+    void charactersAreCountedNotCodeUnits();
+    void withoutADatabaseNoTextIsTooLong();
+    void nothingIsWritten();
+    void thePasswordMayComeFromTheEnvironment();
+    void aServerThatIsNotThereIsNoDatabase();
+    void aWrongPasswordIsNoDatabase();
+    void aDatabaseWithoutPeopleBreaksTheContract();
+    void aTextArrivesAsItIsUnlessItIsFlagged();
+
+private:
+    QStringList databaseOptions();
+    ToolRun check(const ExportLine &line, const QStringList &options);
+
+    TestDatabase m_db;
+    ExportFile m_export;
+};
+
+void TestCheckFileDatabase::initTestCase()
+{
+    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+}
+
+void TestCheckFileDatabase::init()
+{
+    m_db.reset();
+}
+
+QStringList TestCheckFileDatabase::databaseOptions()
+{
+    return {
+        "--socket", m_db.server().socketPath(), "--database",      m_db.server().databaseName(),
+        "--user",   m_db.server().userName(),   "--password-file", m_db.server().passwordFile()};
+}
+
+ToolRun TestCheckFileDatabase::check(const ExportLine &line, const QStringList &options)
+{
+    m_export.write({line.text()});
+    return runTool(QStringList{"check-file", "--json", m_export.path()} + options);
+}
+
+void TestCheckFileDatabase::aTextLongerThanItsColumnIsFound_data()
+{
+    QTest::addColumn<QString>("column");
+    QTest::addColumn<QString>("field");
+    QTest::newRow("title") << "title"
+                           << "Titul";
+    QTest::newRow("first name") << "name"
+                                << "Jmeno";
+    QTest::newRow("surname") << "surname"
+                             << "Prijmeni";
+    QTest::newRow("title after the name") << "title2"
+                                          << "TitulZa";
+    QTest::newRow("phone") << "phone"
+                           << "Telefon";
+}
+
+void TestCheckFileDatabase::aTextLongerThanItsColumnIsFound()
+{
+    QFETCH(QString, column);
+    QFETCH(QString, field);
+    m_db.run(QString("ALTER TABLE people MODIFY %1 VARCHAR(25) NOT NULL DEFAULT ''").arg(column));
+    ExportLine line;
+    QStringList fields = line.fields();
+    const int position = QStringList{"title", "name", "surname", "title2", "phone"}.indexOf(column)
+        + 2; // behind the two numbers
+
+    fields[position] = QString(25, QChar(u'ž'));
+    m_export.write(QStringList{fields.join('|')});
+    const ToolRun fits =
+        runTool(QStringList{"check-file", "--json", m_export.path()} + databaseOptions());
+    COMPARE_EXIT(fits, ExitStatus::Fine);
+
+    fields[position] = QString(26, QChar(u'ž'));
+    m_export.write(QStringList{fields.join('|')});
+    const ToolRun run =
+        runTool(QStringList{"check-file", "--json", m_export.path()} + databaseOptions());
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    const QJsonObject finding = run.findingsOf("text-too-long").value(0);
+    QCOMPARE(finding["field"].toString(), field);
+    QCOMPARE(finding["message"].toString(),
+             QString("The text has 26 characters; the database keeps 25. Depending on its mode it "
+                     "cuts the text or refuses the person."));
+}
+
+void TestCheckFileDatabase::charactersAreCountedNotCodeUnits()
+{
+    m_db.resetEmpty();
+    m_db.run("ALTER TABLE people MODIFY name VARCHAR(3) NOT NULL DEFAULT ''");
+    const ToolRun run = check(ExportLine().with(&ExportLine::jmeno, "👤👤👤"), databaseOptions());
+    QVERIFY2(run.findingsOf("text-too-long").isEmpty(), run.report().constData());
+}
+
+void TestCheckFileDatabase::withoutADatabaseNoTextIsTooLong()
+{
+    const ToolRun run = check(ExportLine().with(&ExportLine::jmeno, QString(5000, 'x')), {});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+}
+
+void TestCheckFileDatabase::nothingIsWritten()
+{
+    m_db.clearStatements();
+    COMPARE_EXIT(check(ExportLine(), databaseOptions()), ExitStatus::Fine);
+    const QStringList statements = m_db.statements();
+    QCOMPARE(statements.size(), 2);
+    QCOMPARE(statements[0], QString("SET SESSION TRANSACTION READ ONLY"));
+    QVERIFY2(statements[1].startsWith("SELECT COLUMN_NAME, "), qPrintable(statements[1]));
+}
+
+void TestCheckFileDatabase::thePasswordMayComeFromTheEnvironment()
+{
+    qputenv("MIROVAHRCTL_PASSWORD", m_db.server().password().toUtf8());
+    COMPARE_EXIT(check(ExportLine(), databaseOptions().mid(0, 6)), ExitStatus::Fine);
+    QVERIFY(!qEnvironmentVariableIsSet("MIROVAHRCTL_PASSWORD"));
+}
+
+void TestCheckFileDatabase::aServerThatIsNotThereIsNoDatabase()
+{
+    const ToolRun run = check(
+        ExportLine(), {"--socket", "/nowhere/socket", "--database", "tepdb", "--user", "yav"});
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QVERIFY2(run.err.startsWith("mirovahrctl: check-file: The database cannot be opened: "),
+             run.report().constData());
+    QCOMPARE(run.out, QString());
+}
+
+void TestCheckFileDatabase::aWrongPasswordIsNoDatabase()
+{
+    QStringList options = databaseOptions();
+    options.last() = "/dev/null";
+    COMPARE_EXIT(check(ExportLine(), options), ExitStatus::NoDatabase);
+}
+
+void TestCheckFileDatabase::aDatabaseWithoutPeopleBreaksTheContract()
+{
+    m_db.hideTable("people");
+    const ToolRun run = check(ExportLine(), databaseOptions());
+    COMPARE_EXIT(run, ExitStatus::ContractBroken);
+    QCOMPARE(run.err,
+             QString("mirovahrctl: check-file: The database has no table 'people' with texts, or "
+                     "the account may not see it.\n"));
+}
+
+void TestCheckFileDatabase::aTextArrivesAsItIsUnlessItIsFlagged()
+{
+    static const QStringList pieces{"a",   "'", "\\", "%",  "1", "9", "L", "\"", "`",  ";",
+                                    "-- ", "ž", "👤",  "/*", "_", "0", "?", ":x", "\t", "{"};
+    MHRWorker worker;
+    worker.setTepDb(m_db.openPluginConnection());
+    QVERIFY(worker.dbCheckOpen());
+    worker.init();
+    QRandomGenerator random(7);
+    for (quint32 number = 1; number <= 600; ++number) {
+        QString text;
+        for (int i = random.bounded(1, 6); i > 0; --i)
+            text += pieces.at(random.bounded(pieces.size()));
+        MirovaRonRecord record;
+        record.osobniCislo = 500000 + number;
+        record.poradoveCisloPP = 1;
+        record.prijmeni = text;
+
+        worker.dbAddPerson(record);
+
+        const QString written =
+            m_db.value(QString("SELECT surname FROM people WHERE pid = %1").arg(record.getPid()))
+                .toString();
+        // Before these two a backslash stays what it is, if nothing else is wrong.
+        const bool spared = text.contains("\\%") || text.contains("\\_");
+        if (!SqlText::breaksStatement(text))
+            QCOMPARE(written, text);
+        else if (!spared)
+            QVERIFY2(written != text, qPrintable(text));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestCheckFileDatabase)
+#include "tst_checkfiledatabase.moc"

@@ -1,0 +1,153 @@
+#include "tests/host/programrun.h"
+#include "tests/tools/toolrun.h"
+#include "tools/subcommand.h"
+
+#include <QtTest>
+
+/// What all subcommands have in common, and the program itself.
+class TestCommandLine : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theOverviewNamesEverySubcommandAndStatus();
+    void theVersionIsPrinted();
+    void withoutASubcommandThereIsNothingToDo();
+    void anUnknownSubcommandIsRefused();
+    void everySubcommandExplainsItself_data();
+    void everySubcommandExplainsItself();
+    void everySubcommandRefusesAnOptionThatIsNone_data();
+    void everySubcommandRefusesAnOptionThatIsNone();
+    void noSubcommandTakesAPasswordOnItsCommandLine_data();
+    void noSubcommandTakesAPasswordOnItsCommandLine();
+    void theProgramEndsWithTheStatus();
+    void outputThatCannotBeWrittenIsAFailure();
+
+private:
+    void addSubcommands();
+};
+
+namespace {
+
+const char kStatuses[] = "Exit status:\n"
+                         "  0  Nothing to object to\n"
+                         "  1  There are findings: somebody should look at them\n"
+                         "  2  The command line, a file that it names or the configuration is of "
+                         "no use\n"
+                         "  3  The database cannot be reached or used\n"
+                         "  4  The database is not what the plugin relies on\n"
+                         "  5  A guard refused what was asked for; nothing was changed\n";
+
+} // namespace
+
+void TestCommandLine::addSubcommands()
+{
+    QTest::addColumn<QString>("name");
+    for (const Subcommand &subcommand : subcommands())
+        QTest::newRow(subcommand.name) << subcommand.name;
+}
+
+void TestCommandLine::theOverviewNamesEverySubcommandAndStatus()
+{
+    for (const char *option : {"--help", "-h"}) {
+        const ToolRun run = runTool({option});
+        COMPARE_EXIT(run, ExitStatus::Fine);
+        QVERIFY(run.out.startsWith("Usage: mirovahrctl SUBCOMMAND [OPTION...] [ARGUMENT...]\n"));
+        for (const Subcommand &subcommand : subcommands())
+            QVERIFY(run.out.contains(QString("\n  %1 ").arg(subcommand.name)));
+        QVERIFY(run.out.endsWith(kStatuses));
+    }
+}
+
+void TestCommandLine::theVersionIsPrinted()
+{
+    const ToolRun run = runTool({"--version"});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.out, QString("mirovahrctl 1.5.3\n"));
+}
+
+void TestCommandLine::withoutASubcommandThereIsNothingToDo()
+{
+    const ToolRun run = runTool({});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err, QString("mirovahrctl: Name a subcommand; --help lists them.\n"));
+}
+
+void TestCommandLine::anUnknownSubcommandIsRefused()
+{
+    const ToolRun run = runTool({"chek-file"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err,
+             QString("mirovahrctl: There is no subcommand 'chek-file'; --help lists them.\n"));
+}
+
+void TestCommandLine::everySubcommandExplainsItself_data()
+{
+    addSubcommands();
+}
+
+void TestCommandLine::everySubcommandExplainsItself()
+{
+    QFETCH(QString, name);
+    const ToolRun run = runTool({name, "--help"});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QVERIFY(run.out.startsWith(QString("Usage: mirovahrctl %1 [OPTION...]").arg(name)));
+    QVERIFY(run.out.contains("\n  -h, --help "));
+    QVERIFY(run.out.endsWith(kStatuses));
+    QCOMPARE(run.err, QString());
+    for (const QString &line : run.out.split('\n'))
+        QVERIFY2(line.size() <= 90, qPrintable(line));
+}
+
+void TestCommandLine::everySubcommandRefusesAnOptionThatIsNone_data()
+{
+    addSubcommands();
+}
+
+void TestCommandLine::everySubcommandRefusesAnOptionThatIsNone()
+{
+    QFETCH(QString, name);
+    const ToolRun run = runTool({name, "--no-such-option"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err, QString("mirovahrctl: %1: Unknown option 'no-such-option'.\n").arg(name));
+    QCOMPARE(run.out, QString());
+}
+
+void TestCommandLine::noSubcommandTakesAPasswordOnItsCommandLine_data()
+{
+    addSubcommands();
+}
+
+void TestCommandLine::noSubcommandTakesAPasswordOnItsCommandLine()
+{
+    QFETCH(QString, name);
+    COMPARE_EXIT(runTool({name, "--password=x"}), ExitStatus::Usage);
+}
+
+void TestCommandLine::theProgramEndsWithTheStatus()
+{
+    ProgramRun fine;
+    QVERIFY(fine.run(MIROVAHRCTL, {"--version"}));
+    COMPARE_STATUS(fine, 0);
+    QCOMPARE(fine.output(), QString("mirovahrctl 1.5.3\n"));
+
+    ProgramRun findings;
+    QVERIFY(findings.run(MIROVAHRCTL, {"check-file", "/dev/null"}));
+    COMPARE_STATUS(findings, 2);
+
+    ProgramRun missing;
+    QVERIFY(missing.run(MIROVAHRCTL, {"check-config", "/nowhere/MirovaHR.ini"}));
+    COMPARE_STATUS(missing, 1);
+    QCOMPARE(missing.errors(), QString());
+}
+
+void TestCommandLine::outputThatCannotBeWrittenIsAFailure()
+{
+    ProgramRun run;
+    QVERIFY(run.run("/bin/sh", {"-c", QString("'%1' --help > /dev/full").arg(MIROVAHRCTL)}));
+    COMPARE_STATUS(run, 2);
+    QVERIFY2(run.errors().startsWith("mirovahrctl: The output cannot be written: "),
+             run.report().constData());
+}
+
+QTEST_GUILESS_MAIN(TestCommandLine)
+#include "tst_commandline.moc"

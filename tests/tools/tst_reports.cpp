@@ -1,0 +1,232 @@
+#include "tools/finding.h"
+#include "tools/htmlreport.h"
+#include "tools/jsonreport.h"
+#include "tools/plaintext.h"
+#include "tools/textreport.h"
+
+#include <QBuffer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+#include <functional>
+
+namespace {
+
+Finding finding(const char *message)
+{
+    Finding finding;
+    finding.severity = Severity::Error;
+    finding.rule = "rule-id";
+    finding.message = message;
+    return finding;
+}
+
+Table table()
+{
+    return {"people",
+            {{"pid", "Number"}, {"name", "Name"}},
+            {{12341, "Nováková"}, {QVariant(), "<b>&\"x\""}}};
+}
+
+template <typename Writer> QByteArray written(const std::function<void(ReportWriter &)> &write)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    Writer writer(buffer);
+    writer.begin("preview", "A <title>");
+    write(writer);
+    writer.end(ExitStatus::Findings, "Done & dusted.");
+    return buffer.data();
+}
+
+void everything(ReportWriter &report)
+{
+    report.section("first", "First section");
+    report.sentence("A sentence with <tags> & \x1b[31mcolours.");
+    report.table(table());
+    report.section("second", "Second section");
+    Finding full = finding("Wrong.");
+    full.advice = "Do better.";
+    full.line = 12;
+    full.field = "Titul";
+    full.subject = "1.1 Ján";
+    full.dropped = true;
+    report.finding(full);
+    report.finding(finding("Bare."));
+    report.sentence("Between the findings.");
+    report.finding(finding("Last."));
+    report.fact("lines", "Lines", 1200);
+}
+
+} // namespace
+
+/// The three forms of a report.
+class TestReports : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theTextForm();
+    void theJsonForm();
+    void theJsonFormWithoutAnything();
+    void thePageHoldsEverythingEscaped();
+    void thePageNeedsNothingButItself();
+    void thePageShowsTheFirstFindingsOnly();
+    void textIsMadeVisible_data();
+    void textIsMadeVisible();
+    void longTextIsCutWhenQuoted();
+    void countsAgreeWithTheirNoun();
+};
+
+void TestReports::theTextForm()
+{
+    QCOMPARE(QString::fromUtf8(written<TextReport>(everything)),
+             QString("A <title>\n"
+                     "=========\n"
+                     "\n"
+                     "First section\n"
+                     "-------------\n"
+                     "A sentence with <tags> & \\x1b[31mcolours.\n"
+                     "Number  Name\n"
+                     "------  --------\n"
+                     "12341   Nováková\n"
+                     "        <b>&\"x\"\n"
+                     "\n"
+                     "Second section\n"
+                     "--------------\n"
+                     "line 12, Titul (1.1 Ján): error: Wrong. [rule-id]\n"
+                     "    Do better.\n"
+                     "error: Bare. [rule-id]\n"
+                     "Between the findings.\n"
+                     "error: Last. [rule-id]\n"
+                     "Lines: 1200\n"
+                     "\n"
+                     "Done & dusted.\n"));
+}
+
+void TestReports::theJsonForm()
+{
+    const QJsonObject json = QJsonDocument::fromJson(written<JsonReport>(everything)).object();
+    const QJsonObject expected =
+        QJsonDocument::fromJson(
+            R"({"mirovahrctl": "1.5.3", "subcommand": "preview", "title": "A <title>",
+            "findings": [
+                {"severity": "error", "rule": "rule-id", "message": "Wrong.", "line": 12,
+                 "advice": "Do better.", "field": "Titul", "subject": "1.1 Ján", "dropped": true},
+                {"severity": "error", "rule": "rule-id", "message": "Bare."},
+                {"severity": "error", "rule": "rule-id", "message": "Last."}],
+            "sections": [
+                {"id": "first", "heading": "First section",
+                 "sentences": ["A sentence with <tags> & \u001b[31mcolours."],
+                 "tables": {"people": [{"pid": 12341, "name": "Nováková"},
+                                       {"pid": null, "name": "<b>&\"x\""}]}},
+                {"id": "second", "heading": "Second section",
+                 "sentences": ["Between the findings."], "tables": {}}],
+            "facts": {"lines": 1200}, "status": 1, "result": "findings",
+            "verdict": "Done & dusted."})")
+            .object();
+    QVERIFY(!expected.isEmpty());
+    QCOMPARE(json, expected);
+}
+
+void TestReports::theJsonFormWithoutAnything()
+{
+    const QJsonObject json =
+        QJsonDocument::fromJson(written<JsonReport>([](ReportWriter &) {})).object();
+    QCOMPARE(json["findings"].toArray().size(), 0);
+    QCOMPARE(json["sections"].toArray().size(), 0);
+    QCOMPARE(json["facts"].toObject().size(), 0);
+    QCOMPARE(json["verdict"].toString(), QString("Done & dusted."));
+}
+
+void TestReports::thePageHoldsEverythingEscaped()
+{
+    const QString page = QString::fromUtf8(written<HtmlReport>(everything));
+    QVERIFY(page.startsWith("<!DOCTYPE html>\n<html lang=\"en\">\n"));
+    for (const char *part :
+         {"<meta charset=\"utf-8\">", "<title>A &lt;title&gt;</title>", "<h1>A &lt;title&gt;</h1>",
+          "<p class=\"verdict findings\">Done &amp; dusted.</p>", "<dt>Lines:</dt><dd>1200</dd>",
+          "<section id=\"first\">\n<h2>First section</h2>",
+          "<p>A sentence with &lt;tags&gt; &amp; \\x1b[31mcolours.</p>",
+          "<th>Number</th><th>Name</th>",
+          "<td data-label=\"Number\"></td><td data-label=\"Name\">&lt;b&gt;&amp;&quot;x&quot;</td>",
+          "<td data-label=\"Line\">12</td>", "<td data-label=\"Who\">1.1 Ján</td>",
+          "<td data-label=\"Field\">Titul</td>", "<span class=\"error\">dropped</span>",
+          "Wrong.<p class=\"advice\">Do better.</p>", "<span class=\"error\">error</span>"}) {
+        QVERIFY2(page.contains(part), part);
+    }
+    QCOMPARE(page.count("<table"), page.count("</table>"));
+    QCOMPARE(page.count("<table class=\"findings\">"), 2);
+    QCOMPARE(page.count("<section"), page.count("</section>"));
+    QVERIFY(page.indexOf("Done &amp; dusted.") < page.indexOf("First section"));
+}
+
+void TestReports::thePageNeedsNothingButItself()
+{
+    const QString page = QString::fromUtf8(written<HtmlReport>(everything));
+    QVERIFY(page.contains("content=\"default-src 'none'; style-src 'unsafe-inline'\""));
+    for (const char *part :
+         {"http:", "https:", "<script", "<link", "<img", "url(", "@import", "src="})
+        QVERIFY2(!page.contains(part), part);
+}
+
+void TestReports::thePageShowsTheFirstFindingsOnly()
+{
+    const auto findings = [](int count) {
+        return QString::fromUtf8(written<HtmlReport>([count](ReportWriter &report) {
+            report.section("findings", "Findings");
+            for (int i = 0; i < count; ++i)
+                report.finding(finding("Wrong."));
+            report.section("next", "Next");
+        }));
+    };
+    QCOMPARE(findings(1000).count(">Wrong.<"), 1000);
+    QVERIFY(!findings(1000).contains("not shown"));
+    const QString page = findings(1001);
+    QCOMPARE(page.count(">Wrong.<"), 1000);
+    QVERIFY(page.contains("<p>This page ends here: 1 finding more is not shown.</p>"));
+    QVERIFY(findings(1003).contains("<p>This page ends here: 3 findings more are not shown.</p>"));
+    QVERIFY(page.contains("<h2>Next</h2>"));
+}
+
+void TestReports::textIsMadeVisible_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("visible");
+    QTest::newRow("plain") << "Nováková 'x' <b> \\"
+                           << "Nováková 'x' <b> \\";
+    QTest::newRow("escape sequence") << "\x1b[2J"
+                                     << "\\x1b[2J";
+    QTest::newRow("line feed") << "a\nb\tc"
+                               << "a\\x0ab\\x09c";
+    QTest::newRow("control of the second range") << QString(QChar(0x9b)) << "\\x9b";
+    QTest::newRow("direction") << QString(QChar(0x202e)) + "x"
+                               << "\\u202ex";
+    QTest::newRow("line separator") << QString(QChar(0x2028)) << "\\u2028";
+    QTest::newRow("above 16 bits") << "👤"
+                                   << "👤";
+}
+
+void TestReports::textIsMadeVisible()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, visible);
+    QCOMPARE(PlainText::visible(text), visible);
+}
+
+void TestReports::longTextIsCutWhenQuoted()
+{
+    QCOMPARE(PlainText::quoted(QString(60, 'x')), '"' + QString(60, 'x') + '"');
+    QCOMPARE(PlainText::quoted(QString(61, 'x')), '"' + QString(60, 'x') + "\"…");
+}
+
+void TestReports::countsAgreeWithTheirNoun()
+{
+    QCOMPARE(PlainText::counted(0, "line", "lines"), QString("0 lines"));
+    QCOMPARE(PlainText::counted(1, "line", "lines"), QString("1 line"));
+    QCOMPARE(PlainText::counted(2, "line", "lines"), QString("2 lines"));
+}
+
+QTEST_GUILESS_MAIN(TestReports)
+#include "tst_reports.moc"

@@ -1,0 +1,76 @@
+#include "tools/dbcheck.h"
+
+#include "tools/reportwriter.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+namespace {
+
+QVariantList valuesOf(const QSqlQuery &query)
+{
+    QVariantList values;
+    for (int i = 0; i < query.record().count(); ++i)
+        values += query.value(i);
+    return values;
+}
+
+} // namespace
+
+DbCheck::DbCheck(const QSqlDatabase &db, ReportWriter &report)
+    : m_db(db)
+    , m_report(report)
+{
+}
+
+QVector<QVariantList> DbCheck::rows(const QString &sql)
+{
+    QVector<QVariantList> rows;
+    QSqlQuery query(m_db);
+    if (!query.exec(sql))
+        setUnusable(query.lastError().text());
+    while (query.next())
+        rows += valuesOf(query);
+    return rows;
+}
+
+QVariantList DbCheck::row(const QString &sql)
+{
+    return rows(sql).value(0);
+}
+
+QSqlError DbCheck::attempt(const QString &sql)
+{
+    QSqlQuery query(m_db);
+    query.exec(sql);
+    while (query.nextResult()) { }
+    return query.lastError();
+}
+
+void DbCheck::breach(const char *rule, const QString &message, const QString &advice,
+                     const QString &field)
+{
+    m_broken = true;
+    tell(Severity::Error, rule, message, advice, field);
+}
+
+void DbCheck::tell(Severity severity, const char *rule, const QString &message,
+                   const QString &advice, const QString &field)
+{
+    if (severity != Severity::Note)
+        ++m_serious;
+    Finding finding;
+    finding.severity = severity;
+    finding.rule = QString::fromLatin1(rule);
+    finding.message = message;
+    finding.advice = advice;
+    finding.field = field;
+    m_report.finding(finding);
+}
+
+void DbCheck::setUnusable(const QString &reason)
+{
+    if (m_unusable.isEmpty())
+        m_unusable = reason;
+}

@@ -1,0 +1,84 @@
+// The connection, as its options and the driver make it.
+
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/reportwriter.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QStringList>
+
+namespace {
+
+constexpr char kSelectConnection[] = "SELECT CURRENT_USER(), @@character_set_client,"
+                                     " @@character_set_connection, @@character_set_results";
+constexpr char kTwoStatements[] = "SELECT 1; SELECT 2";
+
+bool isUnicode(const QVariant &charset)
+{
+    return charset.toString().startsWith(QLatin1String("utf8"));
+}
+
+void checkCharset(DbCheck &check, const QVariantList &row)
+{
+    if (isUnicode(row.value(1)) && isUnicode(row.value(2)) && isUnicode(row.value(3)))
+        return;
+    check.tell(Severity::Error, "connection-charset",
+               QStringLiteral("The connection's character set is not UTF-8 (client %1, connection "
+                              "%2, results %3): letters with accents arrive wrong")
+                   .arg(row.value(1).toString(), row.value(2).toString(), row.value(3).toString()),
+               QStringLiteral("Look for SET NAMES in the server's init_connect."));
+}
+
+void checkSeveralStatements(DbCheck &check)
+{
+    QSqlQuery query(check.database());
+    const bool allowed = query.exec(QLatin1String(kTwoStatements)) && query.nextResult();
+    check.report().fact(QStringLiteral("severalStatements"),
+                        QStringLiteral("Several statements in one text"),
+                        allowed ? QStringLiteral("allowed") : QStringLiteral("refused"));
+    if (allowed)
+        return;
+    check.tell(Severity::Warning, "several-statements",
+               QStringLiteral("The connection refuses several statements in one text. The plugin "
+                              "does without, but where the attendance server uses the same "
+                              "classes, a changed time zone does not reach the terminals"),
+               QStringLiteral("Look for a proxy between here and the server that takes the "
+                              "statements apart."));
+}
+
+/// Whether the driver's options make an update count the rows that it found, not those it changed.
+bool countsFoundRows(const QString &connectOptions)
+{
+    const QStringList options = connectOptions.split(QLatin1Char(';'));
+    for (const QString &option : options) {
+        const QString name = option.section(QLatin1Char('='), 0, 0).trimmed();
+        const QString value = option.section(QLatin1Char('='), 1).trimmed().toUpper();
+        if (name == QLatin1String("CLIENT_FOUND_ROWS"))
+            return value.isEmpty() || value == QLatin1String("1") || value == QLatin1String("TRUE");
+    }
+    return false;
+}
+
+void checkAffectedRows(DbCheck &check)
+{
+    if (!countsFoundRows(check.database().connectOptions()))
+        return;
+    check.breach("found-rows",
+                 QStringLiteral("The connect options have CLIENT_FOUND_ROWS: the plugin then takes "
+                                "rows that it left as they were for rows that it changed"),
+                 QStringLiteral("Leave the option out, here and in the attendance server."));
+}
+
+} // namespace
+
+void DbRules::checkConnection(DbCheck &check)
+{
+    const QVariantList row = check.row(QLatin1String(kSelectConnection));
+    check.report().section(QStringLiteral("connection"), QStringLiteral("Connection"));
+    check.report().fact(QStringLiteral("account"), QStringLiteral("Account"), row.value(0));
+    check.report().fact(QStringLiteral("charset"), QStringLiteral("Character set"), row.value(1));
+    checkCharset(check, row);
+    checkSeveralStatements(check);
+    checkAffectedRows(check);
+}

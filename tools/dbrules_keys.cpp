@@ -1,0 +1,165 @@
+// Unique keys: an upsert must hit the row that it means, and no other.
+
+#include "db/tepdbcontract.h"
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/dbschema.h"
+#include "tools/pluginrights.h"
+#include "tools/reportwriter.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+using Columns = QSet<QString>;
+
+Columns toSet(const QStringList &names)
+{
+    return Columns(names.cbegin(), names.cend());
+}
+
+Columns columnsOf(const TepDbContract::UniqueKey &key)
+{
+    return toSet(PluginRights::names(QByteArray(key.columns).toLower().constData()));
+}
+
+QString listed(const Columns &columns)
+{
+    QStringList names = columns.values();
+    names.sort();
+    return names.join(QStringLiteral(", "));
+}
+
+/// The keys of one table that the contract names.
+class KeyCheck {
+public:
+    KeyCheck(DbCheck &check, const DbSchema &schema, const TepDbContract::Table &table)
+        : m_check(check)
+        , m_table(QString::fromLatin1(table.name))
+        , m_contract(table)
+        , m_keys(schema.uniqueKeys(m_table))
+    {
+    }
+
+    void run()
+    {
+        for (const TepDbContract::UniqueKey &key : m_contract.keys) {
+            if (key.use != TepDbContract::KeyUse::None)
+                checkKey(key);
+        }
+        if (hasUpsert())
+            checkFurtherKeys();
+    }
+
+private:
+    bool hasUpsert() const
+    {
+        return m_contract.keys[0].use == TepDbContract::KeyUse::Upsert
+            && PluginRights::insertsInto(m_table);
+    }
+
+    bool hasKey(const Columns &columns) const
+    {
+        return std::any_of(m_keys.cbegin(), m_keys.cend(), [&columns](const DbKey &key) {
+            return toSet(key.columns) == columns;
+        });
+    }
+
+    void checkKey(const TepDbContract::UniqueKey &key)
+    {
+        const Columns columns = columnsOf(key);
+        if (hasKey(columns))
+            return;
+        if (key.use == TepDbContract::KeyUse::Upsert)
+            missingUpsertKey(columns);
+        else
+            missingIdentity(columns);
+    }
+
+    void missingUpsertKey(const Columns &columns)
+    {
+        const QString message =
+            QStringLiteral("The table %1 has no unique key on exactly %2: %3 makes a second row "
+                           "where it should change the first")
+                .arg(m_table, listed(columns),
+                     PluginRights::insertsInto(m_table)
+                         ? QStringLiteral("the plugin")
+                         : QStringLiteral("another component of the attendance server"));
+        const QString advice = QStringLiteral("Remove the double rows and add the key.");
+        if (PluginRights::insertsInto(m_table))
+            m_check.breach("key-missing", message, advice, m_table);
+        else
+            m_check.tell(Severity::Warning, "key-missing-elsewhere", message, advice, m_table);
+    }
+
+    void missingIdentity(const Columns &columns)
+    {
+        m_check.tell(Severity::Warning, "identity-missing",
+                     QStringLiteral("The table %1 has no unique key on %2: of two rows with the "
+                                    "same value any may be taken")
+                         .arg(m_table, listed(columns)),
+                     QStringLiteral("Remove the double rows and add the key."), m_table);
+    }
+
+    bool isInContract(const Columns &columns) const
+    {
+        return std::any_of(std::begin(m_contract.keys), std::end(m_contract.keys),
+                           [&columns](const TepDbContract::UniqueKey &key) {
+                               return columnsOf(key) == columns;
+                           });
+    }
+
+    void checkFurtherKeys()
+    {
+        for (const DbKey &key : m_keys) {
+            const Columns columns = toSet(key.columns);
+            if (!isInContract(columns))
+                furtherKey(key.name, columns);
+        }
+    }
+
+    void furtherKey(const QString &name, const Columns &columns)
+    {
+        m_check.tell(Severity::Error, "key-unexpected",
+                     QStringLiteral("The table %1 has a unique key %2 on %3: what the plugin "
+                                    "writes for a new row can hit another row by it and change "
+                                    "that one instead")
+                         .arg(m_table, name, listed(columns)),
+                     QStringLiteral("Make it a key that is not unique."), m_table);
+    }
+
+    DbCheck &m_check;
+    const QString m_table;
+    const TepDbContract::Table &m_contract;
+    const QVector<DbKey> m_keys;
+};
+
+void checkAutomaticNumber(DbCheck &check, const DbSchema &schema, const TepDbContract::Table &table)
+{
+    const QString name = QString::fromLatin1(table.name);
+    const DbColumn *const column =
+        schema.column(name, QString::fromLatin1(table.generatedColumn));
+    if (column == nullptr || column->automaticNumber || !PluginRights::insertsInto(name))
+        return;
+    check.breach("not-automatic",
+                 QStringLiteral("The column %1.%2 is not AUTO_INCREMENT: the plugin leaves its "
+                                "value to the server")
+                     .arg(name, column->name),
+                 QStringLiteral("Make it AUTO_INCREMENT."),
+                 name + QLatin1Char('.') + column->name);
+}
+
+} // namespace
+
+void DbRules::checkKeys(DbCheck &check, const DbSchema &schema)
+{
+    check.report().section(QStringLiteral("keys"), QStringLiteral("Unique keys"));
+    for (const TepDbContract::Table &table : TepDbContract::kTables) {
+        if (!schema.hasTable(QString::fromLatin1(table.name)))
+            continue;
+        KeyCheck(check, schema, table).run();
+        checkAutomaticNumber(check, schema, table);
+    }
+}

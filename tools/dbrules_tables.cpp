@@ -1,0 +1,154 @@
+// Tables and columns: there, and filled by the server where the plugin leaves them out.
+
+#include "db/tepdbcontract.h"
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/dbschema.h"
+#include "tools/pluginrights.h"
+#include "tools/reportwriter.h"
+
+namespace {
+
+const QString kCreateAdvice = QStringLiteral(
+    "See the definition in reference-db/schema.sql; to the account, what it has no right to is not "
+    "there.");
+
+/// Looks for everything that the contract names, and keeps apart what only other components than
+/// the plugin use.
+class NameCheck {
+public:
+    NameCheck(DbCheck &check, const DbSchema &schema)
+        : m_check(check)
+        , m_schema(schema)
+    {
+    }
+
+    void checkTable(const TepDbContract::Table &table)
+    {
+        const QString name = QString::fromLatin1(table.name);
+        if (m_schema.hasTable(name))
+            checkColumns(name, PluginRights::names(table.columns));
+        else
+            missingTable(name);
+    }
+
+    QStringList missingElsewhere() const { return m_missingElsewhere; }
+
+private:
+    void missingTable(const QString &table)
+    {
+        if (PluginRights::find(table) == nullptr) {
+            m_missingElsewhere += table;
+            return;
+        }
+        m_check.breach("table-missing",
+                       QStringLiteral("There is no table %1, or the account has no right to it")
+                           .arg(table),
+                       kCreateAdvice, table);
+    }
+
+    void checkColumns(const QString &table, const QStringList &columns)
+    {
+        for (const QString &column : columns) {
+            if (m_schema.column(table, column) == nullptr)
+                missingColumn(table, column);
+        }
+    }
+
+    void missingColumn(const QString &table, const QString &column)
+    {
+        const QString field = table + QLatin1Char('.') + column;
+        if (!PluginRights::usesColumn(table, column)) {
+            m_missingElsewhere += field;
+            return;
+        }
+        m_check.breach("column-missing",
+                       QStringLiteral("There is no column %1, or the account has no right to it")
+                           .arg(field),
+                       kCreateAdvice, field);
+    }
+
+    DbCheck &m_check;
+    const DbSchema &m_schema;
+    QStringList m_missingElsewhere;
+};
+
+void tellMissingElsewhere(DbCheck &check, const QStringList &names)
+{
+    if (names.isEmpty())
+        return;
+    check.tell(Severity::Note, "missing-elsewhere",
+               QStringLiteral("Not there, or hidden from this account: %1. The plugin does not "
+                              "use them; other components of the attendance server may")
+                   .arg(names.join(QStringLiteral(", "))),
+               {});
+}
+
+/// Columns that the site added and that keep every insert from succeeding.
+void checkLeftOutColumns(DbCheck &check, const DbSchema &schema,
+                         const PluginRights::TableRights &rights)
+{
+    const QString table = QString::fromLatin1(rights.table);
+    const QStringList sometimes = PluginRights::names(rights.notAlwaysInserted);
+    const QStringList inserted = PluginRights::names(rights.insert);
+    const QVector<DbColumn> columns = schema.columns(table);
+    for (const DbColumn &column : columns) {
+        const bool always =
+            inserted.contains(column.name, Qt::CaseInsensitive) && !sometimes.contains(column.name);
+        if (always || column.nullable || column.filledByServer)
+            continue;
+        check.breach("column-without-default",
+                     QStringLiteral("The column %1.%2 has no default value and takes no NULL: a "
+                                    "new row, which the plugin makes without it, is refused in "
+                                    "strict SQL modes")
+                         .arg(table, column.name),
+                     QStringLiteral("Give the column a default value."),
+                     table + QLatin1Char('.') + column.name);
+    }
+}
+
+void checkInserts(DbCheck &check, const DbSchema &schema)
+{
+    for (const PluginRights::TableRights &rights : PluginRights::kTables) {
+        if (PluginRights::insertsInto(QString::fromLatin1(rights.table)))
+            checkLeftOutColumns(check, schema, rights);
+    }
+}
+
+void checkStatusOfNewPeople(DbCheck &check, const DbSchema &schema)
+{
+    const DbColumn *const status = schema.column(QStringLiteral("people"), QStringLiteral("status"));
+    if (status == nullptr || status->defaultValue == QLatin1String("1"))
+        return;
+    check.breach("status-default",
+                 QStringLiteral("The default of people.status is not 1: people whom the plugin "
+                                "creates are inactive, and it never sees them again"),
+                 QStringLiteral("Make 1 the default of the column."),
+                 QStringLiteral("people.status"));
+}
+
+void checkUndoing(DbCheck &check, const DbSchema &schema)
+{
+    const QString table = QStringLiteral("admins_people");
+    if (!schema.hasTable(table) || schema.isTransactional(table))
+        return;
+    check.tell(Severity::Warning, "not-transactional",
+               QStringLiteral("The table %1 takes no part in transactions: when a supervisor cannot "
+                              "be set, the former one has lost the person's requests all the same")
+                   .arg(table),
+               QStringLiteral("Use an engine with transactions, such as InnoDB."), table);
+}
+
+} // namespace
+
+void DbRules::checkTables(DbCheck &check, const DbSchema &schema)
+{
+    check.report().section(QStringLiteral("tables"), QStringLiteral("Tables"));
+    NameCheck names(check, schema);
+    for (const TepDbContract::Table &table : TepDbContract::kTables)
+        names.checkTable(table);
+    tellMissingElsewhere(check, names.missingElsewhere());
+    checkInserts(check, schema);
+    checkStatusOfNewPeople(check, schema);
+    checkUndoing(check, schema);
+}

@@ -1,0 +1,99 @@
+// Time: the plugin and the server's functions must mean the same by a midnight.
+
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/plaintext.h"
+#include "tools/reportwriter.h"
+#include "worker/recordcodes.h"
+
+#include <QDateTime>
+#include <QStringList>
+#include <QTimeZone>
+
+namespace {
+
+constexpr char kSelectZone[] = "SELECT @@SESSION.time_zone, @@system_time_zone, UNIX_TIMESTAMP()";
+
+/// Enough to see every change of a year's daylight saving, in both directions from today.
+constexpr int kDaysAround = 366;
+
+/// Seconds. A person's attendance counts as being calculated for 900 seconds, by the plugin's clock.
+constexpr qint64 kClockTolerance = 60;
+
+QVector<QDate> daysAround(const QDate &today)
+{
+    QVector<QDate> days;
+    for (int offset = -kDaysAround; offset <= kDaysAround; ++offset)
+        days += today.addDays(offset);
+    return days;
+}
+
+QString midnightsQuery(const QVector<QDate> &days)
+{
+    QStringList columns;
+    for (const QDate &day : days)
+        columns += QStringLiteral("UNIX_TIMESTAMP('%1')").arg(day.toString(Qt::ISODate));
+    return QStringLiteral("SELECT ") + columns.join(QLatin1Char(','));
+}
+
+QVector<QDate> daysThatDiffer(DbCheck &check)
+{
+    const QVector<QDate> days = daysAround(QDate::currentDate());
+    const QVariantList midnights = check.row(midnightsQuery(days));
+    QVector<QDate> differing;
+    for (int i = 0; i < midnights.size(); ++i) {
+        if (midnights.at(i).toLongLong() != RecordCodes::midnight(days.at(i)))
+            differing += days.at(i);
+    }
+    return differing;
+}
+
+void checkMidnights(DbCheck &check, const QString &serverZone, const QString &ownZone)
+{
+    const QVector<QDate> differing = daysThatDiffer(check);
+    if (differing.isEmpty())
+        return;
+    check.tell(Severity::Error, "time-zone",
+               QStringLiteral("The server (time zone %1) and this program (%2) disagree about the "
+                              "midnight of %3 within a year from today, such as %4. Days of "
+                              "attendance and of vacation would be missed, or be there twice")
+                   .arg(serverZone, ownZone,
+                        PlainText::counted(differing.size(), QStringLiteral("day"),
+                                           QStringLiteral("days")),
+                        differing.constFirst().toString(Qt::ISODate)),
+               QStringLiteral("Run this check with the TZ of the attendance server. When it still "
+                              "complains, give both the same zone, by name: an offset such as "
+                              "+01:00 knows no daylight saving."));
+}
+
+void checkClock(DbCheck &check, qint64 serverNow)
+{
+    const qint64 ahead = serverNow - QDateTime::currentSecsSinceEpoch();
+    if (qAbs(ahead) <= kClockTolerance)
+        return;
+    check.tell(Severity::Warning, "clock",
+               QStringLiteral("The server's clock is %1 %2 this machine's")
+                   .arg(PlainText::counted(qAbs(ahead), QStringLiteral("second"),
+                                           QStringLiteral("seconds")),
+                        ahead > 0 ? QStringLiteral("ahead of") : QStringLiteral("behind")),
+               QStringLiteral("Let both follow the same time server: the plugin compares times of "
+                              "the one with times of the other."));
+}
+
+} // namespace
+
+void DbRules::checkTime(DbCheck &check)
+{
+    const QVariantList row = check.row(QLatin1String(kSelectZone));
+    const QString setting = row.value(0).toString();
+    const QString serverZone =
+        setting == QLatin1String("SYSTEM") ? row.value(1).toString() : setting;
+    const QString ownZone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
+    check.report().section(QStringLiteral("time"), QStringLiteral("Time"));
+    check.report().fact(QStringLiteral("serverTimeZone"), QStringLiteral("Server's time zone"),
+                        serverZone);
+    check.report().fact(QStringLiteral("timeZone"), QStringLiteral("Time zone of this program"),
+                        ownZone);
+    checkMidnights(check, serverZone, ownZone);
+    checkClock(check, row.value(2).toLongLong());
+}

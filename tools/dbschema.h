@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class QSqlDatabase;
+class QSqlQuery;
+
+/// A column as the information schema describes it.
+struct DbColumn {
+    QString name;
+    QString type; ///< "int", "varchar", ... in lower case
+    QString fullType; ///< "int(10) unsigned", ...
+    qint64 length = 0; ///< of a text, in characters
+    int wholeDigits = 0; ///< of a decimal number, before its point
+    QString charset; ///< of a text; empty for other kinds
+    bool nullable = false;
+    bool filledByServer = false; ///< by a default value, an automatic number or an expression
+    bool automaticNumber = false;
+    QString defaultValue; ///< without quotation marks
+    QStringList rights; ///< of this account: "select", "insert", "update", "references"
+};
+
+/// A unique or primary key.
+struct DbKey {
+    QString name;
+    QStringList columns; ///< in lower case, in the order of the key
+};
+
+/// Tables, columns and keys of the database, as far as the account may see them: the server hides
+/// what an account has no right to.
+class DbSchema {
+public:
+    /// Reads all of it. False when that fails; errorText() then says why.
+    bool load(const QSqlDatabase &db);
+    QString errorText() const { return m_error; }
+
+    bool hasTable(const QString &table) const { return m_columns.contains(table); }
+    /// The columns of a table; empty when it is not there.
+    QVector<DbColumn> columns(const QString &table) const { return m_columns.value(table); }
+    /// Null when it is not there. The case of the column's name does not matter, as for the server.
+    const DbColumn *column(const QString &table, const QString &column) const;
+    QVector<DbKey> uniqueKeys(const QString &table) const { return m_keys.value(table); }
+    /// Whether the table takes part in transactions.
+    bool isTransactional(const QString &table) const { return m_transactional.contains(table); }
+
+private:
+    bool select(const QSqlDatabase &db, const char *sql,
+                void (DbSchema::*addRow)(const QSqlQuery &));
+    void addColumn(const QSqlQuery &row);
+    void addKeyColumn(const QSqlQuery &row);
+    void addTransactional(const QSqlQuery &row);
+
+    QString m_error;
+    QHash<QString, QVector<DbColumn>> m_columns;
+    QHash<QString, QVector<DbKey>> m_keys;
+    QStringList m_transactional;
+};
