@@ -30,7 +30,7 @@ Finding &addDuplicate(CheckedLine &line, const RepeatedPids::First &first)
                     QStringLiteral("Line %1 is about the same employment relationship. The plugin "
                                    "takes one after the other, and the last prevails.")
                         .arg(first.line),
-                    QStringLiteral("Tell HR: each relationship stands in the export once."));
+                    QStringLiteral("Each relationship stands in the export once."));
 }
 
 Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 pid)
@@ -42,7 +42,7 @@ Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 p
                         .arg(first.osobniCislo)
                         .arg(first.poradoveCisloPP)
                         .arg(pid),
-                    QStringLiteral("Tell HR: one of the two needs another personal number."));
+                    QStringLiteral("One of the two needs another personal number."));
 }
 
 } // namespace
@@ -71,19 +71,19 @@ QVector<Finding> ExportCheck::fileFindings() const
     if (m_counts.records == 0) {
         file.add(Severity::Warning, "no-records",
                  QStringLiteral("There is nobody in the file: the plugin would do nothing."),
-                 QStringLiteral("Ask HR whether the export went wrong."));
+                 QStringLiteral("Check whether the export went wrong."));
     }
     if (!m_endsWithLineFeed) {
         file.add(Severity::Warning, "no-final-line-feed",
                  QStringLiteral("The last line has no line feed at its end. The plugin reads it as "
                                 "it stands, but the file may have been cut off."),
-                 QStringLiteral("Ask HR whether the export is whole."));
+                 QStringLiteral("Check whether the export is whole."));
     }
     if (!m_pids.isComplete()) {
         file.add(Severity::Warning, "repetitions-not-all-found",
                  QStringLiteral("So many people stand in the file more than once that not all of "
                                 "them were compared."),
-                 QStringLiteral("Ask HR whether the export was written several times into one "
+                 QStringLiteral("Check whether the export was written several times into one "
                                 "file."));
     }
     return file.findings;

@@ -45,17 +45,17 @@ QString dateAdvice(const QString &text)
 {
     const QDate day = QDate::fromString(text.trimmed().left(10), Qt::ISODate);
     if (day.isValid()) {
-        return QStringLiteral("Tell HR: a date has a time behind it, as in %1 00:00:00.000.")
+        return QStringLiteral("A date has a time behind it, as in %1 00:00:00.000.")
             .arg(day.toString(Qt::ISODate));
     }
-    return QStringLiteral("Tell HR: dates look like 2021-03-31 00:00:00.000.");
+    return QStringLiteral("Dates look like 2021-03-31 00:00:00.000.");
 }
 
 QString balanceAdvice(const QString &text)
 {
     return text.contains(QLatin1Char(','))
-        ? QStringLiteral("Tell HR: the balance is written with a point, as in 12.5.")
-        : QStringLiteral("Tell HR: the balance is a number of days, as in 12.5.");
+        ? QStringLiteral("The balance is written with a point, as in 12.5.")
+        : QStringLiteral("The balance is a number of days, as in 12.5.");
 }
 
 /// Whether the database gives the day back as it was written: the plugin reads Unix times as
@@ -102,21 +102,21 @@ void FieldRules::checkIdentity()
         add(OsobniCislo, Severity::Error, "no-personal-number",
             notANumber(OsobniCislo)
                 + QStringLiteral(" Without a personal number the plugin drops the line."),
-            QStringLiteral("Tell HR: the first field is the personal number, in digits, above 0."));
+            QStringLiteral("The first field is the personal number, in digits, above 0."));
     }
     if (m_record.poradoveCisloPP == 0) {
         add(PoradoveCisloPP, Severity::Error, "no-relationship-number",
             notANumber(PoradoveCisloPP)
                 + QStringLiteral(" Without the number of the employment relationship the plugin "
                                  "drops the line."),
-            QStringLiteral("Tell HR: the second field is the number of the employment "
+            QStringLiteral("The second field is the number of the employment "
                            "relationship, in digits, above 0."));
     }
     if (m_record.jmeno.isEmpty() && m_record.prijmeni.isEmpty()) {
         add(Prijmeni, Severity::Error, "no-name",
             QStringLiteral("There is neither a first name nor a surname. The plugin drops the "
                            "line."),
-            QStringLiteral("Tell HR: one of the two is needed."));
+            QStringLiteral("One of the two is needed."));
     }
 }
 
@@ -128,7 +128,7 @@ void FieldRules::checkPid()
         QStringLiteral("Personal number and relationship make one number, %1%2, which is above "
                        "4294967295: the person gets the number 0, as everybody of this kind does.")
             .arg(QString::number(m_record.osobniCislo), QString::number(m_record.poradoveCisloPP)),
-        QStringLiteral("Tell HR: the person needs a shorter personal number."));
+        QStringLiteral("The person needs a shorter personal number."));
 }
 
 void FieldRules::checkTexts()
@@ -149,21 +149,21 @@ void FieldRules::checkText(int field, const char *column)
                            "and the statement fails, or does something else: the person is not "
                            "written.")
                 .arg(PlainText::quoted(text)),
-            QStringLiteral("Tell HR: write the text without ', or with the character \u2019."));
+            QStringLiteral("Write the text without ', or with the character \u2019."));
     }
     if (text.contains(QLatin1Char('\\'))) {
         add(field, Severity::Error, "backslash-in-text",
             QStringLiteral("The text %1 has a backslash. It goes into the statement as it is: the "
                            "text arrives changed, or the statement fails.")
                 .arg(PlainText::quoted(text)),
-            QStringLiteral("Tell HR: write the text without \\."));
+            QStringLiteral("Write the text without \\."));
     }
     if (SqlText::hasPlaceholder(text)) {
         add(field, Severity::Error, "placeholder-in-text",
             QStringLiteral("The text %1 has a digit behind a percent sign. The plugin puts another "
                            "value there: wrong data is written, or the statement fails.")
                 .arg(PlainText::quoted(text)),
-            QStringLiteral("Tell HR: write the text without %."));
+            QStringLiteral("Write the text without %."));
     }
     if (SqlText::hasWideCharacter(text)) {
         add(field, Severity::Error, "wide-character",
@@ -171,7 +171,7 @@ void FieldRules::checkText(int field, const char *column)
                            "connection to the database cannot carry it: the person is not written, "
                            "or the text is cut there.")
                 .arg(PlainText::quoted(text)),
-            QStringLiteral("Tell HR: write the text without it."));
+            QStringLiteral("Write the text without it."));
     }
     checkWidth(field, column);
 }
@@ -188,7 +188,7 @@ void FieldRules::checkWidth(int field, const char *column)
         QStringLiteral("The text has %1 characters; the database keeps %2. Depending on its mode "
                        "it cuts the text or refuses the person.")
             .arg(QString::number(length), QString::number(*width)),
-        QStringLiteral("Tell HR: shorten the text to %1 characters.").arg(*width));
+        QStringLiteral("Shorten the text to %1 characters.").arg(*width));
 }
 
 void FieldRules::checkDates()
@@ -204,7 +204,7 @@ void FieldRules::checkDates()
             QStringLiteral("The person leaves on %1, before employment begins on %2.")
                 .arg(m_record.datumVystupu.toString(Qt::ISODate),
                      m_record.datumNastupu.toString(Qt::ISODate)),
-            QStringLiteral("Tell HR: one of the two dates is wrong."));
+            QStringLiteral("One of the two dates is wrong."));
     }
 }
 
@@ -214,7 +214,7 @@ void FieldRules::checkDate(int field, const QDate &date)
     if (text.isEmpty()) {
         add(field, Severity::Warning, "empty-date",
             QStringLiteral("There is no date: ") + consequence(field),
-            QStringLiteral("Tell HR: the date is needed."));
+            QStringLiteral("The date is needed."));
     } else if (!date.isValid()) {
         add(field, Severity::Warning, "bad-date",
             QStringLiteral("%1 is no date to the plugin: %2")
@@ -225,9 +225,8 @@ void FieldRules::checkDate(int field, const QDate &date)
             QStringLiteral("The plugin keeps days from 1970 to 2106; %1 comes back from the "
                            "database as another day.")
                 .arg(date.toString(Qt::ISODate)),
-            field == DatumVystupu
-                ? QStringLiteral("Tell HR: who does not leave has an empty leaving date.")
-                : QStringLiteral("Tell HR: the date cannot be right."));
+            field == DatumVystupu ? QStringLiteral("Who does not leave has an empty leaving date.")
+                                  : QStringLiteral("The date cannot be right."));
     }
 }
 
@@ -239,7 +238,7 @@ void FieldRules::checkNumber(int field)
         return;
     add(field, Severity::Warning, m_parts.at(field).isEmpty() ? "empty-number" : "bad-number",
         QStringLiteral("%1 It reads as 0: %2").arg(notANumber(field), consequence(field)),
-        QStringLiteral("Tell HR: write digits only, up to 4294967295."));
+        QStringLiteral("Write digits only, up to 4294967295."));
 }
 
 void FieldRules::checkCode(int field, ushort code)
@@ -250,7 +249,7 @@ void FieldRules::checkCode(int field, ushort code)
     add(field, Severity::Warning, "code-wraps",
         QStringLiteral("Codes go up to 65535; %1 reads as %2.")
             .arg(PlainText::quoted(m_parts.at(field)), QString::number(code)),
-        QStringLiteral("Tell HR: the code cannot be right."));
+        QStringLiteral("The code cannot be right."));
 }
 
 void FieldRules::checkBalance()
@@ -268,7 +267,7 @@ void FieldRules::checkBalance()
         add(DovolenaZustatek, Severity::Warning, "balance-out-of-range",
             QStringLiteral("%1 days are no balance that can be kept: the balance is not changed.")
                 .arg(PlainText::quoted(text)),
-            QStringLiteral("Tell HR: the balance cannot be right."));
+            QStringLiteral("The balance cannot be right."));
     }
 }
 

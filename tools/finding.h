@@ -15,7 +15,8 @@ struct Finding {
     Severity severity = Severity::Warning;
     QString rule; ///< stable name of the rule, such as "field-count"; scripts rely on it
     QString message; ///< what is wrong, in plain sentences
-    QString advice; ///< what to do or to tell HR; may be empty
+    QString advice; ///< what to do about it, a whole sentence; may be empty
+    bool forHr = false; ///< the advice is for HR, not for the administrator
     qint64 line = 0; ///< line of the checked file, counted from 1; 0: the file as a whole
     QString field; ///< field of the export, key of the INI file, column; may be empty
     QString subject; ///< whom or what it is about, such as "1234.1 Jana Nováková"; may be empty

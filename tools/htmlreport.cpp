@@ -33,8 +33,9 @@ dt { color: #50596a; }
 dd { margin: 0; font-weight: 600; overflow-wrap: anywhere; }
 table { border-collapse: collapse; width: 100%; margin: .6rem 0; }
 th, td { text-align: left; vertical-align: top; padding: .35rem .5rem;
-         border-bottom: 1px solid #d5dbe3; overflow-wrap: anywhere; }
-th { background: #eef1f5; }
+         border-bottom: 1px solid #d5dbe3; overflow-wrap: break-word; }
+th { background: #eef1f5; white-space: nowrap; }
+td:last-child { overflow-wrap: anywhere; }
 .error { color: #b3261e; font-weight: 600; }
 .warning { color: #8a5300; font-weight: 600; }
 .note { color: #50596a; }
@@ -44,7 +45,7 @@ footer { margin-top: 2rem; color: #50596a; font-size: .85rem; }
   thead { display: none; }
   table, tbody, tr, td { display: block; }
   tr { border: 1px solid #d5dbe3; border-radius: .4rem; margin: .6rem 0; padding: .2rem 0; }
-  td { border: 0; padding: .2rem .6rem; }
+  td { border: 0; padding: .2rem .6rem; overflow-wrap: anywhere; }
   td:empty { display: none; }
   td[data-label]::before { content: attr(data-label) ": "; color: #50596a; font-weight: 400; }
 }

@@ -35,6 +35,8 @@ QJsonObject findingObject(const Finding &finding)
     insertText(object, "subject", finding.subject);
     if (finding.line > 0)
         object.insert(QStringLiteral("line"), finding.line);
+    if (finding.forHr)
+        object.insert(QStringLiteral("forHr"), true);
     if (finding.dropped)
         object.insert(QStringLiteral("dropped"), true);
     return object;

@@ -41,23 +41,23 @@ void checkBytes(const QString &text, CheckedLine &line)
     if (line.number == 1 && isUtf16(line.raw)) {
         line.add(Severity::Error, "utf-16",
                  QStringLiteral("The file is written in UTF-16; the plugin reads UTF-8 only."),
-                 QStringLiteral("Tell HR: save the export as UTF-8."));
+                 QStringLiteral("Save the export as UTF-8."));
     }
     if (line.raw.startsWith(kByteOrderMark)) {
         line.add(Severity::Note, "byte-order-mark",
                  QStringLiteral("The line begins with a byte order mark, which the plugin passes "
                                 "over."),
-                 QStringLiteral("Tell HR: save the export as UTF-8 without a byte order mark."));
+                 QStringLiteral("Save the export as UTF-8 without a byte order mark."));
     }
     if (line.raw.contains('\0')) {
         line.add(Severity::Error, "nul-byte",
                  QStringLiteral("The line has a NUL byte; nothing behind it is read."),
-                 QStringLiteral("Tell HR: the export is damaged, or not written in UTF-8."));
+                 QStringLiteral("The export is damaged, or not written in UTF-8."));
     }
     if (isDamaged(text, line.raw)) {
         line.add(Severity::Warning, "not-utf8",
                  QStringLiteral("Some bytes are not UTF-8; each is read as the character \uFFFD."),
-                 QStringLiteral("Tell HR: save the export as UTF-8."));
+                 QStringLiteral("Save the export as UTF-8."));
     }
 }
 
@@ -66,12 +66,12 @@ QString fieldCountAdvice(const QStringList &parts, int expected)
     const QString &text = parts.constFirst();
     if (parts.size() == 1
         && (text.count(QLatin1Char(';')) > 1 || text.count(QLatin1Char('\t')) > 1))
-        return QStringLiteral("Tell HR: fields are separated by the character |, nothing else.");
+        return QStringLiteral("Fields are separated by the character |, nothing else.");
     if (parts.size() == expected + 1 && parts.constLast().isEmpty())
-        return QStringLiteral("Tell HR: there must be no | behind the last field.");
+        return QStringLiteral("There must be no | behind the last field.");
     if (parts.size() > expected)
-        return QStringLiteral("Tell HR: no text may contain the character |.");
-    return QStringLiteral("Tell HR: empty fields must be there, too, each with its |.");
+        return QStringLiteral("No text may contain the character |.");
+    return QStringLiteral("Empty fields must be there, too, each with its |.");
 }
 
 bool isHeader(const QStringList &parts, const QStringList &fieldNames)
@@ -95,6 +95,7 @@ Finding &CheckedLine::add(Severity severity, const char *rule, const QString &me
     finding.rule = QString::fromLatin1(rule);
     finding.message = message;
     finding.advice = advice;
+    finding.forHr = true;
     finding.line = number;
     findings.append(finding);
     return findings.last();
@@ -126,7 +127,7 @@ CheckedLine LineCheck::tooLong(qint64 number)
     line.add(Severity::Error, "line-too-long",
              QStringLiteral("The line is longer than %1 bytes; the plugin passes over it.")
                  .arg(BoundedLineReader::kLongestLine),
-             QStringLiteral("Tell HR: the export is damaged; perhaps line feeds are missing."))
+             QStringLiteral("The export is damaged; perhaps line feeds are missing."))
         .dropped = true;
     return line;
 }
@@ -160,7 +161,7 @@ void LineCheck::checkParts(const QStringList &parts, CheckedLine &line) const
         line.add(Severity::Error, "header-line",
                  QStringLiteral("This is a line of field names; the plugin takes it for a person "
                                 "without a number."),
-                 QStringLiteral("Tell HR: the export has no header."));
+                 QStringLiteral("The export has no header."));
         return;
     }
     FieldRules(parts, record, m_widths, line).check();

@@ -115,8 +115,10 @@ void TextReport::finding(const Finding &finding)
 {
     line(QStringLiteral("%1%2 [%3]")
              .arg(findingHead(finding), PlainText::visible(finding.message), finding.rule));
-    if (!finding.advice.isEmpty())
-        line(QStringLiteral("    ") + PlainText::visible(finding.advice));
+    if (!finding.advice.isEmpty()) {
+        line((finding.forHr ? QStringLiteral("    Tell HR: ") : QStringLiteral("    "))
+             + PlainText::visible(finding.advice));
+    }
 }
 
 void TextReport::fact(const QString &, const QString &label, const QVariant &value)

@@ -352,10 +352,10 @@ void TestCheckFile::theTextTellsEverything()
         QString("\nWhat to look at\n---------------\n"
                 "line 1, DatumVystupu (1234.1 Jana Nováková): warning: \"31.3.2021\" is no "
                 "date to the plugin: the person counts as not leaving. [bad-date]\n"
-                "    Tell HR: dates look like 2021-03-31 00:00:00.000.\n"
+                "    Tell HR: Dates look like 2021-03-31 00:00:00.000.\n"
                 "warning: The last line has no line feed at its end. The plugin reads it as "
                 "it stands, but the file may have been cut off. [no-final-line-feed]\n"
-                "    Ask HR whether the export is whole.\n"
+                "    Tell HR: Check whether the export is whole.\n"
                 "\nSummary\n-------\n"
                 "Rule                Findings\n"
                 "------------------  --------\n"
@@ -371,22 +371,21 @@ void TestCheckFile::theAdviceFitsTheMistake_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("advice");
     using E = ExportLine;
-    QTest::newRow("semicolons") << good().replace(
-        '|', ';') << "Tell HR: fields are separated by the character |, nothing else.";
+    QTest::newRow("semicolons") << good().replace('|', ';')
+                                << "Fields are separated by the character |, nothing else.";
     QTest::newRow("a separator at the end")
-        << good().replace('\n', "|\n") << "Tell HR: there must be no | behind the last field.";
+        << good().replace('\n', "|\n") << "There must be no | behind the last field.";
     QTest::newRow("a separator in a text")
-        << good().replace("Jana", "Ja|na") << "Tell HR: no text may contain the character |.";
+        << good().replace("Jana", "Ja|na") << "No text may contain the character |.";
     QTest::newRow("a field left out")
-        << good().replace("|Sklad", "")
-        << "Tell HR: empty fields must be there, too, each with its |.";
+        << good().replace("|Sklad", "") << "Empty fields must be there, too, each with its |.";
     QTest::newRow("a date without a time")
         << line(&E::datumVystupu, "2021-03-31")
-        << "Tell HR: a date has a time behind it, as in 2021-03-31 00:00:00.000.";
-    QTest::newRow("a decimal comma") << line(&E::dovolenaZustatek, "12,5")
-                                     << "Tell HR: the balance is written with a point, as in 12.5.";
+        << "A date has a time behind it, as in 2021-03-31 00:00:00.000.";
+    QTest::newRow("a decimal comma")
+        << line(&E::dovolenaZustatek, "12,5") << "The balance is written with a point, as in 12.5.";
     QTest::newRow("the end of time") << line(&E::datumVystupu, "9999-12-31 00:00:00.000")
-                                     << "Tell HR: who does not leave has an empty leaving date.";
+                                     << "Who does not leave has an empty leaving date.";
 }
 
 void TestCheckFile::theAdviceFitsTheMistake()
@@ -472,17 +471,17 @@ void TestCheckFile::theRejectsHoldTheLinesAsTheyStand()
     QCOMPARE(lines.mid(2),
              QList<QByteArray>({
                  "",
-                 "# Line 2: The line has 3 fields instead of 18. Tell HR: empty fields must be "
+                 "# Line 2: The line has 3 fields instead of 18. Empty fields must be "
                  "there, too, each with its |.",
                  broken.chopped(1),
                  "",
                  "# Line 4: Jmeno: The text \"O'Neil\" has an apostrophe. It goes into the "
                  "statement as it is, and the statement fails, or does something else: the person "
-                 "is not written. Tell HR: write the text without ', or with the character ’.",
+                 "is not written. Write the text without ', or with the character ’.",
                  ExportLine().with(&ExportLine::jmeno, "O'Neil").text().toUtf8(),
                  "",
-                 "# Line 5: The line is longer than 65536 bytes; the plugin passes over it. Tell "
-                 "HR: the export is damaged; perhaps line feeds are missing.",
+                 "# Line 5: The line is longer than 65536 bytes; the plugin passes over it. The "
+                 "export is damaged; perhaps line feeds are missing.",
                  "",
                  "# 3 lines.",
                  "",

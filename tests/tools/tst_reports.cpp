@@ -52,6 +52,7 @@ void everything(ReportWriter &report)
     full.line = 12;
     full.field = "Titul";
     full.subject = "1.1 Ján";
+    full.forHr = true;
     full.dropped = true;
     report.finding(full);
     report.finding(finding("Bare."));
@@ -96,7 +97,7 @@ void TestReports::theTextForm()
                      "Second section\n"
                      "--------------\n"
                      "line 12, Titul (1.1 Ján): error: Wrong. [rule-id]\n"
-                     "    Do better.\n"
+                     "    Tell HR: Do better.\n"
                      "error: Bare. [rule-id]\n"
                      "Between the findings.\n"
                      "error: Last. [rule-id]\n"
@@ -113,7 +114,7 @@ void TestReports::theJsonForm()
             R"({"mirovahrctl": "1.5.3", "subcommand": "preview", "title": "A <title>",
             "findings": [
                 {"severity": "error", "rule": "rule-id", "message": "Wrong.", "line": 12,
-                 "advice": "Do better.", "field": "Titul", "subject": "1.1 Ján", "dropped": true},
+                 "advice": "Do better.", "field": "Titul", "subject": "1.1 Ján", "forHr": true, "dropped": true},
                 {"severity": "error", "rule": "rule-id", "message": "Bare."},
                 {"severity": "error", "rule": "rule-id", "message": "Last."}],
             "sections": [
