@@ -171,6 +171,9 @@ void TestPluginLibrary::textsThatNoRunReachesAreInTheLibrary_data()
     QTest::addColumn<QByteArray>("text");
     // init() fails only when it has disabled the plugin, which counts as started.
     QTest::newRow("plugin") << QByteArray("MirovaHR not start properly - init failed!");
+    // Its own init() never fails.
+    QTest::newRow("worker") << QByteArray(
+        "MHRWorker NOT initialized properly - START was terminated!");
 }
 
 void TestPluginLibrary::textsThatNoRunReachesAreInTheLibrary()
