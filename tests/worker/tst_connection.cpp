@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+#include <algorithm>
+
 /// The worker's connection: opened, closed and lost.
 class TestConnection : public WorkerTest {
     Q_OBJECT
@@ -20,18 +22,15 @@ private Q_SLOTS:
     void aClosedConnectionFailsEveryOperation();
 
 private:
-    QStringList connectionEvents();
+    int connectCount();
 };
 
-/// The begin and end of connections as the server saw them.
-QStringList TestConnection::connectionEvents()
+/// How many connections the server has accepted. (It notes the end of one at its leisure.)
+int TestConnection::connectCount()
 {
-    QStringList commands;
-    for (const ServerEvent &event : m_db.events()) {
-        if (event.command == "Connect" || event.command == "Quit")
-            commands += event.command;
-    }
-    return commands;
+    const QVector<ServerEvent> events = m_db.events();
+    return int(std::count_if(events.begin(), events.end(),
+                             [](const ServerEvent &event) { return event.command == "Connect"; }));
 }
 
 void TestConnection::openingAndClosingAreLoggedAlikeFromDebugLevel2On_data()
@@ -55,7 +54,7 @@ void TestConnection::anOpenConnectionIsKept()
     const Trace trace = observe([this] {
         QVERIFY(m_worker->dbCheckOpen());
         QVERIFY(m_worker->dbCheckOpen());
-        QCOMPARE(connectionEvents(), QStringList());
+        QCOMPARE(connectCount(), 0);
     });
     QCOMPARE(trace.statements, QStringList());
 }
@@ -64,8 +63,10 @@ void TestConnection::aClosedConnectionIsOpenedAgain()
 {
     const Trace trace = observe([this] {
         m_worker->dbClose();
+        QVERIFY(!connection().isOpen());
         QVERIFY(m_worker->dbCheckOpen());
-        QCOMPARE(connectionEvents(), QStringList({"Quit", "Connect"}));
+        QVERIFY(connection().isOpen());
+        QCOMPARE(connectCount(), 1);
     });
     QCOMPARE(trace.log, QStringList());
     QCOMPARE(trace.statements, QStringList());
@@ -76,7 +77,7 @@ void TestConnection::closingTwiceIsHarmless()
     const Trace trace = observe([this] {
         m_worker->dbClose();
         m_worker->dbClose();
-        QCOMPARE(connectionEvents(), QStringList("Quit"));
+        QVERIFY(!connection().isOpen());
     });
     QCOMPARE(trace.log, QStringList());
 }
