@@ -26,7 +26,7 @@ struct Configuration {
     QHash<unsigned short, QString> messages; ///< group `MES`: register state code to text
 
     /// Where the plugin finds its INI file.
-    static constexpr QLatin1String kPath{"/etc/yav/MirovaHR.ini"};
+    static inline const QLatin1String kPath{"/etc/yav/MirovaHR.ini"};
 
     /// Opens an INI file as the plugin does. A missing file is one without keys.
     static std::unique_ptr<QSettings> open(const QString &path);

@@ -28,11 +28,11 @@ public:
     CommandLine(const char *subcommand, const char *description);
 
     /// An argument that must be given. They stand in the order in which they are added.
-    void addArgument(const char *name, const char *text);
+    void addArgument(const char *name, const char *description);
     /// An argument that may be left out, after all that must be given.
-    void addOptionalArgument(const char *name, const char *text);
-    void addFlag(const char *name, const char *text);
-    void addOption(const char *name, const char *valueName, const char *text);
+    void addOptionalArgument(const char *name, const char *description);
+    void addFlag(const char *name, const char *description);
+    void addOption(const char *name, const char *valueName, const char *description);
     /// --json, and --html where the page for HR is offered.
     void addReportOptions(Page page);
     /// The options that name the attendance database, and the password's variable.

@@ -12,12 +12,11 @@
 
 namespace {
 
-constexpr QLatin1String kFlags[] = {QLatin1String("enabled"), QLatin1String("testMode"),
-                                    QLatin1String("deleteFile")};
-constexpr QLatin1String kNumbers[] = {QLatin1String("timerInterval"), QLatin1String("syncInterval"),
-                                      QLatin1String("syncCommandRun"),
-                                      QLatin1String("departmentId")};
-constexpr QLatin1String kTexts[] = {QLatin1String("importFile"), QLatin1String("syncCommand")};
+const QLatin1String kFlags[] = {QLatin1String("enabled"), QLatin1String("testMode"),
+                                QLatin1String("deleteFile")};
+const QLatin1String kNumbers[] = {QLatin1String("timerInterval"), QLatin1String("syncInterval"),
+                                  QLatin1String("syncCommandRun"), QLatin1String("departmentId")};
+const QLatin1String kTexts[] = {QLatin1String("importFile"), QLatin1String("syncCommand")};
 
 QStringList knownKeys()
 {

@@ -38,7 +38,7 @@ private:
     void checkOperation();
     void checkPeriods();
     void checkImportFile();
-    void checkImportFolder(const QString &folder);
+    void checkImportFolder(const QString &path);
     void checkSyncCommand();
     void checkMessages();
     void checkMessageKey(const QString &key);

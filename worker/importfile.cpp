@@ -4,7 +4,7 @@ namespace ImportFile {
 
 namespace {
 
-constexpr QLatin1String kDefaultPath("/tmp/ron.data");
+const QLatin1String kDefaultPath("/tmp/ron.data");
 
 } // namespace
 

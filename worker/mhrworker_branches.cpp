@@ -13,22 +13,20 @@
 
 namespace {
 
-constexpr QLatin1String
-    kSelectBranches("SELECT bid, number FROM branches WHERE number IS NOT NULL;");
+const QLatin1String kSelectBranches("SELECT bid, number FROM branches WHERE number IS NOT NULL;");
 
-constexpr QLatin1String
-    kCountMembership("SELECT COUNT(*) FROM brape WHERE bid = %1 AND uid = (SELECT "
-                     "uid FROM people WHERE pid = %2 LIMIT 1);");
+const QLatin1String kCountMembership("SELECT COUNT(*) FROM brape WHERE bid = %1 AND uid = (SELECT "
+                                     "uid FROM people WHERE pid = %2 LIMIT 1);");
 
-constexpr QLatin1String kSelectGroup(
+const QLatin1String kSelectGroup(
     "SELECT gid FROM branches b LEFT JOIN mastergroups mg ON mg.mgid = b.mgid LEFT JOIN groups g "
     "ON g.parent = mg.mgid WHERE bid = %1 AND g.calendarID = %2 LIMIT 1;");
 
 const QLatin1String
     kCountPlan("SELECT COUNT(*) FROM groups_plan WHERE gid = %1 AND uid = %2 AND since = %3;");
 
-constexpr QLatin1String kResetAttendance("UPDATE atten SET ok = -1 WHERE `lock` =0 AND `man`=0 AND "
-                                         "`date` >= %1 AND uid =%2");
+const QLatin1String kResetAttendance("UPDATE atten SET ok = -1 WHERE `lock` =0 AND `man`=0 AND "
+                                     "`date` >= %1 AND uid =%2");
 
 const QLatin1String
     kResetLastCalc("UPDATE people set lastCalc = %1, calc = 0 WHERE lastCalc > %1 AND uid=%2");

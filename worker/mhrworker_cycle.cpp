@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr QLatin1String kForceSyncKey("YAV.MHRWorker.forceSync");
+const QLatin1String kForceSyncKey("YAV.MHRWorker.forceSync");
 
 } // namespace
 

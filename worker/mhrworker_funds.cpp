@@ -14,27 +14,26 @@
 
 namespace {
 
-constexpr QLatin1String kSelectFund("SELECT fid FROM funds WHERE iid = %1 AND unit=2;");
+const QLatin1String kSelectFund("SELECT fid FROM funds WHERE iid = %1 AND unit=2;");
 
-constexpr QLatin1String kCountMovesOfToday(
+const QLatin1String kCountMovesOfToday(
     "SELECT COUNT(*) FROM funds_move WHERE type=3 AND day = midnightFromTs(UNIX_TIMESTAMP()) AND "
     "fid = %1 AND uid=(SELECT uid FROM people WHERE pid = %2);");
 
-constexpr QLatin1String kSelectCalculation(
+const QLatin1String kSelectCalculation(
     "SELECT p.uid, calc, (SELECT COUNT(*) FROM atten a WHERE a.uid = p.uid AND !a.lock AND a.ok = "
     "-1) uncalc FROM people p WHERE pid = %1");
 
-constexpr QLatin1String
-    kCountOpenDays("SELECT COUNT(*) FROM atten WHERE uid = %1 AND `lock`=0 AND ok "
-                   "< 0 AND date >= midnightFromTs(UNIX_TIMESTAMP())");
+const QLatin1String kCountOpenDays("SELECT COUNT(*) FROM atten WHERE uid = %1 AND `lock`=0 AND ok "
+                                   "< 0 AND date >= midnightFromTs(UNIX_TIMESTAMP())");
 
 // Everything before the current month, and of the current month only the corrections before today:
 // what the person took this month is not yet in the HR figure.
-constexpr QLatin1String kSumBeforeMonth(
+const QLatin1String kSumBeforeMonth(
     "SELECT SUM(fm.value) FROM funds_move fm JOIN people p USING(uid) WHERE fm.day < %3  AND "
     "fm.fid = %1 AND p.pid = %2");
 
-constexpr QLatin1String kSumOfCorrections(
+const QLatin1String kSumOfCorrections(
     "SELECT SUM(fm.value) FROM funds_move fm JOIN people p USING(uid) WHERE fm.type=3 AND fm.day "
     ">= %3 AND fm.day < midnightFromTs(UNIX_TIMESTAMP()) AND fm.fid = %1 AND p.pid = %2");
 

@@ -13,21 +13,21 @@
 
 namespace {
 
-constexpr QLatin1String kActiveExports("exportPam.%.active");
+const QLatin1String kActiveExports("exportPam.%.active");
 
-constexpr QLatin1String kSelectUidForPam("SELECT uid FROM people WHERE pid=%1");
+const QLatin1String kSelectUidForPam("SELECT uid FROM people WHERE pid=%1");
 
-constexpr QLatin1String kInsertIntoPam("INSERT INTO people_pam (uid, id) VALUES(%1, %2)");
-constexpr QLatin1String kOnDuplicatePam(" ON DUPLICATE KEY UPDATE id=VALUES(id)");
+const QLatin1String kInsertIntoPam("INSERT INTO people_pam (uid, id) VALUES(%1, %2)");
+const QLatin1String kOnDuplicatePam(" ON DUPLICATE KEY UPDATE id=VALUES(id)");
 
-constexpr QLatin1String kSelectUidForTerminals("SELECT uid FROM people WHERE pid=%1 LIMIT 1");
+const QLatin1String kSelectUidForTerminals("SELECT uid FROM people WHERE pid=%1 LIMIT 1");
 
-constexpr QLatin1String kQueuePerson(
+const QLatin1String kQueuePerson(
     "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags) SELECT `tid` tid, "
     "'%1' type, '%2' ref, 'uid' ref_col, %3 ref_id, UNIX_TIMESTAMP() created, 2 flags FROM "
     "people_term JOIN term USING(tid) WHERE status = 1 AND uid = %3 AND (flags & 2);");
 
-constexpr QLatin1String kMarkTerminals("CALL updateTermsSync(%1, 2);");
+const QLatin1String kMarkTerminals("CALL updateTermsSync(%1, 2);");
 
 /// The uid that the statement finds, 0 when it fails or finds none. The caller reports it.
 quint32 findUid(const QSqlDatabase &db, const QString &sql)

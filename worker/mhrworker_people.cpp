@@ -12,18 +12,18 @@
 
 namespace {
 
-constexpr QLatin1String kSelectPeople(
+const QLatin1String kSelectPeople(
     "SELECT p.pid, p.pamId, p.title, p.name, p.surname, p.title2, p.phone, p.begin, p.end, "
     "p.rsBegin, p.rsEnd, p.rsText, p.calendarID, b.number FROM people p LEFT JOIN branches b "
     "USING(bid) WHERE p.status;");
 
-constexpr QLatin1String kSelectUid("SELECT uid FROM people WHERE pid = %1 LIMIT 1;");
+const QLatin1String kSelectUid("SELECT uid FROM people WHERE pid = %1 LIMIT 1;");
 
-constexpr QLatin1String kCountPid("SELECT COUNT(*) FROM people WHERE pid = %1;");
+const QLatin1String kCountPid("SELECT COUNT(*) FROM people WHERE pid = %1;");
 
 // A person who comes back keeps the relationship state, calendar and branch of the old row, and
 // goes to department 1: the row's owner is then set by hand.
-constexpr QLatin1String kInsertPerson(
+const QLatin1String kInsertPerson(
     "INSERT INTO people (pid, pamId, title, name, surname, title2, phone, begin, end, created, "
     "rsBegin, rsEnd, rsText, type, did, calendarID, bid) VALUES('%1', '%2', '%3', '%4', '%5', "
     "'%6', '%7', %8, %9, UNIX_TIMESTAMP(), %10, %11, '%12', %13, %14, %15, %16) ON DUPLICATE KEY "
@@ -31,12 +31,12 @@ constexpr QLatin1String kInsertPerson(
     "title2=VALUES(title2), phone=VALUES(phone), begin=VALUES(begin), end=VALUES(end), "
     "edited=VALUES(created), status=1, type=VALUES(type), did=1");
 
-constexpr QLatin1String kUpdatePersonAndLastCalc(
+const QLatin1String kUpdatePersonAndLastCalc(
     "UPDATE people SET pamId=%1, title='%2', name='%3', surname='%4', title2='%5', phone='%6', "
     "begin=%7, end=%8, edited=UNIX_TIMESTAMP(), editor=0, rsBegin=%10, rsEnd=%11, rsText='%12', "
     "lastCalc=%13, type=%14, did=%15, calendarID=%16, bid=%17 WHERE pid=%9");
 
-constexpr QLatin1String kUpdatePerson(
+const QLatin1String kUpdatePerson(
     "UPDATE people SET pamId=%1, title='%2', name='%3', surname='%4', title2='%5', phone='%6', "
     "begin=%7, end=%8, edited=UNIX_TIMESTAMP(), editor=0, rsBegin=%10, rsEnd=%11, rsText='%12', "
     "type=%13, did=%14, calendarID=%15, bid=%16  WHERE pid=%9");

@@ -11,14 +11,12 @@
 
 namespace {
 
-constexpr QLatin1String kSelectAid("SELECT aid FROM admins WHERE personalNumber = %1");
+const QLatin1String kSelectAid("SELECT aid FROM admins WHERE personalNumber = %1");
 
-constexpr QLatin1String
-    kResetRequest("UPDATE admins_people SET request =0 WHERE uid=%1 AND aid != %2");
+const QLatin1String kResetRequest("UPDATE admins_people SET request =0 WHERE uid=%1 AND aid != %2");
 
-constexpr QLatin1String
-    kSetRequest("INSERT INTO admins_people (aid, uid, request) VALUES(%1, %2, 1) "
-                "ON DUPLICATE KEY UPDATE request=1");
+const QLatin1String kSetRequest("INSERT INTO admins_people (aid, uid, request) VALUES(%1, %2, 1) "
+                                "ON DUPLICATE KEY UPDATE request=1");
 
 } // namespace
 
