@@ -35,13 +35,14 @@ table { border-collapse: collapse; width: 100%; margin: .6rem 0; }
 th, td { text-align: left; vertical-align: top; padding: .35rem .5rem;
          border-bottom: 1px solid #d5dbe3; overflow-wrap: break-word; }
 th { background: #eef1f5; white-space: nowrap; }
-td:last-child { overflow-wrap: anywhere; }
+td:last-child, .findings td:nth-child(2) { overflow-wrap: anywhere; }
+.findings th:last-child { width: 55%; }
 .error { color: #b3261e; font-weight: 600; }
 .warning { color: #8a5300; font-weight: 600; }
 .note { color: #50596a; }
 .advice { color: #33415c; }
 footer { margin-top: 2rem; color: #50596a; font-size: .85rem; }
-@media (max-width: 44rem) {
+@media screen and (max-width: 44rem) {
   thead { display: none; }
   table, tbody, tr, td { display: block; }
   tr { border: 1px solid #d5dbe3; border-radius: .4rem; margin: .6rem 0; padding: .2rem 0; }

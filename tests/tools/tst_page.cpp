@@ -1,0 +1,142 @@
+#include "tests/support/exportfile.h"
+#include "tests/tools/browser.h"
+#include "tests/tools/toolrun.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QRgb kRed = qRgb(0xb3, 0x26, 0x1e); ///< the bar beside a verdict with findings
+const QRgb kGreen = qRgb(0x1d, 0x6b, 0x3a); ///< the bar beside a good one
+const QRgb kTableHead = qRgb(0xee, 0xf1, 0xf5);
+const QRgb kPaper = qRgb(0xff, 0xff, 0xff);
+
+int count(const QImage &picture, QRgb colour)
+{
+    int pixels = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            pixels += picture.pixel(x, y) == colour ? 1 : 0;
+    }
+    return pixels;
+}
+
+bool isEmptyColumn(const QImage &picture, int x)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        if (picture.pixel(x, y) != kPaper)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+/// The page for HR, as a browser shows it.
+class TestPage : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void theBrowserUnderstandsThePage();
+    void whatAnExportContainsIsNoMarkup();
+    void aFindingIsSeenAtOnce();
+    void aGoodExportIsSeenAtOnce();
+    void aPhoneShowsCardsWithoutScrollingSideways();
+    void thePageCanBePrinted();
+
+private:
+    QString page(const QByteArray &exportContent);
+
+    QTemporaryDir m_dir;
+    Browser m_browser;
+    QString m_findings; ///< path of a page with findings
+    QString m_fine; ///< path of a page without
+};
+
+void TestPage::initTestCase()
+{
+    const QByteArray good = ExportLine().text().toUtf8() + '\n';
+    const QByteArray bad =
+        ExportLine()
+            .with(&ExportLine::prijmeni, "<script>document.title='x'</script>&amp;<b>Ž</b>")
+            .with(&ExportLine::titul, QString(58, 'w') + "%1")
+            .with(&ExportLine::osobniCislo, "77")
+            .with(&ExportLine::dovolenaZustatek, "12,5")
+            .text()
+            .toUtf8()
+        + '\n';
+    m_fine = page(good);
+    m_findings = page(good + bad + "broken\n");
+}
+
+QString TestPage::page(const QByteArray &exportContent)
+{
+    ExportFile file;
+    file.writeBytes(exportContent);
+    const QString path = m_dir.filePath(QString::number(exportContent.size()) + ".html");
+    runTool({"check-file", file.path(), "--html", path});
+    return path;
+}
+
+void TestPage::theBrowserUnderstandsThePage()
+{
+    const QString dom = m_browser.dom(m_findings);
+    QVERIFY2(dom.contains("<p class=\"verdict findings\">2 lines of the export do not arrive as "
+                          "they should; the plugin drops 1 of them.</p>"),
+             qPrintable(dom));
+    QCOMPARE(dom.count("<table class=\"findings\">"), 1);
+    QCOMPARE(dom.count("<tr><td data-label=\"Line\">"), 4);
+    QVERIFY(dom.contains("<dt>Dropped by the plugin:</dt><dd>1</dd>"));
+}
+
+void TestPage::whatAnExportContainsIsNoMarkup()
+{
+    const QString dom = m_browser.dom(m_findings);
+    QVERIFY(dom.contains("77.1 Jana &lt;script&gt;document.title='x'&lt;/script&gt;&amp;amp;"
+                         "&lt;b&gt;Ž&lt;/b&gt;"));
+    QVERIFY(!dom.contains("<script"));
+    QVERIFY(dom.contains("<title>HR export "));
+}
+
+void TestPage::aFindingIsSeenAtOnce()
+{
+    const QImage picture = m_browser.picture(m_findings, 1200, 900);
+    QCOMPARE(picture.size(), QSize(1200, 900));
+    QVERIFY(count(picture, kRed) > 200);
+    QCOMPARE(count(picture, kGreen), 0);
+    QVERIFY(count(picture, kTableHead) > 10000);
+}
+
+void TestPage::aGoodExportIsSeenAtOnce()
+{
+    const QImage picture = m_browser.picture(m_fine, 1200, 900);
+    QVERIFY(count(picture, kGreen) > 200);
+    QCOMPARE(count(picture, kRed), 0);
+}
+
+void TestPage::aPhoneShowsCardsWithoutScrollingSideways()
+{
+    const QImage picture = m_browser.picture(m_findings, 500, 1800);
+    QCOMPARE(picture.width(), 500);
+    // No table head, and nothing in the margins.
+    QCOMPARE(count(picture, kTableHead), 0);
+    QVERIFY(count(picture, kRed) > 200);
+    QVERIFY(isEmptyColumn(picture, 4));
+    QVERIFY(isEmptyColumn(picture, 495));
+}
+
+void TestPage::thePageCanBePrinted()
+{
+    const auto sheets = [this](const QString &path) {
+        const QByteArray pdf = m_browser.print(path);
+        return pdf.startsWith("%PDF-") ? pdf.count("/Type /Page\n") : 0;
+    };
+    QCOMPARE(sheets(m_fine), 1);
+    QVERIFY(sheets(page(QByteArray("broken\n").repeated(200))) > 5);
+}
+
+QTEST_GUILESS_MAIN(TestPage)
+#include "tst_page.moc"
