@@ -48,10 +48,22 @@ QSqlError DbCheck::attempt(const QString &sql)
     return query.lastError();
 }
 
+void DbCheck::begin(const char *id, const char *heading)
+{
+    m_toldInSection = false;
+    m_report.section(QString::fromLatin1(id), QString::fromLatin1(heading));
+}
+
+void DbCheck::end(const QString &wellSentence)
+{
+    if (!m_toldInSection)
+        m_report.sentence(wellSentence);
+}
+
 void DbCheck::breach(const char *rule, const QString &message, const QString &advice,
                      const QString &field)
 {
-    m_broken = true;
+    ++m_breaches;
     tell(Severity::Error, rule, message, advice, field);
 }
 
@@ -60,6 +72,7 @@ void DbCheck::tell(Severity severity, const char *rule, const QString &message,
 {
     if (severity != Severity::Note)
         ++m_serious;
+    m_toldInSection = true;
     Finding finding;
     finding.severity = severity;
     finding.rule = QString::fromLatin1(rule);

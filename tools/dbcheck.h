@@ -29,13 +29,19 @@ public:
     /// succeeds.
     QSqlError attempt(const QString &sql);
 
+    /// Begins a section of the report.
+    void begin(const char *id, const char *heading);
+    /// Ends it: with this sentence, when nothing was told in it.
+    void end(const QString &wellSentence);
+
     /// The plugin relies on something that is not so.
     void breach(const char *rule, const QString &message, const QString &advice,
                 const QString &field = QString());
     void tell(Severity severity, const char *rule, const QString &message, const QString &advice,
               const QString &field = QString());
 
-    bool isContractBroken() const { return m_broken; }
+    bool isContractBroken() const { return m_breaches > 0; }
+    int breachCount() const { return m_breaches; }
     /// How many warnings and errors there were.
     int seriousCount() const { return m_serious; }
     /// Why the check could not be finished, a sentence without its full stop; empty when it could.
@@ -45,7 +51,8 @@ public:
 private:
     const QSqlDatabase m_db;
     ReportWriter &m_report;
-    bool m_broken = false;
+    int m_breaches = 0;
     int m_serious = 0;
+    bool m_toldInSection = false;
     QString m_unusable;
 };

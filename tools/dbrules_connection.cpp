@@ -75,10 +75,11 @@ void checkAffectedRows(DbCheck &check)
 void DbRules::checkConnection(DbCheck &check)
 {
     const QVariantList row = check.row(QLatin1String(kSelectConnection));
-    check.report().section(QStringLiteral("connection"), QStringLiteral("Connection"));
+    check.begin("connection", "Connection");
     check.report().fact(QStringLiteral("account"), QStringLiteral("Account"), row.value(0));
     check.report().fact(QStringLiteral("charset"), QStringLiteral("Character set"), row.value(1));
     checkCharset(check, row);
     checkSeveralStatements(check);
     checkAffectedRows(check);
+    check.end(QStringLiteral("The connection does what the plugin expects of it."));
 }

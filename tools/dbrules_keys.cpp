@@ -5,7 +5,6 @@
 #include "tools/dbrules.h"
 #include "tools/dbschema.h"
 #include "tools/pluginrights.h"
-#include "tools/reportwriter.h"
 
 #include <QSet>
 
@@ -62,9 +61,8 @@ private:
 
     bool hasKey(const Columns &columns) const
     {
-        return std::any_of(m_keys.cbegin(), m_keys.cend(), [&columns](const DbKey &key) {
-            return toSet(key.columns) == columns;
-        });
+        return std::any_of(m_keys.cbegin(), m_keys.cend(),
+                           [&columns](const DbKey &key) { return toSet(key.columns) == columns; });
     }
 
     void checkKey(const TepDbContract::UniqueKey &key)
@@ -105,10 +103,9 @@ private:
 
     bool isInContract(const Columns &columns) const
     {
-        return std::any_of(std::begin(m_contract.keys), std::end(m_contract.keys),
-                           [&columns](const TepDbContract::UniqueKey &key) {
-                               return columnsOf(key) == columns;
-                           });
+        return std::any_of(
+            std::begin(m_contract.keys), std::end(m_contract.keys),
+            [&columns](const TepDbContract::UniqueKey &key) { return columnsOf(key) == columns; });
     }
 
     void checkFurtherKeys()
@@ -139,27 +136,26 @@ private:
 void checkAutomaticNumber(DbCheck &check, const DbSchema &schema, const TepDbContract::Table &table)
 {
     const QString name = QString::fromLatin1(table.name);
-    const DbColumn *const column =
-        schema.column(name, QString::fromLatin1(table.generatedColumn));
+    const DbColumn *const column = schema.column(name, QString::fromLatin1(table.generatedColumn));
     if (column == nullptr || column->automaticNumber || !PluginRights::insertsInto(name))
         return;
     check.breach("not-automatic",
                  QStringLiteral("The column %1.%2 is not AUTO_INCREMENT: the plugin leaves its "
                                 "value to the server")
                      .arg(name, column->name),
-                 QStringLiteral("Make it AUTO_INCREMENT."),
-                 name + QLatin1Char('.') + column->name);
+                 QStringLiteral("Make it AUTO_INCREMENT."), name + QLatin1Char('.') + column->name);
 }
 
 } // namespace
 
 void DbRules::checkKeys(DbCheck &check, const DbSchema &schema)
 {
-    check.report().section(QStringLiteral("keys"), QStringLiteral("Unique keys"));
+    check.begin("keys", "Unique keys");
     for (const TepDbContract::Table &table : TepDbContract::kTables) {
         if (!schema.hasTable(QString::fromLatin1(table.name)))
             continue;
         KeyCheck(check, schema, table).run();
         checkAutomaticNumber(check, schema, table);
     }
+    check.end(QStringLiteral("The unique keys are as they must be."));
 }

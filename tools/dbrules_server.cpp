@@ -79,11 +79,12 @@ void DbRules::checkServer(DbCheck &check)
     const QVariantList row = check.row(QLatin1String(kSelectServer));
     const ServerVersion version = ServerVersion::parse(row.value(0).toString());
     const QString modes = row.value(1).toString();
-    check.report().section(QStringLiteral("server"), QStringLiteral("Server"));
+    check.begin("server", "Server");
     check.report().fact(QStringLiteral("server"), QStringLiteral("Server"), version.name());
     check.report().fact(QStringLiteral("sqlMode"), QStringLiteral("SQL mode"), modes);
     checkVersion(check, version);
     checkWritable(check, row.value(2).toString());
     checkFatalModes(check, modes.split(QLatin1Char(',')));
     checkOtherModes(check, modes.split(QLatin1Char(',')));
+    check.end(QStringLiteral("The server and its SQL mode suit the plugin."));
 }

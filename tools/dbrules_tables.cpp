@@ -5,7 +5,6 @@
 #include "tools/dbrules.h"
 #include "tools/dbschema.h"
 #include "tools/pluginrights.h"
-#include "tools/reportwriter.h"
 
 namespace {
 
@@ -41,10 +40,10 @@ private:
             m_missingElsewhere += table;
             return;
         }
-        m_check.breach("table-missing",
-                       QStringLiteral("There is no table %1, or the account has no right to it")
-                           .arg(table),
-                       kCreateAdvice, table);
+        m_check.breach(
+            "table-missing",
+            QStringLiteral("There is no table %1, or the account has no right to it").arg(table),
+            kCreateAdvice, table);
     }
 
     void checkColumns(const QString &table, const QStringList &columns)
@@ -62,10 +61,10 @@ private:
             m_missingElsewhere += field;
             return;
         }
-        m_check.breach("column-missing",
-                       QStringLiteral("There is no column %1, or the account has no right to it")
-                           .arg(field),
-                       kCreateAdvice, field);
+        m_check.breach(
+            "column-missing",
+            QStringLiteral("There is no column %1, or the account has no right to it").arg(field),
+            kCreateAdvice, field);
     }
 
     DbCheck &m_check;
@@ -117,7 +116,8 @@ void checkInserts(DbCheck &check, const DbSchema &schema)
 
 void checkStatusOfNewPeople(DbCheck &check, const DbSchema &schema)
 {
-    const DbColumn *const status = schema.column(QStringLiteral("people"), QStringLiteral("status"));
+    const DbColumn *const status =
+        schema.column(QStringLiteral("people"), QStringLiteral("status"));
     if (status == nullptr || status->defaultValue == QLatin1String("1"))
         return;
     check.breach("status-default",
@@ -132,18 +132,19 @@ void checkUndoing(DbCheck &check, const DbSchema &schema)
     const QString table = QStringLiteral("admins_people");
     if (!schema.hasTable(table) || schema.isTransactional(table))
         return;
-    check.tell(Severity::Warning, "not-transactional",
-               QStringLiteral("The table %1 takes no part in transactions: when a supervisor cannot "
-                              "be set, the former one has lost the person's requests all the same")
-                   .arg(table),
-               QStringLiteral("Use an engine with transactions, such as InnoDB."), table);
+    check.tell(
+        Severity::Warning, "not-transactional",
+        QStringLiteral("The table %1 takes no part in transactions: when a supervisor cannot "
+                       "be set, the former one has lost the person's requests all the same")
+            .arg(table),
+        QStringLiteral("Use an engine with transactions, such as InnoDB."), table);
 }
 
 } // namespace
 
 void DbRules::checkTables(DbCheck &check, const DbSchema &schema)
 {
-    check.report().section(QStringLiteral("tables"), QStringLiteral("Tables"));
+    check.begin("tables", "Tables");
     NameCheck names(check, schema);
     for (const TepDbContract::Table &table : TepDbContract::kTables)
         names.checkTable(table);
@@ -151,4 +152,5 @@ void DbRules::checkTables(DbCheck &check, const DbSchema &schema)
     checkInserts(check, schema);
     checkStatusOfNewPeople(check, schema);
     checkUndoing(check, schema);
+    check.end(QStringLiteral("All tables and columns are there, and new rows can be made."));
 }

@@ -17,7 +17,8 @@ constexpr char kSelectZone[] = "SELECT @@SESSION.time_zone, @@system_time_zone, 
 /// Enough to see every change of a year's daylight saving, in both directions from today.
 constexpr int kDaysAround = 366;
 
-/// Seconds. A person's attendance counts as being calculated for 900 seconds, by the plugin's clock.
+/// Seconds. A person's attendance counts as being calculated for 900 seconds, by the plugin's
+/// clock.
 constexpr qint64 kClockTolerance = 60;
 
 QVector<QDate> daysAround(const QDate &today)
@@ -89,11 +90,12 @@ void DbRules::checkTime(DbCheck &check)
     const QString serverZone =
         setting == QLatin1String("SYSTEM") ? row.value(1).toString() : setting;
     const QString ownZone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
-    check.report().section(QStringLiteral("time"), QStringLiteral("Time"));
+    check.begin("time", "Time");
     check.report().fact(QStringLiteral("serverTimeZone"), QStringLiteral("Server's time zone"),
                         serverZone);
     check.report().fact(QStringLiteral("timeZone"), QStringLiteral("Time zone of this program"),
                         ownZone);
     checkMidnights(check, serverZone, ownZone);
     checkClock(check, row.value(2).toLongLong());
+    check.end(QStringLiteral("The server and this program agree about time."));
 }

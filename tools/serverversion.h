@@ -14,6 +14,7 @@ struct ServerVersion {
     /// "MariaDB 10.11.6-MariaDB-0+deb12u1", "MySQL 8.0.35".
     QString name() const;
 
-    /// Whether `groups` is a word that must be quoted to be the name of a table: in MySQL from 8 on.
+    /// Whether `groups` is a word that must be quoted to be the name of a table: in MySQL from 8
+    /// on.
     bool reservesGroups() const { return !isMariaDb && major >= 8; }
 };

@@ -1,6 +1,7 @@
 #include "tools/subcommand.h"
 
 #include "tools/checkconfig.h"
+#include "tools/checkdb.h"
 #include "tools/checkfile.h"
 #include "tools/console.h"
 
@@ -40,6 +41,7 @@ const QVector<Subcommand> &subcommands()
         {"check-config", "What the INI file puts in force, and what is wrong with it",
          runCheckConfig},
         {"check-file", "What the plugin would drop or misread of an HR export", runCheckFile},
+        {"check-db", "Whether the attendance database is what the plugin relies on", runCheckDb},
     };
     return all;
 }
@@ -55,7 +57,7 @@ ExitStatus runMirovahrctl(const QStringList &arguments, Console &console)
         console.print(QStringLiteral("mirovahrctl " MIROVAHR_VERSION));
         return ExitStatus::Fine;
     }
-    const auto all = subcommands();
+    const auto &all = subcommands();
     const auto found =
         std::find_if(all.cbegin(), all.cend(), [&name](const Subcommand &subcommand) {
             return name == QLatin1String(subcommand.name);

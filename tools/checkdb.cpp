@@ -1,0 +1,107 @@
+#include "tools/checkdb.h"
+
+#include "cli/database.h"
+#include "cli/databaseoptions.h"
+#include "tools/commandline.h"
+#include "tools/console.h"
+#include "tools/databaseaccess.h"
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/dbschema.h"
+#include "tools/plaintext.h"
+#include "tools/report.h"
+
+namespace {
+
+constexpr char kDescription[] =
+    "Tells whether the attendance database is what the plugin relies on: the server, the\n"
+    "connection, tables, columns, keys and routines, the rights of the account, and some\n"
+    "of what stands in the tables. Nothing is written: the server itself refuses it.\n\n"
+    "Connect as the plugin does: with its account, its connect options and its time zone\n"
+    "(TZ). An account that may read whole tables sees columns that the plugin's does not;\n"
+    "check with it, too, and --other-account.";
+
+DbRules::Account accountOf(const CommandLine &line)
+{
+    return line.isSet("other-account") ? DbRules::Account::Another : DbRules::Account::OfThePlugin;
+}
+
+/// False when the content of the tables cannot be looked at.
+bool checkSchema(DbCheck &check, DbRules::Account account)
+{
+    DbSchema schema;
+    if (!schema.load(check.database())) {
+        check.setUnusable(schema.errorText());
+        return false;
+    }
+    const int breachesBefore = check.breachCount();
+    DbRules::checkTables(check, schema);
+    DbRules::checkColumns(check, schema);
+    DbRules::checkKeys(check, schema);
+    if (account == DbRules::Account::OfThePlugin)
+        DbRules::checkRights(check, schema);
+    return check.breachCount() == breachesBefore;
+}
+
+void checkAll(DbCheck &check, DbRules::Account account)
+{
+    DbRules::checkServer(check);
+    DbRules::checkConnection(check);
+    DbRules::checkTime(check);
+    const bool readable = checkSchema(check, account);
+    DbRules::checkRoutines(check, account);
+    if (readable)
+        DbRules::checkContent(check);
+}
+
+QString verdict(const DbCheck &check)
+{
+    if (check.isContractBroken()) {
+        return QStringLiteral("The plugin cannot work with this database as it should: %1.")
+            .arg(PlainText::counted(check.breachCount(),
+                                    QStringLiteral("thing that it relies on is not so"),
+                                    QStringLiteral("things that it relies on are not so")));
+    }
+    if (check.seriousCount() == 0)
+        return QStringLiteral("The database is what the plugin relies on.");
+    return QStringLiteral("The plugin can work with this database; %1 to look at.")
+        .arg(check.seriousCount() == 1
+                 ? QStringLiteral("there is one thing")
+                 : QStringLiteral("there are %1 things").arg(check.seriousCount()));
+}
+
+ExitStatus check(const CommandLine &line, const QSqlDatabase &db, Report &report, Console &console)
+{
+    report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
+    DbCheck check(db, report);
+    checkAll(check, accountOf(line));
+    if (!check.unusable().isEmpty()) {
+        return console.fail(
+            ExitStatus::NoDatabase,
+            QStringLiteral("check-db: The database cannot be used: %1").arg(check.unusable()));
+    }
+    return report.conclude(check.isContractBroken() ? ExitStatus::ContractBroken
+                                                    : report.findingsStatus(),
+                           verdict(check));
+}
+
+} // namespace
+
+ExitStatus runCheckDb(const QStringList &arguments, Console &console)
+{
+    CommandLine line("check-db", kDescription);
+    line.addFlag("other-account", "The account is not the plugin's: do not judge its rights.");
+    line.addReportOptions(CommandLine::Page::NotOffered);
+    line.addDatabaseOptions();
+    if (const auto end = line.parse(arguments, console))
+        return *end;
+    DatabaseOptions options;
+    if (const auto end = line.readDatabase(options, console))
+        return *end;
+    QString error;
+    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
+    if (!database)
+        return console.fail(ExitStatus::NoDatabase, QStringLiteral("check-db: ") + error);
+    Report report(line, console);
+    return check(line, database->handle(), report, console);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "tools/exitstatus.h"
+
+#include <QStringList>
+
+class Console;
+
+/// The subcommand `check-db`: whether the attendance database is what the plugin relies on.
+ExitStatus runCheckDb(const QStringList &arguments, Console &console);

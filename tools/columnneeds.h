@@ -1,0 +1,106 @@
+#pragma once
+
+/// What the plugin writes, column by column: the range of the numbers, the length of the texts.
+namespace ColumnNeeds {
+
+/// A column that takes numbers.
+struct Number {
+    const char *table;
+    const char *column;
+    double from; ///< the least number that is written
+    double to; ///< the greatest
+    const char *meaning; ///< what they are
+    bool null = false; ///< also takes NULL
+};
+
+/// A column that takes the ids which another column holds.
+struct Reference {
+    const char *table;
+    const char *column;
+    const char *ownerTable;
+    const char *ownerColumn;
+};
+
+/// A column that takes texts. Those of HR have no longest one: check-file looks at them.
+struct Text {
+    const char *table;
+    const char *column;
+    int length; ///< characters of the longest text that is not HR's; 0: all are HR's
+};
+
+constexpr double kUnsigned32 = 4294967295.0;
+constexpr double kUnsigned16 = 65535.0;
+/// The last moment of the server's own UNIX_TIMESTAMP() up to MariaDB 11.4.
+constexpr double kLastServerTime = 2147483647.0;
+/// The years 1 to 9999, of which the export may name any day, in any time zone.
+constexpr double kFirstDay = -62135683200.0;
+constexpr double kLastDay = 253402387199.0;
+constexpr double kLastMonth = 999912.0;
+
+// clang-format off
+inline constexpr Number kNumbers[] = {
+    {"people", "pid", 0, kUnsigned32, "a personal number and the number of the relationship"},
+    {"people", "begin", 0, kUnsigned32, "the first day of the employment"},
+    {"people", "end", kFirstDay, kLastDay, "the last day of the employment", true},
+    {"people", "created", 0, kLastServerTime, "the time of creation"},
+    {"people", "edited", 0, kLastServerTime, "the time of the last change"},
+    {"people", "editor", 0, 0, "0"},
+    {"people", "rsBegin", kFirstDay, kLastDay, "the first day of a relationship state", true},
+    {"people", "rsEnd", kFirstDay, kLastDay, "the last day of a relationship state", true},
+    {"people", "type", 0, 4, "the employment type"},
+    {"people", "did", 0, 1, "the department", true},
+    {"people", "calendarID", 0, kUnsigned16, "HR's calendar code"},
+    {"people", "bid", 0, kUnsigned16, "the branch", true},
+    {"people", "status", 0, 1, "1 for an active person"},
+    {"people", "lastCalc", kFirstDay, kLastDay, "the day from which attendance is calculated again"},
+    {"people", "calc", 0, 0, "0"},
+    {"people_pam", "id", 0, 2, "the settings of the payroll export"},
+    {"atten", "ok", -1, -1, "-1 for a day that is to be calculated again"},
+    {"brape", "bid", 0, kUnsigned16, "the branch"},
+    {"brape", "since", 0, kLastServerTime, "the time of joining"},
+    {"groups_plan", "since", 0, kLastMonth, "a month such as 202403"},
+    {"groups_month", "month", 0, kLastMonth, "a month such as 202403"},
+    {"funds_move", "type", 0, 3, "3 for a correction"},
+    {"funds_move", "day", 0, kLastServerTime, "the day of the correction"},
+    {"funds_move", "month", 0, kLastMonth, "a month such as 202403"},
+    {"funds_move", "value", -2147483648.0, 2147483647.0, "hundredths of a day"},
+    {"funds_move", "fid", 0, kUnsigned16, "the vacation fund"},
+    {"admins_people", "request", 0, 1, "1 for the administrator who gets the requests"},
+    {"term", "syn", 0, 323, "the kinds of data that a terminal has to fetch"},
+    {"term_sync", "created", 0, kLastServerTime, "the time of queueing"},
+    {"term_sync", "flags", 0, 256, "the kind of data"},
+};
+
+inline constexpr Reference kReferences[] = {
+    {"people_pam", "uid", "people", "uid"},
+    {"brape", "uid", "people", "uid"},
+    {"groups_plan", "uid", "people", "uid"},
+    {"groups_plan", "gid", "groups", "gid"},
+    {"groups_month", "uid", "people", "uid"},
+    {"groups_month", "gid", "groups_plan", "gid"},
+    {"funds_move", "uid", "people", "uid"},
+    {"admins_people", "uid", "people", "uid"},
+    {"admins_people", "aid", "admins", "aid"},
+    {"people_term", "uid", "people", "uid"},
+    {"people_term", "tid", "term", "tid"},
+    {"term_sync", "tid", "term", "tid"},
+    {"term_sync", "ref_id", "people", "uid"},
+};
+
+inline constexpr Text kTexts[] = {
+    {"people", "pamId", 21}, // 4294967295.4294967295
+    {"people", "title", 0},
+    {"people", "name", 0},
+    {"people", "surname", 0},
+    {"people", "title2", 0},
+    {"people", "phone", 0},
+    {"people", "rsText", 30}, // the longest built-in one
+    {"term_sync", "type", 1},
+    {"term_sync", "ref", 11}, // people_term
+    {"term_sync", "ref_col", 11}, // colorGroups
+    {"vars", "name", 30}, // exportPam.4294967295.selPeople
+    {"vars", "value", 0},
+};
+// clang-format on
+
+} // namespace ColumnNeeds

@@ -1,0 +1,158 @@
+// Columns: they hold what the plugin writes.
+
+#include "tools/columnneeds.h"
+#include "tools/columnrange.h"
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/dbschema.h"
+#include "tools/reportwriter.h"
+
+namespace {
+
+QString fieldName(const char *table, const char *column)
+{
+    return QString::fromLatin1(table) + QLatin1Char('.') + QString::fromLatin1(column);
+}
+
+const DbColumn *find(const DbSchema &schema, const char *table, const char *column)
+{
+    return schema.column(QString::fromLatin1(table), QString::fromLatin1(column));
+}
+
+QString shown(double number)
+{
+    return QString::number(number, 'f', 0);
+}
+
+QString shown(const ColumnRange &range)
+{
+    return range.from == range.to
+        ? shown(range.from)
+        : QStringLiteral("%1 to %2").arg(shown(range.from), shown(range.to));
+}
+
+void wrongKind(DbCheck &check, const QString &field, const DbColumn &column, const QString &kind)
+{
+    check.breach("column-kind",
+                 QStringLiteral("The column %1 is %2; the plugin writes %3 into it")
+                     .arg(field, column.fullType, kind),
+                 QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
+}
+
+void tooNarrow(DbCheck &check, const QString &field, const DbColumn &column, const QString &written)
+{
+    check.tell(Severity::Error, "column-too-narrow",
+               QStringLiteral("The column %1 is %2; the plugin writes %3 into it. What does not "
+                              "fit is refused, or changed where no strict SQL mode is on")
+                   .arg(field, column.fullType, written),
+               QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
+}
+
+void checkRange(DbCheck &check, const QString &field, const DbColumn &column,
+                const ColumnRange &written, const QString &meaning)
+{
+    const auto held = ColumnRange::of(column);
+    if (!held)
+        wrongKind(check, field, column, QStringLiteral("numbers"));
+    else if (!held->holds(written))
+        tooNarrow(check, field, column, QStringLiteral("%1 (%2)").arg(shown(written), meaning));
+}
+
+void checkNull(DbCheck &check, const QString &field, const DbColumn &column)
+{
+    if (column.nullable)
+        return;
+    check.breach("column-not-null",
+                 QStringLiteral("The column %1 takes no NULL, which the plugin writes for what HR "
+                                "leaves open")
+                     .arg(field),
+                 QStringLiteral("Allow NULL in the column."), field);
+}
+
+void checkNumber(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Number &need)
+{
+    const DbColumn *const column = find(schema, need.table, need.column);
+    if (column == nullptr)
+        return;
+    const QString field = fieldName(need.table, need.column);
+    checkRange(check, field, *column, {need.from, need.to}, QString::fromLatin1(need.meaning));
+    if (need.null)
+        checkNull(check, field, *column);
+}
+
+void checkReference(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Reference &need)
+{
+    const DbColumn *const column = find(schema, need.table, need.column);
+    const DbColumn *const owner = find(schema, need.ownerTable, need.ownerColumn);
+    if (column == nullptr || owner == nullptr)
+        return;
+    const ColumnRange ids{0, ColumnRange::of(*owner).value_or(ColumnRange()).to};
+    checkRange(
+        check, fieldName(need.table, need.column), *column, ids,
+        QStringLiteral("the values of %1").arg(fieldName(need.ownerTable, need.ownerColumn)));
+}
+
+bool isText(const DbColumn &column)
+{
+    return column.type.endsWith(QLatin1String("char"))
+        || column.type.endsWith(QLatin1String("text"));
+}
+
+void checkCharset(DbCheck &check, const QString &field, const DbColumn &column)
+{
+    if (column.charset.startsWith(QLatin1String("utf8")))
+        return;
+    check.tell(Severity::Warning, "column-charset",
+               QStringLiteral("The column %1 has the character set %2: letters that it does not "
+                              "know are refused, or stored as question marks where no strict SQL "
+                              "mode is on")
+                   .arg(field, column.charset),
+               QStringLiteral("Convert the column to utf8mb4."), field);
+}
+
+void checkText(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Text &need)
+{
+    const DbColumn *const column = find(schema, need.table, need.column);
+    if (column == nullptr)
+        return;
+    const QString field = fieldName(need.table, need.column);
+    if (!isText(*column)) {
+        wrongKind(check, field, *column, QStringLiteral("texts"));
+        return;
+    }
+    if (column->length < need.length)
+        tooNarrow(check, field, *column, QStringLiteral("%1 characters").arg(need.length));
+    checkCharset(check, field, *column);
+}
+
+void tellWidths(DbCheck &check, const DbSchema &schema)
+{
+    Table table{QStringLiteral("texts"),
+                {{QStringLiteral("column"), QStringLiteral("Text column")},
+                 {QStringLiteral("length"), QStringLiteral("Characters")},
+                 {QStringLiteral("charset"), QStringLiteral("Character set")}},
+                {}};
+    for (const ColumnNeeds::Text &need : ColumnNeeds::kTexts) {
+        const DbColumn *const column = find(schema, need.table, need.column);
+        if (column != nullptr && isText(*column)) {
+            table.rows.append(
+                {fieldName(need.table, need.column), column->length, column->charset});
+        }
+    }
+    check.report().table(table);
+}
+
+} // namespace
+
+void DbRules::checkColumns(DbCheck &check, const DbSchema &schema)
+{
+    check.begin("columns", "Columns");
+    for (const ColumnNeeds::Number &need : ColumnNeeds::kNumbers)
+        checkNumber(check, schema, need);
+    for (const ColumnNeeds::Reference &need : ColumnNeeds::kReferences)
+        checkReference(check, schema, need);
+    for (const ColumnNeeds::Text &need : ColumnNeeds::kTexts)
+        checkText(check, schema, need);
+    check.end(QStringLiteral("The columns hold what the plugin writes."));
+    tellWidths(check, schema);
+}

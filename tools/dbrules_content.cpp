@@ -1,0 +1,167 @@
+// What stands in the tables, as far as the plugin takes it for granted.
+
+#include "db/tepdbsettings.h"
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/plaintext.h"
+
+#include <QMap>
+#include <QStringList>
+
+namespace {
+
+constexpr char kSelectVacationFunds[] = "SELECT fid FROM funds WHERE iid = 3 AND unit = 2"
+                                        " ORDER BY fid";
+constexpr char kSelectTwiceNumbers[] = "SELECT number FROM branches WHERE number IS NOT NULL"
+                                       " GROUP BY number HAVING COUNT(*) > 1 ORDER BY number";
+constexpr char kSelectLargeBranches[] = "SELECT bid FROM branches WHERE number IS NOT NULL"
+                                        " AND bid > 65535 ORDER BY bid";
+constexpr char kSelectTwiceCalendars[] =
+    "SELECT CONCAT(calendarID, ' of master group ', parent) FROM `groups`"
+    " WHERE parent IS NOT NULL GROUP BY parent, calendarID HAVING COUNT(*) > 1"
+    " ORDER BY parent, calendarID";
+constexpr char kSelectTwiceSupervisors[] =
+    "SELECT personalNumber FROM admins WHERE personalNumber > 0"
+    " GROUP BY personalNumber HAVING COUNT(*) > 1 ORDER BY personalNumber";
+/// The plugin knows an active person by the number in pamId, and writes by pid.
+constexpr char kSelectStrangePayrollIds[] =
+    "SELECT CONCAT(pid, ' (', pamId, ')') FROM people WHERE status"
+    " AND pid <> CASE WHEN INSTR(pamId, '.') > 0 THEN CONCAT(SUBSTRING_INDEX(pamId, '.', 1) + 0,"
+    " SUBSTRING_INDEX(SUBSTRING_INDEX(pamId, '.', 2), '.', -1) + 0) ELSE CONCAT(pamId + 0, '0') END"
+    " ORDER BY pid";
+constexpr char kSelectSelectionLength[] =
+    "SELECT COALESCE(SUM(CHAR_LENGTH(pid) + 1), 0) FROM people WHERE status";
+constexpr char kSelectValueLength[] =
+    "SELECT CHARACTER_MAXIMUM_LENGTH FROM information_schema.COLUMNS WHERE TABLE_SCHEMA ="
+    " DATABASE() AND TABLE_NAME = 'vars' AND COLUMN_NAME = 'value'";
+
+constexpr int kMostShown = 10;
+constexpr uint kLargestFund = 65535;
+
+/// The first column of all rows.
+QStringList firstColumn(DbCheck &check, const char *sql)
+{
+    QStringList values;
+    const QVector<QVariantList> rows = check.rows(QLatin1String(sql));
+    for (const QVariantList &row : rows)
+        values += row.value(0).toString();
+    return values;
+}
+
+QString shown(const QStringList &values)
+{
+    QString text = QStringList(values.mid(0, kMostShown)).join(QStringLiteral(", "));
+    if (values.size() > kMostShown)
+        text += QStringLiteral(" and %1 more").arg(values.size() - kMostShown);
+    return text;
+}
+
+void checkVacationFund(DbCheck &check)
+{
+    const QStringList funds = firstColumn(check, kSelectVacationFunds);
+    if (funds.isEmpty()) {
+        check.tell(Severity::Warning, "vacation-fund-none",
+                   QStringLiteral("There is no vacation fund (a row of funds with iid 3 and unit "
+                                  "2): balances of vacation are not brought in step"),
+                   QStringLiteral("Fine when they shall not be."), QStringLiteral("funds"));
+    } else if (funds.size() > 1) {
+        check.tell(Severity::Warning, "vacation-fund-several",
+                   QStringLiteral("There are several vacation funds (iid 3, unit 2): %1. The "
+                                  "plugin takes the first that the server happens to return")
+                       .arg(shown(funds)),
+                   QStringLiteral("Leave one."), QStringLiteral("funds"));
+    } else if (funds.constFirst().toUInt() > kLargestFund) {
+        check.tell(Severity::Error, "vacation-fund-number",
+                   QStringLiteral("The vacation fund has the number %1; the plugin keeps 16 bits "
+                                  "of it and would write to another fund")
+                       .arg(funds.constFirst()),
+                   QStringLiteral("Give the fund a number up to 65535."), QStringLiteral("funds"));
+    }
+}
+
+void checkPayrollExport(DbCheck &check)
+{
+    // As the plugin looks for it.
+    const QStringList exports = TepDbSettings(check.database())
+                                    .variableGetMultiple(QStringLiteral("exportPam.%.active"))
+                                    .keys();
+    if (exports.size() == 1)
+        return;
+    const QString found = exports.isEmpty()
+        ? QStringLiteral("There is no payroll export")
+        : QStringLiteral("There are several payroll exports: ") + shown(exports);
+    check.tell(
+        Severity::Warning, exports.isEmpty() ? "payroll-export-none" : "payroll-export-several",
+        found
+            + QStringLiteral(". The plugin adds new people to one only when there is exactly "
+                             "one key exportPam.N.active in vars, whatever its value"),
+        QStringLiteral("Fine when nobody shall be added."), QStringLiteral("vars"));
+}
+
+/// A rule about rows that must not be; \a message has one place for them.
+void checkNone(DbCheck &check, const char *sql, Severity severity, const char *rule,
+               const char *message, const char *advice, const char *field)
+{
+    const QStringList rows = firstColumn(check, sql);
+    if (rows.isEmpty())
+        return;
+    check.tell(severity, rule, QString::fromLatin1(message).arg(shown(rows)),
+               QString::fromLatin1(advice), QString::fromLatin1(field));
+}
+
+void checkBranches(DbCheck &check)
+{
+    checkNone(check, kSelectTwiceNumbers, Severity::Warning, "branch-number-twice",
+              "Several branches have the same number: %1. People of that cost centre go to any of "
+              "them",
+              "Leave the number to one branch.", "branches.number");
+    checkNone(check, kSelectLargeBranches, Severity::Error, "branch-id-large",
+              "The ids of these branches do not fit 16 bits: %1. Members are added to another "
+              "branch, or to none",
+              "Give the branches ids up to 65535.", "branches.bid");
+    checkNone(check, kSelectTwiceCalendars, Severity::Warning, "calendar-twice",
+              "Several calendar groups stand for the same calendar: %1. People get any of them",
+              "Leave one group to a calendar in each master group.", "groups.calendarID");
+}
+
+void checkPeople(DbCheck &check)
+{
+    checkNone(check, kSelectTwiceSupervisors, Severity::Warning, "supervisor-twice",
+              "Several administrators have the same personal number: %1. Any of them gets the "
+              "requests",
+              "Leave the number to one administrator.", "admins.personalNumber");
+    checkNone(check, kSelectStrangePayrollIds, Severity::Warning, "payroll-id-strange",
+              "Of these active people pid and pamId do not agree: %1. The plugin takes them for "
+              "new people at every start",
+              "pamId is the personal number, a dot and the number of the relationship; pid is the "
+              "two numbers in one.",
+              "people.pamId");
+}
+
+void checkSelectionWidth(DbCheck &check)
+{
+    const qint64 needed = check.row(QLatin1String(kSelectSelectionLength)).value(0).toLongLong();
+    const qint64 width = check.row(QLatin1String(kSelectValueLength)).value(0).toLongLong();
+    if (needed <= width)
+        return;
+    check.tell(Severity::Warning, "selection-width",
+               QStringLiteral("The column vars.value holds %1; the selection of the payroll export "
+                              "would need %2 for everybody who is active")
+                   .arg(PlainText::counted(width, QStringLiteral("character"),
+                                           QStringLiteral("characters")),
+                        QString::number(needed)),
+               QStringLiteral("Make the column a MEDIUMTEXT."), QStringLiteral("vars.value"));
+}
+
+} // namespace
+
+void DbRules::checkContent(DbCheck &check)
+{
+    check.begin("content", "Content");
+    checkVacationFund(check);
+    checkPayrollExport(check);
+    checkSelectionWidth(check);
+    checkBranches(check);
+    checkPeople(check);
+    check.end(QStringLiteral("What stands in the tables raises no doubt."));
+}

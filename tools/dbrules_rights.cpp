@@ -1,0 +1,85 @@
+// The rights of the account: enough, and not far more than enough.
+
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/dbschema.h"
+#include "tools/pluginrights.h"
+
+#include <QStringList>
+
+namespace {
+
+/// Of the current account, which the information schema writes with quotation marks. "USAGE" means
+/// no right at all.
+constexpr char kAccount[] =
+    "GRANTEE = CONCAT('''', SUBSTRING_INDEX(CURRENT_USER(), '@', 1), '''@''',"
+    " SUBSTRING_INDEX(CURRENT_USER(), '@', -1), '''') AND PRIVILEGE_TYPE <> 'USAGE'";
+constexpr char kSelectOnServer[] =
+    "SELECT PRIVILEGE_TYPE FROM information_schema.USER_PRIVILEGES WHERE %1";
+constexpr char kSelectOnDatabases[] = "SELECT PRIVILEGE_TYPE FROM"
+                                      " information_schema.SCHEMA_PRIVILEGES WHERE %1"
+                                      " ORDER BY TABLE_SCHEMA, PRIVILEGE_TYPE";
+
+void checkRight(DbCheck &check, const DbSchema &schema, const char *right, const QString &table,
+                const QStringList &columns)
+{
+    QStringList missing;
+    for (const QString &name : columns) {
+        const DbColumn *const column = schema.column(table, name);
+        if (column != nullptr && !column->rights.contains(QLatin1String(right)))
+            missing += name;
+    }
+    if (missing.isEmpty())
+        return;
+    const QString verb = QString::fromLatin1(right).toUpper();
+    check.breach("right-missing",
+                 QStringLiteral("The account lacks %1 on %2 of the table %3")
+                     .arg(verb, missing.join(QStringLiteral(", ")), table),
+                 QStringLiteral("Load reference-db/grants.sql, with the account's name in it."),
+                 table);
+}
+
+void checkTable(DbCheck &check, const DbSchema &schema, const PluginRights::TableRights &rights)
+{
+    const QString table = QString::fromLatin1(rights.table);
+    checkRight(check, schema, "select", table, PluginRights::names(rights.select));
+    checkRight(check, schema, "insert", table, PluginRights::names(rights.insert));
+    checkRight(check, schema, "update", table, PluginRights::names(rights.update));
+}
+
+QStringList granted(DbCheck &check, const char *sql)
+{
+    QStringList rights;
+    const QVector<QVariantList> rows =
+        check.rows(QString::fromLatin1(sql).arg(QLatin1String(kAccount)));
+    for (const QVariantList &row : rows)
+        rights += row.value(0).toString();
+    rights.removeDuplicates();
+    return rights;
+}
+
+void checkExcess(DbCheck &check, const char *sql, const QString &where)
+{
+    const QStringList rights = granted(check, sql);
+    if (rights.isEmpty())
+        return;
+    check.tell(Severity::Warning, "right-excess",
+               QStringLiteral("The account may do more than the plugin needs, on %1: %2. Texts of "
+                              "the export go into the plugin's statements as they are, so whoever "
+                              "writes the export can do all that the account may do")
+                   .arg(where, rights.join(QStringLiteral(", "))),
+               QStringLiteral("Run the plugin with an account of reference-db/grants.sql; "
+                              "docs/security.md explains."));
+}
+
+} // namespace
+
+void DbRules::checkRights(DbCheck &check, const DbSchema &schema)
+{
+    check.begin("rights", "Rights of the account");
+    for (const PluginRights::TableRights &rights : PluginRights::kTables)
+        checkTable(check, schema, rights);
+    checkExcess(check, kSelectOnServer, QStringLiteral("the whole server"));
+    checkExcess(check, kSelectOnDatabases, QStringLiteral("whole databases"));
+    check.end(QStringLiteral("The account may do what the plugin needs, and hardly more."));
+}
