@@ -27,7 +27,8 @@ QString payrollIdOf(const ExportLine &line)
 
 QString begin(const ExportLine &line)
 {
-    return QString::number(localMidnight(dateOf(line.datumNastupu)));
+    const QDate date = dateOf(line.datumNastupu);
+    return QString::number(localMidnight(date.isValid() ? date : QDate(2000, 1, 1)));
 }
 
 QString update(const ExportLine &line, const Sent::PersonValues &values, const QString &lastCalc,
