@@ -5,8 +5,6 @@
 #include <QTimer>
 #include <QtTest>
 
-#include <limits>
-
 class TestWorkerSetup : public CycleTest {
     Q_OBJECT
 
@@ -22,7 +20,9 @@ private Q_SLOTS:
     void theConnectionIsClonedAndNotYetOpened();
     void anExistingConnectionIsTakenUpAndOpened();
     void aNewDatabaseReachesTheSettingsAndTheBranches();
+    void aNewDatabaseReachesTheCalendarGroupsWithTheNextStart();
     void theConnectionOutlivesTheWorker();
+    void theWorkerLeavesNoHandleOfItsConnectionBehind();
     void startLogsAndStopLogsTheTextOfInit_data();
     void startLogsAndStopLogsTheTextOfInit();
     void stopBeforeStartOnlyLogs();
@@ -34,6 +34,8 @@ private Q_SLOTS:
 private:
     QVector<int> periods() const;
     QVector<bool> activity() const;
+    void moveToOtherDatabase();
+    void leaveOtherDatabase();
 };
 
 /// Of the worker's timers, the oldest first.
@@ -165,42 +167,80 @@ void TestWorkerSetup::anExistingConnectionIsTakenUpAndOpened()
     existing = QSqlDatabase();
 }
 
-void TestWorkerSetup::aNewDatabaseReachesTheSettingsAndTheBranches()
+/// Gives the running worker another database with the same tables, in which branch 120 is
+/// number 77.
+void TestWorkerSetup::moveToOtherDatabase()
 {
-    startWorker();
-    tick();
     m_db.run("CREATE DATABASE other");
     m_db.run("GRANT ALL ON other.* TO '" + m_db.server().userName() + "'@'localhost'");
-    for (const char *table : {"vars", "people", "branches", "funds", "brape", "mastergroups",
-                              "groups", "term", "bradm", "admins_people", "people_pam"})
-        m_db.run(QString("CREATE TABLE other.`%1` LIKE tepdb.`%1`").arg(table));
+    for (const QStringList &table : m_db.rows("SHOW TABLES"))
+        m_db.run(QString("CREATE TABLE other.`%1` LIKE tepdb.`%1`").arg(table.first()));
     m_db.run("INSERT INTO other.vars (name, value) VALUES ('YAV.MHRWorker.forceSync', '1')");
-    m_db.run("INSERT INTO other.branches (bid, number) VALUES (77, 120)");
+    m_db.run("INSERT INTO other.branches (bid, number, mgid) VALUES (77, 120, 5)");
+    m_db.run("INSERT INTO other.mastergroups (mgid) VALUES (5)");
+    m_db.run("INSERT INTO other.`groups` (gid, parent, calendarID) VALUES (88, 5, 3)");
 
     QSqlDatabase other = m_db.pluginConnection();
     other.setDatabaseName("other");
-    m_log->clear();
     m_worker->setTepDb(other);
+}
+
+void TestWorkerSetup::leaveOtherDatabase()
+{
+    m_worker.reset();
+    QSqlDatabase::removeDatabase("YAV.other.MirovaHR");
+    m_db.run("DROP DATABASE other");
+}
+
+void TestWorkerSetup::aNewDatabaseReachesTheSettingsAndTheBranches()
+{
+    startWorker(1);
+    tick();
+    m_log->clear();
+    moveToOtherDatabase();
     QCOMPARE(m_log->lines(), QStringList("D MHRWorker::setTepDb(YAV.other.MirovaHR)"));
 
     m_file->write({ExportLine().with(&ExportLine::kalendar, 0)});
-    const QStringList lines = tick();
-    QVERIFY(lines.contains("D MHRWorker: BEGIN synchronization #2 (force: YES)"));
+    QVERIFY(tick().contains("D MHRWorker: BEGIN synchronization #2 (force: YES)"));
     QCOMPARE(m_db.value("SELECT value FROM other.vars WHERE name = 'YAV.MHRWorker.forceSync'"),
              QVariant("0"));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM other.brape WHERE bid = 77").toInt(), 1);
+    leaveOtherDatabase();
+}
 
-    m_worker.reset();
-    other = QSqlDatabase();
-    QSqlDatabase::removeDatabase("YAV.other.MirovaHR");
-    m_db.run("DROP DATABASE other");
+void TestWorkerSetup::aNewDatabaseReachesTheCalendarGroupsWithTheNextStart()
+{
+    startWorker(1);
+    moveToOtherDatabase();
+    m_file->write({ExportLine().with(&ExportLine::kalendar, 3)});
+    QCOMPARE(tick().filter("into [groups_plan]!").size(), 1);
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM other.groups_plan").toInt(), 0);
+
+    m_worker->start();
+    m_db.run("UPDATE other.vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
+    m_file->write({ExportLine().with(&ExportLine::kalendar, 3)});
+    tick();
+    QCOMPARE(m_db.value("SELECT gid FROM other.groups_plan").toInt(), 88);
+    leaveOtherDatabase();
 }
 
 void TestWorkerSetup::theConnectionOutlivesTheWorker()
 {
     startWorker();
+    tick();
     m_worker.reset();
     QVERIFY(QSqlDatabase::contains("YAV.tepdb.MirovaHR"));
+}
+
+void TestWorkerSetup::theWorkerLeavesNoHandleOfItsConnectionBehind()
+{
+    startWorker();
+    tick();
+    m_worker.reset();
+    m_log->clear();
+    // Qt warns when the connection is in use.
+    QSqlDatabase::removeDatabase("YAV.tepdb.MirovaHR");
+    QCOMPARE(m_log->lines(), QStringList());
 }
 
 void TestWorkerSetup::startLogsAndStopLogsTheTextOfInit_data()

@@ -45,7 +45,9 @@ private Q_SLOTS:
     void initIsTheOnlySlotOfItsOwn();
     void theVersionIsTheSameInEveryState();
     void theVersionInformationIsTheSameInEveryState();
+    void withoutALevelNothingIsLogged();
     void theLevelOfTheStartIsTheWorkersLevel();
+    void theWorkersThreadHasALowPriority();
     void theConfigurationIsReadOnce();
     void destroyingARunningPluginEndsItsThread();
 
@@ -331,6 +333,20 @@ void TestPluginLifecycle::theLevelOfTheStartIsTheWorkersLevel()
     plugin->setDebugLevel(1);
     plugin->stop();
     QCOMPARE(takeLines(), QStringList("D Stop MirovaHR.."));
+}
+
+void TestPluginLifecycle::withoutALevelNothingIsLogged()
+{
+    m_plugin = std::make_unique<LoadedPlugin>();
+    QVERIFY(m_plugin->server()->start());
+    m_plugin->server()->stop();
+    QCOMPARE(takeLines(), QStringList());
+}
+
+void TestPluginLifecycle::theWorkersThreadHasALowPriority()
+{
+    QVERIFY(load(0)->start());
+    QCOMPARE(HostApplication::instance()->worker()->thread()->priority(), QThread::LowPriority);
 }
 
 void TestPluginLifecycle::theConfigurationIsReadOnce()
