@@ -263,6 +263,10 @@ void TestDatabase::stopServer()
 
 void TestDatabase::killServer()
 {
+    // The server writes its log to the file once a second only, unless told otherwise. What the
+    // test did before must not be lost with the process.
+    run("SET GLOBAL innodb_flush_log_at_trx_commit = 1");
+    run("FLUSH ENGINE LOGS");
     closeAdministrator();
     m_server.kill();
 }
