@@ -40,6 +40,20 @@ QString meantKey(const QString &key)
     return found == known.cend() ? QString() : *found;
 }
 
+QString unknownKeyAdvice(const QString &key)
+{
+    if (key.section(QLatin1Char('/'), -1).startsWith(QLatin1Char('#')))
+        return QStringLiteral("Comments begin with a semicolon, not with #.");
+    const QString meant = meantKey(key);
+    if (meant.isEmpty()) {
+        return QStringLiteral("Remove the line, or see the sample MirovaHR.ini for the keys that "
+                              "there are.");
+    }
+    return QStringLiteral("Perhaps %1 is meant: letter case counts, and it stands before the first "
+                          "group.")
+        .arg(meant);
+}
+
 bool isPlainFlag(const QString &text)
 {
     static const QStringList plain{QStringLiteral("true"), QStringLiteral("false"),
@@ -112,30 +126,27 @@ void ConfigCheck::checkKeys()
 {
     QStringList seen;
     for (const IniLine &line : m_lines) {
-        const bool known =
-            line.key.startsWith(QLatin1String("MES/")) || knownKeys().contains(line.key);
-        const QString meant = meantKey(line.key);
-        if (!known) {
-            add(Severity::Error, "unknown-key", line.key,
-                QStringLiteral("The plugin does not know this key; the line has no effect."),
-                meant.isEmpty() ? QStringLiteral("Remove the line, or see the sample "
-                                                 "MirovaHR.ini for the keys that there are.")
-                                : QStringLiteral("Perhaps %1 is meant: letter case counts, and it "
-                                                 "stands before the first group.")
-                                      .arg(meant));
-        }
+        checkLine(line);
         if (seen.contains(line.key)) {
             add(Severity::Warning, "key-twice", line.key,
                 QStringLiteral("The key stands in the file more than once; the last line counts."),
                 QStringLiteral("Leave one of the lines."));
         }
-        if (hasUnquoted(line.value, QLatin1Char(';'))) {
-            add(Severity::Warning, "unquoted-semicolon", line.key,
-                QStringLiteral("The value ends at the semicolon; the rest of the line is a "
-                               "comment."),
-                QStringLiteral("Put the whole value in quotation marks."));
-        }
         seen << line.key;
+    }
+}
+
+void ConfigCheck::checkLine(const IniLine &line)
+{
+    if (!line.key.startsWith(QLatin1String("MES/")) && !knownKeys().contains(line.key)) {
+        add(Severity::Error, "unknown-key", line.key,
+            QStringLiteral("The plugin does not know this key; the line has no effect."),
+            unknownKeyAdvice(line.key));
+    }
+    if (hasUnquoted(line.value, QLatin1Char(';'))) {
+        add(Severity::Warning, "unquoted-semicolon", line.key,
+            QStringLiteral("The value ends at the semicolon; the rest of the line is a comment."),
+            QStringLiteral("Put the whole value in quotation marks."));
     }
 }
 

@@ -32,6 +32,7 @@ public:
 private:
     void checkFile();
     void checkKeys();
+    void checkLine(const IniLine &line);
     void checkNumber(const QString &key);
     void checkFlag(const QString &key);
     void checkText(const QString &key);
@@ -40,6 +41,7 @@ private:
     void checkImportFile();
     void checkImportFolder(const QString &path);
     void checkSyncCommand();
+    void checkSyncCommandRun();
     void checkMessages();
     void checkMessageKey(const QString &key);
     void checkMessageText(const QString &key);

@@ -94,16 +94,8 @@ void ConfigCheck::checkImportFolder(const QString &path)
 
 void ConfigCheck::checkSyncCommand()
 {
+    checkSyncCommandRun();
     const QString key = QStringLiteral("syncCommand");
-    const QString runKey = QStringLiteral("syncCommandRun");
-    const quint32 configured = m_settings->value(runKey, 0).toUInt();
-    if (configured != m_config.syncCommandRun) {
-        add(Severity::Error, "sync-command-run-wraps", runKey,
-            QStringLiteral("Only the low 8 bits of %1 are kept: it counts as %2.")
-                .arg(configured)
-                .arg(m_config.syncCommandRun),
-            QStringLiteral("Write 0 for never, 1 for a forced synchronisation, 2 for every one."));
-    }
     if (m_config.syncCommand.isEmpty()) {
         if (m_config.syncCommandRun != 0) {
             add(Severity::Warning, "sync-command-missing", key,
@@ -125,4 +117,17 @@ void ConfigCheck::checkSyncCommand()
             QStringLiteral("There is no program '%1' that can be run.").arg(program),
             QStringLiteral("Write the program with its full path. No shell reads the line."));
     }
+}
+
+void ConfigCheck::checkSyncCommandRun()
+{
+    const QString key = QStringLiteral("syncCommandRun");
+    const quint32 configured = m_settings->value(key, 0).toUInt();
+    if (configured == m_config.syncCommandRun)
+        return;
+    add(Severity::Error, "sync-command-run-wraps", key,
+        QStringLiteral("Only the low 8 bits of %1 are kept: it counts as %2.")
+            .arg(configured)
+            .arg(m_config.syncCommandRun),
+        QStringLiteral("Write 0 for never, 1 for a forced synchronisation, 2 for every one."));
 }

@@ -17,11 +17,6 @@ QString fullKey(const QString &section, const QString &key)
     return section.isEmpty() ? key : section + QLatin1Char('/') + key;
 }
 
-bool isComment(const QString &line)
-{
-    return line.startsWith(QLatin1Char(';')) || line.startsWith(QLatin1Char('#'));
-}
-
 } // namespace
 
 QVector<IniLine> readIniLines(const QString &path)
@@ -37,7 +32,7 @@ QVector<IniLine> readIniLines(const QString &path)
         const int equals = line.indexOf(QLatin1Char('='));
         if (line.startsWith(QLatin1Char('[')))
             section = sectionName(line);
-        else if (equals > 0 && !isComment(line))
+        else if (equals > 0 && !line.startsWith(QLatin1Char(';')))
             lines.append({number, fullKey(section, line.left(equals).trimmed()),
                           line.mid(equals + 1).trimmed()});
     }

@@ -8,9 +8,8 @@ script=$(basename -- "$0")
 project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-server-core
     mariadb-client-core util-linux)
 
-# What the tests take besides: a browser for the pages, readers for the manual pages and for the
-# shell completion.
-test_packages=(chromium man-db mandoc bash-completion)
+# What the tests take besides: a browser for the pages, readers for the manual pages.
+test_packages=(chromium man-db mandoc)
 
 fail()
 {

@@ -1,6 +1,8 @@
+#include "tests/tools/manual.h"
 #include "tests/tools/toolrun.h"
 
 #include <QFile>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -26,6 +28,7 @@ private Q_SLOTS:
 
     void aRuleTripsOnItsFixtureOnly_data();
     void aRuleTripsOnItsFixtureOnly();
+    void everyRuleOfTheManualHasItsFixtures();
     void aMissingFileIsFoundAndEveryKeyHasItsDefault();
     void aFileThatOthersCanWriteIsFound();
     void theImportFolderIsLookedAt();
@@ -43,6 +46,8 @@ private:
     QString inForce(const ToolRun &run, const QString &key);
 
     QScopedPointer<QTemporaryDir> m_dir;
+    QSet<QString> m_tripped; ///< rules that some fixture tripped
+    QSet<QString> m_passed; ///< rules that some fixture did not trip
 };
 
 void TestCheckConfig::init()
@@ -98,7 +103,9 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
     };
 
     key("a line that is no key", "nonsense", "file-format", QString(""));
+    key("comments and groups only", "; x\n\n[General]\n", "file-format", QString());
     key("a key in another case", "Testmode=1", "unknown-key", "Testmode");
+    key("a remark that is no comment", "# timerInterval=60", "unknown-key", "# timerInterval");
     key("a key in another group", "[plugin]\nsyncCommandRun=0", "unknown-key",
         "plugin/syncCommandRun");
     key("a key that is known", "testMode=false", "unknown-key", QString());
@@ -201,6 +208,7 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly()
     const ToolRun run = check(keys + "\n[MES]\n" + messages + "\n");
 
     const QVector<QJsonObject> found = run.findingsOf(rule);
+    (field.isNull() ? m_passed : m_tripped) << rule;
     if (field.isNull()) {
         QVERIFY2(found.isEmpty(), run.report().constData());
         return;
@@ -212,6 +220,20 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly()
     QVERIFY(!serious || !found[0]["advice"].toString().isEmpty());
     if (serious)
         COMPARE_EXIT(run, ExitStatus::Findings);
+}
+
+void TestCheckConfig::everyRuleOfTheManualHasItsFixtures()
+{
+    // These take more than a text, and have test functions of their own.
+    const QSet<QString> others{"file-missing", "file-world-writable", "import-file-no-file",
+                               "import-file-world-writable"};
+    QVERIFY(!Manual::rules("check-config").isEmpty());
+    for (const QString &rule : Manual::rules("check-config")) {
+        if (!others.contains(rule)) {
+            QVERIFY2(m_tripped.contains(rule), qPrintable(rule));
+            QVERIFY2(m_passed.contains(rule), qPrintable(rule));
+        }
+    }
 }
 
 void TestCheckConfig::aMissingFileIsFoundAndEveryKeyHasItsDefault()

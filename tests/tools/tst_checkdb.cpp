@@ -1,0 +1,738 @@
+#include "tests/support/testdatabase.h"
+#include "tests/tools/toolrun.h"
+#include "tools/columnneeds.h"
+#include "worker/recordcodes.h"
+
+#include <QJsonDocument>
+#include <QtTest>
+
+#include <ctime>
+
+namespace {
+
+const char kZone[] = "Europe/Bratislava";
+
+/// The right to change a routine goes with it.
+QString replaceFunction(const QString &name, const QString &arguments, const QString &body)
+{
+    return QStringLiteral("CREATE OR REPLACE FUNCTION %1(%2) RETURNS BIGINT"
+                          " READS SQL DATA SQL SECURITY INVOKER RETURN %3")
+        .arg(name, arguments, body);
+}
+
+QString replaceProcedure(const QString &arguments, const QString &body)
+{
+    return QStringLiteral("CREATE OR REPLACE PROCEDURE updateTermsSync(%1)"
+                          " MODIFIES SQL DATA SQL SECURITY INVOKER %2")
+        .arg(arguments, body);
+}
+
+} // namespace
+
+/// check-db on databases that are not as they should be, each in one way.
+class TestCheckDb : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void theReferenceDatabaseIsFine();
+    void theReportForPeopleNamesWhatWasLookedAt();
+
+    void whatThePluginReliesOnIsMissed_data();
+    void whatThePluginReliesOnIsMissed();
+    void whatIsDoubtfulIsTold_data();
+    void whatIsDoubtfulIsTold();
+    void aBrokenDatabaseIsReportedInFull();
+
+    void theSiteMayHaveMore_data();
+    void theSiteMayHaveMore();
+    void aBackslashThatIsOneIsNoted();
+
+    void everyTableIsLookedFor_data();
+    void everyTableIsLookedFor();
+    void everyColumnIsLookedFor_data();
+    void everyColumnIsLookedFor();
+    void everyKeyIsLookedFor_data();
+    void everyKeyIsLookedFor();
+    void theLengthsOfTheProgramsOwnTextsAreRight();
+
+    void anotherClockIsTold();
+    void countingFoundRowsIsMissed_data();
+    void countingFoundRowsIsMissed();
+
+    void nothingIsWritten();
+    void aProcedureThatWritesForEverybodyIsStopped();
+
+    void aServerThatIsNotThereIsNoDatabase();
+    void withoutAServerTheUsageIsWrong();
+    void theHelpSaysHowToConnect();
+
+private:
+    QStringList connection();
+    ToolRun check(const QStringList &more = {});
+    void compareOnlyFinding(const ToolRun &run, ExitStatus status);
+
+    TestDatabase m_db;
+};
+
+void TestCheckDb::initTestCase()
+{
+    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+    m_db.grant("grants-repositories.sql"); // so that the account sees every table
+    m_db.run("REVOKE CREATE TEMPORARY TABLES ON * FROM yav@localhost");
+    // What the plugin's account may only insert or update, its own right to see hides nothing.
+    m_db.run("GRANT SELECT ON people TO yav@localhost");
+    m_db.run("GRANT SELECT ON branches TO yav@localhost");
+}
+
+void TestCheckDb::init()
+{
+    m_db.run("SET GLOBAL sql_mode = DEFAULT");
+    m_db.run("SET GLOBAL time_zone = DEFAULT");
+    m_db.run("SET GLOBAL init_connect = ''");
+    m_db.run("SET GLOBAL read_only = 0");
+    m_db.reset();
+}
+
+QStringList TestCheckDb::connection()
+{
+    return {
+        "--socket", m_db.server().socketPath(), "--database",      m_db.server().databaseName(),
+        "--user",   m_db.server().userName(),   "--password-file", m_db.server().passwordFile()};
+}
+
+ToolRun TestCheckDb::check(const QStringList &more)
+{
+    return runTool(QStringList{"check-db", "--json"} + connection() + more);
+}
+
+void TestCheckDb::theReferenceDatabaseIsFine()
+{
+    const ToolRun run = check();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.findings(), QJsonArray());
+    QCOMPARE(run.json().value("verdict").toString(),
+             QString("The database is what the plugin relies on."));
+    const QJsonObject facts = run.json().value("facts").toObject();
+    QCOMPARE(facts.value("server").toString(),
+             QString("MariaDB ") + m_db.value("SELECT VERSION()").toString());
+    QCOMPARE(facts.value("account").toString(), QString("yav@localhost"));
+    QCOMPARE(facts.value("severalStatements").toString(), QString("allowed"));
+    QCOMPARE(facts.value("timeZone").toString(), QString(kZone));
+}
+
+void TestCheckDb::theReportForPeopleNamesWhatWasLookedAt()
+{
+    const ToolRun run = runTool(QStringList{"check-db"} + connection());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QVERIFY2(
+        run.out.startsWith("Database tepdb\n==============\n\nServer\n------\nServer: MariaDB "),
+        run.report().constData());
+    for (const char *line :
+         {"The server and its SQL mode suit the plugin.",
+          "The connection does what the plugin expects of it.",
+          "The server and this program agree about time.",
+          "All tables and columns are there, and new rows can be made.",
+          "The columns hold what the plugin writes.", "people.surname     80          utf8mb4",
+          "The unique keys are as they must be.",
+          "The account may do what the plugin needs, and hardly more.",
+          "The routines do what the plugin relies on.",
+          "What stands in the tables raises no doubt."}) {
+        QVERIFY2(run.out.contains(QString::fromUtf8(line) + '\n'), line);
+    }
+    QVERIFY(run.out.endsWith("\n\nThe database is what the plugin relies on.\n"));
+}
+
+void TestCheckDb::compareOnlyFinding(const ToolRun &run, ExitStatus status)
+{
+    QFETCH(QString, rule);
+    QFETCH(QString, field);
+    QFETCH(QString, message);
+    COMPARE_EXIT(run, status);
+    QVERIFY2(run.rules() == QStringList(rule), run.report().constData());
+    const QJsonObject finding = run.findings().first().toObject();
+    QCOMPARE(finding.value("message").toString(), message);
+    QCOMPARE(finding.value("field").toString(), field);
+}
+
+void TestCheckDb::whatThePluginReliesOnIsMissed_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("grouping by every column")
+        << "SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,ONLY_FULL_GROUP_BY'"
+        << "sql-mode-group-by"
+        << ""
+        << "M";
+    QTest::newRow("empty texts are NULL")
+        << "SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,EMPTY_STRING_IS_NULL'"
+        << "sql-mode-empty-null"
+        << ""
+        << "M";
+    QTest::newRow("a server that takes no writes") << "SET GLOBAL read_only = 1"
+                                                   << "server-read-only"
+                                                   << ""
+                                                   << "M";
+
+    QTest::newRow("no table") << "DROP TABLE mastergroups"
+                              << "table-missing"
+                              << "mastergroups"
+                              << "M";
+    QTest::newRow("no column") << "ALTER TABLE people DROP COLUMN phone"
+                               << "column-missing"
+                               << "people.phone"
+                               << "M";
+    QTest::newRow("a column that must be filled")
+        << "ALTER TABLE people ADD card VARCHAR(20) NOT NULL"
+        << "column-without-default"
+        << "people.card"
+        << "M";
+    QTest::newRow("a column that one of two inserts leaves out")
+        << "ALTER TABLE admins_people MODIFY request TINYINT UNSIGNED NOT NULL"
+        << "column-without-default"
+        << "admins_people.request"
+        << "M";
+    QTest::newRow("new people are inactive") << "ALTER TABLE people ALTER status SET DEFAULT 0"
+                                             << "status-default"
+                                             << "people.status"
+                                             << "M";
+
+    QTest::newRow("a date instead of a number")
+        << "ALTER TABLE term_sync MODIFY created DATETIME NOT NULL"
+        << "column-kind"
+        << "term_sync.created"
+        << "M";
+    QTest::newRow("a number instead of a text") << "ALTER TABLE term_sync MODIFY ref INT NOT NULL"
+                                                << "column-kind"
+                                                << "term_sync.ref"
+                                                << "M";
+    QTest::newRow("an end that must be known")
+        << "ALTER TABLE people MODIFY did INT UNSIGNED NOT NULL DEFAULT 0"
+        << "column-not-null"
+        << "people.did"
+        << "M";
+
+    QTest::newRow("no key") << "ALTER TABLE brape DROP PRIMARY KEY"
+                            << "key-missing"
+                            << "brape"
+                            << "M";
+    QTest::newRow("a key that is not unique") << "ALTER TABLE people DROP KEY pid, ADD KEY (pid)"
+                                              << "key-missing"
+                                              << "people"
+                                              << "M";
+    QTest::newRow("a key on more")
+        << "ALTER TABLE people_pam DROP PRIMARY KEY, ADD PRIMARY KEY (uid, id)"
+        << "key-missing"
+        << "people_pam"
+        << "M";
+    QTest::newRow("numbers that are not automatic")
+        << "ALTER TABLE people MODIFY uid INT UNSIGNED NOT NULL DEFAULT 0"
+        << "not-automatic"
+        << "people.uid"
+        << "M";
+
+    QTest::newRow("no function") << "DROP FUNCTION getCurrentGid"
+                                 << "routine-missing"
+                                 << "getCurrentGid"
+                                 << "M";
+    QTest::newRow("no procedure") << "DROP PROCEDURE updateTermsSync"
+                                  << "routine-missing"
+                                  << "updateTermsSync"
+                                  << "M";
+    QTest::newRow("a function with another argument")
+        << replaceFunction("midnightFromTs", "t BIGINT, u BIGINT", "t") << "routine-arguments"
+        << "midnightFromTs"
+        << "M";
+    QTest::newRow("a procedure with another argument")
+        << replaceProcedure("u INT", "DO 1") << "routine-arguments"
+        << "updateTermsSync"
+        << "M";
+    QTest::newRow("a function that fails")
+        << replaceFunction("monthFromTimestamp", "t BIGINT", "(SELECT nothing FROM nowhere)")
+        << "routine-fails"
+        << "monthFromTimestamp"
+        << "M";
+    QTest::newRow("a procedure that fails")
+        << replaceProcedure("u INT, f INT", "DO (SELECT nothing FROM nowhere)") << "routine-fails"
+        << "updateTermsSync"
+        << "M";
+    QTest::newRow("midnights of another zone")
+        << replaceFunction("midnightFromTs", "t BIGINT", "t - t % 86400") << "routine-wrong"
+        << "midnightFromTs"
+        << "M";
+    QTest::newRow("no midnights") << replaceFunction("midnightFromTs", "t BIGINT", "NULL")
+                                  << "routine-wrong"
+                                  << "midnightFromTs"
+                                  << "M";
+    QTest::newRow("midnights of days of 24 hours")
+        << replaceFunction("midnightFromTs", "t BIGINT", "t - TIME_TO_SEC(TIME(FROM_UNIXTIME(t)))")
+        << "routine-wrong"
+        << "midnightFromTs"
+        << "M";
+    QTest::newRow("months counted from 0") << replaceFunction(
+        "monthFromTimestamp", "t BIGINT", "EXTRACT(YEAR_MONTH FROM FROM_UNIXTIME(t)) - 1")
+                                           << "routine-wrong"
+                                           << "monthFromTimestamp"
+                                           << "M";
+    QTest::newRow("the group of another month")
+        << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
+                           "COALESCE((SELECT gid FROM groups_plan WHERE uid = u"
+                           " ORDER BY since DESC LIMIT 1), d)")
+        << "routine-wrong"
+        << "getCurrentGid"
+        << "M";
+    QTest::newRow("no default group")
+        << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
+                           "(SELECT gid FROM groups_plan WHERE uid = u AND since <= m"
+                           " ORDER BY since DESC LIMIT 1)")
+        << "routine-wrong"
+        << "getCurrentGid"
+        << "M";
+    QTest::newRow("a group for nobody")
+        << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
+                           "COALESCE((SELECT gid FROM groups_plan WHERE uid = u AND since <= m"
+                           " ORDER BY since DESC LIMIT 1), d, 0)")
+        << "routine-wrong"
+        << "getCurrentGid"
+        << "M";
+}
+
+void TestCheckDb::whatThePluginReliesOnIsMissed()
+{
+    QFETCH(QString, change);
+    m_db.run(change);
+    compareOnlyFinding(check(), ExitStatus::ContractBroken);
+}
+
+void TestCheckDb::whatIsDoubtfulIsTold_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("no strict mode") << "SET GLOBAL sql_mode = ''"
+                                    << "sql-mode-not-strict"
+                                    << ""
+                                    << "M";
+    QTest::newRow("another zone") << "SET GLOBAL time_zone = '+05:30'"
+                                  << "time-zone"
+                                  << ""
+                                  << "M";
+    QTest::newRow("a zone without daylight saving") << "SET GLOBAL time_zone = '+01:00'"
+                                                    << "time-zone"
+                                                    << ""
+                                                    << "M";
+
+    QTest::newRow("dates to 2038") << "ALTER TABLE people MODIFY `end` INT NULL"
+                                   << "column-too-narrow"
+                                   << "people.end"
+                                   << "M";
+    QTest::newRow("no negative dates")
+        << "ALTER TABLE people MODIFY lastCalc BIGINT UNSIGNED NOT NULL DEFAULT 0"
+        << "column-too-narrow"
+        << "people.lastCalc"
+        << "M";
+    QTest::newRow("no negative days")
+        << "ALTER TABLE atten MODIFY ok DECIMAL(0) UNSIGNED NOT NULL DEFAULT 1"
+        << "column-too-narrow"
+        << "atten.ok"
+        << "M";
+    QTest::newRow("small moves") << "ALTER TABLE funds_move MODIFY value DECIMAL(7, 2) NOT NULL"
+                                 << "column-too-narrow"
+                                 << "funds_move.value"
+                                 << "M";
+    QTest::newRow("inexact pids") << "ALTER TABLE people MODIFY pid FLOAT NOT NULL"
+                                  << "column-too-narrow"
+                                  << "people.pid"
+                                  << "M";
+    QTest::newRow("fewer ids than people have")
+        << "ALTER TABLE brape MODIFY uid SMALLINT UNSIGNED NOT NULL"
+        << "column-too-narrow"
+        << "brape.uid"
+        << "M";
+    QTest::newRow("short texts")
+        << "ALTER TABLE people MODIFY rsText VARCHAR(29) NOT NULL DEFAULT ''"
+        << "column-too-narrow"
+        << "people.rsText"
+        << "M";
+    QTest::newRow("another character set")
+        << "ALTER TABLE people MODIFY surname VARCHAR(80) CHARACTER SET latin1 NOT NULL DEFAULT ''"
+        << "column-charset"
+        << "people.surname"
+        << "M";
+    QTest::newRow("no transactions") << "ALTER TABLE admins_people ENGINE = Aria TRANSACTIONAL = 0"
+                                     << "not-transactional"
+                                     << "admins_people"
+                                     << "M";
+
+    QTest::newRow("no key of another component") << "ALTER TABLE bas DROP PRIMARY KEY"
+                                                 << "key-missing-elsewhere"
+                                                 << "bas"
+                                                 << "M";
+    QTest::newRow("groups that are there twice")
+        << "ALTER TABLE `groups` MODIFY gid INT UNSIGNED NOT NULL, DROP PRIMARY KEY"
+        << "identity-missing"
+        << "groups"
+        << "M";
+    QTest::newRow("a further key") << "ALTER TABLE brape ADD UNIQUE KEY one_branch (uid, since)"
+                                   << "key-unexpected"
+                                   << "brape"
+                                   << "M";
+
+    QTest::newRow("no vacation fund") << "DELETE FROM funds WHERE iid = 3 AND unit = 2"
+                                      << "vacation-fund-none"
+                                      << "funds"
+                                      << "M";
+    QTest::newRow("two vacation funds") << "INSERT INTO funds (fid, iid, unit) VALUES (9, 3, 2)"
+                                        << "vacation-fund-several"
+                                        << "funds"
+                                        << "M";
+    QTest::newRow("a vacation fund with a large number")
+        << "UPDATE funds SET fid = 65536 WHERE iid = 3 AND unit = 2"
+        << "vacation-fund-number"
+        << "funds"
+        << "M";
+    QTest::newRow("no payroll export") << "DELETE FROM vars WHERE name = 'exportPam.1.active'"
+                                       << "payroll-export-none"
+                                       << "vars"
+                                       << "M";
+    QTest::newRow("two payroll exports")
+        << "INSERT INTO vars (name, value) VALUES ('exportPam.2.active', '0')"
+        << "payroll-export-several"
+        << "vars"
+        << "M";
+    QTest::newRow("a short selection") << "ALTER TABLE vars MODIFY value VARCHAR(41) NULL"
+                                       << "selection-width"
+                                       << "vars.value"
+                                       << "M";
+    QTest::newRow("two branches of a cost centre")
+        << "UPDATE branches SET number = 120 WHERE bid = 3"
+        << "branch-number-twice"
+        << "branches.number"
+        << "M";
+    QTest::newRow("a branch with a large id") << "UPDATE branches SET bid = 70000 WHERE bid = 3"
+                                              << "branch-id-large"
+                                              << "branches.bid"
+                                              << "M";
+    QTest::newRow("two groups of a calendar")
+        << "INSERT INTO `groups` (gid, parent, calendarID) VALUES (14, 1, 2)"
+        << "calendar-twice"
+        << "groups.calendarID"
+        << "M";
+    QTest::newRow("two supervisors of a number")
+        << "UPDATE admins SET personalNumber = 1001 WHERE aid = 4"
+        << "supervisor-twice"
+        << "admins.personalNumber"
+        << "M";
+    QTest::newRow("another payroll id than the pid")
+        << "UPDATE people SET pamId = '1234.2' WHERE pid = 12341"
+        << "payroll-id-strange"
+        << "people.pamId"
+        << "M";
+    QTest::newRow("a payroll id without relationship")
+        << "UPDATE people SET pamId = '12341' WHERE pid = 12341"
+        << "payroll-id-strange"
+        << "people.pamId"
+        << "M";
+}
+
+void TestCheckDb::whatIsDoubtfulIsTold()
+{
+    QFETCH(QString, change);
+    m_db.run(change);
+    compareOnlyFinding(check(), ExitStatus::Findings);
+}
+
+void TestCheckDb::aBrokenDatabaseIsReportedInFull()
+{
+    m_db.run("DROP TABLE groups_plan");
+    m_db.run("ALTER TABLE people MODIFY `end` INT NULL");
+    m_db.run("DELETE FROM vars");
+    const ToolRun run = check();
+    COMPARE_EXIT(run, ExitStatus::ContractBroken);
+    QCOMPARE(run.rules(), QStringList({"column-too-narrow", "routine-fails", "table-missing"}));
+    QCOMPARE(run.json().value("result").toString(), QString("contract-broken"));
+    QCOMPARE(run.json().value("verdict").toString(),
+             QString("The plugin cannot work with this database as it should: 2 things that it"
+                     " relies on are not so."));
+}
+
+void TestCheckDb::theSiteMayHaveMore_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::newRow("a column that takes NULL") << "ALTER TABLE people ADD card VARCHAR(20) NULL";
+    QTest::newRow("a column with a default")
+        << "ALTER TABLE people ADD card VARCHAR(20) NOT NULL DEFAULT ''";
+    QTest::newRow("a computed column")
+        << "ALTER TABLE people ADD label VARCHAR(200) AS (CONCAT(name, surname)) STORED";
+    QTest::newRow("an automatic number")
+        << "ALTER TABLE brape ADD id INT UNSIGNED NOT NULL AUTO_INCREMENT, ADD KEY (id)";
+    QTest::newRow("a column that must be filled, in a table that gets no rows")
+        << "ALTER TABLE branches ADD place VARCHAR(20) NOT NULL";
+    QTest::newRow("a table") << "CREATE TABLE doors (did INT NOT NULL PRIMARY KEY)";
+    QTest::newRow("wider numbers") << "ALTER TABLE brape MODIFY uid BIGINT NOT NULL";
+    QTest::newRow("exact decimal numbers")
+        << "ALTER TABLE people MODIFY pid DECIMAL(10) NOT NULL, MODIFY `end` DECIMAL(12) NULL";
+    QTest::newRow("numbers with exact fractions")
+        << "ALTER TABLE funds_move MODIFY value DECIMAL(12, 2) NOT NULL";
+    QTest::newRow("double precision") << "ALTER TABLE people MODIFY pid DOUBLE NOT NULL";
+    QTest::newRow("longer texts") << "ALTER TABLE people MODIFY surname TEXT NOT NULL DEFAULT ''";
+    QTest::newRow("texts of fixed length")
+        << "ALTER TABLE people MODIFY pamId CHAR(30) NOT NULL DEFAULT ''";
+    QTest::newRow("Unicode without the rarest characters")
+        << "ALTER TABLE people MODIFY name VARCHAR(60) CHARACTER SET utf8mb3 NOT NULL DEFAULT ''";
+    QTest::newRow("a key with its columns in another order")
+        << "ALTER TABLE brape DROP PRIMARY KEY, ADD PRIMARY KEY (uid, bid)";
+    QTest::newRow("a key on the beginning of a text")
+        << "ALTER TABLE vars DROP PRIMARY KEY, ADD UNIQUE KEY (name(100))";
+    QTest::newRow("another key that is not unique") << "ALTER TABLE people ADD KEY (surname)";
+    QTest::newRow("a further unique key where no row is made")
+        << "ALTER TABLE branches ADD UNIQUE KEY (number)";
+    QTest::newRow("a column's name in other letters")
+        << "ALTER TABLE people RENAME COLUMN calendarID TO CALENDARID";
+    QTest::newRow("a routine of somebody else")
+        << "CREATE OR REPLACE DEFINER = root@localhost PROCEDURE updateTermsSync(u INT, f INT)"
+           " UPDATE term SET syn = syn | f WHERE status = 1 AND flags & f AND tid IN (SELECT tid"
+           " FROM people_term WHERE uid = u)";
+    QTest::newRow("a backslash that is one")
+        << "SET GLOBAL sql_mode = 'STRICT_ALL_TABLES,ANSI_QUOTES,PIPES_AS_CONCAT'";
+    QTest::newRow("nobody") << "DELETE FROM people";
+    QTest::newRow("no plans") << "DELETE FROM groups_plan";
+    QTest::newRow("a plan since ever") << "UPDATE groups_plan SET since = 0 WHERE uid = 1";
+    QTest::newRow("several funds of another kind")
+        << "INSERT INTO funds (fid, iid, unit) VALUES (9, 3, 1)";
+    QTest::newRow("a selection as long as it must be")
+        << "ALTER TABLE vars MODIFY value VARCHAR(42) NULL";
+    QTest::newRow("administrators without a number")
+        << "INSERT INTO admins (personalNumber) VALUES (NULL), (0), (0)";
+    QTest::newRow("a branch of no cost centre with a large id")
+        << "UPDATE branches SET bid = 70000 WHERE number IS NULL";
+    QTest::newRow("an inactive person with another payroll id")
+        << "UPDATE people SET pamId = '' WHERE NOT status";
+    QTest::newRow("a person without relationship")
+        << "UPDATE people SET pid = 12340, pamId = '1234' WHERE uid = 4";
+    QTest::newRow("leading zeros")
+        << "UPDATE people SET pid = 12341, pamId = '01234.01' WHERE uid = 4";
+}
+
+void TestCheckDb::theSiteMayHaveMore()
+{
+    QFETCH(QString, change);
+    m_db.run(change);
+    const ToolRun run = check();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.findings(), QJsonArray());
+}
+
+void TestCheckDb::aBackslashThatIsOneIsNoted()
+{
+    m_db.run("SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,NO_BACKSLASH_ESCAPES'");
+    const ToolRun run = check();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.rules(), QStringList("sql-mode-backslash"));
+    QCOMPARE(run.findings().first().toObject().value("message").toString(), QString("M"));
+}
+
+void TestCheckDb::everyTableIsLookedFor_data()
+{
+    QTest::addColumn<QString>("table");
+    const TableRows tables = m_db.rows("SHOW TABLES");
+    QCOMPARE(tables.size(), 24);
+    for (const QStringList &table : tables)
+        QTest::newRow(qPrintable(table.first())) << table.first();
+}
+
+void TestCheckDb::everyTableIsLookedFor()
+{
+    QFETCH(QString, table);
+    m_db.hideTable(table);
+    const ToolRun run = check();
+    m_db.restoreTable(table);
+    const bool ofThePlugin =
+        !QStringList({"sections", "sec_branch", "bas", "inters", "inters_term", "pzt"})
+             .contains(table);
+    COMPARE_EXIT(run, ofThePlugin ? ExitStatus::ContractBroken : ExitStatus::Fine);
+    const QJsonObject finding =
+        run.findingsOf(ofThePlugin ? "table-missing" : "missing-elsewhere").value(0);
+    QVERIFY2(finding.value("message").toString().contains(' ' + table), run.report().constData());
+}
+
+void TestCheckDb::everyColumnIsLookedFor_data()
+{
+    QTest::addColumn<int>("position");
+    for (int position = 1; position <= 24; ++position)
+        QTest::addRow("column %d of every table", position) << position;
+}
+
+void TestCheckDb::everyColumnIsLookedFor()
+{
+    QFETCH(int, position);
+    const TableRows columns = m_db.rows(
+        QStringLiteral("SELECT table_name, column_name FROM information_schema.columns WHERE"
+                       " table_schema = DATABASE() AND ordinal_position = %1")
+            .arg(position));
+    QVERIFY(!columns.isEmpty());
+    for (const QStringList &column : columns) {
+        m_db.run(QStringLiteral("ALTER TABLE `%1` RENAME COLUMN `%2` TO hidden")
+                     .arg(column.at(0), column.at(1)));
+    }
+    const ToolRun run = check();
+    COMPARE_EXIT(run, ExitStatus::ContractBroken);
+    QString missing = run.findingsOf("missing-elsewhere").value(0).value("message").toString();
+    const QVector<QJsonObject> findings = run.findingsOf("column-missing");
+    for (const QJsonObject &finding : findings)
+        missing += ' ' + finding.value("field").toString() + ',';
+    missing.replace('.', ',');
+    for (const QStringList &column : columns) {
+        QVERIFY2(missing.contains(' ' + column.join(',') + ','),
+                 qPrintable(column.join('.') + " in " + missing));
+    }
+}
+
+void TestCheckDb::everyKeyIsLookedFor_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("rule");
+    QTest::newRow("people") << "people"
+                            << "KEY pid"
+                            << "key-missing";
+    for (const char *table : {"people_pam", "brape", "groups_plan", "groups_month", "funds_move",
+                              "admins_people", "people_term", "vars"})
+        QTest::newRow(table) << table << "PRIMARY KEY"
+                             << "key-missing";
+    for (const char *table : {"bradm", "sec_branch", "bas"})
+        QTest::newRow(table) << table << "PRIMARY KEY"
+                             << "key-missing-elsewhere";
+    for (const char *table : {"atten", "inters_term"})
+        QTest::newRow(table) << table << "PRIMARY KEY"
+                             << "identity-missing";
+}
+
+void TestCheckDb::everyKeyIsLookedFor()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, key);
+    QFETCH(QString, rule);
+    m_db.run(QStringLiteral("ALTER TABLE %1 DROP %2").arg(table, key));
+    const ToolRun run = check();
+    QCOMPARE(run.rules(), QStringList(rule));
+    QCOMPARE(run.findings().first().toObject().value("field").toString(), table);
+}
+
+void TestCheckDb::theLengthsOfTheProgramsOwnTextsAreRight()
+{
+    int longest = 0;
+    for (int code = 0; code <= 65535; ++code)
+        longest = qMax(longest, QString::fromUtf8(RecordCodes::builtInRsText(ushort(code))).size());
+    for (const ColumnNeeds::Text &need : ColumnNeeds::kTexts) {
+        if (qstrcmp(need.column, "rsText") == 0)
+            QCOMPARE(need.length, longest);
+    }
+    QCOMPARE(QString("exportPam.4294967295.selPeople").size(), 30);
+}
+
+void TestCheckDb::anotherClockIsTold()
+{
+    m_db.run("SET GLOBAL init_connect = 'SET timestamp = 1700000000'");
+    const ToolRun run = check();
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.rules(), QStringList("clock"));
+    const QString message = run.findings().first().toObject().value("message").toString();
+    QVERIFY2(QRegularExpression("^The server's clock is [0-9]+ seconds behind this machine's$")
+                 .match(message)
+                 .hasMatch(),
+             qPrintable(message));
+}
+
+void TestCheckDb::countingFoundRowsIsMissed_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<bool>("counts");
+    QTest::newRow("bare") << "CLIENT_FOUND_ROWS" << true;
+    QTest::newRow("on") << "CLIENT_FOUND_ROWS=1" << true;
+    QTest::newRow("true, among others") << "CLIENT_COMPRESS=1; CLIENT_FOUND_ROWS = true" << true;
+    QTest::newRow("off") << "CLIENT_FOUND_ROWS=0" << false;
+    QTest::newRow("another option") << "CLIENT_IGNORE_SPACE=1" << false;
+}
+
+void TestCheckDb::countingFoundRowsIsMissed()
+{
+    QFETCH(QString, options);
+    QFETCH(bool, counts);
+    const ToolRun run = check({"--connect-options", options});
+    COMPARE_EXIT(run, counts ? ExitStatus::ContractBroken : ExitStatus::Fine);
+    QCOMPARE(run.rules(), counts ? QStringList("found-rows") : QStringList());
+}
+
+void TestCheckDb::nothingIsWritten()
+{
+    const DatabaseState before = m_db.dumpAll();
+    m_db.clearStatements();
+    COMPARE_EXIT(check(), ExitStatus::Fine);
+    const QStringList statements = m_db.statements();
+    QVERIFY(statements.size() > 10);
+    QCOMPARE(statements.first(), QString("SET SESSION TRANSACTION READ ONLY"));
+    QStringList others;
+    for (const QString &statement : statements.mid(1)) {
+        if (!statement.startsWith("SELECT "))
+            others += statement;
+    }
+    QCOMPARE(others, QStringList("CALL updateTermsSync(0, 2)"));
+    QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
+}
+
+void TestCheckDb::aProcedureThatWritesForEverybodyIsStopped()
+{
+    m_db.run("CREATE OR REPLACE PROCEDURE updateTermsSync(u INT, f INT) BEGIN COMMIT;"
+             " START TRANSACTION; UPDATE term SET syn = syn | f; COMMIT; END");
+    const DatabaseState before = m_db.dumpAll();
+    COMPARE_EXIT(check(), ExitStatus::Fine);
+    QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
+}
+
+void TestCheckDb::aServerThatIsNotThereIsNoDatabase()
+{
+    const ToolRun run =
+        runTool({"check-db", "--socket", "/nowhere/s", "--database", "tepdb", "--user", "yav"});
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QCOMPARE(run.out, QString());
+    QVERIFY2(run.err.startsWith("mirovahrctl: check-db: The database cannot be opened: "),
+             run.report().constData());
+}
+
+void TestCheckDb::withoutAServerTheUsageIsWrong()
+{
+    const ToolRun run = runTool({"check-db"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err,
+             QString("mirovahrctl: check-db: Name the database server with either --host"
+                     " or --socket.\n"));
+}
+
+void TestCheckDb::theHelpSaysHowToConnect()
+{
+    const ToolRun run = runTool({"check-db", "--help"});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QVERIFY2(run.out.startsWith("Usage: mirovahrctl check-db [OPTION...]\n"),
+             run.report().constData());
+    QVERIFY(run.out.contains("Connect as the plugin does"));
+    QVERIFY(run.out.contains("--other-account"));
+}
+
+int main(int argc, char **argv)
+{
+    qputenv("TZ", kZone);
+    tzset();
+    QCoreApplication application(argc, argv);
+    TestCheckDb test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_checkdb.moc"
