@@ -178,13 +178,26 @@ void TestCycle::aCycleGoesOnWhenTheFundCannotBeLookedUp()
 
 void TestCycle::newMembersJoinTheirBranchesInAscendingOrder()
 {
-    m_db.run("DELETE FROM brape");
-    const Trace trace = synchronise({zuzana(), peter(), jana(), maria()});
+    m_db.run("INSERT INTO branches (bid, number) VALUES (500, 801), (7, 802), (65535, 803), "
+             "(40, 804), (1000, 805), (300, 806)");
+    const auto in = [](ExportLine line, int costCentre) {
+        return line.with(&ExportLine::stredisko, costCentre);
+    };
+    const Trace trace =
+        synchronise({in(maria(), 801), in(peter(), 802), in(zuzana(), 803), in(jana(), 804),
+                     in(jan(), 805), in(tomas(), 806), in(newcomer(newPersonalNumber()), 801)});
     QCOMPARE(trace.statements.filter("INSERT INTO brape"),
-             QStringList(
-                 {Sent::joinBranch(1, "4,1"), Sent::joinBranch(2, "2"), Sent::joinBranch(3, "3")}));
-    QCOMPARE(m_db.rows("SELECT bid, uid FROM brape ORDER BY bid, uid"),
-             TableRows({{"1", "1"}, {"1", "4"}, {"2", "2"}, {"3", "3"}}));
+             QStringList({Sent::joinBranch(7, "2"), Sent::joinBranch(40, "4"),
+                          Sent::joinBranch(300, "8"), Sent::joinBranch(500, "1,9"),
+                          Sent::joinBranch(1000, "5"), Sent::joinBranch(65535, "3")}));
+    QCOMPARE(m_db.rows("SELECT bid, uid FROM brape WHERE bid > 4 ORDER BY bid, uid"),
+             TableRows({{"7", "2"},
+                        {"40", "4"},
+                        {"300", "8"},
+                        {"500", "1"},
+                        {"500", "9"},
+                        {"1000", "5"},
+                        {"65535", "3"}}));
 }
 
 void TestCycle::newMembersReachTerminalsAndAdministrators()
