@@ -11,6 +11,7 @@ struct Number {
     double to; ///< the greatest
     const char *meaning; ///< what they are
     bool null = false; ///< also takes NULL
+    bool isTime = false; ///< seconds since 1970
 };
 
 /// A column that takes the ids which another column holds.
@@ -40,34 +41,34 @@ constexpr double kLastMonth = 999912.0;
 // clang-format off
 inline constexpr Number kNumbers[] = {
     {"people", "pid", 0, kUnsigned32, "a personal number and the number of the relationship"},
-    {"people", "begin", 0, kUnsigned32, "the first day of the employment"},
-    {"people", "end", kFirstDay, kLastDay, "the last day of the employment", true},
-    {"people", "created", 0, kLastServerTime, "the time of creation"},
-    {"people", "edited", 0, kLastServerTime, "the time of the last change"},
+    {"people", "begin", 0, kUnsigned32, "the first day of the employment", false, true},
+    {"people", "end", kFirstDay, kLastDay, "the last day of the employment", true, true},
+    {"people", "created", 0, kLastServerTime, "the time of creation", false, true},
+    {"people", "edited", 0, kLastServerTime, "the time of the last change", false, true},
     {"people", "editor", 0, 0, "0"},
-    {"people", "rsBegin", kFirstDay, kLastDay, "the first day of a relationship state", true},
-    {"people", "rsEnd", kFirstDay, kLastDay, "the last day of a relationship state", true},
+    {"people", "rsBegin", kFirstDay, kLastDay, "the first day of a relationship state", true, true},
+    {"people", "rsEnd", kFirstDay, kLastDay, "the last day of a relationship state", true, true},
     {"people", "type", 0, 4, "the employment type"},
     {"people", "did", 0, 1, "the department", true},
     {"people", "calendarID", 0, kUnsigned16, "HR's calendar code"},
     {"people", "bid", 0, kUnsigned16, "the branch", true},
     {"people", "status", 0, 1, "1 for an active person"},
-    {"people", "lastCalc", kFirstDay, kLastDay, "the day from which attendance is calculated again"},
+    {"people", "lastCalc", kFirstDay, kLastDay, "the day from which attendance is calculated again", false, true},
     {"people", "calc", 0, 0, "0"},
     {"people_pam", "id", 0, 2, "the settings of the payroll export"},
-    {"atten", "ok", -1, -1, "-1 for a day that is to be calculated again"},
+    {"atten", "ok", -1, -1, "the mark of a day that is to be calculated again"},
     {"brape", "bid", 0, kUnsigned16, "the branch"},
-    {"brape", "since", 0, kLastServerTime, "the time of joining"},
+    {"brape", "since", 0, kLastServerTime, "the time of joining", false, true},
     {"groups_plan", "since", 0, kLastMonth, "a month such as 202403"},
     {"groups_month", "month", 0, kLastMonth, "a month such as 202403"},
     {"funds_move", "type", 0, 3, "3 for a correction"},
-    {"funds_move", "day", 0, kLastServerTime, "the day of the correction"},
+    {"funds_move", "day", 0, kLastServerTime, "the day of the correction", false, true},
     {"funds_move", "month", 0, kLastMonth, "a month such as 202403"},
     {"funds_move", "value", -2147483648.0, 2147483647.0, "hundredths of a day"},
     {"funds_move", "fid", 0, kUnsigned16, "the vacation fund"},
     {"admins_people", "request", 0, 1, "1 for the administrator who gets the requests"},
     {"term", "syn", 0, 323, "the kinds of data that a terminal has to fetch"},
-    {"term_sync", "created", 0, kLastServerTime, "the time of queueing"},
+    {"term_sync", "created", 0, kLastServerTime, "the time of queueing", false, true},
     {"term_sync", "flags", 0, 256, "the kind of data"},
 };
 
@@ -94,7 +95,7 @@ inline constexpr Text kTexts[] = {
     {"people", "surname", 0},
     {"people", "title2", 0},
     {"people", "phone", 0},
-    {"people", "rsText", 30}, // the longest built-in one
+    {"people", "rsText", 29}, // the longest built-in one
     {"term_sync", "type", 1},
     {"term_sync", "ref", 11}, // people_term
     {"term_sync", "ref_col", 11}, // colorGroups

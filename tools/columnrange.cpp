@@ -18,9 +18,22 @@ constexpr IntegerType kIntegers[] = {
 /// What a type with a fraction holds exactly.
 constexpr IntegerType kFloatingPoint[] = {{"float", 24}, {"double", 53}};
 
-ColumnRange symmetric(double greatest)
+bool isUnsigned(const DbColumn &column)
 {
-    return {-greatest, greatest};
+    return column.fullType.contains(QLatin1String("unsigned"));
+}
+
+ColumnRange symmetric(const DbColumn &column, double greatest)
+{
+    return {isUnsigned(column) ? 0 : -greatest, greatest};
+}
+
+ColumnRange integers(const DbColumn &column, int bits)
+{
+    const double half = std::ldexp(1.0, bits - 1);
+    if (isUnsigned(column))
+        return {0, 2 * half - 1};
+    return {-half, half - 1};
 }
 
 } // namespace
@@ -28,17 +41,14 @@ ColumnRange symmetric(double greatest)
 std::optional<ColumnRange> ColumnRange::of(const DbColumn &column)
 {
     for (const IntegerType &type : kIntegers) {
-        if (column.type != QLatin1String(type.name))
-            continue;
-        if (column.fullType.contains(QLatin1String("unsigned")))
-            return ColumnRange{0, std::ldexp(1.0, type.bits) - 1};
-        return ColumnRange{-std::ldexp(1.0, type.bits - 1), std::ldexp(1.0, type.bits - 1) - 1};
+        if (column.type == QLatin1String(type.name))
+            return integers(column, type.bits);
     }
     for (const IntegerType &type : kFloatingPoint) {
         if (column.type == QLatin1String(type.name))
-            return symmetric(std::ldexp(1.0, type.bits));
+            return symmetric(column, std::ldexp(1.0, type.bits));
     }
     if (column.type == QLatin1String("decimal"))
-        return symmetric(std::pow(10.0, column.wholeDigits) - 1);
+        return symmetric(column, std::pow(10.0, column.wholeDigits) - 1);
     return std::nullopt;
 }

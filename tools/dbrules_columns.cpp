@@ -7,6 +7,9 @@
 #include "tools/dbschema.h"
 #include "tools/reportwriter.h"
 
+#include <QDateTime>
+#include <QStringList>
+
 namespace {
 
 QString fieldName(const char *table, const char *column)
@@ -39,23 +42,57 @@ void wrongKind(DbCheck &check, const QString &field, const DbColumn &column, con
                  QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
 }
 
-void tooNarrow(DbCheck &check, const QString &field, const DbColumn &column, const QString &written)
+void tooNarrow(DbCheck &check, const QString &field, const QString &message)
 {
     check.tell(Severity::Error, "column-too-narrow",
-               QStringLiteral("The column %1 is %2; the plugin writes %3 into it. What does not "
-                              "fit is refused, or changed where no strict SQL mode is on")
-                   .arg(field, column.fullType, written),
+               message
+                   + QStringLiteral(". What does not fit is refused, or changed where no strict "
+                                    "SQL mode is on"),
                QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
 }
 
-void checkRange(DbCheck &check, const QString &field, const DbColumn &column,
-                const ColumnRange &written, const QString &meaning)
+QString narrowNumber(const QString &field, const DbColumn &column, const ColumnRange &written,
+                     const QString &meaning)
+{
+    return QStringLiteral("The column %1 is %2; the plugin writes %3 into it (%4)")
+        .arg(field, column.fullType, shown(written), meaning);
+}
+
+QString day(double seconds)
+{
+    return QDateTime::fromSecsSinceEpoch(qint64(seconds)).date().toString(Qt::ISODate);
+}
+
+/// The times that the column holds, named by the side on which they end too early.
+QString heldTimes(const ColumnRange &held, const ColumnRange &written)
+{
+    const bool startsLate = held.from > written.from;
+    const bool endsEarly = held.to < written.to;
+    if (startsLate && endsEarly)
+        return QStringLiteral("from %1 to %2").arg(day(held.from), day(held.to));
+    return startsLate ? QStringLiteral("from %1 on").arg(day(held.from))
+                      : QStringLiteral("up to %1").arg(day(held.to));
+}
+
+QString narrowTime(const QString &field, const DbColumn &column, const ColumnRange &held,
+                   const ColumnRange &written, const QString &meaning)
+{
+    return QStringLiteral("The column %1 is %2, which holds only times %3; the plugin writes %4 "
+                          "into it")
+        .arg(field, column.fullType, heldTimes(held, written), meaning);
+}
+
+void checkNumbers(DbCheck &check, const QString &field, const DbColumn &column,
+                  const ColumnRange &written, const QString &meaning, bool isTime)
 {
     const auto held = ColumnRange::of(column);
-    if (!held)
+    if (!held) {
         wrongKind(check, field, column, QStringLiteral("numbers"));
-    else if (!held->holds(written))
-        tooNarrow(check, field, column, QStringLiteral("%1 (%2)").arg(shown(written), meaning));
+    } else if (!held->holds(written)) {
+        tooNarrow(check, field,
+                  isTime ? narrowTime(field, column, *held, written, meaning)
+                         : narrowNumber(field, column, written, meaning));
+    }
 }
 
 void checkNull(DbCheck &check, const QString &field, const DbColumn &column)
@@ -75,7 +112,8 @@ void checkNumber(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Numb
     if (column == nullptr)
         return;
     const QString field = fieldName(need.table, need.column);
-    checkRange(check, field, *column, {need.from, need.to}, QString::fromLatin1(need.meaning));
+    checkNumbers(check, field, *column, {need.from, need.to}, QString::fromLatin1(need.meaning),
+                 need.isTime);
     if (need.null)
         checkNull(check, field, *column);
 }
@@ -87,9 +125,9 @@ void checkReference(DbCheck &check, const DbSchema &schema, const ColumnNeeds::R
     if (column == nullptr || owner == nullptr)
         return;
     const ColumnRange ids{0, ColumnRange::of(*owner).value_or(ColumnRange()).to};
-    checkRange(
-        check, fieldName(need.table, need.column), *column, ids,
-        QStringLiteral("the values of %1").arg(fieldName(need.ownerTable, need.ownerColumn)));
+    checkNumbers(check, fieldName(need.table, need.column), *column, ids,
+                 QStringLiteral("what %1 holds").arg(fieldName(need.ownerTable, need.ownerColumn)),
+                 false);
 }
 
 bool isText(const DbColumn &column)
@@ -120,8 +158,13 @@ void checkText(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Text &
         wrongKind(check, field, *column, QStringLiteral("texts"));
         return;
     }
-    if (column->length < need.length)
-        tooNarrow(check, field, *column, QStringLiteral("%1 characters").arg(need.length));
+    if (column->length < need.length) {
+        tooNarrow(
+            check, field,
+            QStringLiteral("The column %1 is %2; the plugin writes up to %3 characters into it")
+                .arg(field, column->fullType)
+                .arg(need.length));
+    }
     checkCharset(check, field, *column);
 }
 

@@ -130,12 +130,13 @@ void checkPeople(DbCheck &check)
               "Several administrators have the same personal number: %1. Any of them gets the "
               "requests",
               "Leave the number to one administrator.", "admins.personalNumber");
-    checkNone(check, kSelectStrangePayrollIds, Severity::Warning, "payroll-id-strange",
-              "Of these active people pid and pamId do not agree: %1. The plugin takes them for "
-              "new people at every start",
-              "pamId is the personal number, a dot and the number of the relationship; pid is the "
-              "two numbers in one.",
-              "people.pamId");
+    checkNone(
+        check, kSelectStrangePayrollIds, Severity::Warning, "payroll-id-strange",
+        "Of these active people pid and pamId do not agree: %1. The plugin looks for a person "
+        "by pamId and writes by pid: it changes nobody, or takes the person for a new one",
+        "pamId is the personal number, a dot and the number of the relationship; pid is the "
+        "two numbers in one.",
+        "people.pamId");
 }
 
 void checkSelectionWidth(DbCheck &check)

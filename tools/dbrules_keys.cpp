@@ -101,18 +101,21 @@ private:
                      QStringLiteral("Remove the double rows and add the key."), m_table);
     }
 
-    bool isInContract(const Columns &columns) const
+    /// Whether the key is one of the contract, or on more columns: then nothing hits it alone.
+    bool isHarmless(const Columns &columns) const
     {
-        return std::any_of(
-            std::begin(m_contract.keys), std::end(m_contract.keys),
-            [&columns](const TepDbContract::UniqueKey &key) { return columnsOf(key) == columns; });
+        return std::any_of(std::begin(m_contract.keys), std::end(m_contract.keys),
+                           [&columns](const TepDbContract::UniqueKey &key) {
+                               return key.use != TepDbContract::KeyUse::None
+                                   && columns.contains(columnsOf(key));
+                           });
     }
 
     void checkFurtherKeys()
     {
         for (const DbKey &key : m_keys) {
             const Columns columns = toSet(key.columns);
-            if (!isInContract(columns))
+            if (!isHarmless(columns))
                 furtherKey(key.name, columns);
         }
     }

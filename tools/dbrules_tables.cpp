@@ -122,7 +122,7 @@ void checkStatusOfNewPeople(DbCheck &check, const DbSchema &schema)
         return;
     check.breach("status-default",
                  QStringLiteral("The default of people.status is not 1: people whom the plugin "
-                                "creates are inactive, and it never sees them again"),
+                                "creates are inactive until their line of the export changes"),
                  QStringLiteral("Make 1 the default of the column."),
                  QStringLiteral("people.status"));
 }

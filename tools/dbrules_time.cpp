@@ -7,26 +7,40 @@
 #include "worker/recordcodes.h"
 
 #include <QDateTime>
+#include <QSet>
 #include <QStringList>
 #include <QTimeZone>
+
+#include <algorithm>
 
 namespace {
 
 constexpr char kSelectZone[] = "SELECT @@SESSION.time_zone, @@system_time_zone, UNIX_TIMESTAMP()";
 
-/// Enough to see every change of a year's daylight saving, in both directions from today.
+/// In both directions from today: a whole year of daylight saving.
 constexpr int kDaysAround = 366;
+/// The server's zone may change its clocks on other days than ours; not for less than a week.
+constexpr int kDaysApart = 7;
 
 /// Seconds. A person's attendance counts as being calculated for 900 seconds, by the plugin's
 /// clock.
 constexpr qint64 kClockTolerance = 60;
 
-QVector<QDate> daysAround(const QDate &today)
+/// Days on which the two could differ, in order.
+QVector<QDate> daysToCompare(const QDate &today)
 {
-    QVector<QDate> days;
-    for (int offset = -kDaysAround; offset <= kDaysAround; ++offset)
+    QSet<QDate> days;
+    for (int offset = -kDaysAround; offset <= kDaysAround; offset += kDaysApart)
         days += today.addDays(offset);
-    return days;
+    const QTimeZone::OffsetDataList changes = QTimeZone::systemTimeZone().transitions(
+        today.addDays(-kDaysAround).startOfDay(), today.addDays(kDaysAround).startOfDay());
+    for (const QTimeZone::OffsetData &change : changes) {
+        const QDate day = change.atUtc.toLocalTime().date();
+        days += {day.addDays(-1), day, day.addDays(1)};
+    }
+    QVector<QDate> sorted(days.cbegin(), days.cend());
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
 }
 
 QString midnightsQuery(const QVector<QDate> &days)
@@ -37,31 +51,28 @@ QString midnightsQuery(const QVector<QDate> &days)
     return QStringLiteral("SELECT ") + columns.join(QLatin1Char(','));
 }
 
-QVector<QDate> daysThatDiffer(DbCheck &check)
+/// Invalid when there is none.
+QDate dayThatDiffers(DbCheck &check)
 {
-    const QVector<QDate> days = daysAround(QDate::currentDate());
+    const QVector<QDate> days = daysToCompare(QDate::currentDate());
     const QVariantList midnights = check.row(midnightsQuery(days));
-    QVector<QDate> differing;
     for (int i = 0; i < midnights.size(); ++i) {
         if (midnights.at(i).toLongLong() != RecordCodes::midnight(days.at(i)))
-            differing += days.at(i);
+            return days.at(i);
     }
-    return differing;
+    return QDate();
 }
 
 void checkMidnights(DbCheck &check, const QString &serverZone, const QString &ownZone)
 {
-    const QVector<QDate> differing = daysThatDiffer(check);
-    if (differing.isEmpty())
+    const QDate day = dayThatDiffers(check);
+    if (!day.isValid())
         return;
     check.tell(Severity::Error, "time-zone",
-               QStringLiteral("The server (time zone %1) and this program (%2) disagree about the "
-                              "midnight of %3 within a year from today, such as %4. Days of "
-                              "attendance and of vacation would be missed, or be there twice")
-                   .arg(serverZone, ownZone,
-                        PlainText::counted(differing.size(), QStringLiteral("day"),
-                                           QStringLiteral("days")),
-                        differing.constFirst().toString(Qt::ISODate)),
+               QStringLiteral("The server (time zone %1) and this program (%2) disagree about when "
+                              "days begin, such as %3. Days of attendance and of vacation would be "
+                              "missed, or be there twice")
+                   .arg(serverZone, ownZone, day.toString(Qt::ISODate)),
                QStringLiteral("Run this check with the TZ of the attendance server. When it still "
                               "complains, give both the same zone, by name: an offset such as "
                               "+01:00 knows no daylight saving."));

@@ -2,34 +2,12 @@
 #include "db/groupsplanrepo.h"
 #include "db/tepdbsettings.h"
 #include "db/termsyncrepository.h"
+#include "tests/support/accountrights.h"
 #include "tests/support/logcapture.h"
 #include "tests/sync/sampleexport.h"
 #include "tests/sync/synctest.h"
 
 namespace {
-
-/// One right of an account, as a GRANT or REVOKE names it.
-struct Right {
-    QString privilege; ///< "SELECT (`uid`)"
-    QString object; ///< "`people`"
-
-    QString text() const { return privilege + " ON " + object; }
-};
-
-const char kAccount[] = "'yav'@'localhost'";
-
-QString quoted(const QString &name)
-{
-    return '`' + name + '`';
-}
-
-QStringList texts(const QVector<Right> &rights)
-{
-    QStringList texts;
-    for (const Right &right : rights)
-        texts += right.text();
-    return texts;
-}
 
 QStringList denials(const QStringList &log)
 {
@@ -106,92 +84,34 @@ private Q_SLOTS:
     void loadingTwiceChangesNothing();
 
 private:
-    QVector<Right> rights();
-    const QVector<Right> &pluginRights();
-    QVector<Right> repositoryRights();
-    QVector<Right> rightsOnTables();
-    QVector<Right> rightsOnRoutines();
-    void addRightRows(const QVector<Right> &rights);
-    void revoke(const Right &right);
-    void give(const Right &right);
+    const QVector<AccountRight> &pluginRights();
+    QVector<AccountRight> repositoryRights();
     QStringList runThePlugin();
 
-    QVector<Right> m_pluginRights;
+    AccountRights m_rights{m_db, "yav"};
+    QVector<AccountRight> m_pluginRights;
 };
 
-QVector<Right> TestGrants::rightsOnTables()
-{
-    QVector<Right> rights;
-    const TableRows rows = m_db.rows(
-        QStringLiteral("SELECT CONCAT(privilege_type, ' (`', column_name, '`)'), table_name"
-                       " FROM information_schema.column_privileges WHERE grantee = \"%1\""
-                       " UNION ALL SELECT privilege_type, table_name"
-                       " FROM information_schema.table_privileges WHERE grantee = \"%1\"")
-            .arg(kAccount));
-    for (const QStringList &row : rows)
-        rights.append({row.at(0), quoted(row.at(1))});
-    const TableRows ofSchema =
-        m_db.rows(QStringLiteral("SELECT privilege_type FROM information_schema.schema_privileges"
-                                 " WHERE grantee = \"%1\"")
-                      .arg(kAccount));
-    for (const QStringList &row : ofSchema)
-        rights.append({row.first(), "*"});
-    return rights;
-}
-
-QVector<Right> TestGrants::rightsOnRoutines()
-{
-    QVector<Right> rights;
-    const TableRows rows = m_db.rows("SELECT proc_priv, routine_type, routine_name"
-                                     " FROM mysql.procs_priv WHERE user = 'yav'");
-    for (const QStringList &row : rows)
-        rights.append({row.at(0), row.at(1) + ' ' + quoted(row.at(2))});
-    return rights;
-}
-
-QVector<Right> TestGrants::rights()
-{
-    return rightsOnTables() + rightsOnRoutines();
-}
-
 /// As long as nothing but grants.sql was loaded.
-const QVector<Right> &TestGrants::pluginRights()
+const QVector<AccountRight> &TestGrants::pluginRights()
 {
     if (m_pluginRights.isEmpty())
-        m_pluginRights = rights();
+        m_pluginRights = m_rights.all();
     return m_pluginRights;
 }
 
 /// What grants-repositories.sql grants on top. It stays granted.
-QVector<Right> TestGrants::repositoryRights()
+QVector<AccountRight> TestGrants::repositoryRights()
 {
-    const QStringList known = texts(pluginRights());
+    const QStringList known = AccountRights::texts(pluginRights());
     m_db.grant("grants-repositories.sql");
-    QVector<Right> further;
-    const QVector<Right> all = rights();
-    for (const Right &right : all) {
+    QVector<AccountRight> further;
+    const QVector<AccountRight> all = m_rights.all();
+    for (const AccountRight &right : all) {
         if (!known.contains(right.text()))
             further.append(right);
     }
     return further;
-}
-
-void TestGrants::addRightRows(const QVector<Right> &rights)
-{
-    QTest::addColumn<QString>("privilege");
-    QTest::addColumn<QString>("object");
-    for (const Right &right : rights)
-        QTest::newRow(qPrintable(right.text())) << right.privilege << right.object;
-}
-
-void TestGrants::revoke(const Right &right)
-{
-    m_db.run(QStringLiteral("REVOKE %1 FROM %2").arg(right.text(), kAccount));
-}
-
-void TestGrants::give(const Right &right)
-{
-    m_db.run(QStringLiteral("GRANT %1 TO %2").arg(right.text(), kAccount));
 }
 
 /// What the log shows of a forced synchronisation in which everything happens that can.
@@ -219,48 +139,49 @@ void TestGrants::theRightsOfThePluginAreEnough()
 
 void TestGrants::thePluginNeedsEveryRightOfItsAccount_data()
 {
-    QVector<Right> needed;
-    for (const Right &right : pluginRights()) {
+    QVector<AccountRight> needed;
+    for (const AccountRight &right : pluginRights()) {
         if (right.text() != "SELECT (`bid`) ON `people`"
             && right.text() != "UPDATE (`status`) ON `people`") {
             needed.append(right);
         }
     }
-    addRightRows(needed);
+    AccountRights::addRows(needed);
 }
 
 void TestGrants::thePluginNeedsEveryRightOfItsAccount()
 {
     QFETCH(QString, privilege);
     QFETCH(QString, object);
-    const Right right{privilege, object};
-    revoke(right);
+    const AccountRight right{privilege, object};
+    m_rights.revoke(right);
     const QStringList log = runThePlugin();
-    give(right);
+    m_rights.grant(right);
     QVERIFY2(!denials(log).isEmpty(), qPrintable(log.join('\n')));
 }
 
 void TestGrants::otherServersWantTwoRightsMore()
 {
     // Should this server begin to ask for them, they belong to the rows of the test above.
-    const QVector<Right> spare{{"SELECT (`bid`)", "`people`"}, {"UPDATE (`status`)", "`people`"}};
-    for (const Right &right : spare) {
-        QVERIFY(texts(pluginRights()).contains(right.text()));
-        revoke(right);
+    const QVector<AccountRight> spare{{"SELECT (`bid`)", "`people`"},
+                                      {"UPDATE (`status`)", "`people`"}};
+    for (const AccountRight &right : spare) {
+        QVERIFY(AccountRights::texts(pluginRights()).contains(right.text()));
+        m_rights.revoke(right);
     }
     const QStringList log = runThePlugin();
-    for (const Right &right : spare)
-        give(right);
+    for (const AccountRight &right : spare)
+        m_rights.grant(right);
     QCOMPARE(denials(log), QStringList());
 }
 
 void TestGrants::thePluginMayNeitherDeleteNorMakeTables()
 {
-    for (const Right &right : pluginRights()) {
+    for (const AccountRight &right : pluginRights()) {
         const QString verb = right.privilege.section(' ', 0, 0);
-        QVERIFY2(QStringList({"SELECT", "INSERT", "UPDATE", "Execute"}).contains(verb),
+        QVERIFY2(QStringList({"SELECT", "INSERT", "UPDATE", "EXECUTE"}).contains(verb),
                  qPrintable(right.text()));
-        QVERIFY2(verb == "Execute" || right.privilege.contains('('), qPrintable(right.text()));
+        QVERIFY2(verb == "EXECUTE" || right.privilege.contains('('), qPrintable(right.text()));
     }
 }
 
@@ -272,17 +193,17 @@ void TestGrants::theRightsForTheRepositoriesAreEnough()
 
 void TestGrants::theRepositoriesNeedEveryFurtherRight_data()
 {
-    addRightRows(repositoryRights());
+    AccountRights::addRows(repositoryRights());
 }
 
 void TestGrants::theRepositoriesNeedEveryFurtherRight()
 {
     QFETCH(QString, privilege);
     QFETCH(QString, object);
-    const Right right{privilege, object};
-    revoke(right);
+    const AccountRight right{privilege, object};
+    m_rights.revoke(right);
     const QStringList log = useTheRepositories(m_db.openPluginConnection());
-    give(right);
+    m_rights.grant(right);
     QVERIFY2(!denials(log).isEmpty(), qPrintable(log.join('\n')));
 }
 
@@ -309,9 +230,9 @@ void TestGrants::aNewAccountIsLocked()
 
 void TestGrants::loadingTwiceChangesNothing()
 {
-    const QStringList before = texts(rights());
+    const QStringList before = AccountRights::texts(m_rights.all());
     m_db.grant("grants.sql");
-    QCOMPARE(texts(rights()), before);
+    QCOMPARE(AccountRights::texts(m_rights.all()), before);
     QVERIFY(m_db.openPluginConnection().isOpen()); // neither locked nor without its password
 }
 

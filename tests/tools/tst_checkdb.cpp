@@ -27,6 +27,14 @@ QString replaceProcedure(const QString &arguments, const QString &body)
         .arg(arguments, body);
 }
 
+/// The message, with what depends on today replaced: the moments with which times are tried.
+QString steady(QString message, const QString &rule, const QString &field)
+{
+    const bool dependsOnToday =
+        rule == "time-zone" || field == "midnightFromTs" || field == "monthFromTimestamp";
+    return dependsOnToday ? message.replace(QRegularExpression("[0-9]{4}[0-9-]*"), "#") : message;
+}
+
 } // namespace
 
 /// check-db on databases that are not as they should be, each in one way.
@@ -80,11 +88,10 @@ private:
 void TestCheckDb::initTestCase()
 {
     QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
-    m_db.grant("grants-repositories.sql"); // so that the account sees every table
-    m_db.run("REVOKE CREATE TEMPORARY TABLES ON * FROM yav@localhost");
-    // What the plugin's account may only insert or update, its own right to see hides nothing.
-    m_db.run("GRANT SELECT ON people TO yav@localhost");
-    m_db.run("GRANT SELECT ON branches TO yav@localhost");
+    // What the account may not see would be hidden from the rules.
+    const TableRows tables = m_db.rows("SHOW TABLES");
+    for (const QStringList &table : tables)
+        m_db.run(QStringLiteral("GRANT SELECT ON `%1` TO yav@localhost").arg(table.first()));
 }
 
 void TestCheckDb::init()
@@ -153,7 +160,7 @@ void TestCheckDb::compareOnlyFinding(const ToolRun &run, ExitStatus status)
     COMPARE_EXIT(run, status);
     QVERIFY2(run.rules() == QStringList(rule), run.report().constData());
     const QJsonObject finding = run.findings().first().toObject();
-    QCOMPARE(finding.value("message").toString(), message);
+    QCOMPARE(steady(finding.value("message").toString(), rule, field), message);
     QCOMPARE(finding.value("field").toString(), field);
 }
 
@@ -168,138 +175,164 @@ void TestCheckDb::whatThePluginReliesOnIsMissed_data()
         << "SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,ONLY_FULL_GROUP_BY'"
         << "sql-mode-group-by"
         << ""
-        << "M";
+        << "The SQL mode ONLY_FULL_GROUP_BY is on: the statements that keep groups_month in step "
+           "and that queue a time zone for the terminals fail";
     QTest::newRow("empty texts are NULL")
         << "SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,EMPTY_STRING_IS_NULL'"
         << "sql-mode-empty-null"
         << ""
-        << "M";
-    QTest::newRow("a server that takes no writes") << "SET GLOBAL read_only = 1"
-                                                   << "server-read-only"
-                                                   << ""
-                                                   << "M";
+        << "The SQL mode EMPTY_STRING_IS_NULL is on: people without a title or telephone cannot be "
+           "written to columns that take no NULL";
+    QTest::newRow("a server that takes no writes")
+        << "SET GLOBAL read_only = 1"
+        << "server-read-only"
+        << ""
+        << "The server is read-only: every write of the plugin fails";
 
-    QTest::newRow("no table") << "DROP TABLE mastergroups"
-                              << "table-missing"
-                              << "mastergroups"
-                              << "M";
-    QTest::newRow("no column") << "ALTER TABLE people DROP COLUMN phone"
-                               << "column-missing"
-                               << "people.phone"
-                               << "M";
+    QTest::newRow("no table")
+        << "DROP TABLE mastergroups"
+        << "table-missing"
+        << "mastergroups"
+        << "There is no table mastergroups, or the account has no right to it";
+    QTest::newRow("no column")
+        << "ALTER TABLE people DROP COLUMN phone"
+        << "column-missing"
+        << "people.phone"
+        << "There is no column people.phone, or the account has no right to it";
     QTest::newRow("a column that must be filled")
         << "ALTER TABLE people ADD card VARCHAR(20) NOT NULL"
         << "column-without-default"
         << "people.card"
-        << "M";
+        << "The column people.card has no default value and takes no NULL: a new row, which the "
+           "plugin makes without it, is refused in strict SQL modes";
     QTest::newRow("a column that one of two inserts leaves out")
         << "ALTER TABLE admins_people MODIFY request TINYINT UNSIGNED NOT NULL"
         << "column-without-default"
         << "admins_people.request"
-        << "M";
-    QTest::newRow("new people are inactive") << "ALTER TABLE people ALTER status SET DEFAULT 0"
-                                             << "status-default"
-                                             << "people.status"
-                                             << "M";
+        << "The column admins_people.request has no default value and takes no NULL: a new row, "
+           "which the plugin makes without it, is refused in strict SQL modes";
+    QTest::newRow("new people are inactive")
+        << "ALTER TABLE people ALTER status SET DEFAULT 0"
+        << "status-default"
+        << "people.status"
+        << "The default of people.status is not 1: people whom the plugin creates are inactive "
+           "until their line of the export changes";
 
     QTest::newRow("a date instead of a number")
         << "ALTER TABLE term_sync MODIFY created DATETIME NOT NULL"
         << "column-kind"
         << "term_sync.created"
-        << "M";
-    QTest::newRow("a number instead of a text") << "ALTER TABLE term_sync MODIFY ref INT NOT NULL"
-                                                << "column-kind"
-                                                << "term_sync.ref"
-                                                << "M";
+        << "The column term_sync.created is datetime; the plugin writes numbers into it";
+    QTest::newRow("a number instead of a text")
+        << "ALTER TABLE term_sync MODIFY ref INT NOT NULL"
+        << "column-kind"
+        << "term_sync.ref"
+        << "The column term_sync.ref is int(11); the plugin writes texts into it";
     QTest::newRow("an end that must be known")
         << "ALTER TABLE people MODIFY did INT UNSIGNED NOT NULL DEFAULT 0"
         << "column-not-null"
         << "people.did"
-        << "M";
+        << "The column people.did takes no NULL, which the plugin writes for what HR leaves open";
 
     QTest::newRow("no key") << "ALTER TABLE brape DROP PRIMARY KEY"
                             << "key-missing"
                             << "brape"
-                            << "M";
-    QTest::newRow("a key that is not unique") << "ALTER TABLE people DROP KEY pid, ADD KEY (pid)"
-                                              << "key-missing"
-                                              << "people"
-                                              << "M";
+                            << "The table brape has no unique key on exactly bid, uid: the plugin "
+                               "makes a second row where it should change the first";
+    QTest::newRow("a key that is not unique")
+        << "ALTER TABLE people DROP KEY pid, ADD KEY (pid)"
+        << "key-missing"
+        << "people"
+        << "The table people has no unique key on exactly pid: the plugin makes a second row where "
+           "it should change the first";
     QTest::newRow("a key on more")
         << "ALTER TABLE people_pam DROP PRIMARY KEY, ADD PRIMARY KEY (uid, id)"
         << "key-missing"
         << "people_pam"
-        << "M";
+        << "The table people_pam has no unique key on exactly uid: the plugin makes a second row "
+           "where it should change the first";
     QTest::newRow("numbers that are not automatic")
         << "ALTER TABLE people MODIFY uid INT UNSIGNED NOT NULL DEFAULT 0"
         << "not-automatic"
         << "people.uid"
-        << "M";
+        << "The column people.uid is not AUTO_INCREMENT: the plugin leaves its value to the server";
 
-    QTest::newRow("no function") << "DROP FUNCTION getCurrentGid"
-                                 << "routine-missing"
-                                 << "getCurrentGid"
-                                 << "M";
-    QTest::newRow("no procedure") << "DROP PROCEDURE updateTermsSync"
-                                  << "routine-missing"
-                                  << "updateTermsSync"
-                                  << "M";
+    QTest::newRow("no function")
+        << "DROP FUNCTION getCurrentGid"
+        << "routine-missing"
+        << "getCurrentGid"
+        << "There is no routine getCurrentGid, or the account may not call it";
+    QTest::newRow("no procedure")
+        << "DROP PROCEDURE updateTermsSync"
+        << "routine-missing"
+        << "updateTermsSync"
+        << "There is no routine updateTermsSync, or the account may not call it";
     QTest::newRow("a function with another argument")
         << replaceFunction("midnightFromTs", "t BIGINT, u BIGINT", "t") << "routine-arguments"
         << "midnightFromTs"
-        << "M";
+        << "The routine midnightFromTs takes another number of arguments than the plugin gives it";
     QTest::newRow("a procedure with another argument")
         << replaceProcedure("u INT", "DO 1") << "routine-arguments"
         << "updateTermsSync"
-        << "M";
+        << "The routine updateTermsSync takes another number of arguments than the plugin gives it";
     QTest::newRow("a function that fails")
         << replaceFunction("monthFromTimestamp", "t BIGINT", "(SELECT nothing FROM nowhere)")
         << "routine-fails"
         << "monthFromTimestamp"
-        << "M";
+        << "The routine monthFromTimestamp fails: SELECT command denied to user 'yav'@'localhost' "
+           "for table `tepdb`.`nowhere`";
     QTest::newRow("a procedure that fails")
         << replaceProcedure("u INT, f INT", "DO (SELECT nothing FROM nowhere)") << "routine-fails"
         << "updateTermsSync"
-        << "M";
+        << "The routine updateTermsSync fails: SELECT command denied to user 'yav'@'localhost' for "
+           "table `tepdb`.`nowhere`";
     QTest::newRow("midnights of another zone")
         << replaceFunction("midnightFromTs", "t BIGINT", "t - t % 86400") << "routine-wrong"
         << "midnightFromTs"
-        << "M";
+        << "The function midnightFromTs does not do what the plugin relies on: midnightFromTs(#) "
+           "gives #, not #";
     QTest::newRow("no midnights") << replaceFunction("midnightFromTs", "t BIGINT", "NULL")
                                   << "routine-wrong"
                                   << "midnightFromTs"
-                                  << "M";
+                                  << "The function midnightFromTs does not do what the plugin "
+                                     "relies on: midnightFromTs(#) gives NULL, not #";
     QTest::newRow("midnights of days of 24 hours")
         << replaceFunction("midnightFromTs", "t BIGINT", "t - TIME_TO_SEC(TIME(FROM_UNIXTIME(t)))")
         << "routine-wrong"
         << "midnightFromTs"
-        << "M";
-    QTest::newRow("months counted from 0") << replaceFunction(
-        "monthFromTimestamp", "t BIGINT", "EXTRACT(YEAR_MONTH FROM FROM_UNIXTIME(t)) - 1")
-                                           << "routine-wrong"
-                                           << "monthFromTimestamp"
-                                           << "M";
+        << "The function midnightFromTs does not do what the plugin relies on: midnightFromTs(#) "
+           "gives #, not #";
+    QTest::newRow("months counted from 0")
+        << replaceFunction("monthFromTimestamp", "t BIGINT",
+                           "EXTRACT(YEAR_MONTH FROM FROM_UNIXTIME(t)) - 1")
+        << "routine-wrong"
+        << "monthFromTimestamp"
+        << "The function monthFromTimestamp does not do what the plugin relies on: "
+           "monthFromTimestamp(#) gives #, not #";
     QTest::newRow("the group of another month")
         << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
                            "COALESCE((SELECT gid FROM groups_plan WHERE uid = u"
                            " ORDER BY since DESC LIMIT 1), d)")
         << "routine-wrong"
         << "getCurrentGid"
-        << "M";
+        << "The function getCurrentGid does not do what the plugin relies on: getCurrentGid(4, "
+           "201904, 7) gives 13, not 11";
     QTest::newRow("no default group")
         << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
                            "(SELECT gid FROM groups_plan WHERE uid = u AND since <= m"
                            " ORDER BY since DESC LIMIT 1)")
         << "routine-wrong"
         << "getCurrentGid"
-        << "M";
+        << "The function getCurrentGid does not do what the plugin relies on: getCurrentGid(0, "
+           "202401, 7) gives NULL, not 7";
     QTest::newRow("a group for nobody")
         << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
                            "COALESCE((SELECT gid FROM groups_plan WHERE uid = u AND since <= m"
                            " ORDER BY since DESC LIMIT 1), d, 0)")
         << "routine-wrong"
         << "getCurrentGid"
-        << "M";
+        << "The function getCurrentGid does not do what the plugin relies on: getCurrentGid(0, "
+           "202401, NULL) gives 0, not NULL";
 }
 
 void TestCheckDb::whatThePluginReliesOnIsMissed()
@@ -316,130 +349,181 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
     QTest::addColumn<QString>("field");
     QTest::addColumn<QString>("message");
 
-    QTest::newRow("no strict mode") << "SET GLOBAL sql_mode = ''"
-                                    << "sql-mode-not-strict"
-                                    << ""
-                                    << "M";
-    QTest::newRow("another zone") << "SET GLOBAL time_zone = '+05:30'"
-                                  << "time-zone"
-                                  << ""
-                                  << "M";
-    QTest::newRow("a zone without daylight saving") << "SET GLOBAL time_zone = '+01:00'"
-                                                    << "time-zone"
-                                                    << ""
-                                                    << "M";
+    QTest::newRow("no strict mode")
+        << "SET GLOBAL sql_mode = ''"
+        << "sql-mode-not-strict"
+        << ""
+        << "No strict SQL mode is on: a text that is longer than its column is cut and a number "
+           "that does not fit is changed, and no log tells";
+    QTest::newRow("another zone")
+        << "SET GLOBAL time_zone = '+05:30'"
+        << "time-zone"
+        << ""
+        << "The server (time zone +05:30) and this program (Europe/Bratislava) disagree about when "
+           "days begin, such as #. Days of attendance and of vacation would be missed, or be there "
+           "twice";
+    QTest::newRow("a zone without daylight saving")
+        << "SET GLOBAL time_zone = '+01:00'"
+        << "time-zone"
+        << ""
+        << "The server (time zone +01:00) and this program (Europe/Bratislava) disagree about when "
+           "days begin, such as #. Days of attendance and of vacation would be missed, or be there "
+           "twice";
 
-    QTest::newRow("dates to 2038") << "ALTER TABLE people MODIFY `end` INT NULL"
-                                   << "column-too-narrow"
-                                   << "people.end"
-                                   << "M";
+    QTest::newRow("dates to 2038")
+        << "ALTER TABLE people MODIFY `end` INT NULL"
+        << "column-too-narrow"
+        << "people.end"
+        << "The column people.end is int(11), which holds only times from 1901-12-13 to "
+           "2038-01-19; the plugin writes the last day of the employment into it. What does not "
+           "fit is refused, or changed where no strict SQL mode is on";
     QTest::newRow("no negative dates")
         << "ALTER TABLE people MODIFY lastCalc BIGINT UNSIGNED NOT NULL DEFAULT 0"
         << "column-too-narrow"
         << "people.lastCalc"
-        << "M";
+        << "The column people.lastCalc is bigint(20) unsigned, which holds only times from "
+           "1970-01-01 on; the plugin writes the day from which attendance is calculated again "
+           "into it. What does not fit is refused, or changed where no strict SQL mode is on";
     QTest::newRow("no negative days")
-        << "ALTER TABLE atten MODIFY ok DECIMAL(0) UNSIGNED NOT NULL DEFAULT 1"
+        << "ALTER TABLE atten MODIFY ok TINYINT UNSIGNED NOT NULL DEFAULT 1"
         << "column-too-narrow"
         << "atten.ok"
-        << "M";
-    QTest::newRow("small moves") << "ALTER TABLE funds_move MODIFY value DECIMAL(7, 2) NOT NULL"
-                                 << "column-too-narrow"
-                                 << "funds_move.value"
-                                 << "M";
-    QTest::newRow("inexact pids") << "ALTER TABLE people MODIFY pid FLOAT NOT NULL"
-                                  << "column-too-narrow"
-                                  << "people.pid"
-                                  << "M";
+        << "The column atten.ok is tinyint(3) unsigned; the plugin writes -1 into it (the mark of "
+           "a day that is to be calculated again). What does not fit is refused, or changed where "
+           "no strict SQL mode is on";
+    QTest::newRow("small moves")
+        << "ALTER TABLE funds_move MODIFY value DECIMAL(7, 2) NOT NULL"
+        << "column-too-narrow"
+        << "funds_move.value"
+        << "The column funds_move.value is decimal(7,2); the plugin writes -2147483648 to "
+           "2147483647 into it (hundredths of a day). What does not fit is refused, or changed "
+           "where no strict SQL mode is on";
+    QTest::newRow("inexact pids")
+        << "ALTER TABLE people MODIFY pid FLOAT NOT NULL"
+        << "column-too-narrow"
+        << "people.pid"
+        << "The column people.pid is float; the plugin writes 0 to 4294967295 into it (a personal "
+           "number and the number of the relationship). What does not fit is refused, or changed "
+           "where no strict SQL mode is on";
     QTest::newRow("fewer ids than people have")
         << "ALTER TABLE brape MODIFY uid SMALLINT UNSIGNED NOT NULL"
         << "column-too-narrow"
         << "brape.uid"
-        << "M";
+        << "The column brape.uid is smallint(5) unsigned; the plugin writes 0 to 4294967295 into "
+           "it (what people.uid holds). What does not fit is refused, or changed where no strict "
+           "SQL mode is on";
     QTest::newRow("short texts")
-        << "ALTER TABLE people MODIFY rsText VARCHAR(29) NOT NULL DEFAULT ''"
+        << "ALTER TABLE people MODIFY rsText VARCHAR(28) NOT NULL DEFAULT ''"
         << "column-too-narrow"
         << "people.rsText"
-        << "M";
+        << "The column people.rsText is varchar(28); the plugin writes up to 29 characters into "
+           "it. What does not fit is refused, or changed where no strict SQL mode is on";
     QTest::newRow("another character set")
-        << "ALTER TABLE people MODIFY surname VARCHAR(80) CHARACTER SET latin1 NOT NULL DEFAULT ''"
+        << "ALTER TABLE people MODIFY surname VARCHAR(80) CHARACTER SET latin2 NOT NULL DEFAULT ''"
         << "column-charset"
         << "people.surname"
-        << "M";
-    QTest::newRow("no transactions") << "ALTER TABLE admins_people ENGINE = Aria TRANSACTIONAL = 0"
-                                     << "not-transactional"
-                                     << "admins_people"
-                                     << "M";
+        << "The column people.surname has the character set latin2: letters that it does not know "
+           "are refused, or stored as question marks where no strict SQL mode is on";
+    QTest::newRow("no transactions")
+        << "ALTER TABLE admins_people ENGINE = Aria TRANSACTIONAL = 0"
+        << "not-transactional"
+        << "admins_people"
+        << "The table admins_people takes no part in transactions: when a supervisor cannot be "
+           "set, the former one has lost the person's requests all the same";
 
-    QTest::newRow("no key of another component") << "ALTER TABLE bas DROP PRIMARY KEY"
-                                                 << "key-missing-elsewhere"
-                                                 << "bas"
-                                                 << "M";
+    QTest::newRow("no key of another component")
+        << "ALTER TABLE bas DROP PRIMARY KEY"
+        << "key-missing-elsewhere"
+        << "bas"
+        << "The table bas has no unique key on exactly attrid, bid, secid: another component of "
+           "the attendance server makes a second row where it should change the first";
     QTest::newRow("groups that are there twice")
         << "ALTER TABLE `groups` MODIFY gid INT UNSIGNED NOT NULL, DROP PRIMARY KEY"
         << "identity-missing"
         << "groups"
-        << "M";
-    QTest::newRow("a further key") << "ALTER TABLE brape ADD UNIQUE KEY one_branch (uid, since)"
-                                   << "key-unexpected"
-                                   << "brape"
-                                   << "M";
+        << "The table groups has no unique key on gid: of two rows with the same value any may be "
+           "taken";
+    QTest::newRow("a further key")
+        << "ALTER TABLE brape ADD UNIQUE KEY one_branch (uid, since)"
+        << "key-unexpected"
+        << "brape"
+        << "The table brape has a unique key one_branch on since, uid: what the plugin writes for "
+           "a new row can hit another row by it and change that one instead";
 
     QTest::newRow("no vacation fund") << "DELETE FROM funds WHERE iid = 3 AND unit = 2"
                                       << "vacation-fund-none"
                                       << "funds"
-                                      << "M";
-    QTest::newRow("two vacation funds") << "INSERT INTO funds (fid, iid, unit) VALUES (9, 3, 2)"
-                                        << "vacation-fund-several"
-                                        << "funds"
-                                        << "M";
+                                      << "There is no vacation fund (a row of funds with iid 3 and "
+                                         "unit 2): balances of vacation are not brought in step";
+    QTest::newRow("two vacation funds")
+        << "INSERT INTO funds (fid, iid, unit) VALUES (9, 3, 2)"
+        << "vacation-fund-several"
+        << "funds"
+        << "There are several vacation funds (iid 3, unit 2): 2, 9. The plugin takes the first "
+           "that the server happens to return";
     QTest::newRow("a vacation fund with a large number")
         << "UPDATE funds SET fid = 65536 WHERE iid = 3 AND unit = 2"
         << "vacation-fund-number"
         << "funds"
-        << "M";
-    QTest::newRow("no payroll export") << "DELETE FROM vars WHERE name = 'exportPam.1.active'"
-                                       << "payroll-export-none"
-                                       << "vars"
-                                       << "M";
+        << "The vacation fund has the number 65536; the plugin keeps 16 bits of it and would write "
+           "to another fund";
+    QTest::newRow("no payroll export")
+        << "DELETE FROM vars WHERE name = 'exportPam.1.active'"
+        << "payroll-export-none"
+        << "vars"
+        << "There is no payroll export. The plugin adds new people to one only when there is "
+           "exactly one key exportPam.N.active in vars, whatever its value";
     QTest::newRow("two payroll exports")
         << "INSERT INTO vars (name, value) VALUES ('exportPam.2.active', '0')"
         << "payroll-export-several"
         << "vars"
-        << "M";
-    QTest::newRow("a short selection") << "ALTER TABLE vars MODIFY value VARCHAR(41) NULL"
-                                       << "selection-width"
-                                       << "vars.value"
-                                       << "M";
+        << "There are several payroll exports: exportPam.1.active, exportPam.2.active. The plugin "
+           "adds new people to one only when there is exactly one key exportPam.N.active in vars, "
+           "whatever its value";
+    QTest::newRow("a short selection")
+        << "ALTER TABLE vars MODIFY value VARCHAR(41) NULL"
+        << "selection-width"
+        << "vars.value"
+        << "The column vars.value holds 41 characters; the selection of the payroll export would "
+           "need 42 for everybody who is active";
     QTest::newRow("two branches of a cost centre")
         << "UPDATE branches SET number = 120 WHERE bid = 3"
         << "branch-number-twice"
         << "branches.number"
-        << "M";
-    QTest::newRow("a branch with a large id") << "UPDATE branches SET bid = 70000 WHERE bid = 3"
-                                              << "branch-id-large"
-                                              << "branches.bid"
-                                              << "M";
+        << "Several branches have the same number: 120. People of that cost centre go to any of "
+           "them";
+    QTest::newRow("a branch with a large id")
+        << "UPDATE branches SET bid = 70000 WHERE bid = 3"
+        << "branch-id-large"
+        << "branches.bid"
+        << "The ids of these branches do not fit 16 bits: 70000. Members are added to another "
+           "branch, or to none";
     QTest::newRow("two groups of a calendar")
         << "INSERT INTO `groups` (gid, parent, calendarID) VALUES (14, 1, 2)"
         << "calendar-twice"
         << "groups.calendarID"
-        << "M";
+        << "Several calendar groups stand for the same calendar: 2 of master group 1. People get "
+           "any of them";
     QTest::newRow("two supervisors of a number")
         << "UPDATE admins SET personalNumber = 1001 WHERE aid = 4"
         << "supervisor-twice"
         << "admins.personalNumber"
-        << "M";
+        << "Several administrators have the same personal number: 1001. Any of them gets the "
+           "requests";
     QTest::newRow("another payroll id than the pid")
         << "UPDATE people SET pamId = '1234.2' WHERE pid = 12341"
         << "payroll-id-strange"
         << "people.pamId"
-        << "M";
+        << "Of these active people pid and pamId do not agree: 12341 (1234.2). The plugin looks "
+           "for a person by pamId and writes by pid: it changes nobody, or takes the person for a "
+           "new one";
     QTest::newRow("a payroll id without relationship")
         << "UPDATE people SET pamId = '12341' WHERE pid = 12341"
         << "payroll-id-strange"
         << "people.pamId"
-        << "M";
+        << "Of these active people pid and pamId do not agree: 12341 (12341). The plugin looks for "
+           "a person by pamId and writes by pid: it changes nobody, or takes the person for a new "
+           "one";
 }
 
 void TestCheckDb::whatIsDoubtfulIsTold()
@@ -536,7 +620,9 @@ void TestCheckDb::aBackslashThatIsOneIsNoted()
     const ToolRun run = check();
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.rules(), QStringList("sql-mode-backslash"));
-    QCOMPARE(run.findings().first().toObject().value("message").toString(), QString("M"));
+    QCOMPARE(run.findings().first().toObject().value("message").toString(),
+             QString("The SQL mode NO_BACKSLASH_ESCAPES is on: a backslash in a text of the export "
+                     "is stored as it is. Without the mode it changes the character after it"));
 }
 
 void TestCheckDb::everyTableIsLookedFor_data()
