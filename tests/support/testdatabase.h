@@ -33,9 +33,9 @@ struct ServerEvent {
 /// reset() or resetEmpty() in init().
 ///
 /// The code under test connects as `yav` (pluginConnection()), with the rights of
-/// reference-db/grants.sql and no others; the test itself looks and changes things as `root` through
-/// run(), value(), rows() and dump(), which statements() leaves out. When the SQL of a test fails,
-/// the test function fails with the database's error at the caller's line.
+/// reference-db/grants.sql and no others; the test itself looks and changes things as `root`
+/// through run(), value(), rows() and dump(), which statements() leaves out. When the SQL of a test
+/// fails, the test function fails with the database's error at the caller's line.
 ///
 /// The server's time zone is the program's (`TZ` at the time of start()).
 class TestDatabase {
