@@ -52,6 +52,16 @@ bool waitUntil(int timeoutMs, const std::function<bool()> &fulfilled)
 
 } // namespace
 
+QStringList linesAt(int debugLevel, const QVector<LogLine> &lines)
+{
+    QStringList texts;
+    for (const LogLine &line : lines) {
+        if (debugLevel >= line.level)
+            texts += line.text;
+    }
+    return texts;
+}
+
 LogCapture::LogCapture()
 {
     const std::lock_guard<std::mutex> lock(g_mutex);

@@ -15,6 +15,15 @@ struct LogMessage {
     Qt::HANDLE threadId = nullptr; ///< of the thread that logged it
 };
 
+/// A line of the log as lines() gives it and the lowest debug level at which it appears.
+struct LogLine {
+    int level;
+    QString text;
+};
+
+/// The lines that appear at a debug level.
+QStringList linesAt(int debugLevel, const QVector<LogLine> &lines);
+
 /// Takes the messages of the Qt log, of all threads, from its construction to its destruction.
 ///
 /// Lines have the form "D text", "I text", "W text" or "C text": debug, info, warning, critical.

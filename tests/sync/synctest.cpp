@@ -1,7 +1,5 @@
 #include "tests/sync/synctest.h"
 
-#include "tests/support/logcapture.h"
-
 #include <QSqlDatabase>
 
 #include <ctime>
@@ -11,16 +9,6 @@ namespace {
 constexpr uint kSamplePids[] = {10011, 10021, 10031, 12341, 12351, 12361, 12371, 20012};
 
 } // namespace
-
-QStringList linesAt(int debugLevel, const QVector<LogLine> &lines)
-{
-    QStringList texts;
-    for (const LogLine &line : lines) {
-        if (debugLevel >= line.level)
-            texts += line.text;
-    }
-    return texts;
-}
 
 void settleProgram()
 {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "tests/support/exportfile.h"
+#include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
+#include "tests/support/trace.h"
 #include "tests/sync/middayzone.h"
 #include "worker/mhrworker.h"
 
@@ -13,21 +15,6 @@
 
 #include <functional>
 #include <memory>
-
-/// What a piece of work left in the log ("D text") and what the server received.
-struct Trace {
-    QStringList log;
-    QStringList statements;
-};
-
-/// A line of the log and the lowest debug level at which it appears.
-struct LogLine {
-    int level;
-    QString text;
-};
-
-/// The lines that appear at a debug level.
-QStringList linesAt(int debugLevel, const QVector<LogLine> &lines);
 
 /// What the test programs of the synchronisation share: a server of their own with the sample data
 /// for every test function, an export file, and a worker that is set up and lives in the test's

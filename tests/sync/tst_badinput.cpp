@@ -1,4 +1,3 @@
-#include "tests/support/logcapture.h"
 #include "tests/sync/sampleexport.h"
 #include "tests/sync/sent.h"
 #include "tests/sync/statechanges.h"

@@ -1,6 +1,5 @@
 #include "tests/worker/workertest.h"
 
-#include "tests/support/logcapture.h"
 #include "tests/support/verifysql.h"
 
 #include <QtTest>
@@ -75,16 +74,6 @@ void WorkerTest::addDebugLevels()
     QTest::addColumn<int>("level");
     for (int level = 0; level <= 4; ++level)
         QTest::addRow("debug level %d", level) << level;
-}
-
-QStringList WorkerTest::linesAt(int level, const QVector<LogLine> &lines)
-{
-    QStringList texts;
-    for (const LogLine &line : lines) {
-        if (level >= line.level)
-            texts += line.text;
-    }
-    return texts;
 }
 
 QString WorkerTest::missingText(const QString &table)

@@ -1,28 +1,17 @@
 #pragma once
 
+#include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
+#include "tests/support/trace.h"
 #include "worker/mhrworker.h"
 #include "worker/mirovaronrecord.h"
 
 #include <QObject>
 #include <QSqlDatabase>
 #include <QStringList>
-#include <QVector>
 
 #include <functional>
 #include <memory>
-
-/// What a piece of work left in the log ("D text") and what the server received.
-struct Trace {
-    QStringList log;
-    QStringList statements;
-};
-
-/// A line of the log and the lowest debug level at which it appears.
-struct LogLine {
-    int level;
-    QString text;
-};
 
 /// What the test programs of the worker's database operations share: a server of their own with
 /// empty tables for every test function, and a worker with its connection open. The worker lives in
@@ -52,7 +41,6 @@ protected:
 
     /// Rows "debug level 0" to "debug level 4" with the column `level`.
     static void addDebugLevels();
-    static QStringList linesAt(int level, const QVector<LogLine> &lines);
 
     /// How the log shows that a statement failed because a table is not there: the code, and the
     /// text.
