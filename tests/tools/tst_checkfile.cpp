@@ -448,10 +448,10 @@ void TestCheckFile::tooManyRepetitionsAreSaidToBeIncomplete()
     QVERIFY(check(people(1000).repeated(2)).findingsOf("repetitions-not-all-found").isEmpty());
 
     // More people than are compared, each twice.
-    const ToolRun run = check(people(200001).repeated(2));
-    COMPARE_EXIT(run, ExitStatus::Findings);
-    QCOMPARE(run.findingsOf("repetitions-not-all-found").size(), 1);
-    QCOMPARE(run.findingsOf("duplicate-relationship").size(), 200000);
+    const ToolRun run = check(people(200001).repeated(2), {});
+    QCOMPARE(run.status, ExitStatus::Findings);
+    QCOMPARE(run.out.count("[repetitions-not-all-found]"), 1);
+    QCOMPARE(run.out.count("[duplicate-relationship]"), 200000);
 }
 
 void TestCheckFile::everyLineOfALargeExportIsChecked()
