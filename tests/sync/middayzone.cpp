@@ -7,14 +7,14 @@
 
 namespace {
 
-/// Hours east of Greenwich.
+/// Hours east of Greenwich, not many more than real zones have: servers count on that.
 int middayOffset(const QDateTime &utc)
 {
     const int hour = utc.time().hour();
     if (utc.date().day() != 1)
         return 12 - hour;
-    // On the first of a month: the small hours of the second, or late on the last of the month.
-    return hour == 0 ? -3 : 25 - hour;
+    // On the first of a month: late on the day before, or early on the day after.
+    return hour < 12 ? -3 - hour : 25 - hour;
 }
 
 } // namespace
