@@ -32,6 +32,7 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> readWidths();
+    bool isExport(const QString &path) const;
     void check(ExportCheck &check);
     void report(const CheckedLine &line);
     void report(const Finding &finding);
@@ -112,6 +113,11 @@ std::optional<ExitStatus> CheckFileRun::prepare()
                     QStringLiteral("'%1' cannot be opened: %2")
                         .arg(m_file.fileName(), m_file.errorString()));
     }
+    if (isExport(m_rejects.path()) || isExport(m_line.pagePath())) {
+        return fail(ExitStatus::Usage,
+                    QStringLiteral("The result would be written over the export; name another "
+                                   "file"));
+    }
     if (m_wantsRejects && !m_rejects.open()) {
         return fail(ExitStatus::Usage,
                     QStringLiteral("'%1' cannot be written: %2")
@@ -120,6 +126,11 @@ std::optional<ExitStatus> CheckFileRun::prepare()
     if (const auto end = readWidths())
         return end;
     return m_report.open();
+}
+
+bool CheckFileRun::isExport(const QString &path) const
+{
+    return !path.isEmpty() && QFileInfo(path) == QFileInfo(m_file.fileName());
 }
 
 std::optional<ExitStatus> CheckFileRun::readWidths()

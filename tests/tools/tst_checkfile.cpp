@@ -63,6 +63,8 @@ private Q_SLOTS:
     void badUsageIsRefused();
     void whatCannotBeWrittenIsBadUsage_data();
     void whatCannotBeWrittenIsBadUsage();
+    void theExportIsNotWrittenOver_data();
+    void theExportIsNotWrittenOver();
     void anUnreadableFileIsBadUsage();
     void progressIsShownOnATerminalOnly();
 
@@ -579,6 +581,29 @@ void TestCheckFile::whatCannotBeWrittenIsBadUsage()
     COMPARE_EXIT(run, ExitStatus::Usage);
     QVERIFY2(run.err.contains("'/nowhere/x' cannot be written: "), run.report().constData());
     QCOMPARE(run.out, QString());
+}
+
+void TestCheckFile::theExportIsNotWrittenOver_data()
+{
+    whatCannotBeWrittenIsBadUsage_data();
+}
+
+void TestCheckFile::theExportIsNotWrittenOver()
+{
+    QFETCH(QString, option);
+    m_export->writeBytes(good());
+    const QString link = m_dir->filePath("link");
+    QVERIFY(QFile::link(m_export->path(), link));
+    for (const QString &path : {m_export->path(), link}) {
+        const ToolRun run = runTool({"check-file", m_export->path(), option, path});
+        COMPARE_EXIT(run, ExitStatus::Usage);
+        QCOMPARE(run.err,
+                 QString("mirovahrctl: check-file: The result would be written over the "
+                         "export; name another file.\n"));
+    }
+    QFile file(m_export->path());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), good());
 }
 
 void TestCheckFile::anUnreadableFileIsBadUsage()
