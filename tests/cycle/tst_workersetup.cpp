@@ -1,9 +1,21 @@
+#include "db/branchesrepository.h"
+#include "db/groupsplanrepo.h"
 #include "tests/cycle/cycletest.h"
 
 #include <QMetaEnum>
 #include <QMetaMethod>
 #include <QTimer>
 #include <QtTest>
+
+namespace {
+
+/// Somebody of their own: the uid of a pid is remembered by the process, whatever the database.
+ExportLine person(int calendar)
+{
+    return ExportLine().with(&ExportLine::osobniCislo, 4321).with(&ExportLine::kalendar, calendar);
+}
+
+} // namespace
 
 class TestWorkerSetup : public CycleTest {
     Q_OBJECT
@@ -28,6 +40,9 @@ private Q_SLOTS:
     void stopBeforeStartOnlyLogs();
     void everyStartSetsUpOneMoreTimer();
     void initCreatesEverythingAndSucceeds();
+    void theRepositoriesLogAtTheLevelOfTheWorker();
+    void anAssignmentToAGroupUpdatesTheGroupsOfTheMonths();
+    void onlyAdditionsToABranchPropagate();
     void processErrorsHaveNames_data();
     void processErrorsHaveNames();
 
@@ -161,7 +176,11 @@ void TestWorkerSetup::anExistingConnectionIsTakenUpAndOpened()
     MHRWorker &worker = makeWorker();
     QVERIFY(existing.isOpen());
     worker.start();
+    m_db.clearStatements();
     tick();
+    // On the connection as it was, which is then closed.
+    for (const ServerEvent &event : m_db.events())
+        QVERIFY(event.command != "Connect");
     QVERIFY(m_log->contains("D MHRWorker: BEGIN synchronization #1 (force: NO)"));
     QVERIFY(!existing.isOpen());
     existing = QSqlDatabase();
@@ -200,7 +219,7 @@ void TestWorkerSetup::aNewDatabaseReachesTheSettingsAndTheBranches()
     moveToOtherDatabase();
     QCOMPARE(m_log->lines(), QStringList("D MHRWorker::setTepDb(YAV.other.MirovaHR)"));
 
-    m_file->write({ExportLine().with(&ExportLine::kalendar, 0)});
+    m_file->write({person(0)});
     QVERIFY(tick().contains("D MHRWorker: BEGIN synchronization #2 (force: YES)"));
     QCOMPARE(m_db.value("SELECT value FROM other.vars WHERE name = 'YAV.MHRWorker.forceSync'"),
              QVariant("0"));
@@ -212,13 +231,13 @@ void TestWorkerSetup::aNewDatabaseReachesTheCalendarGroupsWithTheNextStart()
 {
     startWorker(1);
     moveToOtherDatabase();
-    m_file->write({ExportLine().with(&ExportLine::kalendar, 3)});
+    m_file->write({person(3)});
     QCOMPARE(tick().filter("into [groups_plan]!").size(), 1);
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM other.groups_plan").toInt(), 0);
 
     m_worker->start();
     m_db.run("UPDATE other.vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
-    m_file->write({ExportLine().with(&ExportLine::kalendar, 3)});
+    m_file->write({person(3)});
     tick();
     QCOMPARE(m_db.value("SELECT gid FROM other.groups_plan").toInt(), 88);
     leaveOtherDatabase();
@@ -311,6 +330,34 @@ void TestWorkerSetup::initCreatesEverythingAndSucceeds()
     for (const QObject *child : worker.children())
         children += child->metaObject()->className();
     QCOMPARE(children, QStringList({"QTimer", "BranchesRepository", "GroupsPlanRepo"}));
+}
+
+void TestWorkerSetup::theRepositoriesLogAtTheLevelOfTheWorker()
+{
+    startWorker(7);
+    QCOMPARE(int(m_worker->findChild<BranchesRepository *>()->debugLevel), 7);
+    QCOMPARE(int(m_worker->findChild<GroupsPlanRepo *>()->debugLevel), 7);
+}
+
+void TestWorkerSetup::anAssignmentToAGroupUpdatesTheGroupsOfTheMonths()
+{
+    startWorker(2);
+    m_file->write({ExportLine().with(&ExportLine::kalendarPlatnostOd, QDate(2024, 3, 1))});
+    QVERIFY(tick().contains("D GroupsPlanRepo::updateGroupsMonth(4, 202403)"));
+}
+
+void TestWorkerSetup::onlyAdditionsToABranchPropagate()
+{
+    startWorker();
+    auto *const branches = m_worker->findChild<BranchesRepository *>();
+    QVERIFY(m_worker->dbCheckOpen());
+    m_log->clear();
+    Q_EMIT branches->sigDeletedPeopleFromBranch(1, "6");
+    QCOMPARE(m_log->lines(), QStringList());
+    QCOMPARE(m_db.statements(), QStringList());
+    Q_EMIT branches->sigAddedPeopleToBranch(1, "6");
+    QVERIFY(m_log->contains("I BranchesRepository::slotAddedPeopleToBranch(1, '6')"));
+    m_worker->dbClose();
 }
 
 void TestWorkerSetup::processErrorsHaveNames_data()
