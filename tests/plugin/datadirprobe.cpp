@@ -2,7 +2,7 @@
 //
 // Calls one operation of the helper for an application of that name, as somebody without rights:
 // when it runs as root it becomes nobody first, unless MIROVAHR_KEEP_RIGHTS is set. Prints what the
-// operation logs and then its result.
+// operation logs, its result, and the two members after it.
 
 #include "plugin/datadirhelper.h"
 
@@ -49,6 +49,7 @@ int main(int argc, char *argv[])
         result = DataDirHelper::getLogsDir(QString());
     else
         DataDirHelper::validateDir(arguments.at(3));
-    std::printf("= %s\n", qUtf8Printable(result));
+    std::printf("= %s\ndataDir %s\nlogsDir %s\n", qUtf8Printable(result),
+                qUtf8Printable(DataDirHelper::dataDir), qUtf8Printable(DataDirHelper::logsDir));
     return EXIT_SUCCESS;
 }

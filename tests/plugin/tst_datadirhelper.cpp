@@ -155,7 +155,8 @@ void TestDataDirHelper::withValidationTheDataFolderIsMade()
 void TestDataDirHelper::theLogsFolderIsMadeAndReturned()
 {
     QCOMPARE(probeWithOwnLogs("AttendanceServer", "/var/log/attendanceserver"),
-             QStringList({"= /var/log/attendanceserver", "directory"}));
+             QStringList({"= /var/log/attendanceserver", "dataDir data",
+                          "logsDir /var/log/attendanceserver", "directory"}));
 }
 
 void TestDataDirHelper::withoutRightsTheLogsFolderIsStillReturned()
@@ -163,7 +164,8 @@ void TestDataDirHelper::withoutRightsTheLogsFolderIsStillReturned()
     QCOMPARE(probe({"AttendanceServer", "logs"}),
              QStringList({"C Directory '/var/log/attendanceserver' is not created!",
                           "C Directory '/var/log/attendanceserver' is not writable!",
-                          "= /var/log/attendanceserver"}));
+                          "= /var/log/attendanceserver", "dataDir data",
+                          "logsDir /var/log/attendanceserver"}));
 }
 
 void TestDataDirHelper::withoutRightsTheDataFolderIsStillReturned()
@@ -174,7 +176,8 @@ void TestDataDirHelper::withoutRightsTheDataFolderIsStillReturned()
     setMode("/etc", 0755);
     QCOMPARE(lines,
              QStringList({"C Directory '/etc/foreign' is not created!",
-                          "C Directory '/etc/foreign' is not writable!", "= /etc/foreign"}));
+                          "C Directory '/etc/foreign' is not writable!", "= /etc/foreign",
+                          "dataDir /etc/foreign", "logsDir logs"}));
 }
 
 void TestDataDirHelper::aFolderIsMadeWithItsParents()
@@ -200,7 +203,8 @@ void TestDataDirHelper::aFolderWithoutTheRightToWriteIsReported()
     QVERIFY(QDir().mkdir(folder));
     setMode(folder, 0555);
     QCOMPARE(probe({"Server", "validate", folder}),
-             QStringList({"C Directory '" + folder + "' is not writable!", "= "}));
+             QStringList({"C Directory '" + folder + "' is not writable!", "= ", "dataDir data",
+                          "logsDir logs"}));
 }
 
 void TestDataDirHelper::aFolderThatCannotBeMadeIsReportedTwice()
@@ -209,7 +213,8 @@ void TestDataDirHelper::aFolderThatCannotBeMadeIsReportedTwice()
     const QString folder = m_dir->filePath("a/b");
     QCOMPARE(probe({"Server", "validate", folder}),
              QStringList({"C Directory '" + folder + "' is not created!",
-                          "C Directory '" + folder + "' is not writable!", "= "}));
+                          "C Directory '" + folder + "' is not writable!", "= ", "dataDir data",
+                          "logsDir logs"}));
     QVERIFY(!QFile::exists(m_dir->filePath("a")));
 }
 
