@@ -52,6 +52,7 @@ private Q_SLOTS:
     void anUncalculatedPersonIsCorrectedOnceCalculated();
     void asLongAsItIsNotCalculatedNothingIsLoaded();
     void aCorrectedPersonIsLookedAtAgainOnTheNextDay();
+    void aFundThatIsGoneLeavesTheFlagsAsTheyWere_data();
     void aFundThatIsGoneLeavesTheFlagsAsTheyWere();
 
     void aBalanceThatCannotBeLoadedIsReported_data() { addDebugLevels(); }
@@ -262,15 +263,30 @@ void TestBalance::aCorrectedPersonIsLookedAtAgainOnTheNextDay()
     QCOMPARE(synchronise().statements, Sent::begin() << Sent::fundChecks(20012, 8));
 }
 
+void TestBalance::aFundThatIsGoneLeavesTheFlagsAsTheyWere_data()
+{
+    QTest::addColumn<int>("ok");
+    QTest::addColumn<bool>("corrected");
+    QTest::newRow("set") << -1 << true;
+    QTest::newRow("not set") << 1 << false;
+}
+
 void TestBalance::aFundThatIsGoneLeavesTheFlagsAsTheyWere()
 {
-    m_db.run("INSERT INTO atten (uid, `date`, ok) VALUES (8, UNIX_TIMESTAMP('2025-03-03'), -1)");
+    QFETCH(int, ok);
+    QFETCH(bool, corrected);
+    m_db.run(QString("INSERT INTO atten (uid, `date`, ok) "
+                     "VALUES (8, UNIX_TIMESTAMP('2025-03-03'), %1)")
+                 .arg(ok));
+    m_db.run("INSERT INTO funds_move (type, day, month, value, fid, uid) "
+             "VALUES (1, UNIX_TIMESTAMP('2025-01-01'), 202501, 500, 2, 8)");
     synchronise({tomasWith("5")});
     m_db.run("UPDATE atten SET ok = 1");
     m_db.run("UPDATE funds SET fid = 65536 WHERE fid = 2"); // 0 in 16 bits: no fund
     QCOMPARE(synchronise().statements, Sent::begin());
     m_db.run("UPDATE funds SET fid = 2 WHERE fid = 65536");
-    QVERIFY(synchronise().statements.contains(Sent::correction(8, 500)));
+    m_db.run("UPDATE funds_move SET value = 400 WHERE uid = 8");
+    QCOMPARE(synchronise().statements.contains(Sent::correction(8, 100)), corrected);
 }
 
 void TestBalance::aBalanceThatCannotBeLoadedIsReported()
