@@ -76,7 +76,7 @@ void DbCheck::tell(Severity severity, const char *rule, const QString &message,
     Finding finding;
     finding.severity = severity;
     finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
+    finding.message = message + QLatin1Char('.');
     finding.advice = advice;
     finding.field = field;
     m_report.finding(finding);

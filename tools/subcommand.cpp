@@ -4,6 +4,8 @@
 #include "tools/checkdb.h"
 #include "tools/checkfile.h"
 #include "tools/console.h"
+#include "tools/force.h"
+#include "tools/status.h"
 
 #include <algorithm>
 
@@ -42,6 +44,8 @@ const QVector<Subcommand> &subcommands()
          runCheckConfig},
         {"check-file", "What the plugin would drop or misread of an HR export", runCheckFile},
         {"check-db", "Whether the attendance database is what the plugin relies on", runCheckDb},
+        {"force", "Makes the plugin synchronise everybody at its next tick", runForce},
+        {"status", "What is known of the plugin's work, for people and for monitoring", runStatus},
     };
     return all;
 }

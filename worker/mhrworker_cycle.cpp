@@ -8,12 +8,6 @@
 #include <QDebug>
 #include <QVariant>
 
-namespace {
-
-const QLatin1String kForceSyncKey("YAV.MHRWorker.forceSync");
-
-} // namespace
-
 void MHRWorker::checkSync()
 {
     ++m_tickCounter;
@@ -31,7 +25,7 @@ void MHRWorker::checkSync()
     }
 
     m_syncInProgress = true;
-    m_force = m_settings->variableGet(kForceSyncKey, QVariant()).toBool();
+    m_force = m_settings->variableGet(Schedule::kForceSyncKey, QVariant()).toBool();
     if (isSyncDue())
         synchronise();
     dbClose();
@@ -62,7 +56,7 @@ void MHRWorker::synchronise()
                m_waiting.size());
     }
     if (m_force)
-        m_settings->variableSet(kForceSyncKey, QVariant(0));
+        m_settings->variableSet(Schedule::kForceSyncKey, QVariant(0));
 }
 
 void MHRWorker::reconcileRecords()

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QLatin1String>
 #include <QtGlobal>
 
-/// What the configured periods come to. Pure functions.
+/// When the plugin ticks and synchronises: what the configured periods come to, in pure functions.
 namespace Schedule {
+
+/// The key in `vars` that makes the next tick synchronise, everybody and at once.
+constexpr QLatin1String kForceSyncKey{"YAV.MHRWorker.forceSync"};
 
 /// The tick period in milliseconds for a configured one: not below a second.
 quint32 tickPeriod(quint32 configured);

@@ -160,7 +160,7 @@ void TestCheckDb::compareOnlyFinding(const ToolRun &run, ExitStatus status)
     COMPARE_EXIT(run, status);
     QVERIFY2(run.rules() == QStringList(rule), run.report().constData());
     const QJsonObject finding = run.findings().first().toObject();
-    QCOMPARE(steady(finding.value("message").toString(), rule, field), message);
+    QCOMPARE(steady(finding.value("message").toString(), rule, field), message + '.');
     QCOMPARE(finding.value("field").toString(), field);
 }
 
@@ -622,7 +622,7 @@ void TestCheckDb::aBackslashThatIsOneIsNoted()
     QCOMPARE(run.rules(), QStringList("sql-mode-backslash"));
     QCOMPARE(run.findings().first().toObject().value("message").toString(),
              QString("The SQL mode NO_BACKSLASH_ESCAPES is on: a backslash in a text of the export "
-                     "is stored as it is. Without the mode it changes the character after it"));
+                     "is stored as it is. Without the mode it changes the character after it."));
 }
 
 void TestCheckDb::everyTableIsLookedFor_data()
@@ -731,7 +731,7 @@ void TestCheckDb::anotherClockIsTold()
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(run.rules(), QStringList("clock"));
     const QString message = run.findings().first().toObject().value("message").toString();
-    QVERIFY2(QRegularExpression("^The server's clock is [0-9]+ seconds behind this machine's$")
+    QVERIFY2(QRegularExpression("^The server's clock is [0-9]+ seconds behind this machine's\\.$")
                  .match(message)
                  .hasMatch(),
              qPrintable(message));

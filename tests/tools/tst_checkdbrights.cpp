@@ -94,7 +94,7 @@ void TestCheckDbRights::theAccountOfThePluginIsFine()
                      "branches.wh5e, branches.wh6b, branches.wh6e, branches.wh7b, branches.wh7e, "
                      "sections, sec_branch, bas, term_sync.ref_col2, term_sync.ref_id2, inters, "
                      "inters_term, pzt. The plugin does not use them; other components of the "
-                     "attendance server may"));
+                     "attendance server may."));
 }
 
 void TestCheckDbRights::everyRightThatThePluginLacksIsFound_data()
@@ -124,9 +124,9 @@ void TestCheckDbRights::aMissingRightIsNamed()
     COMPARE_EXIT(run, ExitStatus::ContractBroken);
     QCOMPARE(run.findingsOf("right-missing").size(), 2);
     QCOMPARE(run.findingsOf("right-missing").at(0).value("message").toString(),
-             QString("The account lacks INSERT on name of the table people"));
+             QString("The account lacks INSERT on name of the table people."));
     QCOMPARE(run.findingsOf("right-missing").at(1).value("message").toString(),
-             QString("The account lacks UPDATE on type, did of the table people"));
+             QString("The account lacks UPDATE on type, did of the table people."));
 }
 
 void TestCheckDbRights::rightsOfARoleCount()
@@ -166,7 +166,7 @@ void TestCheckDbRights::tooManyRightsAreTold()
     COMPARE_EXIT(run, ExitStatus::Findings);
     const QVector<QJsonObject> findings = run.findingsOf("right-excess");
     QCOMPARE(findings.size(), 1);
-    QCOMPARE(findings.first().value("message").toString(), message);
+    QCOMPARE(findings.first().value("message").toString(), message + '.');
     QCOMPARE(findings.first().value("severity").toString(), QString("warning"));
 }
 
@@ -207,7 +207,7 @@ void TestCheckDbRights::theToolSeesTheTextsOfTheRoutines()
     m_db.run("REVOKE SELECT ON mysql.proc FROM mirovahrctl@localhost");
     const ToolRun run = checkWithTool();
     COMPARE_EXIT(run, ExitStatus::Fine);
-    QCOMPARE(messages(run), QString("This account does not see the routine updateTermsSync"));
+    QCOMPARE(messages(run), QString("This account does not see the routine updateTermsSync."));
 }
 
 void TestCheckDbRights::theToolCannotWrite_data()

@@ -95,7 +95,7 @@ void TestCheckDbServer::aConnectionThatIsNotUnicodeIsTold()
     DbRules::checkConnection(check);
     QCOMPARE(report.findings.size(), 1);
     QCOMPARE(report.findings.first().rule, QString("connection-charset"));
-    QCOMPARE(report.findings.first().message, message);
+    QCOMPARE(report.findings.first().message, message + '.');
     QCOMPARE(report.findings.first().severity, Severity::Error);
     QVERIFY(!check.isContractBroken());
 }
@@ -112,7 +112,7 @@ void TestCheckDbServer::aConnectionThatTakesOneStatementAtATimeIsTold()
     QCOMPARE(report.findings.first().message,
              QString("The connection refuses several statements in one text. The plugin does "
                      "without, but where the attendance server uses the same classes, a changed "
-                     "time zone does not reach the terminals"));
+                     "time zone does not reach the terminals."));
     QVERIFY(!check.isContractBroken());
 }
 
@@ -149,7 +149,7 @@ void TestCheckDbServer::aServerThatReservesGroupsIsOfNoUse()
     QCOMPARE(finding.value("message").toString(),
              QString("The server is MySQL 8.0.35. There \"groups\" is a reserved word, and the "
                      "plugin's statement that looks up a calendar group, which writes it bare, "
-                     "fails for everybody"));
+                     "fails for everybody."));
     QCOMPARE(finding.value("advice").toString(), QString("Use MariaDB, or MySQL up to 5.7."));
 }
 

@@ -1,0 +1,311 @@
+#include "tests/support/exportfile.h"
+#include "tests/support/testdatabase.h"
+#include "tests/tools/toolrun.h"
+#include "worker/mhrworker.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// force: the flag, and what is said of when the plugin sees it.
+class TestForce : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void theFlagIsSetAndConfirmed();
+    void theFlagIsTakenBackAndConfirmed();
+    void aFlagThatIsSetAlreadyIsSaid();
+    void thePluginObeysTheFlag();
+    void onlyTheFlagIsWritten();
+
+    void theTickPeriodIsTheConfiguredOne_data();
+    void theTickPeriodIsTheConfiguredOne();
+    void aConfigurationThatKeepsThePluginFromActingIsTold_data();
+    void aConfigurationThatKeepsThePluginFromActingIsTold();
+    void withoutConfigurationThePluginHasItsDefaults();
+    void aMissingExportIsTold();
+    void anExportCommandMakesUpForAMissingExport();
+
+    void aFlagThatIsTakenBackAtOnceIsTold();
+    void aFlagThatIsSetAgainAtOnceIsTold();
+    void anAccountThatMayNotWriteIsTold();
+    void aDatabaseWithoutSettingsIsTold();
+    void aServerThatIsNotThereIsNoDatabase();
+    void theTextForPeopleIsPlain();
+
+private:
+    QStringList connection();
+    ToolRun force(const QStringList &more = {});
+    void configure(const QByteArray &content);
+    QString flag();
+    QStringList messages(const ToolRun &run, const QString &rule);
+    QStringList sentences(const ToolRun &run);
+
+    TestDatabase m_db;
+    ExportFile m_export;
+    QTemporaryDir m_folder;
+    QString m_ini;
+};
+
+void TestForce::initTestCase()
+{
+    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+    m_ini = m_folder.filePath("MirovaHR.ini");
+}
+
+void TestForce::init()
+{
+    m_db.reset();
+    m_export.write(QStringList{"anything"});
+    configure({});
+}
+
+void TestForce::configure(const QByteArray &content)
+{
+    QFile file(m_ini);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("importFile=" + m_export.path().toUtf8() + '\n' + content);
+}
+
+QStringList TestForce::connection()
+{
+    return {
+        "--socket", m_db.server().socketPath(), "--database",      m_db.server().databaseName(),
+        "--user",   m_db.server().userName(),   "--password-file", m_db.server().passwordFile()};
+}
+
+ToolRun TestForce::force(const QStringList &more)
+{
+    return runTool(QStringList{"force", "--json", "--config", m_ini} + connection() + more);
+}
+
+QString TestForce::flag()
+{
+    return m_db.value("SELECT value FROM vars WHERE name = 'YAV.MHRWorker.forceSync'").toString();
+}
+
+QStringList TestForce::messages(const ToolRun &run, const QString &rule)
+{
+    QStringList messages;
+    const QVector<QJsonObject> findings = run.findingsOf(rule);
+    for (const QJsonObject &finding : findings)
+        messages += finding.value("message").toString();
+    return messages;
+}
+
+QStringList TestForce::sentences(const ToolRun &run)
+{
+    QStringList sentences;
+    const QJsonArray sections = run.json().value("sections").toArray();
+    for (const QJsonValue &section : sections) {
+        const QJsonArray texts = section.toObject().value("sentences").toArray();
+        for (const QJsonValue &text : texts)
+            sentences += text.toString();
+    }
+    return sentences;
+}
+
+void TestForce::theFlagIsSetAndConfirmed()
+{
+    const ToolRun run = force();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(flag(), QString("1"));
+    QCOMPARE(run.json().value("facts").toObject(),
+             QJsonObject({{"before", "no"}, {"now", "yes"}, {"tickSeconds", 60}}));
+    QCOMPARE(run.json().value("verdict").toString(),
+             QString("A forced synchronisation is pending."));
+}
+
+void TestForce::theFlagIsTakenBackAndConfirmed()
+{
+    m_db.run("UPDATE vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
+    const ToolRun run = force({"--clear"});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(flag(), QString("0"));
+    QCOMPARE(run.json().value("facts").toObject(), QJsonObject({{"before", "yes"}, {"now", "no"}}));
+    QCOMPARE(run.json().value("verdict").toString(),
+             QString("No forced synchronisation is pending."));
+}
+
+void TestForce::aFlagThatIsSetAlreadyIsSaid()
+{
+    COMPARE_EXIT(force(), ExitStatus::Fine);
+    const ToolRun run = force();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(sentences(run).first(),
+             QString("The flag was set already: the plugin has not yet come to it, or is just "
+                     "synchronising."));
+}
+
+void TestForce::thePluginObeysTheFlag()
+{
+    m_db.run("DELETE FROM vars WHERE name = 'YAV.MHRWorker.forceSync'");
+    MHRWorker worker;
+    worker.setDebugLevel(1);
+    worker.setImportFile(m_export.path());
+    worker.setTepDb(m_db.pluginConnection());
+    worker.init();
+    worker.checkSync(); // the first tick synchronises in any case
+    COMPARE_EXIT(force(), ExitStatus::Fine);
+    QTest::ignoreMessage(QtDebugMsg, "MHRWorker: BEGIN synchronization #2 (force: YES)");
+    worker.checkSync();
+    QCOMPARE(flag(), QString("0"));
+}
+
+void TestForce::onlyTheFlagIsWritten()
+{
+    const DatabaseState before = m_db.dumpAll();
+    COMPARE_EXIT(force(), ExitStatus::Fine);
+    QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()),
+             QString("- vars: name=YAV.MHRWorker.forceSync value=0\n"
+                     "+ vars: name=YAV.MHRWorker.forceSync value=1"));
+}
+
+void TestForce::theTickPeriodIsTheConfiguredOne_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("period");
+    QTest::newRow("default") << QByteArray() << "60 seconds";
+    QTest::newRow("another one") << QByteArray("timerInterval=5\n") << "5 seconds";
+    QTest::newRow("too short a one") << QByteArray("timerInterval=0\n") << "1 second";
+    QTest::newRow("too long a one") << QByteArray("timerInterval=4000000\n") << "2147483 seconds";
+}
+
+void TestForce::theTickPeriodIsTheConfiguredOne()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, period);
+    configure(content);
+    QCOMPARE(sentences(force()).first(),
+             "The plugin sees the flag at its next tick, within " + period
+                 + " when it is not busy.");
+}
+
+void TestForce::aConfigurationThatKeepsThePluginFromActingIsTold_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("disabled") << QByteArray("enabled=0\n") << "disabled"
+                              << "The configuration says that the plugin is disabled: it does not "
+                                 "tick.";
+    QTest::newRow("test mode") << QByteArray("testMode=1\n") << "test-mode"
+                               << "Test mode is on: people are only logged, not written.";
+}
+
+void TestForce::aConfigurationThatKeepsThePluginFromActingIsTold()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, rule);
+    QFETCH(QString, message);
+    configure(content);
+    const ToolRun run = force();
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.rules(), QStringList(rule));
+    QCOMPARE(messages(run, rule), QStringList(message));
+    QCOMPARE(flag(), QString("1"));
+}
+
+void TestForce::withoutConfigurationThePluginHasItsDefaults()
+{
+    QVERIFY(QFile::remove(m_ini));
+    const ToolRun run = force();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(sentences(run).first(),
+             QStringLiteral("There is no file %1 here: what follows holds for a plugin with its "
+                            "defaults.")
+                 .arg(m_ini));
+}
+
+void TestForce::aMissingExportIsTold()
+{
+    m_export.remove();
+    const ToolRun run = force();
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(messages(run, "no-export"),
+             QStringList(QStringLiteral("There is no export %1 now. Unless HR leaves one before "
+                                        "that tick, nothing is synchronised, and the flag is taken "
+                                        "back all the same.")
+                             .arg(m_export.path())));
+}
+
+void TestForce::anExportCommandMakesUpForAMissingExport()
+{
+    m_export.remove();
+    configure("syncCommand=\"/usr/bin/export\"\nsyncCommandRun=1\n");
+    const ToolRun run = force();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(sentences(run).last(), QString("It runs the export command first."));
+}
+
+void TestForce::aFlagThatIsTakenBackAtOnceIsTold()
+{
+    m_db.run("CREATE TRIGGER meanwhile BEFORE UPDATE ON vars FOR EACH ROW SET NEW.value = '0'");
+    const ToolRun run = force();
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(messages(run, "changed-meanwhile"),
+             QStringList("The flag was written and is gone again: a synchronisation that had begun "
+                         "before has just ended and taken it back."));
+    QCOMPARE(run.json().value("verdict").toString(),
+             QString("No forced synchronisation is pending."));
+}
+
+void TestForce::aFlagThatIsSetAgainAtOnceIsTold()
+{
+    m_db.run("CREATE TRIGGER meanwhile BEFORE UPDATE ON vars FOR EACH ROW SET NEW.value = '1'");
+    const ToolRun run = force({"--clear"});
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(messages(run, "changed-meanwhile"),
+             QStringList("The flag was taken back and is set again: somebody else has just set "
+                         "it."));
+}
+
+void TestForce::anAccountThatMayNotWriteIsTold()
+{
+    m_db.run("REVOKE INSERT (value) ON vars FROM yav@localhost");
+    const ToolRun run = force();
+    m_db.run("GRANT INSERT (value) ON vars TO yav@localhost");
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QCOMPARE(run.out, QString());
+    QVERIFY2(run.err.startsWith("mirovahrctl: force: The flag cannot be written: variableSet ERROR:"
+                                " \"INSERT command denied to user 'yav'@'localhost'"),
+             run.report().constData());
+    QCOMPARE(flag(), QString("0"));
+}
+
+void TestForce::aDatabaseWithoutSettingsIsTold()
+{
+    m_db.run("DROP TABLE vars");
+    const ToolRun run = force();
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QVERIFY2(run.err.startsWith("mirovahrctl: force: The flag cannot be read:"
+                                " TepDbSettings::variableGet - SQL ERROR: Table 'tepdb.vars'"
+                                " doesn't exist"),
+             run.report().constData());
+}
+
+void TestForce::aServerThatIsNotThereIsNoDatabase()
+{
+    const ToolRun run =
+        runTool({"force", "--socket", "/nowhere/s", "--database", "tepdb", "--user", "yav"});
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QVERIFY2(run.err.startsWith("mirovahrctl: force: The database cannot be opened: "),
+             run.report().constData());
+}
+
+void TestForce::theTextForPeopleIsPlain()
+{
+    const ToolRun run = runTool(QStringList{"force", "--config", m_ini} + connection());
+    QCOMPARE(run.out,
+             QString("Forced synchronisation\n======================\n\n"
+                     "Flag\n----\nSet before: no\nSet now: yes\n\n"
+                     "Plugin\n------\nSeconds between ticks: 60\n"
+                     "The plugin sees the flag at its next tick, within 60 seconds when it "
+                     "is not busy.\n\n"
+                     "A forced synchronisation is pending.\n"));
+}
+
+QTEST_GUILESS_MAIN(TestForce)
+#include "tst_force.moc"

@@ -1,0 +1,495 @@
+#include "tests/support/accountrights.h"
+#include "tests/support/testdatabase.h"
+#include "tests/tools/toolrun.h"
+#include "tools/gatestatus.h"
+#include "tools/statusdata.h"
+#include "tools/statusjudgement.h"
+
+#include <QDateTime>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+/// The server's time for the account of the tool, so that ages are the same in every run.
+constexpr qint64 kNow = 1800000000;
+
+} // namespace
+
+/// status: what the database and the gate tell, for people, for scripts and for monitoring.
+class TestStatus : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void theTextForPeopleIsPlain();
+    void everythingIsCounted();
+    void whatNeverHappenedIsLeftOut();
+    void aChangeByAnAdministratorIsNoTrace();
+    void correctionsOfTodayAreCounted();
+    void nothingIsWritten();
+
+    void theNagiosLine_data();
+    void theNagiosLine();
+    void agesOfTheReport_data();
+    void agesOfTheReport();
+
+    void theGateIsReported();
+    void aRefusedFileIsTold();
+    void theGatesTimeCountsWhereItIsKnown_data();
+    void theGatesTimeCountsWhereItIsKnown();
+    void aStatusFileIsReadTolerantly_data();
+    void aStatusFileIsReadTolerantly();
+    void aStatusFileThatCannotBeReadIsOfNoUse_data();
+    void aStatusFileThatCannotBeReadIsOfNoUse();
+    void theLineForMonitoringStaysOneLine();
+
+    void wrongUsage_data();
+    void wrongUsage();
+    void aServerThatIsNotThere();
+    void aDatabaseThatCannotBeUsed();
+    void helpForMonitoringIsTheHelp();
+
+    void spansAreRoundedDown_data();
+    void spansAreRoundedDown();
+
+private:
+    QStringList connection();
+    ToolRun status(const QStringList &more = {});
+    ToolRun nagios(const QStringList &more = {});
+    QJsonObject facts(const ToolRun &run) { return run.json().value("facts").toObject(); }
+    QString writeGate(const QByteArray &content);
+
+    TestDatabase m_db;
+    QTemporaryDir m_folder;
+};
+
+void TestStatus::initTestCase()
+{
+    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+    m_db.run(QStringLiteral("ALTER USER mirovahrctl@localhost IDENTIFIED BY '%1' ACCOUNT UNLOCK")
+                 .arg(m_db.server().password()));
+    m_db.run(QStringLiteral("SET GLOBAL init_connect = 'SET timestamp = %1'").arg(kNow));
+}
+
+void TestStatus::init()
+{
+    m_db.reset();
+    m_db.run(QStringLiteral("UPDATE people SET created = %1").arg(kNow - 3 * 86400));
+    m_db.run(
+        QStringLiteral("UPDATE people SET edited = %1, editor = 0 WHERE uid = 4").arg(kNow - 7200));
+}
+
+QStringList TestStatus::connection()
+{
+    return {"--socket",        m_db.server().socketPath(),
+            "--database",      m_db.server().databaseName(),
+            "--user",          "mirovahrctl",
+            "--password-file", m_db.server().passwordFile()};
+}
+
+ToolRun TestStatus::status(const QStringList &more)
+{
+    return runTool(QStringList{"status", "--json"} + connection() + more);
+}
+
+ToolRun TestStatus::nagios(const QStringList &more)
+{
+    return runTool(QStringList{"status", "--nagios"} + connection() + more);
+}
+
+QString TestStatus::writeGate(const QByteArray &content)
+{
+    QFile file(m_folder.filePath("gate.json"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("%s cannot be written", qPrintable(file.fileName()));
+    return file.fileName();
+}
+
+void TestStatus::theTextForPeopleIsPlain()
+{
+    m_db.run("INSERT INTO term_sync (tid, type, ref, ref_col, ref_id, created, flags) VALUES"
+             " (1, 'U', 'people', 'uid', 4, 1799990000, 2)");
+    const ToolRun run = runTool(QStringList{"status"} + connection());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.out,
+             QString("Status of the plugin\n====================\n\n"
+                     "Database\n--------\n"
+                     "Forced synchronisation pending: no\n"
+                     "Active people: 7\n"
+                     "Last person created: 2027-01-12T08:00:00Z\n"
+                     "Last person changed by the plugin: 2027-01-15T06:00:00Z\n"
+                     "Vacation balances corrected today: 0\n"
+                     "Entries in the terminal queue: 1\n"
+                     "Oldest entry of the terminal queue: 2027-01-15T05:13:20Z\n\n"
+                     "Nothing to object to.\n"));
+}
+
+void TestStatus::everythingIsCounted()
+{
+    m_db.run("UPDATE vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
+    m_db.run("INSERT INTO term_sync (tid, type, ref, ref_col, ref_id, created, flags) VALUES"
+             " (1, 'U', 'people', 'uid', 4, 1799990000, 2),"
+             " (2, 'U', 'people', 'uid', 4, 1799980000, 2)");
+    const ToolRun run = status();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(facts(run),
+             QJsonObject({{"forced", "yes"},
+                          {"activePeople", 7},
+                          {"created", "2027-01-12T08:00:00Z"},
+                          {"edited", "2027-01-15T06:00:00Z"},
+                          {"correctionsToday", 0},
+                          {"queued", 2},
+                          {"oldestQueued", "2027-01-15T02:26:40Z"}}));
+}
+
+void TestStatus::whatNeverHappenedIsLeftOut()
+{
+    m_db.resetEmpty();
+    const ToolRun run = status({"--warning", "1"});
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(facts(run),
+             QJsonObject(
+                 {{"forced", "no"}, {"activePeople", 0}, {"correctionsToday", 0}, {"queued", 0}}));
+    QCOMPARE(run.findingsOf("too-old").value(0).value("message").toString(),
+             QString("There is no trace of the plugin yet."));
+}
+
+void TestStatus::aChangeByAnAdministratorIsNoTrace()
+{
+    m_db.run(
+        QStringLiteral("UPDATE people SET edited = %1, editor = 1 WHERE uid = 5").arg(kNow - 60));
+    QCOMPARE(facts(status()).value("edited").toString(), QString("2027-01-15T06:00:00Z"));
+}
+
+void TestStatus::correctionsOfTodayAreCounted()
+{
+    m_db.run(QStringLiteral("INSERT INTO funds_move (type, day, month, value, fid, uid) VALUES"
+                            " (3, midnightFromTs(%1), 202701, 5, 2, 1),"
+                            " (3, midnightFromTs(%1), 202701, 5, 2, 4),"
+                            " (1, midnightFromTs(%1), 202701, 5, 2, 5),"
+                            " (3, midnightFromTs(%1 - 86400), 202701, 5, 2, 1)")
+                 .arg(kNow));
+    QCOMPARE(facts(status()).value("correctionsToday").toInt(), 2);
+}
+
+void TestStatus::nothingIsWritten()
+{
+    const DatabaseState before = m_db.dumpAll();
+    m_db.run("TRUNCATE TABLE mysql.general_log");
+    COMPARE_EXIT(status(), ExitStatus::Fine);
+    const TableRows statements = m_db.rows(
+        "SELECT CONVERT(argument USING utf8mb4) FROM mysql.general_log WHERE user_host LIKE"
+        " 'mirovahrctl[%' AND command_type = 'Query' AND argument NOT LIKE 'SET NAMES %'"
+        " AND argument NOT LIKE 'SET timestamp %'");
+    QCOMPARE(statements.size(), 3);
+    QCOMPARE(statements.at(0).first(), QString("SET SESSION TRANSACTION READ ONLY"));
+    QVERIFY(statements.at(1).first().startsWith("SELECT UNIX_TIMESTAMP(), "));
+    QCOMPARE(statements.at(2).first(),
+             QString("SELECT value FROM vars WHERE name='YAV.MHRWorker.forceSync' LIMIT 1"));
+    QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
+}
+
+void TestStatus::theNagiosLine_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<int>("exitStatus");
+    QTest::addColumn<QString>("line");
+
+    QTest::newRow("fine") << "DO 0" << QStringList() << 0
+                          << "MIROVAHR OK - last trace of the plugin 2 hours ago, 7 active people, "
+                             "0 entries in the terminal queue | age=7200s;;;0 people=7;;;0 "
+                             "queue=0;;;0 corrections=0;;;0 force=0;;;0;1";
+    QTest::newRow("within the limits")
+        << "DO 0" << QStringList{"--warning", "3", "--critical", "26.5"} << 0
+        << "MIROVAHR OK - last trace of the plugin 2 hours ago, 7 active people, 0 entries in the "
+           "terminal queue | age=7200s;10800;95400;0 people=7;;;0 queue=0;;;0 corrections=0;;;0 "
+           "force=0;;;0;1";
+    QTest::newRow("old") << "DO 0" << QStringList{"--warning", "2", "--critical", "4"} << 1
+                         << "MIROVAHR WARNING - The last trace of the plugin is 2 hours old. | "
+                            "age=7200s;7200;14400;0 people=7;;;0 queue=0;;;0 corrections=0;;;0 "
+                            "force=0;;;0;1";
+    QTest::newRow("too old") << "DO 0" << QStringList{"--warning", "0.5", "--critical", "1"} << 2
+                             << "MIROVAHR CRITICAL - The last trace of the plugin is 2 hours old. "
+                                "| age=7200s;1800;3600;0 people=7;;;0 queue=0;;;0 "
+                                "corrections=0;;;0 force=0;;;0;1";
+    QTest::newRow("only critical") << "DO 0" << QStringList{"--critical", "1"} << 2
+                                   << "MIROVAHR CRITICAL - The last trace of the plugin is 2 hours "
+                                      "old. | age=7200s;;3600;0 people=7;;;0 queue=0;;;0 "
+                                      "corrections=0;;;0 force=0;;;0;1";
+    QTest::newRow("never, without limits")
+        << "DELETE FROM people" << QStringList() << 0
+        << "MIROVAHR OK - no trace of the plugin yet, 0 active people, 0 entries in the terminal "
+           "queue | people=0;;;0 queue=0;;;0 corrections=0;;;0 force=0;;;0;1";
+    QTest::newRow("never") << "DELETE FROM people" << QStringList{"--critical", "1"} << 2
+                           << "MIROVAHR CRITICAL - There is no trace of the plugin yet. | "
+                              "people=0;;;0 queue=0;;;0 corrections=0;;;0 force=0;;;0;1";
+    QTest::newRow("a clock that is behind")
+        << "UPDATE people SET created = 1800000100" << QStringList{"--critical", "1"} << 0
+        << "MIROVAHR OK - last trace of the plugin 0 seconds ago, 7 active people, 0 entries in "
+           "the terminal queue | age=0s;;3600;0 people=7;;;0 queue=0;;;0 corrections=0;;;0 "
+           "force=0;;;0;1";
+    QTest::newRow("one of each, and pending")
+        << "UPDATE people SET status = 0 WHERE uid > 1;"
+           "INSERT INTO term_sync (tid, type, ref, ref_col, ref_id, created, flags)"
+           " VALUES (1, 'U', 'people', 'uid', 4, 1799990000, 2);"
+           "UPDATE vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'"
+        << QStringList() << 0
+        << "MIROVAHR OK - last trace of the plugin 2 hours ago, 1 active person, 1 entry in the "
+           "terminal queue | age=7200s;;;0 people=1;;;0 queue=1;;;0 corrections=0;;;0 "
+           "force=1;;;0;1";
+}
+
+void TestStatus::theNagiosLine()
+{
+    QFETCH(QString, change);
+    QFETCH(QStringList, options);
+    QFETCH(int, exitStatus);
+    QFETCH(QString, line);
+    const QStringList statements = change.split(';');
+    for (const QString &statement : statements)
+        m_db.run(statement);
+    const ToolRun run = nagios(options);
+    QCOMPARE(run.out, line + '\n');
+    QCOMPARE(static_cast<int>(run.status), exitStatus);
+    QCOMPARE(run.err, QString());
+}
+
+void TestStatus::agesOfTheReport_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("severity");
+    QTest::newRow("a warning") << QStringList{"--warning", "2"} << "warning";
+    QTest::newRow("an error") << QStringList{"--warning", "1", "--critical", "2"} << "error";
+    QTest::newRow("nothing") << QStringList{"--warning", "2.001"} << "";
+}
+
+void TestStatus::agesOfTheReport()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, severity);
+    const ToolRun run = status(options);
+    COMPARE_EXIT(run, severity.isEmpty() ? ExitStatus::Fine : ExitStatus::Findings);
+    const QJsonObject finding = run.findingsOf("too-old").value(0);
+    QCOMPARE(finding.value("severity").toString(), severity);
+    QCOMPARE(finding.value("message").toString(),
+             severity.isEmpty() ? QString()
+                                : QString("The last trace of the plugin is 2 hours old."));
+}
+
+void TestStatus::theGateIsReported()
+{
+    const QString file = writeGate(R"({"result": "admitted", "time": "2027-01-15T08:00:00+01:00",
+        "lastAdmitted": {"time": "2027-01-15T07:59:58+01:00", "file": "/var/lib/yav/hr/a.data",
+                         "lines": 1200}})");
+    const ToolRun run = status({"--gate-status", file});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    const QJsonObject all = facts(run);
+    QCOMPARE(all.value("gateResult").toString(), QString("admitted"));
+    QCOMPARE(all.value("gateTime").toString(), QString("2027-01-15T07:00:00Z"));
+    QCOMPARE(all.value("admittedTime").toString(), QString("2027-01-15T06:59:58Z"));
+    QCOMPARE(all.value("admittedFile").toString(), QString("/var/lib/yav/hr/a.data"));
+    QCOMPARE(all.value("admittedLines").toInt(), 1200);
+}
+
+void TestStatus::aRefusedFileIsTold()
+{
+    const QString file = writeGate(R"({"result": "refused", "reasons":
+        ["40 lines are gone", "12 people would leave"]})");
+    const ToolRun run = status({"--gate-status", file});
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.findingsOf("gate-refused").value(0).value("message").toString(),
+             QString("The gate has refused the last file: 40 lines are gone; 12 people would "
+                     "leave."));
+    const ToolRun line = nagios({"--gate-status", file});
+    QCOMPARE(line.out,
+             QString("MIROVAHR WARNING - The gate has refused the last file: 40 lines are gone; 12 "
+                     "people would leave. | age=7200s;;;0 people=7;;;0 queue=0;;;0 "
+                     "corrections=0;;;0 force=0;;;0;1\n"));
+    QCOMPARE(static_cast<int>(line.status), 1);
+}
+
+void TestStatus::theGatesTimeCountsWhereItIsKnown_data()
+{
+    QTest::addColumn<bool>("known");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("known") << true << "The last file admitted is 5 hours old.";
+    QTest::newRow("not known") << false << "The last trace of the plugin is 3 hours old.";
+}
+
+void TestStatus::theGatesTimeCountsWhereItIsKnown()
+{
+    QFETCH(bool, known);
+    QFETCH(QString, message);
+    StatusData data;
+    data.now = kNow;
+    data.created = kNow - 3 * 3600 - 5;
+    GateStatus gate;
+    if (known)
+        gate.admittedTime = kNow - 1000 - 5 * 3600;
+    const StatusJudgement judgement =
+        StatusJudgement::of(data, &gate, {3600, std::nullopt}, kNow - 1000);
+    QCOMPARE(judgement.findings.size(), 1);
+    QCOMPARE(judgement.findings.first().message, message);
+}
+
+void TestStatus::aStatusFileIsReadTolerantly_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray("{}");
+    QTest::newRow("other kinds of values")
+        << QByteArray(R"({"result": 1, "time": [], "reasons": "x", "lastAdmitted": "y"})");
+    QTest::newRow("other kinds deeper down")
+        << QByteArray(R"({"reasons": [1, {}], "lastAdmitted": {"time": "soon", "file": 3,
+                          "lines": "many"}})");
+    QTest::newRow("further members") << QByteArray(R"({"version": 7, "more": {"a": []}})");
+}
+
+void TestStatus::aStatusFileIsReadTolerantly()
+{
+    QFETCH(QByteArray, content);
+    const ToolRun run = status({"--gate-status", writeGate(content)});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(facts(run).keys().filter("admitted"), QStringList());
+}
+
+void TestStatus::aStatusFileThatCannotBeReadIsOfNoUse_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("no file") << QByteArray()
+                             << "The gate's status file '%1' cannot be read: No such file or "
+                                "directory";
+    QTest::newRow("no JSON") << QByteArray("admitted") << "'%1' is no status file of the gate";
+    QTest::newRow("cut off") << QByteArray(R"({"result": "admi)")
+                             << "'%1' is no status file of the gate";
+    QTest::newRow("no object") << QByteArray("[]") << "'%1' is no status file of the gate";
+}
+
+void TestStatus::aStatusFileThatCannotBeReadIsOfNoUse()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, reason);
+    const QString file = content.isEmpty() ? m_folder.filePath("none") : writeGate(content);
+    const ToolRun run = status({"--gate-status", file});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err, "mirovahrctl: status: " + reason.arg(file) + ".\n");
+    const ToolRun line = nagios({"--gate-status", file});
+    QCOMPARE(line.out, "MIROVAHR UNKNOWN - " + reason.arg(file) + '\n');
+    QCOMPARE(static_cast<int>(line.status), 3);
+}
+
+void TestStatus::theLineForMonitoringStaysOneLine()
+{
+    const QString file = writeGate(R"({"result": "refused", "reasons": ["a|b\nc\u001bd"]})");
+    QCOMPARE(nagios({"--gate-status", file}).out,
+             QString("MIROVAHR WARNING - The gate has refused the last file: a/b c\\x1bd. | "
+                     "age=7200s;;;0 people=7;;;0 queue=0;;;0 corrections=0;;;0 force=0;;;0;1\n"));
+}
+
+void TestStatus::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<QString>("line");
+    const QString plain = "The command line makes no sense: see mirovahrctl status --help";
+    QTest::newRow("an unknown option")
+        << QStringList{"--no-such"} << "Unknown option 'no-such'" << plain;
+    QTest::newRow("an argument") << QStringList{"now"} << "'now' is one argument too many" << plain;
+    QTest::newRow("two servers") << QStringList{"--host", "h"}
+                                 << "Name the database server with either --host or --socket"
+                                 << plain;
+    QTest::newRow("no number") << QStringList{"--warning", "x"}
+                               << "--warning takes a number of hours above 0"
+                               << "--warning takes a number of hours above 0";
+    QTest::newRow("zero") << QStringList{"--critical", "0"}
+                          << "--critical takes a number of hours above 0"
+                          << "--critical takes a number of hours above 0";
+    QTest::newRow("no finite number")
+        << QStringList{"--critical", "inf"} << "--critical takes a number of hours above 0"
+        << "--critical takes a number of hours above 0";
+}
+
+void TestStatus::wrongUsage()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, reason);
+    QFETCH(QString, line);
+    const ToolRun run = status(options);
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err, "mirovahrctl: status: " + reason + ".\n");
+    const ToolRun monitored = nagios(options);
+    QCOMPARE(monitored.out, "MIROVAHR UNKNOWN - " + line + '\n');
+    QCOMPARE(static_cast<int>(monitored.status), 3);
+    const ToolRun both = nagios({"--json"});
+    QCOMPARE(both.out, QString("MIROVAHR UNKNOWN - Give --nagios or --json, not both\n"));
+}
+
+void TestStatus::aServerThatIsNotThere()
+{
+    const QStringList nowhere{"--socket", "/nowhere/s", "--database", "tepdb", "--user", "yav"};
+    const ToolRun run = runTool(QStringList{"status"} + nowhere);
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QVERIFY2(run.err.startsWith("mirovahrctl: status: The database cannot be opened: "),
+             run.report().constData());
+    const ToolRun line = runTool(QStringList{"status", "--nagios"} + nowhere);
+    QVERIFY2(line.out.startsWith("MIROVAHR CRITICAL - The database cannot be opened: "),
+             line.report().constData());
+    QCOMPARE(line.out.count('\n'), 1);
+    QCOMPARE(static_cast<int>(line.status), 2);
+}
+
+void TestStatus::aDatabaseThatCannotBeUsed()
+{
+    m_db.run("DROP TABLE vars");
+    const ToolRun run = status();
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QVERIFY2(run.err.startsWith("mirovahrctl: status: The force flag cannot be read: "),
+             run.report().constData());
+    m_db.run("DROP TABLE term_sync");
+    const ToolRun line = nagios();
+    QVERIFY2(line.out.startsWith("MIROVAHR CRITICAL - The database cannot be used: Table"
+                                 " 'tepdb.term_sync' doesn't exist"),
+             line.report().constData());
+}
+
+void TestStatus::helpForMonitoringIsTheHelp()
+{
+    const ToolRun run = runTool({"status", "--nagios", "--help"});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QVERIFY(run.out.contains("of that convention: 0 OK, 1 WARNING, 2 CRITICAL"));
+}
+
+void TestStatus::spansAreRoundedDown_data()
+{
+    QTest::addColumn<qint64>("seconds");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("none") << qint64(0) << "0 seconds";
+    QTest::newRow("one") << qint64(1) << "1 second";
+    QTest::newRow("below two minutes") << qint64(119) << "119 seconds";
+    QTest::newRow("two minutes") << qint64(120) << "2 minutes";
+    QTest::newRow("below two hours") << qint64(7199) << "119 minutes";
+    QTest::newRow("two hours") << qint64(7200) << "2 hours";
+    QTest::newRow("below two days") << qint64(172799) << "47 hours";
+    QTest::newRow("two days") << qint64(172800) << "2 days";
+}
+
+void TestStatus::spansAreRoundedDown()
+{
+    QFETCH(qint64, seconds);
+    QFETCH(QString, text);
+    QCOMPARE(StatusJudgement::span(seconds), text);
+}
+
+int main(int argc, char **argv)
+{
+    qputenv("TZ", "UTC");
+    QCoreApplication application(argc, argv);
+    TestStatus test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_status.moc"

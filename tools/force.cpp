@@ -1,0 +1,191 @@
+#include "tools/force.h"
+
+#include "cli/database.h"
+#include "cli/databaseoptions.h"
+#include "plugin/configuration.h"
+#include "tools/commandline.h"
+#include "tools/console.h"
+#include "tools/databaseaccess.h"
+#include "tools/finding.h"
+#include "tools/forceflag.h"
+#include "tools/plaintext.h"
+#include "tools/report.h"
+#include "worker/importfile.h"
+#include "worker/schedule.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+
+constexpr char kDescription[] =
+    "Sets the flag in the attendance database that makes the plugin's next tick\n"
+    "synchronise, and with it every person of the export, whether the line has changed or\n"
+    "not. The plugin takes the flag back afterwards. Needs an account that may write to\n"
+    "the table vars, such as the plugin's.";
+
+class ForceRun {
+public:
+    ForceRun(const CommandLine &line, Console &console)
+        : m_line(line)
+        , m_console(console)
+        , m_report(line, console)
+        , m_on(!line.isSet("clear"))
+    {
+    }
+
+    ExitStatus run(const QSqlDatabase &db);
+
+private:
+    QString configPath() const;
+    void reportFlag(bool wasSet, bool isSet);
+    void reportPlugin();
+    void reportExport(const Configuration &config);
+    void tell(Severity severity, const char *rule, const QString &message, const QString &advice);
+    ExitStatus fail(const QString &sentence);
+    QString verdict(bool isSet) const;
+
+    const CommandLine &m_line;
+    Console &m_console;
+    Report m_report;
+    const bool m_on;
+};
+
+ExitStatus ForceRun::run(const QSqlDatabase &db)
+{
+    ForceFlag flag(db);
+    const auto before = flag.isSet();
+    if (!before)
+        return fail(QStringLiteral("The flag cannot be read: %1").arg(flag.errorText()));
+    if (!flag.set(m_on))
+        return fail(QStringLiteral("The flag cannot be written: %1").arg(flag.errorText()));
+    const auto after = flag.isSet();
+    if (!after)
+        return fail(QStringLiteral("The flag cannot be read back: %1").arg(flag.errorText()));
+    m_report.begin(m_line.subcommand(), QStringLiteral("Forced synchronisation"));
+    m_report.section(QStringLiteral("flag"), QStringLiteral("Flag"));
+    reportFlag(*before, *after);
+    if (m_on && *after)
+        reportPlugin();
+    return m_report.conclude(m_report.findingsStatus(), verdict(*after));
+}
+
+void ForceRun::reportFlag(bool wasSet, bool isSet)
+{
+    m_report.fact(QStringLiteral("before"), QStringLiteral("Set before"),
+                  wasSet ? QStringLiteral("yes") : QStringLiteral("no"));
+    m_report.fact(QStringLiteral("now"), QStringLiteral("Set now"),
+                  isSet ? QStringLiteral("yes") : QStringLiteral("no"));
+    if (m_on && wasSet) {
+        m_report.sentence(QStringLiteral("The flag was set already: the plugin has not yet come to "
+                                         "it, or is just synchronising."));
+    }
+    if (m_on != isSet) {
+        tell(Severity::Warning, "changed-meanwhile",
+             m_on ? QStringLiteral("The flag was written and is gone again: a synchronisation that "
+                                   "had begun before has just ended and taken it back.")
+                  : QStringLiteral("The flag was taken back and is set again: somebody else has "
+                                   "just set it."),
+             QStringLiteral("Try again."));
+    }
+}
+
+QString ForceRun::configPath() const
+{
+    const QString path = m_line.value("config");
+    return path.isEmpty() ? QString(Configuration::kPath) : path;
+}
+
+void ForceRun::reportPlugin()
+{
+    const QString path = configPath();
+    const auto settings = Configuration::open(path);
+    const Configuration config = Configuration::read(*settings);
+    m_report.section(QStringLiteral("plugin"), QStringLiteral("Plugin"));
+    const bool isHere = QFileInfo::exists(path);
+    if (!isHere) {
+        m_report.sentence(
+            QStringLiteral("There is no file %1 here: what follows holds for a plugin "
+                           "with its defaults.")
+                .arg(path));
+    }
+    const int seconds =
+        Schedule::timerInterval(Schedule::tickPeriod(config.tickMilliseconds)) / 1000;
+    m_report.fact(QStringLiteral("tickSeconds"), QStringLiteral("Seconds between ticks"), seconds);
+    m_report.sentence(
+        QStringLiteral("The plugin sees the flag at its next tick, within %1 when it "
+                       "is not busy.")
+            .arg(PlainText::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"))));
+    if (!config.enabled) {
+        tell(
+            Severity::Warning, "disabled",
+            QStringLiteral("The configuration says that the plugin is disabled: it does not tick."),
+            QStringLiteral("Set enabled to 1 and start the attendance server again."));
+    }
+    if (config.testMode) {
+        tell(Severity::Warning, "test-mode",
+             QStringLiteral("Test mode is on: people are only logged, not written."),
+             QStringLiteral("Set testMode to 0 and start the attendance server again."));
+    }
+    if (isHere)
+        reportExport(config);
+}
+
+void ForceRun::reportExport(const Configuration &config)
+{
+    const QString path = ImportFile::path(config.importFile);
+    if (config.syncCommandRun >= 1 && !config.syncCommand.isEmpty()) {
+        m_report.sentence(QStringLiteral("It runs the export command first."));
+    } else if (!QFileInfo(path).isFile()) {
+        tell(Severity::Warning, "no-export",
+             QStringLiteral("There is no export %1 now. Unless HR leaves one before that tick, "
+                            "nothing is synchronised, and the flag is taken back all the same.")
+                 .arg(path),
+             QStringLiteral("Put the export there and set the flag again."));
+    }
+}
+
+void ForceRun::tell(Severity severity, const char *rule, const QString &message,
+                    const QString &advice)
+{
+    Finding finding;
+    finding.severity = severity;
+    finding.rule = QString::fromLatin1(rule);
+    finding.message = message;
+    finding.advice = advice;
+    m_report.finding(finding);
+}
+
+ExitStatus ForceRun::fail(const QString &sentence)
+{
+    return m_console.fail(ExitStatus::NoDatabase, QStringLiteral("force: ") + sentence);
+}
+
+QString ForceRun::verdict(bool isSet) const
+{
+    return isSet ? QStringLiteral("A forced synchronisation is pending.")
+                 : QStringLiteral("No forced synchronisation is pending.");
+}
+
+} // namespace
+
+ExitStatus runForce(const QStringList &arguments, Console &console)
+{
+    CommandLine line("force", kDescription);
+    line.addFlag("clear", "Take the flag back instead.");
+    line.addOption("config", "file",
+                   "The plugin's INI file, which says when it ticks; /etc/yav/MirovaHR.ini when "
+                   "left out.");
+    line.addReportOptions(CommandLine::Page::NotOffered);
+    line.addDatabaseOptions();
+    if (const auto end = line.parse(arguments, console))
+        return *end;
+    DatabaseOptions options;
+    if (const auto end = line.readDatabase(options, console))
+        return *end;
+    QString error;
+    const auto database = openDatabase(options, DatabaseAccess::ReadWrite, error);
+    if (!database)
+        return console.fail(ExitStatus::NoDatabase, QStringLiteral("force: ") + error);
+    return ForceRun(line, console).run(database->handle());
+}

@@ -1,0 +1,26 @@
+#include "tools/forceflag.h"
+
+#include "db/tepdbsettings.h"
+#include "tools/caughtlog.h"
+#include "worker/schedule.h"
+
+ForceFlag::ForceFlag(const QSqlDatabase &db)
+    : m_db(db)
+{
+}
+
+std::optional<bool> ForceFlag::isSet()
+{
+    const CaughtLog log;
+    const bool on = TepDbSettings(m_db).variableGet(Schedule::kForceSyncKey, QVariant()).toBool();
+    m_error = log.complaints();
+    return m_error.isEmpty() ? std::make_optional(on) : std::nullopt;
+}
+
+bool ForceFlag::set(bool on)
+{
+    const CaughtLog log;
+    const bool done = TepDbSettings(m_db).variableSet(Schedule::kForceSyncKey, on ? 1 : 0);
+    m_error = log.complaints();
+    return done;
+}

@@ -1,0 +1,89 @@
+#include "tools/nagios.h"
+
+#include "tools/plaintext.h"
+#include "tools/statusdata.h"
+#include "tools/statusjudgement.h"
+
+#include <QStringList>
+
+namespace {
+
+constexpr const char *kWords[] = {"OK", "WARNING", "CRITICAL", "UNKNOWN"};
+
+QString limit(const std::optional<qint64> &limit)
+{
+    return limit ? QString::number(*limit) : QString();
+}
+
+QString performance(const StatusData &data, const StatusJudgement &judgement,
+                    const AgeLimits &limits)
+{
+    QStringList values;
+    if (judgement.age) {
+        values += QStringLiteral("age=%1s;%2;%3;0")
+                      .arg(QString::number(*judgement.age), limit(limits.warning),
+                           limit(limits.critical));
+    }
+    values += QStringLiteral("people=%1;;;0").arg(data.activePeople);
+    values += QStringLiteral("queue=%1;;;0").arg(data.queued);
+    values += QStringLiteral("corrections=%1;;;0").arg(data.correctionsToday);
+    values += QStringLiteral("force=%1;;;0;1").arg(data.forced ? 1 : 0);
+    return values.join(QLatin1Char(' '));
+}
+
+QString summary(const StatusData &data, const StatusJudgement &judgement)
+{
+    const QString age = judgement.age
+        ? QStringLiteral("last %1 %2 ago")
+              .arg(judgement.ageOf, StatusJudgement::span(*judgement.age))
+        : QStringLiteral("no %1 yet").arg(judgement.ageOf);
+    return QStringLiteral("%1, %2, %3 in the terminal queue")
+        .arg(age,
+             PlainText::counted(data.activePeople, QStringLiteral("active person"),
+                                QStringLiteral("active people")),
+             PlainText::counted(data.queued, QStringLiteral("entry"), QStringLiteral("entries")));
+}
+
+QString complaints(const StatusJudgement &judgement)
+{
+    QStringList messages;
+    for (const Finding &finding : judgement.findings)
+        messages += finding.message;
+    return messages.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+ExitStatus Nagios::exitStatus(Level level)
+{
+    return static_cast<ExitStatus>(level);
+}
+
+QString Nagios::line(Level level, const QString &text)
+{
+    // A "|" begins the performance data.
+    QString fit = text.simplified();
+    fit.replace(QLatin1Char('|'), QLatin1Char('/'));
+    return QStringLiteral("MIROVAHR %1 - %2")
+        .arg(QLatin1String(kWords[static_cast<int>(level)]), PlainText::visible(fit));
+}
+
+Nagios::Level Nagios::level(const StatusJudgement &judgement)
+{
+    Level level = Level::Ok;
+    for (const Finding &finding : judgement.findings) {
+        if (finding.severity == Severity::Error)
+            return Level::Critical;
+        level = Level::Warning;
+    }
+    return level;
+}
+
+QString Nagios::statusLine(const StatusData &data, const StatusJudgement &judgement,
+                           const AgeLimits &limits)
+{
+    const QString text =
+        judgement.findings.isEmpty() ? summary(data, judgement) : complaints(judgement);
+    return line(level(judgement), text) + QStringLiteral(" | ")
+        + performance(data, judgement, limits);
+}

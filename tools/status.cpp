@@ -1,0 +1,217 @@
+#include "tools/status.h"
+
+#include "cli/database.h"
+#include "cli/databaseoptions.h"
+#include "tools/commandline.h"
+#include "tools/console.h"
+#include "tools/databaseaccess.h"
+#include "tools/gatestatus.h"
+#include "tools/nagios.h"
+#include "tools/report.h"
+#include "tools/statusdata.h"
+#include "tools/statusjudgement.h"
+
+#include <QDateTime>
+
+namespace {
+
+constexpr char kDescription[] =
+    "Tells what the attendance database knows of the plugin's work, and what the gate last\n"
+    "did when its status file is named. The plugin leaves no trace of a synchronisation\n"
+    "that changes nothing: without the gate, old news may only mean that nothing happened.\n"
+    "Changes nothing.\n\n"
+    "With --nagios the answer is one line for a monitoring system, and the exit status is\n"
+    "of that convention: 0 OK, 1 WARNING, 2 CRITICAL (also: no database), 3 UNKNOWN (also:\n"
+    "wrong usage).";
+
+constexpr double kSecondsPerHour = 3600.0;
+
+class StatusRun {
+public:
+    StatusRun(const CommandLine &line, Console &console)
+        : m_line(line)
+        , m_console(console)
+    {
+    }
+
+    ExitStatus run();
+
+private:
+    std::optional<ExitStatus> prepare();
+    std::optional<ExitStatus> readLimit(const char *option, std::optional<qint64> &limit);
+    std::optional<ExitStatus> readGate();
+    ExitStatus answer(const StatusData &data);
+    ExitStatus report(const StatusData &data, const StatusJudgement &judgement);
+    ExitStatus fail(ExitStatus status, const QString &sentence);
+
+    const CommandLine &m_line;
+    Console &m_console;
+    AgeLimits m_limits;
+    std::optional<GateStatus> m_gate;
+};
+
+/// With the offset of the local zone.
+QString shownTime(qint64 time)
+{
+    const QDateTime local = QDateTime::fromSecsSinceEpoch(time);
+    return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate);
+}
+
+void reportTime(Report &report, const char *id, const char *label,
+                const std::optional<qint64> &time)
+{
+    if (time)
+        report.fact(QString::fromLatin1(id), QString::fromLatin1(label), shownTime(*time));
+}
+
+void reportDatabase(Report &report, const StatusData &data)
+{
+    report.section(QStringLiteral("database"), QStringLiteral("Database"));
+    report.fact(QStringLiteral("forced"), QStringLiteral("Forced synchronisation pending"),
+                data.forced ? QStringLiteral("yes") : QStringLiteral("no"));
+    report.fact(QStringLiteral("activePeople"), QStringLiteral("Active people"), data.activePeople);
+    reportTime(report, "created", "Last person created", data.created);
+    reportTime(report, "edited", "Last person changed by the plugin", data.edited);
+    report.fact(QStringLiteral("correctionsToday"),
+                QStringLiteral("Vacation balances corrected today"), data.correctionsToday);
+    report.fact(QStringLiteral("queued"), QStringLiteral("Entries in the terminal queue"),
+                data.queued);
+    reportTime(report, "oldestQueued", "Oldest entry of the terminal queue", data.oldestQueued);
+}
+
+void reportGate(Report &report, const GateStatus &gate)
+{
+    report.section(QStringLiteral("gate"), QStringLiteral("Gate"));
+    report.fact(QStringLiteral("gateResult"), QStringLiteral("Last file"),
+                gate.refused ? QStringLiteral("refused") : QStringLiteral("admitted"));
+    reportTime(report, "gateTime", "Last run", gate.time);
+    reportTime(report, "admittedTime", "Last file admitted at", gate.admittedTime);
+    if (!gate.admittedFile.isEmpty())
+        report.fact(QStringLiteral("admittedFile"), QStringLiteral("It was"), gate.admittedFile);
+    if (gate.admittedLines)
+        report.fact(QStringLiteral("admittedLines"), QStringLiteral("Its lines"),
+                    *gate.admittedLines);
+}
+
+/// How to end after the command line was read and its errors were told.
+ExitStatus usageEnd(ExitStatus end, bool forNagios, Console &console)
+{
+    if (!forNagios || end != ExitStatus::Usage)
+        return end;
+    console.print(Nagios::line(Nagios::Level::Unknown,
+                               QStringLiteral("The command line makes no sense: see mirovahrctl "
+                                              "status --help")));
+    return Nagios::exitStatus(Nagios::Level::Unknown);
+}
+
+ExitStatus StatusRun::run()
+{
+    if (const auto end = prepare())
+        return *end;
+    DatabaseOptions options;
+    if (const auto end = m_line.readDatabase(options, m_console))
+        return usageEnd(*end, m_line.isSet("nagios"), m_console);
+    QString error;
+    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
+    if (!database)
+        return fail(ExitStatus::NoDatabase, error);
+    const auto data = StatusData::read(database->handle(), error);
+    return data ? answer(*data) : fail(ExitStatus::NoDatabase, error);
+}
+
+std::optional<ExitStatus> StatusRun::prepare()
+{
+    if (m_line.isSet("nagios") && m_line.isSet("json"))
+        return fail(ExitStatus::Usage, QStringLiteral("Give --nagios or --json, not both"));
+    if (const auto end = readLimit("warning", m_limits.warning))
+        return end;
+    if (const auto end = readLimit("critical", m_limits.critical))
+        return end;
+    return readGate();
+}
+
+std::optional<ExitStatus> StatusRun::readLimit(const char *option, std::optional<qint64> &limit)
+{
+    if (!m_line.isSet(option))
+        return std::nullopt;
+    bool isNumber = false;
+    const double hours = m_line.value(option).toDouble(&isNumber);
+    if (!isNumber || !(hours > 0 && hours < 1e6)) {
+        return fail(
+            ExitStatus::Usage,
+            QStringLiteral("--%1 takes a number of hours above 0").arg(QLatin1String(option)));
+    }
+    limit = qint64(hours * kSecondsPerHour);
+    return std::nullopt;
+}
+
+std::optional<ExitStatus> StatusRun::readGate()
+{
+    if (!m_line.isSet("gate-status"))
+        return std::nullopt;
+    QString error;
+    m_gate = GateStatus::read(m_line.value("gate-status"), error);
+    if (m_gate)
+        return std::nullopt;
+    return fail(ExitStatus::Usage, error);
+}
+
+ExitStatus StatusRun::answer(const StatusData &data)
+{
+    const StatusJudgement judgement = StatusJudgement::of(
+        data, m_gate ? &*m_gate : nullptr, m_limits, QDateTime::currentSecsSinceEpoch());
+    if (!m_line.isSet("nagios"))
+        return report(data, judgement);
+    m_console.print(Nagios::statusLine(data, judgement, m_limits));
+    return Nagios::exitStatus(Nagios::level(judgement));
+}
+
+ExitStatus StatusRun::report(const StatusData &data, const StatusJudgement &judgement)
+{
+    Report report(m_line, m_console);
+    report.begin(m_line.subcommand(), QStringLiteral("Status of the plugin"));
+    reportDatabase(report, data);
+    if (m_gate)
+        reportGate(report, *m_gate);
+    if (!judgement.findings.isEmpty())
+        report.section(QStringLiteral("findings"), QStringLiteral("What to look at"));
+    for (const Finding &finding : judgement.findings)
+        report.finding(finding);
+    return report.conclude(report.findingsStatus(),
+                           judgement.findings.isEmpty()
+                               ? QStringLiteral("Nothing to object to.")
+                               : QStringLiteral("Somebody should look at this."));
+}
+
+ExitStatus StatusRun::fail(ExitStatus status, const QString &sentence)
+{
+    if (!m_line.isSet("nagios"))
+        return m_console.fail(status, QStringLiteral("status: ") + sentence);
+    const Nagios::Level level =
+        status == ExitStatus::NoDatabase ? Nagios::Level::Critical : Nagios::Level::Unknown;
+    m_console.print(Nagios::line(level, sentence));
+    return Nagios::exitStatus(level);
+}
+
+void addOptions(CommandLine &line)
+{
+    line.addOption("gate-status", "file", "The status file that the gate writes.");
+    line.addOption("warning", "hours",
+                   "Complain when the last file admitted, or without --gate-status the last trace "
+                   "of the plugin, is so many hours old.");
+    line.addOption("critical", "hours", "The same, for --nagios as CRITICAL.");
+    line.addFlag("nagios", "Answer in one line, as monitoring systems expect it of their plugins.");
+    line.addReportOptions(CommandLine::Page::NotOffered);
+    line.addDatabaseOptions();
+}
+
+} // namespace
+
+ExitStatus runStatus(const QStringList &arguments, Console &console)
+{
+    CommandLine line("status", kDescription);
+    addOptions(line);
+    if (const auto end = line.parse(arguments, console))
+        return usageEnd(*end, arguments.contains(QLatin1String("--nagios")), console);
+    return StatusRun(line, console).run();
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QString>
+
+#include <optional>
+
+/// What the attendance database tells of the plugin at one moment. Times are Unix times by the
+/// server's clock; a time that is missing: it never happened.
+struct StatusData {
+    qint64 now = 0;
+    bool forced = false; ///< a forced synchronisation is pending
+    qint64 activePeople = 0;
+    std::optional<qint64> created; ///< the newest person
+    std::optional<qint64> edited; ///< the last change of a person by the plugin
+    qint64 queued = 0; ///< entries of the terminal queue
+    std::optional<qint64> oldestQueued;
+    qint64 correctionsToday = 0; ///< of vacation balances
+
+    /// The newest trace that the plugin left in the database.
+    std::optional<qint64> lastTrace() const;
+
+    /// Reads all of it. Nothing when that fails; `error` then says why, a sentence without its full
+    /// stop.
+    static std::optional<StatusData> read(const QSqlDatabase &db, QString &error);
+};

@@ -1,0 +1,96 @@
+#include "tools/statusjudgement.h"
+
+#include "tools/gatestatus.h"
+#include "tools/plaintext.h"
+#include "tools/statusdata.h"
+
+namespace {
+
+struct Unit {
+    qint64 seconds;
+    const char *one;
+    const char *many;
+};
+
+constexpr Unit kUnits[] = {
+    {86400, "day", "days"}, {3600, "hour", "hours"}, {60, "minute", "minutes"}};
+
+void findAge(StatusJudgement &judgement, const StatusData &data, const GateStatus *gate, qint64 now)
+{
+    if (gate != nullptr && gate->admittedTime) {
+        judgement.age = qMax(qint64(0), now - *gate->admittedTime);
+        judgement.ageOf = QStringLiteral("file admitted");
+        return;
+    }
+    judgement.ageOf = QStringLiteral("trace of the plugin");
+    if (const auto trace = data.lastTrace())
+        judgement.age = qMax(qint64(0), data.now - *trace);
+}
+
+Finding finding(Severity severity, const char *rule, const QString &message, const QString &advice)
+{
+    Finding finding;
+    finding.severity = severity;
+    finding.rule = QString::fromLatin1(rule);
+    finding.message = message;
+    finding.advice = advice;
+    return finding;
+}
+
+bool isBeyond(const std::optional<qint64> &age, const std::optional<qint64> &limit)
+{
+    return limit && (!age || *age >= *limit);
+}
+
+void judgeAge(StatusJudgement &judgement, const AgeLimits &limits)
+{
+    const bool critical = isBeyond(judgement.age, limits.critical);
+    if (!critical && !isBeyond(judgement.age, limits.warning))
+        return;
+    const QString message = judgement.age
+        ? QStringLiteral("The last %1 is %2 old.")
+              .arg(judgement.ageOf, StatusJudgement::span(*judgement.age))
+        : QStringLiteral("There is no %1 yet.").arg(judgement.ageOf);
+    judgement.findings +=
+        finding(critical ? Severity::Error : Severity::Warning, "too-old", message,
+                QStringLiteral("Look at the log of the attendance server and at "
+                               "what HR delivers."));
+}
+
+void judgeGate(StatusJudgement &judgement, const GateStatus &gate)
+{
+    if (!gate.refused)
+        return;
+    QString message = QStringLiteral("The gate has refused the last file");
+    if (!gate.reasons.isEmpty())
+        message += QStringLiteral(": ") + gate.reasons.join(QStringLiteral("; "));
+    if (!message.endsWith(QLatin1Char('.')))
+        message += QLatin1Char('.');
+    judgement.findings +=
+        finding(Severity::Warning, "gate-refused", message,
+                QStringLiteral("Until a file is admitted nothing new reaches the plugin."));
+}
+
+} // namespace
+
+StatusJudgement StatusJudgement::of(const StatusData &data, const GateStatus *gate,
+                                    const AgeLimits &limits, qint64 now)
+{
+    StatusJudgement judgement;
+    findAge(judgement, data, gate, now);
+    judgeAge(judgement, limits);
+    if (gate != nullptr)
+        judgeGate(judgement, *gate);
+    return judgement;
+}
+
+QString StatusJudgement::span(qint64 seconds)
+{
+    for (const Unit &unit : kUnits) {
+        if (seconds >= 2 * unit.seconds) {
+            return PlainText::counted(seconds / unit.seconds, QString::fromLatin1(unit.one),
+                                      QString::fromLatin1(unit.many));
+        }
+    }
+    return PlainText::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"));
+}
