@@ -1,0 +1,130 @@
+#include "tests/sync/sampleexport.h"
+#include "tests/sync/synctest.h"
+
+namespace {
+
+/// Jana with another surname.
+ExportLine jana(const QString &surname)
+{
+    return SampleExport::jana().with(&ExportLine::prijmeni, surname);
+}
+
+int syntaxErrors(const QStringList &log)
+{
+    return log
+        .filter(
+            QRegularExpression("^C MHRWorker::dbUpdatePerson\\(1234\\.1\\) - SQL ERROR: You have"
+                               " an error in your SQL syntax"))
+        .size();
+}
+
+} // namespace
+
+/// What the texts of an export line can do to the database, as docs/security.md tells: they go into
+/// the plugin's statements as they are, and the account is what limits them.
+class TestExportTexts : public SyncTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void anApostropheMakesTheStatementFail();
+    void nobodyElseSuffersFromIt();
+    void aBackslashAtTheEndMakesTheStatementFail();
+    void aBackslashInTheMiddleIsLost();
+    void twoTextsReachEachOtherWithoutAnApostrophe();
+    void aTextCanAddAStatement();
+    void aTextCanFillAnotherColumn();
+    void whatTheAccountMayNotDoTheTextMayNotDo_data();
+    void whatTheAccountMayNotDoTheTextMayNotDo();
+
+private:
+    QString surname(uint pid);
+};
+
+QString TestExportTexts::surname(uint pid)
+{
+    return m_db.value(QStringLiteral("SELECT surname FROM people WHERE pid = %1").arg(pid))
+        .toString();
+}
+
+void TestExportTexts::anApostropheMakesTheStatementFail()
+{
+    const QStringList log = synchronise({jana("D'Arc")}).log;
+    QCOMPARE(syntaxErrors(log), 1);
+    QCOMPARE(surname(12341), QString("Nováková"));
+}
+
+void TestExportTexts::nobodyElseSuffersFromIt()
+{
+    synchronise(
+        {jana("D'Arc"), SampleExport::maria().with(&ExportLine::prijmeni, QStringLiteral("Malá"))});
+    QCOMPARE(surname(10011), QString("Malá"));
+}
+
+void TestExportTexts::aBackslashAtTheEndMakesTheStatementFail()
+{
+    const QStringList log =
+        synchronise({jana("Malá").with(&ExportLine::titul, QStringLiteral("Mgr.\\"))}).log;
+    QCOMPARE(syntaxErrors(log), 1);
+    QCOMPARE(surname(12341), QString("Nováková"));
+}
+
+void TestExportTexts::aBackslashInTheMiddleIsLost()
+{
+    synchronise({jana("A\\B")});
+    QCOMPARE(surname(12341), QString("AB"));
+}
+
+void TestExportTexts::twoTextsReachEachOtherWithoutAnApostrophe()
+{
+    synchronise(
+        {SampleExport::jana()
+             .with(&ExportLine::titul, QStringLiteral("\\"))
+             .with(&ExportLine::jmeno, QStringLiteral(", phone=0x393939 WHERE pid=12341 -- "))});
+    QCOMPARE(m_db.value("SELECT phone FROM people WHERE pid = 12341").toString(), QString("999"));
+}
+
+void TestExportTexts::aTextCanAddAStatement()
+{
+    synchronise({jana("x' WHERE pid=12341; UPDATE vars SET value='changed'"
+                      " WHERE name='exportPam.1.selPeople'; -- ")});
+    QCOMPARE(m_db.value("SELECT value FROM vars WHERE name = 'exportPam.1.selPeople'").toString(),
+             QString("changed"));
+}
+
+void TestExportTexts::aTextCanFillAnotherColumn()
+{
+    synchronise({jana("x', phone=(SELECT value FROM vars WHERE name='exportPam.1.selPeople')"
+                      " WHERE pid=12341 -- ")});
+    QVERIFY(
+        m_db.value("SELECT phone FROM people WHERE pid = 12341").toString().startsWith("10011,"));
+}
+
+void TestExportTexts::whatTheAccountMayNotDoTheTextMayNotDo_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::newRow("delete rows") << "DELETE FROM people";
+    QTest::newRow("empty a table") << "TRUNCATE TABLE funds_move";
+    QTest::newRow("drop a table") << "DROP TABLE atten";
+    QTest::newRow("change a table") << "ALTER TABLE people DROP COLUMN phone";
+    QTest::newRow("make a supervisor") << "UPDATE admins SET personalNumber = 1";
+    QTest::newRow("close attendance") << "UPDATE atten SET `lock` = 1";
+    QTest::newRow("make an account") << "CREATE USER other";
+    QTest::newRow("write a file") << "SELECT 1 INTO OUTFILE '/tmp/from-the-database'";
+}
+
+void TestExportTexts::whatTheAccountMayNotDoTheTextMayNotDo()
+{
+    QFETCH(QString, statement);
+    synchronise({jana("x' WHERE pid=12341; " + statement + "; -- ")});
+    QCOMPARE(surname(12341), QString("x")); // the statement before it was run
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM people").toInt(), 8);
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM funds_move").toInt(), 6);
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM atten WHERE `lock`").toInt(), 1);
+    QCOMPARE(m_db.value("SELECT COUNT(phone) FROM people").toInt(), 8);
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM admins WHERE personalNumber = 1").toInt(), 0);
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM mysql.user WHERE User = 'other'").toInt(), 0);
+    QVERIFY(!QFile::exists("/tmp/from-the-database"));
+}
+
+SYNC_TEST_MAIN(TestExportTexts)
+#include "tst_exporttexts.moc"
