@@ -9,10 +9,13 @@
 
 namespace {
 
-/// Somebody of their own: the uid of a pid is remembered by the process, whatever the database.
-ExportLine person(int calendar)
+/// Each test needs somebody of its own: the uid of a pid is remembered by the process, whatever the
+/// database.
+ExportLine person(int personalNumber, int calendar)
 {
-    return ExportLine().with(&ExportLine::osobniCislo, 4321).with(&ExportLine::kalendar, calendar);
+    return ExportLine()
+        .with(&ExportLine::osobniCislo, personalNumber)
+        .with(&ExportLine::kalendar, calendar);
 }
 
 } // namespace
@@ -24,6 +27,7 @@ private Q_SLOTS:
     void theSlotsAreFourInTheirOrder();
     void thereAreNoSignals();
     void withoutSettingsTheTickIsAMinute();
+    void withoutSettingsEverythingHasItsDefault();
     void thePeriodIsAtLeastOneSecondAndAtMostWhatATimerTakes_data();
     void thePeriodIsAtLeastOneSecondAndAtMostWhatATimerTakes();
     void theMessageTableIsLoggedByItsSize();
@@ -94,6 +98,28 @@ void TestWorkerSetup::withoutSettingsTheTickIsAMinute()
 {
     startWorker();
     QCOMPARE(periods(), QVector<int>{60000});
+}
+
+void TestWorkerSetup::withoutSettingsEverythingHasItsDefault()
+{
+    m_worker = std::make_unique<MHRWorker>();
+    m_worker->setTepDb(m_db.pluginConnection());
+    m_worker->setImportFile(m_file->path());
+    m_worker->setSyncCommand("/nowhere/at/all");
+    m_worker->start();
+    m_file->write({person(4321, 0).with(&ExportLine::evidencniStav, 7)});
+    // No debug lines, no command, the export stays, no state of that code.
+    QCOMPARE(tick(), QStringList());
+    QVERIFY(m_file->exists());
+    QCOMPARE(m_db.rows("SELECT did, rsText FROM people WHERE pid = 43211"), TableRows({{"1", ""}}));
+
+    // Sixty ticks to the next synchronisation.
+    m_file->write({person(4321, 0).with(&ExportLine::jmeno, "Eva")});
+    const QString firstName = "SELECT name FROM people WHERE pid = 43211";
+    CycleTest::tick(58);
+    QCOMPARE(m_db.value(firstName).toString(), QString("Jana"));
+    tick();
+    QCOMPARE(m_db.value(firstName).toString(), QString("Eva"));
 }
 
 void TestWorkerSetup::thePeriodIsAtLeastOneSecondAndAtMostWhatATimerTakes_data()
@@ -190,6 +216,7 @@ void TestWorkerSetup::anExistingConnectionIsTakenUpAndOpened()
 /// number 77.
 void TestWorkerSetup::moveToOtherDatabase()
 {
+    m_db.run("DROP DATABASE IF EXISTS other");
     m_db.run("CREATE DATABASE other");
     m_db.run("GRANT ALL ON other.* TO '" + m_db.server().userName() + "'@'localhost'");
     for (const QStringList &table : m_db.rows("SHOW TABLES"))
@@ -219,7 +246,7 @@ void TestWorkerSetup::aNewDatabaseReachesTheSettingsAndTheBranches()
     moveToOtherDatabase();
     QCOMPARE(m_log->lines(), QStringList("D MHRWorker::setTepDb(YAV.other.MirovaHR)"));
 
-    m_file->write({person(0)});
+    m_file->write({person(4322, 0)});
     QVERIFY(tick().contains("D MHRWorker: BEGIN synchronization #2 (force: YES)"));
     QCOMPARE(m_db.value("SELECT value FROM other.vars WHERE name = 'YAV.MHRWorker.forceSync'"),
              QVariant("0"));
@@ -231,13 +258,13 @@ void TestWorkerSetup::aNewDatabaseReachesTheCalendarGroupsWithTheNextStart()
 {
     startWorker(1);
     moveToOtherDatabase();
-    m_file->write({person(3)});
+    m_file->write({person(4323, 3)});
     QCOMPARE(tick().filter("into [groups_plan]!").size(), 1);
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM other.groups_plan").toInt(), 0);
 
     m_worker->start();
     m_db.run("UPDATE other.vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
-    m_file->write({person(3)});
+    m_file->write({person(4323, 3)});
     tick();
     QCOMPARE(m_db.value("SELECT gid FROM other.groups_plan").toInt(), 88);
     leaveOtherDatabase();

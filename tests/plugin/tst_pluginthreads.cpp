@@ -97,6 +97,7 @@ void TestPluginThreads::theTimerTicksAndEverythingRunsInTheWorkersThread()
     QSet<Qt::HANDLE> others;
     const QVector<LogMessage> messages = m_log->messages();
     for (const LogMessage &message : messages) {
+        QCOMPARE(message.category, QString("default"));
         if (message.threadId == QThread::currentThreadId())
             byTheHost += message.text;
         else
