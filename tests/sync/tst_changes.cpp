@@ -58,6 +58,7 @@ private Q_SLOTS:
     void aForcedCycleTakesEveryRecordThroughTheDatabase();
 
     void aConfiguredStateBeginsToday();
+    void aConfiguredStateSeenForTheFirstTimeIsRecalculated();
     void aConfiguredStateThatLastsIsNotWrittenAgain();
     void aStateThatIsLeftEndsToday();
     void aForcedCycleRestoresTheRelationshipState_data();
@@ -248,6 +249,17 @@ void TestChanges::aConfiguredStateBeginsToday()
                  line, ofTomas(today(), QDate(), "na materskej"), today().addDays(-1))));
 }
 
+void TestChanges::aConfiguredStateSeenForTheFirstTimeIsRecalculated()
+{
+    m_worker->setMes({{0, "v práci"}});
+    const QDate begin = today().addDays(-30);
+    m_db.run(QString("UPDATE people SET rsBegin = %1, rsText = 'v práci' WHERE uid = 8")
+                 .arg(localMidnight(begin)));
+    QCOMPARE(synchronise({tomas()}).statements.filter("UPDATE people SET pamId"),
+             QStringList(Sent::updatePersonAndLastCalc(tomas(), ofTomas(begin, QDate(), "v práci"),
+                                                       begin.addDays(-1))));
+}
+
 void TestChanges::aConfiguredStateThatLastsIsNotWrittenAgain()
 {
     m_worker->setMes({{0, "v práci"}});
@@ -335,18 +347,22 @@ void TestChanges::aFailedUpdateIsRepeatedWhenForced()
 
 void TestChanges::aNewSupervisorIsAssigned()
 {
+    newWorker(1);
     const auto assigned = [this](int personalNumber) {
         return synchronise({jana().with(&ExportLine::nadrizenyOsobniCislo, personalNumber)})
-            .statements.filter("admins_people");
+            .log.filter("processNadOsCis");
     };
-    const auto expected = [](int aid) {
-        return Sent::supervisor(aid, 4).mid(1, 2);
+    const auto expected = [](int personalNumber) {
+        return QStringList(
+            QString("D MHRWorker::processNadOsCis(1234.1, NOC: %1)").arg(personalNumber));
     };
-    QCOMPARE(assigned(1001), expected(1)); // seen for the first time
+    QCOMPARE(assigned(1001), expected(1001)); // seen for the first time
     QCOMPARE(assigned(1001), QStringList()); // unchanged
-    QCOMPARE(assigned(1002), expected(2)); // another one
+    QCOMPARE(assigned(1002), expected(1002)); // another one
     QCOMPARE(assigned(0), QStringList()); // none: the old one stays in the database
-    QCOMPARE(assigned(1002), expected(2)); // differs from none
+    QCOMPARE(m_db.rows("SELECT aid FROM admins_people WHERE uid = 4 AND request = 1"),
+             TableRows({{"2"}}));
+    QCOMPARE(assigned(1002), expected(1002)); // differs from none
 }
 
 void TestChanges::theSupervisorOfAnotherEmploymentTypeIsLeftAlone()
