@@ -7,7 +7,7 @@
 namespace Schedule {
 
 /// The key in `vars` that makes the next tick synchronise, everybody and at once.
-constexpr QLatin1String kForceSyncKey{"YAV.MHRWorker.forceSync"};
+const QLatin1String kForceSyncKey{"YAV.MHRWorker.forceSync"};
 
 /// The tick period in milliseconds for a configured one: not below a second.
 quint32 tickPeriod(quint32 configured);
