@@ -12,6 +12,7 @@ private Q_SLOTS:
     void theServersMidnightIsThatOfTheProgram();
 
     void aKnownPersonIsReconciledInOrder();
+    void everyStepForAKnownPersonHasItsPlace();
     void everyLineOfTheLogHasItsLevel_data() { addDebugLevels(); }
     void everyLineOfTheLogHasItsLevel();
 
@@ -51,6 +52,30 @@ void TestCycle::aKnownPersonIsReconciledInOrder()
                            << Sent::tellTerminals(12341, 4) << Sent::balance(12341)
                            << Sent::membership(12341, 1) << Sent::group(1, 3)
                            << Sent::plannedGroup(13, 4, 202301) << Sent::recalculation(4));
+}
+
+void TestCycle::everyStepForAKnownPersonHasItsPlace()
+{
+    m_db.run("DELETE FROM brape WHERE uid = 4");
+    const QDate since(2025, 3, 1);
+    const ExportLine line = jana()
+                                .with(&ExportLine::telefon, "1")
+                                .with(&ExportLine::dovolenaZustatek, "20")
+                                .with(&ExportLine::kalendar, 2)
+                                .with(&ExportLine::kalendarPlatnostOd, since)
+                                .with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    const Trace trace = synchronise({line});
+    QCOMPARE(trace.log, QStringList());
+    QCOMPARE(trace.statements,
+             Sent::begin() << Sent::fundChecks(12341, 4) << Sent::updatePerson(line)
+                           << Sent::tellTerminals(12341, 4) << Sent::balance(12341)
+                           << Sent::correction(4, 250) << Sent::findAdmin(1002)
+                           << Sent::supervisor(2, 4) << Sent::membership(12341, 1)
+                           << Sent::group(1, 2) << Sent::plannedGroup(12, 4, 202503)
+                           << Sent::planGroup(12, 4, 202503) << Sent::updateMonths(4, 202503)
+                           << Sent::recalculation(4, since) << Sent::recalculation(4)
+                           << Sent::joinBranch(1, "4")
+                           << Sent::propagation(1, {"4"}, {1, 2}, {1, 4}));
 }
 
 void TestCycle::everyLineOfTheLogHasItsLevel()
