@@ -397,13 +397,14 @@ void TestChanges::twoLinesOfOnePersonAreBothWrittenInEveryCycle()
 
 void TestChanges::aSecondLineSeesWhatTheFirstOneMoved()
 {
-    const ExportLine first = jana().with(&ExportLine::stredisko, 140);
+    const ExportLine first =
+        jana().with(&ExportLine::stredisko, 140).with(&ExportLine::kalendar, 2);
     const ExportLine second = ExportLine(first).with(&ExportLine::strediskoPopis, "Iné");
     const Trace trace = synchronise({first, second});
     QCOMPARE(trace.statements.mid(trace.statements.lastIndexOf(Sent::movesOfToday(12341))),
              Sent::fundChecks(12341, 4)
-                 << Sent::membership(12341, 3) << Sent::group(3, 3)
-                 << Sent::plannedGroup(13, 4, 202301) << Sent::joinBranch(3, "4,4")
+                 << Sent::membership(12341, 3) << Sent::group(3, 2)
+                 << Sent::plannedGroup(12, 4, 202301) << Sent::joinBranch(3, "4,4")
                  << Sent::propagation(3, {"4", "4"}, {7}, {3, 4}));
 }
 

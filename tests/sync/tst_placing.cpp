@@ -65,6 +65,7 @@ void TestPlacing::whoHasNoCostCentreIsNotPlaced()
 
 void TestPlacing::anUnchangedRecordIsPlacedOnlyWhenForced()
 {
+    m_db.run("DELETE FROM funds"); // or its balance would be what changed
     QCOMPARE(synchronise({jana()}).statements.count(Sent::membership(12341, 1)), 1);
     QCOMPARE(synchronise().statements.count(Sent::membership(12341, 1)), 0);
     force();
