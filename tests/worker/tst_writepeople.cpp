@@ -58,6 +58,7 @@ private Q_SLOTS:
     void branchesOfPeople();
     void anExistingPidIsMergedInto();
     void mergingTheSameAgainAddsNothing();
+    void aRowCountsWithoutAGeneratedKey();
     void aQuoteInANameFails_data();
     void aQuoteInANameFails();
     void aFailureToAddIsCritical_data();
@@ -267,6 +268,14 @@ void TestWritePeople::mergingTheSameAgainAddsNothing()
              QStringList("W MHRWorker::dbAddPerson(1234.2) - addPersonIntoPam() FAILED!"));
     QCOMPARE(trace.statements, QStringList({insertStatement(kFullValues), kFindExport}));
     QCOMPARE(personRow(), row);
+}
+
+void TestWritePeople::aRowCountsWithoutAGeneratedKey()
+{
+    // A site's table may take its keys from elsewhere: then only the affected rows tell.
+    m_db.run("ALTER TABLE people MODIFY uid INT UNSIGNED NOT NULL DEFAULT 42");
+    observe([this] { QVERIFY(m_worker->dbAddPerson(fullRecord())); });
+    QCOMPARE(m_db.rows("SELECT uid, pid FROM people"), TableRows({{"42", "12342"}}));
 }
 
 void TestWritePeople::aQuoteInANameFails_data()
