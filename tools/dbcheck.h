@@ -34,8 +34,8 @@ public:
     /// Ends it: with this sentence, when nothing was told in it.
     void end(const QString &wellSentence);
 
-    /// The plugin relies on something that is not so. \a message: sentences, the last one without its
-    /// full stop.
+    /// The plugin relies on something that is not so. \a message: sentences, the last one without
+    /// its full stop.
     void breach(const char *rule, const QString &message, const QString &advice,
                 const QString &field = QString());
     void tell(Severity severity, const char *rule, const QString &message, const QString &advice,
