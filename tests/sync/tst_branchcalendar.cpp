@@ -1,6 +1,6 @@
+#include "tests/support/localzone.h"
 #include "tests/sync/sent.h"
 #include "tests/sync/synctest.h"
-#include "tests/worker/localzone.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/worker/localzone.h"
+#include "tests/support/localzone.h"
 #include "tests/worker/recordtext.h"
 #include "worker/mhrworker.h"
 #include "worker/mirovaronrecord.h"

@@ -1,4 +1,4 @@
-#include "tests/worker/localzone.h"
+#include "tests/support/localzone.h"
 
 #include <QtGlobal>
 
