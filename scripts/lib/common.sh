@@ -8,8 +8,9 @@ script=$(basename -- "$0")
 project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-server-core
     mariadb-client-core util-linux)
 
-# What the tests take besides: a browser for the pages, readers for the manual pages.
-test_packages=(chromium man-db mandoc)
+# What the tests take besides: a browser for the pages, a clock that can be moved, readers for the
+# manual pages.
+test_packages=(chromium libfaketime man-db mandoc)
 
 fail()
 {
