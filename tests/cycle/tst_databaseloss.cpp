@@ -70,7 +70,7 @@ void TestDatabaseLoss::aServerRestartBetweenTicksGoesUnnoticed()
     tick();
     m_db.killServer();
     m_db.startServer();
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 7777)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     const QStringList lines = tick();
     QCOMPARE(lines.filter(QRegularExpression("^[WC] ")), QStringList());
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
@@ -80,7 +80,7 @@ void TestDatabaseLoss::aServerLostBeforePeopleAreLoadedEndsTheSynchronisation()
 {
     startWorker(1).setSyncInterval(1);
     setForce("1");
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 7777)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     {
         const LogHook hook("MHRWorker: BEGIN synchronization #1 (force: YES)",
                            [this] { m_db.killServer(); });
@@ -94,7 +94,7 @@ void TestDatabaseLoss::aServerLostBeforePeopleAreLoadedEndsTheSynchronisation()
         QVERIFY(lines.at(4).startsWith("C variableSet ERROR: \""));
     }
     m_db.startServer();
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 8888)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 8888)});
     // The flag could not be reset, so this one is forced as well.
     QVERIFY(tick().contains("D MHRWorker: BEGIN synchronization #2 (force: YES)"));
     QCOMPARE(force(), QString("0"));
@@ -105,8 +105,8 @@ void TestDatabaseLoss::aServerLostBeforePeopleAreLoadedEndsTheSynchronisation()
 void TestDatabaseLoss::aServerLostWhileWritingFailsTheWritesAndTheNextTickWorks()
 {
     startWorker(1).setSyncInterval(1);
-    const ExportLine first = ExportLine().with(&ExportLine::osobniCislo, 7777);
-    const ExportLine second = ExportLine().with(&ExportLine::osobniCislo, 8888);
+    const ExportRow first = ExportRow().with(&ExportRow::osobniCislo, 7777);
+    const ExportRow second = ExportRow().with(&ExportRow::osobniCislo, 8888);
     m_file->write({first, second});
     {
         const LogHook hook("MHRWorker::dbAddPerson(8888.1)", [this] { m_db.killServer(); });
@@ -146,12 +146,12 @@ void TestDatabaseLoss::aMissingSettingsTableLeavesRegularTicksWorking()
 void TestDatabaseLoss::aMissingPeopleTableIsForgottenByTheNextTick()
 {
     startWorker(1).setSyncInterval(1);
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 7777)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     m_db.hideTable("people");
     QVERIFY(tick().contains("C MHRWorker: load people from TEPDB failed - synchronization "
                             "terminated!"));
     m_db.restoreTable("people");
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 7777)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     QCOMPARE(tick().filter(QRegularExpression("^[WC] ")), QStringList());
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
 }

@@ -55,7 +55,7 @@ void TestExportCommand::theRunConditionDecides()
 void TestExportCommand::theFileThatTheCommandWritesIsReadInTheSameTick()
 {
     ExportFile source;
-    source.write({ExportLine().with(&ExportLine::osobniCislo, 7777)});
+    source.write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     MHRWorker &worker = startWorker();
     worker.setSyncCommand("/bin/cp " + source.path() + ' ' + m_file->path());
     worker.setSyncCommandRunCondition(2);
@@ -158,7 +158,7 @@ void TestExportCommand::aFailingCommandDoesNotKeepTheFileFromBeingRead()
     MHRWorker &worker = startWorker(0);
     worker.setSyncCommand(command);
     worker.setSyncCommandRunCondition(2);
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 7777)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     tick();
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
 }

@@ -159,7 +159,7 @@ void TestTick::theStepsOfASynchronisationComeInTheirOrder()
     worker.setSyncCommandRunCondition(2);
     setForce("1");
     // A person whom the database has as the export does: nothing is to be written.
-    m_file->write({ExportLine().with(&ExportLine::nadrizenyOsobniCislo, 0)});
+    m_file->write({ExportRow().with(&ExportRow::nadrizenyOsobniCislo, 0)});
     QStringList lines = tick();
     const auto ofLaterSteps = [](const QString &line) {
         static const QStringList steps = {"checkSync",    ": BEGIN",  "runCommand", "loadAndParse",
@@ -299,7 +299,7 @@ void TestTick::aTickDuringASynchronisationIsDropped()
 {
     startWorker();
     // A member is added to a branch in the middle of a synchronisation.
-    m_file->write({ExportLine().with(&ExportLine::stredisko, 130)});
+    m_file->write({ExportRow().with(&ExportRow::stredisko, 130)});
     connect(m_worker->findChild<BranchesRepository *>(),
             &BranchesRepository::sigAddedPeopleToBranch, m_worker.get(), &MHRWorker::checkSync);
     QStringList lines = tick();
@@ -323,7 +323,7 @@ void TestTick::failingToLoadPeopleEndsTheSynchronisation()
 {
     startWorker(1);
     setForce("1");
-    m_file->write({ExportLine()});
+    m_file->write({ExportRow()});
     m_db.hideTable("people");
     m_db.clearStatements();
     QCOMPARE(tick(),
@@ -343,7 +343,7 @@ void TestTick::failingToLoadPeopleEndsTheSynchronisation()
 void TestTick::recordsOfAFailedSynchronisationAreDiscarded()
 {
     startWorker().setSyncInterval(1);
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 7777)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     m_db.hideTable("people");
     tick();
     m_db.restoreTable("people");
@@ -352,7 +352,7 @@ void TestTick::recordsOfAFailedSynchronisationAreDiscarded()
     QCOMPARE(m_db.statements(), QStringList(kReadForce));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 0);
 
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 8888)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 8888)});
     const QStringList lines = tick();
     QVERIFY(lines.contains("D MHRWorker::doSync() - stack count: 1"));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 88881").toInt(), 1);
@@ -361,7 +361,7 @@ void TestTick::recordsOfAFailedSynchronisationAreDiscarded()
 void TestTick::waitingRecordsStayUntilACycleHasRecords()
 {
     startWorker(1).setSyncInterval(1);
-    const QVector<ExportLine> ofAnUnknownBranch = {ExportLine().with(&ExportLine::stredisko, 999)};
+    const QVector<ExportRow> ofAnUnknownBranch = {ExportRow().with(&ExportRow::stredisko, 999)};
     const QString end = "D MHRWorker: END synchronization #%1 (waiting records: %2)";
 
     m_file->write(ofAnUnknownBranch);

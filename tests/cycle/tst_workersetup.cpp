@@ -11,11 +11,11 @@ namespace {
 
 /// Each test needs somebody of its own: the uid of a pid is remembered by the process, whatever the
 /// database.
-ExportLine person(int personalNumber, int calendar)
+ExportRow person(int personalNumber, int calendar)
 {
-    return ExportLine()
-        .with(&ExportLine::osobniCislo, personalNumber)
-        .with(&ExportLine::kalendar, calendar);
+    return ExportRow()
+        .with(&ExportRow::osobniCislo, personalNumber)
+        .with(&ExportRow::kalendar, calendar);
 }
 
 } // namespace
@@ -107,14 +107,14 @@ void TestWorkerSetup::withoutSettingsEverythingHasItsDefault()
     m_worker->setImportFile(m_file->path());
     m_worker->setSyncCommand("/nowhere/at/all");
     m_worker->start();
-    m_file->write({person(4321, 0).with(&ExportLine::evidencniStav, 7)});
+    m_file->write({person(4321, 0).with(&ExportRow::evidencniStav, 7)});
     // No debug lines, no command, the export stays, no state of that code.
     QCOMPARE(tick(), QStringList());
     QVERIFY(m_file->exists());
     QCOMPARE(m_db.rows("SELECT did, rsText FROM people WHERE pid = 43211"), TableRows({{"1", ""}}));
 
     // Sixty ticks to the next synchronisation.
-    m_file->write({person(4321, 0).with(&ExportLine::jmeno, "Eva")});
+    m_file->write({person(4321, 0).with(&ExportRow::jmeno, "Eva")});
     const QString firstName = "SELECT name FROM people WHERE pid = 43211";
     CycleTest::tick(58);
     QCOMPARE(m_db.value(firstName).toString(), QString("Jana"));
@@ -369,7 +369,7 @@ void TestWorkerSetup::theRepositoriesLogAtTheLevelOfTheWorker()
 void TestWorkerSetup::anAssignmentToAGroupUpdatesTheGroupsOfTheMonths()
 {
     startWorker(2);
-    m_file->write({ExportLine().with(&ExportLine::kalendarPlatnostOd, QDate(2024, 3, 1))});
+    m_file->write({ExportRow().with(&ExportRow::kalendarPlatnostOd, QDate(2024, 3, 1))});
     QVERIFY(tick().contains("D GroupsPlanRepo::updateGroupsMonth(4, 202403)"));
 }
 

@@ -257,7 +257,7 @@ void TestWorkerThread::theHostDoesNotWaitForARunningSynchronisation()
 void TestWorkerThread::aStopDuringASynchronisationLetsItFinish()
 {
     CommandGate gate;
-    m_file->write({ExportLine().with(&ExportLine::osobniCislo, 7777)});
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     ThreadedWorker worker(m_db);
     worker->setImportFile(m_file->path());
     worker->setSyncCommand(gate.command());
@@ -286,9 +286,9 @@ void TestWorkerThread::theEndOfTheThreadDeletesTheWorkerInItsThread()
 void TestWorkerThread::theEndOfTheThreadWaitsForARunningSynchronisation()
 {
     CommandGate gate;
-    QVector<ExportLine> people;
+    QVector<ExportRow> people;
     for (int number = 7001; number <= 7050; ++number)
-        people += ExportLine().with(&ExportLine::osobniCislo, number);
+        people += ExportRow().with(&ExportRow::osobniCislo, number);
     m_file->write(people);
     ThreadedWorker worker(m_db);
     worker->setImportFile(m_file->path());

@@ -82,7 +82,7 @@ void TestYavHost::initTestCase()
 void TestYavHost::init()
 {
     m_db.reset();
-    m_export.write(QStringList{ExportLine().with(&ExportLine::osobniCislo, 4711).text()});
+    m_export.write(QStringList{ExportRow().with(&ExportRow::osobniCislo, 4711).text()});
     writeIni();
 }
 
@@ -244,7 +244,7 @@ void TestYavHost::onceIsSuccessfulWithoutAnExportFile()
 void TestYavHost::atDebugLevel0OnlyWarningsArePrinted()
 {
     m_export.write(
-        {ExportLine().with(&ExportLine::osobniCislo, 4711).with(&ExportLine::stredisko, 999)});
+        {ExportRow().with(&ExportRow::osobniCislo, 4711).with(&ExportRow::stredisko, 999)});
     ProgramRun host;
     QVERIFY(host.run(kHost, arguments({"--once", "--debug-level", "0"})));
     COMPARE_STATUS(host, 0);
@@ -258,7 +258,7 @@ void TestYavHost::warningsGoToStandardErrorAndTheRestToStandardOutput()
 {
     m_db.hideTable("people_pam");
     m_export.write(
-        {ExportLine().with(&ExportLine::osobniCislo, 4711).with(&ExportLine::stredisko, 999)});
+        {ExportRow().with(&ExportRow::osobniCislo, 4711).with(&ExportRow::stredisko, 999)});
     ProgramRun host;
     QVERIFY(host.run(kHost, arguments({"--once"})));
     COMPARE_STATUS(host, 0);

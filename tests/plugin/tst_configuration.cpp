@@ -45,9 +45,9 @@ QByteArray TestConfiguration::iniWithFile(const QByteArray &lines) const
 /// To the export file: pid 77771.
 void TestConfiguration::writeNewPerson(quint16 registerState)
 {
-    m_file->write({ExportLine()
-                       .with(&ExportLine::osobniCislo, 7777)
-                       .with(&ExportLine::evidencniStav, registerState)});
+    m_file->write({ExportRow()
+                       .with(&ExportRow::osobniCislo, 7777)
+                       .with(&ExportRow::evidencniStav, registerState)});
 }
 
 void TestConfiguration::withoutAFileEveryKeyHasItsDefault()

@@ -54,9 +54,9 @@ QByteArray TestPluginThreads::iniWithFile(const QByteArray &lines) const
 /// To the export file: pids 70011, 70021, ...
 void TestPluginThreads::writePeople(int count)
 {
-    QVector<ExportLine> lines;
+    QVector<ExportRow> lines;
     for (int number = 1; number <= count; ++number)
-        lines += ExportLine().with(&ExportLine::osobniCislo, 7000 + number);
+        lines += ExportRow().with(&ExportRow::osobniCislo, 7000 + number);
     m_file->write(lines);
 }
 

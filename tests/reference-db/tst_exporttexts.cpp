@@ -4,9 +4,9 @@
 namespace {
 
 /// Jana with another surname.
-ExportLine jana(const QString &surname)
+ExportRow jana(const QString &surname)
 {
-    return SampleExport::jana().with(&ExportLine::prijmeni, surname);
+    return SampleExport::jana().with(&ExportRow::prijmeni, surname);
 }
 
 int syntaxErrors(const QStringList &log)
@@ -56,14 +56,14 @@ void TestExportTexts::anApostropheMakesTheStatementFail()
 void TestExportTexts::nobodyElseSuffersFromIt()
 {
     synchronise(
-        {jana("D'Arc"), SampleExport::maria().with(&ExportLine::prijmeni, QStringLiteral("Malá"))});
+        {jana("D'Arc"), SampleExport::maria().with(&ExportRow::prijmeni, QStringLiteral("Malá"))});
     QCOMPARE(surname(10011), QString("Malá"));
 }
 
 void TestExportTexts::aBackslashAtTheEndMakesTheStatementFail()
 {
     const QStringList log =
-        synchronise({jana("Malá").with(&ExportLine::titul, QStringLiteral("Mgr.\\"))}).log;
+        synchronise({jana("Malá").with(&ExportRow::titul, QStringLiteral("Mgr.\\"))}).log;
     QCOMPARE(syntaxErrors(log), 1);
     QCOMPARE(surname(12341), QString("Nováková"));
 }
@@ -78,8 +78,8 @@ void TestExportTexts::twoTextsReachEachOtherWithoutAnApostrophe()
 {
     synchronise(
         {SampleExport::jana()
-             .with(&ExportLine::titul, QStringLiteral("\\"))
-             .with(&ExportLine::jmeno, QStringLiteral(", phone=0x393939 WHERE pid=12341 -- "))});
+             .with(&ExportRow::titul, QStringLiteral("\\"))
+             .with(&ExportRow::jmeno, QStringLiteral(", phone=0x393939 WHERE pid=12341 -- "))});
     QCOMPARE(m_db.value("SELECT phone FROM people WHERE pid = 12341").toString(), QString("999"));
 }
 

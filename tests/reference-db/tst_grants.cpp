@@ -121,12 +121,12 @@ QStringList TestGrants::runThePlugin()
     m_db.run("UPDATE people SET status = 0 WHERE uid = 5");
     m_db.run("DELETE FROM people_pam WHERE uid = 5");
     force();
-    const QVector<ExportLine> lines{
-        SampleExport::maria().with(&ExportLine::dovolenaZustatek, QStringLiteral("21")),
-        SampleExport::peter().with(&ExportLine::nadrizenyOsobniCislo, 1001),
-        SampleExport::jana().with(&ExportLine::stredisko, 130), SampleExport::jan(),
+    const QVector<ExportRow> lines{
+        SampleExport::maria().with(&ExportRow::dovolenaZustatek, QStringLiteral("21")),
+        SampleExport::peter().with(&ExportRow::nadrizenyOsobniCislo, 1001),
+        SampleExport::jana().with(&ExportRow::stredisko, 130), SampleExport::jan(),
         SampleExport::newcomer(newPersonalNumber())
-            .with(&ExportLine::kalendarPlatnostOd, QDate(2024, 1, 1))};
+            .with(&ExportRow::kalendarPlatnostOd, QDate(2024, 1, 1))};
     return synchronise(lines).log;
 }
 

@@ -8,23 +8,23 @@ QString exportDate(const QDate &date)
                           : QString();
 }
 
-ExportLine &ExportLine::with(QString ExportLine::*field, const QString &value)
+ExportRow &ExportRow::with(QString ExportRow::*field, const QString &value)
 {
     this->*field = value;
     return *this;
 }
 
-ExportLine &ExportLine::with(QString ExportLine::*field, qlonglong value)
+ExportRow &ExportRow::with(QString ExportRow::*field, qlonglong value)
 {
     return with(field, QString::number(value));
 }
 
-ExportLine &ExportLine::with(QString ExportLine::*field, const QDate &value)
+ExportRow &ExportRow::with(QString ExportRow::*field, const QDate &value)
 {
     return with(field, exportDate(value));
 }
 
-QStringList ExportLine::fields() const
+QStringList ExportRow::fields() const
 {
     return {osobniCislo,
             poradoveCisloPP,
@@ -46,7 +46,7 @@ QStringList ExportLine::fields() const
             nadrizenyOsobniCislo};
 }
 
-QString ExportLine::text() const
+QString ExportRow::text() const
 {
     return fields().join('|');
 }
@@ -81,10 +81,10 @@ void ExportFile::write(const QStringList &lines)
     writeBytes(content);
 }
 
-void ExportFile::write(const QVector<ExportLine> &lines)
+void ExportFile::write(const QVector<ExportRow> &lines)
 {
     QStringList texts;
-    for (const ExportLine &line : lines)
+    for (const ExportRow &line : lines)
         texts += line.text();
     write(texts);
 }

@@ -12,8 +12,8 @@ QString exportDate(const QDate &date);
 /// One line of the HR export, its fields in their order, as text, so that a test can write broken
 /// values as well. The defaults are one good employee; a test names only what it is about:
 ///
-///     ExportLine().with(&ExportLine::jmeno, "Ján").with(&ExportLine::stredisko, 130).text()
-struct ExportLine {
+///     ExportRow().with(&ExportRow::jmeno, "Ján").with(&ExportRow::stredisko, 130).text()
+struct ExportRow {
     QString osobniCislo = QStringLiteral("1234");
     QString poradoveCisloPP = QStringLiteral("1");
     QString titul = QStringLiteral("Ing.");
@@ -33,13 +33,10 @@ struct ExportLine {
     QString dovolenaZustatek = QStringLiteral("12.5");
     QString nadrizenyOsobniCislo = QStringLiteral("0");
 
-    ExportLine &with(QString ExportLine::*field, const QString &value);
-    ExportLine &with(QString ExportLine::*field, qlonglong value);
-    ExportLine &with(QString ExportLine::*field, int value)
-    {
-        return with(field, qlonglong(value));
-    }
-    ExportLine &with(QString ExportLine::*field, const QDate &value);
+    ExportRow &with(QString ExportRow::*field, const QString &value);
+    ExportRow &with(QString ExportRow::*field, qlonglong value);
+    ExportRow &with(QString ExportRow::*field, int value) { return with(field, qlonglong(value)); }
+    ExportRow &with(QString ExportRow::*field, const QDate &value);
 
     QStringList fields() const; ///< All 18.
     QString text() const; ///< Joined by "|", without a line feed.
@@ -55,7 +52,7 @@ public:
     void remove();
     /// Replaces the content. Each line ends with a line feed.
     void write(const QStringList &lines);
-    void write(const QVector<ExportLine> &lines);
+    void write(const QVector<ExportRow> &lines);
     void writeBytes(const QByteArray &content);
 
 private:

@@ -285,25 +285,25 @@ void TestSupport::anInnerCaptureHidesItsMessagesFromTheOuterOne()
 
 void TestSupport::anExportLineHas18FieldsInTheirOrder()
 {
-    QCOMPARE(ExportLine()
-                 .with(&ExportLine::osobniCislo, 1)
-                 .with(&ExportLine::poradoveCisloPP, 2)
-                 .with(&ExportLine::titul, "c")
-                 .with(&ExportLine::jmeno, "d")
-                 .with(&ExportLine::prijmeni, "e")
-                 .with(&ExportLine::titulZa, "f")
-                 .with(&ExportLine::telefon, "g")
-                 .with(&ExportLine::datumNastupu, QDate(2024, 2, 1))
-                 .with(&ExportLine::datumVystupu, QDate())
-                 .with(&ExportLine::stredisko, 10)
-                 .with(&ExportLine::strediskoPopis, "k")
-                 .with(&ExportLine::kalendar, 12)
-                 .with(&ExportLine::kalendarPlatnostOd, "m")
-                 .with(&ExportLine::typPracovnihoPomeru, 14)
-                 .with(&ExportLine::stavPracovnihoPomeru, 15)
-                 .with(&ExportLine::evidencniStav, 16)
-                 .with(&ExportLine::dovolenaZustatek, "17.5")
-                 .with(&ExportLine::nadrizenyOsobniCislo, 18)
+    QCOMPARE(ExportRow()
+                 .with(&ExportRow::osobniCislo, 1)
+                 .with(&ExportRow::poradoveCisloPP, 2)
+                 .with(&ExportRow::titul, "c")
+                 .with(&ExportRow::jmeno, "d")
+                 .with(&ExportRow::prijmeni, "e")
+                 .with(&ExportRow::titulZa, "f")
+                 .with(&ExportRow::telefon, "g")
+                 .with(&ExportRow::datumNastupu, QDate(2024, 2, 1))
+                 .with(&ExportRow::datumVystupu, QDate())
+                 .with(&ExportRow::stredisko, 10)
+                 .with(&ExportRow::strediskoPopis, "k")
+                 .with(&ExportRow::kalendar, 12)
+                 .with(&ExportRow::kalendarPlatnostOd, "m")
+                 .with(&ExportRow::typPracovnihoPomeru, 14)
+                 .with(&ExportRow::stavPracovnihoPomeru, 15)
+                 .with(&ExportRow::evidencniStav, 16)
+                 .with(&ExportRow::dovolenaZustatek, "17.5")
+                 .with(&ExportRow::nadrizenyOsobniCislo, 18)
                  .text(),
              QString("1|2|c|d|e|f|g|2024-02-01 00:00:00.000||10|k|12|m|14|15|16|17.5|18"));
 }
@@ -321,7 +321,7 @@ void TestSupport::anExportFileIsWrittenWithLineFeedsAndGoesAway()
         QCOMPARE(written.readAll(), QByteArray("ž\nb\n"));
         file.remove();
         QVERIFY(!file.exists());
-        file.write(QVector<ExportLine>({ExportLine(), ExportLine()}));
+        file.write(QVector<ExportRow>({ExportRow(), ExportRow()}));
         QVERIFY(file.exists());
     }
     QVERIFY(!QFile::exists(path));

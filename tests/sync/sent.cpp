@@ -15,23 +15,23 @@ QString lastSecondOf(const QDate &date)
                           : QStringLiteral("NULL");
 }
 
-QString pidOf(const ExportLine &line)
+QString pidOf(const ExportRow &line)
 {
     return line.osobniCislo + line.poradoveCisloPP;
 }
 
-QString payrollIdOf(const ExportLine &line)
+QString payrollIdOf(const ExportRow &line)
 {
     return line.osobniCislo + '.' + line.poradoveCisloPP;
 }
 
-QString begin(const ExportLine &line)
+QString begin(const ExportRow &line)
 {
     const QDate date = dateOf(line.datumNastupu);
     return QString::number(localMidnight(date.isValid() ? date : QDate(2000, 1, 1)));
 }
 
-QString update(const ExportLine &line, const Sent::PersonValues &values, const QString &lastCalc,
+QString update(const ExportRow &line, const Sent::PersonValues &values, const QString &lastCalc,
                const QString &end)
 {
     return QString("UPDATE people SET pamId=" + payrollIdOf(line) + ", title='" + line.titul
@@ -124,7 +124,7 @@ QStringList Sent::fundChecks(uint pid, int uid)
     return {movesOfToday(pid), calculation(pid), openDays(uid)};
 }
 
-QString Sent::insertPerson(const ExportLine &line, const PersonValues &values)
+QString Sent::insertPerson(const ExportRow &line, const PersonValues &values)
 {
     return "INSERT INTO people (pid, pamId, title, name, surname, title2, phone, begin, end, "
            "created, rsBegin, rsEnd, rsText, type, did, calendarID, bid) VALUES('"
@@ -160,12 +160,12 @@ QStringList Sent::payrollBinding(uint pid, int uid, int payrollId)
                 .arg(payrollId)};
 }
 
-QString Sent::updatePerson(const ExportLine &line, const PersonValues &values)
+QString Sent::updatePerson(const ExportRow &line, const PersonValues &values)
 {
     return update(line, values, QString(), "  ");
 }
 
-QString Sent::updatePersonAndLastCalc(const ExportLine &line, const PersonValues &values,
+QString Sent::updatePersonAndLastCalc(const ExportRow &line, const PersonValues &values,
                                       const QDate &lastCalc)
 {
     return update(line, values, QString("lastCalc=%1, ").arg(localMidnight(lastCalc)), " ");

@@ -37,14 +37,14 @@ struct PersonValues {
     QString rsText;
 };
 
-QString insertPerson(const ExportLine &line, const PersonValues &values = {});
+QString insertPerson(const ExportRow &line, const PersonValues &values = {});
 /// The selection of the one payroll export of the sample, with one more person.
 QStringList payrollSelection(uint pid);
 QStringList payrollBinding(uint pid, int uid, int payrollId);
 
-QString updatePerson(const ExportLine &line, const PersonValues &values = {});
+QString updatePerson(const ExportRow &line, const PersonValues &values = {});
 /// With a new relationship state, which sets the last calculation.
-QString updatePersonAndLastCalc(const ExportLine &line, const PersonValues &values,
+QString updatePersonAndLastCalc(const ExportRow &line, const PersonValues &values,
                                 const QDate &lastCalc);
 /// What follows an update that changed the row.
 QStringList tellTerminals(uint pid, int uid);

@@ -69,7 +69,7 @@ Trace SyncTest::observe(const std::function<void()> &work)
     return {log.lines(), m_db.statements()};
 }
 
-Trace SyncTest::synchronise(const QVector<ExportLine> &lines)
+Trace SyncTest::synchronise(const QVector<ExportRow> &lines)
 {
     m_export.write(lines);
     return synchronise();

@@ -31,7 +31,7 @@ protected:
     Trace observe(const std::function<void()> &work);
 
     /// Writes the export and ticks once.
-    Trace synchronise(const QVector<ExportLine> &lines);
+    Trace synchronise(const QVector<ExportRow> &lines);
     /// Ticks once, with the export as it is.
     Trace synchronise();
 

@@ -106,7 +106,7 @@ void TestBadInput::aQuoteInANameKeepsThatPersonOut()
     const QString good = QString::number(newPersonalNumber());
     StateChanges changes(m_db);
     const Trace trace = synchronise(
-        {newcomer(bad.toInt()).with(&ExportLine::prijmeni, "D'Arc"), newcomer(good.toInt())});
+        {newcomer(bad.toInt()).with(&ExportRow::prijmeni, "D'Arc"), newcomer(good.toInt())});
     QCOMPARE(trace.log.size(), 2);
     QVERIFY2(trace.log[0].startsWith("C MHRWorker::dbAddPerson(" + bad
                                      + ".1) - SQL ERROR: You have an error in your SQL syntax;"),
@@ -127,8 +127,8 @@ void TestBadInput::aQuoteInANameKeepsThatPersonOut()
 void TestBadInput::aQuoteInTheNameOfAKnownPersonKeepsTheRowAsItWas()
 {
     StateChanges changes(m_db);
-    const Trace trace = synchronise({jana().with(&ExportLine::prijmeni, "O'Neill"),
-                                     peter().with(&ExportLine::telefon, "0905999999")});
+    const Trace trace = synchronise({jana().with(&ExportRow::prijmeni, "O'Neill"),
+                                     peter().with(&ExportRow::telefon, "0905999999")});
     QCOMPARE(trace.log.size(), 1);
     QVERIFY2(trace.log[0].startsWith("C MHRWorker::dbUpdatePerson(1234.1) - SQL ERROR: You have an "
                                      "error in your SQL syntax;"),
@@ -142,7 +142,7 @@ void TestBadInput::aQuoteInTheNameOfAKnownPersonKeepsTheRowAsItWas()
     QCOMPARE(synchronise().log, QStringList());
     QCOMPARE(synchronise({jana()}).log, QStringList());
     QCOMPARE(m_db.value("SELECT edited > 0 FROM people WHERE uid = 4").toInt(), 0);
-    QCOMPARE(synchronise({jana().with(&ExportLine::prijmeni, "Nová")}).log, QStringList());
+    QCOMPARE(synchronise({jana().with(&ExportRow::prijmeni, "Nová")}).log, QStringList());
     QCOMPARE(m_db.value("SELECT surname FROM people WHERE uid = 4").toString(), QString("Nová"));
 }
 
@@ -152,10 +152,10 @@ void TestBadInput::brokenLinesLeaveTheOthersAlone()
         "",
         "not a line",
         jana().text() + "|", // 19 fields
-        jana().with(&ExportLine::osobniCislo, "12a4").text(),
-        jana().with(&ExportLine::poradoveCisloPP, 0).text(),
-        jana().with(&ExportLine::jmeno, "").with(&ExportLine::prijmeni, "").text(),
-        "   " + peter().with(&ExportLine::telefon, "0905999999").text() + "\t\r",
+        jana().with(&ExportRow::osobniCislo, "12a4").text(),
+        jana().with(&ExportRow::poradoveCisloPP, 0).text(),
+        jana().with(&ExportRow::jmeno, "").with(&ExportRow::prijmeni, "").text(),
+        "   " + peter().with(&ExportRow::telefon, "0905999999").text() + "\t\r",
         QString(70000, 'x'),
         tomas().text(),
     });
@@ -172,8 +172,8 @@ void TestBadInput::brokenLinesLeaveTheOthersAlone()
 void TestBadInput::twoLinesOfOneNewcomerMakeOnePerson()
 {
     const QString number = QString::number(newPersonalNumber());
-    const ExportLine first = newcomer(number.toInt());
-    const ExportLine second = ExportLine(first).with(&ExportLine::prijmeni, "Veľká");
+    const ExportRow first = newcomer(number.toInt());
+    const ExportRow second = ExportRow(first).with(&ExportRow::prijmeni, "Veľká");
     StateChanges changes(m_db);
     const Trace trace = synchronise({first, second, second});
     // The people were loaded before the first line, so the second one is taken for a newcomer's,
@@ -195,7 +195,7 @@ void TestBadInput::whoLeavesKeepsTheRest()
     m_db.run("DELETE FROM term_sync");
     StateChanges changes(m_db);
     const QDate yesterday = today().addDays(-1);
-    const ExportLine line = jana().with(&ExportLine::datumVystupu, yesterday);
+    const ExportRow line = jana().with(&ExportRow::datumVystupu, yesterday);
     QCOMPARE(synchronise({line}).log, QStringList());
     // No row is deleted: not from the branch, the terminals, the administrators.
     QCOMPARE(changes.lines(),
@@ -215,12 +215,12 @@ void TestBadInput::inTestModeNoPersonIsWritten()
     StateChanges changes(m_db);
     const Trace trace =
         synchronise({jana()
-                         .with(&ExportLine::prijmeni, "Malá")
-                         .with(&ExportLine::dovolenaZustatek, "20")
-                         .with(&ExportLine::kalendar, 2)
-                         .with(&ExportLine::kalendarPlatnostOd, QDate(2025, 3, 1))
-                         .with(&ExportLine::nadrizenyOsobniCislo, 1002),
-                     newcomer(number.toInt()).with(&ExportLine::nadrizenyOsobniCislo, 1002)});
+                         .with(&ExportRow::prijmeni, "Malá")
+                         .with(&ExportRow::dovolenaZustatek, "20")
+                         .with(&ExportRow::kalendar, 2)
+                         .with(&ExportRow::kalendarPlatnostOd, QDate(2025, 3, 1))
+                         .with(&ExportRow::nadrizenyOsobniCislo, 1002),
+                     newcomer(number.toInt()).with(&ExportRow::nadrizenyOsobniCislo, 1002)});
     const QString person = described(number, "Malá", "1002");
     QCOMPARE(
         trace.log.filter(QRegularExpression("^[WC]")),
@@ -249,7 +249,7 @@ void TestBadInput::inTestModeTheNextCycleIsAsQuiet()
 {
     m_worker->setTestMode(true);
     const QString number = QString::number(newPersonalNumber());
-    synchronise({tomas().with(&ExportLine::telefon, "1"), newcomer(number.toInt())});
+    synchronise({tomas().with(&ExportRow::telefon, "1"), newcomer(number.toInt())});
     const DatabaseState state = m_db.dumpAll();
     const uint pid = QString(number + "1").toUInt();
     const Trace trace = synchronise();
@@ -352,13 +352,13 @@ void TestBadInput::aTableThatVanishesStopsNothing()
     QFETCH(QString, table);
     QFETCH(QStringList, log);
     const QString number = QString::number(newPersonalNumber());
-    const QVector<ExportLine> lines = {jana()
-                                           .with(&ExportLine::telefon, "1")
-                                           .with(&ExportLine::dovolenaZustatek, "20")
-                                           .with(&ExportLine::kalendar, 2)
-                                           .with(&ExportLine::kalendarPlatnostOd, QDate(2025, 3, 1))
-                                           .with(&ExportLine::nadrizenyOsobniCislo, 1002),
-                                       newcomer(number.toInt())};
+    const QVector<ExportRow> lines = {jana()
+                                          .with(&ExportRow::telefon, "1")
+                                          .with(&ExportRow::dovolenaZustatek, "20")
+                                          .with(&ExportRow::kalendar, 2)
+                                          .with(&ExportRow::kalendarPlatnostOd, QDate(2025, 3, 1))
+                                          .with(&ExportRow::nadrizenyOsobniCislo, 1002),
+                                      newcomer(number.toInt())};
     m_export.write(lines);
     const Trace trace = observe([&] {
         m_worker->loadAndParseData();
@@ -379,7 +379,7 @@ void TestBadInput::aTableThatVanishesStopsNothing()
 
 void TestBadInput::aServerThatIsLostInTheMiddleStopsNothing()
 {
-    m_export.write({tomas(), peter().with(&ExportLine::telefon, "0905999999")});
+    m_export.write({tomas(), peter().with(&ExportRow::telefon, "0905999999")});
     m_worker->dbCheckOpen();
     const LogCapture log;
     m_worker->loadAndParseData();
@@ -409,7 +409,7 @@ void TestBadInput::aServerThatIsLostInTheMiddleStopsNothing()
 void TestBadInput::aServerThatIsAwayDropsTheTick()
 {
     synchronise({tomas()});
-    m_export.write({tomas().with(&ExportLine::telefon, "1")});
+    m_export.write({tomas().with(&ExportRow::telefon, "1")});
     m_db.stopServer();
     {
         const LogCapture log;

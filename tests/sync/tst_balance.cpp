@@ -13,9 +13,9 @@ QDate today()
     return QDate::currentDate();
 }
 
-ExportLine tomasWith(const QString &balance)
+ExportRow tomasWith(const QString &balance)
 {
-    return tomas().with(&ExportLine::dovolenaZustatek, balance);
+    return tomas().with(&ExportRow::dovolenaZustatek, balance);
 }
 
 QString notWritten(const QString &value)
@@ -76,9 +76,9 @@ void TestBalance::aChangedBalanceIsCorrectedAndRecalculated()
 
 void TestBalance::theCorrectionIsTheDifferenceToTheBalanceInTheFund()
 {
-    QVERIFY(synchronise({jana().with(&ExportLine::dovolenaZustatek, "20")})
+    QVERIFY(synchronise({jana().with(&ExportRow::dovolenaZustatek, "20")})
                 .statements.contains(Sent::correction(4, 250)));
-    QVERIFY(synchronise({maria().with(&ExportLine::dovolenaZustatek, "-1")})
+    QVERIFY(synchronise({maria().with(&ExportRow::dovolenaZustatek, "-1")})
                 .statements.contains(Sent::correction(1, -2100)));
 }
 
@@ -134,7 +134,7 @@ void TestBalance::aBalanceThatDoesNotFitIsNotWritten()
     m_db.run(QString("INSERT INTO funds_move (type, day, month, value, fid, uid) "
                      "VALUES (1, UNIX_TIMESTAMP('2025-01-01'), 202501, %1, 2, 8)")
                  .arg(current));
-    synchronise({tomas().with(&ExportLine::dovolenaZustatek, QString::number(current / 100))});
+    synchronise({tomas().with(&ExportRow::dovolenaZustatek, QString::number(current / 100))});
     const DatabaseState before = m_db.dumpAll();
     const Trace trace = synchronise({tomasWith(days)});
     QCOMPARE(trace.log, QStringList(notWritten(shown)));
@@ -193,7 +193,7 @@ void TestBalance::withoutAFundAChangedBalanceStillAsksForARecalculation()
     // The loaded person has no start of a calendar, so a line with one always differs from it.
     m_db.run("DELETE FROM funds WHERE fid = 2");
     synchronise({jana()});
-    QCOMPARE(synchronise({jana().with(&ExportLine::dovolenaZustatek, "3")}).statements,
+    QCOMPARE(synchronise({jana().with(&ExportRow::dovolenaZustatek, "3")}).statements,
              Sent::begin() << Sent::membership(12341, 1) << Sent::group(1, 3)
                            << Sent::plannedGroup(13, 4, 202301) << Sent::recalculation(4));
 }
@@ -222,7 +222,7 @@ void TestBalance::aForcedCycleLoadsAnUnchangedBalance()
 void TestBalance::anotherChangeLeavesAnUnchangedBalanceAlone()
 {
     synchronise({tomas()});
-    const ExportLine line = tomas().with(&ExportLine::strediskoPopis, "Sklad");
+    const ExportRow line = tomas().with(&ExportRow::strediskoPopis, "Sklad");
     QCOMPARE(synchronise({line}).statements, Sent::begin() << Sent::fundChecks(20012, 8));
 }
 
@@ -294,7 +294,7 @@ void TestBalance::aBalanceThatCannotBeLoadedIsReported()
     QFETCH(int, debugLevel);
     newWorker(debugLevel);
     refuseColumn("funds_move", "value", "type = 2");
-    const Trace trace = synchronise({jana().with(&ExportLine::dovolenaZustatek, "5")});
+    const Trace trace = synchronise({jana().with(&ExportRow::dovolenaZustatek, "5")});
     QCOMPARE(trace.log.filter("loadFundStatusAndMove3"),
              linesAt(debugLevel,
                      {{2, "D MHRWorker::loadFundStatusAndMove3(pid: 12341)"},

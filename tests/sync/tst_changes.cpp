@@ -99,27 +99,27 @@ void TestChanges::anUnchangedLineOnlyAsksWhetherTheBalanceCouldBeCorrected()
 
 void TestChanges::aChangedLineIsWrittenWhenTheRowHoldsTheField_data()
 {
-    QTest::addColumn<ExportLine>("line");
+    QTest::addColumn<ExportRow>("line");
     QTest::addColumn<QString>("bid");
-    QTest::newRow("title") << tomas().with(&ExportLine::titul, "Bc.") << "NULL";
-    QTest::newRow("first name") << tomas().with(&ExportLine::jmeno, "Tomas") << "NULL";
-    QTest::newRow("surname") << tomas().with(&ExportLine::prijmeni, "Balaz") << "NULL";
-    QTest::newRow("title after") << tomas().with(&ExportLine::titulZa, "PhD.") << "NULL";
-    QTest::newRow("phone") << tomas().with(&ExportLine::telefon, "0905") << "NULL";
-    QTest::newRow("begin") << tomas().with(&ExportLine::datumNastupu, QDate(2024, 7, 2)) << "NULL";
-    QTest::newRow("end") << tomas().with(&ExportLine::datumVystupu, today()) << "NULL";
-    QTest::newRow("calendar") << tomas().with(&ExportLine::kalendar, 2) << "NULL";
-    QTest::newRow("branch") << tomas().with(&ExportLine::stredisko, 140) << "3";
+    QTest::newRow("title") << tomas().with(&ExportRow::titul, "Bc.") << "NULL";
+    QTest::newRow("first name") << tomas().with(&ExportRow::jmeno, "Tomas") << "NULL";
+    QTest::newRow("surname") << tomas().with(&ExportRow::prijmeni, "Balaz") << "NULL";
+    QTest::newRow("title after") << tomas().with(&ExportRow::titulZa, "PhD.") << "NULL";
+    QTest::newRow("phone") << tomas().with(&ExportRow::telefon, "0905") << "NULL";
+    QTest::newRow("begin") << tomas().with(&ExportRow::datumNastupu, QDate(2024, 7, 2)) << "NULL";
+    QTest::newRow("end") << tomas().with(&ExportRow::datumVystupu, today()) << "NULL";
+    QTest::newRow("calendar") << tomas().with(&ExportRow::kalendar, 2) << "NULL";
+    QTest::newRow("branch") << tomas().with(&ExportRow::stredisko, 140) << "3";
     QTest::newRow("several") << tomas()
-                                    .with(&ExportLine::prijmeni, "Malý")
-                                    .with(&ExportLine::strediskoPopis, "Sklad")
-                                    .with(&ExportLine::telefon, "1")
+                                    .with(&ExportRow::prijmeni, "Malý")
+                                    .with(&ExportRow::strediskoPopis, "Sklad")
+                                    .with(&ExportRow::telefon, "1")
                              << "NULL";
 }
 
 void TestChanges::aChangedLineIsWrittenWhenTheRowHoldsTheField()
 {
-    QFETCH(ExportLine, line);
+    QFETCH(ExportRow, line);
     QFETCH(QString, bid);
     synchronise({tomas()});
     QCOMPARE(synchronise({line}).statements.filter("UPDATE people SET pamId"),
@@ -129,37 +129,37 @@ void TestChanges::aChangedLineIsWrittenWhenTheRowHoldsTheField()
 
 void TestChanges::aChangedLineIsNotWrittenWhenTheRowLacksTheField_data()
 {
-    QTest::addColumn<ExportLine>("line");
-    QTest::newRow("description") << tomas().with(&ExportLine::strediskoPopis, "Sklad");
+    QTest::addColumn<ExportRow>("line");
+    QTest::newRow("description") << tomas().with(&ExportRow::strediskoPopis, "Sklad");
     QTest::newRow("start of the calendar")
-        << tomas().with(&ExportLine::kalendarPlatnostOd, QDate(2024, 8, 1));
-    QTest::newRow("employment state") << tomas().with(&ExportLine::stavPracovnihoPomeru, 2);
-    QTest::newRow("balance") << tomas().with(&ExportLine::dovolenaZustatek, "1.5");
-    QTest::newRow("supervisor") << tomas().with(&ExportLine::nadrizenyOsobniCislo, 1001);
+        << tomas().with(&ExportRow::kalendarPlatnostOd, QDate(2024, 8, 1));
+    QTest::newRow("employment state") << tomas().with(&ExportRow::stavPracovnihoPomeru, 2);
+    QTest::newRow("balance") << tomas().with(&ExportRow::dovolenaZustatek, "1.5");
+    QTest::newRow("supervisor") << tomas().with(&ExportRow::nadrizenyOsobniCislo, 1001);
 }
 
 void TestChanges::aChangedLineIsNotWrittenWhenTheRowLacksTheField()
 {
-    QFETCH(ExportLine, line);
+    QFETCH(ExportRow, line);
     synchronise({tomas()});
     QCOMPARE(synchronise({line}).statements.filter("UPDATE people SET pamId"), QStringList());
 }
 
 void TestChanges::aChangedCodeIsWritten_data()
 {
-    QTest::addColumn<ExportLine>("line");
+    QTest::addColumn<ExportRow>("line");
     QTest::addColumn<QString>("type");
-    QTest::newRow("register state") << tomas().with(&ExportLine::evidencniStav, 2) << "4";
-    QTest::newRow("employment type") << tomas().with(&ExportLine::typPracovnihoPomeru, 11) << "1";
+    QTest::newRow("register state") << tomas().with(&ExportRow::evidencniStav, 2) << "4";
+    QTest::newRow("employment type") << tomas().with(&ExportRow::typPracovnihoPomeru, 11) << "1";
     QTest::newRow("employment type with the same meaning")
-        << tomas().with(&ExportLine::typPracovnihoPomeru, 53) << "4";
+        << tomas().with(&ExportRow::typPracovnihoPomeru, 53) << "4";
     QTest::newRow("employment type without a meaning")
-        << tomas().with(&ExportLine::typPracovnihoPomeru, 12) << "0";
+        << tomas().with(&ExportRow::typPracovnihoPomeru, 12) << "0";
 }
 
 void TestChanges::aChangedCodeIsWritten()
 {
-    QFETCH(ExportLine, line);
+    QFETCH(ExportRow, line);
     QFETCH(QString, type);
     synchronise({tomas()});
     // Not edited in this very second: else the row would not change, and no terminal would know.
@@ -243,7 +243,7 @@ void TestChanges::aConfiguredStateBeginsToday()
 {
     m_worker->setMes({{21, "na materskej"}});
     synchronise({tomas()});
-    const ExportLine line = tomas().with(&ExportLine::evidencniStav, 21);
+    const ExportRow line = tomas().with(&ExportRow::evidencniStav, 21);
     QCOMPARE(synchronise({line}).statements.filter("UPDATE people SET pamId"),
              QStringList(Sent::updatePersonAndLastCalc(
                  line, ofTomas(today(), QDate(), "na materskej"), today().addDays(-1))));
@@ -276,7 +276,7 @@ void TestChanges::aStateThatIsLeftEndsToday()
     const QDate begin = today().addDays(-30);
     m_db.run(QString("UPDATE people SET rsBegin = %1, rsText = 'na materskej' WHERE uid = 8")
                  .arg(localMidnight(begin)));
-    synchronise({tomas().with(&ExportLine::evidencniStav, 21)});
+    synchronise({tomas().with(&ExportRow::evidencniStav, 21)});
     QCOMPARE(synchronise({tomas()}).statements.filter("UPDATE people SET pamId"),
              QStringList(Sent::updatePersonAndLastCalc(
                  tomas(), ofTomas(begin, today(), "na materskej"), today().addDays(-31))));
@@ -306,7 +306,7 @@ void TestChanges::aForcedCycleRestoresTheRelationshipState()
 void TestChanges::whoLeavesIsWrittenButNotPlaced()
 {
     synchronise({jana()});
-    const ExportLine line = jana().with(&ExportLine::datumVystupu, today().addDays(-1));
+    const ExportRow line = jana().with(&ExportRow::datumVystupu, today().addDays(-1));
     QCOMPARE(synchronise({line}).statements,
              Sent::begin() << Sent::fundChecks(12341, 4) << Sent::updatePerson(line)
                            << Sent::tellTerminals(12341, 4) << Sent::recalculation(4));
@@ -314,7 +314,7 @@ void TestChanges::whoLeavesIsWrittenButNotPlaced()
 
 void TestChanges::whoHasLeftIsRememberedWithoutAChange()
 {
-    const ExportLine line = jana().with(&ExportLine::stavPracovnihoPomeru, 4);
+    const ExportRow line = jana().with(&ExportRow::stavPracovnihoPomeru, 4);
     synchronise({line});
     for (int cycle = 0; cycle < 2; ++cycle)
         QCOMPARE(synchronise().statements, Sent::begin() << Sent::fundChecks(12341, 4));
@@ -336,7 +336,7 @@ void TestChanges::aFailedUpdateIsNotRepeatedForTheSameLine()
 
 void TestChanges::aFailedUpdateIsRepeatedWhenForced()
 {
-    const ExportLine line = tomas().with(&ExportLine::prijmeni, "Malý");
+    const ExportRow line = tomas().with(&ExportRow::prijmeni, "Malý");
     m_db.refuse("UPDATE", "people");
     synchronise({line});
     m_db.allow("UPDATE", "people");
@@ -349,7 +349,7 @@ void TestChanges::aNewSupervisorIsAssigned()
 {
     newWorker(1);
     const auto assigned = [this](int personalNumber) {
-        return synchronise({jana().with(&ExportLine::nadrizenyOsobniCislo, personalNumber)})
+        return synchronise({jana().with(&ExportRow::nadrizenyOsobniCislo, personalNumber)})
             .log.filter("processNadOsCis");
     };
     const auto expected = [](int personalNumber) {
@@ -367,12 +367,12 @@ void TestChanges::aNewSupervisorIsAssigned()
 
 void TestChanges::theSupervisorOfAnotherEmploymentTypeIsLeftAlone()
 {
-    const ExportLine line = jana().with(&ExportLine::typPracovnihoPomeru, 51);
+    const ExportRow line = jana().with(&ExportRow::typPracovnihoPomeru, 51);
     synchronise({line});
-    const ExportLine supervised = ExportLine(line).with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    const ExportRow supervised = ExportRow(line).with(&ExportRow::nadrizenyOsobniCislo, 1002);
     QCOMPARE(synchronise({supervised}).statements.filter("admins"), QStringList());
     // Nor is it made up for when the type becomes another one.
-    const ExportLine employed = ExportLine(supervised).with(&ExportLine::typPracovnihoPomeru, 11);
+    const ExportRow employed = ExportRow(supervised).with(&ExportRow::typPracovnihoPomeru, 11);
     QCOMPARE(synchronise({employed}).statements.filter("admins"), QStringList());
 }
 
@@ -386,8 +386,8 @@ void TestChanges::theSameLineTwiceIsReconciledOnce()
 
 void TestChanges::twoLinesOfOnePersonAreBothWrittenInEveryCycle()
 {
-    const ExportLine a = tomas().with(&ExportLine::telefon, "1");
-    const ExportLine b = tomas().with(&ExportLine::telefon, "2");
+    const ExportRow a = tomas().with(&ExportRow::telefon, "1");
+    const ExportRow b = tomas().with(&ExportRow::telefon, "2");
     const QStringList both = {Sent::updatePerson(a, ofTomas()), Sent::updatePerson(b, ofTomas())};
     QCOMPARE(synchronise({a, b}).statements.filter("UPDATE people SET pamId"), both);
     // The row, as loaded before the first, agrees with the second.
@@ -397,9 +397,8 @@ void TestChanges::twoLinesOfOnePersonAreBothWrittenInEveryCycle()
 
 void TestChanges::aSecondLineSeesWhatTheFirstOneMoved()
 {
-    const ExportLine first =
-        jana().with(&ExportLine::stredisko, 140).with(&ExportLine::kalendar, 2);
-    const ExportLine second = ExportLine(first).with(&ExportLine::strediskoPopis, "Iné");
+    const ExportRow first = jana().with(&ExportRow::stredisko, 140).with(&ExportRow::kalendar, 2);
+    const ExportRow second = ExportRow(first).with(&ExportRow::strediskoPopis, "Iné");
     const Trace trace = synchronise({first, second});
     // The row agrees, and what there is to be recalculated was asked for with the first line.
     QCOMPARE(trace.statements.mid(trace.statements.lastIndexOf(Sent::movesOfToday(12341))),
@@ -411,8 +410,8 @@ void TestChanges::aSecondLineSeesWhatTheFirstOneMoved()
 
 void TestChanges::aSecondLineSeesTheOldNameOfTheFirstOne()
 {
-    const ExportLine first = jana().with(&ExportLine::prijmeni, "Malá");
-    const ExportLine second = ExportLine(first).with(&ExportLine::strediskoPopis, "Iné");
+    const ExportRow first = jana().with(&ExportRow::prijmeni, "Malá");
+    const ExportRow second = ExportRow(first).with(&ExportRow::strediskoPopis, "Iné");
     QCOMPARE(synchronise({first, second}).statements.filter("UPDATE people SET pamId"),
              QStringList({Sent::updatePerson(first), Sent::updatePerson(second)}));
 }

@@ -11,7 +11,7 @@ QDate today()
     return QDate::currentDate();
 }
 
-uint pidOf(const ExportLine &line)
+uint pidOf(const ExportRow &line)
 {
     return (line.osobniCislo + line.poradoveCisloPP).toUInt();
 }
@@ -67,7 +67,7 @@ private Q_SLOTS:
 
 void TestCreation::aNewcomerIsCreatedRegisteredAndPlaced()
 {
-    const ExportLine line = newcomer(newPersonalNumber());
+    const ExportRow line = newcomer(newPersonalNumber());
     const uint pid = pidOf(line);
     const Trace trace = synchronise({line});
     QCOMPARE(trace.log, QStringList());
@@ -83,7 +83,7 @@ void TestCreation::aNewcomerIsCreatedRegisteredAndPlaced()
 
 void TestCreation::theCycleAfterTheCreationSettlesTheBalance()
 {
-    ExportLine line = newcomer(newPersonalNumber()).with(&ExportLine::dovolenaZustatek, "20");
+    ExportRow line = newcomer(newPersonalNumber()).with(&ExportRow::dovolenaZustatek, "20");
     const uint pid = pidOf(line);
     synchronise({line});
     // The person exists now, so what could not be checked then can be made up for.
@@ -98,7 +98,7 @@ void TestCreation::theCycleAfterTheCreationSettlesTheBalance()
 void TestCreation::theRelationshipStateOfANewcomerBeginsToday()
 {
     m_worker->setMes({{1, "v skúške"}});
-    const ExportLine line = newcomer(newPersonalNumber()).with(&ExportLine::evidencniStav, 1);
+    const ExportRow line = newcomer(newPersonalNumber()).with(&ExportRow::evidencniStav, 1);
     Sent::PersonValues values;
     values.rsBegin = QString::number(localMidnight(today()));
     values.rsText = "v skúške";
@@ -122,8 +122,8 @@ void TestCreation::thePayrollSettingsFollowTheEmploymentType()
     QFETCH(int, employmentType);
     QFETCH(QString, type);
     QFETCH(int, payrollId);
-    const ExportLine line =
-        newcomer(newPersonalNumber()).with(&ExportLine::typPracovnihoPomeru, employmentType);
+    const ExportRow line =
+        newcomer(newPersonalNumber()).with(&ExportRow::typPracovnihoPomeru, employmentType);
     Sent::PersonValues values;
     values.type = type;
     const Trace trace = synchronise({line});
@@ -139,7 +139,7 @@ void TestCreation::aFailedPayrollRegistrationIsReported()
     QFETCH(int, debugLevel);
     m_db.refuse("INSERT", "people_pam");
     newWorker(debugLevel);
-    const ExportLine line = newcomer(newPersonalNumber());
+    const ExportRow line = newcomer(newPersonalNumber());
     const QString pid = QString::number(pidOf(line));
     const QString ids = "pid: " + pid + ", pamSettingsID: 1";
     QCOMPARE(synchronise({line}).log.filter("PersonIntoPam("),
@@ -156,8 +156,8 @@ void TestCreation::aFailedPayrollRegistrationIsReported()
 
 void TestCreation::theSupervisorOfANewcomerIsAssigned()
 {
-    const ExportLine line =
-        newcomer(newPersonalNumber()).with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    const ExportRow line =
+        newcomer(newPersonalNumber()).with(&ExportRow::nadrizenyOsobniCislo, 1002);
     const uint pid = pidOf(line);
     const QStringList statements = synchronise({line}).statements;
     const int from = statements.indexOf(Sent::payrollBinding(pid, 9, 1).last()) + 1;
@@ -168,33 +168,32 @@ void TestCreation::theSupervisorOfANewcomerIsAssigned()
 
 void TestCreation::theSupervisorOfANewcomerOfAnotherTypeIsNot()
 {
-    const ExportLine line = newcomer(newPersonalNumber())
-                                .with(&ExportLine::typPracovnihoPomeru, 51)
-                                .with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    const ExportRow line = newcomer(newPersonalNumber())
+                               .with(&ExportRow::typPracovnihoPomeru, 51)
+                               .with(&ExportRow::nadrizenyOsobniCislo, 1002);
     QCOMPARE(synchronise({line}).statements.filter("FROM admins "), QStringList());
 }
 
 void TestCreation::whoHasLeftIsNotCreated_data()
 {
-    QTest::addColumn<ExportLine>("change");
-    QTest::newRow("state 4") << ExportLine().with(&ExportLine::stavPracovnihoPomeru, 4);
+    QTest::addColumn<ExportRow>("change");
+    QTest::newRow("state 4") << ExportRow().with(&ExportRow::stavPracovnihoPomeru, 4);
     QTest::newRow("state 9, no leaving date")
-        << ExportLine().with(&ExportLine::stavPracovnihoPomeru, 9);
+        << ExportRow().with(&ExportRow::stavPracovnihoPomeru, 9);
     QTest::newRow("left yesterday")
-        << ExportLine().with(&ExportLine::datumVystupu, today().addDays(-1));
+        << ExportRow().with(&ExportRow::datumVystupu, today().addDays(-1));
     QTest::newRow("state 4, leaves tomorrow")
-        << ExportLine()
-               .with(&ExportLine::stavPracovnihoPomeru, 4)
-               .with(&ExportLine::datumVystupu, today().addDays(1));
+        << ExportRow()
+               .with(&ExportRow::stavPracovnihoPomeru, 4)
+               .with(&ExportRow::datumVystupu, today().addDays(1));
 }
 
 void TestCreation::whoHasLeftIsNotCreated()
 {
-    QFETCH(ExportLine, change);
-    const ExportLine line =
-        newcomer(newPersonalNumber())
-            .with(&ExportLine::stavPracovnihoPomeru, change.stavPracovnihoPomeru)
-            .with(&ExportLine::datumVystupu, change.datumVystupu);
+    QFETCH(ExportRow, change);
+    const ExportRow line = newcomer(newPersonalNumber())
+                               .with(&ExportRow::stavPracovnihoPomeru, change.stavPracovnihoPomeru)
+                               .with(&ExportRow::datumVystupu, change.datumVystupu);
     const DatabaseState before = m_db.dumpAll();
     for (int cycle = 0; cycle < 2; ++cycle) {
         const Trace trace = synchronise({line});
@@ -218,9 +217,9 @@ void TestCreation::whoIsStillThereIsCreated()
 {
     QFETCH(int, state);
     QFETCH(QDate, end);
-    const ExportLine line = newcomer(newPersonalNumber())
-                                .with(&ExportLine::stavPracovnihoPomeru, state)
-                                .with(&ExportLine::datumVystupu, end);
+    const ExportRow line = newcomer(newPersonalNumber())
+                               .with(&ExportRow::stavPracovnihoPomeru, state)
+                               .with(&ExportRow::datumVystupu, end);
     QVERIFY(synchronise({line}).statements.contains(Sent::insertPerson(line)));
     QCOMPARE(uidOf(pidOf(line)), 9);
 }
@@ -228,8 +227,7 @@ void TestCreation::whoIsStillThereIsCreated()
 void TestCreation::whoHasLeftIsRemembered()
 {
     m_db.run("DELETE FROM funds");
-    const ExportLine line =
-        newcomer(newPersonalNumber()).with(&ExportLine::stavPracovnihoPomeru, 4);
+    const ExportRow line = newcomer(newPersonalNumber()).with(&ExportRow::stavPracovnihoPomeru, 4);
     synchronise({line});
     // The row now comes from elsewhere. Seen for the first time, it would be written.
     m_db.run(QString("INSERT INTO people (pid, pamId, name) VALUES (%1, '%2.1', 'Eva')")
@@ -240,8 +238,7 @@ void TestCreation::whoHasLeftIsRemembered()
 
 void TestCreation::whoHasLeftIsNotCreatedByForceEither()
 {
-    const ExportLine line =
-        newcomer(newPersonalNumber()).with(&ExportLine::stavPracovnihoPomeru, 4);
+    const ExportRow line = newcomer(newPersonalNumber()).with(&ExportRow::stavPracovnihoPomeru, 4);
     synchronise({line});
     force();
     QCOMPARE(synchronise().statements,
@@ -251,8 +248,8 @@ void TestCreation::whoHasLeftIsNotCreatedByForceEither()
 void TestCreation::aFailedCreationStillAsksForThePlace()
 {
     m_db.refuse("INSERT", "people");
-    const ExportLine line =
-        newcomer(newPersonalNumber()).with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    const ExportRow line =
+        newcomer(newPersonalNumber()).with(&ExportRow::nadrizenyOsobniCislo, 1002);
     const uint pid = pidOf(line);
     const Trace trace = synchronise({line});
     QCOMPARE(trace.log,
@@ -273,7 +270,7 @@ void TestCreation::aFailedCreationStillAsksForThePlace()
 void TestCreation::aFailedCreationIsNotRepeatedForTheSameLine()
 {
     m_db.refuse("INSERT", "people");
-    const ExportLine line = newcomer(newPersonalNumber());
+    const ExportRow line = newcomer(newPersonalNumber());
     synchronise({line});
     m_db.allow("INSERT", "people");
     QCOMPARE(synchronise().statements, Sent::begin() << fundChecksOfNobody(pidOf(line)));
@@ -282,10 +279,10 @@ void TestCreation::aFailedCreationIsNotRepeatedForTheSameLine()
 void TestCreation::aFailedCreationIsRepeatedForAChangedLine()
 {
     m_db.refuse("INSERT", "people");
-    ExportLine line = newcomer(newPersonalNumber());
+    ExportRow line = newcomer(newPersonalNumber());
     synchronise({line});
     m_db.allow("INSERT", "people");
-    line.with(&ExportLine::strediskoPopis, "Hlavný sklad");
+    line.with(&ExportRow::strediskoPopis, "Hlavný sklad");
     QVERIFY(synchronise({line}).statements.contains(Sent::insertPerson(line)));
     QVERIFY(uidOf(pidOf(line)) != 0);
 }
@@ -293,7 +290,7 @@ void TestCreation::aFailedCreationIsRepeatedForAChangedLine()
 void TestCreation::aFailedCreationIsRepeatedWhenForced()
 {
     m_db.refuse("INSERT", "people");
-    const ExportLine line = newcomer(newPersonalNumber());
+    const ExportRow line = newcomer(newPersonalNumber());
     synchronise({line});
     m_db.allow("INSERT", "people");
     force();
@@ -304,7 +301,7 @@ void TestCreation::aFailedCreationIsRepeatedWhenForced()
 void TestCreation::anInactiveRowOfTheSamePidIsTakenUpAgain()
 {
     // Štefan Žiak, uid 7, is in the table with status 0, so he is not among the loaded people.
-    const ExportLine line = newcomer(1237);
+    const ExportRow line = newcomer(1237);
     const QStringList statements = synchronise({line}).statements;
     QVERIFY(statements.contains(Sent::insertPerson(line)));
     QVERIFY(statements.contains(Sent::joinBranch(1, "7")));

@@ -58,12 +58,12 @@ void TestCycle::everyStepForAKnownPersonHasItsPlace()
 {
     m_db.run("DELETE FROM brape WHERE uid = 4");
     const QDate since(2025, 3, 1);
-    const ExportLine line = jana()
-                                .with(&ExportLine::telefon, "1")
-                                .with(&ExportLine::dovolenaZustatek, "20")
-                                .with(&ExportLine::kalendar, 2)
-                                .with(&ExportLine::kalendarPlatnostOd, since)
-                                .with(&ExportLine::nadrizenyOsobniCislo, 1002);
+    const ExportRow line = jana()
+                               .with(&ExportRow::telefon, "1")
+                               .with(&ExportRow::dovolenaZustatek, "20")
+                               .with(&ExportRow::kalendar, 2)
+                               .with(&ExportRow::kalendarPlatnostOd, since)
+                               .with(&ExportRow::nadrizenyOsobniCislo, 1002);
     const Trace trace = synchronise({line});
     QCOMPARE(trace.log, QStringList());
     QCOMPARE(trace.statements,
@@ -127,7 +127,7 @@ void TestCycle::everyLineOfTheLogHasItsLevel()
 void TestCycle::anExportWithoutRecordsIsNotReconciled()
 {
     newWorker(1);
-    const Trace trace = synchronise({jana().with(&ExportLine::osobniCislo, "none")});
+    const Trace trace = synchronise({jana().with(&ExportRow::osobniCislo, "none")});
     QCOMPARE(trace.statements, QStringList(Sent::readForce()));
     QCOMPARE(trace.log,
              QStringList({"D MHRWorker: BEGIN synchronization #1 (force: NO)",
@@ -166,8 +166,8 @@ void TestCycle::branchesAndFundAreLookedUpOncePerCycle()
 void TestCycle::aCycleGoesOnWithoutBranches()
 {
     synchronise({jana(), jan()});
-    m_export.write({jana().with(&ExportLine::strediskoPopis, "a"),
-                    jan().with(&ExportLine::strediskoPopis, "b")});
+    m_export.write({jana().with(&ExportRow::strediskoPopis, "a"),
+                    jan().with(&ExportRow::strediskoPopis, "b")});
     const Trace trace = observe([this] {
         m_worker->loadAndParseData();
         m_worker->dbLoadPeople();
@@ -205,8 +205,8 @@ void TestCycle::newMembersJoinTheirBranchesInAscendingOrder()
 {
     m_db.run("INSERT INTO branches (bid, number) VALUES (500, 801), (7, 802), (65535, 803), "
              "(40, 804), (1000, 805), (300, 806)");
-    const auto in = [](ExportLine line, int costCentre) {
-        return line.with(&ExportLine::stredisko, costCentre);
+    const auto in = [](ExportRow line, int costCentre) {
+        return line.with(&ExportRow::stredisko, costCentre);
     };
     const Trace trace =
         synchronise({in(maria(), 801), in(peter(), 802), in(zuzana(), 803), in(jana(), 804),
@@ -285,7 +285,7 @@ void TestCycle::theBranchIdIsNarrowedAtTheCallOnly()
     QFETCH(QStringList, statements);
     m_db.run(QString("INSERT INTO branches (bid, number) VALUES (%1, 999)").arg(bid));
     newWorker(1);
-    const Trace trace = synchronise({tomas().with(&ExportLine::stredisko, 999)});
+    const Trace trace = synchronise({tomas().with(&ExportRow::stredisko, 999)});
     QVERIFY(trace.statements.contains(Sent::membership(20012, bid)));
     QCOMPARE(trace.log.filter("addPeopleToBranch"), QStringList(call));
     QCOMPARE(trace.statements.filter("INSERT INTO brape"), statements);

@@ -9,9 +9,9 @@ using namespace SampleExport;
 namespace {
 
 /// Jana in a cost centre that no branch has yet.
-ExportLine janaElsewhere()
+ExportRow janaElsewhere()
 {
-    return jana().with(&ExportLine::stredisko, 777);
+    return jana().with(&ExportRow::stredisko, 777);
 }
 
 const QString kNotFound =
@@ -57,7 +57,7 @@ int TestPlacing::waiting(const Trace &trace) const
 
 void TestPlacing::whoHasNoCostCentreIsNotPlaced()
 {
-    QCOMPARE(synchronise({jana().with(&ExportLine::stredisko, 0)}).statements.filter("FROM brape"),
+    QCOMPARE(synchronise({jana().with(&ExportRow::stredisko, 0)}).statements.filter("FROM brape"),
              QStringList());
     force();
     QCOMPARE(synchronise().statements.filter("FROM brape"), QStringList());
@@ -70,26 +70,26 @@ void TestPlacing::anUnchangedRecordIsPlacedOnlyWhenForced()
     QCOMPARE(synchronise().statements.count(Sent::membership(12341, 1)), 0);
     force();
     QCOMPARE(synchronise().statements.count(Sent::membership(12341, 1)), 1);
-    QCOMPARE(synchronise({jana().with(&ExportLine::telefon, "1")})
+    QCOMPARE(synchronise({jana().with(&ExportRow::telefon, "1")})
                  .statements.count(Sent::membership(12341, 1)),
              1);
 }
 
 void TestPlacing::whoIsNotActiveIsNotPlaced_data()
 {
-    QTest::addColumn<ExportLine>("line");
+    QTest::addColumn<ExportRow>("line");
     QTest::addColumn<bool>("placed");
     const QDate today = QDate::currentDate();
-    QTest::newRow("state 3") << jana().with(&ExportLine::stavPracovnihoPomeru, 3) << true;
-    QTest::newRow("state 4") << jana().with(&ExportLine::stavPracovnihoPomeru, 4) << false;
-    QTest::newRow("leaves today") << jana().with(&ExportLine::datumVystupu, today) << true;
+    QTest::newRow("state 3") << jana().with(&ExportRow::stavPracovnihoPomeru, 3) << true;
+    QTest::newRow("state 4") << jana().with(&ExportRow::stavPracovnihoPomeru, 4) << false;
+    QTest::newRow("leaves today") << jana().with(&ExportRow::datumVystupu, today) << true;
     QTest::newRow("left yesterday")
-        << jana().with(&ExportLine::datumVystupu, today.addDays(-1)) << false;
+        << jana().with(&ExportRow::datumVystupu, today.addDays(-1)) << false;
 }
 
 void TestPlacing::whoIsNotActiveIsNotPlaced()
 {
-    QFETCH(ExportLine, line);
+    QFETCH(ExportRow, line);
     QFETCH(bool, placed);
     QCOMPARE(synchronise({line}).statements.contains(Sent::membership(12341, 1)), placed);
     force();
@@ -129,7 +129,7 @@ void TestPlacing::whoWaitsIsPlacedOnceTheBranchIsThere()
 void TestPlacing::aLineThatChangedWhileWaitingLeavesTheOldOneBehind()
 {
     newWorker(1);
-    const ExportLine changed = janaElsewhere().with(&ExportLine::strediskoPopis, "Nové");
+    const ExportRow changed = janaElsewhere().with(&ExportRow::strediskoPopis, "Nové");
     QCOMPARE(waiting(synchronise({janaElsewhere()})), 1);
     QCOMPARE(waiting(synchronise({changed})), 2);
     m_db.run("INSERT INTO branches (bid, number, mgid) VALUES (5, 777, 1)");
@@ -142,7 +142,7 @@ void TestPlacing::whoLeavesWhileWaitingIsNotAskedForAgain()
 {
     newWorker(1);
     synchronise({janaElsewhere()});
-    const Trace trace = synchronise({janaElsewhere().with(&ExportLine::stavPracovnihoPomeru, 4)});
+    const Trace trace = synchronise({janaElsewhere().with(&ExportRow::stavPracovnihoPomeru, 4)});
     QCOMPARE(trace.log.filter("NOT FOUND"), QStringList());
     QCOMPARE(waiting(trace), 1);
 }
@@ -159,7 +159,7 @@ void TestPlacing::whoNeitherJoinsNorHasACalendarWaits()
 {
     // A member of the branch without a calendar: nothing is done, and that counts as not placed.
     newWorker(1);
-    const Trace first = synchronise({jana().with(&ExportLine::kalendar, 0)});
+    const Trace first = synchronise({jana().with(&ExportRow::kalendar, 0)});
     QCOMPARE(waiting(first), 1);
     QCOMPARE(first.log.filter("W "), QStringList());
     const Trace second = synchronise();
@@ -170,21 +170,21 @@ void TestPlacing::whoNeitherJoinsNorHasACalendarWaits()
 
 void TestPlacing::aMovedPersonIsRecalculated_data()
 {
-    QTest::addColumn<ExportLine>("line");
+    QTest::addColumn<ExportRow>("line");
     QTest::addColumn<bool>("recalculated");
     QTest::newRow("nothing moved") << tomas() << false;
-    QTest::newRow("calendar") << tomas().with(&ExportLine::kalendar, 2) << true;
+    QTest::newRow("calendar") << tomas().with(&ExportRow::kalendar, 2) << true;
     QTest::newRow("start of the calendar")
-        << tomas().with(&ExportLine::kalendarPlatnostOd, QDate(2024, 7, 1)) << true;
-    QTest::newRow("branch") << tomas().with(&ExportLine::stredisko, 777) << true;
+        << tomas().with(&ExportRow::kalendarPlatnostOd, QDate(2024, 7, 1)) << true;
+    QTest::newRow("branch") << tomas().with(&ExportRow::stredisko, 777) << true;
     QTest::newRow("description of the branch")
-        << tomas().with(&ExportLine::strediskoPopis, "Sklad") << false;
-    QTest::newRow("name") << tomas().with(&ExportLine::prijmeni, "Malý") << false;
+        << tomas().with(&ExportRow::strediskoPopis, "Sklad") << false;
+    QTest::newRow("name") << tomas().with(&ExportRow::prijmeni, "Malý") << false;
 }
 
 void TestPlacing::aMovedPersonIsRecalculated()
 {
-    QFETCH(ExportLine, line);
+    QFETCH(ExportRow, line);
     QFETCH(bool, recalculated);
     QCOMPARE(
         synchronise({line}).statements.filter(QRegularExpression("^UPDATE (atten|people set)")),
@@ -210,8 +210,8 @@ void TestPlacing::anIncompletePersonIsNotRecalculated()
     QFETCH(int, relationship);
     QFETCH(bool, recalculated);
     m_db.run("UPDATE people SET " + row + " WHERE uid = 8");
-    const ExportLine line =
-        tomas().with(&ExportLine::poradoveCisloPP, relationship).with(&ExportLine::kalendar, 2);
+    const ExportRow line =
+        tomas().with(&ExportRow::poradoveCisloPP, relationship).with(&ExportRow::kalendar, 2);
     const Trace trace = synchronise({line});
     QVERIFY(trace.statements.filter("UPDATE people SET pamId").size() == 1);
     QCOMPARE(trace.statements.contains(Sent::recalculation(8).first()), recalculated);
@@ -230,7 +230,7 @@ void TestPlacing::recalculationBeginsWithThePreviousMonth()
     addDay(today);
     m_db.run(QString("UPDATE people SET lastCalc = %1, calc = 5 WHERE uid = 8")
                  .arg(localMidnight(today)));
-    synchronise({tomas().with(&ExportLine::kalendar, 2)});
+    synchronise({tomas().with(&ExportRow::kalendar, 2)});
     QCOMPARE(m_db.rows("SELECT ok FROM atten WHERE uid = 8 ORDER BY `date`"),
              TableRows({{"1"}, {"-1"}, {"-1"}}));
     QCOMPARE(m_db.rows("SELECT lastCalc, calc FROM people WHERE uid = 8"),
@@ -245,8 +245,8 @@ void TestPlacing::whoseUidIsUnknownMustBeRecalculatedByHand()
     const uint pid = QString("%1%2").arg(personalNumber).arg(2).toUInt();
     m_db.run(
         QString("UPDATE people SET pid = 99, pamId = '%1.2' WHERE uid = 8").arg(personalNumber));
-    const ExportLine line =
-        tomas().with(&ExportLine::osobniCislo, personalNumber).with(&ExportLine::kalendar, 2);
+    const ExportRow line =
+        tomas().with(&ExportRow::osobniCislo, personalNumber).with(&ExportRow::kalendar, 2);
     const Trace trace = synchronise({line});
     QCOMPARE(trace.log,
              QStringList(QString("W MHRWorker: User (employee) ID NOT found for pid (Personal ID) "

@@ -40,53 +40,52 @@ QStringList sorted(QStringList lines)
 }
 
 /// uid 6, pid 12361, branch 2. Her last day was yesterday.
-ExportLine lubica()
+ExportRow lubica()
 {
-    return ExportLine()
-        .with(&ExportLine::osobniCislo, 1236)
-        .with(&ExportLine::titul, "")
-        .with(&ExportLine::jmeno, "Ľubica")
-        .with(&ExportLine::prijmeni, "Ďuricová")
-        .with(&ExportLine::telefon, "0905000006")
-        .with(&ExportLine::datumNastupu, QDate(2021, 11, 1))
-        .with(&ExportLine::datumVystupu, today().addDays(-1))
-        .with(&ExportLine::stredisko, 130)
-        .with(&ExportLine::strediskoPopis, "Predajňa")
-        .with(&ExportLine::kalendar, 3)
-        .with(&ExportLine::kalendarPlatnostOd, QDate(2021, 11, 1))
-        .with(&ExportLine::dovolenaZustatek, "0");
+    return ExportRow()
+        .with(&ExportRow::osobniCislo, 1236)
+        .with(&ExportRow::titul, "")
+        .with(&ExportRow::jmeno, "Ľubica")
+        .with(&ExportRow::prijmeni, "Ďuricová")
+        .with(&ExportRow::telefon, "0905000006")
+        .with(&ExportRow::datumNastupu, QDate(2021, 11, 1))
+        .with(&ExportRow::datumVystupu, today().addDays(-1))
+        .with(&ExportRow::stredisko, 130)
+        .with(&ExportRow::strediskoPopis, "Predajňa")
+        .with(&ExportRow::kalendar, 3)
+        .with(&ExportRow::kalendarPlatnostOd, QDate(2021, 11, 1))
+        .with(&ExportRow::dovolenaZustatek, "0");
 }
 
 /// uid 7, pid 12371: left years ago, inactive in the table.
-ExportLine stefan()
+ExportRow stefan()
 {
-    return ExportLine()
-        .with(&ExportLine::osobniCislo, 1237)
-        .with(&ExportLine::jmeno, "Štefan")
-        .with(&ExportLine::prijmeni, "Žiak")
-        .with(&ExportLine::datumVystupu, QDate(2023, 12, 31))
-        .with(&ExportLine::stavPracovnihoPomeru, 4);
+    return ExportRow()
+        .with(&ExportRow::osobniCislo, 1237)
+        .with(&ExportRow::jmeno, "Štefan")
+        .with(&ExportRow::prijmeni, "Žiak")
+        .with(&ExportRow::datumVystupu, QDate(2023, 12, 31))
+        .with(&ExportRow::stavPracovnihoPomeru, 4);
 }
 
 /// What HR sends on an ordinary morning about people whom the database knows.
-QVector<ExportLine> ordinaryExport()
+QVector<ExportRow> ordinaryExport()
 {
-    return {maria(),
-            peter().with(&ExportLine::telefon, "0905999999"),
-            zuzana()
-                .with(&ExportLine::stredisko, 120)
-                .with(&ExportLine::strediskoPopis, "Sklad")
-                .with(&ExportLine::kalendarPlatnostOd, firstOfMonth()),
-            jana()
-                .with(&ExportLine::prijmeni, "Malá")
-                .with(&ExportLine::dovolenaZustatek, "15.25")
-                .with(&ExportLine::nadrizenyOsobniCislo, 1002),
-            jan()
-                .with(&ExportLine::kalendar, 3)
-                .with(&ExportLine::kalendarPlatnostOd, QDate(2025, 3, 1)),
-            lubica(),
-            tomas(),
-            stefan()};
+    return {
+        maria(),
+        peter().with(&ExportRow::telefon, "0905999999"),
+        zuzana()
+            .with(&ExportRow::stredisko, 120)
+            .with(&ExportRow::strediskoPopis, "Sklad")
+            .with(&ExportRow::kalendarPlatnostOd, firstOfMonth()),
+        jana()
+            .with(&ExportRow::prijmeni, "Malá")
+            .with(&ExportRow::dovolenaZustatek, "15.25")
+            .with(&ExportRow::nadrizenyOsobniCislo, 1002),
+        jan().with(&ExportRow::kalendar, 3).with(&ExportRow::kalendarPlatnostOd, QDate(2025, 3, 1)),
+        lubica(),
+        tomas(),
+        stefan()};
 }
 
 } // namespace
@@ -111,7 +110,7 @@ private:
     /// The sample as it is in daily use: calculated up to yesterday.
     void beCalculated();
 
-    QVector<ExportLine> newcomers(int firstNumber) const;
+    QVector<ExportRow> newcomers(int firstNumber) const;
 };
 
 void TestWholeState::beCalculated()
@@ -236,54 +235,54 @@ void TestWholeState::aForcedRepetitionChangesNothing()
     QCOMPARE(TestDatabase::difference(state, m_db.dumpAll()), QString());
 }
 
-QVector<ExportLine> TestWholeState::newcomers(int firstNumber) const
+QVector<ExportRow> TestWholeState::newcomers(int firstNumber) const
 {
-    const ExportLine eva = ExportLine()
-                               .with(&ExportLine::osobniCislo, firstNumber)
-                               .with(&ExportLine::titul, "")
-                               .with(&ExportLine::jmeno, "Eva")
-                               .with(&ExportLine::prijmeni, "Malá")
-                               .with(&ExportLine::telefon, "")
-                               .with(&ExportLine::datumNastupu, today())
-                               .with(&ExportLine::stredisko, 130)
-                               .with(&ExportLine::kalendar, 3)
-                               .with(&ExportLine::kalendarPlatnostOd, today().addDays(1))
-                               .with(&ExportLine::evidencniStav, 1)
-                               .with(&ExportLine::dovolenaZustatek, "25")
-                               .with(&ExportLine::nadrizenyOsobniCislo, 1001);
-    const ExportLine jozef = ExportLine()
-                                 .with(&ExportLine::osobniCislo, firstNumber + 1)
-                                 .with(&ExportLine::titul, "")
-                                 .with(&ExportLine::jmeno, "Jozef")
-                                 .with(&ExportLine::prijmeni, "Dlhý")
-                                 .with(&ExportLine::telefon, "0905111222")
-                                 .with(&ExportLine::datumNastupu, QDate(2026, 1, 1))
-                                 .with(&ExportLine::stredisko, 999)
-                                 .with(&ExportLine::kalendar, 1)
-                                 .with(&ExportLine::kalendarPlatnostOd, "")
-                                 .with(&ExportLine::typPracovnihoPomeru, 54)
-                                 .with(&ExportLine::dovolenaZustatek, "3");
-    const ExportLine gone = ExportLine()
-                                .with(&ExportLine::osobniCislo, firstNumber + 2)
-                                .with(&ExportLine::stavPracovnihoPomeru, 4);
-    const ExportLine anna = ExportLine()
-                                .with(&ExportLine::osobniCislo, firstNumber + 3)
-                                .with(&ExportLine::titul, "Mgr.")
-                                .with(&ExportLine::jmeno, "Anna")
-                                .with(&ExportLine::prijmeni, "")
-                                .with(&ExportLine::titulZa, "PhD.")
-                                .with(&ExportLine::telefon, "")
-                                .with(&ExportLine::datumNastupu, "")
-                                .with(&ExportLine::datumVystupu, today().addDays(1))
-                                .with(&ExportLine::stredisko, 0)
-                                .with(&ExportLine::kalendar, 0)
-                                .with(&ExportLine::kalendarPlatnostOd, "")
-                                .with(&ExportLine::typPracovnihoPomeru, 12)
-                                .with(&ExportLine::dovolenaZustatek, "0");
-    const ExportLine nameless = ExportLine()
-                                    .with(&ExportLine::osobniCislo, firstNumber + 4)
-                                    .with(&ExportLine::jmeno, "")
-                                    .with(&ExportLine::prijmeni, "");
+    const ExportRow eva = ExportRow()
+                              .with(&ExportRow::osobniCislo, firstNumber)
+                              .with(&ExportRow::titul, "")
+                              .with(&ExportRow::jmeno, "Eva")
+                              .with(&ExportRow::prijmeni, "Malá")
+                              .with(&ExportRow::telefon, "")
+                              .with(&ExportRow::datumNastupu, today())
+                              .with(&ExportRow::stredisko, 130)
+                              .with(&ExportRow::kalendar, 3)
+                              .with(&ExportRow::kalendarPlatnostOd, today().addDays(1))
+                              .with(&ExportRow::evidencniStav, 1)
+                              .with(&ExportRow::dovolenaZustatek, "25")
+                              .with(&ExportRow::nadrizenyOsobniCislo, 1001);
+    const ExportRow jozef = ExportRow()
+                                .with(&ExportRow::osobniCislo, firstNumber + 1)
+                                .with(&ExportRow::titul, "")
+                                .with(&ExportRow::jmeno, "Jozef")
+                                .with(&ExportRow::prijmeni, "Dlhý")
+                                .with(&ExportRow::telefon, "0905111222")
+                                .with(&ExportRow::datumNastupu, QDate(2026, 1, 1))
+                                .with(&ExportRow::stredisko, 999)
+                                .with(&ExportRow::kalendar, 1)
+                                .with(&ExportRow::kalendarPlatnostOd, "")
+                                .with(&ExportRow::typPracovnihoPomeru, 54)
+                                .with(&ExportRow::dovolenaZustatek, "3");
+    const ExportRow gone = ExportRow()
+                               .with(&ExportRow::osobniCislo, firstNumber + 2)
+                               .with(&ExportRow::stavPracovnihoPomeru, 4);
+    const ExportRow anna = ExportRow()
+                               .with(&ExportRow::osobniCislo, firstNumber + 3)
+                               .with(&ExportRow::titul, "Mgr.")
+                               .with(&ExportRow::jmeno, "Anna")
+                               .with(&ExportRow::prijmeni, "")
+                               .with(&ExportRow::titulZa, "PhD.")
+                               .with(&ExportRow::telefon, "")
+                               .with(&ExportRow::datumNastupu, "")
+                               .with(&ExportRow::datumVystupu, today().addDays(1))
+                               .with(&ExportRow::stredisko, 0)
+                               .with(&ExportRow::kalendar, 0)
+                               .with(&ExportRow::kalendarPlatnostOd, "")
+                               .with(&ExportRow::typPracovnihoPomeru, 12)
+                               .with(&ExportRow::dovolenaZustatek, "0");
+    const ExportRow nameless = ExportRow()
+                                   .with(&ExportRow::osobniCislo, firstNumber + 4)
+                                   .with(&ExportRow::jmeno, "")
+                                   .with(&ExportRow::prijmeni, "");
     return {eva, jozef, gone, anna, nameless};
 }
 
@@ -337,7 +336,7 @@ void TestWholeState::newcomersAreSettledInTheSecondCycle()
 {
     // In the cycle that created them there was nobody yet whose balance could be corrected.
     m_worker->setMes({{1, "v skúšobnej dobe"}});
-    const QVector<ExportLine> lines = newcomers(3011);
+    const QVector<ExportRow> lines = newcomers(3011);
     synchronise(lines);
     StateChanges changes(m_db);
     const Trace trace = synchronise();
@@ -421,8 +420,8 @@ void TestWholeState::aDatabaseWithoutAnythingTakesPeopleOnly()
     StateChanges changes(m_db);
     const int number = newPersonalNumber();
     const QString name = QString::number(number);
-    const Trace trace = synchronise({newcomer(number).with(&ExportLine::nadrizenyOsobniCislo, 1001),
-                                     newcomer(number).with(&ExportLine::stavPracovnihoPomeru, 4)});
+    const Trace trace = synchronise({newcomer(number).with(&ExportRow::nadrizenyOsobniCislo, 1001),
+                                     newcomer(number).with(&ExportRow::stavPracovnihoPomeru, 4)});
     const QString person = name + ".1 Malá Eva (S: 120, K: 1 from " + shortDate(today().addDays(1))
         + ") N-V: " + shortDate(today().addDays(-10))
         + " - ; ES: 0, RS:  -  '' TPP: 11  DOV: 0 NOC: 1001";

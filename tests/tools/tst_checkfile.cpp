@@ -10,21 +10,21 @@
 namespace {
 
 /// The good line of test support with one field replaced.
-QByteArray line(QString ExportLine::*field, const QString &value)
+QByteArray line(QString ExportRow::*field, const QString &value)
 {
-    return ExportLine().with(field, value).text().toUtf8() + '\n';
+    return ExportRow().with(field, value).text().toUtf8() + '\n';
 }
 
 QByteArray good()
 {
-    return ExportLine().text().toUtf8() + '\n';
+    return ExportRow().text().toUtf8() + '\n';
 }
 
 QByteArray goodOf(const QString &personalNumber, const QString &relationship)
 {
-    return ExportLine()
-               .with(&ExportLine::osobniCislo, personalNumber)
-               .with(&ExportLine::poradoveCisloPP, relationship)
+    return ExportRow()
+               .with(&ExportRow::osobniCislo, personalNumber)
+               .with(&ExportRow::poradoveCisloPP, relationship)
                .text()
                .toUtf8()
         + '\n';
@@ -103,7 +103,7 @@ void TestCheckFile::aRuleTripsOnItsFixtureOnly_data()
     const auto passes = [](const char *name, const QByteArray &content, const char *rule) {
         QTest::newRow(name) << content << QString(rule) << -1 << QString();
     };
-    using E = ExportLine;
+    using E = ExportRow;
 
     trips("17 fields", good() + E().text().section('|', 0, 16).toUtf8() + "\n", "field-count", 2,
           "");
@@ -286,7 +286,7 @@ void TestCheckFile::aDroppedLineIsFlaggedAsSuch_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("dropped");
-    using E = ExportLine;
+    using E = ExportRow;
 
     QTest::newRow("too few fields") << QByteArray("1|2\n") << true;
     QTest::newRow("a header") << "osobnicislo" + QByteArray(17, '|') + "\n" << true;
@@ -340,7 +340,7 @@ void TestCheckFile::notesAloneAreFine()
 
 void TestCheckFile::factsCountTheLines()
 {
-    const ToolRun run = check(good() + "\n" + line(&ExportLine::osobniCislo, "x")
+    const ToolRun run = check(good() + "\n" + line(&ExportRow::osobniCislo, "x")
                               + goodOf("4294967", "296") + QByteArray(70000, 'x') + "\n");
     const QJsonObject facts = run.json()["facts"].toObject();
     QCOMPARE(facts["lines"].toInt(), 5);
@@ -355,7 +355,7 @@ void TestCheckFile::factsCountTheLines()
 void TestCheckFile::aFindingSaysWhoAndWhere()
 {
     const QJsonObject finding =
-        check(line(&ExportLine::dovolenaZustatek, "12,5")).findingsOf("bad-number").value(0);
+        check(line(&ExportRow::dovolenaZustatek, "12,5")).findingsOf("bad-number").value(0);
     QCOMPARE(finding["subject"].toString(), QString("1234.1 Jana Nováková"));
     QCOMPARE(finding["severity"].toString(), QString("warning"));
     QCOMPARE(finding["message"].toString(),
@@ -366,7 +366,7 @@ void TestCheckFile::aFindingSaysWhoAndWhere()
 
 void TestCheckFile::theTextTellsEverything()
 {
-    const ToolRun run = check(line(&ExportLine::datumVystupu, "31.3.2021").chopped(1), {});
+    const ToolRun run = check(line(&ExportRow::datumVystupu, "31.3.2021").chopped(1), {});
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(
         run.out.section('\n', 2),
@@ -391,7 +391,7 @@ void TestCheckFile::theAdviceFitsTheMistake_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("advice");
-    using E = ExportLine;
+    using E = ExportRow;
     QTest::newRow("semicolons") << good().replace('|', ';')
                                 << "Fields are separated by the character |, nothing else.";
     QTest::newRow("a separator at the end")
@@ -477,8 +477,8 @@ void TestCheckFile::theRejectsHoldTheLinesAsTheyStand()
     const QString path = m_dir->filePath("rejects.txt");
     const QByteArray broken("1|Ji\xF8\xED|\"x\\\r");
     const ToolRun run =
-        check(good() + broken + "\n" + line(&ExportLine::dovolenaZustatek, "1,5")
-                  + line(&ExportLine::jmeno, "O'Neil") + QByteArray(70000, 'x') + "\n",
+        check(good() + broken + "\n" + line(&ExportRow::dovolenaZustatek, "1,5")
+                  + line(&ExportRow::jmeno, "O'Neil") + QByteArray(70000, 'x') + "\n",
               {"--rejects", path});
     COMPARE_EXIT(run, ExitStatus::Findings);
 
@@ -499,7 +499,7 @@ void TestCheckFile::theRejectsHoldTheLinesAsTheyStand()
                  "# Line 4: Jmeno: The text \"O'Neil\" has an apostrophe. It goes into the "
                  "statement as it is, and the statement fails, or does something else: the person "
                  "is not written. Write the text without ', or with the character ’.",
-                 ExportLine().with(&ExportLine::jmeno, "O'Neil").text().toUtf8(),
+                 ExportRow().with(&ExportRow::jmeno, "O'Neil").text().toUtf8(),
                  "",
                  "# Line 5: The line is longer than 65536 bytes; the plugin passes over it. The "
                  "export is damaged; perhaps line feeds are missing.",
@@ -522,7 +522,7 @@ void TestCheckFile::theRejectsAreNoExport()
 {
     // Sent back by mistake, the remarks among the lines must not become people.
     const QString path = m_dir->filePath("rejects.txt");
-    check(line(&ExportLine::jmeno, "'"), {"--rejects", path});
+    check(line(&ExportRow::jmeno, "'"), {"--rejects", path});
     const ToolRun run = runTool({"check-file", "--json", path});
     QCOMPARE(run.json()["facts"].toObject()["records"].toInt(), 1);
     QCOMPARE(run.json()["facts"].toObject()["dropped"].toInt(), 4);

@@ -30,7 +30,7 @@ private Q_SLOTS:
 
 private:
     QStringList databaseOptions();
-    ToolRun check(const ExportLine &line, const QStringList &options);
+    ToolRun check(const ExportRow &line, const QStringList &options);
 
     TestDatabase m_db;
     ExportFile m_export;
@@ -53,7 +53,7 @@ QStringList TestCheckFileDatabase::databaseOptions()
         "--user",   m_db.server().userName(),   "--password-file", m_db.server().passwordFile()};
 }
 
-ToolRun TestCheckFileDatabase::check(const ExportLine &line, const QStringList &options)
+ToolRun TestCheckFileDatabase::check(const ExportRow &line, const QStringList &options)
 {
     m_export.write({line.text()});
     return runTool(QStringList{"check-file", "--json", m_export.path()} + options);
@@ -80,7 +80,7 @@ void TestCheckFileDatabase::aTextLongerThanItsColumnIsFound()
     QFETCH(QString, column);
     QFETCH(QString, field);
     m_db.run(QString("ALTER TABLE people MODIFY %1 VARCHAR(25) NOT NULL DEFAULT ''").arg(column));
-    ExportLine line;
+    ExportRow line;
     QStringList fields = line.fields();
     const int position = QStringList{"title", "name", "surname", "title2", "phone"}.indexOf(column)
         + 2; // behind the two numbers
@@ -107,20 +107,20 @@ void TestCheckFileDatabase::charactersAreCountedNotCodeUnits()
 {
     m_db.resetEmpty();
     m_db.run("ALTER TABLE people MODIFY name VARCHAR(3) NOT NULL DEFAULT ''");
-    const ToolRun run = check(ExportLine().with(&ExportLine::jmeno, "👤👤👤"), databaseOptions());
+    const ToolRun run = check(ExportRow().with(&ExportRow::jmeno, "👤👤👤"), databaseOptions());
     QVERIFY2(run.findingsOf("text-too-long").isEmpty(), run.report().constData());
 }
 
 void TestCheckFileDatabase::withoutADatabaseNoTextIsTooLong()
 {
-    const ToolRun run = check(ExportLine().with(&ExportLine::jmeno, QString(5000, 'x')), {});
+    const ToolRun run = check(ExportRow().with(&ExportRow::jmeno, QString(5000, 'x')), {});
     COMPARE_EXIT(run, ExitStatus::Fine);
 }
 
 void TestCheckFileDatabase::nothingIsWritten()
 {
     m_db.clearStatements();
-    COMPARE_EXIT(check(ExportLine(), databaseOptions()), ExitStatus::Fine);
+    COMPARE_EXIT(check(ExportRow(), databaseOptions()), ExitStatus::Fine);
     const QStringList statements = m_db.statements();
     QCOMPARE(statements.size(), 2);
     QCOMPARE(statements[0], QString("SET SESSION TRANSACTION READ ONLY"));
@@ -130,14 +130,14 @@ void TestCheckFileDatabase::nothingIsWritten()
 void TestCheckFileDatabase::thePasswordMayComeFromTheEnvironment()
 {
     qputenv("MIROVAHRCTL_PASSWORD", m_db.server().password().toUtf8());
-    COMPARE_EXIT(check(ExportLine(), databaseOptions().mid(0, 6)), ExitStatus::Fine);
+    COMPARE_EXIT(check(ExportRow(), databaseOptions().mid(0, 6)), ExitStatus::Fine);
     QVERIFY(!qEnvironmentVariableIsSet("MIROVAHRCTL_PASSWORD"));
 }
 
 void TestCheckFileDatabase::aServerThatIsNotThereIsNoDatabase()
 {
-    const ToolRun run = check(
-        ExportLine(), {"--socket", "/nowhere/socket", "--database", "tepdb", "--user", "yav"});
+    const ToolRun run =
+        check(ExportRow(), {"--socket", "/nowhere/socket", "--database", "tepdb", "--user", "yav"});
     COMPARE_EXIT(run, ExitStatus::NoDatabase);
     QVERIFY2(run.err.startsWith("mirovahrctl: check-file: The database cannot be opened: "),
              run.report().constData());
@@ -148,13 +148,13 @@ void TestCheckFileDatabase::aWrongPasswordIsNoDatabase()
 {
     QStringList options = databaseOptions();
     options.last() = "/dev/null";
-    COMPARE_EXIT(check(ExportLine(), options), ExitStatus::NoDatabase);
+    COMPARE_EXIT(check(ExportRow(), options), ExitStatus::NoDatabase);
 }
 
 void TestCheckFileDatabase::aDatabaseWithoutPeopleBreaksTheContract()
 {
     m_db.hideTable("people");
-    const ToolRun run = check(ExportLine(), databaseOptions());
+    const ToolRun run = check(ExportRow(), databaseOptions());
     COMPARE_EXIT(run, ExitStatus::ContractBroken);
     QCOMPARE(run.err,
              QString("mirovahrctl: check-file: The database has no table 'people' with texts, or "

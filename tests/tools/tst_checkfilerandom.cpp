@@ -48,24 +48,24 @@ QString randomText(Random &random)
 /// The fields of a person, often with bad numbers and names.
 QStringList randomFields(Random &random)
 {
-    ExportLine line;
-    line.with(&ExportLine::osobniCislo, 1000 + random.bounded(10));
+    ExportRow line;
+    line.with(&ExportRow::osobniCislo, 1000 + random.bounded(10));
     if (random.bounded(3) == 0)
-        line.with(&ExportLine::osobniCislo, randomNumber(random));
+        line.with(&ExportRow::osobniCislo, randomNumber(random));
     if (random.bounded(3) == 0)
-        line.with(&ExportLine::poradoveCisloPP, randomNumber(random));
+        line.with(&ExportRow::poradoveCisloPP, randomNumber(random));
     if (random.bounded(2) == 0)
-        line.with(&ExportLine::jmeno, randomText(random));
+        line.with(&ExportRow::jmeno, randomText(random));
     if (random.bounded(2) == 0)
-        line.with(&ExportLine::prijmeni, randomText(random));
+        line.with(&ExportRow::prijmeni, randomText(random));
     if (random.bounded(3) == 0)
-        line.with(&ExportLine::titul, randomText(random));
+        line.with(&ExportRow::titul, randomText(random));
     if (random.bounded(3) == 0)
-        line.with(&ExportLine::datumVystupu, randomText(random));
+        line.with(&ExportRow::datumVystupu, randomText(random));
     if (random.bounded(3) == 0)
-        line.with(&ExportLine::stredisko, randomNumber(random));
+        line.with(&ExportRow::stredisko, randomNumber(random));
     if (random.bounded(3) == 0)
-        line.with(&ExportLine::dovolenaZustatek, randomNumber(random));
+        line.with(&ExportRow::dovolenaZustatek, randomNumber(random));
     return line.fields();
 }
 

@@ -58,13 +58,13 @@ private:
 
 void TestPage::initTestCase()
 {
-    const QByteArray good = ExportLine().text().toUtf8() + '\n';
+    const QByteArray good = ExportRow().text().toUtf8() + '\n';
     const QByteArray bad =
-        ExportLine()
-            .with(&ExportLine::prijmeni, "<script>document.title='x'</script>&amp;<b>Ž</b>")
-            .with(&ExportLine::titul, QString(58, 'w') + "%1")
-            .with(&ExportLine::osobniCislo, "77")
-            .with(&ExportLine::dovolenaZustatek, "12,5")
+        ExportRow()
+            .with(&ExportRow::prijmeni, "<script>document.title='x'</script>&amp;<b>Ž</b>")
+            .with(&ExportRow::titul, QString(58, 'w') + "%1")
+            .with(&ExportRow::osobniCislo, "77")
+            .with(&ExportRow::dovolenaZustatek, "12,5")
             .text()
             .toUtf8()
         + '\n';

@@ -39,12 +39,12 @@ const QString kFieldsLine =
 const QString kDefaultPath = "/tmp/ron.data";
 
 /// A good line of a person who has left: synchronising it writes nothing.
-ExportLine formerEmployee(int personalNumber)
+ExportRow formerEmployee(int personalNumber)
 {
-    return ExportLine()
-        .with(&ExportLine::osobniCislo, personalNumber)
-        .with(&ExportLine::jmeno, "Ján")
-        .with(&ExportLine::stavPracovnihoPomeru, 4);
+    return ExportRow()
+        .with(&ExportRow::osobniCislo, personalNumber)
+        .with(&ExportRow::jmeno, "Ján")
+        .with(&ExportRow::stavPracovnihoPomeru, 4);
 }
 
 /// How the log shows the record of formerEmployee().
@@ -58,9 +58,9 @@ QString syncLine(int personalNumber)
 /// As many bytes as wanted, by means of the description of the cost centre.
 QByteArray lineOfLength(int personalNumber, int bytes)
 {
-    ExportLine line = formerEmployee(personalNumber).with(&ExportLine::strediskoPopis, "");
+    ExportRow line = formerEmployee(personalNumber).with(&ExportRow::strediskoPopis, "");
     const int missing = bytes - line.text().toUtf8().size();
-    return line.with(&ExportLine::strediskoPopis, QString(missing, 'x')).text().toUtf8();
+    return line.with(&ExportRow::strediskoPopis, QString(missing, 'x')).text().toUtf8();
 }
 
 QStringList loadedLines(MHRWorker &worker)
@@ -193,7 +193,7 @@ void TestExportFile::init()
 void TestExportFile::linesBecomeRecordsInTheirOrder()
 {
     ExportFile file;
-    file.write(QVector<ExportLine>{formerEmployee(3), formerEmployee(1), formerEmployee(2)});
+    file.write(QVector<ExportRow>{formerEmployee(3), formerEmployee(1), formerEmployee(2)});
     MHRWorker worker;
     worker.setImportFile(file.path());
     worker.loadAndParseData();
@@ -206,9 +206,9 @@ void TestExportFile::loadingAgainAppends()
     ExportFile file;
     MHRWorker worker;
     worker.setImportFile(file.path());
-    file.write(QVector<ExportLine>{formerEmployee(1), formerEmployee(2)});
+    file.write(QVector<ExportRow>{formerEmployee(1), formerEmployee(2)});
     worker.loadAndParseData();
-    file.write(QVector<ExportLine>{formerEmployee(3)});
+    file.write(QVector<ExportRow>{formerEmployee(3)});
     worker.loadAndParseData();
     QCOMPARE(takeRecords(worker), QStringList({syncLine(1), syncLine(2), syncLine(3)}));
 
@@ -346,7 +346,7 @@ void TestExportFile::aFileThatCannotBeOpenedIsCritical()
 {
     QFETCH(int, level);
     ExportFile file;
-    file.write(QVector<ExportLine>{formerEmployee(1)});
+    file.write(QVector<ExportRow>{formerEmployee(1)});
     MHRWorker worker;
     worker.setImportFile(file.path());
     worker.setDeleteFileAfterImport(true);
@@ -374,7 +374,7 @@ void TestExportFile::aFileThatCannotBeOpenedIsCritical()
 void TestExportFile::theFileIsRemovedOnlyWhenAskedFor()
 {
     ExportFile file;
-    file.write(QVector<ExportLine>{formerEmployee(1)});
+    file.write(QVector<ExportRow>{formerEmployee(1)});
     MHRWorker worker;
     worker.setImportFile(file.path());
     worker.loadAndParseData();
@@ -424,7 +424,7 @@ void TestExportFile::aFileThatCannotBeRemovedIsWarnedOf()
     QFETCH(int, level);
     // The kernel's name of an open file leads to the file but cannot be removed, not even by root.
     ExportFile file;
-    file.write(QVector<ExportLine>{formerEmployee(1)});
+    file.write(QVector<ExportRow>{formerEmployee(1)});
     QFile open(file.path());
     QVERIFY(open.open(QIODevice::ReadOnly));
     const QString path = QString("/proc/self/fd/%1").arg(open.handle());
@@ -485,7 +485,7 @@ void TestExportFile::carriageReturnsAreDropped()
 
 void TestExportFile::whiteSpaceAroundALineIsDropped()
 {
-    const QString line = formerEmployee(1).with(&ExportLine::telefon, "  555  ").text();
+    const QString line = formerEmployee(1).with(&ExportRow::telefon, "  555  ").text();
     QCOMPARE(linesOf("\t  " + line.toUtf8() + " \t \r\n"),
              QStringList("D MHRWorker::parseLine('" + line + "')"));
     QVERIFY(line.contains("|  555  |"));
@@ -582,7 +582,7 @@ void TestExportFile::theLengthOfALineCountsBytes()
 void TestExportFile::aLineIsSplitAtTheGivenSeparator()
 {
     MHRWorker worker;
-    const QStringList fields = formerEmployee(1).with(&ExportLine::strediskoPopis, "|").fields();
+    const QStringList fields = formerEmployee(1).with(&ExportRow::strediskoPopis, "|").fields();
     worker.parseLine(fields.join(';'), kFields, ';');
     worker.parseLine(fields.join('|'), kFields, ';');
     QCOMPARE(takeRecords(worker), QStringList(syncLine(1)));
@@ -591,7 +591,7 @@ void TestExportFile::aLineIsSplitAtTheGivenSeparator()
 void TestExportFile::theSeparatorIsCaseSensitive()
 {
     MHRWorker worker;
-    const QStringList fields = formerEmployee(1).with(&ExportLine::titul, "X").fields();
+    const QStringList fields = formerEmployee(1).with(&ExportRow::titul, "X").fields();
     worker.parseLine(fields.join('x'), kFields, 'x');
     QCOMPARE(takeRecords(worker), QStringList(syncLine(1)));
 }
@@ -651,19 +651,18 @@ void TestExportFile::skippedLinesAreNamedFromDebugLevel3On()
 void TestExportFile::aLineWithoutNumberOrNameIsDroppedInSilence_data()
 {
     QTest::addColumn<QString>("line");
-    const ExportLine good = formerEmployee(1);
-    QTest::newRow("personal number 0")
-        << ExportLine(good).with(&ExportLine::osobniCislo, "0").text();
+    const ExportRow good = formerEmployee(1);
+    QTest::newRow("personal number 0") << ExportRow(good).with(&ExportRow::osobniCislo, "0").text();
     QTest::newRow("personal number abc")
-        << ExportLine(good).with(&ExportLine::osobniCislo, "abc").text();
+        << ExportRow(good).with(&ExportRow::osobniCislo, "abc").text();
     QTest::newRow("negative personal number")
-        << ExportLine(good).with(&ExportLine::osobniCislo, "-1").text();
+        << ExportRow(good).with(&ExportRow::osobniCislo, "-1").text();
     QTest::newRow("no relationship")
-        << ExportLine(good).with(&ExportLine::poradoveCisloPP, "").text();
+        << ExportRow(good).with(&ExportRow::poradoveCisloPP, "").text();
     QTest::newRow("relationship 1.0")
-        << ExportLine(good).with(&ExportLine::poradoveCisloPP, "1.0").text();
+        << ExportRow(good).with(&ExportRow::poradoveCisloPP, "1.0").text();
     QTest::newRow("no name")
-        << ExportLine(good).with(&ExportLine::jmeno, "").with(&ExportLine::prijmeni, "").text();
+        << ExportRow(good).with(&ExportRow::jmeno, "").with(&ExportRow::prijmeni, "").text();
 }
 
 void TestExportFile::aLineWithoutNumberOrNameIsDroppedInSilence()
@@ -680,19 +679,19 @@ void TestExportFile::aLineWithoutNumberOrNameIsDroppedInSilence()
 void TestExportFile::aLineWithBadValuesIsKept()
 {
     MHRWorker worker;
-    worker.parseLine(ExportLine()
-                         .with(&ExportLine::osobniCislo, " 0001234 ")
-                         .with(&ExportLine::prijmeni, "")
-                         .with(&ExportLine::datumNastupu, "2019-04-01")
-                         .with(&ExportLine::datumVystupu, "")
-                         .with(&ExportLine::stredisko, "-1")
-                         .with(&ExportLine::kalendar, "3.0")
-                         .with(&ExportLine::kalendarPlatnostOd, "x")
-                         .with(&ExportLine::typPracovnihoPomeru, "11x")
-                         .with(&ExportLine::stavPracovnihoPomeru, "65540")
-                         .with(&ExportLine::evidencniStav, "65537")
-                         .with(&ExportLine::dovolenaZustatek, "12,5")
-                         .with(&ExportLine::nadrizenyOsobniCislo, "4294967296")
+    worker.parseLine(ExportRow()
+                         .with(&ExportRow::osobniCislo, " 0001234 ")
+                         .with(&ExportRow::prijmeni, "")
+                         .with(&ExportRow::datumNastupu, "2019-04-01")
+                         .with(&ExportRow::datumVystupu, "")
+                         .with(&ExportRow::stredisko, "-1")
+                         .with(&ExportRow::kalendar, "3.0")
+                         .with(&ExportRow::kalendarPlatnostOd, "x")
+                         .with(&ExportRow::typPracovnihoPomeru, "11x")
+                         .with(&ExportRow::stavPracovnihoPomeru, "65540")
+                         .with(&ExportRow::evidencniStav, "65537")
+                         .with(&ExportRow::dovolenaZustatek, "12,5")
+                         .with(&ExportRow::nadrizenyOsobniCislo, "4294967296")
                          .text(),
                      kFields, '|');
     QCOMPARE(takeRecords(worker),
