@@ -1,5 +1,6 @@
 #include "tests/support/localzone.h"
 #include "tests/worker/recordtext.h"
+#include "tests/worker/samplerecord.h"
 #include "worker/mhrworker.h"
 #include "worker/mirovaronrecord.h"
 #include "worker/recordcodes.h"
@@ -36,31 +37,14 @@ public:
     }
 };
 
-/// A record in which every field differs from its default.
-MirovaRonRecord fullRecord(ushort es)
+/// A record with a register state, whose relationship state is not yet derived from it.
+MirovaRonRecord recordWith(ushort es)
 {
-    MirovaRonRecord r;
-    r.osobniCislo = 1234;
-    r.poradoveCisloPP = 2;
-    r.titul = "Ing.";
-    r.jmeno = "Jana";
-    r.prijmeni = "Nováková";
-    r.titulZa = "PhD.";
-    r.telefon = "555123456";
-    r.datumNastupu = QDate(2019, 4, 1);
-    r.datumVystupu = QDate(2030, 12, 31);
-    r.stredisko = 120;
-    r.strediskoPopis = "Sklad";
-    r.kalendar = 3;
-    r.kalendarPlatnostOd = QDate(2020, 5, 1);
-    r.typPracovnihoPomeru = 11;
-    r.stavPracovnihoPomeru = 1;
+    MirovaRonRecord r = fullRecord();
     r.evidencniStav = es;
     r.rsFrom = QDate(1999, 9, 9);
     r.rsTo = QDate(1999, 10, 10);
     r.rsText = "to be replaced";
-    r.dovolenaZustatek = 12.5;
-    r.nadrizenyOsobniCislo = 1001;
     return r;
 }
 
@@ -350,9 +334,9 @@ void TestRecordCodes::theTextOfARecordIsThatOfItsRegisterState()
 {
     MHRWorker worker;
     worker.setMes({{22, "na rodičovskej"}});
-    QCOMPARE(worker.es2rsText(fullRecord(21)), QString("materská dovolenka"));
-    QCOMPARE(worker.es2rsText(fullRecord(22)), QString("na rodičovskej"));
-    QCOMPARE(worker.es2rsText(fullRecord(23)), QString());
+    QCOMPARE(worker.es2rsText(recordWith(21)), QString("materská dovolenka"));
+    QCOMPARE(worker.es2rsText(recordWith(22)), QString("na rodičovskej"));
+    QCOMPARE(worker.es2rsText(recordWith(23)), QString());
 }
 
 void TestRecordCodes::builtInTextsAreTranslated()
@@ -423,9 +407,9 @@ void TestRecordCodes::aConfiguredStateGoesOnOrStartsToday()
     QFETCH(QDate, from);
     QFETCH(QDate, to);
     const MirovaRonRecord last = withState({}, lastFrom, lastTo, "old text");
-    MirovaRonRecord record = fullRecord(21);
+    MirovaRonRecord record = recordWith(21);
     RecordCodes::continueRs(record, last, "new text", kToday);
-    QCOMPARE(record, withState(fullRecord(21), from, to, "new text"));
+    QCOMPARE(record, withState(recordWith(21), from, to, "new text"));
 }
 
 void TestRecordCodes::anyOtherStateClosesTheRunningPeriod_data()
@@ -450,9 +434,9 @@ void TestRecordCodes::anyOtherStateClosesTheRunningPeriod()
     QFETCH(QDate, from);
     QFETCH(QDate, to);
     const MirovaRonRecord last = withState({}, lastFrom, lastTo, "old text");
-    MirovaRonRecord record = fullRecord(21);
+    MirovaRonRecord record = recordWith(21);
     RecordCodes::closeRs(record, last, kToday);
-    QCOMPARE(record, withState(fullRecord(21), from, to, "old text"));
+    QCOMPARE(record, withState(recordWith(21), from, to, "old text"));
 }
 
 void TestRecordCodes::theStateOfAPersonOverManyDays()
@@ -483,12 +467,12 @@ void TestRecordCodes::theStateOfAPersonOverManyDays()
 
     MirovaRonRecord last;
     for (const Day &day : days) {
-        MirovaRonRecord record = fullRecord(day.es);
+        MirovaRonRecord record = recordWith(day.es);
         if (configured.contains(day.es))
             RecordCodes::continueRs(record, last, configured.value(day.es), day.today);
         else
             RecordCodes::closeRs(record, last, day.today);
-        QCOMPARE(record, withState(fullRecord(day.es), day.from, day.to, day.text));
+        QCOMPARE(record, withState(recordWith(day.es), day.from, day.to, day.text));
         last = record;
     }
 }
@@ -501,17 +485,17 @@ void TestRecordCodes::theWorkerDerivesTheStateOfToday()
         const QDate yesterday = today.addDays(-1);
         const QDate tomorrow = today.addDays(1);
 
-        MirovaRonRecord record = fullRecord(21);
+        MirovaRonRecord record = recordWith(21);
         worker.updateRs(record, MirovaRonRecord());
-        QCOMPARE(record, withState(fullRecord(21), today, QDate(), "na materskej"));
+        QCOMPARE(record, withState(recordWith(21), today, QDate(), "na materskej"));
 
-        record = fullRecord(21);
+        record = recordWith(21);
         worker.updateRs(record, withState({}, yesterday, tomorrow, "before"));
-        QCOMPARE(record, withState(fullRecord(21), yesterday, tomorrow, "na materskej"));
+        QCOMPARE(record, withState(recordWith(21), yesterday, tomorrow, "na materskej"));
 
-        record = fullRecord(22);
+        record = recordWith(22);
         worker.updateRs(record, withState({}, yesterday, QDate(), "before"));
-        QCOMPARE(record, withState(fullRecord(22), yesterday, today, "before"));
+        QCOMPARE(record, withState(recordWith(22), yesterday, today, "before"));
     });
 }
 
@@ -522,12 +506,12 @@ void TestRecordCodes::theWorkerTellsConfiguredStatesFromOthers()
     worker.setMes({{30, "iný stav"}, {40, ""}});
     onOneDay([&worker](const QDate &today) {
         const MirovaRonRecord never;
-        QCOMPARE(worker.updateRs(fullRecord(21), never),
-                 withState(fullRecord(21), QDate(), QDate(), ""));
-        QCOMPARE(worker.updateRs(fullRecord(30), never),
-                 withState(fullRecord(30), today, QDate(), "iný stav"));
-        QCOMPARE(worker.updateRs(fullRecord(40), never),
-                 withState(fullRecord(40), today, QDate(), ""));
+        QCOMPARE(worker.updateRs(recordWith(21), never),
+                 withState(recordWith(21), QDate(), QDate(), ""));
+        QCOMPARE(worker.updateRs(recordWith(30), never),
+                 withState(recordWith(30), today, QDate(), "iný stav"));
+        QCOMPARE(worker.updateRs(recordWith(40), never),
+                 withState(recordWith(40), today, QDate(), ""));
     });
 }
 
@@ -536,10 +520,10 @@ void TestRecordCodes::theWorkerLeavesTheGivenRecordAlone()
     MHRWorker worker;
     worker.setMes({{21, "na materskej"}});
     onOneDay([&worker](const QDate &today) {
-        const MirovaRonRecord record = fullRecord(21);
+        const MirovaRonRecord record = recordWith(21);
         QCOMPARE(worker.updateRs(record, MirovaRonRecord()),
-                 withState(fullRecord(21), today, QDate(), "na materskej"));
-        QCOMPARE(record, fullRecord(21));
+                 withState(recordWith(21), today, QDate(), "na materskej"));
+        QCOMPARE(record, recordWith(21));
     });
 }
 

@@ -3,8 +3,8 @@
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
 #include "tests/support/trace.h"
+#include "tests/worker/samplerecord.h"
 #include "worker/mhrworker.h"
-#include "worker/mirovaronrecord.h"
 
 #include <QObject>
 #include <QSqlDatabase>
@@ -50,9 +50,6 @@ protected:
     static QString refusedText();
     /// How the log shows that the server is gone.
     static QString goneText();
-
-    /// Person 1234, relationship 2, with a value in every field.
-    static MirovaRonRecord fullRecord();
 
     mutable TestDatabase m_db;
     std::unique_ptr<MHRWorker> m_worker;
