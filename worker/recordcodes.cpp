@@ -3,6 +3,7 @@
 #include <QDateTime>
 
 #include <cmath>
+#include <ctime>
 #include <limits>
 
 namespace RecordCodes {
@@ -10,6 +11,38 @@ namespace RecordCodes {
 namespace {
 
 const QDate kDefaultBegin(2000, 1, 1);
+
+QDate localDate(qint64 seconds)
+{
+    const std::time_t time = seconds;
+    std::tm parts = {};
+    localtime_r(&time, &parts);
+    return QDate(parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday);
+}
+
+qint64 localSeconds(const QDate &date, int hour)
+{
+    std::tm parts = {};
+    parts.tm_year = date.year() - 1900;
+    parts.tm_mon = date.month() - 1;
+    parts.tm_mday = date.day();
+    parts.tm_hour = hour;
+    parts.tm_isdst = -1;
+    return std::mktime(&parts);
+}
+
+qint64 startOfDay(const QDate &date)
+{
+    const qint64 seconds = localSeconds(date, 0);
+    // Where clocks are put forward at midnight, the day begins at one o'clock.
+    return localDate(seconds) == date ? seconds : localSeconds(date, 1);
+}
+
+/// QDateTime leaves daylight saving time out before, and changes it on the days of 2037 afterwards.
+bool isKnownToQt(const QDate &date)
+{
+    return date.year() >= 1970 && date.year() <= 2037;
+}
 
 } // namespace
 
@@ -27,17 +60,19 @@ QString personEndForSql(const QDate &date, bool endOfDay)
 
 QDate datNastFromTimestamp(uint timestamp)
 {
-    return timestamp == 0 ? kDefaultBegin : QDateTime::fromSecsSinceEpoch(timestamp).date();
+    return timestamp == 0 ? kDefaultBegin : localDate(timestamp);
 }
 
 QDate datVystFromTimestamp(uint timestamp)
 {
-    return timestamp == 0 ? QDate() : QDateTime::fromSecsSinceEpoch(timestamp).date();
+    return timestamp == 0 ? QDate() : localDate(timestamp);
 }
 
 qint64 midnight(const QDate &date)
 {
-    return date.isValid() ? date.startOfDay().toSecsSinceEpoch() : 0;
+    if (!date.isValid())
+        return 0;
+    return isKnownToQt(date) ? date.startOfDay().toSecsSinceEpoch() : startOfDay(date);
 }
 
 quint32 midnight32(const QDate &date)

@@ -181,6 +181,20 @@ void TestRecordCodes::anEndIsTheLocalMidnightOrTheDaysLastSecond_data()
                                                    << "1541300399";
     QTest::newRow("a day without midnight") << saoPaulo << QDate(2018, 11, 4) << "1541300400"
                                             << "1541383199";
+    // Daylight saving time holds whatever the year.
+    QTest::newRow("a summer before Unix time") << bratislava << QDate(1947, 7, 1) << "-710215200"
+                                               << "-710128801";
+    QTest::newRow("28 March 2038, an hour short")
+        << bratislava << QDate(2038, 3, 28) << "2153343600"
+        << "2153426399";
+    QTest::newRow("29 March 2038") << bratislava << QDate(2038, 3, 29) << "2153426400"
+                                   << "2153512799";
+    QTest::newRow("31 October 2038, an hour longer")
+        << bratislava << QDate(2038, 10, 31) << "2172088800"
+        << "2172178799";
+    QTest::newRow("a day without midnight after 2037")
+        << QByteArray("America/Santiago") << QDate(2040, 9, 2) << "2230171200"
+        << "2230253999";
     QTest::newRow("before Unix time") << utc << QDate(1969, 12, 31) << "-86400"
                                       << "-1";
     QTest::newRow("long before Unix time") << utc << QDate(1900, 1, 1) << "-2208988800"
@@ -220,6 +234,10 @@ void TestRecordCodes::aTimestampIsReadAsItsLocalDay_data()
         << bratislava << 1554069599U << QDate(2019, 3, 31) << QDate(2019, 3, 31);
     QTest::newRow("first second of the next")
         << bratislava << 1554069600U << QDate(2019, 4, 1) << QDate(2019, 4, 1);
+    QTest::newRow("the same after 2037")
+        << bratislava << 2172088800U << QDate(2038, 10, 31) << QDate(2038, 10, 31);
+    QTest::newRow("the second before")
+        << bratislava << 2172088799U << QDate(2038, 10, 30) << QDate(2038, 10, 30);
     QTest::newRow("the same second, UTC")
         << utc << 1554069600U << QDate(2019, 3, 31) << QDate(2019, 3, 31);
     QTest::newRow("largest") << utc << 4294967295U << QDate(2106, 2, 7) << QDate(2106, 2, 7);
@@ -242,8 +260,8 @@ void TestRecordCodes::aTimestampIsReadAsItsLocalDay()
 void TestRecordCodes::everyDayComesBackFromTheDatabase_data()
 {
     QTest::addColumn<QByteArray>("zone");
-    for (const char *zone :
-         {"UTC", "Europe/Bratislava", "America/New_York", "America/Sao_Paulo", "Asia/Kolkata"})
+    for (const char *zone : {"UTC", "Europe/Bratislava", "America/New_York", "America/Sao_Paulo",
+                             "America/Santiago", "Asia/Kolkata"})
         QTest::newRow(zone) << QByteArray(zone);
 }
 
