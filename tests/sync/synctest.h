@@ -63,10 +63,12 @@ protected:
     ExportFile m_export;
     std::unique_ptr<MHRWorker> m_worker;
 
+protected Q_SLOTS:
+    void cleanup();
+
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void cleanup();
 
 private:
     void learnUids();
