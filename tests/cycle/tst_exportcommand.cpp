@@ -1,10 +1,75 @@
+#include "tests/cycle/commandgate.h"
 #include "tests/cycle/cycletest.h"
 
 #include <QFile>
 #include <QTextCodec>
 #include <QtTest>
 
+#include <thread>
+
+#include <fcntl.h>
 #include <unistd.h>
+
+namespace {
+
+/// A file, executable or not, in the folder of \a neighbour.
+QString writeScript(const QString &neighbour, const QByteArray &content,
+                    QFile::Permissions permissions)
+{
+    QFile file(neighbour + ".script");
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()
+        || !file.setPermissions(permissions))
+        qFatal("%s could not be written", qPrintable(file.fileName()));
+    return file.fileName();
+}
+
+constexpr QFile::Permissions kExecutable = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+/// Counts what is written to a standard channel of this program, until it is put back.
+class CountedChannel {
+public:
+    explicit CountedChannel(int channel)
+        : m_channel(channel)
+        , m_original(::dup(channel))
+    {
+        int ends[2] = {};
+        if (::pipe2(ends, O_CLOEXEC) != 0)
+            qFatal("There is no pipe");
+        ::dup2(ends[1], channel);
+        ::close(ends[1]);
+        m_reader = std::thread([this, end = ends[0]] { read(end); });
+    }
+    ~CountedChannel() { putBack(); }
+    CountedChannel(const CountedChannel &) = delete;
+    CountedChannel &operator=(const CountedChannel &) = delete;
+
+    qint64 putBack()
+    {
+        if (m_reader.joinable()) {
+            ::dup2(m_original, m_channel);
+            ::close(m_original);
+            m_reader.join();
+        }
+        return m_count;
+    }
+
+private:
+    void read(int end)
+    {
+        char buffer[4096];
+        ssize_t count = 0;
+        while ((count = ::read(end, buffer, sizeof(buffer))) > 0)
+            m_count += count;
+        ::close(end);
+    }
+
+    const int m_channel;
+    const int m_original;
+    qint64 m_count = 0;
+    std::thread m_reader;
+};
+
+} // namespace
 
 class TestExportCommand : public CycleTest {
     Q_OBJECT
@@ -22,6 +87,12 @@ private Q_SLOTS:
     void aFailingCommandDoesNotKeepTheFileFromBeingRead_data();
     void aFailingCommandDoesNotKeepTheFileFromBeingRead();
     void theCommandHasTheStandardChannelsOfTheProcess();
+    void whatIsNoProgramCannotStart_data();
+    void whatIsNoProgramCannotStart();
+    void aScriptGetsItsArgumentsAsTheyAreQuoted();
+    void aCommandMayPrintMegabytes_data();
+    void aCommandMayPrintMegabytes();
+    void aProcessThatTheCommandLeavesBehindIsNotWaitedFor();
 };
 
 void TestExportCommand::theRunConditionDecides_data()
@@ -76,6 +147,10 @@ void TestExportCommand::theResultOfTheCommandIsLogged_data()
     row("exit code 7", "/bin/sh -c \"exit 7\"", 7);
     row("exit code 255", "/bin/sh -c \"exit 255\"", 255);
     row("a crash is -1", "/bin/sh -c \"kill -SEGV $$\"", -1);
+    row("killed is -1", "/bin/sh -c \"kill -KILL $$\"", -1);
+    row("ended by a signal is -1", "/bin/sh -c \"kill -TERM $$\"", -1);
+    row("a child's crash is the shell's code", "/bin/sh -c \"/bin/sh -c 'kill -KILL $$'; exit $?\"",
+        137);
     row("a program that cannot start is -2", "/nowhere/at/all", -2);
     row("only blanks cannot start", " ", -2);
     QTest::newRow("no command") << ""
@@ -178,6 +253,102 @@ void TestExportCommand::theCommandHasTheStandardChannelsOfTheProcess()
 
     QVERIFY(output.seek(0));
     QCOMPARE(output.readAll(), QByteArray("from the command\n"));
+}
+
+void TestExportCommand::whatIsNoProgramCannotStart_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("executable");
+    QTest::newRow("a script that is not executable") << QByteArray("#!/bin/sh\n") << false;
+    QTest::newRow("a script without its first line") << QByteArray("exit 0\n") << true;
+    QTest::newRow("a script of a shell that is not there")
+        << QByteArray("#!/nowhere/sh\nexit 0\n") << true;
+    QTest::newRow("an empty file") << QByteArray() << true;
+}
+
+void TestExportCommand::whatIsNoProgramCannotStart()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, executable);
+    const QString command = writeScript(
+        m_file->path(), content, executable ? kExecutable : QFile::ReadOwner | QFile::WriteOwner);
+    MHRWorker &worker = startWorker(0);
+    worker.setSyncCommand(command);
+    worker.setSyncCommandRunCondition(2);
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    QCOMPARE(
+        tick(),
+        QStringList("W MHRWorker::runCommand() - command: '" + command + "' exit with code: -2"));
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
+}
+
+void TestExportCommand::aScriptGetsItsArgumentsAsTheyAreQuoted()
+{
+    const QString output = m_file->path() + ".arguments";
+    const QString script = writeScript(m_file->path(),
+                                       "#!/bin/sh\nfor a in \"$@\"; do echo \"[$a]\"; done > '"
+                                           + output.toUtf8() + "'\nexit 3\n",
+                                       kExecutable);
+    MHRWorker &worker = startWorker(0);
+    const QString command = script
+        + R"( plain  "two  words" a"b c"d """"quoted"""" 'single quotes' $HOME * "" ; > x | y)";
+    worker.setSyncCommand(command);
+    worker.runCommand();
+    QCOMPARE(
+        m_log->lines(),
+        QStringList("W MHRWorker::runCommand() - command: '" + command + "' exit with code: 3"));
+    QFile file(output);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    // Quotes join, three of them are one; everything else is text.
+    QCOMPARE(QString(file.readAll()).split('\n', Qt::SkipEmptyParts),
+             QStringList({"[plain]", "[two  words]", "[ab cd]", "[\"quoted\"]", "['single]",
+                          "[quotes']", "[$HOME]", "[*]", "[;]", "[>]", "[x]", "[|]", "[y]"}));
+}
+
+void TestExportCommand::aCommandMayPrintMegabytes_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<qint64>("output");
+    QTest::addColumn<qint64>("errors");
+    constexpr qint64 kMany = 8000000;
+    const QString print = "/bin/sh -c \"head -c 8000000 /dev/zero %1\"";
+    QTest::newRow("to standard output") << print.arg("") << kMany << qint64(0);
+    QTest::newRow("to standard error") << print.arg(">&2") << qint64(0) << kMany;
+    QTest::newRow("to one after the other")
+        << print.arg("; head -c 8000000 /dev/zero >&2") << kMany << kMany;
+    QTest::newRow("to both at once")
+        << print.arg("& head -c 8000000 /dev/zero >&2; wait") << kMany << kMany;
+}
+
+void TestExportCommand::aCommandMayPrintMegabytes()
+{
+    QFETCH(QString, command);
+    QFETCH(qint64, output);
+    QFETCH(qint64, errors);
+    MHRWorker &worker = startWorker(0);
+    worker.setSyncCommand(command);
+    worker.setSyncCommandRunCondition(2);
+    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    // Pipes that are much smaller, as those to a log daemon.
+    CountedChannel standardOutput(STDOUT_FILENO);
+    CountedChannel standardError(STDERR_FILENO);
+    const QStringList log = tick();
+    const qint64 printed = standardOutput.putBack();
+    const qint64 complained = standardError.putBack();
+    QCOMPARE(log, QStringList());
+    QCOMPARE(printed, output);
+    QCOMPARE(complained, errors);
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
+}
+
+void TestExportCommand::aProcessThatTheCommandLeavesBehindIsNotWaitedFor()
+{
+    CommandGate gate;
+    MHRWorker &worker = startWorker(0);
+    worker.setSyncCommand("/bin/sh -c \"" + gate.command() + " & exit 0\"");
+    worker.runCommand();
+    QCOMPARE(m_log->lines(), QStringList());
+    gate.waitForCommand();
 }
 
 QTEST_GUILESS_MAIN(TestExportCommand)
