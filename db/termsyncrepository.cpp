@@ -10,7 +10,6 @@ namespace {
 // The kinds of data that a terminal fetches, as bits of `term.flags` and `term.syn`.
 constexpr unsigned short kInters = 1;
 constexpr unsigned short kPeople = 2;
-constexpr unsigned short kTimezones = 64;
 constexpr unsigned short kColorGroups = 256;
 
 const QLatin1String kQueuePerson(
