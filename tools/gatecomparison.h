@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QDate>
+#include <QHash>
+#include <QVector>
+
+class MirovaRonRecord;
+
+/// What has become of the people of the last admitted file in a new one. It takes some 60 bytes for
+/// each relationship. Of several lines about one relationship the last counts, as it does for the
+/// plugin.
+class GateComparison {
+public:
+    /// Somebody who leaves or moves.
+    struct Change {
+        quint32 osobniCislo = 0;
+        quint32 poradoveCisloPP = 0;
+        quint32 oldCostCentre = 0;
+        quint32 newCostCentre = 0; ///< 0 for who is gone, too
+
+        QString person() const; ///< payroll id, such as "1234.1"
+    };
+
+    struct Result {
+        qint64 oldLines = 0; ///< read as people
+        qint64 newLines = 0; ///< read as people
+        qint64 working = 0; ///< relationships of the old file that are active today
+        QVector<Change> leaving; ///< those of them that are gone or end, in the order of persons
+        QVector<Change> moving; ///< those that stay and get another cost centre, likewise
+
+        qint64 lostLines() const { return qMax(qint64(0), oldLines - newLines); }
+    };
+
+    explicit GateComparison(const QDate &today);
+
+    void addOld(const MirovaRonRecord &record);
+    void addNew(const MirovaRonRecord &record);
+
+    Result result() const;
+
+private:
+    struct Relationship {
+        qint32 oldEnd = 0; ///< Julian day
+        qint32 newEnd = 0; ///< Julian day
+        quint32 oldCostCentre = 0;
+        quint32 newCostCentre = 0;
+        bool wasActive = false;
+        bool goesOn = false; ///< in the new file, and its state is not one that has ended
+
+        bool leaves() const { return !goesOn || newEnd < oldEnd; }
+    };
+
+    const QDate m_today;
+    QHash<quint64, Relationship> m_relationships;
+    qint64 m_oldLines = 0;
+    qint64 m_newLines = 0;
+};

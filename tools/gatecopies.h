@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+class GateFolder;
+
+/// The dated copies of admitted files, named after the moment of their admission in UTC:
+/// "admitted-20261121T051000Z.data".
+class GateCopies {
+public:
+    explicit GateCopies(GateFolder &folder)
+        : m_folder(folder)
+    {
+    }
+
+    /// Gives an admitted file, which is never written to again, a second name. Both return false
+    /// when that is not possible; the folder then says why.
+    bool add(const QString &fileName, const QDateTime &time);
+    /// Removes all but the newest ones.
+    bool prune(qint64 keep);
+
+private:
+    GateFolder &m_folder;
+};

@@ -1,0 +1,121 @@
+#include "tools/gateexamination.h"
+
+#include "tools/gatefolder.h"
+#include "tools/progress.h"
+#include "tools/rejectstext.h"
+#include "worker/boundedlinereader.h"
+#include "worker/exportline.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kPieceSize = 64 * 1024;
+
+bool hasRule(const QVector<Finding> &findings, const char *rule)
+{
+    return std::any_of(findings.cbegin(), findings.cend(), [rule](const Finding &finding) {
+        return finding.rule == QLatin1String(rule);
+    });
+}
+
+/// What a line looks like that was not written to its end.
+bool isBroken(const CheckedLine &line)
+{
+    return hasRule(line.findings, "field-count") || hasRule(line.findings, "line-too-long")
+        || hasRule(line.findings, "nul-byte");
+}
+
+} // namespace
+
+GateExamination::GateExamination(GateFolder &folder, Console &console)
+    : m_folder(folder)
+    , m_console(console)
+{
+}
+
+bool GateExamination::run(const QString &copy, const QString &lastAdmitted, RejectsText &rejects)
+{
+    QFile newFile;
+    QFile oldFile;
+    if (!openFiles(copy, newFile, lastAdmitted, oldFile))
+        return false;
+    GateComparison comparison(QDate::currentDate());
+    if (m_facts.hasBaseline && !(compareContents(newFile, oldFile) && readOld(oldFile, comparison)))
+        return false;
+    if (!readNew(newFile, comparison, rejects))
+        return false;
+    m_facts.changes = comparison.result();
+    return true;
+}
+
+bool GateExamination::openFiles(const QString &copy, QFile &newFile, const QString &lastAdmitted,
+                                QFile &oldFile)
+{
+    bool missing = false;
+    m_facts.hasBaseline = m_folder.openForReading(lastAdmitted, oldFile, missing);
+    if ((m_facts.hasBaseline || missing) && m_folder.openForReading(copy, newFile, missing))
+        return true;
+    m_error = m_folder.errorString();
+    return false;
+}
+
+bool GateExamination::compareContents(QFile &newFile, QFile &oldFile)
+{
+    m_unchanged = newFile.size() == oldFile.size();
+    while (m_unchanged) {
+        const QByteArray piece = newFile.read(kPieceSize);
+        m_unchanged = piece == oldFile.read(kPieceSize);
+        if (piece.isEmpty())
+            break;
+    }
+    // Seeking forgets the error.
+    if (newFile.error() != QFileDevice::NoError || !newFile.seek(0))
+        return failReading(newFile, QStringLiteral("The copy of HR's file"));
+    if (oldFile.error() != QFileDevice::NoError || !oldFile.seek(0))
+        return failReading(oldFile, QStringLiteral("The last admitted file"));
+    return true;
+}
+
+bool GateExamination::readOld(QFile &file, GateComparison &comparison)
+{
+    const int fieldCount = ExportLine::fieldNames().size();
+    BoundedLineReader reader(file);
+    while (reader.next()) {
+        const QStringList parts =
+            ExportLine::split(ExportLine::decode(reader.line()), ExportLine::kSeparator);
+        if (parts.size() != fieldCount)
+            continue;
+        const MirovaRonRecord record = ExportLine::toRecord(parts);
+        if (ExportLine::isUsable(record))
+            comparison.addOld(record);
+    }
+    return file.error() == QFileDevice::NoError
+        || failReading(file, QStringLiteral("The last admitted file"));
+}
+
+bool GateExamination::readNew(QFile &file, GateComparison &comparison, RejectsText &rejects)
+{
+    ExportCheck check(file, TextWidths());
+    Progress progress(m_console, QStringLiteral("Checking HR's file"));
+    check.setProgressListener(
+        [&progress](qint64 done, qint64 total) { progress.update(done, total); });
+    const bool isRead = check.run([this, &comparison, &rejects](const CheckedLine &line) {
+        if (line.record)
+            comparison.addNew(*line.record);
+        if (line.isRejected())
+            rejects.add(line);
+        m_facts.isLastLineBroken = isBroken(line);
+    });
+    m_facts.counts = check.counts();
+    m_facts.endsOpen = hasRule(check.fileFindings(), "no-final-line-feed");
+    return isRead || failReading(file, QStringLiteral("The copy of HR's file"));
+}
+
+bool GateExamination::failReading(const QFile &file, const QString &what)
+{
+    m_error = QStringLiteral("%1 cannot be read: %2").arg(what, file.errorString());
+    return false;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "tools/gatejudgement.h"
+
+#include <QString>
+
+class Console;
+class GateFolder;
+class QFile;
+class RejectsText;
+
+/// Reads the gate's copy of HR's file to its end, as check-file does, and beside it the last
+/// admitted file.
+class GateExamination {
+public:
+    GateExamination(GateFolder &folder, Console &console);
+
+    /// Both files lie in the folder; the second need not be there. False when one cannot be read;
+    /// errorString() then says why, a sentence without its full stop.
+    bool run(const QString &copy, const QString &lastAdmitted, RejectsText &rejects);
+
+    const GateFacts &facts() const { return m_facts; }
+    /// Whether the two files are the same, byte for byte.
+    bool isUnchanged() const { return m_unchanged; }
+    QString errorString() const { return m_error; }
+
+private:
+    bool openFiles(const QString &copy, QFile &newFile, const QString &lastAdmitted,
+                   QFile &oldFile);
+    bool compareContents(QFile &newFile, QFile &oldFile);
+    bool readOld(QFile &file, GateComparison &comparison);
+    bool readNew(QFile &file, GateComparison &comparison, RejectsText &rejects);
+    bool failReading(const QFile &file, const QString &what);
+
+    GateFolder &m_folder;
+    Console &m_console;
+    GateFacts m_facts;
+    bool m_unchanged = false;
+    QString m_error;
+};

@@ -1,0 +1,206 @@
+#include "tools/gatefolder.h"
+
+#include "tools/gatefile.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <cerrno>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr mode_t kPrivateFolder = 0700;
+constexpr mode_t kPrivateFile = 0600;
+
+bool isRoot()
+{
+    return ::geteuid() == 0;
+}
+
+bool isTrusted(const struct stat &folder)
+{
+    const bool owned = folder.st_uid == ::geteuid() || folder.st_uid == 0 || isRoot();
+    return owned && (folder.st_mode & S_IWOTH) == 0;
+}
+
+} // namespace
+
+GateFolder::~GateFolder()
+{
+    if (m_lockFd >= 0)
+        ::close(m_lockFd);
+    if (m_fd >= 0)
+        ::close(m_fd);
+}
+
+bool GateFolder::open(const QString &path)
+{
+    m_path = QDir::cleanPath(path);
+    struct stat status = {};
+    return openFolder(0, status);
+}
+
+bool GateFolder::openPrivate(const QString &path)
+{
+    m_path = QDir::cleanPath(path);
+    const bool made = ::mkdir(QFile::encodeName(m_path).constData(), kPrivateFolder) == 0;
+    if (!made && errno != EEXIST)
+        return fail(m_path, "cannot be made");
+    struct stat status = {};
+    if (!openFolder(O_NOFOLLOW, status) || (made && !takeOwnerOfParent()))
+        return false;
+    if (isTrusted(status))
+        return true;
+    m_error = QStringLiteral("The folder '%1' belongs to somebody else, or everybody may write "
+                             "there: what the gate keeps would be worth nothing")
+                  .arg(m_path);
+    return false;
+}
+
+bool GateFolder::openFolder(int flags, struct stat &status)
+{
+    m_fd =
+        ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | flags);
+    if (m_fd < 0 || ::fstat(m_fd, &status) != 0)
+        return fail(m_path, "cannot be opened as a folder");
+    m_owner = status.st_uid;
+    m_group = status.st_gid;
+    return true;
+}
+
+/// Root runs the gate by hand where the attendance server's user runs it otherwise, and must not
+/// leave anything that is closed to that user.
+bool GateFolder::takeOwnerOfParent()
+{
+    struct stat parent = {};
+    if (::fstatat(m_fd, "..", &parent, 0) != 0)
+        return fail(m_path, "cannot be made");
+    m_owner = parent.st_uid;
+    m_group = parent.st_gid;
+    return giveToOwner(m_fd) || fail(m_path, "cannot be given to its owner");
+}
+
+GateFolder::Lock GateFolder::lock(const QString &name)
+{
+    m_lockFd = ::openat(m_fd, QFile::encodeName(name).constData(),
+                        O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kPrivateFile);
+    if (m_lockFd >= 0 && giveToOwner(m_lockFd) && ::flock(m_lockFd, LOCK_EX | LOCK_NB) == 0)
+        return Lock::Taken;
+    if (m_lockFd >= 0 && errno == EWOULDBLOCK)
+        return Lock::Busy;
+    fail(pathOf(name), "cannot be locked");
+    return Lock::Failed;
+}
+
+bool GateFolder::openForReading(const QString &name, QFile &file, bool &missing)
+{
+    const int fd = ::openat(m_fd, QFile::encodeName(name).constData(),
+                            O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    missing = fd < 0 && errno == ENOENT;
+    if (fd >= 0 && file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return true;
+    return fail(pathOf(name), "cannot be read");
+}
+
+std::optional<QByteArray> GateFolder::contentOf(const QString &name)
+{
+    QFile file;
+    bool missing = false;
+    if (!openForReading(name, file, missing))
+        return missing ? std::make_optional(QByteArray()) : std::nullopt;
+    const QByteArray content = file.readAll();
+    if (file.error() == QFileDevice::NoError)
+        return content;
+    m_error = QStringLiteral("'%1' cannot be read: %2").arg(pathOf(name), file.errorString());
+    return std::nullopt;
+}
+
+std::optional<QStringList> GateFolder::names()
+{
+    const int fd = ::openat(m_fd, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR *const folder = fd < 0 ? nullptr : ::fdopendir(fd);
+    if (folder == nullptr) {
+        fail(m_path, "cannot be listed");
+        return std::nullopt;
+    }
+    QStringList names;
+    errno = 0;
+    while (const dirent *entry = ::readdir(folder))
+        names << QFile::decodeName(entry->d_name);
+    const bool complete = errno == 0 || fail(m_path, "cannot be listed");
+    ::closedir(folder);
+    std::sort(names.begin(), names.end());
+    return complete ? std::make_optional(names) : std::nullopt;
+}
+
+bool GateFolder::link(const QString &from, const QString &to, bool &exists)
+{
+    const int result = ::linkat(m_fd, QFile::encodeName(from).constData(), m_fd,
+                                QFile::encodeName(to).constData(), 0);
+    exists = result != 0 && errno == EEXIST;
+    return result == 0 || fail(pathOf(to), "cannot be made");
+}
+
+bool GateFolder::rename(const QString &from, const QString &to)
+{
+    return ::renameat(m_fd, QFile::encodeName(from).constData(), m_fd,
+                      QFile::encodeName(to).constData())
+        == 0
+        || fail(pathOf(to), "cannot be replaced");
+}
+
+bool GateFolder::remove(const QString &name)
+{
+    return ::unlinkat(m_fd, QFile::encodeName(name).constData(), 0) == 0
+        || fail(pathOf(name), "cannot be removed");
+}
+
+bool GateFolder::removeLeftovers(const QString &name)
+{
+    const auto entries = names();
+    if (!entries)
+        return false;
+    return std::all_of(entries->cbegin(), entries->cend(), [this, &name](const QString &entry) {
+        return !isLeftover(entry, name) || remove(entry);
+    });
+}
+
+/// In a folder that others may write to, too, theirs are left alone: they cannot be removed there.
+bool GateFolder::isLeftover(const QString &entry, const QString &name) const
+{
+    struct stat status = {};
+    return GateFile::isTemporaryName(entry, name)
+        && ::fstatat(m_fd, QFile::encodeName(entry).constData(), &status, AT_SYMLINK_NOFOLLOW) == 0
+        && S_ISREG(status.st_mode) && (status.st_uid == ::geteuid() || isRoot());
+}
+
+bool GateFolder::sync()
+{
+    return ::fsync(m_fd) == 0 || fail(m_path, "cannot be written to the disk");
+}
+
+bool GateFolder::hasFile(const QString &name) const
+{
+    struct stat status = {};
+    return ::fstatat(m_fd, QFile::encodeName(name).constData(), &status, AT_SYMLINK_NOFOLLOW) == 0
+        && S_ISREG(status.st_mode);
+}
+
+bool GateFolder::giveToOwner(int file) const
+{
+    return !isRoot() || ::fchown(file, m_owner, m_group) == 0;
+}
+
+bool GateFolder::fail(const QString &path, const char *whatIsNotPossible)
+{
+    const int reason = errno;
+    m_error = QStringLiteral("'%1' %2: %3")
+                  .arg(path, QLatin1String(whatIsNotPossible), qt_error_string(reason));
+    return false;
+}

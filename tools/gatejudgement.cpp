@@ -1,0 +1,168 @@
+#include "tools/gatejudgement.h"
+
+#include "tools/plaintext.h"
+
+namespace GateJudgement {
+
+namespace {
+
+Finding finding(Severity severity, const char *rule, const QString &message, const QString &advice)
+{
+    Finding finding;
+    finding.severity = severity;
+    finding.rule = QString::fromLatin1(rule);
+    finding.message = message;
+    finding.advice = advice;
+    return finding;
+}
+
+/// "60 people (12.5 %)"
+QString share(qint64 part, qint64 whole, const QString &one, const QString &many)
+{
+    const double percent = whole > 0 ? double(part) * 100 / double(whole) : 0;
+    return QStringLiteral("%1 (%2 %)")
+        .arg(PlainText::counted(part, one, many), QString::number(percent, 'f', 1));
+}
+
+QString people(qint64 part, qint64 whole)
+{
+    return share(part, whole, QStringLiteral("person"), QStringLiteral("people"));
+}
+
+/// ", where at most 50 and 5 % may."
+QString allowance(const GateLimit &limit)
+{
+    return QStringLiteral(", where at most %1 and %2 % may.")
+        .arg(QString::number(limit.count), QString::number(limit.percent));
+}
+
+GateReason empty()
+{
+    return {finding(Severity::Error, "empty", QStringLiteral("There is nobody in the file."),
+                    QStringLiteral("Ask HR whether the export went wrong.")),
+            false};
+}
+
+GateReason truncated(const QString &message)
+{
+    return {finding(Severity::Error, "truncated", message,
+                    QStringLiteral("Ask HR for the whole file.")),
+            true};
+}
+
+GateReason noBaseline()
+{
+    return {finding(Severity::Error, "no-baseline",
+                    QStringLiteral("There is no admitted file to compare with."),
+                    QStringLiteral("Look at the file with check-file and preview, and admit it "
+                                   "once with --accept.")),
+            true};
+}
+
+QString askHr()
+{
+    return QStringLiteral("Ask HR; if it is meant so, run the gate once with --accept.");
+}
+
+GateReason linesLost(const GateComparison::Result &changes, const GateLimit &limit)
+{
+    const qint64 lost = changes.lostLines();
+    const QString lines =
+        share(lost, changes.oldLines, QStringLiteral("line"), QStringLiteral("lines"));
+    return {finding(Severity::Error, "lines-lost",
+                    lines + QStringLiteral(" with people are gone since the last admitted file")
+                        + allowance(limit),
+                    askHr()),
+            true};
+}
+
+GateReason peopleLeaving(const GateComparison::Result &changes, const GateLimit &limit)
+{
+    const int count = changes.leaving.size();
+    return {finding(Severity::Error, "people-leaving",
+                    people(count, changes.working)
+                        + (count == 1 ? QStringLiteral(" leaves") : QStringLiteral(" leave"))
+                        + allowance(limit),
+                    askHr()),
+            true};
+}
+
+GateReason peopleMoving(const GateComparison::Result &changes, const GateLimit &limit)
+{
+    const int count = changes.moving.size();
+    return {finding(Severity::Error, "people-moving",
+                    people(count, changes.working)
+                        + (count == 1 ? QStringLiteral(" gets") : QStringLiteral(" get"))
+                        + QStringLiteral(" another cost centre") + allowance(limit),
+                    askHr()),
+            true};
+}
+
+void judgeEnd(const GateFacts &facts, bool mayEndOpen, QVector<GateReason> &reasons)
+{
+    if (facts.isLastLineBroken)
+        reasons << truncated(QStringLiteral("The last line is broken."));
+    else if (facts.endsOpen && !mayEndOpen)
+        reasons << truncated(QStringLiteral("The last line has no line feed at its end."));
+}
+
+void judgeChanges(const GateComparison::Result &changes, const GateLimits &limits,
+                  QVector<GateReason> &reasons)
+{
+    if (limits.lostLines.isExceeded(changes.lostLines(), changes.oldLines))
+        reasons << linesLost(changes, limits.lostLines);
+    if (limits.leaving.isExceeded(changes.leaving.size(), changes.working))
+        reasons << peopleLeaving(changes, limits.leaving);
+    if (limits.moving.isExceeded(changes.moving.size(), changes.working))
+        reasons << peopleMoving(changes, limits.moving);
+}
+
+} // namespace
+
+QVector<GateReason> judge(const GateFacts &facts, const GateLimits &limits, bool mayEndOpen)
+{
+    QVector<GateReason> reasons;
+    if (facts.counts.records == 0)
+        reasons << empty();
+    judgeEnd(facts, mayEndOpen, reasons);
+    if (facts.hasBaseline)
+        judgeChanges(facts.changes, limits, reasons);
+    else
+        reasons << noBaseline();
+    return reasons;
+}
+
+GateReason missing(const QString &path)
+{
+    return {finding(Severity::Error, "missing", QStringLiteral("There is no file '%1'.").arg(path),
+                    QStringLiteral("Ask HR whether the export has run.")),
+            false};
+}
+
+GateReason changedMeanwhile()
+{
+    return {finding(Severity::Error, "changed-meanwhile",
+                    QStringLiteral("The file was changed while it was read."),
+                    QStringLiteral("HR's export should write under another name and rename the "
+                                   "file when it is whole.")),
+            false};
+}
+
+GateReason justWritten(qint64 settleSeconds)
+{
+    return {finding(Severity::Error, "just-written",
+                    QStringLiteral("The file was changed within the last %1.")
+                        .arg(PlainText::counted(settleSeconds, QStringLiteral("second"),
+                                                QStringLiteral("seconds"))),
+                    QStringLiteral("It may not be whole yet; the next run takes it.")),
+            false};
+}
+
+GateReason busy()
+{
+    return {finding(Severity::Error, "busy", QStringLiteral("Another gate works with this folder."),
+                    QStringLiteral("Wait for its end.")),
+            false};
+}
+
+} // namespace GateJudgement

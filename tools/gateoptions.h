@@ -1,0 +1,30 @@
+#pragma once
+
+#include "tools/exitstatus.h"
+#include "tools/gatelimits.h"
+
+#include <QString>
+
+#include <optional>
+
+class CommandLine;
+class Console;
+
+/// What the command line of the gate asks for.
+struct GateOptions {
+    QString from; ///< HR's file
+    QString to; ///< the file that the plugin reads
+    QString stateFolder;
+    QString rejects;
+    GateLimits limits;
+    qint64 copies = 30; ///< dated copies that are kept
+    qint64 settleSeconds = 0; ///< how old HR's file must at least be
+    bool mayEndOpen = false; ///< a missing final line feed is no sign of a truncated file
+    bool accept = false; ///< whatever has changed is meant so, this once
+
+    static void addTo(CommandLine &line);
+
+    /// Reads them from a command line that was parsed. Has a status when the subcommand must end
+    /// with it: they make no sense, which was said on the console.
+    std::optional<ExitStatus> read(const CommandLine &line, Console &console);
+};

@@ -1,0 +1,236 @@
+#include "tools/gaterun.h"
+
+#include "tools/commandline.h"
+#include "tools/console.h"
+#include "tools/gatecopies.h"
+#include "tools/gateoptions.h"
+#include "tools/gatereport.h"
+#include "tools/rejectstext.h"
+#include "tools/report.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+/// The last admitted file, in the gate's folder.
+QString lastAdmitted()
+{
+    return QStringLiteral("admitted.data");
+}
+
+constexpr mode_t kForOwner = 0600;
+constexpr mode_t kForGroup = 0640;
+
+QStringList messages(const QVector<GateReason> &reasons)
+{
+    QStringList messages;
+    for (const GateReason &reason : reasons)
+        messages << reason.finding.message;
+    return messages;
+}
+
+bool mayAllBeOverridden(const QVector<GateReason> &reasons)
+{
+    return std::all_of(reasons.cbegin(), reasons.cend(),
+                       [](const GateReason &reason) { return reason.mayBeOverridden; });
+}
+
+} // namespace
+
+GateRun::GateRun(const CommandLine &line, const GateOptions &options, Console &console)
+    : m_line(line)
+    , m_options(options)
+    , m_console(console)
+    , m_publication(options.to)
+    , m_source(options.from)
+    , m_copy(m_folder, lastAdmitted(), kForOwner)
+    , m_rejects(m_rejectsFolder, QFileInfo(options.rejects).fileName(), kForGroup)
+    , m_examination(m_folder, console)
+{
+}
+
+ExitStatus GateRun::run()
+{
+    if (const auto end = openFolders())
+        return *end;
+    if (const auto end = takeFile())
+        return *end;
+    if (const auto end = examine())
+        return *end;
+    return decide();
+}
+
+std::optional<ExitStatus> GateRun::openFolders()
+{
+    if (!m_folder.openPrivate(m_options.stateFolder))
+        return fail(m_folder.errorString());
+    if (const auto end = lock())
+        return end;
+    if (!m_folder.removeLeftovers(lastAdmitted())
+        || !m_folder.removeLeftovers(GateRecord::fileName()) || !m_record.readLast(m_folder))
+        return fail(m_folder.errorString());
+    const QFileInfo rejects(m_options.rejects);
+    if (!m_rejectsFolder.open(rejects.path())
+        || !m_rejectsFolder.removeLeftovers(rejects.fileName()))
+        return fail(m_rejectsFolder.errorString());
+    if (!m_publication.open())
+        return fail(m_publication.errorString());
+    m_wasTaken = m_publication.isTaken();
+    return std::nullopt;
+}
+
+std::optional<ExitStatus> GateRun::lock()
+{
+    switch (m_folder.lock(QStringLiteral("lock"))) {
+    case GateFolder::Lock::Taken:
+        m_isLocked = true;
+        return std::nullopt;
+    case GateFolder::Lock::Busy:
+        return tell(false, {GateJudgement::busy()});
+    case GateFolder::Lock::Failed:
+        return fail(m_folder.errorString());
+    }
+    Q_UNREACHABLE();
+}
+
+std::optional<ExitStatus> GateRun::takeFile()
+{
+    if (const auto end = openSource())
+        return end;
+    if (!m_copy.create())
+        return fail(m_copy.errorString());
+    m_source.copyTo(m_copy.device());
+    if (m_source.hasReadError())
+        return fail(m_source.errorString());
+    if (!m_copy.finish())
+        return fail(m_copy.errorString());
+    if (m_source.hasChanged())
+        return refuse({GateJudgement::changedMeanwhile()});
+    return std::nullopt;
+}
+
+std::optional<ExitStatus> GateRun::openSource()
+{
+    switch (m_source.open()) {
+    case GateSource::Outcome::Done:
+        break;
+    case GateSource::Outcome::Missing:
+        return refuse({GateJudgement::missing(m_options.from)});
+    case GateSource::Outcome::Failed:
+        return fail(m_source.errorString());
+    }
+    if (m_source.age() < m_options.settleSeconds)
+        return refuse({GateJudgement::justWritten(m_options.settleSeconds)});
+    return std::nullopt;
+}
+
+std::optional<ExitStatus> GateRun::examine()
+{
+    RejectsText rejects(m_rejects.device(), QFileInfo(m_options.from).fileName());
+    if (!m_rejects.create())
+        return fail(m_rejects.errorString());
+    rejects.begin();
+    if (!m_examination.run(m_copy.temporaryName(), lastAdmitted(), rejects))
+        return fail(m_examination.errorString());
+    rejects.end();
+    if (!m_rejects.finish() || !m_rejects.putInPlace())
+        return fail(m_rejects.errorString());
+    m_isExamined = true;
+    return std::nullopt;
+}
+
+ExitStatus GateRun::decide()
+{
+    // What was let through once is let through again: with --accept, too.
+    const QVector<GateReason> reasons = m_examination.isUnchanged()
+        ? QVector<GateReason>()
+        : GateJudgement::judge(m_examination.facts(), m_options.limits, m_options.mayEndOpen);
+    if (!reasons.isEmpty() && !(m_options.accept && mayAllBeOverridden(reasons)))
+        return refuse(reasons);
+    const ExitStatus status = admit(messages(reasons));
+    return status == ExitStatus::Fine ? tell(true, reasons) : status;
+}
+
+ExitStatus GateRun::admit(const QStringList &overridden)
+{
+    if (!m_publication.prepare(m_folder, m_copy.temporaryName()))
+        return fail(m_publication.errorString());
+    if (!makeLast())
+        return fail(m_error);
+    const bool isSafe = m_publication.publish();
+    if (m_publication.isPublished() && !recordAdmission(overridden))
+        return fail(m_error);
+    if (!isSafe)
+        return fail(m_publication.errorString());
+    if (!GateCopies(m_folder).prune(m_options.copies))
+        return fail(m_folder.errorString());
+    return ExitStatus::Fine;
+}
+
+bool GateRun::makeLast()
+{
+    if (m_examination.isUnchanged())
+        return m_copy.discard() || keepError(m_copy.errorString());
+    if (!GateCopies(m_folder).add(m_copy.temporaryName(), QDateTime::currentDateTime()))
+        return keepError(m_folder.errorString());
+    return m_copy.putInPlace() || keepError(m_copy.errorString());
+}
+
+bool GateRun::recordAdmission(const QStringList &overridden)
+{
+    const GateRecord::Admission admission{QFileInfo(m_options.from).absoluteFilePath(),
+                                          m_examination.facts().counts.lines, m_source.modified(),
+                                          overridden};
+    if (m_examination.isUnchanged())
+        m_record.admitAgain(admission);
+    else
+        m_record.admit(admission);
+    return m_record.write(m_folder, m_error);
+}
+
+ExitStatus GateRun::refuse(const QVector<GateReason> &reasons)
+{
+    m_record.refuse(messages(reasons));
+    if (!m_copy.discard())
+        return fail(m_copy.errorString());
+    if (!m_record.write(m_folder, m_error))
+        return fail(m_error);
+    return tell(false, reasons);
+}
+
+ExitStatus GateRun::tell(bool isAdmitted, const QVector<GateReason> &reasons)
+{
+    Report report(m_line, m_console);
+    report.begin(m_line.subcommand(),
+                 QStringLiteral("Gate from %1 to %2").arg(m_options.from, m_options.to));
+    GateReport told;
+    told.isAdmitted = isAdmitted;
+    told.isUnchanged = m_examination.isUnchanged();
+    told.wasTaken = m_wasTaken;
+    told.facts = m_isExamined ? &m_examination.facts() : nullptr;
+    told.rejects = m_options.rejects;
+    told.reasons = reasons;
+    return told.tell(report);
+}
+
+bool GateRun::keepError(const QString &error)
+{
+    m_error = error;
+    return false;
+}
+
+ExitStatus GateRun::fail(const QString &sentence)
+{
+    const QString outcome = m_publication.isPublished()
+        ? QStringLiteral(". The file was published nevertheless")
+        : QStringLiteral(". Nothing was published");
+    if (m_isLocked && !m_publication.isPublished()) {
+        QString ignored;
+        m_record.refuse({sentence});
+        m_record.write(m_folder, ignored);
+    }
+    return m_console.fail(ExitStatus::Usage,
+                          QStringLiteral("%1: %2").arg(m_line.subcommand(), sentence) + outcome);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDateTime>
+#include <QFile>
+#include <QString>
+
+#include <sys/stat.h>
+
+class QIODevice;
+
+/// HR's file, which somebody may be writing or replacing at any moment. It is copied once, and only
+/// the copy is looked at.
+class GateSource {
+public:
+    enum class Outcome { Done, Missing, Failed };
+
+    explicit GateSource(const QString &path);
+
+    /// Missing when there is no such regular file.
+    Outcome open();
+    /// False when reading or writing fails; \a target's owner looks which it was.
+    bool copyTo(QIODevice &target);
+    /// Whether the file was written to or replaced since it was opened.
+    bool hasChanged() const;
+
+    QDateTime modified() const;
+    /// Seconds from its last change to now; negative when that is in the future.
+    qint64 age() const;
+
+    /// Why opening or reading failed, a sentence without its full stop.
+    QString errorString() const { return m_error; }
+    bool hasReadError() const { return !m_error.isEmpty(); }
+
+private:
+    bool fail(const QString &reason);
+
+    const QString m_path;
+    QFile m_file;
+    QString m_error;
+    struct stat m_opened = {};
+    qint64 m_copied = 0;
+};
