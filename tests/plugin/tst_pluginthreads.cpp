@@ -36,6 +36,7 @@ private Q_SLOTS:
     void afterAResumeMembersOfABranchPropagateWithinTheSynchronisation();
     void theHostDoesNotWaitForARunningSynchronisation();
     void destroyingThePluginDuringASynchronisationLosesNothing();
+    void destroyingAStoppedPluginWaitsForTheRunningCommand();
     void theEndOfTheThreadDeletesTheWorkerInItsThread();
     void thePluginCanBeDrivenFromAnyThread();
 
@@ -195,6 +196,22 @@ void TestPluginThreads::destroyingThePluginDuringASynchronisationLosesNothing()
                         " WHERE pid BETWEEN 70011 AND 79991")
                  .toInt(),
              50);
+}
+
+void TestPluginThreads::destroyingAStoppedPluginWaitsForTheRunningCommand()
+{
+    CommandGate gate;
+    writePeople(5);
+    start(iniWithFile("syncCommandRun=2\nsyncCommand=" + gate.command().toUtf8()));
+    QMetaObject::invokeMethod(host().worker(), "checkSync", Qt::QueuedConnection);
+    gate.waitForCommand();
+    m_plugin->server()->stop();
+    // The command ends whenever the thread comes to it.
+    std::thread command([&gate] { gate.open(); });
+    m_plugin.reset();
+    QVERIFY(m_log->contains("D MHRWorker: END synchronization #1 (waiting records: 0)"));
+    QCOMPARE(writtenPeople(), 5);
+    command.join();
 }
 
 void TestPluginThreads::theEndOfTheThreadDeletesTheWorkerInItsThread()
