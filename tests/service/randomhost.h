@@ -6,6 +6,7 @@
 #include <QPluginLoader>
 #include <QSqlDatabase>
 
+#include <memory>
 #include <random>
 
 class ServerInterface;
@@ -42,7 +43,8 @@ private:
     void queueTick();
     uint random(uint below) { return uint(m_random() % below); }
 
-    QPluginLoader m_loader;
+    const QString m_library;
+    std::unique_ptr<QPluginLoader> m_loader;
     QSqlDatabase m_database;
     std::minstd_rand m_random;
     ThreadMessages &m_messages;
