@@ -89,9 +89,14 @@ QString decoded(QByteArray bytes)
         bytes.remove(0, 3);
     QString text;
     for (int at = 0; at < bytes.size();) {
-        int count = 0;
-        const uint character = characterAt(bytes.mid(at, 4), count);
-        text += count > 0 ? asText(character) : QString(kReplacement);
+        int count = 1;
+        uint character = static_cast<uchar>(bytes.at(at));
+        if (character >= 0x80)
+            character = characterAt(bytes.mid(at, 4), count);
+        if (count > 0)
+            text += asText(character);
+        else
+            text += kReplacement;
         at += qMax(count, 1);
     }
     return text;
@@ -150,13 +155,17 @@ QStringList lines(const QByteArray &file)
 
 QStringList parts(const QString &line)
 {
-    QStringList parts = {QString()};
+    QStringList parts;
+    QString part;
     for (const QChar c : line) {
-        if (c == QChar('|'))
-            parts += QString();
-        else
-            parts.last() += c;
+        if (c == QChar('|')) {
+            parts += part;
+            part.clear();
+        } else {
+            part += c;
+        }
     }
+    parts += part;
     return parts;
 }
 
