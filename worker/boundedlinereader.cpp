@@ -2,6 +2,8 @@
 
 #include <QIODevice>
 
+#include <cstring>
+
 namespace {
 
 /// The longest line, its line feed and the NUL byte that the device puts behind them.
@@ -30,11 +32,17 @@ bool BoundedLineReader::next()
 
 bool BoundedLineReader::skipRestOfLine()
 {
-    while (read()) {
-        if (isComplete())
-            return true;
+    // In blocks: Qt reads the end of a long line byte by byte, and this one may have gigabytes.
+    for (;;) {
+        const qint64 length = m_device.peek(m_buffer.data(), kBufferSize);
+        if (length <= 0)
+            return false;
+        const char *const begin = m_buffer.constData();
+        const void *const lineFeed = std::memchr(begin, '\n', static_cast<std::size_t>(length));
+        if (lineFeed != nullptr)
+            return m_device.skip(static_cast<const char *>(lineFeed) - begin + 1) > 0;
+        m_device.skip(length);
     }
-    return false;
 }
 
 bool BoundedLineReader::read()
