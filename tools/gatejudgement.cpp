@@ -70,8 +70,9 @@ GateReason linesLost(const GateComparison::Result &changes, const GateLimit &lim
     const QString lines =
         share(lost, changes.oldLines, QStringLiteral("line"), QStringLiteral("lines"));
     return {finding(Severity::Error, "lines-lost",
-                    lines + QStringLiteral(" with people are gone since the last admitted file")
-                        + allowance(limit),
+                    lines + QStringLiteral(" with people ")
+                        + (lost == 1 ? QStringLiteral("is") : QStringLiteral("are"))
+                        + QStringLiteral(" gone since the last admitted file") + allowance(limit),
                     askHr()),
             true};
 }

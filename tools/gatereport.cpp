@@ -8,15 +8,15 @@ namespace {
 /// As many changes of one kind are shown.
 constexpr int kMostShown = 20;
 
-void note(Report &report, Severity severity, const char *rule, const QString &message,
-          const QString &advice = QString())
+Finding finding(Severity severity, const char *rule, const QString &message,
+                const QString &advice = QString())
 {
     Finding finding;
     finding.severity = severity;
     finding.rule = QString::fromLatin1(rule);
     finding.message = message;
     finding.advice = advice;
-    report.finding(finding);
+    return finding;
 }
 
 /// What stands above a list of changes.
@@ -59,6 +59,18 @@ void tellMoving(Report &report, const QVector<GateComparison::Change> &changes)
     report.table(table);
 }
 
+Finding rejectedLines(qint64 count, const QString &path)
+{
+    const bool one = count == 1;
+    return finding(
+        Severity::Note, "rejected-lines",
+        QStringLiteral("%1 of the file %2 not arrive as %3 should.")
+            .arg(PlainText::counted(count, QStringLiteral("line"), QStringLiteral("lines")),
+                 one ? QStringLiteral("does") : QStringLiteral("do"),
+                 one ? QStringLiteral("it") : QStringLiteral("they")),
+        QStringLiteral("Send HR the file %1.").arg(path));
+}
+
 void tellChanges(Report &report, const GateComparison::Result &changes)
 {
     report.section(QStringLiteral("changes"),
@@ -78,50 +90,47 @@ void tellChanges(Report &report, const GateComparison::Result &changes)
 
 ExitStatus GateReport::tell(Report &report) const
 {
-    report.section(QStringLiteral("decision"), QStringLiteral("Decision"));
-    tellReasons(report);
-    tellNotes(report);
+    const QVector<Finding> findings = reasonFindings() + notes();
+    if (!findings.isEmpty())
+        report.section(QStringLiteral("decision"), QStringLiteral("Decision"));
+    for (const Finding &finding : findings)
+        report.finding(finding);
     if (facts != nullptr)
         tellFacts(report);
     return report.conclude(isAdmitted ? ExitStatus::Fine : ExitStatus::GuardTripped, verdict());
 }
 
-void GateReport::tellReasons(Report &report) const
+QVector<Finding> GateReport::reasonFindings() const
 {
-    for (GateReason reason : reasons) {
+    QVector<Finding> findings;
+    for (const GateReason &reason : reasons) {
+        findings << reason.finding;
         if (isAdmitted) {
-            reason.finding.severity = Severity::Warning;
-            reason.finding.advice = QStringLiteral("Set aside by --accept.");
+            findings.last().severity = Severity::Warning;
+            findings.last().advice = QStringLiteral("Set aside by --accept.");
         }
-        report.finding(reason.finding);
     }
+    return findings;
 }
 
-void GateReport::tellNotes(Report &report) const
+QVector<Finding> GateReport::notes() const
 {
+    QVector<Finding> notes;
     if (isUnchanged) {
-        note(report, Severity::Note, "unchanged",
-             QStringLiteral("The file is the last admitted one. It is published again, so that "
-                            "the plugin goes on with what waits."));
+        notes << finding(Severity::Note, "unchanged",
+                         QStringLiteral("The file is the last admitted one. It is published again, "
+                                        "so that the plugin goes on with what waits."));
     }
-    if (wasTaken && isAdmitted) {
-        note(report, Severity::Note, "unread",
-             QStringLiteral("An earlier file still lay in its place, which the plugin has not read "
-                            "or does not remove. It was replaced."));
-    } else if (wasTaken) {
-        note(report, Severity::Note, "unread",
-             QStringLiteral("An earlier file still lies in its place, which the plugin has not "
-                            "read or does not remove. It stays there."));
+    if (wasTaken) {
+        notes << finding(Severity::Note, "unread",
+                         QStringLiteral("An earlier file lay in its place, which the plugin has "
+                                        "not read or does not remove. ")
+                             + (isAdmitted ? QStringLiteral("It was replaced.")
+                                           : QStringLiteral("It stays there.")));
     }
-    if (facts != nullptr && facts->counts.rejected > 0) {
-        note(report, Severity::Note, "rejected-lines",
-             QStringLiteral("%1 of the file %2 not arrive as %3 should.")
-                 .arg(PlainText::counted(facts->counts.rejected, QStringLiteral("line"),
-                                         QStringLiteral("lines")),
-                      facts->counts.rejected == 1 ? QStringLiteral("does") : QStringLiteral("do"),
-                      facts->counts.rejected == 1 ? QStringLiteral("it") : QStringLiteral("they")),
-             QStringLiteral("Send HR the file %1.").arg(rejects));
-    }
+    if (facts != nullptr && facts->counts.rejected > 0)
+        notes << rejectedLines(facts->counts.rejected, rejects);
+    return notes;
 }
 
 void GateReport::tellFacts(Report &report) const

@@ -20,8 +20,8 @@ struct GateReport {
     ExitStatus tell(Report &report) const;
 
 private:
-    void tellReasons(Report &report) const;
-    void tellNotes(Report &report) const;
+    QVector<Finding> reasonFindings() const;
+    QVector<Finding> notes() const;
     void tellFacts(Report &report) const;
     QString verdict() const;
 };

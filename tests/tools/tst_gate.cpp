@@ -1,0 +1,661 @@
+#include "tests/tools/gatesite.h"
+#include "tests/tools/manual.h"
+
+#include <QSet>
+#include <QtTest>
+
+Q_DECLARE_METATYPE(ExportRow)
+
+namespace {
+
+using Row = ExportRow;
+
+/// People 1000 and up, the first \a count of them changed.
+QVector<Row> changed(int people, int count, QString Row::*field, const QString &value)
+{
+    QVector<Row> rows = GatePeople::some(people);
+    for (int i = 0; i < count; ++i)
+        rows[i].with(field, value);
+    return rows;
+}
+
+/// One person at work and so many who have left long ago, that is who cannot leave any more.
+QVector<Row> formerPeople(int count)
+{
+    QVector<Row> rows = changed(count, count, &Row::stavPracovnihoPomeru, "4");
+    rows[0].with(&Row::stavPracovnihoPomeru, "1");
+    return rows;
+}
+
+} // namespace
+
+/// What the gate lets pass and what it refuses.
+class TestGate : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_site.reset(new GateSite); }
+
+    void anUnchangedLimitIsThatOfTheManual_data();
+    void anUnchangedLimitIsThatOfTheManual();
+    void aLimitHoldsToThePoint_data();
+    void aLimitHoldsToThePoint();
+    void whoLeaves_data();
+    void whoLeaves();
+    void whoMoves_data();
+    void whoMoves();
+    void theLastLineOfARelationshipCounts();
+    void aDroppedLineIsALineLost();
+    void severalReasonsAreAllTold();
+
+    void anEmptyFileIsRefused_data();
+    void anEmptyFileIsRefused();
+    void aTruncatedFileIsRefused_data();
+    void aTruncatedFileIsRefused();
+    void aMissingFileIsRefused_data();
+    void aMissingFileIsRefused();
+    void aFileThatWasJustWrittenIsRefused();
+    void theFirstFileIsRefused();
+
+    void acceptOverridesWhatHasChanged_data();
+    void acceptOverridesWhatHasChanged();
+    void acceptDoesNotOverrideAnEmptyFile();
+    void acceptHoldsOnceOnly();
+    void anAcceptedFileStaysAdmitted();
+
+    void theReportForPeople();
+    void theFirstTwentyChangesAreShown();
+    void aRunWithoutFindingsIsPlain();
+    void badUsageIsRefused_data();
+    void badUsageIsRefused();
+    void everyRuleOfTheManualHasItsFixtures();
+
+private:
+    void compare(const ToolRun &run, const QStringList &reasons);
+    void remember(const ToolRun &run);
+
+    QScopedPointer<GateSite> m_site;
+    QSet<QString> m_tripped; ///< rules that some run tripped
+    QSet<QString> m_passed; ///< rules that some run did not trip
+};
+
+void TestGate::remember(const ToolRun &run)
+{
+    for (const QString &rule : Manual::rules("gate"))
+        (run.rules().contains(rule) ? m_tripped : m_passed) << rule;
+}
+
+/// That the run has refused its file for these reasons, or admitted it when there are none.
+void TestGate::compare(const ToolRun &run, const QStringList &reasons)
+{
+    remember(run);
+    QStringList errors;
+    for (const QJsonValue &finding : run.findings()) {
+        if (finding.toObject()["severity"].toString() == "error")
+            errors << finding.toObject()["rule"].toString();
+    }
+    QCOMPARE(errors, reasons);
+    COMPARE_EXIT(run, reasons.isEmpty() ? ExitStatus::Fine : ExitStatus::GuardTripped);
+    QCOMPARE(m_site->isPublished(), reasons.isEmpty());
+    if (reasons.isEmpty())
+        QCOMPARE(m_site->published(), contentOf(m_site->hrFile()));
+    QCOMPARE(m_site->status()["result"].toString(),
+             QString(reasons.isEmpty() ? "admitted" : "refused"));
+    QCOMPARE(m_site->status()["reasons"].toArray().size(), reasons.size());
+}
+
+void TestGate::anUnchangedLimitIsThatOfTheManual_data()
+{
+    QTest::addColumn<QVector<ExportRow>>("before");
+    QTest::addColumn<QVector<ExportRow>>("after");
+    QTest::addColumn<QStringList>("reasons");
+    const auto row = [](const char *name, const QVector<Row> &before, const QVector<Row> &after,
+                        const QStringList &reasons) {
+        QTest::newRow(name) << before << after << reasons;
+    };
+
+    row("50 lines of many", formerPeople(2000), formerPeople(1950), {});
+    row("51 lines of many", formerPeople(2000), formerPeople(1949), {"lines-lost"});
+    row("5 percent of the lines", formerPeople(200), formerPeople(190), {});
+    row("more than 5 percent of the lines", formerPeople(200), formerPeople(189), {"lines-lost"});
+
+    const auto state = &Row::stavPracovnihoPomeru;
+    row("50 of many leave", GatePeople::some(2000), changed(2000, 50, state, "4"), {});
+    row("51 of many leave", GatePeople::some(2000), changed(2000, 51, state, "4"),
+        {"people-leaving"});
+    row("5 percent leave", GatePeople::some(200), changed(200, 10, state, "4"), {});
+    row("more than 5 percent leave", GatePeople::some(200), changed(200, 11, state, "4"),
+        {"people-leaving"});
+
+    const auto costCentre = &Row::stredisko;
+    row("100 of many move", GatePeople::some(2000), changed(2000, 100, costCentre, "130"), {});
+    row("101 of many move", GatePeople::some(2000), changed(2000, 101, costCentre, "130"),
+        {"people-moving"});
+    row("10 percent move", GatePeople::some(200), changed(200, 20, costCentre, "130"), {});
+    row("more than 10 percent move", GatePeople::some(200), changed(200, 21, costCentre, "130"),
+        {"people-moving"});
+}
+
+void TestGate::anUnchangedLimitIsThatOfTheManual()
+{
+    QFETCH(QVector<ExportRow>, before);
+    QFETCH(QVector<ExportRow>, after);
+    QFETCH(QStringList, reasons);
+    m_site->admit(before);
+    m_site->deliver(after);
+    compare(m_site->run(), reasons);
+}
+
+void TestGate::aLimitHoldsToThePoint_data()
+{
+    QTest::addColumn<QVector<ExportRow>>("after"); // of 40 people
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QStringList>("reasons");
+
+    struct Kind {
+        const char *name;
+        const char *option;
+        const char *rule;
+        QVector<Row> (*change)(int count);
+    };
+    const Kind kinds[] = {{"lines", "--max-lost-lines", "lines-lost",
+                           [](int count) {
+                               return GatePeople::some(40).mid(0, 40 - count);
+                           }},
+                          {"leaving", "--max-leaving", "people-leaving",
+                           [](int count) {
+                               return changed(40, count, &Row::stavPracovnihoPomeru, "4");
+                           }},
+                          {"moving", "--max-moving", "people-moving", [](int count) {
+                               return changed(40, count, &Row::stredisko, "130");
+                           }}};
+    for (const Kind &kind : kinds) {
+        const auto row = [&kind](const char *name, int count, const QString &limit,
+                                 const QString &percent, bool trips) {
+            // Gone lines are people who leave, too: that shall not count here.
+            QStringList options{"--max-leaving", "40", "--max-leaving-percent", "100"};
+            options << kind.option << limit << QString(kind.option) + "-percent" << percent;
+            QTest::addRow("%s: %s", kind.name, name)
+                << kind.change(count) << options
+                << (trips ? QStringList(kind.rule) : QStringList());
+        };
+        row("as many as the number", 3, "3", "100", false);
+        row("one more than the number", 4, "3", "100", true);
+        row("none when the number is 0", 0, "0", "100", false);
+        row("one when the number is 0", 1, "0", "100", true);
+        row("exactly the percentage", 5, "40", "12.5", false);
+        row("one more than the percentage", 6, "40", "12.5", true);
+        row("none when the percentage is 0", 0, "40", "0", false);
+        row("one when the percentage is 0", 1, "40", "0", true);
+        row("all but one", 39, "39", "97.5", false);
+    }
+}
+
+void TestGate::aLimitHoldsToThePoint()
+{
+    QFETCH(QVector<ExportRow>, after);
+    QFETCH(QStringList, options);
+    QFETCH(QStringList, reasons);
+    m_site->admit(GatePeople::some(40));
+    m_site->deliver(after);
+    compare(m_site->run(options), reasons);
+}
+
+void TestGate::whoLeaves_data()
+{
+    QTest::addColumn<ExportRow>("before");
+    QTest::addColumn<ExportRow>("after"); // without a personal number: no such line
+    QTest::addColumn<bool>("leaves");
+    const auto end = [](int days) {
+        return Row().with(&Row::datumVystupu, QDate::currentDate().addDays(days));
+    };
+    const auto state = [](int code) {
+        return Row().with(&Row::stavPracovnihoPomeru, code);
+    };
+    const Row gone = Row().with(&Row::osobniCislo, "");
+
+    QTest::newRow("nothing changes") << Row() << Row() << false;
+    QTest::newRow("gone") << Row() << gone << true;
+    QTest::newRow("gone with an end in the future") << end(10) << gone << true;
+    QTest::newRow("gone on the last day") << end(0) << gone << true;
+    QTest::newRow("gone after the last day") << end(-1) << gone << false;
+    QTest::newRow("gone in state 3") << state(3) << gone << true;
+    QTest::newRow("gone in state 4") << state(4) << gone << false;
+    QTest::newRow("state 3") << Row() << state(3) << false;
+    QTest::newRow("state 4") << Row() << state(4) << true;
+    QTest::newRow("state 4 had left before") << state(4) << state(5) << false;
+    QTest::newRow("an end yesterday") << Row() << end(-1) << true;
+    QTest::newRow("an end in the future") << Row() << end(300) << true;
+    QTest::newRow("an earlier end") << end(300) << end(299) << true;
+    QTest::newRow("a later end") << end(300) << end(301) << false;
+    QTest::newRow("no end any more") << end(300) << Row() << false;
+    QTest::newRow("the same end") << end(300) << end(300) << false;
+    QTest::newRow("comes back") << end(-1) << Row() << false;
+    QTest::newRow("another relationship")
+        << Row() << Row().with(&Row::poradoveCisloPP, "2") << true;
+    QTest::newRow("a supervisor's change")
+        << Row() << Row().with(&Row::nadrizenyOsobniCislo, "7") << false;
+}
+
+void TestGate::whoLeaves()
+{
+    QFETCH(ExportRow, before);
+    QFETCH(ExportRow, after);
+    QFETCH(bool, leaves);
+    m_site->admit(GatePeople::some(9) + QVector<Row>{before});
+    QVector<Row> people = GatePeople::some(9);
+    if (!after.osobniCislo.isEmpty())
+        people << after;
+    m_site->deliver(people);
+    const ToolRun run = m_site->run(
+        {"--max-leaving", "0", "--max-leaving-percent", "0", "--max-lost-lines-percent", "100"});
+    compare(run, leaves ? QStringList("people-leaving") : QStringList());
+    QCOMPARE(run.json()["facts"].toObject()["leaving"].toInt(), leaves ? 1 : 0);
+}
+
+void TestGate::whoMoves_data()
+{
+    QTest::addColumn<ExportRow>("before");
+    QTest::addColumn<ExportRow>("after");
+    QTest::addColumn<bool>("moves");
+    const auto left = [](Row row) {
+        return row.with(&Row::stavPracovnihoPomeru, "4");
+    };
+    const Row other = Row().with(&Row::stredisko, "130");
+    const Row none = Row().with(&Row::stredisko, "");
+
+    QTest::newRow("the same") << Row() << Row() << false;
+    QTest::newRow("another one") << Row() << other << true;
+    QTest::newRow("written with zeros in front")
+        << Row() << Row().with(&Row::stredisko, "00120") << false;
+    QTest::newRow("none any more") << Row() << none << true;
+    QTest::newRow("one at last") << none << Row() << true;
+    QTest::newRow("another description") << Row() << Row().with(&Row::strediskoPopis, "X") << false;
+    QTest::newRow("another calendar") << Row() << Row().with(&Row::kalendar, "4") << false;
+    QTest::newRow("who has left") << left(Row()) << left(other) << false;
+    QTest::newRow("who comes back") << left(Row()) << other << false;
+}
+
+void TestGate::whoMoves()
+{
+    QFETCH(ExportRow, before);
+    QFETCH(ExportRow, after);
+    QFETCH(bool, moves);
+    m_site->admit(GatePeople::some(9) + QVector<Row>{before});
+    m_site->deliver(GatePeople::some(9) + QVector<Row>{after});
+    const ToolRun run = m_site->run({"--max-moving", "0"});
+    compare(run, moves ? QStringList("people-moving") : QStringList());
+    QCOMPARE(run.json()["facts"].toObject()["moving"].toInt(), moves ? 1 : 0);
+}
+
+void TestGate::theLastLineOfARelationshipCounts()
+{
+    const Row other = Row().with(&Row::stredisko, "130");
+    m_site->admit(QVector<Row>{other, Row()});
+    m_site->deliver(QVector<Row>{Row(), other, Row()});
+    compare(m_site->run({"--max-moving", "0"}), {});
+    m_site->takePublished();
+    m_site->deliver(QVector<Row>{Row(), Row(), other});
+    compare(m_site->run({"--max-moving", "0"}), {"people-moving"});
+}
+
+void TestGate::aDroppedLineIsALineLost()
+{
+    m_site->admit(GatePeople::some(10));
+    QVector<Row> people = GatePeople::some(10);
+    people[4].with(&Row::jmeno, "").with(&Row::prijmeni, "");
+    m_site->deliver(people);
+    const QStringList options{"--max-leaving-percent", "10", "--max-lost-lines-percent"};
+    compare(m_site->run(options + QStringList("9.9")), {"lines-lost"});
+    compare(m_site->run(options + QStringList("10")), {});
+}
+
+void TestGate::severalReasonsAreAllTold()
+{
+    m_site->admit(GatePeople::some(100));
+    m_site->deliver(GatePeople::file(changed(60, 30, &Row::stredisko, "130")).chopped(1));
+    const ToolRun run = m_site->run();
+    compare(run, {"truncated", "lines-lost", "people-leaving", "people-moving"});
+    QStringList messages;
+    for (const QJsonValue &finding : run.findings())
+        messages << finding.toObject()["message"].toString();
+    const QStringList expected{
+        "The last line has no line feed at its end.",
+        "40 lines (40.0 %) with people are gone since the last admitted file, where at most 50 and "
+        "5 % may.",
+        "40 people (40.0 %) leave, where at most 50 and 5 % may.",
+        "30 people (30.0 %) get another cost centre, where at most 100 and 10 % may."};
+    QCOMPARE(messages, expected);
+    const QStringList reasons = m_site->status()["reasons"].toVariant().toStringList();
+    QCOMPARE(reasons.size(), 4);
+    for (int i = 0; i < 4; ++i)
+        QCOMPARE(reasons[i] + '.', expected[i]);
+}
+
+void TestGate::anEmptyFileIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("no byte") << QByteArray();
+    QTest::newRow("empty lines") << QByteArray("\n\r\n \n");
+    QTest::newRow("nobody") << GatePeople::file({Row().with(&Row::osobniCislo, "0")});
+}
+
+void TestGate::anEmptyFileIsRefused()
+{
+    QFETCH(QByteArray, content);
+    m_site->admit({Row()});
+    m_site->deliver(content);
+    compare(m_site->run({"--max-leaving-percent", "100", "--max-lost-lines-percent", "100"}),
+            {"empty"});
+}
+
+void TestGate::aTruncatedFileIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<bool>("refused");
+    const QByteArray whole = GatePeople::file(GatePeople::some(20));
+    const QByteArray good = GatePeople::file({Row()});
+    const QStringList open("--may-end-open");
+
+    QTest::newRow("whole") << whole + good << QStringList() << false;
+    QTest::newRow("whole, with an empty line") << whole + good + "\r\n" << QStringList() << false;
+    QTest::newRow("without a line feed") << whole + good.chopped(1) << QStringList() << true;
+    QTest::newRow("without a line feed, allowed") << whole + good.chopped(1) << open << false;
+    QTest::newRow("in the last field") << whole + good.chopped(2) << QStringList() << true;
+    QTest::newRow("in the last line") << whole + good.left(30) << QStringList() << true;
+    QTest::newRow("in the last line, open end allowed") << whole + good.left(30) << open << true;
+    QTest::newRow("in the last line, with a line feed") << whole + good.left(30) + '\n'
+                                                        << QStringList() << true;
+    QTest::newRow("a broken line before an empty one") << whole + good.left(30) + "\n\n"
+                                                       << QStringList() << true;
+    QTest::newRow("too many fields") << whole + good.chopped(1) + "|\n" << QStringList() << true;
+    QTest::newRow("zeros") << whole + QByteArray(4096, '\0') << open << true;
+    QTest::newRow("zeros behind the last person") << whole + good.chopped(1) + QByteArray(3, '\0')
+            + "\n" << QStringList() << true;
+    QTest::newRow("a last line without end") << whole + QByteArray(70000, 'x') << open << true;
+    QTest::newRow("a broken line in the middle")
+        << whole + good.left(30) + '\n' + good << QStringList() << false;
+    QTest::newRow("a last line without a name")
+        << whole + GatePeople::file({Row().with(&Row::jmeno, "").with(&Row::prijmeni, "")})
+        << QStringList() << false;
+}
+
+void TestGate::aTruncatedFileIsRefused()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QStringList, options);
+    QFETCH(bool, refused);
+    m_site->admit(GatePeople::some(20));
+    m_site->deliver(content);
+    compare(m_site->run(options), refused ? QStringList("truncated") : QStringList());
+}
+
+void TestGate::aMissingFileIsRefused_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("no file") << "nothing.txt";
+    QTest::newRow("no folder") << "nowhere/export.txt";
+    QTest::newRow("a file for a folder") << "export.txt/export.txt";
+    QTest::newRow("a folder") << ".";
+}
+
+void TestGate::aMissingFileIsRefused()
+{
+    QFETCH(QString, file);
+    m_site->admit({Row()});
+    const QString path = m_site->folder() + "/hr/" + file;
+    // The last one of an option holds.
+    const ToolRun run = m_site->run({"--accept", "--from", path});
+    compare(run, {"missing"});
+    QCOMPARE(run.findings()[0].toObject()["message"].toString(),
+             QString("There is no file '%1'.").arg(path));
+    QCOMPARE(m_site->status()["lastAdmitted"].toObject()["lines"].toInt(), 1);
+}
+
+void TestGate::aFileThatWasJustWrittenIsRefused()
+{
+    m_site->admit({Row()});
+    m_site->deliver(QVector<Row>{Row()});
+    compare(m_site->run({"--accept", "--settle", "3600"}), {"just-written"});
+    QFile file(m_site->hrFile());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
+                             QFileDevice::FileModificationTime));
+    file.close();
+    compare(m_site->run({"--settle", "3600"}), {});
+}
+
+void TestGate::theFirstFileIsRefused()
+{
+    m_site->deliver(GatePeople::some(3));
+    compare(m_site->run(), {"no-baseline"});
+    QVERIFY(!m_site->status().contains("lastAdmitted"));
+    compare(m_site->run(), {"no-baseline"});
+    m_site->run({"--accept"});
+    m_site->takePublished();
+    compare(m_site->run(), {});
+}
+
+void TestGate::acceptOverridesWhatHasChanged_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QStringList>("overridden");
+    const QVector<Row> people = GatePeople::some(20);
+    const auto state = &Row::stavPracovnihoPomeru;
+    QTest::newRow("nothing to override") << GatePeople::file(people) << QStringList();
+    QTest::newRow("truncated") << GatePeople::file(people).chopped(1)
+                               << QStringList("The last line has no line feed at its end");
+    QTest::newRow("lines lost")
+        << GatePeople::file(people.mid(10))
+        << QStringList{"10 lines (50.0 %) with people are gone since the last admitted file, where "
+                       "at most 50 and 5 % may",
+                       "10 people (50.0 %) leave, where at most 50 and 5 % may"};
+    QTest::newRow("leaving") << GatePeople::file(changed(20, 20, state, "4"))
+                             << QStringList("20 people (100.0 %) leave, where at most 50 and 5 % "
+                                            "may");
+    QTest::newRow("moving") << GatePeople::file(changed(20, 3, &Row::stredisko, "9"))
+                            << QStringList("3 people (15.0 %) get another cost centre, where at "
+                                           "most 100 and 10 % may");
+}
+
+void TestGate::acceptOverridesWhatHasChanged()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QStringList, overridden);
+    m_site->admit(GatePeople::some(20));
+    m_site->deliver(content);
+    if (!overridden.isEmpty())
+        COMPARE_EXIT(m_site->run(), ExitStatus::GuardTripped);
+    QVERIFY(!m_site->isPublished());
+
+    const ToolRun run = m_site->run({"--accept"});
+
+    compare(run, {});
+    for (const QJsonValue &finding : run.findings()) {
+        if (finding.toObject()["rule"] == "unchanged")
+            continue;
+        QCOMPARE(finding.toObject()["severity"].toString(), QString("warning"));
+        QCOMPARE(finding.toObject()["advice"].toString(), QString("Set aside by --accept."));
+    }
+    QCOMPARE(m_site->status()["overridden"].toVariant().toStringList(), overridden);
+    const QJsonObject last = m_site->status()["lastAdmitted"].toObject();
+    if (!overridden.isEmpty())
+        QCOMPARE(last["overridden"].toVariant().toStringList(), overridden);
+}
+
+void TestGate::acceptDoesNotOverrideAnEmptyFile()
+{
+    m_site->deliver(QByteArray());
+    compare(m_site->run({"--accept"}), {"empty", "no-baseline"});
+    m_site->admit(GatePeople::some(20));
+    m_site->deliver(QByteArray("\n"));
+    compare(m_site->run({"--accept"}), {"empty", "lines-lost", "people-leaving"});
+    QCOMPARE(m_site->copies().size(), 1);
+}
+
+void TestGate::acceptHoldsOnceOnly()
+{
+    m_site->admit(GatePeople::some(20));
+    m_site->deliver(GatePeople::some(10));
+    compare(m_site->run({"--accept"}), {});
+    m_site->takePublished();
+    m_site->deliver(GatePeople::some(5));
+    compare(m_site->run(), {"lines-lost", "people-leaving"});
+    // It is compared with what was accepted, not with what was before.
+    m_site->deliver(GatePeople::some(11));
+    compare(m_site->run(), {});
+}
+
+void TestGate::anAcceptedFileStaysAdmitted()
+{
+    m_site->admit(GatePeople::some(20));
+    m_site->admit(GatePeople::file(GatePeople::some(3)).chopped(1));
+    const ToolRun run = m_site->run();
+    compare(run, {});
+    QCOMPARE(run.rules(), QStringList("unchanged"));
+}
+
+void TestGate::theReportForPeople()
+{
+    m_site->admit(GatePeople::some(4));
+    QVector<Row> people = GatePeople::some(3);
+    people[0].with(&Row::stredisko, "130");
+    people[1].with(&Row::prijmeni, "O'Neil");
+    m_site->deliver(people);
+    writeFile(m_site->target(), "unread");
+
+    const ToolRun run = runTool(m_site->arguments());
+
+    COMPARE_EXIT(run, ExitStatus::GuardTripped);
+    QCOMPARE(run.err, QString());
+    QCOMPARE(
+        run.out,
+        QString(
+            "Gate from %1 to %2\n%3\n\n"
+            "Decision\n--------\n"
+            "error: 1 line (25.0 %) with people is gone since the last admitted file, where at "
+            "most 50 and 5 % may. [lines-lost]\n"
+            "    Ask HR; if it is meant so, run the gate once with --accept.\n"
+            "error: 1 person (25.0 %) leaves, where at most 50 and 5 % may. [people-leaving]\n"
+            "    Ask HR; if it is meant so, run the gate once with --accept.\n"
+            "error: 1 person (25.0 %) gets another cost centre, where at most 100 and 10 % may. "
+            "[people-moving]\n"
+            "    Ask HR; if it is meant so, run the gate once with --accept.\n"
+            "note: An earlier file lay in its place, which the plugin has not read or "
+            "does not remove. It stays there. [unread]\n"
+            "note: 1 line of the file does not arrive as it should. [rejected-lines]\n"
+            "    Send HR the file %4.\n\n"
+            "HR's file\n---------\n"
+            "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
+            "Not arriving as they should: 1\n\n"
+            "Compared with the last admitted file\n------------------------------------\n"
+            "People in the last one: 4\nOf them at work: 4\nLines lost: 1\n"
+            "People leaving: 1\nPeople moving: 1\n"
+            "Leaving:\n"
+            "Person  Cost centre\n------  -----------\n1003.1  120\n"
+            "Moving:\n"
+            "Person  From cost centre  To cost centre\n"
+            "------  ----------------  --------------\n1000.1  120               130\n\n"
+            "The file was refused. Nothing was published.\n")
+            .arg(m_site->hrFile(), m_site->target(),
+                 QString(14 + m_site->hrFile().size() + m_site->target().size(), '='),
+                 m_site->inState("rejects.txt")));
+    QCOMPARE(m_site->published(), QByteArray("unread"));
+    remember(m_site->run());
+}
+
+void TestGate::theFirstTwentyChangesAreShown()
+{
+    m_site->admit(GatePeople::some(60));
+    m_site->deliver(changed(60, 21, &Row::stredisko, "130"));
+    const ToolRun run = m_site->run();
+    const QJsonObject section = run.json()["sections"].toArray().last().toObject();
+    QCOMPARE(section["sentences"].toVariant().toStringList(),
+             QStringList("Moving: the first 20 of 21."));
+    const QJsonArray rows = section["tables"].toObject()["moving"].toArray();
+    QCOMPARE(rows.size(), 20);
+}
+
+void TestGate::aRunWithoutFindingsIsPlain()
+{
+    m_site->admit(GatePeople::some(2));
+    m_site->deliver(GatePeople::some(3));
+    const ToolRun run = runTool(m_site->arguments());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.out.section('\n', 2),
+             QString("\nHR's file\n---------\n"
+                     "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
+                     "Not arriving as they should: 0\n\n"
+                     "Compared with the last admitted file\n"
+                     "------------------------------------\n"
+                     "People in the last one: 2\nOf them at work: 2\nLines lost: 0\n"
+                     "People leaving: 0\nPeople moving: 0\n\n"
+                     "The file was admitted and published: 3 people.\n"));
+}
+
+void TestGate::badUsageIsRefused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    const QStringList paths{"--from", "/a/hr.txt", "--to", "/a/ron.data"};
+    const QString number = "--%1 takes a whole number from 0.";
+    const QString percent = "--%1 takes a percentage from 0 to 100.";
+
+    QTest::newRow("no --from") << QStringList{"--to", "/a/ron.data"}
+                               << "--from is missing; --help explains.";
+    QTest::newRow("no --to") << QStringList{"--from", "/a/hr.txt"}
+                             << "--to is missing; --help explains.";
+    QTest::newRow("an empty --to")
+        << QStringList{"--from", "/a/hr.txt", "--to", ""} << "--to is missing; --help explains.";
+    QTest::newRow("a folder for --to")
+        << QStringList{"--from", "/a/hr.txt", "--to", "/a/"} << "--to names no file.";
+    QTest::newRow("one file for both") << QStringList{"--from", "/a/x", "--to", "/a/../a/x"}
+                                       << "--from and --to name the same file.";
+    const QString over = "--rejects would be written over the export; name another file.";
+    QTest::newRow("the rejects over HR's file")
+        << paths + QStringList{"--rejects", "/a//hr.txt"} << over;
+    QTest::newRow("the rejects over the plugin's file")
+        << paths + QStringList{"--rejects", "/a/ron.data"} << over;
+    QTest::newRow("an argument") << paths + QStringList("x") << "'x' is one argument too many.";
+    for (const char *option : {"max-lost-lines", "max-leaving", "max-moving", "keep", "settle"}) {
+        for (const char *value : {"", "x", "-1", "1.5", "1000000001"}) {
+            QTest::addRow("--%s %s", option, value)
+                << paths + QStringList{QString("--") + option, value} << number.arg(option);
+        }
+    }
+    for (const char *option :
+         {"max-lost-lines-percent", "max-leaving-percent", "max-moving-percent"}) {
+        for (const char *value : {"", "x", "-0.1", "100.1", "nan", "5%"}) {
+            QTest::addRow("--%s %s", option, value)
+                << paths + QStringList{QString("--") + option, value} << percent.arg(option);
+        }
+    }
+}
+
+void TestGate::badUsageIsRefused()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, error);
+    const ToolRun run = runTool(QStringList("gate") + arguments);
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err, "mirovahrctl: gate: " + error + '\n');
+    QCOMPARE(run.out, QString());
+    QVERIFY(!QFile::exists("/a"));
+}
+
+void TestGate::everyRuleOfTheManualHasItsFixtures()
+{
+    // These take another process, and have tests of their own.
+    const QSet<QString> others{"busy", "changed-meanwhile"};
+    QVERIFY(!Manual::rules("gate").isEmpty());
+    for (const QString &rule : Manual::rules("gate")) {
+        if (!others.contains(rule)) {
+            QVERIFY2(m_tripped.contains(rule), qPrintable(rule));
+            QVERIFY2(m_passed.contains(rule), qPrintable(rule));
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(TestGate)
+#include "tst_gate.moc"
