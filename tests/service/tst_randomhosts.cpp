@@ -5,8 +5,6 @@
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <cstdio>
@@ -24,12 +22,11 @@ private Q_SLOTS:
     void twoHostsAtOnce();
 
 private:
-    void live(const QString &database, uint seed);
+    void live(const QString &database, const QString &library, uint seed);
     void checkPeople(const QString &database);
 
     TestDatabase m_db;
     ExportFile m_file;
-    QTemporaryDir m_folder;
     uint m_seed = environmentNumber("MIROVAHR_SEED", std::random_device()());
     const uint m_steps = environmentNumber("MIROVAHR_STEPS", 40);
     const uint m_rounds = environmentNumber("MIROVAHR_ROUNDS", 1);
@@ -48,9 +45,6 @@ void TestRandomHosts::initTestCase()
     QVERIFY2(m_db.server().load(
                  {folder + "/schema.sql", folder + "/routines.sql", folder + "/sample.sql"}),
              qPrintable(m_db.server().errorString()));
-    for (const char *database : {"tepdb", "second"})
-        QVERIFY(QFile::copy(LoadedPlugin::path(), m_folder.filePath(database)));
-
     QVector<ExportRow> people;
     for (int number = 7001; number <= 7010; ++number)
         people += ExportRow().with(&ExportRow::osobniCislo, number);
@@ -60,13 +54,13 @@ void TestRandomHosts::initTestCase()
                        "syncCommandRun=2\nsyncCommand=/bin/true\n");
 }
 
-void TestRandomHosts::live(const QString &database, uint seed)
+void TestRandomHosts::live(const QString &database, const QString &library, uint seed)
 {
     const QString name = "host." + database;
     {
         QSqlDatabase connection = m_db.server().addConnection(name);
         connection.setDatabaseName(database);
-        RandomHost host(m_folder.filePath(database), connection, seed, *m_messages);
+        RandomHost host(library, connection, seed, *m_messages);
         host.live(m_steps);
         host.settle();
     }
@@ -92,7 +86,7 @@ void TestRandomHosts::oneHost()
 {
     for (uint round = 0; round < m_rounds; ++round) {
         m_messages = std::make_unique<ThreadMessages>();
-        std::thread([this] { live("tepdb", m_seed++); }).join();
+        std::thread([this] { live("tepdb", LoadedPlugin::path(), m_seed++); }).join();
         checkPeople("tepdb");
         m_messages.reset();
     }
@@ -102,8 +96,8 @@ void TestRandomHosts::twoHostsAtOnce()
 {
     for (uint round = 0; round < m_rounds; ++round) {
         m_messages = std::make_unique<ThreadMessages>();
-        std::thread first([this, seed = m_seed++] { live("tepdb", seed); });
-        std::thread second([this, seed = m_seed++] { live("second", seed); });
+        std::thread first([this, seed = m_seed++] { live("tepdb", LoadedPlugin::path(), seed); });
+        std::thread second([this, seed = m_seed++] { live("second", MIROVAHR_COPY, seed); });
         first.join();
         second.join();
         checkPeople("tepdb");
