@@ -61,6 +61,9 @@ bool ExportCheck::run(const LineListener &listener)
     if (m_file.error() != QFileDevice::NoError || !m_file.seek(0))
         return false;
     checkLines(listener);
+    // Seeking would forget the error.
+    if (m_file.error() != QFileDevice::NoError)
+        return false;
     m_endsWithLineFeed = endsWithLineFeed();
     return m_file.error() == QFileDevice::NoError;
 }
