@@ -1,6 +1,7 @@
 #include "plugin/mirovahr.h"
 
 #include "plugin/configuration.h"
+#include "plugin/workersetup.h"
 #include "worker/mhrworker.h"
 
 #include <QDebug>
@@ -30,13 +31,5 @@ void MirovaHR::createWorker(const Configuration &config)
     m_worker->moveToThread(&m_thread);
     m_worker->setDebugLevel(m_debugLevel);
     m_worker->setTepDb(m_database);
-    m_worker->setInterval(config.tickMilliseconds);
-    m_worker->setSyncInterval(config.syncInterval);
-    m_worker->setTestMode(config.testMode);
-    m_worker->setImportFile(config.importFile);
-    m_worker->setDeleteFileAfterImport(config.deleteFile);
-    m_worker->setSyncCommand(config.syncCommand);
-    m_worker->setSyncCommandRunCondition(config.syncCommandRun);
-    m_worker->setDepartmentId(config.departmentId);
-    m_worker->setMes(config.messages);
+    configureWorker(*m_worker, config);
 }
