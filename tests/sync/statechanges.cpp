@@ -111,20 +111,24 @@ StateChanges::StateChanges(TestDatabase &db)
 void StateChanges::start()
 {
     m_begin = QDateTime::currentSecsSinceEpoch();
-    m_before = readable();
+    m_before = state();
 }
 
 QStringList StateChanges::lines()
 {
-    const DatabaseState after = readable();
+    return between(m_before, state());
+}
+
+QStringList StateChanges::between(const DatabaseState &before, const DatabaseState &after)
+{
     QStringList lines;
     for (auto it = after.cbegin(); it != after.cend(); ++it)
-        lines += changesOf(it.key(), m_before.value(it.key()), it.value());
+        lines += changesOf(it.key(), before.value(it.key()), it.value());
     lines.sort();
     return lines;
 }
 
-DatabaseState StateChanges::readable() const
+DatabaseState StateChanges::state() const
 {
     const qint64 now = QDateTime::currentSecsSinceEpoch();
     DatabaseState state = m_db.dumpAll();

@@ -21,9 +21,12 @@ public:
     /// What changed since start(), sorted.
     QStringList lines();
 
-private:
-    DatabaseState readable() const;
+    /// The database as it is, with timestamps to read.
+    DatabaseState state() const;
+    /// What differs between two of them, sorted.
+    static QStringList between(const DatabaseState &before, const DatabaseState &after);
 
+private:
     TestDatabase &m_db;
     qint64 m_begin = 0;
     DatabaseState m_before;

@@ -1,0 +1,108 @@
+#include "tests/faults/faultcycle.h"
+
+#include "tests/sync/middayzone.h"
+#include "tests/sync/sampleexport.h"
+
+#include <QRegularExpression>
+
+using namespace SampleExport;
+
+namespace {
+
+/// The tables that a synchronisation writes.
+const QStringList kWritten = {"people",       "people_pam",   "atten",      "brape",
+                              "groups_plan",  "groups_month", "funds_move", "admins_people",
+                              "people_term",  "term",         "term_sync",  "vars"};
+
+QDate today()
+{
+    return QDate::currentDate();
+}
+
+QString day(const QDate &date)
+{
+    return QString::number(localMidnight(date));
+}
+
+} // namespace
+
+bool FaultCycle::start()
+{
+    // What was committed survives a crash of the server. Its general log is not looked at.
+    if (!m_db.start({"--innodb-flush-log-at-trx-commit=2", "--general-log=0"}))
+        return false;
+    m_proxy = std::make_unique<MySqlProxy>(m_db.server().socketPath());
+    m_server = m_db.pluginConnection();
+    m_server.setConnectOptions("UNIX_SOCKET=" + m_proxy->socketPath());
+    m_changes = std::make_unique<StateChanges>(m_db);
+
+    // Attendance is calculated up to yesterday, and uids have five digits from here on.
+    const QString yesterday = day(today().addDays(-1));
+    m_db.run("UPDATE people SET lastCalc = " + yesterday + " WHERE uid <= 6");
+    m_db.run("INSERT INTO atten (uid, `date`, ok) VALUES (4, " + yesterday + ", 1)");
+    m_db.run("ALTER TABLE people AUTO_INCREMENT = 70000");
+    copyTables();
+    return !QTest::currentTestFailed();
+}
+
+void FaultCycle::copyTables()
+{
+    m_db.run("CREATE DATABASE beginning");
+    for (const QString &table : kWritten)
+        m_db.run("CREATE TABLE beginning." + table + " SELECT * FROM " + table);
+}
+
+QVector<ExportRow> FaultCycle::lines() const
+{
+    return {
+        newcomer(m_newNumber).with(&ExportRow::nadrizenyOsobniCislo, 1002),
+        maria().with(&ExportRow::evidencniStav, 22).with(&ExportRow::dovolenaZustatek, "21.5"),
+        jana()
+            .with(&ExportRow::prijmeni, "Malá")
+            .with(&ExportRow::dovolenaZustatek, "15.25")
+            .with(&ExportRow::nadrizenyOsobniCislo, 1002),
+        jan()
+            .with(&ExportRow::stredisko, 130)
+            .with(&ExportRow::strediskoPopis, "Predajňa")
+            .with(&ExportRow::kalendar, 3)
+            .with(&ExportRow::kalendarPlatnostOd, QDate(2025, 3, 1)),
+    };
+}
+
+void FaultCycle::begin()
+{
+    ++m_newNumber;
+    m_db.run("BEGIN");
+    for (const QString &table : kWritten) {
+        m_db.run("DELETE FROM " + table);
+        m_db.run("INSERT INTO " + table + " SELECT * FROM beginning." + table);
+    }
+    m_db.run("COMMIT");
+    m_changes->start();
+    repeat();
+}
+
+void FaultCycle::repeat()
+{
+    m_export.write(lines());
+    m_db.run("UPDATE vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
+}
+
+DatabaseState FaultCycle::state()
+{
+    DatabaseState state = m_changes->state();
+    for (TableRows &rows : state) {
+        for (QStringList &row : rows) {
+            for (QString &cell : row)
+                cell = plain(cell);
+        }
+    }
+    return state;
+}
+
+QString FaultCycle::plain(QString text) const
+{
+    static const QRegularExpression newUid("\\b7\\d{4}\\b");
+    const QString number = QString::number(m_newNumber);
+    return text.replace(number + '1', "<pid>").replace(number, "<number>").replace(newUid, "<uid>");
+}

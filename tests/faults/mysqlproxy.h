@@ -1,0 +1,113 @@
+#pragma once
+
+#include "tests/faults/mysqlwire.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <condition_variable>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+/// What is done to one command on its way to the server.
+struct Disturbance {
+    enum class Way {
+        /// Nothing, but the connection is held again when the command is over, until resume(): the
+        /// test does something of its own meanwhile.
+        Forward,
+        Refuse, ///< An error is the answer, and the server never gets the command.
+        CutBefore, ///< The connection ends, and the server never gets the command.
+        CutAfter, ///< The server carries the command out; then, unanswered, the connection ends.
+    };
+
+    Way way = Way::Forward;
+    // Of the error.
+    int errorNumber = 0;
+    QByteArray sqlState;
+    QByteArray errorText;
+    /// The server rolls the transaction back, as it does to a deadlock's victim.
+    bool rollsBack = false;
+};
+
+/// Stands between a client and a MySQL server, on a socket of its own, and counts what the client
+/// sends: logging in, statements, preparing, closing. One of these commands can be disturbed.
+///
+/// It serves one connection after the other, in a thread of its own. The wait functions block the
+/// calling thread for so long as a test has patience, and return false then.
+class MySqlProxy {
+public:
+    struct Command {
+        /// A statement, or "CONNECT", "USE", "QUIT", "PREPARE statement", "RESET", "CLOSE", "EXECUTE
+        /// statement << values" with the texts among the values.
+        QString text;
+        bool hasAnswer = true;
+        bool carriedOut = false; ///< by the server, without an error
+        int error = 0; ///< number of the error that the client or the proxy got
+    };
+
+    /// A server that listens at \a serverSocket whenever a client comes.
+    explicit MySqlProxy(const QString &serverSocket);
+    /// Not before its clients are gone.
+    ~MySqlProxy();
+    MySqlProxy(const MySqlProxy &) = delete;
+    MySqlProxy &operator=(const MySqlProxy &) = delete;
+
+    QString socketPath() const;
+
+    /// Counts from 1 again.
+    void restartCount();
+    /// Counts from 1 again, and disturbs the command of this number, once. It is held when it
+    /// arrives, until release().
+    void disturb(int number, const Disturbance &disturbance);
+    bool waitForArrival();
+    void release();
+    /// Waits until the disturbed command is over.
+    bool waitForEnd();
+    void resume();
+
+    /// Those since the count began.
+    QVector<Command> commands() const;
+
+    /// Whoever connects finds no server, until appear().
+    void disappear();
+    void appear();
+
+private:
+    using Exchange = std::function<bool(MySqlWire *client, MySqlPacket &first)>;
+
+    void listen();
+    void run();
+    void serve(MySqlWire &client);
+    bool logIn(MySqlWire &client, MySqlWire &server);
+    bool passCommand(const MySqlPacket &request, MySqlWire &client, MySqlWire &server);
+    QString textOf(const MySqlCommand &sent, const MySqlPacket &request) const;
+    bool treat(const Command &command, const MySqlPacket &request, MySqlWire &client,
+               MySqlWire &server, const Exchange &exchange);
+    void refuse(const Disturbance &disturbance, const MySqlPacket &request, MySqlWire &client,
+                MySqlWire &server);
+
+    int arrive(const Command &command, Disturbance &disturbance);
+    void leave(int index, bool carriedOut, int error);
+    void holdUntilResumed(int index);
+    bool waitUntil(const std::function<bool()> &reached);
+
+    const QByteArray m_serverSocket;
+    QTemporaryDir m_folder;
+    int m_listener = -1;
+    QString m_preparedText;
+
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed;
+    QVector<Command> m_commands;
+    Disturbance m_disturbance;
+    int m_disturbed = 0; ///< number of the command, 0 for none
+    bool m_arrived = false;
+    bool m_released = false;
+    bool m_over = false;
+    bool m_resumed = false;
+
+    std::thread m_thread;
+};
