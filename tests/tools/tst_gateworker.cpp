@@ -120,6 +120,8 @@ void TestGateWorker::theSameFileArrivesOnceMore()
 
 void TestGateWorker::statusTellsOfTheGate()
 {
+    m_db.run(QString("ALTER USER mirovahrctl@localhost IDENTIFIED BY '%1' ACCOUNT UNLOCK")
+                 .arg(m_db.server().password()));
     GateSite site;
     const QStringList status{"status",          "--json",
                              "--socket",        m_db.server().socketPath(),
