@@ -445,7 +445,8 @@ void TestBranchCalendar::aFailedLookupIsReported_data()
     QTest::addColumn<int>("debugLevel");
     for (const char *operation : {"membership", "group", "plan"}) {
         for (int level = 0; level <= 3; ++level)
-            QTest::addRow("%s, debug level %d", operation, level) << operation << level;
+            QTest::newRow(qPrintable(QString("%1, debug level %2").arg(operation).arg(level)))
+                << operation << level;
     }
 }
 
