@@ -2,65 +2,26 @@
 
 #include "tools/dbcheck.h"
 #include "tools/dbrules.h"
+#include "tools/midnights.h"
 #include "tools/plaintext.h"
 #include "tools/reportwriter.h"
-#include "worker/recordcodes.h"
 
 #include <QDateTime>
-#include <QSet>
-#include <QStringList>
 #include <QTimeZone>
-
-#include <algorithm>
 
 namespace {
 
 constexpr char kSelectZone[] = "SELECT @@SESSION.time_zone, @@system_time_zone, UNIX_TIMESTAMP()";
 
-/// In both directions from today: a whole year of daylight saving.
-constexpr int kDaysAround = 366;
-/// The server's zone may change its clocks on other days than ours; not for less than a week.
-constexpr int kDaysApart = 7;
-
 /// Seconds. A person's attendance counts as being calculated for 900 seconds, by the plugin's
 /// clock.
 constexpr qint64 kClockTolerance = 60;
 
-/// Days on which the two could differ, in order.
-QVector<QDate> daysToCompare(const QDate &today)
-{
-    QSet<QDate> days;
-    for (int offset = -kDaysAround; offset <= kDaysAround; offset += kDaysApart)
-        days += today.addDays(offset);
-    const QTimeZone::OffsetDataList changes = QTimeZone::systemTimeZone().transitions(
-        today.addDays(-kDaysAround).startOfDay(), today.addDays(kDaysAround).startOfDay());
-    for (const QTimeZone::OffsetData &change : changes) {
-        const QDate day = change.atUtc.toLocalTime().date();
-        days += {day.addDays(-1), day, day.addDays(1)};
-    }
-    QVector<QDate> sorted(days.cbegin(), days.cend());
-    std::sort(sorted.begin(), sorted.end());
-    return sorted;
-}
-
-QString midnightsQuery(const QVector<QDate> &days)
-{
-    QStringList columns;
-    for (const QDate &day : days)
-        columns += QStringLiteral("UNIX_TIMESTAMP('%1')").arg(day.toString(Qt::ISODate));
-    return QStringLiteral("SELECT ") + columns.join(QLatin1Char(','));
-}
-
 /// Invalid when there is none.
 QDate dayThatDiffers(DbCheck &check)
 {
-    const QVector<QDate> days = daysToCompare(QDate::currentDate());
-    const QVariantList midnights = check.row(midnightsQuery(days));
-    for (int i = 0; i < midnights.size(); ++i) {
-        if (midnights.at(i).toLongLong() != RecordCodes::midnight(days.at(i)))
-            return days.at(i);
-    }
-    return QDate();
+    const QVector<QDate> days = Midnights::daysToCompare(QDate::currentDate());
+    return Midnights::differing(days, check.row(Midnights::query(days)));
 }
 
 void checkMidnights(DbCheck &check, const QString &serverZone, const QString &ownZone)

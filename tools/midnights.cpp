@@ -1,0 +1,52 @@
+#include "tools/midnights.h"
+
+#include "worker/recordcodes.h"
+
+#include <QDateTime>
+#include <QSet>
+#include <QStringList>
+#include <QTimeZone>
+
+#include <algorithm>
+
+namespace {
+
+/// In both directions from today: a whole year of daylight saving.
+constexpr int kDaysAround = 366;
+/// The server's zone may change its clocks on other days than ours; not for less than a week.
+constexpr int kDaysApart = 7;
+
+} // namespace
+
+QVector<QDate> Midnights::daysToCompare(const QDate &today)
+{
+    QSet<QDate> days;
+    for (int offset = -kDaysAround; offset <= kDaysAround; offset += kDaysApart)
+        days += today.addDays(offset);
+    const QTimeZone::OffsetDataList changes = QTimeZone::systemTimeZone().transitions(
+        today.addDays(-kDaysAround).startOfDay(), today.addDays(kDaysAround).startOfDay());
+    for (const QTimeZone::OffsetData &change : changes) {
+        const QDate day = change.atUtc.toLocalTime().date();
+        days += {day.addDays(-1), day, day.addDays(1)};
+    }
+    QVector<QDate> sorted(days.cbegin(), days.cend());
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+QString Midnights::query(const QVector<QDate> &days)
+{
+    QStringList columns;
+    for (const QDate &day : days)
+        columns += QStringLiteral("UNIX_TIMESTAMP('%1')").arg(day.toString(Qt::ISODate));
+    return QStringLiteral("SELECT ") + columns.join(QLatin1Char(','));
+}
+
+QDate Midnights::differing(const QVector<QDate> &days, const QVariantList &midnights)
+{
+    for (int i = 0; i < midnights.size(); ++i) {
+        if (midnights.at(i).toLongLong() != RecordCodes::midnight(days.at(i)))
+            return days.at(i);
+    }
+    return QDate();
+}
