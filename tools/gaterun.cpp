@@ -121,7 +121,7 @@ std::optional<ExitStatus> GateRun::openSource()
     case GateSource::Outcome::Failed:
         return fail(m_source.errorString());
     }
-    if (m_source.age() < m_options.settleSeconds)
+    if (m_options.settleSeconds > 0 && m_source.age() < m_options.settleSeconds)
         return refuse({GateJudgement::justWritten(m_options.settleSeconds)});
     return std::nullopt;
 }

@@ -34,10 +34,9 @@ GateSource::Outcome GateSource::open()
     const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0 && (errno == ENOENT || errno == ENOTDIR))
         return Outcome::Missing;
-    const int reason = errno;
     if (fd < 0 || !m_file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)
         || ::fstat(fd, &m_opened) != 0) {
-        fail(qt_error_string(reason));
+        fail(qt_error_string(errno));
         return Outcome::Failed;
     }
     return S_ISREG(m_opened.st_mode) ? Outcome::Done : Outcome::Missing;

@@ -36,8 +36,8 @@ class TestGate : public QObject {
 private Q_SLOTS:
     void init() { m_site.reset(new GateSite); }
 
-    void anUnchangedLimitIsThatOfTheManual_data();
-    void anUnchangedLimitIsThatOfTheManual();
+    void theDefaultLimitsHoldToThePoint_data();
+    void theDefaultLimitsHoldToThePoint();
     void aLimitHoldsToThePoint_data();
     void aLimitHoldsToThePoint();
     void whoLeaves_data();
@@ -54,6 +54,7 @@ private Q_SLOTS:
     void aTruncatedFileIsRefused();
     void aMissingFileIsRefused_data();
     void aMissingFileIsRefused();
+    void aFileThatWasJustWrittenIsRefused_data();
     void aFileThatWasJustWrittenIsRefused();
     void theFirstFileIsRefused();
 
@@ -104,7 +105,7 @@ void TestGate::compare(const ToolRun &run, const QStringList &reasons)
     QCOMPARE(m_site->status()["reasons"].toArray().size(), reasons.size());
 }
 
-void TestGate::anUnchangedLimitIsThatOfTheManual_data()
+void TestGate::theDefaultLimitsHoldToThePoint_data()
 {
     QTest::addColumn<QVector<ExportRow>>("before");
     QTest::addColumn<QVector<ExportRow>>("after");
@@ -136,7 +137,7 @@ void TestGate::anUnchangedLimitIsThatOfTheManual_data()
         {"people-moving"});
 }
 
-void TestGate::anUnchangedLimitIsThatOfTheManual()
+void TestGate::theDefaultLimitsHoldToThePoint()
 {
     QFETCH(QVector<ExportRow>, before);
     QFETCH(QVector<ExportRow>, after);
@@ -413,17 +414,37 @@ void TestGate::aMissingFileIsRefused()
     QCOMPARE(m_site->status()["lastAdmitted"].toObject()["lines"].toInt(), 1);
 }
 
+void TestGate::aFileThatWasJustWrittenIsRefused_data()
+{
+    QTest::addColumn<int>("age"); // seconds
+    QTest::addColumn<QString>("settle");
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("not asked for") << 0 << "0" << false;
+    QTest::newRow("of the future, not asked for") << -3600 << "0" << false;
+    QTest::newRow("old enough") << 3600 << "3600" << false;
+    QTest::newRow("not old enough") << 3300 << "3600" << true;
+    QTest::newRow("new") << 0 << "3600" << true;
+    QTest::newRow("of the future") << -3600 << "1" << true;
+}
+
 void TestGate::aFileThatWasJustWrittenIsRefused()
 {
+    QFETCH(int, age);
+    QFETCH(QString, settle);
+    QFETCH(bool, refused);
     m_site->admit({Row()});
     m_site->deliver(QVector<Row>{Row()});
-    compare(m_site->run({"--accept", "--settle", "3600"}), {"just-written"});
     QFile file(m_site->hrFile());
     QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age),
                              QFileDevice::FileModificationTime));
     file.close();
-    compare(m_site->run({"--settle", "3600"}), {});
+    const ToolRun run = m_site->run({"--accept", "--settle", settle});
+    compare(run, refused ? QStringList("just-written") : QStringList());
+    if (refused)
+        QCOMPARE(run.findings()[0].toObject()["message"].toString(),
+                 QString("The file was changed within the last %1 second%2.")
+                     .arg(settle, settle == "1" ? "" : "s"));
 }
 
 void TestGate::theFirstFileIsRefused()

@@ -48,6 +48,32 @@ void setModified(const QString &path, const QString &time)
         qFatal("The time of %s cannot be set", qPrintable(path));
 }
 
+/// When the test is root's, makes it nobody's until the object goes: root may do everything.
+class OrdinaryUser {
+public:
+    OrdinaryUser() { become(kNobody); }
+    ~OrdinaryUser() { become(0); }
+    OrdinaryUser(const OrdinaryUser &) = delete;
+    OrdinaryUser &operator=(const OrdinaryUser &) = delete;
+
+private:
+    void become(uid_t user) const
+    {
+        if (m_isRoot && ::seteuid(user) != 0)
+            qFatal("The test cannot change its user");
+    }
+
+    const bool m_isRoot = ::geteuid() == 0;
+};
+
+void giveTo(uid_t owner, const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        if (::chown(QFile::encodeName(path).constData(), owner, gid_t(-1)) != 0)
+            qFatal("%s cannot be given away", qPrintable(path));
+    }
+}
+
 /// Takes everything, and does something at the first piece.
 class Meanwhile : public QBuffer {
 public:
@@ -112,6 +138,8 @@ private Q_SLOTS:
     void aFolderOfNoUseIsAFailure();
     void anUntrustworthyFolderIsAFailure_data();
     void anUntrustworthyFolderIsAFailure();
+    void aFolderOfAnotherUserIsAFailure();
+    void aFolderThatCannotBeWrittenIsAFailure();
     void aSecondGateIsRefused();
     void theLockGoesWithTheRun();
 
@@ -180,8 +208,7 @@ void TestGateFiles::filesBelongToTheOwnerOfTheirFolder()
     // Root leaves them to the folders' owner; anybody else owns the folders of this test.
     const uid_t owner = ::geteuid() == 0 ? kNobody : ::geteuid();
     const QString plugin = QFileInfo(m_site->target()).path();
-    QCOMPARE(::chown(QFile::encodeName(plugin).constData(), owner, gid_t(-1)), 0);
-    QCOMPARE(::chown(QFile::encodeName(m_site->folder()).constData(), owner, gid_t(-1)), 0);
+    giveTo(owner, {plugin, m_site->folder()});
     m_site->deliver(GatePeople::some(1));
     COMPARE_EXIT(m_site->run({"--accept"}), ExitStatus::Fine);
     QCOMPARE(statusOf(m_site->target()).st_uid, owner);
@@ -555,6 +582,43 @@ void TestGateFiles::anUntrustworthyFolderIsAFailure()
     if (!trusted)
         QCOMPARE(run.err,
                  "mirovahrctl: gate: " + error.arg(m_site->state()) + ". Nothing was published.\n");
+}
+
+void TestGateFiles::aFolderOfAnotherUserIsAFailure()
+{
+    // Only root can make such a folder; anybody else finds one of root's, which is to be trusted.
+    const bool isRoot = ::geteuid() == 0;
+    const QString stranger = isRoot ? m_site->state() : QString("/");
+    if (isRoot) {
+        QVERIFY(QDir().mkdir(stranger));
+        giveTo(kNobody, {m_site->folder()});
+        giveTo(1, {stranger});
+    }
+    const OrdinaryUser user;
+    GateFolder folder;
+    QCOMPARE(folder.openPrivate(stranger), !isRoot);
+    if (isRoot)
+        QVERIFY(folder.errorString().startsWith("The folder '" + stranger
+                                                + "' belongs to somebody else, or "));
+}
+
+void TestGateFiles::aFolderThatCannotBeWrittenIsAFailure()
+{
+    m_site->admit(GatePeople::some(3));
+    const uid_t owner = ::geteuid() == 0 ? kNobody : ::geteuid();
+    giveTo(owner,
+           {m_site->folder(), m_site->state(), m_site->inState("lock"),
+            m_site->inState("status.json"), m_site->inState("admitted.data")});
+    const OrdinaryUser user;
+    setPermissions(m_site->state(), 0500);
+    const ToolRun run = m_site->run();
+    setPermissions(m_site->state(), 0700);
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err,
+             QString("mirovahrctl: gate: '%1' cannot be written: Permission denied. Nothing was "
+                     "published.\n")
+                 .arg(m_site->inState("admitted.data")));
+    QVERIFY(!m_site->isPublished());
 }
 
 void TestGateFiles::aSecondGateIsRefused()
