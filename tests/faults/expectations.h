@@ -12,18 +12,27 @@ struct Reaction {
     QString own;
     /// How further lines begin that the failure may lead to.
     QStringList further;
+
+    bool expects(const QString &line) const;
 };
 
 /// Of every command of the cycle.
 const QVector<Reaction> &reactions();
 /// Of the command with this text.
-Reaction reactionTo(const QString &command);
+const Reaction &reactionTo(const QString &command);
 
-/// How the database may differ for good from that of an undisturbed run, and why it must.
+/// How the database differs for good from that after an undisturbed run, and why it must.
 struct Difference {
-    QRegularExpression line; ///< fits the line of StateChanges::between(undisturbed, disturbed)
-    QRegularExpression cause; ///< fits a command that was not carried out, or one too many
+    // "*" stands for any text, "#" for a person's uid, "@" for the same person's pid, "&" for a
+    // terminal.
+    QString line; ///< of StateChanges::between(undisturbed, disturbed)
+    QStringList causes; ///< Commands, of which one was not carried out.
     QString reason;
+
+    bool explains(const QString &line, const QStringList &notCarriedOut) const;
 };
 
 const QVector<Difference> &differences();
+
+/// Stands among the commands that were not carried out when a new process repeated the cycle.
+const QString &newProcess();

@@ -50,6 +50,7 @@ void FaultCycle::copyTables()
     m_db.run("CREATE DATABASE beginning");
     for (const QString &table : kWritten)
         m_db.run("CREATE TABLE beginning." + table + " SELECT * FROM " + table);
+    m_db.run("CREATE TABLE beginning.weight (n INT)");
 }
 
 QVector<ExportRow> FaultCycle::lines() const

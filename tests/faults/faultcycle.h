@@ -26,7 +26,7 @@ public:
     QString errorString() const { return m_db.errorString(); }
 
     TestDatabase &db() { return m_db; }
-    MySqlProxy &proxy() { return *m_proxy; }
+    MySqlProxy &proxy() const { return *m_proxy; }
     QString exportPath() const { return m_export.path(); }
     /// The attendance server's connection, which leads through the proxy.
     QSqlDatabase serverConnection() const { return m_server; }
