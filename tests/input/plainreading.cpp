@@ -129,10 +129,11 @@ double balance(const QString &text)
     static const QRegularExpression form(
         R"(^[+-]?((([0-9]+\.?[0-9]*|\.[0-9]+)(e[+-]?[0-9]+)?)|inf)$|^nan$)",
         QRegularExpression::CaseInsensitiveOption);
-    const QString trimmedText = trimmed(text);
-    if (!form.match(trimmedText).hasMatch())
+    // Qt takes the sign that typography has for a hyphen, too.
+    const QString number = trimmed(text).replace(QChar(0x2212), '-');
+    if (!form.match(number).hasMatch())
         return 0.0;
-    return std::strtod(trimmedText.toLatin1().constData(), nullptr);
+    return std::strtod(number.toLatin1().constData(), nullptr);
 }
 
 QDate date(const QString &text)
