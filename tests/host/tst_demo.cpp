@@ -30,14 +30,10 @@ private:
 
 void TestDemo::initTestCase()
 {
-    m_demo.setVariable("MIROVAHR_INI", kProject + "/demo/MirovaHR.ini");
-    m_demo.setVariable("LC_ALL", "C.UTF-8");
-    QStringList arguments{PRIVATE_MARIADB, "--no-rights"};
-    for (const char *file : {"schema", "routines", "grants", "sample"})
-        arguments += {"--load", kProject + "/reference-db/" + file + ".sql"};
-    arguments += {"--", kProject + "/demo/run", YAVHOST, MIROVAHR_PLUGIN};
-    QVERIFY2(m_demo.run(kProject + "/scripts/private-view", arguments),
-             m_demo.report().constData());
+    QVERIFY2(
+        m_demo.run(kProject + "/demo/start",
+                   {kProject + "/scripts/private-view", PRIVATE_MARIADB, YAVHOST, MIROVAHR_PLUGIN}),
+        m_demo.report().constData());
     const int later = m_demo.output().indexOf("\nLater, HR has changed");
     QVERIFY2(later > 0, m_demo.report().constData());
     m_first = m_demo.output().left(later);
