@@ -6,6 +6,7 @@
 #include "tools/console.h"
 #include "tools/force.h"
 #include "tools/gate.h"
+#include "tools/preview.h"
 #include "tools/status.h"
 
 #include <algorithm>
@@ -45,6 +46,7 @@ const QVector<Subcommand> &subcommands()
          runCheckConfig},
         {"check-file", "What the plugin would drop or misread of an HR export", runCheckFile},
         {"check-db", "Whether the attendance database is what the plugin relies on", runCheckDb},
+        {"preview", "What a synchronisation would change, by doing it on a copy", runPreview},
         {"gate", "Lets HR's file through to the plugin, or holds it back", runGate},
         {"force", "Makes the plugin synchronise everybody at its next tick", runForce},
         {"status", "What is known of the plugin's work, for people and for monitoring", runStatus},

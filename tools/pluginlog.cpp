@@ -1,0 +1,28 @@
+#include "tools/pluginlog.h"
+
+#include <utility>
+
+namespace {
+
+PluginLog *currentLog = nullptr;
+
+} // namespace
+
+PluginLog::PluginLog(Listener listener)
+    : m_listener(std::move(listener))
+    , m_outer(currentLog)
+    , m_outerHandler(qInstallMessageHandler(handle))
+{
+    currentLog = this;
+}
+
+PluginLog::~PluginLog()
+{
+    qInstallMessageHandler(m_outerHandler);
+    currentLog = m_outer;
+}
+
+void PluginLog::handle(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    currentLog->m_listener(type, text);
+}

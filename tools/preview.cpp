@@ -1,0 +1,162 @@
+#include "tools/preview.h"
+
+#include "cli/databaseoptions.h"
+#include "plugin/configuration.h"
+#include "tools/commandline.h"
+#include "tools/console.h"
+#include "tools/previewreport.h"
+#include "tools/previewsql.h"
+#include "tools/previewwork.h"
+#include "tools/report.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QSettings>
+
+namespace {
+
+constexpr char kDescription[] =
+    "Tells what a forced synchronisation with an export would change in the attendance\n"
+    "database, by doing it: copies the tables and routines that the plugin touches into a\n"
+    "private database server, lets the plugin's own code synchronise the copy, and shows\n"
+    "every difference. The site's database is only read, the export stays, and the copy is\n"
+    "gone afterwards. Needs MariaDB's server programs on this machine, and as much room in\n"
+    "the folder for temporary files as the tables take twice.";
+
+class PreviewCommand {
+public:
+    PreviewCommand(const CommandLine &line, Console &console)
+        : m_line(line)
+        , m_console(console)
+        , m_report(line, console)
+        , m_export(line.argument(0))
+        , m_sql(line.value("sql"))
+        , m_log(line.value("log"))
+    {
+    }
+
+    ExitStatus run(const DatabaseOptions &site);
+
+private:
+    std::optional<ExitStatus> prepare();
+    std::optional<ExitStatus> readConfiguration();
+    std::optional<ExitStatus> openOutput(QSaveFile &file);
+    bool isExport(const QString &path) const;
+    ExitStatus commit(ExitStatus status);
+    ExitStatus fail(ExitStatus status, const QString &sentence);
+    ExitStatus fail(const PreviewRefusal &refusal)
+    {
+        return fail(refusal.status, refusal.sentence);
+    }
+
+    const CommandLine &m_line;
+    Console &m_console;
+    Report m_report;
+    const QString m_export;
+    QSaveFile m_sql;
+    QSaveFile m_log;
+    Configuration m_configuration;
+};
+
+ExitStatus PreviewCommand::run(const DatabaseOptions &site)
+{
+    if (const auto end = prepare())
+        return *end;
+    PreviewWork work(m_console);
+    if (const auto refused = work.copy(site))
+        return fail(*refused);
+    if (const auto refused =
+            work.synchronise(m_configuration, m_export, m_log.isOpen() ? &m_log : nullptr))
+        return fail(*refused);
+    if (m_sql.isOpen())
+        PreviewSql(work.schema(), work.moments()).write(work.changes(), m_sql);
+    m_report.begin(m_line.subcommand(), QStringLiteral("Preview of HR export %1").arg(m_export));
+    PreviewReport report(work, m_configuration, m_report);
+    report.write();
+    return commit(m_report.conclude(m_report.findingsStatus(), report.verdict()));
+}
+
+std::optional<ExitStatus> PreviewCommand::prepare()
+{
+    const QFileInfo info(m_export);
+    if (!info.isFile())
+        return fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(m_export));
+    if (!info.isReadable())
+        return fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be read").arg(m_export));
+    if (isExport(m_line.pagePath()) || isExport(m_sql.fileName()) || isExport(m_log.fileName())) {
+        return fail(ExitStatus::Usage,
+                    QStringLiteral("The result would be written over the export; name another "
+                                   "file"));
+    }
+    if (const auto end = readConfiguration())
+        return end;
+    for (QSaveFile *const file : {&m_sql, &m_log}) {
+        if (const auto end = openOutput(*file))
+            return end;
+    }
+    return m_report.open();
+}
+
+std::optional<ExitStatus> PreviewCommand::readConfiguration()
+{
+    const bool isNamed = m_line.isSet("config");
+    const QString path = isNamed ? m_line.value("config") : QString(Configuration::kPath);
+    const QFileInfo info(path);
+    if (isNamed && !info.isFile())
+        return fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(path));
+    if (info.isFile() && !info.isReadable())
+        return fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be read").arg(path));
+    m_configuration = Configuration::read(*Configuration::open(path));
+    return std::nullopt;
+}
+
+std::optional<ExitStatus> PreviewCommand::openOutput(QSaveFile &file)
+{
+    if (file.fileName().isEmpty() || file.open(QIODevice::WriteOnly))
+        return std::nullopt;
+    return fail(
+        ExitStatus::Usage,
+        QStringLiteral("'%1' cannot be written: %2").arg(file.fileName(), file.errorString()));
+}
+
+bool PreviewCommand::isExport(const QString &path) const
+{
+    return !path.isEmpty() && QFileInfo(path) == QFileInfo(m_export);
+}
+
+ExitStatus PreviewCommand::commit(ExitStatus status)
+{
+    for (QSaveFile *const file : {&m_sql, &m_log}) {
+        if (file->isOpen() && !file->commit()) {
+            return fail(ExitStatus::Usage,
+                        QStringLiteral("'%1' cannot be written: %2")
+                            .arg(file->fileName(), file->errorString()));
+        }
+    }
+    return status;
+}
+
+ExitStatus PreviewCommand::fail(ExitStatus status, const QString &sentence)
+{
+    return m_console.fail(status, m_line.subcommand() + QStringLiteral(": ") + sentence);
+}
+
+} // namespace
+
+ExitStatus runPreview(const QStringList &arguments, Console &console)
+{
+    CommandLine line("preview", kDescription);
+    line.addArgument("file", "The export.");
+    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini when left out.");
+    line.addOption("sql", "file",
+                   "Also write the differences as SQL statements that would make them.");
+    line.addOption("log", "file", "Also write the plugin's whole log of the synchronisation.");
+    line.addReportOptions(CommandLine::Page::Offered);
+    line.addDatabaseOptions();
+    if (const auto end = line.parse(arguments, console))
+        return *end;
+    DatabaseOptions site;
+    if (const auto end = line.readDatabase(site, console))
+        return *end;
+    return PreviewCommand(line, console).run(site);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "tools/exitstatus.h"
+
+#include <QStringList>
+
+class Console;
+
+/// The subcommand `preview`: what a synchronisation would change, by doing it on a copy.
+ExitStatus runPreview(const QStringList &arguments, Console &console);

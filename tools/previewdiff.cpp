@@ -1,0 +1,158 @@
+#include "tools/previewdiff.h"
+
+#include "tools/previewcopy.h"
+
+#include <QMap>
+
+namespace {
+
+// Within a table of the copy: the columns of each unique key, in their order, with whether they can
+// be told apart by them alone.
+constexpr char kKeys[] =
+    "SELECT s.INDEX_NAME, s.COLUMN_NAME, c.IS_NULLABLE, s.SUB_PART FROM "
+    "information_schema.STATISTICS s JOIN information_schema.COLUMNS c ON c.TABLE_SCHEMA = "
+    "s.TABLE_SCHEMA AND c.TABLE_NAME = s.TABLE_NAME AND c.COLUMN_NAME = s.COLUMN_NAME WHERE "
+    "s.NON_UNIQUE = 0 AND s.TABLE_SCHEMA = DATABASE() AND s.TABLE_NAME = %1 ORDER BY s.INDEX_NAME "
+    "<> 'PRIMARY', s.INDEX_NAME, s.SEQ_IN_INDEX";
+
+/// The columns of the best key; none when rows may repeat.
+QStringList keyOf(SqlSession &server, const PreviewTable &table)
+{
+    QStringList names;
+    QHash<QString, QStringList> columns;
+    QHash<QString, bool> tells;
+    const QVector<QStringList> rows =
+        server.rows(QString(QLatin1String(kKeys)).arg(SqlSession::literal(table.name)));
+    for (const QStringList &row : rows) {
+        const QString &name = row.at(0);
+        if (!columns.contains(name))
+            names += name;
+        columns[name] += row.at(1);
+        tells[name] = tells.value(name, true) && row.at(2) == QLatin1String("NO")
+            && row.at(3).isNull() && table.indexOf(row.at(1)) >= 0;
+    }
+    for (const QString &name : qAsConst(names)) {
+        if (tells.value(name))
+            return columns.value(name);
+    }
+    return {};
+}
+
+QString sameKey(const QStringList &key)
+{
+    QStringList conditions;
+    for (const QString &column : key)
+        conditions += QStringLiteral("a.%1 = b.%1").arg(SqlSession::name(column));
+    return conditions.join(QStringLiteral(" AND "));
+}
+
+/// Letter by letter: to the columns themselves, "a" and "A" may be the same.
+QString sameRow(const PreviewTable &table)
+{
+    QStringList conditions;
+    for (const PreviewColumn &column : table.columns)
+        conditions +=
+            QStringLiteral("BINARY a.%1 <=> BINARY b.%1").arg(SqlSession::name(column.name));
+    return conditions.join(QStringLiteral(" AND "));
+}
+
+QString order(const PreviewTable &table, const QString &owner)
+{
+    QStringList columns;
+    for (const QString &column : table.key)
+        columns += owner + QLatin1Char('.') + SqlSession::name(column);
+    return columns.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+QString PreviewChange::cell(const char *column) const
+{
+    return row().value(table->indexOf(QString::fromLatin1(column)));
+}
+
+bool PreviewChange::changes(int column) const
+{
+    if (before.isEmpty() || after.isEmpty())
+        return true;
+    const QString &old = before.at(column);
+    const QString &fresh = after.at(column);
+    return old.isNull() != fresh.isNull() || old != fresh;
+}
+
+PreviewDiff::PreviewDiff(PreviewSchema &schema, const QSqlDatabase &server)
+    : m_schema(schema)
+    , m_server(server)
+{
+    m_server.prepareForCopying();
+    m_server.run(QStringLiteral("USE ") + SqlSession::name(schema.name));
+}
+
+bool PreviewDiff::read()
+{
+    for (PreviewTable &table : m_schema.tables) {
+        table.key = keyOf(m_server, table);
+        if (table.key.isEmpty())
+            compareAsBags(table);
+        else
+            compareByKey(table);
+    }
+    return !m_server.failed();
+}
+
+void PreviewDiff::compareByKey(const PreviewTable &table)
+{
+    const QString after = SqlSession::name(table.name);
+    const QString before = PreviewCopy::baselineName(m_schema) + QLatin1Char('.') + after;
+    const QString key = sameKey(table.key);
+    const QString first = SqlSession::name(table.key.first());
+    const int count = table.columns.size();
+    m_server.forEachRow(
+        QStringLiteral("SELECT %1 FROM %2 b LEFT JOIN %3 a ON %4 WHERE a.%5 IS NULL ORDER BY %6")
+            .arg(table.expressions(QStringLiteral("b")), before, after, key, first,
+                 order(table, QStringLiteral("b"))),
+        [&](const QStringList &row) {
+            m_changes.append({&table, row, {}});
+            return true;
+        });
+    m_server.forEachRow(
+        QStringLiteral("SELECT %1, %2, b.%6 IS NULL FROM %3 a LEFT JOIN %4 b ON %5 WHERE b.%6 IS "
+                       "NULL OR NOT (%7) ORDER BY %8")
+            .arg(table.expressions(QStringLiteral("a")), table.expressions(QStringLiteral("b")),
+                 after, before, key, first, sameRow(table), order(table, QStringLiteral("a"))),
+        [&](const QStringList &row) {
+            const bool isNew = row.last() == QLatin1String("1");
+            m_changes.append(
+                {&table, isNew ? QStringList() : row.mid(count, count), row.mid(0, count)});
+            return true;
+        });
+}
+
+void PreviewDiff::compareAsBags(const PreviewTable &table)
+{
+    // Such tables are queues and lists of little: all of it is held.
+    struct Bag {
+        QStringList row;
+        qint64 surplus = 0; ///< how often it is more there than before
+    };
+    QMap<QString, Bag> bags;
+    const auto count = [&](const QString &name, qint64 step) {
+        m_server.forEachRow(
+            QStringLiteral("SELECT %1 FROM %2 t").arg(table.expressions(QStringLiteral("t")), name),
+            [&](const QStringList &row) {
+                Bag &bag = bags[table.tuple(row)];
+                bag.row = row;
+                bag.surplus += step;
+                return true;
+            });
+    };
+    const QString name = SqlSession::name(table.name);
+    count(PreviewCopy::baselineName(m_schema) + QLatin1Char('.') + name, -1);
+    count(name, 1);
+    for (const Bag &bag : qAsConst(bags)) {
+        for (qint64 i = bag.surplus; i < 0; ++i)
+            m_changes.append({&table, bag.row, {}});
+        for (qint64 i = 0; i < bag.surplus; ++i)
+            m_changes.append({&table, {}, bag.row});
+    }
+}

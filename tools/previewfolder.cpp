@@ -1,0 +1,90 @@
+#include "tools/previewfolder.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr char kShell[] = "/bin/sh";
+// Whatever ends the program in a terminal must not end the guard.
+constexpr char kGuard[] = "trap '' HUP INT QUIT TERM; cat; exec rm -rf -- \"$1\"";
+
+/// What the guard's process gets: its end of the pipe as standard input, and nothing else of this
+/// program's.
+class GuardSetup {
+public:
+    explicit GuardSetup(const int (&pipe)[2])
+    {
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_adddup2(&actions, pipe[0], STDIN_FILENO);
+        posix_spawn_file_actions_addclose(&actions, pipe[0]);
+        posix_spawn_file_actions_addclose(&actions, pipe[1]);
+        posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawnattr_init(&attributes);
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    }
+    ~GuardSetup()
+    {
+        posix_spawn_file_actions_destroy(&actions);
+        posix_spawnattr_destroy(&attributes);
+    }
+    GuardSetup(const GuardSetup &) = delete;
+    GuardSetup &operator=(const GuardSetup &) = delete;
+
+    posix_spawn_file_actions_t actions{};
+    posix_spawnattr_t attributes{};
+};
+
+} // namespace
+
+PreviewFolder::PreviewFolder()
+    : m_dir(QDir::tempPath() + QStringLiteral("/mhrpreview-XXXXXX"))
+{
+    if (m_dir.isValid())
+        startGuard();
+    else
+        m_error = m_dir.errorString();
+}
+
+PreviewFolder::~PreviewFolder()
+{
+    m_dir.remove();
+    if (m_guard <= 0)
+        return;
+    ::close(m_pipe);
+    while (::waitpid(m_guard, nullptr, 0) < 0 && errno == EINTR) { }
+}
+
+void PreviewFolder::startGuard()
+{
+    int ends[2];
+    if (::pipe(ends) != 0) {
+        m_error = QString::fromLocal8Bit(std::strerror(errno));
+        return;
+    }
+    const GuardSetup setup(ends);
+    QByteArray script(kGuard);
+    QByteArray folder = QFile::encodeName(m_dir.path());
+    QByteArray shell(kShell);
+    QByteArray option("-c");
+    char *arguments[] = {shell.data(), option.data(), script.data(),
+                         shell.data(), folder.data(), nullptr};
+    const int error =
+        ::posix_spawn(&m_guard, kShell, &setup.actions, &setup.attributes, arguments, environ);
+    ::close(ends[0]);
+    if (error == 0) {
+        m_pipe = ends[1];
+        return;
+    }
+    ::close(ends[1]);
+    m_guard = 0;
+    m_error = QString::fromLocal8Bit(std::strerror(error));
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "tools/exitstatus.h"
+
+#include <QString>
+
+/// Why there is no preview.
+struct PreviewRefusal {
+    ExitStatus status = ExitStatus::NoDatabase;
+    QString sentence; ///< without its full stop
+};

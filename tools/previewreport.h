@@ -1,0 +1,40 @@
+#pragma once
+
+#include "tools/exitstatus.h"
+#include "tools/finding.h"
+#include "tools/previewwords.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class PreviewWork;
+class Report;
+struct Configuration;
+
+/// Tells what a preview has found out.
+class PreviewReport {
+public:
+    PreviewReport(PreviewWork &work, const Configuration &configuration, Report &report);
+
+    /// All of it but the verdict.
+    void write();
+    QString verdict() const;
+
+private:
+    void collect();
+    void writeDifferences();
+    void writeWarnings();
+    void writeLimits();
+    void writeSummary();
+    void warnOfConfiguration();
+    void noteCopy();
+    void tell(Severity severity, const char *rule, const QString &message, const QString &advice);
+
+    PreviewWork &m_work;
+    const Configuration &m_configuration;
+    Report &m_report;
+    QMap<PreviewKind, QVector<PreviewLine>> m_lines;
+    QMap<PreviewKind, int> m_rows; ///< rows with a line of that kind
+};

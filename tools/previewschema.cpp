@@ -1,0 +1,121 @@
+#include "tools/previewschema.h"
+
+#include "tools/sqlsession.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct TypeKind {
+    const char *type;
+    PreviewColumn::Kind kind;
+};
+
+constexpr TypeKind kTypeKinds[] = {
+    {"tinyint", PreviewColumn::Kind::Number},   {"smallint", PreviewColumn::Kind::Number},
+    {"mediumint", PreviewColumn::Kind::Number}, {"int", PreviewColumn::Kind::Number},
+    {"bigint", PreviewColumn::Kind::Number},    {"decimal", PreviewColumn::Kind::Number},
+    {"year", PreviewColumn::Kind::Number},      {"bit", PreviewColumn::Kind::Number},
+    {"float", PreviewColumn::Kind::Real},       {"double", PreviewColumn::Kind::Real},
+    {"char", PreviewColumn::Kind::Text},        {"varchar", PreviewColumn::Kind::Text},
+    {"tinytext", PreviewColumn::Kind::Text},    {"text", PreviewColumn::Kind::Text},
+    {"mediumtext", PreviewColumn::Kind::Text},  {"longtext", PreviewColumn::Kind::Text},
+    {"enum", PreviewColumn::Kind::Text},        {"set", PreviewColumn::Kind::Text},
+    {"json", PreviewColumn::Kind::Text},        {"date", PreviewColumn::Kind::Other},
+    {"datetime", PreviewColumn::Kind::Other},   {"timestamp", PreviewColumn::Kind::Other},
+    {"time", PreviewColumn::Kind::Other},       {"uuid", PreviewColumn::Kind::Other},
+    {"inet4", PreviewColumn::Kind::Other},      {"inet6", PreviewColumn::Kind::Other},
+};
+
+} // namespace
+
+PreviewColumn::Kind PreviewColumn::kindOf(const QString &type)
+{
+    const QString word =
+        type.section(QLatin1Char('('), 0, 0).section(QLatin1Char(' '), 0, 0).toLower();
+    const auto *const end = std::end(kTypeKinds);
+    const auto *const found =
+        std::find_if(std::begin(kTypeKinds), end,
+                     [&word](const TypeKind &kind) { return word == QLatin1String(kind.type); });
+    // Binary strings and geometries are the bytes that they are.
+    return found == end ? Kind::Bytes : found->kind;
+}
+
+QString PreviewColumn::expression(const QString &owner) const
+{
+    const QString column = owner + QLatin1Char('.') + SqlSession::name(name);
+    switch (kind) {
+    case Kind::Text:
+        return column;
+    case Kind::Bytes:
+        return QStringLiteral("HEX(%1)").arg(column);
+    case Kind::Real:
+        // Seventeen digits, where a FLOAT by itself shows six.
+        return QStringLiteral("CAST(CAST(%1 AS DOUBLE) AS CHAR)").arg(column);
+    case Kind::Number:
+        // The sum makes a number of bits.
+        return QStringLiteral("CAST(%1 + 0 AS CHAR)").arg(column);
+    case Kind::Other:
+        break;
+    }
+    return QStringLiteral("CAST(%1 AS CHAR)").arg(column);
+}
+
+QString PreviewColumn::literal(const QString &cell) const
+{
+    if (cell.isNull())
+        return QStringLiteral("NULL");
+    switch (kind) {
+    case Kind::Number:
+    case Kind::Real:
+        return cell;
+    case Kind::Bytes:
+        return QStringLiteral("X'%1'").arg(cell);
+    case Kind::Text:
+    case Kind::Other:
+        break;
+    }
+    return SqlSession::literal(cell);
+}
+
+int PreviewTable::indexOf(const QString &column) const
+{
+    for (int i = 0; i < columns.size(); ++i) {
+        if (columns.at(i).name == column)
+            return i;
+    }
+    return -1;
+}
+
+QString PreviewTable::columnList() const
+{
+    QStringList names;
+    for (const PreviewColumn &column : columns)
+        names += SqlSession::name(column.name);
+    return names.join(QStringLiteral(", "));
+}
+
+QString PreviewTable::expressions(const QString &owner) const
+{
+    QStringList expressions;
+    for (const PreviewColumn &column : columns)
+        expressions += column.expression(owner);
+    return expressions.join(QStringLiteral(", "));
+}
+
+QString PreviewTable::tuple(const QStringList &row) const
+{
+    QStringList values;
+    for (int i = 0; i < columns.size(); ++i)
+        values += columns.at(i).literal(row.at(i));
+    return QLatin1Char('(') + values.join(QStringLiteral(", ")) + QLatin1Char(')');
+}
+
+qint64 PreviewSchema::rowEstimate() const
+{
+    qint64 rows = 0;
+    for (const PreviewTable &table : tables)
+        rows += table.rowEstimate;
+    return rows;
+}

@@ -1,0 +1,344 @@
+#include "tools/previewschemareader.h"
+
+#include "db/tepdbcontract.h"
+#include "tools/midnights.h"
+#include "tools/pluginrights.h"
+#include "tools/sqlsession.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+// What a server does its own way, and mariadbd takes as an option of the same name.
+constexpr char kServerVariables[] =
+    "SHOW SESSION VARIABLES WHERE Variable_name IN ('sql_mode', 'old_mode', "
+    "'auto_increment_increment', 'auto_increment_offset', 'innodb_autoinc_lock_mode', "
+    "'explicit_defaults_for_timestamp', 'lower_case_table_names', 'group_concat_max_len', "
+    "'div_precision_increment')";
+
+constexpr char kServer[] = "SELECT VERSION(), @@SESSION.time_zone";
+
+constexpr char kDatabase[] = "SELECT DATABASE(), @@character_set_database, @@collation_database";
+
+constexpr char kTables[] =
+    "SELECT t.TABLE_NAME, t.TABLE_TYPE, e.TRANSACTIONS, t.TABLE_ROWS "
+    "FROM information_schema.TABLES t LEFT JOIN information_schema.ENGINES e USING(ENGINE) "
+    "WHERE t.TABLE_SCHEMA = DATABASE()";
+
+constexpr char kRoutines[] = "SELECT ROUTINE_NAME, ROUTINE_TYPE FROM information_schema.ROUTINES "
+                             "WHERE ROUTINE_SCHEMA = DATABASE()";
+
+constexpr char kTriggers[] =
+    "SELECT TRIGGER_NAME, EVENT_OBJECT_TABLE FROM information_schema.TRIGGERS WHERE "
+    "EVENT_OBJECT_SCHEMA = DATABASE() ORDER BY EVENT_OBJECT_TABLE, ACTION_TIMING, "
+    "EVENT_MANIPULATION, ACTION_ORDER";
+
+// On the whole server or database; an account sees its own rights only, an administrator all.
+constexpr char kTriggerRight[] =
+    "SELECT COUNT(*) FROM (SELECT GRANTEE FROM information_schema.USER_PRIVILEGES WHERE "
+    "PRIVILEGE_TYPE = 'TRIGGER' UNION SELECT GRANTEE FROM information_schema.SCHEMA_PRIVILEGES "
+    "WHERE PRIVILEGE_TYPE = 'TRIGGER' AND DATABASE() LIKE TABLE_SCHEMA) g WHERE GRANTEE = "
+    "CONCAT('''', SUBSTRING_INDEX(CURRENT_USER(), '@', 1), '''@''', "
+    "SUBSTRING_INDEX(CURRENT_USER(), '@', -1), '''')";
+
+constexpr char kTriggerRightOnTable[] =
+    "SELECT COUNT(*) FROM information_schema.TABLE_PRIVILEGES WHERE PRIVILEGE_TYPE = 'TRIGGER' AND "
+    "TABLE_SCHEMA = DATABASE() AND TABLE_NAME = %1";
+
+const QLatin1String kBaseTable("BASE TABLE");
+
+QString withoutDefiner(const QString &definition)
+{
+    static const QRegularExpression definer(
+        QStringLiteral("^\\s*CREATE\\s+DEFINER\\s*=\\s*([`\"])(?:(?!\\1).|\\1\\1)*\\1"
+                       "(?:@([`\"])(?:(?!\\2).|\\2\\2)*\\2)?"),
+        QRegularExpression::DotMatchesEverythingOption);
+    QString text = definition;
+    return text.replace(definer, QStringLiteral("CREATE"));
+}
+
+bool isComputed(const QString &extra)
+{
+    return extra.contains(QLatin1String("GENERATED"), Qt::CaseInsensitive)
+        || extra.contains(QLatin1String("VIRTUAL"), Qt::CaseInsensitive)
+        || extra.contains(QLatin1String("PERSISTENT"), Qt::CaseInsensitive);
+}
+
+/// Every word of a text that could be a name, in lower case.
+QSet<QString> words(const QString &text)
+{
+    static const QRegularExpression separator(QStringLiteral("[^\\w$]+"),
+                                              QRegularExpression::UseUnicodePropertiesOption);
+    const QStringList list = text.toLower().split(separator, Qt::SkipEmptyParts);
+    return {list.cbegin(), list.cend()};
+}
+
+bool names(const QSet<QString> &words, const QString &text, const QString &name)
+{
+    static const QRegularExpression plain(QStringLiteral("^[\\w$]+$"),
+                                          QRegularExpression::UseUnicodePropertiesOption);
+    return plain.match(name).hasMatch() ? words.contains(name)
+                                        : text.contains(name, Qt::CaseInsensitive);
+}
+
+bool isWritten(const QString &table)
+{
+    const PluginRights::TableRights *const rights = PluginRights::find(table);
+    return rights != nullptr && (*rights->insert != '\0' || *rights->update != '\0');
+}
+
+} // namespace
+
+PreviewSchemaReader::PreviewSchemaReader(SqlSession &site)
+    : m_site(site)
+{
+}
+
+std::optional<PreviewRefusal> PreviewSchemaReader::read()
+{
+    readServer();
+    // Some modes would show definitions in another way than they are copied.
+    m_site.prepareForCopying();
+    readDatabase();
+    listTables();
+    listRoutines();
+    listTriggers();
+    readTriggerRight();
+    requirePlugin();
+    while (!m_refusal && (!m_pendingTables.isEmpty() || !m_pendingRoutines.isEmpty()))
+        takeNext();
+    if (m_site.failed()) {
+        refuse(ExitStatus::NoDatabase,
+               QStringLiteral("The site's database cannot be read: %1").arg(m_site.errorText()));
+    }
+    return m_refusal;
+}
+
+void PreviewSchemaReader::readServer()
+{
+    const QVector<QStringList> variables = m_site.rows(QLatin1String(kServerVariables));
+    for (const QStringList &row : variables) {
+        QString option = row.at(0);
+        option.replace(QLatin1Char('_'), QLatin1Char('-'));
+        m_schema.serverOptions += QStringLiteral("--loose-%1=%2").arg(option, row.at(1));
+    }
+    const QStringList server = m_site.row(QLatin1String(kServer));
+    m_schema.serverVersion = server.value(0);
+    m_schema.timeZone = server.value(1);
+    m_schema.midnights =
+        m_site.row(Midnights::query(Midnights::daysToCompare(QDate::currentDate())));
+}
+
+void PreviewSchemaReader::readDatabase()
+{
+    const QStringList row = m_site.row(QLatin1String(kDatabase));
+    m_schema.name = row.value(0);
+    m_schema.charset = row.value(1);
+    m_schema.collation = row.value(2);
+}
+
+void PreviewSchemaReader::readTriggerRight()
+{
+    m_seesTriggers = m_site.value(QLatin1String(kTriggerRight)).toInt() > 0;
+}
+
+void PreviewSchemaReader::listTables()
+{
+    const QVector<QStringList> rows = m_site.rows(QLatin1String(kTables));
+    for (const QStringList &row : rows) {
+        m_tables.insert(
+            row.at(0).toLower(),
+            {row.at(0), row.at(1), row.at(2) != QLatin1String("NO"), row.at(3).toLongLong()});
+    }
+}
+
+void PreviewSchemaReader::listRoutines()
+{
+    const QVector<QStringList> rows = m_site.rows(QLatin1String(kRoutines));
+    for (const QStringList &row : rows)
+        m_routines.insert(row.at(0).toLower(), {row.at(0), row.at(1)});
+}
+
+void PreviewSchemaReader::listTriggers()
+{
+    const QVector<QStringList> rows = m_site.rows(QLatin1String(kTriggers));
+    for (const QStringList &row : rows)
+        m_triggers[row.at(1).toLower()] += row.at(0);
+}
+
+void PreviewSchemaReader::requirePlugin()
+{
+    for (const PluginRights::TableRights &table : PluginRights::kTables)
+        require(m_tables, QString::fromLatin1(table.table), QStringLiteral("table"));
+    for (const TepDbContract::Routine &routine : TepDbContract::kRoutines)
+        require(m_routines, QString::fromLatin1(routine.name), QStringLiteral("routine"));
+}
+
+void PreviewSchemaReader::require(const QHash<QString, Entry> &known, const QString &name,
+                                  const QString &what)
+{
+    const QString key = name.toLower();
+    if (!known.contains(key)) {
+        const bool isTable = &known == &m_tables;
+        refuse(ExitStatus::ContractBroken,
+               QStringLiteral("There is no %1 %2, or this account must not see it: it needs SELECT "
+                              "on %3. check-db tells more")
+                   .arg(what, name, isTable ? name : QStringLiteral("mysql.proc")));
+        return;
+    }
+    const QString mark = (&known == &m_tables ? QStringLiteral("t ") : QStringLiteral("r ")) + key;
+    if (m_required.contains(mark))
+        return;
+    m_required += mark;
+    (&known == &m_tables ? m_pendingTables : m_pendingRoutines) += key;
+}
+
+void PreviewSchemaReader::takeNext()
+{
+    if (!m_pendingTables.isEmpty())
+        takeTable(m_pendingTables.takeFirst());
+    else
+        takeRoutine(m_pendingRoutines.takeFirst());
+}
+
+void PreviewSchemaReader::takeTable(const QString &key)
+{
+    const Entry entry = m_tables.value(key);
+    if (entry.kind != kBaseTable) {
+        refuse(ExitStatus::ContractBroken,
+               QStringLiteral("%1 is no table but a %2, which cannot be copied")
+                   .arg(entry.name, entry.kind.toLower()));
+        return;
+    }
+    const PreviewTable table = readTable(entry);
+    if (m_site.failed()) {
+        refuseRead(QStringLiteral("the table %1").arg(entry.name),
+                   QStringLiteral("SELECT on the whole table"));
+        return;
+    }
+    if (!entry.transactional)
+        m_schema.tablesOutsideSnapshot += entry.name;
+    m_schema.tables += table;
+    requireReferences(table);
+    noteHiddenTriggers(entry.name);
+    takeTriggers(key);
+}
+
+PreviewTable PreviewSchemaReader::readTable(const Entry &entry)
+{
+    PreviewTable table;
+    table.name = entry.name;
+    table.rowEstimate = entry.rowEstimate;
+    table.definition =
+        m_site.row(QStringLiteral("SHOW CREATE TABLE ") + SqlSession::name(entry.name)).value(1);
+    readColumns(table);
+    return table;
+}
+
+void PreviewSchemaReader::readColumns(PreviewTable &table)
+{
+    const QVector<QStringList> columns =
+        m_site.rows(QStringLiteral("SHOW FULL COLUMNS FROM ") + SqlSession::name(table.name));
+    for (const QStringList &column : columns) {
+        if (!isComputed(column.value(6)))
+            table.columns += {column.at(0), PreviewColumn::kindOf(column.at(1))};
+    }
+}
+
+void PreviewSchemaReader::requireReferences(const PreviewTable &table)
+{
+    static const QRegularExpression reference(
+        QStringLiteral("^\\s*CONSTRAINT .* FOREIGN KEY .* REFERENCES (?:`([^`]+)`\\.)?`([^`]+)`"),
+        QRegularExpression::MultilineOption);
+    auto matches = reference.globalMatch(table.definition);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        if (!match.captured(1).isEmpty() && match.captured(1) != m_schema.name) {
+            refuse(ExitStatus::ContractBroken,
+                   QStringLiteral("The table %1 refers to the other database %2, which is not "
+                                  "copied")
+                       .arg(table.name, match.captured(1)));
+            return;
+        }
+        require(m_tables, match.captured(2),
+                QStringLiteral("table, although %1 refers to it,").arg(table.name));
+    }
+}
+
+void PreviewSchemaReader::noteHiddenTriggers(const QString &table)
+{
+    if (m_seesTriggers || !isWritten(table) || m_triggers.contains(table.toLower()))
+        return;
+    const QString right =
+        m_site.value(QString(QLatin1String(kTriggerRightOnTable)).arg(SqlSession::literal(table)));
+    if (right.toInt() == 0)
+        m_schema.tablesWithHiddenTriggers += table;
+}
+
+void PreviewSchemaReader::takeTriggers(const QString &table)
+{
+    const QStringList triggers = m_triggers.value(table);
+    for (const QString &name : triggers) {
+        const auto trigger = readProgram(QStringLiteral("TRIGGER"), name);
+        if (!trigger)
+            return;
+        m_schema.triggers += *trigger;
+        requireNamed(trigger->definition);
+    }
+}
+
+void PreviewSchemaReader::takeRoutine(const QString &key)
+{
+    const Entry entry = m_routines.value(key);
+    const auto routine = readProgram(entry.kind, entry.name);
+    if (!routine)
+        return;
+    m_schema.routines += *routine;
+    requireNamed(routine->definition);
+}
+
+std::optional<PreviewProgram> PreviewSchemaReader::readProgram(const QString &kind,
+                                                               const QString &name)
+{
+    const QStringList row =
+        m_site.row(QStringLiteral("SHOW CREATE %1 %2").arg(kind, SqlSession::name(name)));
+    if (m_site.failed() || row.value(2).isEmpty()) {
+        refuseRead(QStringLiteral("the text of the %1 %2").arg(kind.toLower(), name),
+                   kind == QLatin1String("TRIGGER") ? QStringLiteral("TRIGGER on its table")
+                                                    : QStringLiteral("SELECT on mysql.proc"));
+        return std::nullopt;
+    }
+    return PreviewProgram{name, withoutDefiner(row.at(2)), row.at(1), row.value(4)};
+}
+
+void PreviewSchemaReader::requireNamed(const QString &text)
+{
+    const QSet<QString> all = words(text);
+    for (auto it = m_tables.cbegin(); it != m_tables.cend(); ++it) {
+        if (!names(all, text, it.key()))
+            continue;
+        if (it->kind == kBaseTable)
+            require(m_tables, it.key(), QString());
+        else if (!m_schema.namedViews.contains(it->name))
+            m_schema.namedViews += it->name;
+    }
+    for (auto it = m_routines.cbegin(); it != m_routines.cend(); ++it) {
+        if (names(all, text, it.key()))
+            require(m_routines, it.key(), QString());
+    }
+}
+
+void PreviewSchemaReader::refuse(ExitStatus status, const QString &sentence)
+{
+    if (!m_refusal)
+        m_refusal = PreviewRefusal{status, sentence};
+}
+
+void PreviewSchemaReader::refuseRead(const QString &what, const QString &missingRight)
+{
+    QString sentence =
+        QStringLiteral("This account must not read %1: it lacks %2").arg(what, missingRight);
+    if (m_site.failed())
+        sentence += QStringLiteral(" (%1)").arg(m_site.errorText());
+    refuse(ExitStatus::NoDatabase, sentence);
+}

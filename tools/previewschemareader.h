@@ -1,0 +1,68 @@
+#pragma once
+
+#include "tools/previewrefusal.h"
+#include "tools/previewschema.h"
+
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+
+#include <optional>
+
+class SqlSession;
+
+/// Finds out what of the site's database a synchronisation touches: the tables and routines of the
+/// plugin; the triggers of those tables; and whatever table or routine a routine or trigger names
+/// in its text, or a table refers to as a foreign key, and so on.
+class PreviewSchemaReader {
+public:
+    /// \a site: within the transaction that copies, and not yet prepared for copying.
+    explicit PreviewSchemaReader(SqlSession &site);
+
+    /// Has a refusal when the copy would not do what the site's database does.
+    std::optional<PreviewRefusal> read();
+
+    const PreviewSchema &schema() const { return m_schema; }
+
+private:
+    struct Entry {
+        QString name;
+        QString kind; ///< "BASE TABLE", "VIEW", "FUNCTION", ...
+        bool transactional = true;
+        qint64 rowEstimate = 0;
+    };
+
+    void readServer();
+    void readDatabase();
+    void readTriggerRight();
+    void listTables();
+    void listRoutines();
+    void listTriggers();
+
+    void requirePlugin();
+    void require(const QHash<QString, Entry> &known, const QString &name, const QString &what);
+    void takeNext();
+    void takeTable(const QString &key);
+    void takeRoutine(const QString &key);
+    void takeTriggers(const QString &table);
+    PreviewTable readTable(const Entry &entry);
+    void readColumns(PreviewTable &table);
+    std::optional<PreviewProgram> readProgram(const QString &kind, const QString &name);
+    void requireReferences(const PreviewTable &table);
+    void requireNamed(const QString &text);
+    void noteHiddenTriggers(const QString &table);
+
+    void refuse(ExitStatus status, const QString &sentence);
+    void refuseRead(const QString &what, const QString &missingRight);
+
+    SqlSession &m_site;
+    PreviewSchema m_schema;
+    QHash<QString, Entry> m_tables; ///< by name in lower case, as the account sees them
+    QHash<QString, Entry> m_routines;
+    QHash<QString, QStringList> m_triggers; ///< by table in lower case, in order of their firing
+    QStringList m_pendingTables; ///< names in lower case, still to be taken
+    QStringList m_pendingRoutines;
+    QSet<QString> m_required; ///< all that were ever pending
+    bool m_seesTriggers = false;
+    std::optional<PreviewRefusal> m_refusal;
+};

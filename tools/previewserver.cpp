@@ -1,0 +1,70 @@
+#include "tools/previewserver.h"
+
+#include "tools/previewschema.h"
+
+#include <QSqlError>
+
+namespace {
+
+constexpr char kAdministrator[] = "mirovahrctl.copy";
+constexpr char kAttendance[] = "mirovahrctl.attendance";
+
+/// One row of a table goes into one statement, however long it is.
+constexpr char kLargestPacket[] = "--max-allowed-packet=256M";
+
+/// A zone by its name is the program's: the server has no names of its own.
+QString timeZoneOption(const QString &siteZone)
+{
+    const bool isOffset =
+        siteZone.startsWith(QLatin1Char('+')) || siteZone.startsWith(QLatin1Char('-'));
+    return QStringLiteral("--default-time-zone=")
+        + (isOffset ? siteZone : QStringLiteral("SYSTEM"));
+}
+
+} // namespace
+
+PreviewServer::~PreviewServer()
+{
+    QSqlDatabase::removeDatabase(QLatin1String(kAttendance));
+    QSqlDatabase::removeDatabase(QLatin1String(kAdministrator));
+}
+
+bool PreviewServer::start(const PreviewSchema &schema)
+{
+    if (!m_folder.isValid()) {
+        return fail(
+            QStringLiteral("No folder for the copy could be made: %1").arg(m_folder.errorString()));
+    }
+    m_server.setBaseDir(m_folder.path());
+    m_server.setDatabaseName(schema.name);
+    m_server.setServerOptions(
+        QStringList{timeZoneOption(schema.timeZone), QLatin1String(kLargestPacket)}
+        + schema.serverOptions);
+    return (m_server.start() || fail(m_server.errorString()))
+        && open(QLatin1String(kAdministrator), PrivateMariaDb::Account::Administrator)
+        && open(QLatin1String(kAttendance), PrivateMariaDb::Account::Host);
+}
+
+QSqlDatabase PreviewServer::administrator() const
+{
+    return QSqlDatabase::database(QLatin1String(kAdministrator));
+}
+
+QSqlDatabase PreviewServer::attendance() const
+{
+    return QSqlDatabase::database(QLatin1String(kAttendance));
+}
+
+bool PreviewServer::open(const QString &name, PrivateMariaDb::Account account)
+{
+    QSqlDatabase database = m_server.addConnection(name, account);
+    return database.open() || fail(database.lastError().text());
+}
+
+bool PreviewServer::fail(const QString &error)
+{
+    m_error = error;
+    while (m_error.endsWith(QLatin1Char('.')))
+        m_error.chop(1);
+    return false;
+}

@@ -1,0 +1,139 @@
+#include "tools/previewvalues.h"
+
+#include "tools/previewcolumns.h"
+#include "tools/previewdiff.h"
+#include "tools/previewmoments.h"
+#include "tools/previewnames.h"
+
+#include <QDateTime>
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+using PreviewColumns::Reading;
+
+constexpr char kDay[] = "yyyy-MM-dd";
+constexpr char kMoment[] = "yyyy-MM-dd hh:mm:ss";
+
+struct Flag {
+    uint bit;
+    const char *name;
+};
+
+constexpr Flag kFlags[] = {
+    {1, "interval types"}, {2, "people"}, {64, "time zones"}, {256, "colour groups"}};
+
+Reading readingOf(const QString &table, const QString &column)
+{
+    const auto *const end = std::end(PreviewColumns::kColumns);
+    const auto *const found = std::find_if(
+        std::begin(PreviewColumns::kColumns), end, [&](const PreviewColumns::Column &entry) {
+            return table == QLatin1String(entry.table) && column == QLatin1String(entry.column);
+        });
+    return found == end ? Reading::Plain : found->reading;
+}
+
+QString yesOrNo(const QString &cell)
+{
+    return cell == QLatin1String("0") ? QStringLiteral("no") : QStringLiteral("yes");
+}
+
+QString dayAfter(const QString &seconds)
+{
+    if (seconds == QLatin1String("0"))
+        return QStringLiteral("the beginning");
+    const QDate day = QDateTime::fromSecsSinceEpoch(seconds.toLongLong()).date();
+    return day.addDays(1).toString(QLatin1String(kDay));
+}
+
+QString hundredths(const QString &cell)
+{
+    const double days = cell.toDouble() / 100;
+    return QStringLiteral("%1%2 %3").arg(
+        days > 0 ? QStringLiteral("+") : QString(), QString::number(days, 'g', 12),
+        qAbs(days) == 1 ? QStringLiteral("day") : QStringLiteral("days"));
+}
+
+QString flags(const QString &cell)
+{
+    uint bits = cell.toUInt();
+    QStringList names;
+    for (const Flag &flag : kFlags) {
+        if ((bits & flag.bit) != 0)
+            names += QString::fromLatin1(flag.name);
+        bits &= ~flag.bit;
+    }
+    if (bits != 0)
+        names += QString::number(bits);
+    return names.isEmpty() ? QStringLiteral("nothing") : names.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+PreviewValues::PreviewValues(PreviewNames &names, const PreviewMoments &moments)
+    : m_names(names)
+    , m_moments(moments)
+{
+}
+
+QString PreviewValues::before(const PreviewChange &change, int column) const
+{
+    return change.isInsert() ? QString() : read(change, column, change.before.at(column));
+}
+
+QString PreviewValues::after(const PreviewChange &change, int column) const
+{
+    if (change.isDelete())
+        return QString();
+    if (m_moments.isNow(change, column))
+        return QStringLiteral("now");
+    return read(change, column, change.after.at(column));
+}
+
+QString PreviewValues::time(const QString &seconds)
+{
+    const QDateTime moment = QDateTime::fromSecsSinceEpoch(seconds.toLongLong());
+    const bool isDay = moment.time() == QTime(0, 0) || moment.time() == QTime(23, 59, 59);
+    return moment.toString(QLatin1String(isDay ? kDay : kMoment));
+}
+
+QString PreviewValues::month(const QString &number)
+{
+    return number.size() == 6 ? number.left(4) + QLatin1Char('-') + number.mid(4) : number;
+}
+
+QString PreviewValues::read(const PreviewChange &change, int column, const QString &cell) const
+{
+    if (cell.isNull())
+        return QString();
+    const QString zero = QStringLiteral("0");
+    switch (readingOf(change.table->name, change.table->columns.at(column).name)) {
+    case Reading::Plain:
+        return cell;
+    case Reading::Day:
+        return cell == zero ? QString() : time(cell);
+    case Reading::DayAfter:
+        return dayAfter(cell);
+    case Reading::Branch:
+        return m_names.branch(cell);
+    case Reading::CalendarGroup:
+        return m_names.calendarGroup(cell);
+    case Reading::Editor:
+        return cell == zero ? QStringLiteral("HR") : m_names.administrator(cell);
+    case Reading::CalculationDue:
+        return cell == zero ? QStringLiteral("due") : time(cell);
+    case Reading::Hundredths:
+        return hundredths(cell);
+    case Reading::Flags:
+        return flags(cell);
+    case Reading::Calculated:
+        return cell.startsWith(QLatin1Char('-')) ? QStringLiteral("to be calculated")
+                                                 : QStringLiteral("calculated");
+    case Reading::YesNo:
+        break;
+    }
+    return yesOrNo(cell);
+}

@@ -1,0 +1,319 @@
+#include "tools/previewwords.h"
+
+#include "tools/previewcolumns.h"
+#include "tools/previewdiff.h"
+#include "tools/previewnames.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct KindWords {
+    PreviewKind kind;
+    const char *id;
+    const char *heading;
+};
+
+constexpr KindWords kKinds[] = {
+    {PreviewKind::NewPeople, "new-people", "New people"},
+    {PreviewKind::ChangedPeople, "changed-people", "Changed people"},
+    {PreviewKind::Recalculation, "recalculation", "Attendance to be calculated again"},
+    {PreviewKind::Branches, "branches", "Members of branches"},
+    {PreviewKind::Calendars, "calendars", "Calendar groups"},
+    {PreviewKind::Balances, "balances", "Vacation balances"},
+    {PreviewKind::Supervisors, "supervisors", "Supervisors and administrators"},
+    {PreviewKind::Payroll, "payroll", "Payroll export"},
+    {PreviewKind::Terminals, "terminals", "Terminals"},
+    {PreviewKind::Settings, "settings", "Settings"},
+    {PreviewKind::Other, "other", "Other tables"},
+};
+
+const KindWords &wordsOf(PreviewKind kind)
+{
+    return kKinds[static_cast<int>(kind)];
+}
+
+/// What people call a column of `people`; empty for one that is not the plugin's.
+QString labelOf(const QString &column)
+{
+    for (const PreviewColumns::Column &entry : PreviewColumns::kColumns) {
+        if (qstrcmp(entry.table, "people") == 0 && column == QLatin1String(entry.column))
+            return QString::fromLatin1(entry.label);
+    }
+    return QString();
+}
+
+bool isOfCalculation(const QString &column)
+{
+    return column == QLatin1String("lastCalc") || column == QLatin1String("calc");
+}
+
+bool isEmptyCell(const QString &cell)
+{
+    return cell.isEmpty() || cell == QLatin1String("0");
+}
+
+/// Whether an update changes nothing but this column.
+bool changesOnly(const PreviewChange &change, int column)
+{
+    for (int i = 0; i < change.table->columns.size(); ++i) {
+        if (i != column && change.changes(i))
+            return false;
+    }
+    return true;
+}
+
+QStringList entries(const QString &selection)
+{
+    return selection.split(QLatin1Char(','), Qt::SkipEmptyParts);
+}
+
+QStringList missingIn(const QStringList &others, const QStringList &list)
+{
+    QStringList missing;
+    for (const QString &entry : list) {
+        if (!others.contains(entry))
+            missing += entry;
+    }
+    return missing;
+}
+
+} // namespace
+
+PreviewWords::PreviewWords(PreviewNames &names, const PreviewMoments &moments)
+    : m_names(names)
+    , m_values(names, moments)
+{
+}
+
+const QVector<PreviewKind> &PreviewWords::kinds()
+{
+    static const QVector<PreviewKind> all = [] {
+        QVector<PreviewKind> kinds;
+        for (const KindWords &words : kKinds)
+            kinds += words.kind;
+        return kinds;
+    }();
+    return all;
+}
+
+QString PreviewWords::idOf(PreviewKind kind)
+{
+    return QString::fromLatin1(wordsOf(kind).id);
+}
+
+QString PreviewWords::headingOf(PreviewKind kind)
+{
+    return QString::fromLatin1(wordsOf(kind).heading);
+}
+
+PreviewWords::Lines PreviewWords::tell(const PreviewChange &change) const
+{
+    struct Teller {
+        const char *table;
+        Lines (PreviewWords::*tell)(const PreviewChange &) const;
+    };
+    static constexpr Teller kTellers[] = {
+        {"people", &PreviewWords::tellPerson},
+        {"atten", &PreviewWords::tellAttendance},
+        {"brape", &PreviewWords::tellBranchMember},
+        {"groups_plan", &PreviewWords::tellPlan},
+        {"groups_month", &PreviewWords::tellMonth},
+        {"funds_move", &PreviewWords::tellMove},
+        {"admins_people", &PreviewWords::tellAdministrator},
+        {"people_pam", &PreviewWords::tellPayrollSettings},
+        {"term", &PreviewWords::tellTerminal},
+        {"people_term", &PreviewWords::tellTerminalPerson},
+        {"term_sync", &PreviewWords::tellQueue},
+        {"vars", &PreviewWords::tellSetting},
+    };
+    const auto *const end = std::end(kTellers);
+    const auto *const found =
+        std::find_if(std::begin(kTellers), end, [&change](const Teller &teller) {
+            return change.table->name == QLatin1String(teller.table);
+        });
+    return found == end ? tellPlainly(change) : (this->*found->tell)(change);
+}
+
+PreviewWords::Lines PreviewWords::tellPerson(const PreviewChange &change) const
+{
+    if (change.isDelete())
+        return tellPlainly(change);
+    const QString who = m_names.personOfUid(change.cell("uid"));
+    Lines lines;
+    if (change.isInsert())
+        lines.append({PreviewKind::NewPeople, who, QStringLiteral("is created"), {}, {}});
+    for (int i = 0; i < change.table->columns.size(); ++i) {
+        const QString &name = change.table->columns.at(i).name;
+        const QString label = labelOf(name);
+        if (!change.changes(i) || (change.isInsert() && isEmptyCell(change.after.at(i))))
+            continue;
+        const PreviewKind kind = change.isInsert() ? PreviewKind::NewPeople
+            : isOfCalculation(name)                ? PreviewKind::Recalculation
+                                                   : PreviewKind::ChangedPeople;
+        lines.append({kind, who, label.isEmpty() ? name : label, m_values.before(change, i),
+                      m_values.after(change, i)});
+    }
+    return lines;
+}
+
+PreviewWords::Lines PreviewWords::tellAttendance(const PreviewChange &change) const
+{
+    return compare(PreviewKind::Recalculation, person(change),
+                   QStringLiteral("attendance of ") + PreviewValues::time(change.cell("date")),
+                   change, "ok");
+}
+
+PreviewWords::Lines PreviewWords::tellBranchMember(const PreviewChange &change) const
+{
+    const QString branch = m_names.branch(change.cell("bid"));
+    const QString what = change.isInsert() ? QStringLiteral("joins the branch %1, since")
+        : change.isDelete()                ? QStringLiteral("leaves the branch %1, since")
+                                           : QStringLiteral("is in the branch %1 since");
+    return compare(PreviewKind::Branches, person(change), what.arg(branch), change, "since");
+}
+
+PreviewWords::Lines PreviewWords::tellPlan(const PreviewChange &change) const
+{
+    return compare(
+        PreviewKind::Calendars, person(change),
+        QStringLiteral("calendar group from %1 on").arg(PreviewValues::month(change.cell("since"))),
+        change, "gid");
+}
+
+PreviewWords::Lines PreviewWords::tellMonth(const PreviewChange &change) const
+{
+    return compare(
+        PreviewKind::Calendars, person(change),
+        QStringLiteral("calendar group in %1").arg(PreviewValues::month(change.cell("month"))),
+        change, "gid");
+}
+
+PreviewWords::Lines PreviewWords::tellMove(const PreviewChange &change) const
+{
+    const QString fund = m_names.fund(change.cell("fid"));
+    const QString what = change.cell("type") == QLatin1String("3")
+        ? QStringLiteral("%1 balance corrected on %2 by")
+        : QStringLiteral("%1 balance moved on %2 by");
+    return compare(PreviewKind::Balances, person(change),
+                   what.arg(fund, PreviewValues::time(change.cell("day"))), change, "value");
+}
+
+PreviewWords::Lines PreviewWords::tellAdministrator(const PreviewChange &change) const
+{
+    const QString administrator = m_names.administrator(change.cell("aid"));
+    if (change.isInsert() && change.cell("request") == QLatin1String("0")) {
+        return {{PreviewKind::Supervisors,
+                 person(change),
+                 QStringLiteral("is shown to %1").arg(administrator),
+                 {},
+                 {}}};
+    }
+    return compare(PreviewKind::Supervisors, person(change),
+                   QStringLiteral("requests go to %1").arg(administrator), change, "request");
+}
+
+PreviewWords::Lines PreviewWords::tellPayrollSettings(const PreviewChange &change) const
+{
+    return compare(PreviewKind::Payroll, person(change),
+                   QStringLiteral("settings of the payroll export"), change, "id");
+}
+
+PreviewWords::Lines PreviewWords::tellTerminal(const PreviewChange &change) const
+{
+    return compare(PreviewKind::Terminals, m_names.terminal(change.cell("tid")),
+                   QStringLiteral("has to fetch"), change, "syn");
+}
+
+PreviewWords::Lines PreviewWords::tellTerminalPerson(const PreviewChange &change) const
+{
+    const QString terminal = m_names.terminal(change.cell("tid"));
+    const QString what =
+        change.isDelete() ? QStringLiteral("is forgotten by %1") : QStringLiteral("is known to %1");
+    return {{PreviewKind::Terminals, person(change), what.arg(terminal), {}, {}}};
+}
+
+PreviewWords::Lines PreviewWords::tellQueue(const PreviewChange &change) const
+{
+    const QString id = change.cell("ref_id");
+    const bool isPerson = change.cell("ref_col") == QLatin1String("uid");
+    const QString what = isPerson
+        ? m_names.personOfUid(id)
+        : QStringLiteral("%1 %2 of %3").arg(change.cell("ref_col"), id, change.cell("ref"));
+    const QString verb = change.isDelete() ? QStringLiteral("no longer gets the change: %1")
+                                           : QStringLiteral("gets the change: %1");
+    return {{PreviewKind::Terminals, m_names.terminal(change.cell("tid")), verb.arg(what), {}, {}}};
+}
+
+PreviewWords::Lines PreviewWords::tellSetting(const PreviewChange &change) const
+{
+    static const QRegularExpression selection(QStringLiteral("^exportPam\\..*\\.selPeople$"));
+    const QString name = change.cell("name");
+    if (selection.match(name).hasMatch())
+        return tellSelection(change);
+    return compare(PreviewKind::Settings, name, QStringLiteral("value"), change, "value");
+}
+
+PreviewWords::Lines PreviewWords::tellSelection(const PreviewChange &change) const
+{
+    const int column = change.table->indexOf(QStringLiteral("value"));
+    const QStringList before = entries(change.before.value(column));
+    const QStringList after = entries(change.after.value(column));
+    const QString name = change.cell("name").section(QLatin1Char('.'), 0, 1);
+    Lines lines;
+    const QStringList added = missingIn(before, after);
+    for (const QString &pid : added) {
+        lines.append({PreviewKind::Payroll,
+                      m_names.personOfPid(pid),
+                      QStringLiteral("is selected for %1").arg(name),
+                      {},
+                      {}});
+    }
+    const QStringList gone = missingIn(after, before);
+    for (const QString &pid : gone) {
+        lines.append({PreviewKind::Payroll,
+                      m_names.personOfPid(pid),
+                      QStringLiteral("is no longer selected for %1").arg(name),
+                      {},
+                      {}});
+    }
+    return lines.isEmpty() ? tellPlainly(change) : lines;
+}
+
+PreviewWords::Lines PreviewWords::tellPlainly(const PreviewChange &change) const
+{
+    const QString verb = change.isInsert() ? QStringLiteral("new row: %1")
+        : change.isDelete()                ? QStringLiteral("removed row: %1")
+                                           : QStringLiteral("%1");
+    QStringList key;
+    for (const QString &column : change.table->key)
+        key += column + QLatin1Char(' ') + change.row().at(change.table->indexOf(column));
+    const QString who =
+        (change.table->name + QLatin1Char(' ') + key.join(QStringLiteral(", "))).trimmed();
+    Lines lines;
+    for (int i = 0; i < change.table->columns.size(); ++i) {
+        if (change.changes(i)) {
+            lines.append({PreviewKind::Other, who, verb.arg(change.table->columns.at(i).name),
+                          change.before.value(i), change.after.value(i)});
+        }
+    }
+    return lines;
+}
+
+PreviewWords::Lines PreviewWords::compare(PreviewKind kind, const QString &who, const QString &what,
+                                          const PreviewChange &change, const char *column) const
+{
+    const int index = change.table->indexOf(QString::fromLatin1(column));
+    const bool isUpdate = !change.isInsert() && !change.isDelete();
+    if (index < 0 || (isUpdate && !changesOnly(change, index)))
+        return tellPlainly(change);
+    return {{kind, who, what, m_values.before(change, index), m_values.after(change, index)}};
+}
+
+QString PreviewWords::person(const PreviewChange &change) const
+{
+    return m_names.personOfUid(change.cell("uid"));
+}

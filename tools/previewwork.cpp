@@ -1,0 +1,145 @@
+#include "tools/previewwork.h"
+
+#include "cli/database.h"
+#include "tools/databaseaccess.h"
+#include "tools/midnights.h"
+#include "tools/previewcopy.h"
+#include "tools/previewrun.h"
+#include "tools/previewschemareader.h"
+#include "tools/progress.h"
+#include "tools/sqlsession.h"
+
+#include <QIODevice>
+
+namespace {
+
+constexpr char kIsolation[] = "SET SESSION TRANSACTION ISOLATION LEVEL REPEATABLE READ";
+constexpr char kSnapshot[] = "START TRANSACTION WITH CONSISTENT SNAPSHOT";
+constexpr char kRelease[] = "COMMIT";
+
+QString levelOf(QtMsgType type)
+{
+    switch (type) {
+    case QtDebugMsg:
+        return QStringLiteral("debug");
+    case QtInfoMsg:
+        return QStringLiteral("info");
+    case QtWarningMsg:
+        return QStringLiteral("warning");
+    case QtCriticalMsg:
+    case QtFatalMsg:
+        break;
+    }
+    return QStringLiteral("critical");
+}
+
+PreviewRefusal refusal(const QString &sentence)
+{
+    return {ExitStatus::NoDatabase, sentence};
+}
+
+} // namespace
+
+PreviewWork::PreviewWork(Console &console)
+    : m_console(console)
+{
+}
+
+PreviewWork::~PreviewWork()
+{
+    m_names.reset();
+}
+
+std::optional<PreviewRefusal> PreviewWork::copy(const DatabaseOptions &options)
+{
+    QString error;
+    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
+    if (!database)
+        return refusal(error);
+    SqlSession site(database->handle());
+    site.run(QLatin1String(kIsolation));
+    site.run(QLatin1String(kSnapshot));
+    auto refused = copyFrom(site);
+    if (!refused && !site.run(QLatin1String(kRelease)))
+        refused = refusal(site.errorText());
+    return refused;
+}
+
+std::optional<PreviewRefusal> PreviewWork::copyFrom(SqlSession &site)
+{
+    PreviewSchemaReader reader(site);
+    if (auto refused = reader.read())
+        return refused;
+    m_schema = reader.schema();
+    if (auto refused = startServer())
+        return refused;
+    Progress progress(m_console, QStringLiteral("Copying the database"));
+    PreviewCopy copy(m_schema, m_server.administrator());
+    if (copy.copyTables(site, [&](qint64 done, qint64 total) { progress.update(done, total); })
+        && copy.makePrograms())
+        return std::nullopt;
+    return refusal(copy.errorText());
+}
+
+std::optional<PreviewRefusal> PreviewWork::startServer()
+{
+    if (!m_server.start(m_schema))
+        return refusal(m_server.errorText());
+    return compareServers();
+}
+
+std::optional<PreviewRefusal> PreviewWork::compareServers()
+{
+    SqlSession copy(m_server.administrator());
+    m_copyVersion = copy.value(QStringLiteral("SELECT VERSION()"));
+    const auto days = Midnights::daysToCompare(QDate::currentDate());
+    if (copy.row(Midnights::query(days)) == m_schema.midnights)
+        return std::nullopt;
+    return PreviewRefusal{
+        ExitStatus::Usage,
+        QStringLiteral("The site's server (time zone %1) and this program disagree about when days "
+                       "begin. Run it with the TZ of the attendance server")
+            .arg(m_schema.timeZone)};
+}
+
+std::optional<PreviewRefusal> PreviewWork::synchronise(const Configuration &configuration,
+                                                       const QString &exportFile, QIODevice *log)
+{
+    PreviewRun run(configuration, exportFile);
+    {
+        Progress progress(m_console, QStringLiteral("Synchronising the copy"));
+        if (!run.run(
+                m_server.attendance(),
+                [&](QtMsgType type, const QString &text) { take(type, text, log); },
+                [&](qint64 done, qint64 total) { progress.update(done, total); }))
+            return refusal(QStringLiteral("The copy cannot be synchronised: ") + run.errorText());
+    }
+    m_moments = std::make_unique<PreviewMoments>(run.begin(), run.end());
+    m_names = std::make_unique<PreviewNames>(m_server.attendance());
+    return compare();
+}
+
+std::optional<PreviewRefusal> PreviewWork::compare()
+{
+    PreviewDiff diff(m_schema, m_server.administrator());
+    if (!diff.read()) {
+        return refusal(QStringLiteral("What has changed in the copy cannot be read: ")
+                       + diff.errorText());
+    }
+    m_changes = diff.changes();
+    return std::nullopt;
+}
+
+void PreviewWork::take(QtMsgType type, const QString &text, QIODevice *log)
+{
+    if (log)
+        log->write(QStringLiteral("%1\t%2\n").arg(levelOf(type), text).toUtf8());
+    if (type != QtWarningMsg && type != QtCriticalMsg)
+        return;
+    Finding finding;
+    finding.severity = type == QtWarningMsg ? Severity::Warning : Severity::Error;
+    finding.rule =
+        type == QtWarningMsg ? QStringLiteral("plugin-warning") : QStringLiteral("plugin-error");
+    finding.message = text;
+    m_warnings += finding;
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "plugin/configuration.h"
+#include "tools/finding.h"
+#include "tools/previewdiff.h"
+#include "tools/previewmoments.h"
+#include "tools/previewnames.h"
+#include "tools/previewrefusal.h"
+#include "tools/previewschema.h"
+#include "tools/previewserver.h"
+
+#include <QString>
+#include <QVector>
+
+#include <memory>
+#include <optional>
+
+class Console;
+class QIODevice;
+class SqlSession;
+struct DatabaseOptions;
+
+/// The work of a preview: copies the site's database, lets the plugin synchronise the copy, and
+/// finds out what has changed. The copy lives as long as this object.
+class PreviewWork {
+public:
+    explicit PreviewWork(Console &console);
+    ~PreviewWork();
+    PreviewWork(const PreviewWork &) = delete;
+    PreviewWork &operator=(const PreviewWork &) = delete;
+
+    /// Copies the database; the site's connection is closed again then.
+    std::optional<PreviewRefusal> copy(const DatabaseOptions &site);
+    /// Synchronises the copy. The plugin's whole log goes into \a log, one line a message.
+    std::optional<PreviewRefusal> synchronise(const Configuration &configuration,
+                                              const QString &exportFile, QIODevice *log);
+
+    const PreviewSchema &schema() const { return m_schema; }
+    const QString &copyVersion() const { return m_copyVersion; }
+    const QVector<PreviewChange> &changes() const { return m_changes; }
+    /// What the plugin warned of.
+    const QVector<Finding> &warnings() const { return m_warnings; }
+    const PreviewMoments &moments() const { return *m_moments; }
+    PreviewNames &names() { return *m_names; }
+
+private:
+    std::optional<PreviewRefusal> copyFrom(SqlSession &site);
+    std::optional<PreviewRefusal> startServer();
+    std::optional<PreviewRefusal> compareServers();
+    std::optional<PreviewRefusal> compare();
+    void take(QtMsgType type, const QString &text, QIODevice *log);
+
+    Console &m_console;
+    PreviewServer m_server;
+    PreviewSchema m_schema;
+    QString m_copyVersion;
+    QVector<PreviewChange> m_changes;
+    QVector<Finding> m_warnings;
+    std::unique_ptr<PreviewMoments> m_moments;
+    std::unique_ptr<PreviewNames> m_names;
+};
