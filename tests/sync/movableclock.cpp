@@ -11,8 +11,9 @@
 namespace {
 
 // libfaketime reads the time from a file at every look at the clock. The file is one in memory that
-// the programs inherit as an open one, so that none stays behind.
+// the program inherits as an open one from itself, so that none stays behind.
 constexpr char kFileVariable[] = "FAKETIME_TIMESTAMP_FILE";
+constexpr char kLibraries[] = "LD_PRELOAD";
 constexpr char kFolderOfOpenFiles[] = "/proc/self/fd/";
 constexpr char kMachinesTime[] = "+0000000000\n";
 
@@ -37,12 +38,13 @@ void MovableClock::install(char **arguments)
         if (QDateTime::currentSecsSinceEpoch() != 1000000000)
             qFatal("The clock does not move: install the package libfaketime");
         run();
+        qunsetenv(kLibraries);
         return;
     }
     const int file = ::memfd_create("clock", 0);
     qputenv(kFileVariable, kFolderOfOpenFiles + QByteArray::number(file));
     run();
-    qputenv("LD_PRELOAD", "/usr/$LIB/faketime/libfaketimeMT.so.1");
+    qputenv(kLibraries, "/usr/$LIB/faketime/libfaketimeMT.so.1");
     qputenv("FAKETIME_FMT", "%s");
     qputenv("FAKETIME_NO_CACHE", "1");
     qputenv("FAKETIME_DONT_FAKE_MONOTONIC", "1");

@@ -2,10 +2,11 @@
 
 #include <QByteArray>
 
-/// The clock of this program and of the programs that it starts, the database's server among them.
-/// It runs as the machine's does until it is put somewhere, and then stands still there.
+/// The clock of this program. It runs as the machine's does until it is put somewhere, and then
+/// stands still there.
 ///
-/// Only the time of day is moved: timers and time limits run on.
+/// Only the time of day is moved: timers and time limits run on. The programs that this one starts
+/// have the machine's clock. For a server it would be too much: its threads wait for moments.
 class MovableClock {
 public:
     /// Starts the program anew with a clock that can be moved. To be called first in main().
