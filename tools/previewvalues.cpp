@@ -102,6 +102,8 @@ QString PreviewValues::time(const QString &seconds)
 
 QString PreviewValues::month(const QString &number)
 {
+    if (number == QLatin1String("0"))
+        return QStringLiteral("the beginning");
     return number.size() == 6 ? number.left(4) + QLatin1Char('-') + number.mid(4) : number;
 }
 
