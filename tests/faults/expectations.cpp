@@ -30,6 +30,7 @@ Reaction reaction(const char *command, const char *own, const QStringList &furth
 
 QVector<Reaction> makeReactions()
 {
+    const QString notOpen = "W MHRWorker::checkSync() - database not open!";
     const QString noPam = "W MHRWorker::dbAddPerson(<number>.1) - addPersonIntoPam() FAILED!";
     const QString noBinding = "W MHRWorker::doSyncRecord(<number>.1 ";
     const QString noPlan = "W MHRWorker: can't add record '";
@@ -40,18 +41,19 @@ QVector<Reaction> makeReactions()
     const QString noFile = "W MHRWorker::loadAndParseData() - file '";
     return {
         // The tick.
-        reaction("CONNECT", "C MHRWorker::dbCheckOpen() - SQL ERROR: ",
-                 {"W MHRWorker::checkSync() - database not open!"}),
+        reaction("CONNECT", "C MHRWorker::dbCheckOpen() - SQL ERROR: ", {notOpen}),
+        reaction("USE", "C MHRWorker::dbCheckOpen() - SQL ERROR: ", {notOpen}),
         reaction("SET NAMES *", ""),
         reaction("PREPARE SELECT ? + ?", ""),
-        reaction("USE", ""),
         reaction("CLOSE", ""),
         reaction("QUIT", ""),
-        reaction("SELECT value FROM vars WHERE name='*", "C TepDbSettings::variableGet - SQL ERROR: "),
-        // A flag that could not be taken back forces the next tick, too, which finds no file.
+        // A flag that could not be read or taken back forces the next tick, which finds no file.
+        reaction("SELECT value FROM vars WHERE name='*",
+                 "C TepDbSettings::variableGet - SQL ERROR: ", {noFile}),
         reaction("PREPARE INSERT INTO vars *", "C variableSet ERROR: \"", {noPam, noFile}),
         reaction("RESET", "C variableSet ERROR: \"", {noPam, noFile, noHandle}),
-        reaction("EXECUTE INSERT INTO vars *", "C variableSet ERROR: \"", {noPam, noFile, noHandle}),
+        reaction("EXECUTE INSERT INTO vars *", "C variableSet ERROR: \"",
+                 {noPam, noFile, noHandle}),
 
         // The cycle.
         reaction("SELECT p.pid, *", "C MHRWorker::dbLoadPeople() - SQL ERROR [",
@@ -64,8 +66,7 @@ QVector<Reaction> makeReactions()
         reaction("SELECT COUNT(*) FROM funds_move *",
                  "C MHRWorker::dbCheckFundMove() - SQL ERROR ["),
         reaction("SELECT p.uid, calc, *", "C MHRWorker::dbCheckAttendance() - SQL ERROR ["),
-        reaction("SELECT COUNT(*) FROM atten *",
-                 "C MHRWorker::dbCheckAttendance() - SQL ERROR ["),
+        reaction("SELECT COUNT(*) FROM atten *", "C MHRWorker::dbCheckAttendance() - SQL ERROR ["),
         reaction("SELECT SUM(fm.value) * WHERE fm.day < *",
                  "C MHRWorker::loadFundStatusAndMove3() - SQL 1 ERROR [",
                  {"W MHRWorker::doSyncRecord() - loadFundStatusAndMove3(): not loaded correctly!"}),
@@ -76,8 +77,8 @@ QVector<Reaction> makeReactions()
                  {"W MHRWorker::doSyncRecord() - funds_move type (type=3, valeu="}),
 
         // People, payroll export and terminals.
-        reaction("INSERT INTO people (*", "C MHRWorker::dbAddPerson(<number>.1) - SQL ERROR: ",
-                 {noPlan}),
+        reaction("INSERT INTO people (*",
+                 "C MHRWorker::dbAddPerson(<number>.1) - SQL ERROR: ", {noPlan}),
         reaction("SELECT name, value FROM vars *",
                  "C TepDbSettings::variableGetMultiple - SQL ERROR: ", {noPam}),
         reaction("SELECT uid FROM people WHERE pid=<pid>",
@@ -87,8 +88,7 @@ QVector<Reaction> makeReactions()
                  "C MHRWorker::dbAddPersonIntoPam(pid: <pid>, pamSettingsID: 1) - SQL ERROR: ",
                  {noBinding}),
         reaction("UPDATE people SET pamId=*", "C MHRWorker::dbUpdatePerson("),
-        reaction("SELECT uid FROM people WHERE pid=* LIMIT 1",
-                 "W MHRWorker::addTermSyncPerson("),
+        reaction("SELECT uid FROM people WHERE pid=* LIMIT 1", "W MHRWorker::addTermSyncPerson("),
         reaction("INSERT INTO `term_sync` * 'people' ref,*",
                  "C MHRWorker::addTermSyncPerson() ERROR: "),
         reaction("CALL updateTermsSync*",
@@ -97,12 +97,13 @@ QVector<Reaction> makeReactions()
         // Supervisor.
         reaction("SELECT aid FROM admins *", "C MHRWorker::dbGetAidByOsCis() - SQL ERROR [",
                  {"W MHRWorker - admin s osobnym cislom "}),
-        reaction("SELECT uid FROM people WHERE pid = *", "C MHRWorker::dbGetUidByPid() - SQL ERROR [",
+        reaction("SELECT uid FROM people WHERE pid = *",
+                 "C MHRWorker::dbGetUidByPid() - SQL ERROR [",
                  {"W MHRWorker - zamestnanec s osobnym cislom ", noPlan,
                   "W MHRWorker: User (employee) ID NOT found for pid "}),
         reaction("BEGIN WORK", ""),
-        reaction("UPDATE admins_people *",
-                 "C MHRWorker::dbResetAdminPeopleRequest() - SQL ERROR [", {noRequest}),
+        reaction("UPDATE admins_people *", "C MHRWorker::dbResetAdminPeopleRequest() - SQL ERROR [",
+                 {noRequest}),
         reaction("INSERT INTO admins_people (aid, uid, request) *",
                  "C MHRWorker::dbSetAdminPeopleRequest() - SQL ERROR [", {noRequest}),
         reaction("COMMIT", ""),

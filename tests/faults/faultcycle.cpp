@@ -10,9 +10,9 @@ using namespace SampleExport;
 namespace {
 
 /// The tables that a synchronisation writes.
-const QStringList kWritten = {"people",       "people_pam",   "atten",      "brape",
-                              "groups_plan",  "groups_month", "funds_move", "admins_people",
-                              "people_term",  "term",         "term_sync",  "vars"};
+const QStringList kWritten = {"people",      "people_pam",   "atten",      "brape",
+                              "groups_plan", "groups_month", "funds_move", "admins_people",
+                              "people_term", "term",         "term_sync",  "vars"};
 
 QDate today()
 {

@@ -39,7 +39,7 @@ void offerPlainProtocol(QByteArray &greeting)
 /// The texts among the bytes of a packet.
 QString texts(const QByteArray &payload)
 {
-    QString text = QString::fromLatin1(payload);
+    QString text = QString::fromLatin1(payload.constData(), payload.size());
     return text.replace(QRegularExpression("[^ -~]"), " ").simplified();
 }
 

@@ -40,8 +40,8 @@ struct Disturbance {
 class MySqlProxy {
 public:
     struct Command {
-        /// A statement, or "CONNECT", "USE", "QUIT", "PREPARE statement", "RESET", "CLOSE", "EXECUTE
-        /// statement << values" with the texts among the values.
+        /// A statement, or "CONNECT", "USE", "QUIT", "PREPARE statement", "RESET", "CLOSE",
+        /// "EXECUTE statement << values" with the texts among the values.
         QString text;
         bool hasAnswer = true;
         bool carriedOut = false; ///< by the server, without an error

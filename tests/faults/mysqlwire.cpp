@@ -181,7 +181,8 @@ bool MySqlWire::write(const MySqlPacket &packet)
     bytes += char(packet.sequence);
     bytes += packet.payload;
     // The packets of the tests are far smaller than what a socket takes at once.
-    if (isConnected() && ::send(m_descriptor, bytes.constData(), size_t(bytes.size()), MSG_NOSIGNAL)
+    if (isConnected()
+        && ::send(m_descriptor, bytes.constData(), size_t(bytes.size()), MSG_NOSIGNAL)
             == bytes.size())
         return true;
     close();

@@ -39,8 +39,12 @@ void print(QtMsgType type, const QMessageLogContext &, const QString &text)
 QStringList ServingProcess::arguments(const QSqlDatabase &database, const QString &passwordFile,
                                       const QString &exportPath)
 {
-    return {kMark,        database.connectOptions(), database.databaseName(), database.userName(),
-            passwordFile, exportPath};
+    return {kMark,
+            database.connectOptions(),
+            database.databaseName(),
+            database.userName(),
+            passwordFile,
+            exportPath};
 }
 
 bool ServingProcess::isMeant(int argc, char **argv)
