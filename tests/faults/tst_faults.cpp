@@ -167,7 +167,7 @@ private:
     bool repeat(const LogCapture &log);
     QStringList keyOfHeldInsert() const;
     void lockAgainstHeldCommand();
-    void meetInDeadlock(const QStringList &key, std::promise<void> &kept) const;
+    void meetInDeadlock(const QStringList &key, std::promise<void> &kept);
 
     void checkLogOfRefusal(const Run &run, const QString &errorText) const;
     void checkLogOfLoss(const Run &run) const;
@@ -506,7 +506,7 @@ void TestFaults::aDeadlockIsSurvived()
 
 /// In a transaction that has changed many rows, so that the server rather ends another one: keeps
 /// others from inserting the row of this key, tells so, and inserts another one of the same person.
-void TestFaults::meetInDeadlock(const QStringList &key, std::promise<void> &kept) const
+void TestFaults::meetInDeadlock(const QStringList &key, std::promise<void> &kept)
 {
     const QString name = "other";
     {
