@@ -11,6 +11,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <optional>
+
 class BranchesRepository;
 class GroupsPlanRepo;
 class QIODevice;
@@ -158,10 +160,17 @@ public:
     /// `esChanged`: the register state changed, attendance from its first day is recalculated.
     bool dbUpdatePerson(const MirovaRonRecord &rec, bool esChanged);
 
+    /// The database's view of a person (pid) as dbLoadPeople() found it; nothing when there is no
+    /// such active person.
+    std::optional<MirovaRonRecord> knownPerson(quint32 pid) const;
+
     // ---- Branch and calendar ------------------------------------------------------------------
 
     /// Reloads the map of branch numbers to bids; true when it holds any.
     bool dbLoadBranches();
+
+    /// The bid of a branch number as dbLoadBranches() found it; 0 when there is none.
+    quint32 bidOfBranch(quint32 number) const;
 
     /// Puts the person into the branch of the cost centre and the group of the calendar. False when
     /// the branch is unknown, or nothing needed doing and no group applies.
@@ -181,9 +190,15 @@ public:
 
     // ---- Vacation fund ------------------------------------------------------------------------
 
+    /// The interval type (`funds.iid`) of the vacation fund.
+    static constexpr unsigned short kVacationIid = 3;
+
     /// Looks up the vacation fund (`funds.fid` of the interval type `iid`); keeps the known one
     /// when there is none.
     void dbCheckDovolenkaFond(unsigned short iid);
+
+    /// The vacation fund (`funds.fid`) that was last found; 0: none, balances are left alone.
+    quint16 vacationFundId() const;
 
     /// True when no correction of today exists for the person; false also when the query fails.
     bool dbCheckFundMove(unsigned int pid);

@@ -46,12 +46,17 @@ bool MHRWorker::dbLoadBranches()
     return !m_branchIds.isEmpty();
 }
 
+quint32 MHRWorker::bidOfBranch(quint32 number) const
+{
+    return m_branchIds.value(number);
+}
+
 bool MHRWorker::doSyncBranchAndCalendar(const MirovaRonRecord &rec)
 {
     if (m_debugLevel >= 3)
         qDebug("MHRWorker::doSyncBranchAndCalendar(%s)", qUtf8Printable(rec.getPamId()));
 
-    const quint32 bid = m_branchIds.value(rec.stredisko);
+    const quint32 bid = bidOfBranch(rec.stredisko);
     if (bid == 0) {
         qWarning("MHRWorker: Branch '%u' NOT FOUND for employee: '%s'", rec.stredisko,
                  qUtf8Printable(rec.getString(false)));

@@ -4,40 +4,11 @@
 
 #include "db/branchesrepository.h"
 #include "worker/recordcodes.h"
+#include "worker/recordcomparison.h"
 
 #include <QDebug>
 
-#include <tuple>
 #include <utility>
-
-namespace {
-
-/// The interval type (`funds.iid`) of the vacation fund.
-constexpr unsigned short kVacationIid = 3;
-
-/// True when the database's view of a person can be compared: both numbers and any name are there.
-bool isComplete(const MirovaRonRecord &known)
-{
-    return known.osobniCislo != 0 && known.poradoveCisloPP != 0
-        && !(known.jmeno.isEmpty() && known.prijmeni.isEmpty());
-}
-
-bool movesElsewhere(const MirovaRonRecord &rec, const MirovaRonRecord &known)
-{
-    return rec.kalendar != known.kalendar || rec.kalendarPlatnostOd != known.kalendarPlatnostOd
-        || rec.stredisko != known.stredisko;
-}
-
-/// The fields that a row of `people` holds. The description of the cost centre, the start of the
-/// calendar, the codes and the balance are not among them.
-auto rowFields(const MirovaRonRecord &r)
-{
-    return std::tie(r.osobniCislo, r.poradoveCisloPP, r.titul, r.jmeno, r.prijmeni, r.titulZa,
-                    r.telefon, r.datumNastupu, r.datumVystupu, r.kalendar, r.stredisko, r.rsFrom,
-                    r.rsTo, r.rsText);
-}
-
-} // namespace
 
 /// What is found out about one record on its way through the steps.
 struct MHRWorker::Reconciliation {
@@ -162,10 +133,11 @@ bool MHRWorker::createPerson(const MirovaRonRecord &rec)
 bool MHRWorker::updateKnownPerson(const MirovaRonRecord &rec, Reconciliation &work)
 {
     MirovaRonRecord &known = m_people[work.pid];
-    work.lastCalcNeeded = isComplete(known) && movesElsewhere(rec, known);
+    work.lastCalcNeeded =
+        RecordComparison::isComplete(known) && RecordComparison::movesElsewhere(rec, known);
 
     const MirovaRonRecord updated = updateRs(rec, known);
-    const bool sameRow = rowFields(updated) == rowFields(known);
+    const bool sameRow = RecordComparison::rowFields(updated) == RecordComparison::rowFields(known);
     const bool written = !(sameRow && !work.esChanged && !work.tppChanged)
         && dbUpdatePerson(updated, work.esChanged);
 

@@ -70,6 +70,11 @@ void MHRWorker::dbCheckDovolenkaFond(unsigned short iid)
         qInfo("MHRWorker::checkDovolenkaFond(): fid=%u", m_vacationFundId);
 }
 
+quint16 MHRWorker::vacationFundId() const
+{
+    return m_vacationFundId;
+}
+
 bool MHRWorker::dbCheckFundMove(unsigned int pid)
 {
     if (m_debugLevel >= 2)

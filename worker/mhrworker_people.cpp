@@ -87,6 +87,12 @@ bool MHRWorker::dbLoadPeople()
     return true;
 }
 
+std::optional<MirovaRonRecord> MHRWorker::knownPerson(quint32 pid) const
+{
+    const auto known = m_people.constFind(pid);
+    return known == m_people.constEnd() ? std::nullopt : std::make_optional(*known);
+}
+
 uint MHRWorker::dbGetUidByPid(uint pid) const
 {
     if (m_debugLevel >= 2)
@@ -224,6 +230,6 @@ QString MHRWorker::departmentIdForSql() const
 
 QString MHRWorker::branchIdForSql(quint32 number) const
 {
-    const quint32 bid = m_branchIds.value(number);
+    const quint32 bid = bidOfBranch(number);
     return bid != 0 ? QString::number(bid) : QStringLiteral("NULL");
 }
