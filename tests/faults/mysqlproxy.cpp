@@ -18,6 +18,9 @@ constexpr quint16 kCompression = 0x0020;
 constexpr quint16 kTls = 0x0800;
 constexpr quint16 kListsWithoutEnd = 0x0100; // of the upper half
 
+/// Of what executes a prepared statement: kind, number of the statement, flags, a count.
+constexpr int kBeforeValues = 1 + 4 + 1 + 4;
+
 /// Takes from a greeting what the proxy could not read: it stands between two programs that agree
 /// on the plain protocol.
 void offerPlainProtocol(QByteArray &greeting)
@@ -204,7 +207,7 @@ QString MySqlProxy::textOf(const MySqlCommand &sent, const MySqlPacket &request)
     case MySqlCommand::Prepare:
         return "PREPARE " + m_preparedText;
     case MySqlCommand::Execute:
-        return "EXECUTE " + m_preparedText + " << " + texts(request.payload.mid(1));
+        return "EXECUTE " + m_preparedText + " << " + texts(request.payload.mid(kBeforeValues));
     case MySqlCommand::ResetStatement:
         return "RESET";
     case MySqlCommand::CloseStatement:

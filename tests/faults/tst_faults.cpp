@@ -156,7 +156,6 @@ private:
     void addRows(const Commands &commands, int quickStep, Condition condition);
     void learnCycle();
     void learnCycleOfProcess();
-    void recordUndisturbed();
     Commands plainCommands() const;
     void startProcess(ProgramRun &process);
 
@@ -391,6 +390,8 @@ void TestFaults::checkOwnLine(const Run &run, const QString &errorText) const
 
 void TestFaults::checkState(const Run &run, const Commands &undisturbed, const QStringList &more)
 {
+    QFETCH(int, number);
+    QTEST(run.commands.value(number - 1).text, "command");
     QCOMPARE(run.problemsOfRepetition, QStringList());
     const QStringList notCarriedOut =
         without(carriedOut(undisturbed), carriedOut(run.commands)) + more;
@@ -494,7 +495,7 @@ void TestFaults::aLockThatIsNotGivenIsSurvived()
     };
     const Run run = disturb(
         of(Way::Forward), [this] { lockAgainstHeldCommand(); }, unlock);
-    QCOMPARE(run.commands.at(number - 1).error, kLockWaitTimeout);
+    QCOMPARE(run.commands.value(number - 1).error, kLockWaitTimeout);
     checkLogOfRefusal(run, "Lock wait timeout exceeded; try restarting transaction");
     checkState(run, m_commands);
 }
@@ -539,7 +540,7 @@ void TestFaults::aDeadlockWithAnotherConnectionIsSurvived()
         kept.get_future().wait();
     };
     const Run run = disturb(of(Way::Forward), begin, [&](const LogCapture &) { other.join(); });
-    QCOMPARE(run.commands.at(number - 1).error, kDeadlock);
+    QCOMPARE(run.commands.value(number - 1).error, kDeadlock);
     checkLogOfRefusal(run, kDeadlockText);
     checkState(run, m_commands);
 }
