@@ -12,6 +12,9 @@ project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-ser
 # manual pages.
 test_packages=(chromium libfaketime man-db mandoc)
 
+# What it takes to make the Debian packages.
+package_packages=(dpkg-dev git)
+
 fail()
 {
     printf '%s: %s\n' "$script" "$*" >&2
