@@ -1,29 +1,39 @@
-// The inputs that the fuzzer has kept, one try each.
+// The inputs that people wrote and that the fuzzer has kept, one try each.
 
 #include "fuzz/fuzztarget.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QtTest>
 
 class TestFuzzCorpus : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyInputIsReadAsItMustBe_data();
     void everyInputIsReadAsItMustBe();
 };
 
+void TestFuzzCorpus::everyInputIsReadAsItMustBe_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("seeds") << SEEDS;
+    QTest::newRow("corpus") << CORPUS;
+}
+
 void TestFuzzCorpus::everyInputIsReadAsItMustBe()
 {
-    const QStringList names = QDir(CORPUS).entryList(QDir::Files);
-    QVERIFY(!names.isEmpty());
-    for (const QString &name : names) {
-        QFile file(CORPUS "/" + name);
-        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(name));
-        const QByteArray input = file.readAll();
-        qInfo("%s", qUtf8Printable(name));
-        LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t *>(input.constData()),
-                               size_t(input.size()));
+    QFETCH(QString, folder);
+    const QFileInfoList inputs = QDir(folder).entryInfoList(QDir::Files);
+    QVERIFY(!inputs.isEmpty());
+    for (const QFileInfo &input : inputs) {
+        QFile file(input.filePath());
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(input.filePath()));
+        const QByteArray bytes = file.readAll();
+        qInfo("%s", qUtf8Printable(input.fileName()));
+        LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t *>(bytes.constData()),
+                               size_t(bytes.size()));
     }
 }
 
