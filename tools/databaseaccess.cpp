@@ -9,16 +9,6 @@ namespace {
 
 constexpr char kReadOnly[] = "SET SESSION TRANSACTION READ ONLY";
 
-bool refuseWriting(const Database &database, QString &error)
-{
-    QSqlQuery query(database.handle());
-    if (query.exec(QLatin1String(kReadOnly)))
-        return true;
-    error = QStringLiteral("The database cannot be opened for reading only: %1")
-                .arg(query.lastError().text());
-    return false;
-}
-
 } // namespace
 
 std::unique_ptr<Database> openDatabase(const DatabaseOptions &options, DatabaseAccess access,
@@ -33,7 +23,17 @@ std::unique_ptr<Database> openDatabase(const DatabaseOptions &options, DatabaseA
         error = QStringLiteral("The database cannot be opened: %1").arg(database->errorText());
         return nullptr;
     }
-    if (access == DatabaseAccess::ReadOnly && !refuseWriting(*database, error))
+    if (access == DatabaseAccess::ReadOnly && !refuseWriting(database->handle(), error))
         return nullptr;
     return database;
+}
+
+bool refuseWriting(const QSqlDatabase &connection, QString &error)
+{
+    QSqlQuery query(connection);
+    if (query.exec(QLatin1String(kReadOnly)))
+        return true;
+    error = QStringLiteral("The database cannot be opened for reading only: %1")
+                .arg(query.lastError().text());
+    return false;
 }

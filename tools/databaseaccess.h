@@ -5,6 +5,7 @@
 #include <memory>
 
 class Database;
+class QSqlDatabase;
 struct DatabaseOptions;
 
 /// What a subcommand means to do with the site's database.
@@ -17,3 +18,7 @@ enum class DatabaseAccess {
 /// sentence without its full stop.
 std::unique_ptr<Database> openDatabase(const DatabaseOptions &options, DatabaseAccess access,
                                        QString &error);
+
+/// From now on the server itself refuses whatever would write on this open connection. False when
+/// that fails; `error` then says why, a sentence without its full stop.
+bool refuseWriting(const QSqlDatabase &connection, QString &error);

@@ -1,11 +1,10 @@
 // What stands in the tables, as far as the plugin takes it for granted.
 
-#include "db/tepdbsettings.h"
 #include "tools/dbcheck.h"
 #include "tools/dbrules.h"
+#include "tools/payrollexports.h"
 #include "tools/plaintext.h"
 
-#include <QMap>
 #include <QStringList>
 
 namespace {
@@ -81,10 +80,7 @@ void checkVacationFund(DbCheck &check)
 
 void checkPayrollExport(DbCheck &check)
 {
-    // As the plugin looks for it.
-    const QStringList exports = TepDbSettings(check.database())
-                                    .variableGetMultiple(QStringLiteral("exportPam.%.active"))
-                                    .keys();
+    const QStringList exports = payrollExports(check.database());
     if (exports.size() == 1)
         return;
     const QString found = exports.isEmpty()

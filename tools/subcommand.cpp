@@ -4,6 +4,7 @@
 #include "tools/checkdb.h"
 #include "tools/checkfile.h"
 #include "tools/console.h"
+#include "tools/explain.h"
 #include "tools/force.h"
 #include "tools/gate.h"
 #include "tools/preview.h"
@@ -46,6 +47,7 @@ const QVector<Subcommand> &subcommands()
          runCheckConfig},
         {"check-file", "What the plugin would drop or misread of an HR export", runCheckFile},
         {"check-db", "Whether the attendance database is what the plugin relies on", runCheckDb},
+        {"explain", "Why a person did not arrive, or arrived so", runExplain},
         {"preview", "What a synchronisation would change, by doing it on a copy", runPreview},
         {"gate", "Lets HR's file through to the plugin, or holds it back", runGate},
         {"force", "Makes the plugin synchronise everybody at its next tick", runForce},

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "tools/exitstatus.h"
+
+#include <QStringList>
+
+class Console;
+
+/// `mirovahrctl explain`: why a person did not arrive, or arrived so.
+ExitStatus runExplain(const QStringList &arguments, Console &console);

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "tools/explaincontext.h"
+#include "tools/recordexplanation.h"
+#include "tools/soughtlines.h"
+#include "tools/soughtperson.h"
+
+#include <QString>
+
+/// Where the explanation of a person comes from.
+struct ExplainedSource {
+    QString configurationPath;
+    bool hasConfiguration = false; ///< there is such a file
+    QString exportPath;
+};
+
+/// Why a person did not arrive, or arrived so: the whole report but for its frame.
+class PersonExplanation {
+public:
+    PersonExplanation(const SoughtPerson &person, const ExplainedSource &source,
+                      const Configuration &configuration, PluginView &view, Report &report);
+
+    /// \a lines: what the export says of the person; null when there is no export. Returns the
+    /// verdict in one sentence.
+    QString explain(const SoughtLines *lines);
+
+private:
+    void explainConfiguration();
+    void explainAbsentExport();
+    void explainExport(const SoughtLines &lines);
+    void explainNotFound(const SoughtLines &lines);
+    void explainOthers(const SoughtLines &lines);
+    void explainLine(const CheckedLine &line);
+    void explainAbsence();
+    void explainRecords(const QVector<CheckedLine> &lines);
+    void explainRepetition(const CheckedLine &line);
+    void explainMemory();
+    void writeFacts();
+    QString verdict() const;
+
+    const SoughtPerson m_person;
+    const ExplainedSource m_source;
+    ExplainContext m_context;
+    bool m_hasExport = false;
+    bool m_isFound = false; ///< in the export, dropped or not
+    std::optional<RecordOutcome> m_outcome; ///< of the last line that the plugin does not drop
+};

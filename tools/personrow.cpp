@@ -1,0 +1,26 @@
+#include "tools/personrow.h"
+
+#include "tools/sqlsession.h"
+
+namespace {
+
+constexpr char kSelect[] = "SELECT uid, pamId, CONCAT_WS(' ', name, surname), status, created,"
+                           " edited, editor FROM people WHERE pid = %1";
+
+} // namespace
+
+std::optional<PersonRow> PersonRow::read(SqlSession &sql, quint32 pid)
+{
+    const QStringList columns = sql.row(QString(QLatin1String(kSelect)).arg(pid));
+    if (columns.isEmpty())
+        return std::nullopt;
+    PersonRow row;
+    row.uid = columns.at(0).toUInt();
+    row.payrollId = columns.at(1);
+    row.name = columns.at(2).simplified();
+    row.active = columns.at(3).toInt() != 0;
+    row.created = columns.at(4).toLongLong();
+    row.edited = columns.at(5).toLongLong();
+    row.editedByPlugin = columns.at(6) == QLatin1String("0");
+    return row;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <optional>
+
+class SqlSession;
+
+/// The row of `people` with a pid, whether the plugin recognises the person in it or not.
+struct PersonRow {
+    quint32 uid = 0;
+    QString payrollId; ///< `pamId`, which the plugin knows active people by
+    QString name; ///< first name and surname
+    bool active = false; ///< `status`: the plugin does not see others
+    qint64 created = 0; ///< Unix time; 0: not known
+    qint64 edited = 0; ///< Unix time; 0: never
+    bool editedByPlugin = false; ///< `editor` is 0: the last change was the plugin's
+
+    /// Nothing when there is none, or the query fails.
+    static std::optional<PersonRow> read(SqlSession &sql, quint32 pid);
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+class MirovaRonRecord;
+
+/// One of the fields that the plugin compares with a row of `people`.
+struct RowField {
+    QString name; ///< for people
+    QString exported; ///< what the export makes of it
+    QString held; ///< what the row holds
+    bool differs = false;
+};
+
+/// The fields of the plugin's comparison, in its order. \a updated is the record of the export with
+/// its relationship state, \a known the plugin's view of the row.
+QVector<RowField> compareRowFields(const MirovaRonRecord &updated, const MirovaRonRecord &known);

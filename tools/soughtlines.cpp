@@ -1,0 +1,64 @@
+#include "tools/soughtlines.h"
+
+#include "tools/progress.h"
+#include "worker/exportline.h"
+
+#include <QFile>
+
+namespace {
+
+/// Whom the first two fields of a line name, dropped or not; nothing when they name nobody.
+std::optional<MirovaRonRecord> namedBy(const CheckedLine &line)
+{
+    const QStringList parts =
+        ExportLine::split(ExportLine::decode(line.raw.constData()), ExportLine::kSeparator);
+    MirovaRonRecord record;
+    record.osobniCislo = ExportLine::toNumber(parts.value(ExportLine::OsobniCislo));
+    record.poradoveCisloPP = ExportLine::toNumber(parts.value(ExportLine::PoradoveCisloPP));
+    if (record.osobniCislo == 0 || record.poradoveCisloPP == 0)
+        return std::nullopt;
+    return record;
+}
+
+} // namespace
+
+SoughtLines::SoughtLines(const SoughtPerson &person)
+    : m_person(person)
+{
+}
+
+bool SoughtLines::find(QFile &file, const TextWidths &widths, Console &console)
+{
+    Progress progress(console, QStringLiteral("Reading the export"));
+    ExportCheck check(file, widths);
+    check.setProgressListener(
+        [&progress](qint64 done, qint64 total) { progress.update(done, total); });
+    const bool read = check.run([this](const CheckedLine &line) { look(line); });
+    m_count = check.counts().lines;
+    return read;
+}
+
+void SoughtLines::look(const CheckedLine &line)
+{
+    const auto named = line.record ? line.record : namedBy(line);
+    if (!named)
+        m_nameless += line.isDropped() ? 1 : 0;
+    else if (m_person.matches(*named))
+        keep(line);
+    else if (named->osobniCislo == m_person.personalNumber())
+        note(*named, line.number);
+}
+
+void SoughtLines::keep(const CheckedLine &line)
+{
+    if (m_lines.size() < kMost)
+        m_lines.append(line);
+    else
+        ++m_more;
+}
+
+void SoughtLines::note(const MirovaRonRecord &record, qint64 line)
+{
+    if (m_others.size() < kMost)
+        m_others += QStringLiteral("%1 (line %2)").arg(record.getPamId()).arg(line);
+}
