@@ -5,6 +5,7 @@
 #include "tools/commandline.h"
 #include "tools/console.h"
 #include "tools/previewreport.h"
+#include "tools/previewserver.h"
 #include "tools/previewsql.h"
 #include "tools/previewwork.h"
 #include "tools/report.h"
@@ -62,7 +63,8 @@ ExitStatus PreviewCommand::run(const DatabaseOptions &site)
 {
     if (const auto end = prepare())
         return *end;
-    PreviewWork work(m_console);
+    PreviewServer server;
+    PreviewWork work(m_console, server);
     if (const auto refused = work.copy(site))
         return fail(*refused);
     if (const auto refused =

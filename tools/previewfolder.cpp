@@ -20,12 +20,10 @@ constexpr char kGuard[] = "trap '' HUP INT QUIT TERM; cat; exec rm -rf -- \"$1\"
 /// program's.
 class GuardSetup {
 public:
-    explicit GuardSetup(const int (&pipe)[2])
+    explicit GuardSetup(int pipe)
     {
         posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, pipe[0], STDIN_FILENO);
-        posix_spawn_file_actions_addclose(&actions, pipe[0]);
-        posix_spawn_file_actions_addclose(&actions, pipe[1]);
+        posix_spawn_file_actions_adddup2(&actions, pipe, STDIN_FILENO);
         posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
         posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
         posix_spawnattr_init(&attributes);
@@ -63,14 +61,19 @@ PreviewFolder::~PreviewFolder()
     while (::waitpid(m_guard, nullptr, 0) < 0 && errno == EINTR) { }
 }
 
+void PreviewFolder::setChildrenBelong(bool on)
+{
+    ::fcntl(m_pipe, F_SETFD, on ? 0 : FD_CLOEXEC);
+}
+
 void PreviewFolder::startGuard()
 {
     int ends[2];
-    if (::pipe(ends) != 0) {
+    if (::pipe2(ends, O_CLOEXEC) != 0) {
         m_error = QString::fromLocal8Bit(std::strerror(errno));
         return;
     }
-    const GuardSetup setup(ends);
+    const GuardSetup setup(ends[0]);
     QByteArray script(kGuard);
     QByteArray folder = QFile::encodeName(m_dir.path());
     QByteArray shell(kShell);

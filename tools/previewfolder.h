@@ -7,8 +7,8 @@
 
 /// A private folder that is gone for certain when this program is, also when it was killed.
 ///
-/// A small process of its own waits until this program and every child that it has started since
-/// are gone, and then removes the folder. It notices that by a pipe which they all hold open.
+/// A small process of its own waits until this program is gone, and every child that works in the
+/// folder, and then removes it. It notices that by a pipe which they all hold open.
 class PreviewFolder {
 public:
     /// In the system's temporary folder.
@@ -21,6 +21,10 @@ public:
     /// Why there is no such folder.
     QString errorString() const { return m_error; }
     QString path() const { return m_dir.path(); }
+
+    /// Whether children that are started now belong to those who work in the folder. They must be
+    /// gone before this object is.
+    void setChildrenBelong(bool on);
 
 private:
     void startGuard();

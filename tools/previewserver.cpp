@@ -31,6 +31,11 @@ PreviewServer::~PreviewServer()
 
 bool PreviewServer::start(const PreviewSchema &schema)
 {
+    if (m_server.isRunning()) {
+        // It would go on in a database that is about to be dropped.
+        attendance().close();
+        return true;
+    }
     if (!m_folder.isValid()) {
         return fail(
             QStringLiteral("No folder for the copy could be made: %1").arg(m_folder.errorString()));
@@ -40,9 +45,18 @@ bool PreviewServer::start(const PreviewSchema &schema)
     m_server.setServerOptions(
         QStringList{timeZoneOption(schema.timeZone), QLatin1String(kLargestPacket)}
         + schema.serverOptions);
-    return (m_server.start() || fail(m_server.errorString()))
-        && open(QLatin1String(kAdministrator), PrivateMariaDb::Account::Administrator)
-        && open(QLatin1String(kAttendance), PrivateMariaDb::Account::Host);
+    m_folder.setChildrenBelong(true);
+    const bool started = m_server.start();
+    m_folder.setChildrenBelong(false);
+    return started ? connectToServer() : fail(m_server.errorString());
+}
+
+bool PreviewServer::connectToServer()
+{
+    m_server.addConnection(QLatin1String(kAttendance), PrivateMariaDb::Account::Host);
+    QSqlDatabase database = m_server.addConnection(QLatin1String(kAdministrator),
+                                                   PrivateMariaDb::Account::Administrator);
+    return database.open() || fail(database.lastError().text());
 }
 
 QSqlDatabase PreviewServer::administrator() const
@@ -53,12 +67,6 @@ QSqlDatabase PreviewServer::administrator() const
 QSqlDatabase PreviewServer::attendance() const
 {
     return QSqlDatabase::database(QLatin1String(kAttendance));
-}
-
-bool PreviewServer::open(const QString &name, PrivateMariaDb::Account account)
-{
-    QSqlDatabase database = m_server.addConnection(name, account);
-    return database.open() || fail(database.lastError().text());
 }
 
 bool PreviewServer::fail(const QString &error)

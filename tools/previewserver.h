@@ -18,19 +18,21 @@ public:
     PreviewServer(const PreviewServer &) = delete;
     PreviewServer &operator=(const PreviewServer &) = delete;
 
-    /// Starts the server with the ways of the site's. False when that fails.
+    /// Starts the server with the ways of the site's. False when that fails. A server that runs
+    /// goes on, for the next copy.
     bool start(const PreviewSchema &schema);
 
-    /// Open connections: the administrator's, and one with all rights on the copy such as an
-    /// attendance server has.
+    /// An open connection of the administrator.
     QSqlDatabase administrator() const;
+    /// An open connection with all rights on the copy, such as an attendance server has. For the
+    /// time when the copy is there.
     QSqlDatabase attendance() const;
 
     /// Why start() failed, a sentence without its full stop.
     QString errorText() const { return m_error; }
 
 private:
-    bool open(const QString &name, PrivateMariaDb::Account account);
+    bool connectToServer();
     bool fail(const QString &error);
 
     PreviewFolder m_folder;

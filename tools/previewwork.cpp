@@ -6,6 +6,7 @@
 #include "tools/previewcopy.h"
 #include "tools/previewrun.h"
 #include "tools/previewschemareader.h"
+#include "tools/previewserver.h"
 #include "tools/progress.h"
 #include "tools/sqlsession.h"
 
@@ -40,15 +41,13 @@ PreviewRefusal refusal(const QString &sentence)
 
 } // namespace
 
-PreviewWork::PreviewWork(Console &console)
+PreviewWork::PreviewWork(Console &console, PreviewServer &server)
     : m_console(console)
+    , m_server(server)
 {
 }
 
-PreviewWork::~PreviewWork()
-{
-    m_names.reset();
-}
+PreviewWork::~PreviewWork() = default;
 
 std::optional<PreviewRefusal> PreviewWork::copy(const DatabaseOptions &options)
 {
@@ -91,6 +90,7 @@ std::optional<PreviewRefusal> PreviewWork::startServer()
 std::optional<PreviewRefusal> PreviewWork::compareServers()
 {
     SqlSession copy(m_server.administrator());
+    copy.run(QStringLiteral("SET SESSION time_zone = DEFAULT"));
     m_copyVersion = copy.value(QStringLiteral("SELECT VERSION()"));
     const auto days = Midnights::daysToCompare(QDate::currentDate());
     if (copy.row(Midnights::query(days)) == m_schema.midnights)

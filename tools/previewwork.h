@@ -7,7 +7,6 @@
 #include "tools/previewnames.h"
 #include "tools/previewrefusal.h"
 #include "tools/previewschema.h"
-#include "tools/previewserver.h"
 
 #include <QString>
 #include <QVector>
@@ -16,15 +15,17 @@
 #include <optional>
 
 class Console;
+class PreviewServer;
 class QIODevice;
 class SqlSession;
 struct DatabaseOptions;
 
 /// The work of a preview: copies the site's database, lets the plugin synchronise the copy, and
-/// finds out what has changed. The copy lives as long as this object.
+/// finds out what has changed.
 class PreviewWork {
 public:
-    explicit PreviewWork(Console &console);
+    /// \a server holds the copy and must live longer than this object.
+    PreviewWork(Console &console, PreviewServer &server);
     ~PreviewWork();
     PreviewWork(const PreviewWork &) = delete;
     PreviewWork &operator=(const PreviewWork &) = delete;
@@ -51,7 +52,7 @@ private:
     void take(QtMsgType type, const QString &text, QIODevice *log);
 
     Console &m_console;
-    PreviewServer m_server;
+    PreviewServer &m_server;
     PreviewSchema m_schema;
     QString m_copyVersion;
     QVector<PreviewChange> m_changes;

@@ -1,0 +1,125 @@
+#include "tests/tools/previewbench.h"
+
+#include "plugin/configuration.h"
+#include "tests/host/programrun.h"
+#include "tools/console.h"
+#include "tools/previewsql.h"
+#include "tools/previewwork.h"
+
+#include <QBuffer>
+#include <QSettings>
+
+namespace {
+
+QVector<PreviewLine> linesOf(PreviewWork &work)
+{
+    QVector<PreviewLine> lines;
+    const PreviewWords words(work.names(), work.moments());
+    for (const PreviewChange &change : work.changes())
+        lines += words.tell(change);
+    return lines;
+}
+
+QString sqlOf(const PreviewWork &work)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    PreviewSql(work.schema(), work.moments()).write(work.changes(), buffer);
+    return QString::fromUtf8(buffer.data());
+}
+
+} // namespace
+
+QStringList PreviewResult::told() const
+{
+    QStringList texts;
+    for (const PreviewLine &line : lines) {
+        texts +=
+            QStringLiteral("%1 | %2 | %3 | %4 -> %5")
+                .arg(PreviewWords::idOf(line.kind), line.who, line.what, line.before, line.after);
+    }
+    return texts;
+}
+
+QStringList PreviewResult::warned() const
+{
+    QStringList texts;
+    for (const Finding &warning : warnings)
+        texts += warning.rule + ": " + warning.message;
+    return texts;
+}
+
+bool PreviewBench::start()
+{
+    if (!m_site.start())
+        return false;
+    m_site.run(QStringLiteral("ALTER USER mirovahrctl@localhost IDENTIFIED BY '%1' ACCOUNT UNLOCK")
+                   .arg(m_site.server().password()));
+    writeIni();
+    return true;
+}
+
+void PreviewBench::writeIni(const QString &more)
+{
+    QFile file(iniPath());
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("%s cannot be written", qPrintable(iniPath()));
+    file.write(QStringLiteral("importFile=\"%1\"\ndeleteFile=false\n%2\n")
+                   .arg(m_export.path(), more)
+                   .toUtf8());
+}
+
+DatabaseOptions PreviewBench::options(const QString &user) const
+{
+    PrivateMariaDb &server = const_cast<PreviewBench *>(this)->m_site.server();
+    DatabaseOptions options;
+    options.socket = server.socketPath();
+    options.name = server.databaseName();
+    options.user = user;
+    options.password = user == "root" ? QString() : server.password();
+    return options;
+}
+
+QStringList PreviewBench::arguments(const QString &user) const
+{
+    PrivateMariaDb &server = const_cast<PreviewBench *>(this)->m_site.server();
+    return {"--socket",        server.socketPath(),
+            "--database",      server.databaseName(),
+            "--user",          user,
+            "--password-file", server.passwordFile(),
+            "--config",        iniPath()};
+}
+
+PreviewResult PreviewBench::preview(const DatabaseOptions &site)
+{
+    QBuffer out;
+    QBuffer err;
+    out.open(QIODevice::WriteOnly);
+    err.open(QIODevice::WriteOnly);
+    Console console(out, err, false);
+    PreviewWork work(console, m_server);
+    PreviewResult result;
+    result.refusal = work.copy(site);
+    if (!result.refusal) {
+        const Configuration configuration = Configuration::read(*Configuration::open(iniPath()));
+        result.refusal = work.synchronise(configuration, m_export.path(), nullptr);
+    }
+    if (result.refusal)
+        return result;
+    result.schema = work.schema();
+    result.lines = linesOf(work);
+    result.warnings = work.warnings();
+    result.changes = work.changes().size();
+    result.sql = sqlOf(work);
+    return result;
+}
+
+QString PreviewBench::synchroniseSite()
+{
+    ProgramRun program;
+    const bool ended =
+        program.run(SINGLESYNC,
+                    {m_site.server().socketPath(), m_site.server().databaseName(),
+                     m_site.server().userName(), m_site.server().password(), iniPath()});
+    return ended && program.status() == 0 ? QString() : QString::fromUtf8(program.report());
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "cli/databaseoptions.h"
+#include "tests/support/exportfile.h"
+#include "tests/support/testdatabase.h"
+#include "tools/finding.h"
+#include "tools/previewrefusal.h"
+#include "tools/previewschema.h"
+#include "tools/previewserver.h"
+#include "tools/previewwords.h"
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <optional>
+
+/// What a test learns from a preview.
+struct PreviewResult {
+    std::optional<PreviewRefusal> refusal;
+    PreviewSchema schema;
+    QVector<PreviewLine> lines;
+    QVector<Finding> warnings;
+    int changes = 0;
+    QString sql;
+
+    /// Lines as "kind | who | what | before -> after".
+    QStringList told() const;
+    /// Their rules and messages.
+    QStringList warned() const;
+};
+
+/// A site's database, a server for copies of it that stays, an export and an INI file.
+class PreviewBench {
+public:
+    /// As TestDatabase::start(); also unlocks the account of mirovahrctl.
+    bool start();
+
+    TestDatabase &site() { return m_site; }
+    ExportFile &exportFile() { return m_export; }
+    void writeExport(const QVector<ExportRow> &lines) { m_export.write(lines); }
+    /// Replaces the INI file. It names the export and keeps it.
+    void writeIni(const QString &more = QString());
+    QString iniPath() const { return m_dir.filePath("MirovaHR.ini"); }
+    QString filePath(const QString &name) const { return m_dir.filePath(name); }
+
+    /// How to reach the site: as `mirovahrctl`, or as another account with the same password.
+    DatabaseOptions options(const QString &user = QStringLiteral("mirovahrctl")) const;
+    QStringList arguments(const QString &user = QStringLiteral("mirovahrctl")) const;
+
+    PreviewResult preview(const DatabaseOptions &site);
+    PreviewResult preview() { return preview(options()); }
+
+    /// One forced synchronisation of the site's database itself, in a process of its own. What that
+    /// process printed when it failed, else empty.
+    QString synchroniseSite();
+
+private:
+    TestDatabase m_site;
+    ExportFile m_export;
+    QTemporaryDir m_dir;
+    PreviewServer m_server;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "tests/support/exportfile.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <random>
+
+class TestDatabase;
+
+/// Random contents of an attendance database, and random exports for it: much of it alike, so that
+/// people are found, some of it wrong. People of different seeds have different numbers, since a
+/// process looks up the uid of a person only once.
+class RandomSite {
+public:
+    explicit RandomSite(quint32 seed);
+
+    /// Fills the database, which holds the sample data, with more, and changes what is there.
+    void fill(TestDatabase &db);
+    /// Lines of an export, each with a line feed.
+    QByteArray exportContent();
+    /// Further lines of an INI file.
+    QString ini();
+
+private:
+    int number(int from, int to);
+    bool chance(int percent);
+    QString one(const QStringList &list);
+    QString time();
+    QString optionalTime();
+    void fillPeople(TestDatabase &db);
+    void fillRelations(TestDatabase &db);
+    void fillAttendance(TestDatabase &db);
+    void fillSettings(TestDatabase &db);
+    void addRoutinesAndTriggers(TestDatabase &db);
+    QString text();
+    QString date();
+    QString person();
+    QString line();
+
+    std::mt19937 m_random;
+    const int m_firstNumber; ///< of people who are not of the sample
+};

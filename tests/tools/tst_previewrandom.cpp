@@ -1,0 +1,156 @@
+#include "tests/sync/middayzone.h"
+#include "tests/tools/previewbench.h"
+#include "tests/tools/randomsite.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QtTest>
+
+#include <ctime>
+
+namespace {
+
+/// How many databases are tried, and from which seed on.
+const char kCount[] = "MIROVAHR_PREVIEW_CASES";
+const char kSeed[] = "MIROVAHR_PREVIEW_SEED";
+constexpr int kQuickCount = 6;
+/// One after the other, on what the one before has made of the database.
+constexpr int kExports = 4;
+
+const char kKept[] = "kept";
+
+int environmentNumber(const char *name, int fallback)
+{
+    bool isNumber = false;
+    const int value = qEnvironmentVariableIntValue(name, &isNumber);
+    return isNumber ? value : fallback;
+}
+
+/// The cells that hold the moment at which they were written.
+bool isMoment(const QString &table, const QString &column)
+{
+    return (table == "people" && (column == "created" || column == "edited"))
+        || (table == "brape" && column == "since") || (table == "term_sync" && column == "created");
+}
+
+} // namespace
+
+/// What preview predicts for random databases and exports is what the worker then does.
+class TestPreviewRandom : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void thePredictionIsWhatHappens_data();
+    void thePredictionIsWhatHappens();
+
+private:
+    /// The whole content of a database, with moments since the begin of the test as "now".
+    DatabaseState state(const QString &database);
+    void keep();
+    void tryExport(RandomSite &random);
+
+    PreviewBench m_bench;
+    qint64 m_begin = 0;
+};
+
+void TestPreviewRandom::initTestCase()
+{
+    QVERIFY2(m_bench.start(), qPrintable(m_bench.site().errorString()));
+}
+
+DatabaseState TestPreviewRandom::state(const QString &database)
+{
+    TestDatabase &site = m_bench.site();
+    site.run("USE " + database);
+    DatabaseState state = site.dumpAll();
+    site.run("USE " + site.server().databaseName());
+    for (auto table = state.begin(); table != state.end(); ++table) {
+        for (QStringList &row : table.value()) {
+            for (QString &cell : row) {
+                const QString column = cell.section('=', 0, 0);
+                if (isMoment(table.key(), column) && cell.section('=', 1).toLongLong() >= m_begin)
+                    cell = column + "=now";
+            }
+        }
+    }
+    return state;
+}
+
+/// Makes a copy of the site's database, in which the predicted statements will be run.
+void TestPreviewRandom::keep()
+{
+    TestDatabase &site = m_bench.site();
+    site.run(QStringLiteral("DROP DATABASE IF EXISTS %1").arg(kKept));
+    site.run(QStringLiteral("CREATE DATABASE %1").arg(kKept));
+    const TableRows tables = site.rows("SHOW TABLES");
+    for (const QStringList &table : tables) {
+        // Nobody may give the values of RandomSite's computed column.
+        const bool isComputed = table.first() == "history";
+        const QString columns = "id, what, weight, price, mask, kind, at, name";
+        const QString name = "`" + table.first() + "`";
+        const QString copy = QStringLiteral("%1.%2").arg(kKept, name);
+        site.run("CREATE TABLE " + copy + " LIKE " + name);
+        site.run("INSERT INTO " + copy + (isComputed ? '(' + columns + ')' : QString()) + " SELECT "
+                 + (isComputed ? columns : "*") + " FROM " + name);
+    }
+}
+
+void TestPreviewRandom::thePredictionIsWhatHappens_data()
+{
+    QTest::addColumn<quint32>("seed");
+    const int count = environmentNumber(kCount, kQuickCount);
+    const int first = environmentNumber(kSeed, 1);
+    for (int i = 0; i < count; ++i)
+        QTest::addRow("%s=%d", kSeed, first + i) << static_cast<quint32>(first + i);
+}
+
+void TestPreviewRandom::thePredictionIsWhatHappens()
+{
+    QFETCH(quint32, seed);
+    TestDatabase &site = m_bench.site();
+    RandomSite random(seed);
+    m_begin = QDateTime::currentSecsSinceEpoch();
+    site.reset();
+    random.fill(site);
+    m_bench.writeIni(random.ini());
+    keep();
+    for (int i = 0; i < kExports && !QTest::currentTestFailed(); ++i)
+        tryExport(random);
+}
+
+void TestPreviewRandom::tryExport(RandomSite &random)
+{
+    TestDatabase &site = m_bench.site();
+    m_bench.exportFile().writeBytes(random.exportContent());
+    const DatabaseState before = site.dumpAll();
+    const PreviewResult preview = m_bench.preview(m_bench.options("root"));
+    QVERIFY2(!preview.refusal, qPrintable(preview.refusal ? preview.refusal->sentence : QString()));
+    QCOMPARE(TestDatabase::difference(before, site.dumpAll()), QString());
+
+    site.run("REPLACE INTO vars VALUES ('YAV.MHRWorker.forceSync', '1')");
+    QCOMPARE(m_bench.synchroniseSite(), QString());
+
+    QFile sql(m_bench.filePath("preview.sql"));
+    QVERIFY(sql.open(QIODevice::WriteOnly));
+    sql.write(preview.sql.toUtf8());
+    sql.close();
+    const QString ownName = site.server().databaseName();
+    site.server().setDatabaseName(kKept);
+    const bool loaded = site.server().load(sql.fileName());
+    site.server().setDatabaseName(ownName);
+    QVERIFY2(loaded, qPrintable(site.server().errorString()));
+    QCOMPARE(TestDatabase::difference(state(ownName), state(kKept)), QString());
+}
+
+int main(int argc, char **argv)
+{
+    qputenv("TZ", middayZone());
+    qputenv("LC_ALL", "C.UTF-8");
+    tzset();
+    QCoreApplication application(argc, argv);
+    TestPreviewRandom test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_previewrandom.moc"
