@@ -1,0 +1,236 @@
+#include "plugin/configuration.h"
+#include "tests/docs/markdown.h"
+#include "tests/docs/sourcetexts.h"
+#include "tools/subcommand.h"
+#include "worker/importfile.h"
+#include "worker/schedule.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
+#include <QSettings>
+#include <QtTest>
+
+namespace {
+
+const QString kOperations = QStringLiteral("docs/operations.md");
+const QString kReadme = QStringLiteral("README.md");
+
+/// The levels of a row of the log tables: "info 1 or debug 2", "info 1, critical".
+QSet<QString> levels(const QStringList &row)
+{
+    static const QRegularExpression separator(" or |, ");
+    const QStringList levels = row.at(1).split(separator);
+    return QSet<QString>(levels.cbegin(), levels.cend());
+}
+
+/// The log texts of docs/operations.md and their levels.
+QMap<QString, QSet<QString>> documentedTexts()
+{
+    QMap<QString, QSet<QString>> texts;
+    for (const QStringList &row : Markdown::rows(kOperations, "Text"))
+        texts[Markdown::code(row.constFirst())] = levels(row);
+    return texts;
+}
+
+/// The keys that the plugin's own code reads, in its order; group MES as the documents name it.
+QStringList keysInSources()
+{
+    static const QRegularExpression read("(?:number|flag|text)\\(\"(\\w+)\"");
+    QStringList keys;
+    auto matches = read.globalMatch(Markdown::text("plugin/configuration.cpp"));
+    while (matches.hasNext())
+        keys << matches.next().captured(1);
+    return keys << "MES";
+}
+
+/// The keys of a document's table and the defaults that it names.
+QMap<QString, QString> documentedKeys(const QString &document)
+{
+    QMap<QString, QString> keys;
+    for (const QStringList &row : Markdown::rows(document, "Key"))
+        keys[QString(row.at(0)).remove("group ").remove('`')] = QString(row.at(1)).remove('`');
+    return keys;
+}
+
+QString text(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+/// What the documents have to say of the defaults, from the configuration itself.
+QMap<QString, QString> actualDefaults()
+{
+    const Configuration defaults;
+    return {
+        {"enabled", text(defaults.enabled)},
+        {"timerInterval", QString::number(defaults.tickMilliseconds / 1000)},
+        {"syncInterval", QString::number(defaults.syncInterval)},
+        {"testMode", text(defaults.testMode)},
+        {"importFile", ImportFile::path(defaults.importFile)},
+        {"deleteFile", text(defaults.deleteFile)},
+        {"syncCommand", "none"},
+        {"syncCommandRun", QString::number(defaults.syncCommandRun)},
+        {"departmentId", QString::number(defaults.departmentId)},
+        {"MES", "none"},
+    };
+}
+
+QString lines(const QSet<QString> &texts)
+{
+    QStringList sorted = texts.values();
+    sorted.sort();
+    return sorted.join('\n');
+}
+
+} // namespace
+
+class TestDocuments : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyLogTextIsDocumentedWithItsLevel();
+    void everyTextThatReachesTheLogThroughAFunctionIsDocumented();
+    void everyDocumentedLogTextIsInTheCode();
+    void everyDocumentedLogTextSaysWhatToDo();
+    void everyKeyIsDocumentedWithItsDefault_data();
+    void everyKeyIsDocumentedWithItsDefault();
+    void everyVariableOfTheDatabaseIsDocumented_data();
+    void everyVariableOfTheDatabaseIsDocumented();
+    void everySubcommandIsInTheOperationsManual();
+    void linksLeadToFiles_data();
+    void linksLeadToFiles();
+    void theSampleConfigurationReadsAsItSays();
+    void theSampleConfigurationNamesEveryKeyAndNoOther();
+};
+
+void TestDocuments::everyLogTextIsDocumentedWithItsLevel()
+{
+    const auto documented = documentedTexts();
+    const auto logged = SourceTexts::loggedDirectly();
+    QVERIFY2(logged.size() > 100, "the scan of the sources finds too little");
+    for (auto it = logged.cbegin(); it != logged.cend(); ++it) {
+        QVERIFY2(documented.contains(it.key()), qPrintable(it.key()));
+        QVERIFY2(documented.value(it.key()) == it.value(),
+                 qPrintable(it.key() + ": " + it.value().values().join(", ")));
+    }
+}
+
+void TestDocuments::everyTextThatReachesTheLogThroughAFunctionIsDocumented()
+{
+    const auto documented = documentedTexts();
+    const QSet<QString> texts = SourceTexts::handedOn();
+    QVERIFY2(texts.size() > 60, "the scan of the sources finds too little");
+    for (const QString &text : texts)
+        QVERIFY2(documented.contains(text), qPrintable(text));
+}
+
+void TestDocuments::everyDocumentedLogTextIsInTheCode()
+{
+    const QStringList logged = SourceTexts::loggedDirectly().keys();
+    const QStringList documented = documentedTexts().keys();
+    const QSet<QString> unknown = QSet<QString>(documented.cbegin(), documented.cend())
+        - QSet<QString>(logged.cbegin(), logged.cend()) - SourceTexts::handedOn();
+    QVERIFY2(unknown.isEmpty(), qPrintable(lines(unknown)));
+}
+
+void TestDocuments::everyDocumentedLogTextSaysWhatToDo()
+{
+    for (const QStringList &row : Markdown::rows(kOperations, "Text")) {
+        QVERIFY2(row.size() == 3 && !row.at(2).isEmpty(), qPrintable(row.join(" | ")));
+        for (const QString &level : levels(row)) {
+            static const QRegularExpression known(
+                "^((debug|info|warning) [123]|warning|critical)$");
+            QVERIFY2(level.contains(known), qPrintable(row.join(" | ")));
+        }
+    }
+}
+
+void TestDocuments::everyKeyIsDocumentedWithItsDefault_data()
+{
+    QTest::addColumn<QString>("document");
+    QTest::newRow("operations") << kOperations;
+    QTest::newRow("README") << kReadme;
+}
+
+void TestDocuments::everyKeyIsDocumentedWithItsDefault()
+{
+    QFETCH(QString, document);
+    QCOMPARE(actualDefaults().size(), keysInSources().size());
+    for (const QString &key : keysInSources())
+        QVERIFY2(actualDefaults().contains(key), qPrintable(key));
+    QCOMPARE(documentedKeys(document), actualDefaults());
+}
+
+void TestDocuments::everyVariableOfTheDatabaseIsDocumented_data()
+{
+    everyKeyIsDocumentedWithItsDefault_data();
+}
+
+void TestDocuments::everyVariableOfTheDatabaseIsDocumented()
+{
+    QFETCH(QString, document);
+    QStringList names;
+    for (const QStringList &row : Markdown::rows(document, "Name"))
+        names << Markdown::code(row.constFirst());
+    QCOMPARE(names,
+             (QStringList{Schedule::kForceSyncKey, "exportPam.N.active", "exportPam.N.selPeople"}));
+}
+
+void TestDocuments::everySubcommandIsInTheOperationsManual()
+{
+    const QString text = Markdown::text(kOperations);
+    for (const Subcommand &subcommand : subcommands())
+        QVERIFY2(text.contains(QStringLiteral("`mirovahrctl %1").arg(subcommand.name)),
+                 subcommand.name);
+}
+
+void TestDocuments::linksLeadToFiles_data()
+{
+    QTest::addColumn<QString>("document");
+    for (const char *document :
+         {"README.md", "docs/how-it-works.md", "docs/operations.md", "docs/security.md"})
+        QTest::newRow(document) << document;
+}
+
+void TestDocuments::linksLeadToFiles()
+{
+    QFETCH(QString, document);
+    const QString folder = QFileInfo(PROJECT_FOLDER "/" + document).path();
+    const QStringList links = Markdown::links(document);
+    QVERIFY(!links.isEmpty());
+    for (const QString &link : links)
+        QVERIFY2(QFileInfo::exists(folder + '/' + link), qPrintable(link));
+}
+
+void TestDocuments::theSampleConfigurationReadsAsItSays()
+{
+    const auto settings = Configuration::open(PROJECT_FOLDER "/config/MirovaHR.ini");
+    const Configuration sample = Configuration::read(*settings);
+    QCOMPARE(settings->status(), QSettings::NoError);
+    QCOMPARE(sample.enabled, true);
+    QCOMPARE(sample.tickMilliseconds, 60000U);
+    QCOMPARE(sample.syncInterval, 60U);
+    QCOMPARE(sample.testMode, false);
+    QCOMPARE(sample.importFile, QString("/var/lib/yav/hr/ron.data"));
+    QCOMPARE(sample.deleteFile, true);
+    QCOMPARE(sample.syncCommand, QString());
+    QCOMPARE(sample.syncCommandRun, quint8(0));
+    QCOMPARE(sample.departmentId, 1U);
+    const QHash<unsigned short, QString> messages{
+        {21, "materská dovolenka"}, {22, "rodičovská dovolenka"}, {71, "neplatené voľno"}};
+    QCOMPARE(sample.messages, messages);
+}
+
+void TestDocuments::theSampleConfigurationNamesEveryKeyAndNoOther()
+{
+    const auto settings = Configuration::open(PROJECT_FOLDER "/config/MirovaHR.ini");
+    QStringList keys = settings->childKeys() + settings->childGroups();
+    QStringList expected = keysInSources();
+    keys.sort();
+    expected.sort();
+    QCOMPARE(keys, expected);
+}
+
+QTEST_GUILESS_MAIN(TestDocuments)
+#include "tst_documents.moc"
