@@ -1,0 +1,6 @@
+#pragma once
+
+class QString;
+
+/// Reads the export, decodes each line from UTF-8 and splits it, as the plainest Qt program does.
+void readByQt(const QString &path);
