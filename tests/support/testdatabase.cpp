@@ -26,19 +26,28 @@ QString text(const QVariant &value)
     return value.isNull() ? QStringLiteral("NULL") : value.toString();
 }
 
-QStringList columns(const QSqlQuery &query)
+/// Calls \a take with each row of a query. The query's record is asked for once: it is made anew
+/// each time.
+template <typename Take> void forEachRow(QSqlQuery &query, Take take)
+{
+    const QSqlRecord record = query.record();
+    while (query.next())
+        take(record);
+}
+
+QStringList columns(const QSqlQuery &query, const QSqlRecord &record)
 {
     QStringList texts;
-    for (int i = 0; i < query.record().count(); ++i)
+    for (int i = 0; i < record.count(); ++i)
         texts += text(query.value(i));
     return texts;
 }
 
-QStringList namedColumns(const QSqlQuery &query)
+QStringList namedColumns(const QSqlQuery &query, const QSqlRecord &record)
 {
     QStringList texts;
-    for (int i = 0; i < query.record().count(); ++i)
-        texts += query.record().fieldName(i) + '=' + text(query.value(i));
+    for (int i = 0; i < record.count(); ++i)
+        texts += record.fieldName(i) + '=' + text(query.value(i));
     return texts;
 }
 
@@ -172,8 +181,7 @@ TableRows TestDatabase::rows(const QString &sql, const char *file, int line)
     TableRows rows;
     QSqlQuery query(m_administrator);
     execute(query, sql, file, line);
-    while (query.next())
-        rows += columns(query);
+    forEachRow(query, [&](const QSqlRecord &record) { rows += columns(query, record); });
     return rows;
 }
 
@@ -191,8 +199,7 @@ TableRows TestDatabase::tableRows(const QString &table, const char *file, int li
     TableRows rows;
     QSqlQuery query(m_administrator);
     execute(query, QStringLiteral("SELECT * FROM `%1`").arg(table), file, line);
-    while (query.next())
-        rows += namedColumns(query);
+    forEachRow(query, [&](const QSqlRecord &record) { rows += namedColumns(query, record); });
     std::sort(rows.begin(), rows.end());
     return rows;
 }

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QSet>
 #include <QtTest>
 
 #include <ctime>
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void initTestCase();
     void thePredictionIsWhatHappens_data();
     void thePredictionIsWhatHappens();
+    void everyKindOfDifferenceWasAmongThem();
 
 private:
     /// The whole content of a database, with moments since the begin of the test as "now".
@@ -52,6 +54,7 @@ private:
 
     PreviewBench m_bench;
     qint64 m_begin = 0;
+    QSet<QString> m_kinds; ///< of the differences so far
 };
 
 void TestPreviewRandom::initTestCase()
@@ -141,6 +144,21 @@ void TestPreviewRandom::tryExport(RandomSite &random)
     site.server().setDatabaseName(ownName);
     QVERIFY2(loaded, qPrintable(site.server().errorString()));
     QCOMPARE(TestDatabase::difference(state(ownName), state(kKept)), QString());
+    for (const PreviewLine &line : preview.lines)
+        m_kinds += PreviewWords::idOf(line.kind);
+}
+
+void TestPreviewRandom::everyKindOfDifferenceWasAmongThem()
+{
+    // Also in a single database, if it has to be.
+    QVERIFY2(m_kinds.contains("new-people") || m_kinds.contains("changed-people"),
+             qPrintable(QStringList(m_kinds.values()).join(' ')));
+    if (environmentNumber(kCount, kQuickCount) < kQuickCount)
+        return;
+    QSet<QString> all;
+    for (const PreviewKind kind : PreviewWords::kinds())
+        all += PreviewWords::idOf(kind);
+    QCOMPARE(QStringList((all - m_kinds).values()), QStringList());
 }
 
 int main(int argc, char **argv)
