@@ -46,11 +46,14 @@ private:
     void explainTerminalsOfPerson();
     void explainCreation();
     void explainPayroll();
+    void explainPayrollSettings();
+    bool hasPayrollSettings(ushort settings);
+    bool isMadeBefore() const;
     void explainTestMode(const char *operation, const char *what);
 
     // Balance and supervisor
     void explainBalance();
-    void explainCorrection();
+    void explainCorrection(quint32 uid);
     void explainSupervisor();
     void explainAdministrator(quint32 aid);
 

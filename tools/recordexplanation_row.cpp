@@ -18,6 +18,8 @@ namespace {
 constexpr char kSelectTerminals[] = "SELECT tid FROM people_term JOIN term USING(tid)"
                                     " WHERE status = 1 AND uid = %1 AND (flags & 2) ORDER BY tid";
 
+constexpr char kSelectPayrollSettings[] = "SELECT id FROM people_pam WHERE uid = %1";
+
 Table fieldTable(const QVector<RowField> &fields)
 {
     Table table{QStringLiteral("fields"),
@@ -171,16 +173,14 @@ void RecordExplanation::explainCreation()
         explainTestMode("dbAddPerson", "add");
         return;
     }
-    const bool isMadeBefore =
-        m_previous && RecordCodes::isActive(*m_previous, QDate::currentDate());
     m_outcome.person =
-        m_context.row || isMadeBefore ? QStringLiteral("merged") : QStringLiteral("created");
+        m_context.row || isMadeBefore() ? QStringLiteral("merged") : QStringLiteral("created");
     if (m_context.row) {
         say(QStringLiteral("The line is merged into the row with the uid %1, which becomes active. "
                            "Relationship state, calendar and branch of the row stay as they are, "
                            "the department becomes 1.")
                 .arg(m_context.uid()));
-    } else if (isMadeBefore) {
+    } else if (isMadeBefore()) {
         say(QStringLiteral("The line is merged into the row that the line before has made."));
     } else {
         say(QStringLiteral("The person is created."));
@@ -202,19 +202,54 @@ void RecordExplanation::explainPayroll()
     } else {
         ExplainText::tell(
             m_context.report, Severity::Warning, "no-payroll-export",
-            QStringLiteral("The person joins no payroll export, since there is not exactly one "
-                           "(%1). The log says: MHRWorker::dbAddPerson(%2) - addPersonIntoPam() "
-                           "FAILED!")
-                .arg(QString::number(exports.size()), m_record.getPamId()),
+            QStringLiteral("The person joins no payroll export, since %1. The log says: "
+                           "MHRWorker::dbAddPerson(%2) - addPersonIntoPam() FAILED!")
+                .arg(exports.size() == 1
+                         ? QStringLiteral("the pid is 0")
+                         : QStringLiteral("there is not exactly one, but %1").arg(exports.size()),
+                     m_record.getPamId()),
             QStringLiteral("Add the person by hand where it is wanted."));
     }
-    const ushort settings = RecordCodes::pamSettingsIdFromTPP(m_record.typPracovnihoPomeru);
-    say(settings == 0
-            ? QStringLiteral("The employment type %1 has no settings of the payroll export.")
-                  .arg(m_record.typPracovnihoPomeru)
-            : QStringLiteral("The employment type %1 gives the settings %2 of the payroll export.")
-                  .arg(m_record.typPracovnihoPomeru)
-                  .arg(settings));
+    explainPayrollSettings();
+}
+
+void RecordExplanation::explainPayrollSettings()
+{
+    const ushort type = m_record.typPracovnihoPomeru;
+    const ushort settings = RecordCodes::pamSettingsIdFromTPP(type);
+    if (settings == 0) {
+        say(QStringLiteral("The employment type %1 has no settings of the payroll export.")
+                .arg(type));
+        return;
+    }
+    say(QStringLiteral("The employment type %1 gives the settings %2 of the payroll export.")
+            .arg(type)
+            .arg(settings));
+    if (!hasPayrollSettings(settings))
+        return;
+    ExplainText::tell(m_context.report, Severity::Note, "payroll-settings-kept",
+                      QStringLiteral("The person has these settings already, which the plugin "
+                                     "takes for a failure. The log says: "
+                                     "MHRWorker::doSyncRecord(%1) - dbAddPersonIntoPam(%2, %3) "
+                                     "FAILED!")
+                          .arg(m_record.getString(false), QString::number(m_record.getPid()),
+                               QString::number(settings)),
+                      QStringLiteral("Nothing is wrong with that."));
+}
+
+bool RecordExplanation::hasPayrollSettings(ushort settings)
+{
+    if (!m_context.row)
+        return isMadeBefore()
+            && RecordCodes::pamSettingsIdFromTPP(m_previous->typPracovnihoPomeru) == settings;
+    const QString select = QString(QLatin1String(kSelectPayrollSettings)).arg(m_context.uid());
+    return m_context.view.sql().value(select) == QString::number(settings);
+}
+
+/// Whether a line before this one has created the person.
+bool RecordExplanation::isMadeBefore() const
+{
+    return m_previous && RecordCodes::isActive(*m_previous, QDate::currentDate());
 }
 
 void RecordExplanation::explainTestMode(const char *operation, const char *what)

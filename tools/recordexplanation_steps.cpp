@@ -33,11 +33,11 @@ void RecordExplanation::explainBalance()
                            "that are still to be calculated. The plugin looks again at the next "
                            "synchronisation that brings the person."));
     } else {
-        explainCorrection();
+        explainCorrection(uid);
     }
 }
 
-void RecordExplanation::explainCorrection()
+void RecordExplanation::explainCorrection(quint32 uid)
 {
     bool loaded = false;
     const int held = m_context.view.worker().loadFundStatusAndMove3(m_context.pid, loaded);
@@ -47,10 +47,11 @@ void RecordExplanation::explainCorrection()
         m_outcome.balance = QStringLiteral("impossible");
         ExplainText::tell(
             m_context.report, Severity::Warning, "balance-not-written",
-            QStringLiteral("The fund holds %1. The correction to %2 days is too "
-                           "large for the fund: the plugin warns and leaves the "
-                           "balance as it is.")
-                .arg(ExplainText::days(held), QString::number(m_record.dovolenaZustatek)),
+            QStringLiteral("The fund holds %1, and no correction leads from there to %2 days. The "
+                           "balance stays, and the log says: MHRWorker::doSyncRecord() - "
+                           "funds_move type (type=3, valeu=%3) not writed for uid %4 (pid: %5)")
+                .arg(ExplainText::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
+                     QString::number(move), QString::number(uid), QString::number(m_context.pid)),
             QStringLiteral("One of the two balances is wrong."));
     } else if (move == 0) {
         m_outcome.balance = QStringLiteral("equal");
