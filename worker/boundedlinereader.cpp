@@ -6,52 +6,67 @@
 
 namespace {
 
-/// The longest line, its line feed and the NUL byte that the device puts behind them.
-constexpr int kBufferSize = BoundedLineReader::kLongestLine + 2;
+constexpr int kBlockSize = 64 * 1024;
+
+/// The longest line and its line feed.
+constexpr int kMostBytes = BoundedLineReader::kLongestLine + 1;
 
 } // namespace
 
 BoundedLineReader::BoundedLineReader(QIODevice &device)
     : m_device(device)
-    , m_buffer(kBufferSize, Qt::Uninitialized)
+    , m_block(kBlockSize, Qt::Uninitialized)
+    , m_line(kMostBytes + 1, '\0')
 {
 }
 
 bool BoundedLineReader::next()
 {
-    for (;;) {
-        if (!read())
-            return false;
-        ++m_lineNumber;
-        if (isComplete() || m_length <= kLongestLine)
-            return true;
-        if (!skipRestOfLine())
-            return false;
+    bool read = readLine();
+    while (read && isTooLong())
+        read = readLine();
+    m_line.data()[m_length] = '\0';
+    return read;
+}
+
+bool BoundedLineReader::isTooLong() const
+{
+    return m_length > kMostBytes || (m_length == kMostBytes && m_line.at(kLongestLine) != '\n');
+}
+
+bool BoundedLineReader::readLine()
+{
+    m_length = 0;
+    bool complete = false;
+    while (!complete && (m_begin < m_end || readBlock())) {
+        const char *const begin = m_block.constData() + m_begin;
+        int count = m_end - m_begin;
+        const void *const lineFeed = std::memchr(begin, '\n', static_cast<std::size_t>(count));
+        complete = lineFeed != nullptr;
+        if (complete)
+            count = static_cast<int>(static_cast<const char *>(lineFeed) - begin) + 1;
+        append(begin, count);
+        m_begin += count;
     }
+    if (m_length == 0)
+        return false;
+    ++m_lineNumber;
+    return true;
 }
 
-bool BoundedLineReader::skipRestOfLine()
+bool BoundedLineReader::readBlock()
 {
-    // In blocks: Qt reads the end of a long line byte by byte, and this one may have gigabytes.
-    for (;;) {
-        const qint64 length = m_device.peek(m_buffer.data(), kBufferSize);
-        if (length <= 0)
-            return false;
-        const char *const begin = m_buffer.constData();
-        const void *const lineFeed = std::memchr(begin, '\n', static_cast<std::size_t>(length));
-        if (lineFeed != nullptr)
-            return m_device.skip(static_cast<const char *>(lineFeed) - begin + 1) > 0;
-        m_device.skip(length);
+    m_begin = 0;
+    m_end = static_cast<int>(qMax<qint64>(m_device.read(m_block.data(), kBlockSize), 0));
+    return m_end > 0;
+}
+
+void BoundedLineReader::append(const char *bytes, int count)
+{
+    if (m_length + count > kMostBytes) {
+        m_length = kMostBytes + 1;
+        return;
     }
-}
-
-bool BoundedLineReader::read()
-{
-    m_length = static_cast<int>(m_device.readLine(m_buffer.data(), kBufferSize));
-    return m_length > 0;
-}
-
-bool BoundedLineReader::isComplete() const
-{
-    return m_buffer.at(m_length - 1) == '\n';
+    std::memcpy(m_line.data() + m_length, bytes, static_cast<std::size_t>(count));
+    m_length += count;
 }

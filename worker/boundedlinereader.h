@@ -16,7 +16,7 @@ public:
     bool next();
 
     /// The current line as read, with its line feed, ended by a NUL byte; valid until next().
-    const char *line() const { return m_buffer.constData(); }
+    const char *line() const { return m_line.constData(); }
 
     /// The bytes of the current line with its line feed. It may itself contain NUL bytes.
     int length() const { return m_length; }
@@ -26,12 +26,16 @@ public:
     qint64 lineNumber() const { return m_lineNumber; }
 
 private:
-    bool skipRestOfLine();
-    bool read();
-    bool isComplete() const;
+    bool readLine();
+    bool readBlock();
+    void append(const char *bytes, int count);
+    bool isTooLong() const;
 
     QIODevice &m_device;
-    QByteArray m_buffer;
-    int m_length = 0;
+    QByteArray m_block; ///< as the device gave it
+    int m_begin = 0; ///< of what is still to be read of the block
+    int m_end = 0; ///< of the block
+    QByteArray m_line;
+    int m_length = 0; ///< of the line; more than the line can hold when it is too long
     qint64 m_lineNumber = 0;
 };
