@@ -15,6 +15,9 @@ test_packages=(chromium libfaketime man-db mandoc)
 # What it takes to make the Debian packages.
 package_packages=(dpkg-dev git)
 
+# What it takes to test them: systemd for its systemd-analyze and systemd-sysusers.
+package_test_packages=(lintian systemd)
+
 fail()
 {
     printf '%s: %s\n' "$script" "$*" >&2
