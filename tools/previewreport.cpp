@@ -6,6 +6,7 @@
 #include "tools/report.h"
 
 #include <QDate>
+#include <QRegularExpression>
 
 #include <set>
 
@@ -22,6 +23,13 @@ Table tableOf(const QVector<PreviewLine> &lines)
     for (const PreviewLine &line : lines)
         table.rows.append({line.who, line.what, line.before, line.after});
     return table;
+}
+
+/// A server's version without the mark that it writes a log.
+QString release(const QString &version)
+{
+    QString text = version;
+    return text.remove(QRegularExpression(QStringLiteral("-log$")));
 }
 
 QString rows(int count)
@@ -123,7 +131,7 @@ void PreviewReport::noteCopy()
                  .arg(schema.namedViews.join(QStringLiteral(", "))),
              QStringLiteral("Look whether the plugin complains above."));
     }
-    if (schema.serverVersion != m_work.copyVersion()) {
+    if (release(schema.serverVersion) != release(m_work.copyVersion())) {
         tell(Severity::Note, "other-server",
              QStringLiteral("The site's server is version %1, the copy was on version %2.")
                  .arg(schema.serverVersion, m_work.copyVersion()),

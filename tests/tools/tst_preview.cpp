@@ -1,0 +1,284 @@
+#include "tests/host/programrun.h"
+#include "tests/sync/sampleexport.h"
+#include "tests/tools/browser.h"
+#include "tests/tools/previewbench.h"
+#include "tests/tools/toolrun.h"
+
+#include <QDir>
+#include <QtTest>
+
+#include <csignal>
+#include <unistd.h>
+
+namespace {
+
+const QString kIni = QStringLiteral("/etc/yav/MirovaHR.ini");
+
+QByteArray content(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(path));
+    return file.readAll();
+}
+
+/// Tells when every process that was started since is gone.
+class Descendants {
+public:
+    Descendants()
+    {
+        if (::pipe(m_pipe) != 0)
+            qFatal("No pipe");
+    }
+    ~Descendants() { ::close(m_pipe[0]); }
+
+    void waitForEnd()
+    {
+        ::close(m_pipe[1]);
+        char byte = 0;
+        while (::read(m_pipe[0], &byte, 1) > 0) { }
+    }
+
+private:
+    int m_pipe[2];
+};
+
+} // namespace
+
+/// The program mirovahrctl with its subcommand preview, from the command line to the files that it
+/// writes and the traces that it leaves.
+class TestPreview : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void thePluginItselfDoesWhatWasPredicted();
+    void theExportStaysAndNoCommandIsRun();
+    void thePageShowsTheDifferences();
+    void whatTheConfigurationHoldsBackIsTold();
+    void theCopyIsGoneAfterASignal_data();
+    void theCopyIsGoneAfterASignal();
+    void aServerProgramThatIsNotInstalledIsNamed();
+    void whatCannotBeUsedIsRefusedAtOnce_data();
+    void whatCannotBeUsedIsRefusedAtOnce();
+    void progressIsShownOnATerminal();
+
+private:
+    QStringList arguments(const QStringList &more = {});
+    /// Runs the program with a folder for temporary files of its own.
+    void run(ProgramRun &program, const QStringList &more = {});
+    QString path(const QString &name) const { return m_bench.filePath(name); }
+    QStringList leftBehind() const;
+
+    PreviewBench m_bench;
+    QTemporaryDir m_temporary;
+};
+
+void TestPreview::initTestCase()
+{
+    QVERIFY2(QFileInfo(QStringLiteral("/etc/.machine")).isDir(),
+             "This test writes to /etc/yav: run it with scripts/private-view.");
+    QVERIFY2(m_bench.start(), qPrintable(m_bench.site().errorString()));
+}
+
+void TestPreview::init()
+{
+    m_bench.site().reset();
+    m_bench.writeIni();
+    m_bench.writeExport({SampleExport::jana().with(&ExportRow::prijmeni, "Malá"),
+                         SampleExport::peter().with(&ExportRow::stredisko, 199)});
+}
+
+void TestPreview::cleanup()
+{
+    QCOMPARE(leftBehind(), QStringList());
+}
+
+QStringList TestPreview::leftBehind() const
+{
+    return QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+}
+
+QStringList TestPreview::arguments(const QStringList &more)
+{
+    return QStringList{"preview", m_bench.exportFile().path()} + m_bench.arguments() + more;
+}
+
+void TestPreview::run(ProgramRun &program, const QStringList &more)
+{
+    program.setVariable("TMPDIR", m_temporary.path());
+    program.run(MIROVAHRCTL, arguments(more));
+}
+
+void TestPreview::thePluginItselfDoesWhatWasPredicted()
+{
+    ProgramRun preview;
+    run(preview, {"--sql", path("preview.sql"), "--log", path("preview.log")});
+    COMPARE_STATUS(preview, 1);
+    QVERIFY2(preview.output().contains("1234.1 Jana Malá"), preview.report().constData());
+
+    QFile::copy(m_bench.iniPath(), kIni);
+    QFile ini(kIni);
+    QVERIFY(ini.open(QIODevice::Append));
+    ini.write("timerInterval=1\n");
+    ini.close();
+    m_bench.site().run("REPLACE INTO vars VALUES ('YAV.MHRWorker.forceSync', '1')");
+    ProgramRun host;
+    QVERIFY(host.run(YAVHOST,
+                     QStringList{MIROVAHR_PLUGIN, "--once", "--debug-level", "3"}
+                         + m_bench.arguments("yav").mid(0, 8)));
+    COMPARE_STATUS(host, 0);
+    ini.remove();
+    const QString moments = "UPDATE people SET edited = 0; UPDATE term_sync SET created = 0";
+    m_bench.site().run(moments);
+    const DatabaseState happened = m_bench.site().dumpAll();
+
+    m_bench.site().reset();
+    QVERIFY2(m_bench.site().server().load(path("preview.sql")),
+             qPrintable(m_bench.site().server().errorString()));
+    m_bench.site().run(moments);
+    QCOMPARE(TestDatabase::difference(happened, m_bench.site().dumpAll()), QString());
+
+    const QString log = QString::fromUtf8(content(path("preview.log")));
+    QVERIFY(log.contains("debug\tMHRWorker: BEGIN synchronization #1 (force: YES)\n"));
+    QVERIFY(log.contains("warning\tMHRWorker: Branch '199' NOT FOUND for employee: '1002.1 "));
+}
+
+void TestPreview::theExportStaysAndNoCommandIsRun()
+{
+    QFile ini(m_bench.iniPath());
+    QVERIFY(ini.open(QIODevice::WriteOnly));
+    ini.write(QStringLiteral("importFile=\"%1\"\ndeleteFile=true\nsyncCommandRun=2\nsyncCommand="
+                             "\"touch %1\"\n")
+                  .arg(path("written"))
+                  .toUtf8());
+    ini.close();
+    const QByteArray before = content(m_bench.exportFile().path());
+    ProgramRun preview;
+    run(preview, {"--json"});
+    COMPARE_STATUS(preview, 1);
+    QCOMPARE(content(m_bench.exportFile().path()), before);
+    QVERIFY(!QFileInfo::exists(path("written")));
+    QVERIFY(preview.output().contains("It was not run: this is the preview of the file as it is."));
+    QVERIFY(preview.output().contains("The plugin would remove the export after reading it."));
+}
+
+void TestPreview::thePageShowsTheDifferences()
+{
+    const ToolRun tool = runTool(arguments({"--json", "--html", path("preview.html")}));
+    COMPARE_EXIT(tool, ExitStatus::Findings);
+    const QJsonObject facts = tool.json().value("facts").toObject();
+    QCOMPARE(facts.value("changed-people").toInt(), 2);
+    QCOMPARE(facts.value("terminals").toInt(), 4);
+    QCOMPARE(facts.value("new-people").toInt(), 0);
+    QCOMPARE(facts.value("pluginWarnings").toInt(), 1);
+    QCOMPARE(tool.rules().join(' '), QString("plugin-warning triggers-hidden"));
+    QCOMPARE(tool.json().value("verdict").toString(),
+             QString("A synchronisation would change %1 rows. The plugin would complain 1 time.")
+                 .arg(facts.value("rows").toInt()));
+
+    Browser browser;
+    const QString dom = browser.dom(path("preview.html"));
+    QVERIFY2(dom.contains("<h2>Changed people</h2>"), qPrintable(dom));
+    QVERIFY(dom.contains("<tr><td data-label=\"Who\">1234.1 Jana Malá</td><td "
+                         "data-label=\"What\">surname</td><td data-label=\"Now\">Nováková</td><td "
+                         "data-label=\"Afterwards\">Malá</td></tr>"));
+    QVERIFY(dom.contains("<h2>What is left out</h2>"));
+    QVERIFY(dom.contains("NOT FOUND for employee"));
+    const QImage phone = browser.picture(path("preview.html"), 500, 1800);
+    QCOMPARE(phone.pixel(495, 900), qRgb(0xff, 0xff, 0xff));
+}
+
+void TestPreview::whatTheConfigurationHoldsBackIsTold()
+{
+    m_bench.writeIni("testMode=1\nenabled=0");
+    const ToolRun tool = runTool(arguments({"--json"}));
+    COMPARE_EXIT(tool, ExitStatus::Findings);
+    QCOMPARE(tool.findingsOf("test-mode").size(), 1);
+    QCOMPARE(tool.findingsOf("disabled").size(), 1);
+}
+
+void TestPreview::theCopyIsGoneAfterASignal_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("interrupted") << SIGINT;
+    QTest::newRow("terminated") << SIGTERM;
+    QTest::newRow("killed") << SIGKILL;
+}
+
+void TestPreview::theCopyIsGoneAfterASignal()
+{
+    QFETCH(int, signal);
+    Descendants descendants;
+    m_bench.site().run("LOCK TABLES people WRITE");
+    ProgramRun preview;
+    preview.setVariable("TMPDIR", m_temporary.path());
+    preview.start(MIROVAHRCTL, arguments());
+    // The copy's server runs when the first table is read.
+    const QString waiting = "SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE USER = "
+                            "'mirovahrctl' AND STATE LIKE 'Waiting for table%'";
+    while (m_bench.site().value(waiting).toInt() == 0) { }
+    QVERIFY(!leftBehind().isEmpty());
+    preview.sendSignal(signal);
+    QVERIFY(preview.waitForEnd());
+    m_bench.site().run("UNLOCK TABLES");
+    COMPARE_STATUS(preview, 128 + signal);
+    descendants.waitForEnd();
+}
+
+void TestPreview::aServerProgramThatIsNotInstalledIsNamed()
+{
+    ProgramRun preview;
+    preview.setVariable("PATH", "/nonexistent");
+    run(preview);
+    COMPARE_STATUS(preview, 3);
+    QVERIFY2(preview.errors().endsWith("is missing: install the package mariadb-server-core.\n"),
+             preview.report().constData());
+    QCOMPARE(preview.output(), QString());
+}
+
+void TestPreview::whatCannotBeUsedIsRefusedAtOnce_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("complaint");
+    const QString ending = m_bench.filePath("nothing/there");
+    QTest::newRow("no export") << QStringList{"preview", ending}
+                               << "There is no file '" + ending + "'.\n";
+    QTest::newRow("no INI file") << arguments({"--config", ending})
+                                 << "There is no file '" + ending + "'.\n";
+    QTest::newRow("no folder for the SQL")
+        << arguments({"--sql", ending})
+        << "'" + ending + "' cannot be written: No such file or directory.\n";
+    QTest::newRow("the SQL over the export")
+        << arguments({"--sql", m_bench.exportFile().path()})
+        << "The result would be written over the export; name another file.\n";
+    QTest::newRow("the log over the export")
+        << arguments({"--log", m_bench.exportFile().path()})
+        << "The result would be written over the export; name another file.\n";
+}
+
+void TestPreview::whatCannotBeUsedIsRefusedAtOnce()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, complaint);
+    if (!arguments.contains("--socket"))
+        arguments += m_bench.arguments();
+    const ToolRun tool = runTool(arguments);
+    COMPARE_EXIT(tool, ExitStatus::Usage);
+    QCOMPARE(tool.err, "mirovahrctl: preview: " + complaint);
+    QCOMPARE(tool.out, QString());
+}
+
+void TestPreview::progressIsShownOnATerminal()
+{
+    const ToolRun tool = runTool(arguments(), true);
+    QVERIFY(tool.err.contains("Copying the database: "));
+    QVERIFY(tool.err.contains("Synchronising the copy: "));
+    QVERIFY(tool.err.endsWith("\r\x1b[K"));
+}
+
+QTEST_GUILESS_MAIN(TestPreview)
+#include "tst_preview.moc"
