@@ -101,7 +101,8 @@ std::optional<ExitStatus> ExplainRun::findExport()
     const QFileInfo info(m_source.exportPath);
     if (!named.isEmpty() && !info.isFile())
         return fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(named));
-    if (!m_line.pagePath().isEmpty() && QFileInfo(m_line.pagePath()) == info) {
+    // Two files that are not there count as the same.
+    if (info.exists() && QFileInfo(m_line.pagePath()) == info) {
         return fail(ExitStatus::Usage,
                     QStringLiteral("The result would be written over the export; name another "
                                    "file"));

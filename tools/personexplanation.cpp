@@ -243,14 +243,8 @@ void PersonExplanation::writeFacts()
 QString PersonExplanation::verdict() const
 {
     const QString name = m_person.name();
-    if (!m_outcome) {
-        const QString where = m_context.row ? QStringLiteral("in the database")
-                                            : QStringLiteral("not in the database");
-        if (m_isFound)
-            return QStringLiteral("The plugin drops the line of %1, who is %2.").arg(name, where);
-        return m_hasExport ? QStringLiteral("%1 is not in the export, and %2.").arg(name, where)
-                           : QStringLiteral("There is no export; %1 is %2.").arg(name, where);
-    }
+    if (!m_outcome)
+        return verdictWithoutRecord();
     QString sentence;
     for (const PersonVerdict &candidate : kVerdicts) {
         if (m_outcome->person == QLatin1String(candidate.person))
@@ -259,4 +253,18 @@ QString PersonExplanation::verdict() const
     if (m_context.report.findingsStatus() == ExitStatus::Findings)
         sentence += QStringLiteral(" Not everything is as it should be.");
     return sentence;
+}
+
+QString PersonExplanation::verdictWithoutRecord() const
+{
+    const QString name = m_person.name();
+    const QString where =
+        m_context.row ? QStringLiteral("in the database") : QStringLiteral("not in the database");
+    if (m_isFound)
+        return QStringLiteral("The plugin drops the line of %1, who is %2.").arg(name, where);
+    if (!m_hasExport)
+        return QStringLiteral("There is no export; %1 is %2.").arg(name, where);
+    return m_context.row
+        ? QStringLiteral("%1 is in the database, but not in the export.").arg(name)
+        : QStringLiteral("%1 is neither in the export nor in the database.").arg(name);
 }

@@ -37,6 +37,7 @@ private:
     void explainMemory();
     void writeFacts();
     QString verdict() const;
+    QString verdictWithoutRecord() const;
 
     const SoughtPerson m_person;
     const ExplainedSource m_source;

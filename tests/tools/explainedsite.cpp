@@ -73,17 +73,12 @@ TableRows ExplainedSite::table(const ToolRun &run, const QString &section, const
                                const QStringList &columns)
 {
     TableRows rows;
-    const QJsonArray tables = sectionOf(run, section).value("tables").toArray();
-    for (const QJsonValue &table : tables) {
-        if (table.toObject().value("id").toString() != id)
-            continue;
-        const QJsonArray all = table.toObject().value("rows").toArray();
-        for (const QJsonValue &row : all) {
-            QStringList cells;
-            for (const QString &column : columns)
-                cells += row.toObject().value(column).toVariant().toString();
-            rows += cells;
-        }
+    const QJsonArray all = sectionOf(run, section).value("tables").toObject().value(id).toArray();
+    for (const QJsonValue &row : all) {
+        QStringList cells;
+        for (const QString &column : columns)
+            cells += row.toObject().value(column).toVariant().toString();
+        rows += cells;
     }
     return rows;
 }

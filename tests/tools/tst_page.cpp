@@ -1,37 +1,12 @@
 #include "tests/support/exportfile.h"
 #include "tests/tools/browser.h"
+#include "tests/tools/pagepicture.h"
 #include "tests/tools/toolrun.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace {
-
-const QRgb kRed = qRgb(0xb3, 0x26, 0x1e); ///< the bar beside a verdict with findings
-const QRgb kGreen = qRgb(0x1d, 0x6b, 0x3a); ///< the bar beside a good one
-const QRgb kTableHead = qRgb(0xee, 0xf1, 0xf5);
-const QRgb kPaper = qRgb(0xff, 0xff, 0xff);
-
-int count(const QImage &picture, QRgb colour)
-{
-    int pixels = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            pixels += picture.pixel(x, y) == colour ? 1 : 0;
-    }
-    return pixels;
-}
-
-bool isEmptyColumn(const QImage &picture, int x)
-{
-    for (int y = 0; y < picture.height(); ++y) {
-        if (picture.pixel(x, y) != kPaper)
-            return false;
-    }
-    return true;
-}
-
-} // namespace
+using namespace PagePicture;
 
 /// The page for HR, as a browser shows it.
 class TestPage : public QObject {

@@ -1,0 +1,958 @@
+#include "tests/sync/sampleexport.h"
+#include "tests/tools/explainedsite.h"
+#include "tools/soughtperson.h"
+#include "worker/mirovaronrecord.h"
+#include "worker/recordcodes.h"
+
+#include <QDir>
+#include <QtTest>
+
+namespace {
+
+QString dayFromToday(int days)
+{
+    return QDate::currentDate().addDays(days).toString(Qt::ISODate);
+}
+
+QString previousMonth()
+{
+    return RecordCodes::firstDayOfPreviousMonth(QDate::currentDate()).toString(Qt::ISODate);
+}
+
+} // namespace
+
+/// explain: what it says of one person, sentence by sentence.
+class TestExplain : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void whomSomebodyAsksFor_data();
+    void whomSomebodyAsksFor();
+    void somebodyElseWithTheSamePidIsThePersonToThePlugin();
+
+    void aPersonWhoArrivesIsFine();
+    void theTextForPeopleIsPlain();
+    void theSectionsComeInTheOrderOfTheDecisions_data();
+    void theSectionsComeInTheOrderOfTheDecisions();
+
+    void sentences_data();
+    void sentences();
+    void findings_data();
+    void findings();
+    void verdicts_data();
+    void verdicts();
+
+    void aLineThatIsDroppedIsToldWithItsRule_data();
+    void aLineThatIsDroppedIsToldWithItsRule();
+    void linesThatNameNobodyAreCounted();
+    void otherRelationshipsAreNamed_data();
+    void otherRelationshipsAreNamed();
+    void severalLinesAreToldOneByOne();
+    void onlyTheFirstLinesOfOnePersonAreLookedAt();
+    void textsLongerThanTheirColumnsAreTold();
+
+    void withoutAnExportTheDatabaseIsTold_data();
+    void withoutAnExportTheDatabaseIsTold();
+    void theExportMayBeNamed();
+    void whatTheDatabaseHolds();
+    void theFieldsAreComparedOneByOne();
+    void theConfigurationIsThatOfTheFile();
+    void withoutAConfigurationThePluginHasItsDefaults();
+
+    void nothingIsWritten_data();
+    void nothingIsWritten();
+
+    void whatMakesNoSenseIsWrongUsage_data();
+    void whatMakesNoSenseIsWrongUsage();
+    void aDatabaseIsNeeded();
+    void thePageIsNotWrittenOverTheExport();
+    void aServerThatIsNotThereIsNoDatabase();
+    void aDatabaseWithoutATableBreaksTheContract_data();
+    void aDatabaseWithoutATableBreaksTheContract();
+
+private:
+    ToolRun explain(const ExportRow &line, const QStringList &more = {});
+    void run(const QStringList &changes);
+
+    TestDatabase m_db;
+    ExplainedSite m_site{m_db};
+};
+
+void TestExplain::initTestCase()
+{
+    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+    m_site.unlockAccount();
+}
+
+void TestExplain::init()
+{
+    m_db.reset();
+    m_site.exportFile().remove();
+    m_site.configure({});
+}
+
+ToolRun TestExplain::explain(const ExportRow &line, const QStringList &more)
+{
+    m_site.exportFile().write({line.text()});
+    return m_site.explain(line.osobniCislo + "." + line.poradoveCisloPP, more);
+}
+
+void TestExplain::run(const QStringList &changes)
+{
+    for (const QString &change : changes)
+        m_db.run(change);
+}
+
+void TestExplain::whomSomebodyAsksFor_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("name"); // empty: nobody
+    QTest::addColumn<quint32>("pid");
+    QTest::newRow("a payroll id") << "1234.1"
+                                  << "1234.1" << 12341u;
+    QTest::newRow("a pid") << "12341"
+                           << "pid 12341" << 12341u;
+    QTest::newRow("the largest pid") << "4294967295"
+                                     << "pid 4294967295" << 4294967295u;
+    QTest::newRow("too large for a pid") << "4294967295.1"
+                                         << "4294967295.1" << 0u;
+    QTest::newRow("leading zeros") << "01234.01"
+                                   << "1234.1" << 12341u;
+    QTest::newRow("nothing") << ""
+                             << "" << 0u;
+    QTest::newRow("zero") << "0"
+                          << "" << 0u;
+    QTest::newRow("no number") << "Jana"
+                               << "" << 0u;
+    QTest::newRow("above 32 bits") << "4294967296"
+                                   << "" << 0u;
+    QTest::newRow("no relationship") << "1234."
+                                     << "" << 0u;
+    QTest::newRow("relationship zero") << "1234.0"
+                                       << "" << 0u;
+    QTest::newRow("no personal number") << ".1"
+                                        << "" << 0u;
+    QTest::newRow("two dots") << "1234.1.1"
+                              << "" << 0u;
+    QTest::newRow("a negative number") << "-5"
+                                       << "" << 0u;
+}
+
+void TestExplain::whomSomebodyAsksFor()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, name);
+    QFETCH(quint32, pid);
+    const auto person = SoughtPerson::parse(text);
+    QCOMPARE(person.has_value(), !name.isEmpty());
+    if (!person)
+        return;
+    QCOMPARE(person->name(), name);
+    QCOMPARE(person->pid(), pid);
+}
+
+void TestExplain::somebodyElseWithTheSamePidIsThePersonToThePlugin()
+{
+    MirovaRonRecord record;
+    record.osobniCislo = 123;
+    record.poradoveCisloPP = 41;
+    QVERIFY(SoughtPerson::parse("1234.1")->matches(record));
+    QVERIFY(SoughtPerson::parse("12341")->matches(record));
+    QVERIFY(!SoughtPerson::parse("1234.2")->matches(record));
+    // With the pid 0 only the very same numbers.
+    record.osobniCislo = 4294967295u;
+    QVERIFY(SoughtPerson::parse("4294967295.41")->matches(record));
+    QVERIFY(!SoughtPerson::parse("4294967294.41")->matches(record));
+}
+
+void TestExplain::aPersonWhoArrivesIsFine()
+{
+    const ToolRun run = explain(SampleExport::jana());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.rules(), QStringList());
+    QCOMPARE(ExplainedSite::facts(run),
+             QJsonObject({{"pid", 12341},
+                          {"uid", 4},
+                          {"person", "updated"},
+                          {"balance", "equal"},
+                          {"supervisor", "none"},
+                          {"branch", "member"},
+                          {"calendar", "kept"},
+                          {"recalculation", previousMonth()},
+                          {"waits", "no"}}));
+    // By pid the same.
+    QCOMPARE(ExplainedSite::facts(m_site.explain("12341")), ExplainedSite::facts(run));
+}
+
+void TestExplain::theTextForPeopleIsPlain()
+{
+    m_site.exportFile().write({SampleExport::newcomer(3301)
+                                   .with(&ExportRow::stredisko, 999)
+                                   .with(&ExportRow::datumNastupu, QDate(2026, 1, 1))
+                                   .with(&ExportRow::kalendarPlatnostOd, QDate(2026, 1, 1))
+                                   .text()});
+    const ToolRun run =
+        runTool(QStringList{"explain", "3301.1", "--config", m_site.configurationPath()}
+                + m_site.connection());
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    const QString file = m_site.exportFile().path();
+    QVERIFY2(run.out.startsWith("What became of 3301.1\n=====================\n\n"
+                                "Configuration\n-------------\n"
+                                "The configuration is that of "
+                                + m_site.configurationPath()
+                                + ".\n\n"
+                                  "Export\n------\n"
+                                  "Line 1 of "
+                                + file
+                                + " is about 3301.1 Eva Malá, pid 33011.\n\n"
+                                  "Database\n--------\n"
+                                  "The database has nobody with the pid 33011.\n\n"
+                                  "Does the person work?\n---------------------\n"
+                                  "Yes: the employment state 1 is below 4, and there is no last "
+                                  "day.\n\n"
+                                  "Is the person created or updated?\n"
+                                  "---------------------------------\n"
+                                  "The person is created.\n"),
+             run.report().constData());
+    QVERIFY2(run.out.contains(
+                 "Which branch and calendar?\n--------------------------\n"
+                 "warning: No branch has the number 999 of the cost centre. The log says: "
+                 "MHRWorker: Branch '999' NOT FOUND for employee: '3301.1 Malá Eva (S: 999, "),
+             run.report().constData());
+    QVERIFY2(run.out.endsWith("Person: created\nVacation balance: none\nSupervisor: none\n"
+                              "Branch: unknown\nCalendar group: none\nRecalculation from: none\n"
+                              "Waits afterwards: yes\n\n"
+                              "A synchronisation creates 3301.1. Not everything is as it should "
+                              "be.\n"),
+             run.report().constData());
+}
+
+void TestExplain::theSectionsComeInTheOrderOfTheDecisions_data()
+{
+    QTest::addColumn<ExportRow>("line");
+    QTest::addColumn<QByteArray>("configuration");
+    QTest::addColumn<QStringList>("sections");
+    const QStringList before{"configuration", "export", "database"};
+    const QStringList after{"memory", "summary"};
+    const auto add = [&](const char *name, const ExportRow &line, const QStringList &steps,
+                         const QByteArray &configuration = {}) {
+        QTest::newRow(name) << line << configuration << before + steps + after;
+    };
+    ExportRow left = SampleExport::jana();
+    left.stavPracovnihoPomeru = "4";
+    add("known", SampleExport::jana(),
+        {"state", "row", "balance", "supervisor", "place", "recalculation"});
+    add("known and left", left, {"state", "row", "balance", "supervisor", "recalculation"});
+    add("new", SampleExport::newcomer(3302), {"state", "row", "supervisor", "place"});
+    add("new in test mode", SampleExport::newcomer(3302), {"state", "row"}, "testMode=1\n");
+    add("new and left", left.with(&ExportRow::osobniCislo, 3303), {"state", "row"});
+    add("dropped", SampleExport::newcomer(3302).with(&ExportRow::titul, "a|b"), {});
+}
+
+void TestExplain::theSectionsComeInTheOrderOfTheDecisions()
+{
+    QFETCH(ExportRow, line);
+    QFETCH(QByteArray, configuration);
+    QFETCH(QStringList, sections);
+    m_site.configure(configuration);
+    QCOMPARE(ExplainedSite::sections(explain(line)), sections);
+}
+
+void TestExplain::sentences_data()
+{
+    QTest::addColumn<ExportRow>("line");
+    QTest::addColumn<QStringList>("changes");
+    QTest::addColumn<QString>("section");
+    QTest::addColumn<QStringList>("sentences");
+
+    using R = ExportRow;
+    using namespace SampleExport;
+    const auto add = [](const char *name, const ExportRow &line, const QString &section,
+                        const QStringList &sentences, const QStringList &changes = {}) {
+        QTest::newRow(name) << line << changes << section << sentences;
+    };
+
+    add("works without a last day", jana(), "state",
+        {"Yes: the employment state 1 is below 4, and there is no last day."});
+    add("works until today", jana().with(&R::datumVystupu, QDate::currentDate()), "state",
+        {"Yes: the employment state 1 is below 4, and the last day, " + dayFromToday(0)
+         + ", is not over."});
+    add("left yesterday", jana().with(&R::datumVystupu, QDate::currentDate().addDays(-1)), "state",
+        {"No: the last day, " + dayFromToday(-1) + ", is over."});
+    add("left by the state", jana().with(&R::stavPracovnihoPomeru, 4), "state",
+        {"No: the employment state 4 means that it has ended, as every state from 4 on."});
+
+    const QString notARs = "The register state 0 is not one of the relationship states of the "
+                           "configuration: a running one ends.";
+    const QString terminal = "The change is queued for terminal 1.";
+    add("nothing differs", jana(), "row",
+        {notARs, "No field differs from the row.",
+         "The row is written all the same: the plugin does not know yet with which codes of "
+         "employment type and register state it was written last.",
+         terminal});
+    add("two fields differ", jana().with(&R::prijmeni, "Malá").with(&R::telefon, "7"), "row",
+        {notARs, "These fields differ from the row: Surname, Phone.", "The row is updated.",
+         terminal});
+    add("the branch differs", jana().with(&R::stredisko, 130), "row",
+        {notARs, "These fields differ from the row: Cost centre.", "The row is updated.",
+         terminal});
+    add("left", jana().with(&R::datumVystupu, QDate(2025, 1, 31)), "row",
+        {notARs, "These fields differ from the row: Last day.", "The row is updated.",
+         "It stays active: the plugin never ends people, it only writes their last day.",
+         terminal});
+    add("a relationship state", jana().with(&R::evidencniStav, 21), "row",
+        {"The register state 21 is a relationship state of the configuration: \"materská\".",
+         "These fields differ from the row: Relationship state from, Relationship state.",
+         "The row is updated.",
+         "Attendance is calculated again from " + dayFromToday(0)
+             + " on, where the relationship state begins.",
+         terminal});
+    add("no terminal", tomas(), "row",
+        {notARs, "No field differs from the row.",
+         "The row is written all the same: the plugin does not know yet with which codes of "
+         "employment type and register state it was written last.",
+         "No active terminal that handles people holds this person: none is told."});
+    add("two terminals", jana(), "row",
+        {notARs, "No field differs from the row.",
+         "The row is written all the same: the plugin does not know yet with which codes of "
+         "employment type and register state it was written last.",
+         "The change is queued for the terminals 1 and 7."},
+        {"INSERT INTO people_term (tid, uid) VALUES (7, 4), (2, 4), (5, 4)"});
+    add("a text that breaks the statement", jana().with(&R::prijmeni, "O'Hara"), "row",
+        {notARs, "These fields differ from the row: Surname.", "The row is updated.", terminal,
+         "But a text of the line, named above, makes the statement fail or write something else. "
+         "When it fails, the steps that follow are taken all the same for a person who is in the "
+         "database already."});
+
+    const auto ifItFails = [](const QString &person) {
+        return "If this fails, the log says why behind \"MHRWorker::dbAddPerson(" + person
+            + ") - SQL ERROR:\", and the plugin does not try again until the line changes or a "
+              "synchronisation is forced.";
+    };
+    const QString selection = "The person joins the selection of the payroll export 1.";
+    const QString later =
+        "The vacation balance of a new person follows at a later synchronisation.";
+    add("new", newcomer(3311), "row",
+        {"The person is created.", ifItFails("3311.1"), selection,
+         "The employment type 11 gives the settings 1 of the payroll export.", later});
+    add("new without settings", newcomer(3312).with(&R::typPracovnihoPomeru, 99), "row",
+        {"The person is created.", ifItFails("3312.1"), selection,
+         "The employment type 99 has no settings of the payroll export.", later});
+    add("comes back", newcomer(1237), "row",
+        {"The line is merged into the row with the uid 7, which becomes active. Relationship "
+         "state, calendar and branch of the row stay as they are, the department becomes 1.",
+         ifItFails("1237.1"), selection,
+         "The employment type 11 gives the settings 1 of the payroll export.", later});
+
+    add("the balance is right", jana(), "balance",
+        {"No: the fund holds 17.50 days, as the export says."});
+    add("the balance is corrected", jana().with(&R::dovolenaZustatek, "17.259"), "balance",
+        {"Yes: the fund holds 17.50 days, and the correction of today is -0.25 days."});
+    add("no fund", jana(), "balance", {"No: there is no vacation fund."},
+        {"DELETE FROM funds WHERE iid = 3"});
+    add("corrected today", jana(), "balance",
+        {"Not today: today's correction is there already. The plugin looks again tomorrow."},
+        {"INSERT INTO funds_move (type, day, month, value, fid, uid) VALUES"
+         " (3, midnightFromTs(UNIX_TIMESTAMP()), 202503, 5, 2, 4)"});
+    const QString notNow =
+        "Not now: the person's attendance is just being calculated, or has days that are still to "
+        "be calculated. The plugin looks again at the next synchronisation that brings the person.";
+    add("days to calculate", jana(), "balance", {notNow},
+        {"UPDATE atten SET ok = -1 WHERE uid = 4 AND man = 1"});
+    add("being calculated", jana(), "balance", {notNow},
+        {"UPDATE people SET calc = UNIX_TIMESTAMP() WHERE uid = 4"});
+
+    add("no supervisor", jana(), "supervisor", {"The line names no supervisor: nothing changes."});
+    add("a type without supervisors",
+        jana().with(&R::nadrizenyOsobniCislo, 1002).with(&R::typPracovnihoPomeru, 51), "supervisor",
+        {"The employment type 51 is not one for which the plugin sets a supervisor: nothing "
+         "changes."});
+    add("the supervisor of now", jana().with(&R::nadrizenyOsobniCislo, 1001), "supervisor",
+        {"Administrator 1, who has the personal number 1001, as now."});
+    add("another supervisor", jana().with(&R::nadrizenyOsobniCislo, 1002), "supervisor",
+        {"Administrator 2, who has the personal number 1002, and nobody else."});
+    add("the supervisor of now and another one", jana().with(&R::nadrizenyOsobniCislo, 1001),
+        "supervisor", {"Administrator 1, who has the personal number 1001, and nobody else."},
+        {"UPDATE admins_people SET request = 1 WHERE uid = 4"});
+
+    add("no cost centre", tomas(), "place",
+        {"The line names no cost centre: neither branch nor calendar is set."});
+    add("as now", jana(), "place",
+        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.",
+         "The calendar 3 is group 13 there.", "It is planned from month 202301 on already."});
+    add("another branch",
+        jana().with(&R::stredisko, 130).with(&R::kalendarPlatnostOd, QDate(2025, 2, 10)), "place",
+        {"The cost centre 130 is branch 2, Predajňa.",
+         "The person joins it at the end of the synchronisation, and stays in every other branch.",
+         "With it come the terminals 4 and 5.", "It has the administrator 2.",
+         "The calendar 3 is group 23 there.", "It is planned from month 202502 on.",
+         "Attendance is calculated again from 2025-02-10 on."});
+    add("a calendar from tomorrow on",
+        jana().with(&R::kalendar, 1).with(&R::kalendarPlatnostOd, QDate::currentDate().addDays(1)),
+        "place",
+        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.",
+         "The calendar 1 is group 11 there.",
+         "It is planned from month " + QDate::currentDate().addDays(1).toString("yyyyMM")
+             + " on."});
+    add("a calendar without a first day", jana().with(&R::kalendarPlatnostOd, ""), "place",
+        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.",
+         "The calendar 3 is group 13 there.", "It is planned from month 0 on.",
+         "All attendance is calculated again, because the start of the calendar is no date."});
+    add("a branch without terminals and administrators", newcomer(3313).with(&R::kalendar, 0),
+        "place",
+        {"The cost centre 120 is branch 1, Sklad.",
+         "The person joins it at the end of the synchronisation, and stays in every other branch.",
+         "No terminal comes with it.", "It has no administrators.", "The line names no calendar."},
+        {"DELETE FROM term", "DELETE FROM bradm"});
+    add("a member without a calendar", jana().with(&R::kalendar, 0), "place",
+        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.",
+         "The line names no calendar.",
+         "There is nothing to be done; the plugin counts the record among the waiting ones all "
+         "the same."});
+    const QString waits = "The record waits: it is tried again as long as this very line arrives.";
+    add("an unknown branch", jana().with(&R::stredisko, 999), "place", {waits});
+    add("an unknown calendar", jana().with(&R::kalendar, 77), "place",
+        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.", waits});
+
+    add("a recalculation for the place", jana(), "recalculation",
+        {"Yes, from " + previousMonth()
+         + " on, because calendar, its start or the cost centre are not those that the plugin "
+           "knows (of the start it knows nothing at first)."});
+    add("a recalculation for the balance", tomas().with(&R::dovolenaZustatek, "1"), "recalculation",
+        {"Yes, from " + previousMonth() + " on, because the balance is corrected."});
+    add("no recalculation", tomas(), "recalculation", {"Not for the place or the balance."});
+
+    add("who is active", jana(), "database",
+        {"The database has the person as uid 4: 1234.1 Jana Nováková, active.",
+         "The row was created on 2019-03-25."});
+    add("who was changed by the plugin", jana(), "database",
+        {"The database has the person as uid 4: 1234.1 Jana Nováková, active.",
+         "The row was created on 2019-03-25. The plugin changed it last, on 2024-05-06."},
+        {"UPDATE people SET edited = UNIX_TIMESTAMP('2024-05-06'), editor = 0 WHERE uid = 4"});
+    add("who was changed by an administrator", jana(), "database",
+        {"The database has the person as uid 4: 1234.1 Jana Nováková, active.",
+         "It is not known when the row was created. An administrator changed it last, on "
+         "2024-05-06."},
+        {"UPDATE people SET created = 0, edited = UNIX_TIMESTAMP('2024-05-06'), editor = 3 WHERE"
+         " uid = 4"});
+    add("who is not active", newcomer(1237), "database",
+        {"The database has the person as uid 7: 1237.1 Štefan Žiak, not active.",
+         "The row was created on 2017-04-24.",
+         "The plugin sees active people only: to it, nobody is there."});
+    add("who is not there", newcomer(3314), "database",
+        {"The database has nobody with the pid 33141."});
+    add("what only the plugin knows", jana(), "memory",
+        {"This is what a plugin does that sees the export for the first time since it was "
+         "started. Later it leaves alone whose line is the same as at the synchronisation before, "
+         "unless the synchronisation is forced, the record waits for its branch, or the balance "
+         "could not be corrected.",
+         "Which lines it has seen stands nowhere but in its memory. If it has seen this very line "
+         "and something failed, nothing happens until the line changes; mirovahrctl force makes "
+         "it take every line anew.",
+         "Whether a statement fails, for lack of rights or otherwise, is not tried out here: see "
+         "preview and check-db."});
+}
+
+void TestExplain::sentences()
+{
+    QFETCH(ExportRow, line);
+    QFETCH(QStringList, changes);
+    QFETCH(QString, section);
+    QFETCH(QStringList, sentences);
+    m_site.configure("[MES]\n21=\"materská\"\n");
+    run(changes);
+    const ToolRun run = explain(line);
+    QCOMPARE(ExplainedSite::sentences(run, section).join('\n'), sentences.join('\n'));
+}
+
+void TestExplain::findings_data()
+{
+    QTest::addColumn<ExportRow>("line");
+    QTest::addColumn<QStringList>("changes");
+    QTest::addColumn<QByteArray>("configuration");
+    QTest::addColumn<QString>("severity");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("message");
+
+    using R = ExportRow;
+    using namespace SampleExport;
+    const auto add = [](const char *rule, const ExportRow &line, const QString &message,
+                        const QStringList &changes = {}, const QByteArray &configuration = {},
+                        const char *severity = "warning", const char *name = "") {
+        QTest::newRow(*name == 0 ? rule : name)
+            << line << changes << configuration << QString(severity) << QString(rule) << message;
+    };
+    add("disabled", jana(),
+        "The plugin is disabled: nobody arrives. What follows holds for when it is enabled.", {},
+        "enabled=0\n");
+    add("test-mode", jana(),
+        "Test mode is on: the rows of people are not written, only what hangs on them.", {},
+        "testMode=1\n");
+    add("left-already", newcomer(3401).with(&R::stavPracovnihoPomeru, 4),
+        "The plugin does not find the person in the database, and who has left is never created. "
+        "It ends here.");
+    add("no-payroll-export", newcomer(3402),
+        "The person joins no payroll export, since there is not exactly one, but 2. The log says: "
+        "MHRWorker::dbAddPerson(3402.1) - addPersonIntoPam() FAILED!",
+        {"INSERT INTO vars (name, value) VALUES ('exportPam.2.active', '0')"});
+    add("payroll-settings-kept", newcomer(1237),
+        "The person has these settings already, which the plugin takes for a failure. The log "
+        "says: MHRWorker::doSyncRecord(1237.1 Malá Eva (S: 120, ",
+        {"INSERT INTO people_pam (uid, id) VALUES (7, 1)"}, {}, "note");
+    add("balance-not-written", jana().with(&R::dovolenaZustatek, "21474836"),
+        "The fund holds -17.50 days, and no correction leads from there to 21474836.00 days. The "
+        "balance stays, and the log says: MHRWorker::doSyncRecord() - funds_move type (type=3, "
+        "valeu=2147483647) not writed for uid 4 (pid: 12341)",
+        {"UPDATE funds_move SET value = -value WHERE uid = 4"});
+    add("supervisor-unknown", jana().with(&R::nadrizenyOsobniCislo, 4711),
+        "No administrator has the personal number 4711 of the supervisor: nothing changes. The "
+        "log says: MHRWorker - admin s osobnym cislom 4711 nebol najdeny!");
+    add("branch-unknown", jana().with(&R::stredisko, 999),
+        "No branch has the number 999 of the cost centre. The log says: MHRWorker: Branch '999' "
+        "NOT FOUND for employee: '1234.1 Nováková Jana (S: 999, ");
+    add("calendar-unknown", jana().with(&R::kalendar, 77),
+        "The branch's master group has no group for the calendar 77. The log says: MHRWorker: "
+        "Group ID NOT found for Branch 120 and calendar 77 [employee: '1234.1 Nováková Jana (S: "
+        "120, ");
+    add("payroll-id-strange", jana(),
+        "The payroll id of the row makes another pid: the plugin does not recognise the person in "
+        "it.",
+        {"UPDATE people SET pamId = '77.7' WHERE uid = 4"});
+    add("payroll-id-strange", newcomer(3403),
+        "An active row with another pid has the payroll id 3403.1. The plugin takes it for this "
+        "person, but writes by pid: it changes nobody, or somebody else.",
+        {"UPDATE people SET pamId = '3403.1' WHERE uid = 4"}, {}, "warning",
+        "another row with the payroll id");
+    add("quote-in-text", jana().with(&R::prijmeni, "O'Hara"), "The text \"O'Hara\" has an", {}, {},
+        "error");
+}
+
+void TestExplain::findings()
+{
+    QFETCH(ExportRow, line);
+    QFETCH(QStringList, changes);
+    QFETCH(QByteArray, configuration);
+    QFETCH(QString, severity);
+    QFETCH(QString, rule);
+    QFETCH(QString, message);
+    m_site.configure(configuration);
+    run(changes);
+    const ToolRun run = explain(line);
+    COMPARE_EXIT(run, severity == "note" ? ExitStatus::Fine : ExitStatus::Findings);
+    const QVector<QJsonObject> found = run.findingsOf(rule);
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.first().value("severity").toString(), severity);
+    QVERIFY2(found.first().value("message").toString().startsWith(message),
+             run.report().constData());
+    QVERIFY(!found.first().value("advice").toString().isEmpty());
+}
+
+void TestExplain::verdicts_data()
+{
+    QTest::addColumn<ExportRow>("line");
+    QTest::addColumn<QByteArray>("configuration");
+    QTest::addColumn<QString>("person");
+    QTest::addColumn<QString>("verdict");
+
+    using R = ExportRow;
+    using namespace SampleExport;
+    const auto add = [](const ExportRow &line, const char *person, const QString &verdict,
+                        const QByteArray &configuration = {}) {
+        QTest::newRow(person) << line << configuration << QString(person) << verdict;
+    };
+    add(newcomer(3501), "created", "A synchronisation creates 3501.1.");
+    add(newcomer(1237), "merged",
+        "A synchronisation brings the row of 1237.1 up to date and makes it active.");
+    add(jana(), "updated", "A synchronisation writes the row of 1234.1.");
+    add(newcomer(3502).with(&R::stavPracovnihoPomeru, 4), "never-created",
+        "3502.1 has left and is not in the database: the plugin never creates the row. Not "
+        "everything is as it should be.");
+    add(newcomer(3503).with(&R::jmeno, "\\"), "uncertain",
+        "A text in the line of 3503.1 keeps the row from being written as it should. Not "
+        "everything is as it should be.");
+    add(newcomer(3504), "test-mode",
+        "Test mode is on: the plugin does not write the row of 3504.1. Not everything is as it "
+        "should be.",
+        "testMode=1\n");
+}
+
+void TestExplain::verdicts()
+{
+    QFETCH(ExportRow, line);
+    QFETCH(QByteArray, configuration);
+    QFETCH(QString, person);
+    QFETCH(QString, verdict);
+    m_site.configure(configuration);
+    const ToolRun run = explain(line);
+    QCOMPARE(ExplainedSite::facts(run).value("person").toString(), person);
+    QCOMPARE(ExplainedSite::verdict(run), verdict);
+}
+
+void TestExplain::aLineThatIsDroppedIsToldWithItsRule_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("rule");
+    QTest::newRow("the number of fields") << SampleExport::jana().text() + "|"
+                                          << "field-count";
+    QTest::newRow("no name")
+        << SampleExport::jana().with(&ExportRow::jmeno, "").with(&ExportRow::prijmeni, "").text()
+        << "no-name";
+    QTest::newRow("cut off") << "1234|1"
+                             << "field-count";
+}
+
+void TestExplain::aLineThatIsDroppedIsToldWithItsRule()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, rule);
+    m_site.exportFile().write({SampleExport::maria().text(), text});
+    const ToolRun run = m_site.explain("1234.1");
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(ExplainedSite::sentences(run, "export"),
+             QStringList("Line 2 of " + m_site.exportFile().path()
+                         + " is about the person, but the plugin drops it."));
+    QCOMPARE(run.rules(), QStringList(rule));
+    QCOMPARE(run.findingsOf(rule).first().value("line").toInt(), 2);
+    QCOMPARE(run.findingsOf(rule).first().value("dropped").toBool(), true);
+    QCOMPARE(ExplainedSite::verdict(run),
+             QString("The plugin drops the line of 1234.1, who is in the database."));
+    QCOMPARE(m_site.explain("12341").rules(), QStringList(rule));
+}
+
+void TestExplain::linesThatNameNobodyAreCounted()
+{
+    m_site.exportFile().write(
+        {SampleExport::maria().text(), "broken", "0|1|x", QString(70000, 'x'), ""});
+    const ToolRun run = m_site.explain("1234.1");
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.rules(), QStringList("not-in-export"));
+    QCOMPARE(
+        ExplainedSite::messages(run),
+        QStringList("None of the 5 lines of " + m_site.exportFile().path() + " is about 1234.1."));
+    QCOMPARE(ExplainedSite::sentences(run, "export"),
+             QStringList("3 lines cannot be read so far as to say whom they are about, and the "
+                         "plugin drops them: see check-file."));
+    QCOMPARE(ExplainedSite::sentences(run, "database").last(),
+             QString("The plugin leaves people alone whom the export does not name: it never ends "
+                     "or removes them."));
+    QCOMPARE(ExplainedSite::verdict(run),
+             QString("1234.1 is in the database, but not in the export."));
+}
+
+void TestExplain::otherRelationshipsAreNamed_data()
+{
+    QTest::addColumn<QString>("person");
+    QTest::addColumn<QStringList>("sentences");
+    QTest::newRow("a payroll id")
+        << "1234.3"
+        << QStringList("Personal number 1234 also stands there as 1234.1 (line 1), 1234.2 (line "
+                       "3).");
+    QTest::newRow("a number without a dot")
+        << "1234"
+        << QStringList("Personal number 1234 also stands there as 1234.1 (line 1), 1234.2 (line "
+                       "3).");
+    QTest::newRow("none") << "1235.1" << QStringList();
+}
+
+void TestExplain::otherRelationshipsAreNamed()
+{
+    QFETCH(QString, person);
+    QFETCH(QStringList, sentences);
+    ExportRow second = SampleExport::jana();
+    second.poradoveCisloPP = "2";
+    m_site.exportFile().write(
+        {SampleExport::jana().text(), SampleExport::maria().text(), second.text()});
+    const ToolRun run = m_site.explain(person);
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(ExplainedSite::sentences(run, "export"), sentences);
+    const bool isKnown = person == "1235.1";
+    QCOMPARE(run.findingsOf("not-in-database").size(), isKnown ? 0 : 1);
+    QCOMPARE(ExplainedSite::verdict(run).endsWith(" is neither in the export nor in the database."),
+             !isKnown);
+}
+
+void TestExplain::severalLinesAreToldOneByOne()
+{
+    const ExportRow jana = SampleExport::jana();
+    ExportRow other = jana;
+    other.osobniCislo = "123";
+    other.poradoveCisloPP = "41";
+    m_site.exportFile().write(
+        {jana.text(), "1234|1", jana.text(), SampleExport::maria().text(), other.text()});
+    const ToolRun run = m_site.explain("1234.1");
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    const QString file = m_site.exportFile().path();
+    QCOMPARE(ExplainedSite::sentences(run, "export"),
+             QStringList({"Line 1 of " + file + " is about 1234.1 Jana Nováková, pid 12341.",
+                          "Line 2 of " + file + " is about the person, but the plugin drops it.",
+                          "Line 3 of " + file + " is about 1234.1 Jana Nováková, pid 12341.",
+                          "Line 5 of " + file + " is about 123.41 Jana Nováková, pid 12341."}));
+    QCOMPARE(run.rules(), QStringList({"duplicate-relationship", "field-count", "pid-clash"}));
+    QCOMPARE(ExplainedSite::sections(run).mid(3),
+             QStringList({"state-line1", "row-line1", "balance-line1", "supervisor-line1",
+                          "place-line1", "recalculation-line1", "repetition-line3", "state-line5",
+                          "row-line5", "balance-line5", "supervisor-line5", "place-line5",
+                          "recalculation-line5", "memory", "summary"}));
+    QCOMPARE(ExplainedSite::sentences(run, "repetition-line3"),
+             QStringList("The line is as the one before: unless the synchronisation is forced, the "
+                         "plugin does nothing more."));
+    QCOMPARE(ExplainedSite::sentences(run, "row-line5").at(1),
+             QString("These fields differ from the row: Personal number, Relationship number."));
+}
+
+void TestExplain::onlyTheFirstLinesOfOnePersonAreLookedAt()
+{
+    m_site.exportFile().write(QVector<ExportRow>(22, SampleExport::jana()));
+    const ToolRun run = m_site.explain("1234.1");
+    const QStringList sentences = ExplainedSite::sentences(run, "export");
+    QCOMPARE(sentences.size(), 21);
+    QCOMPARE(sentences.last(),
+             QString("2 lines more about the same person are not looked at here."));
+}
+
+void TestExplain::textsLongerThanTheirColumnsAreTold()
+{
+    m_db.run("ALTER TABLE people MODIFY surname VARCHAR(9) NOT NULL DEFAULT ''");
+    const ToolRun fits = explain(SampleExport::jana());
+    COMPARE_EXIT(fits, ExitStatus::Fine);
+    const ToolRun run = explain(SampleExport::jana().with(&ExportRow::prijmeni, "Nováková-M"));
+    QCOMPARE(run.rules(), QStringList("text-too-long"));
+    QCOMPARE(ExplainedSite::facts(run).value("person").toString(), QString("uncertain"));
+}
+
+void TestExplain::withoutAnExportTheDatabaseIsTold_data()
+{
+    QTest::addColumn<QByteArray>("configuration");
+    QTest::addColumn<QString>("person");
+    QTest::addColumn<QString>("why");
+    QTest::addColumn<QStringList>("rules");
+    QTest::addColumn<QString>("verdict");
+    QTest::newRow("removed") << QByteArray() << "1234.1"
+                             << ": the plugin removes it after it has read it" << QStringList()
+                             << "There is no export; 1234.1 is in the database.";
+    QTest::newRow("never there") << QByteArray("deleteFile=0\n") << "1234.1"
+                                 << "" << QStringList()
+                                 << "There is no export; 1234.1 is in the database.";
+    QTest::newRow("nowhere") << QByteArray() << "77.1"
+                             << ": the plugin removes it after it has read it"
+                             << QStringList("not-in-database")
+                             << "There is no export; 77.1 is not in the database.";
+}
+
+void TestExplain::withoutAnExportTheDatabaseIsTold()
+{
+    QFETCH(QByteArray, configuration);
+    QFETCH(QString, person);
+    QFETCH(QString, why);
+    QFETCH(QStringList, rules);
+    QFETCH(QString, verdict);
+    m_site.configure(configuration);
+    const ToolRun run = m_site.explain(person);
+    COMPARE_EXIT(run, rules.isEmpty() ? ExitStatus::Fine : ExitStatus::Findings);
+    QCOMPARE(ExplainedSite::sentences(run, "export"),
+             QStringList("There is no export " + m_site.exportFile().path() + why
+                         + ". What follows is from the database only."));
+    QCOMPARE(run.rules(), rules);
+    QCOMPARE(ExplainedSite::verdict(run), verdict);
+    const TableRows fields = ExplainedSite::table(run, "database", "fields", {"field", "database"});
+    QCOMPARE(fields.size(), rules.isEmpty() ? 14 : 0);
+    if (!fields.isEmpty())
+        QCOMPARE(fields.at(4), QStringList({"Surname", "Nováková"}));
+}
+
+void TestExplain::theExportMayBeNamed()
+{
+    ExportFile other;
+    other.write({SampleExport::jana().text()});
+    m_site.exportFile().write({SampleExport::maria().text()});
+    const ToolRun run = m_site.explain("1234.1", {other.path()});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(ExplainedSite::sentences(run, "export"),
+             QStringList("Line 1 of " + other.path()
+                         + " is about 1234.1 Jana Nováková, pid "
+                           "12341."));
+    QVERIFY(other.exists());
+}
+
+void TestExplain::whatTheDatabaseHolds()
+{
+    m_db.run("INSERT INTO brape (bid, uid, since) VALUES (2, 4, 0)");
+    const ToolRun run = explain(SampleExport::jana());
+    QCOMPARE(
+        ExplainedSite::table(run, "database", "held", {"what", "value"}),
+        TableRows({{"Member of branches", "1 Sklad, 2 Predajňa"},
+                   {"Calendar groups and their first months", "11 from 201904, 13 from 202301"},
+                   {"Administrators who get the requests", "1 (personal number 1001)"},
+                   {"Terminals", "1, 3"},
+                   {"Settings of the payroll export", "1"}}));
+    const ToolRun nothing = explain(SampleExport::newcomer(1237));
+    QCOMPARE(ExplainedSite::table(nothing, "database", "held", {"value"}),
+             TableRows(5, QStringList("")));
+}
+
+void TestExplain::theFieldsAreComparedOneByOne()
+{
+    ExportRow line = SampleExport::jana();
+    line.titul = "Mgr.";
+    line.datumVystupu = "2031-05-31 00:00:00.000";
+    line.stredisko = "130";
+    const ToolRun run = explain(line);
+    QCOMPARE(ExplainedSite::table(run, "row", "fields", {"field", "export", "database", "differs"}),
+             TableRows({{"Personal number", "1234", "1234", ""},
+                        {"Relationship number", "1", "1", ""},
+                        {"Title", "Mgr.", "Ing.", "yes"},
+                        {"First name", "Jana", "Jana", ""},
+                        {"Surname", "Nováková", "Nováková", ""},
+                        {"Title after the name", "", "", ""},
+                        {"Phone", "555123456", "555123456", ""},
+                        {"First day", "2019-04-01", "2019-04-01", ""},
+                        {"Last day", "2031-05-31", "", "yes"},
+                        {"Calendar", "3", "3", ""},
+                        {"Cost centre", "130", "120", "yes"},
+                        {"Relationship state from", "", "", ""},
+                        {"Relationship state to", "", "", ""},
+                        {"Relationship state", "", "", ""}}));
+}
+
+void TestExplain::theConfigurationIsThatOfTheFile()
+{
+    m_site.configure("syncCommandRun=1\nsyncCommand=\"/bin/true\"\n");
+    const ToolRun run = explain(SampleExport::jana());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(ExplainedSite::sentences(run, "configuration"),
+             QStringList("The configuration is that of " + m_site.configurationPath() + "."));
+    QCOMPARE(ExplainedSite::sentences(run, "export").first(),
+             QString("The plugin runs its export command first, and may then find another file "
+                     "than this."));
+}
+
+void TestExplain::withoutAConfigurationThePluginHasItsDefaults()
+{
+    const ToolRun run = runTool(QStringList{"explain", "1234.1", "--json"} + m_site.connection());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(ExplainedSite::sentences(run, "configuration"),
+             QStringList("There is no file /etc/yav/MirovaHR.ini here: what follows holds for a "
+                         "plugin with its defaults."));
+    QCOMPARE(ExplainedSite::sentences(run, "export"),
+             QStringList("There is no export /tmp/ron.data: the plugin removes it after it has "
+                         "read it. What follows is from the database only."));
+}
+
+void TestExplain::nothingIsWritten_data()
+{
+    QTest::addColumn<ExportRow>("line");
+    QTest::newRow("as it is") << SampleExport::jana();
+    QTest::newRow("everything different") << SampleExport::jana()
+                                                 .with(&ExportRow::prijmeni, "Malá")
+                                                 .with(&ExportRow::stredisko, 130)
+                                                 .with(&ExportRow::dovolenaZustatek, "1")
+                                                 .with(&ExportRow::nadrizenyOsobniCislo, 1002)
+                                                 .with(&ExportRow::evidencniStav, 21);
+    QTest::newRow("an unknown branch and supervisor")
+        << SampleExport::jana()
+               .with(&ExportRow::stredisko, 999)
+               .with(&ExportRow::nadrizenyOsobniCislo, 4711);
+    QTest::newRow("an unknown calendar in a new branch")
+        << SampleExport::jana().with(&ExportRow::stredisko, 130).with(&ExportRow::kalendar, 77);
+    QTest::newRow("new") << SampleExport::newcomer(3601);
+    QTest::newRow("dropped") << SampleExport::jana().with(&ExportRow::osobniCislo, "0");
+}
+
+void TestExplain::nothingIsWritten()
+{
+    QFETCH(ExportRow, line);
+    const DatabaseState before = m_db.dumpAll();
+    m_db.clearStatements();
+    m_site.exportFile().write({line.text()});
+    const QStringList connections = QSqlDatabase::connectionNames();
+    m_site.explain("12341");
+    m_site.explain(line.osobniCislo + "." + line.poradoveCisloPP);
+    QCOMPARE(QSqlDatabase::connectionNames(), connections);
+    const TableRows statements = m_db.rows(
+        "SELECT CONVERT(argument USING utf8mb4) FROM mysql.general_log WHERE user_host LIKE"
+        " 'mirovahrctl[%' AND command_type IN ('Query', 'Prepare', 'Execute') AND argument NOT"
+        " LIKE 'SET NAMES %' AND argument <> 'SELECT ? + ?'");
+    QVERIFY(statements.size() > 10);
+    for (const QStringList &statement : statements) {
+        QVERIFY2(statement.first().startsWith("SELECT ")
+                     || statement.first() == "SET SESSION TRANSACTION READ ONLY",
+                 qPrintable(statement.first()));
+    }
+    QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
+    QVERIFY(m_site.exportFile().exists());
+}
+
+void TestExplain::whatMakesNoSenseIsWrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("nobody") << QStringList{} << "PERSON is missing; --help explains.";
+    QTest::newRow("no person") << QStringList{
+        "Jana"} << "'Jana' is neither a payroll id such as 1234.1 nor a pid such as 12341.";
+    QTest::newRow("no such export")
+        << QStringList{"1234.1", "/nowhere/file"} << "There is no file '/nowhere/file'.";
+    QTest::newRow("no such configuration")
+        << QStringList{"1234.1", "--config", "/nowhere/ini"} << "There is no file '/nowhere/ini'.";
+    QTest::newRow("too many") << QStringList{"1234.1", "a", "b"} << "'b' is one argument too many.";
+    QTest::newRow("a page that cannot be written")
+        << QStringList{"1234.1", "--html", "/nowhere/page.html"}
+        << "The page '/nowhere/page.html' cannot be written: No such file or directory.";
+}
+
+void TestExplain::whatMakesNoSenseIsWrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, error);
+    const ToolRun run = runTool(QStringList("explain") + arguments + m_site.connection());
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(QString(run.err).remove("explain: "), "mirovahrctl: " + error + '\n');
+    QCOMPARE(run.out, QString());
+}
+
+void TestExplain::aDatabaseIsNeeded()
+{
+    const ToolRun run = runTool({"explain", "1234.1"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QVERIFY2(run.err.startsWith("mirovahrctl: explain: "), run.report().constData());
+}
+
+void TestExplain::thePageIsNotWrittenOverTheExport()
+{
+    const ToolRun run = explain(SampleExport::jana(), {"--html", m_site.exportFile().path()});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err,
+             QString("mirovahrctl: explain: The result would be written over the export; "
+                     "name another file.\n"));
+}
+
+void TestExplain::aServerThatIsNotThereIsNoDatabase()
+{
+    const ToolRun run = runTool({"explain", "1234.1", "--socket", "/nowhere/socket", "--database",
+                                 "tepdb", "--user", "mirovahrctl"});
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QVERIFY2(run.err.startsWith("mirovahrctl: explain: The database cannot be opened: "),
+             run.report().constData());
+}
+
+void TestExplain::aDatabaseWithoutATableBreaksTheContract_data()
+{
+    QTest::addColumn<QString>("table");
+    for (const char *table : {"people", "branches", "funds", "funds_move", "atten", "brape",
+                              "groups_plan", "admins", "term", "people_pam"})
+        QTest::newRow(table) << QString(table);
+}
+
+void TestExplain::aDatabaseWithoutATableBreaksTheContract()
+{
+    QFETCH(QString, table);
+    m_db.hideTable(table);
+    const ToolRun run = explain(SampleExport::jana().with(&ExportRow::nadrizenyOsobniCislo, 1001));
+    COMPARE_EXIT(run, ExitStatus::ContractBroken);
+    QVERIFY2(run.err.startsWith("mirovahrctl: explain: The database "), run.report().constData());
+}
+
+QTEST_GUILESS_MAIN(TestExplain)
+#include "tst_explain.moc"
