@@ -30,8 +30,8 @@ public:
     PreviewWork(const PreviewWork &) = delete;
     PreviewWork &operator=(const PreviewWork &) = delete;
 
-    /// Copies the database; the site's connection is closed again then.
-    std::optional<PreviewRefusal> copy(const DatabaseOptions &site);
+    /// Copies the database that the options name; the connection to it is closed again then.
+    std::optional<PreviewRefusal> copy(const DatabaseOptions &options);
     /// Synchronises the copy. The plugin's whole log goes into \a log, one line a message.
     std::optional<PreviewRefusal> synchronise(const Configuration &configuration,
                                               const QString &exportFile, QIODevice *log);
