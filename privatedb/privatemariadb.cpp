@@ -282,7 +282,8 @@ bool PrivateMariaDb::makeDataDir()
                   QStringList{QStringLiteral("--no-defaults"),
                               QStringLiteral("--auth-root-authentication-method=normal"),
                               QStringLiteral("--skip-test-db"),
-                              QStringLiteral("--skip-name-resolve"),
+                              // Also where the machine cannot look its own name up.
+                              QStringLiteral("--force"),
                               QStringLiteral("--datadir=%1").arg(dataDir())}
                       + accountOptions() + storageOptions());
     if (install.waitForFinished(kInstallTimeoutMs) && install.exitStatus() == QProcess::NormalExit

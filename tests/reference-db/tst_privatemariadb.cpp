@@ -150,6 +150,7 @@ private Q_SLOTS:
     void aSignalEndsTheCommandAndCleansUp_data();
     void aSignalEndsTheCommandAndCleansUp();
     void serverAndCommandDieWithAKilledProgram();
+    void aMachineThatCannotLookItsNameUpWillDo();
     void aMissingDriverNamesThePackage();
 
 private:
@@ -490,6 +491,21 @@ void TestPrivateMariaDb::serverAndCommandDieWithAKilledProgram()
     QVERIFY(server.waitUntilGone());
     // The command holds its output open for as long as it lives.
     QVERIFY(program.waitForFinished(kPatienceMs));
+}
+
+void TestPrivateMariaDb::aMachineThatCannotLookItsNameUpWillDo()
+{
+    // In a private view, where the machine's files only seem to be gone.
+    QProcess program;
+    program.start(PRIVATE_VIEW,
+                  {"sh", "-c",
+                   "rm -f /etc/hosts /etc/nsswitch.conf && echo 'hosts: files' >/etc/nsswitch.conf "
+                   "&& ! getent hosts localhost && exec \"$@\"",
+                   "sh", PRIVATE_MARIADB_PROGRAM, "--", "echo", "The server is up."});
+    QVERIFY(program.waitForFinished(kPatienceMs));
+    QCOMPARE(program.readAllStandardError(), QByteArray());
+    QCOMPARE(program.readAllStandardOutput(), QByteArray("The server is up.\n"));
+    QCOMPARE(program.exitCode(), 0);
 }
 
 void TestPrivateMariaDb::aMissingDriverNamesThePackage()
