@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 void MHRWorker::loadAndParseData()
 {
     if (m_debugLevel > 1)
@@ -70,9 +72,9 @@ void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar 
         return;
     }
 
-    const MirovaRonRecord record = ExportLine::toRecord(parts);
+    MirovaRonRecord record = ExportLine::toRecord(parts);
     if (ExportLine::isUsable(record))
-        m_records.append(record);
+        m_records.append(std::move(record));
 }
 
 QDate MHRWorker::parseDate(const QString &text, const QString &format)

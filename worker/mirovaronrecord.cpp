@@ -2,6 +2,7 @@
 
 #include <QLocale>
 
+#include <limits>
 #include <tuple>
 
 namespace {
@@ -68,8 +69,15 @@ QString longText(const MirovaRonRecord &r)
 
 quint32 MirovaRonRecord::getPid() const
 {
-    const QString digits = QString::number(osobniCislo) + QString::number(poradoveCisloPP);
-    return digits.toUInt(nullptr, 10);
+    constexpr quint64 kMax = std::numeric_limits<quint32>::max();
+    quint64 pid = osobniCislo;
+    quint32 rest = poradoveCisloPP;
+    do {
+        pid *= 10;
+        rest /= 10;
+    } while (rest != 0 && pid <= kMax);
+    pid += poradoveCisloPP;
+    return pid <= kMax ? static_cast<quint32>(pid) : 0;
 }
 
 QString MirovaRonRecord::getPamId() const

@@ -2,6 +2,7 @@
 #include "tests/worker/samplerecord.h"
 #include "worker/mirovaronrecord.h"
 
+#include <QRandomGenerator>
 #include <QVector>
 #include <QtTest>
 
@@ -120,6 +121,7 @@ private Q_SLOTS:
 
     void thePidJoinsTheTwoNumbers_data();
     void thePidJoinsTheTwoNumbers();
+    void thePidIsTheTextOfBothNumbersReadAsOne();
     void thePidFollowsItsNumbers();
     void thePayrollIdHasADotBetweenTheTwoNumbers_data();
     void thePayrollIdHasADotBetweenTheTwoNumbers();
@@ -256,6 +258,21 @@ void TestMirovaRonRecord::thePidJoinsTheTwoNumbers()
     r.osobniCislo = personalNumber;
     r.poradoveCisloPP = relationship;
     QTEST(r.getPid(), "pid");
+}
+
+void TestMirovaRonRecord::thePidIsTheTextOfBothNumbersReadAsOne()
+{
+    QRandomGenerator random(20240317);
+    int fitting = 0;
+    for (int i = 0; i < 200000; ++i) {
+        MirovaRonRecord r;
+        r.osobniCislo = random.generate() >> random.bounded(32);
+        r.poradoveCisloPP = random.generate() >> random.bounded(32);
+        const QString digits = QString::number(r.osobniCislo) + QString::number(r.poradoveCisloPP);
+        QVERIFY2(r.getPid() == digits.toUInt(), qPrintable(digits));
+        fitting += r.getPid() != 0 ? 1 : 0;
+    }
+    QVERIFY(fitting > 50000 && fitting < 150000);
 }
 
 void TestMirovaRonRecord::thePidFollowsItsNumbers()
