@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 /// A positive number of the environment; \a fallback when there is none.
 inline uint environmentNumber(const char *name, uint fallback)
