@@ -29,6 +29,15 @@ const QLatin1String kQueuePerson(
 
 const QLatin1String kMarkTerminals("CALL updateTermsSync(%1, 2);");
 
+/// The entries of a list and one more, separated by commas.
+QString joined(const QVector<QStringRef> &entries, const QString &last)
+{
+    QString list;
+    for (const QStringRef &entry : entries)
+        list += entry + QLatin1Char(',');
+    return list + last;
+}
+
 /// The uid that the statement finds, 0 when it fails or finds none. The caller reports it.
 quint32 findUid(const QSqlDatabase &db, const QString &sql)
 {
@@ -52,14 +61,13 @@ bool MHRWorker::addPersonIntoPam(unsigned int pid)
 
     QString selectionKey = exports.first();
     selectionKey.replace(QLatin1String("active"), QLatin1String("selPeople"));
-    QStringList selection = m_settings->variableGet(selectionKey, QVariant())
-                                .toString()
-                                .split(QLatin1Char(','), Qt::SkipEmptyParts);
+    const QString selection = m_settings->variableGet(selectionKey, QVariant()).toString();
+    // In place: the selection may name everybody, and every new person is looked for in it.
+    const QVector<QStringRef> entries = selection.splitRef(QLatin1Char(','), Qt::SkipEmptyParts);
     const QString entry = QString::number(pid);
-    if (selection.contains(entry))
+    if (entries.contains(QStringRef(&entry)))
         return true;
-    selection.append(entry);
-    return m_settings->variableSet(selectionKey, selection.join(QLatin1Char(',')));
+    return m_settings->variableSet(selectionKey, joined(entries, entry));
 }
 
 bool MHRWorker::dbAddPersonIntoPam(unsigned int pid, unsigned int pamSettingsID)

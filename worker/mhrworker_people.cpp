@@ -44,7 +44,7 @@ const QLatin1String kUpdatePerson(
 /// Personal number and relationship of a payroll id such as "1234.2".
 void setPayrollId(MirovaRonRecord &record, const QString &payrollId)
 {
-    const QStringList parts = payrollId.split(QLatin1Char('.'), Qt::KeepEmptyParts);
+    const QVector<QStringRef> parts = payrollId.splitRef(QLatin1Char('.'), Qt::KeepEmptyParts);
     record.osobniCislo = parts.first().toUInt();
     record.poradoveCisloPP = parts.value(1).toUInt();
 }
