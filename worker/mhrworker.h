@@ -7,6 +7,7 @@
 #include <QMutex>
 #include <QObject>
 #include <QProcess>
+#include <QSet>
 #include <QSqlDatabase>
 #include <QStringList>
 #include <QVector>
@@ -269,6 +270,8 @@ private:
 
     struct Reconciliation;
     void checkFunds(Reconciliation &work);
+    void noteFundRetry(const Reconciliation &work);
+    void remember(quint32 pid, const MirovaRonRecord &rec);
     void compareWithLast(const MirovaRonRecord &rec, Reconciliation &work) const;
     bool reconcile(const MirovaRonRecord &rec, Reconciliation &work);
     bool createPerson(const MirovaRonRecord &rec);
@@ -307,7 +310,7 @@ private:
     QString m_importFile;
     bool m_deleteFileAfterImport = false;
     bool m_force = false; ///< the force flag as read at the start of the tick
-    QHash<quint32, MirovaRonRecord> m_people; ///< pid to the database's view, reloaded each cycle
+    QHash<quint32, MirovaRonRecord> m_people; ///< pid to the database's view, for one cycle
     QMultiHash<quint32, MirovaRonRecord> m_waiting; ///< pid to records that wait for their branch
     TepDbSettings *m_settings = nullptr;
     BranchesRepository *m_branches = nullptr;
@@ -322,5 +325,6 @@ private:
     quint32 m_departmentId = 1;
     quint16 m_vacationFundId = 0; ///< `funds.fid`; 0: no fund, balances are left alone
     QHash<unsigned short, QString> m_mes; ///< register state code to text
-    QHash<quint32, bool> m_fundRetry; ///< pid to: the last cycle could not correct the balance
+    QSet<quint32> m_fundRetry; ///< pids whose balance the last cycle could not correct
+    QSet<QString> m_sharedTexts; ///< the texts that the records remembered in this cycle share
 };

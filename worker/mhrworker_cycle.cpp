@@ -65,6 +65,7 @@ void MHRWorker::reconcileRecords()
         return;
     if (dbLoadPeople()) {
         doSync();
+        m_people.clear(); // the next cycle loads them anew, and it may be hours away
         return;
     }
     qCritical("MHRWorker: load people from TEPDB failed - synchronization terminated!");

@@ -38,6 +38,7 @@ void MHRWorker::doSync()
     const QVector<MirovaRonRecord> records = std::exchange(m_records, {});
     for (const MirovaRonRecord &rec : records)
         doSyncRecord(rec);
+    m_sharedTexts.clear();
     flushBranchMembers();
 }
 
@@ -57,17 +58,19 @@ void MHRWorker::doSyncRecord(const MirovaRonRecord &rec)
 
     Reconciliation work;
     work.pid = rec.getPid();
-    work.active = RecordCodes::isActive(rec, QDate::currentDate());
+    // Asked for where there is a last day only: it costs as much as all the rest of a record that
+    // has not changed.
+    const QDate today = rec.datumVystupu.isValid() ? QDate::currentDate() : QDate();
+    work.active = RecordCodes::isActive(rec, today);
     checkFunds(work);
     compareWithLast(rec, work);
-    if (m_vacationFundId != 0)
-        m_fundRetry.insert(work.pid, !work.fundsWritable);
+    noteFundRetry(work);
 
     const bool written = (work.changed || m_force) && reconcile(rec, work);
     // A changed record is remembered even when writing it failed, so an unchanged line does not
     // try again: only a change of the line or a forced synchronisation does. Sites rely on it.
     if (written || work.changed || !work.active)
-        m_lastRecords.insert(work.pid, rec);
+        remember(work.pid, rec);
 
     if (work.active)
         placeOrWait(rec, work);
@@ -84,7 +87,17 @@ void MHRWorker::checkFunds(Reconciliation &work)
     const bool attendanceAllows = dbCheckAttendance(work.pid, work.uid);
     work.fundsWritable = moveAllowed && attendanceAllows;
     work.checkFunds = work.fundsWritable;
-    work.fundRetry = work.fundsWritable && m_fundRetry.value(work.pid);
+    work.fundRetry = work.fundsWritable && m_fundRetry.contains(work.pid);
+}
+
+void MHRWorker::noteFundRetry(const Reconciliation &work)
+{
+    if (m_vacationFundId == 0)
+        return;
+    if (work.fundsWritable)
+        m_fundRetry.remove(work.pid);
+    else
+        m_fundRetry.insert(work.pid);
 }
 
 void MHRWorker::compareWithLast(const MirovaRonRecord &rec, Reconciliation &work) const
@@ -105,6 +118,16 @@ void MHRWorker::compareWithLast(const MirovaRonRecord &rec, Reconciliation &work
     if (!m_force && !work.fundRetry && rec.dovolenaZustatek == last->dovolenaZustatek)
         work.checkFunds = false;
     work.changed = work.checkFunds || rec != *last;
+}
+
+void MHRWorker::remember(quint32 pid, const MirovaRonRecord &rec)
+{
+    MirovaRonRecord &last = m_lastRecords[pid];
+    last = rec;
+    // Names, titles and cost centres repeat from person to person: one text in memory serves all.
+    for (QString *text :
+         {&last.titul, &last.jmeno, &last.prijmeni, &last.titulZa, &last.strediskoPopis})
+        *text = *m_sharedTexts.insert(*text);
 }
 
 bool MHRWorker::reconcile(const MirovaRonRecord &rec, Reconciliation &work)
