@@ -34,12 +34,11 @@ RecordOutcome RecordExplanation::explain()
     explainState();
     explainRow();
     const bool isThere = m_context.known.has_value();
-    const bool isCreated = !isThere && m_active && !m_context.configuration.testMode;
     if (isThere)
         explainBalance();
-    if (isThere || isCreated)
+    if (hasUid() && (isThere || (m_active && m_outcome.person != QLatin1String("uncertain"))))
         explainSupervisor();
-    if (m_active && (isThere || isCreated))
+    if (hasUid() && m_active)
         explainPlace();
     if (isThere)
         explainRecalculation();
@@ -82,6 +81,13 @@ void RecordExplanation::section(const char *id, const char *heading)
 void RecordExplanation::say(const QString &sentence)
 {
     m_context.report.sentence(sentence);
+}
+
+/// Whether the steps behind that of the row find somebody to write to.
+bool RecordExplanation::hasUid() const
+{
+    return m_context.row || m_outcome.person == QLatin1String("created")
+        || m_outcome.person == QLatin1String("merged");
 }
 
 bool RecordExplanation::isTypeOfSupervisors() const

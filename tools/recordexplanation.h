@@ -72,6 +72,7 @@ private:
     /// them is not found.
     QString placingLog();
     bool isFirstLook() const { return m_previous == nullptr; }
+    bool hasUid() const;
     bool isTypeOfSupervisors() const;
 
     ExplainContext &m_context;

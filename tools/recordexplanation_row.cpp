@@ -65,6 +65,8 @@ void RecordExplanation::explainRow()
     } else if (m_active) {
         explainCreation();
         explainHarmfulText();
+        if (!hasUid())
+            say(QStringLiteral("The steps that follow find nobody to write to, and warn."));
     } else {
         m_outcome.person = QStringLiteral("never-created");
         ExplainText::tell(m_context.report, Severity::Warning, "left-already",
@@ -83,8 +85,7 @@ void RecordExplanation::explainHarmfulText()
         return;
     m_outcome.person = QStringLiteral("uncertain");
     say(QStringLiteral("But a text of the line, named above, makes the statement fail or write "
-                       "something else. When it fails, the steps that follow are taken all the "
-                       "same for a person who is in the database already."));
+                       "something else."));
 }
 
 void RecordExplanation::explainUpdate()

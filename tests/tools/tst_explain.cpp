@@ -40,6 +40,8 @@ private Q_SLOTS:
 
     void sentences_data();
     void sentences();
+    void testModeIsToldWhereItHolds_data();
+    void testModeIsToldWhereItHolds();
     void findings_data();
     void findings();
     void verdicts_data();
@@ -248,6 +250,12 @@ void TestExplain::theSectionsComeInTheOrderOfTheDecisions_data()
     add("known and left", left, {"state", "row", "balance", "supervisor", "recalculation"});
     add("new", SampleExport::newcomer(3302), {"state", "row", "supervisor", "place"});
     add("new in test mode", SampleExport::newcomer(3302), {"state", "row"}, "testMode=1\n");
+    add("not active in test mode", SampleExport::newcomer(1237),
+        {"state", "row", "supervisor", "place"}, "testMode=1\n");
+    add("new with a text that breaks the statement",
+        SampleExport::newcomer(3302).with(&ExportRow::jmeno, "E'va"), {"state", "row"});
+    add("not active, with a text that breaks the statement",
+        SampleExport::newcomer(1237).with(&ExportRow::jmeno, "E'va"), {"state", "row", "place"});
     add("new and left", left.with(&ExportRow::osobniCislo, 3303), {"state", "row"});
     add("dropped", SampleExport::newcomer(3302).with(&ExportRow::titul, "a|b"), {});
 }
@@ -323,9 +331,7 @@ void TestExplain::sentences_data()
         {"INSERT INTO people_term (tid, uid) VALUES (7, 4), (2, 4), (5, 4)"});
     add("a text that breaks the statement", jana().with(&R::prijmeni, "O'Hara"), "row",
         {notARs, "These fields differ from the row: Surname.", "The row is updated.", terminal,
-         "But a text of the line, named above, makes the statement fail or write something else. "
-         "When it fails, the steps that follow are taken all the same for a person who is in the "
-         "database already."});
+         "But a text of the line, named above, makes the statement fail or write something else."});
 
     const auto ifItFails = [](const QString &person) {
         return "If this fails, the log says why behind \"MHRWorker::dbAddPerson(" + person
@@ -341,6 +347,11 @@ void TestExplain::sentences_data()
     add("new without settings", newcomer(3312).with(&R::typPracovnihoPomeru, 99), "row",
         {"The person is created.", ifItFails("3312.1"), selection,
          "The employment type 99 has no settings of the payroll export.", later});
+    add("new with a text that breaks the statement", newcomer(3315).with(&R::jmeno, "E'va"), "row",
+        {"The person is created.", ifItFails("3315.1"), selection,
+         "The employment type 11 gives the settings 1 of the payroll export.", later,
+         "But a text of the line, named above, makes the statement fail or write something else.",
+         "The steps that follow find nobody to write to, and warn."});
     add("comes back", newcomer(1237), "row",
         {"The line is merged into the row with the uid 7, which becomes active. Relationship "
          "state, calendar and branch of the row stay as they are, the department becomes 1.",
@@ -466,6 +477,30 @@ void TestExplain::sentences()
     run(changes);
     const ToolRun run = explain(line);
     QCOMPARE(ExplainedSite::sentences(run, section).join('\n'), sentences.join('\n'));
+}
+
+void TestExplain::testModeIsToldWhereItHolds_data()
+{
+    QTest::addColumn<ExportRow>("line");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("known") << SampleExport::jana()
+                           << "In test mode nothing is written here. From debug level 1 on the log "
+                              "says: MHRWorker::dbUpdatePerson(1234.1) - Testing mode is active, "
+                              "person not really update!";
+    QTest::newRow("not active") << SampleExport::newcomer(1237)
+                                << "In test mode nothing is written here. From debug level 1 on "
+                                   "the log says: MHRWorker::dbAddPerson(1237.1) - Testing mode is "
+                                   "active, person not really add!";
+    QTest::newRow("new") << SampleExport::newcomer(3316)
+                         << "The steps that follow find nobody to write to, and warn.";
+}
+
+void TestExplain::testModeIsToldWhereItHolds()
+{
+    QFETCH(ExportRow, line);
+    QFETCH(QString, last);
+    m_site.configure("testMode=1\n");
+    QCOMPARE(ExplainedSite::sentences(explain(line), "row").last(), last);
 }
 
 void TestExplain::findings_data()

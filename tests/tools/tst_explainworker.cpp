@@ -293,6 +293,11 @@ void TestExplainWorker::whatIsExplainedHappens_data()
     add("somebody who comes back",
         newcomer(1237).with(&R::jmeno, "Štefan").with(&R::prijmeni, "Žiak"),
         "merged none none joins planned no");
+    add("somebody who comes back in test mode", newcomer(1237),
+        "test-mode none none joins planned no", {}, "testMode=1\n");
+    add("somebody who comes back with a text that breaks the statement",
+        newcomer(1237).with(&R::jmeno, "E'va").with(&R::nadrizenyOsobniCislo, 1002),
+        "uncertain none none joins planned no");
     add("somebody who comes back under another name of the row",
         newcomer(1236).with(&R::stredisko, 130), "merged none none member planned no",
         {"UPDATE people SET pamId = 'x' WHERE uid = 6"});
