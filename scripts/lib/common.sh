@@ -12,6 +12,9 @@ project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-ser
 # manual pages.
 test_packages=(chromium libfaketime man-db mandoc)
 
+# What it takes to measure the plugin.
+bench_packages=(binutils gnuplot-nox libmariadb-dev python3-minimal valgrind)
+
 # What it takes to make the Debian packages.
 package_packages=(dpkg-dev git)
 
