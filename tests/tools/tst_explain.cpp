@@ -1,4 +1,5 @@
 #include "tests/sync/sampleexport.h"
+#include "tests/sync/synctest.h"
 #include "tests/tools/explainedsite.h"
 #include "tools/soughtperson.h"
 #include "worker/mirovaronrecord.h"
@@ -989,5 +990,5 @@ void TestExplain::aDatabaseWithoutATableBreaksTheContract()
     QVERIFY2(run.err.startsWith("mirovahrctl: explain: The database "), run.report().constData());
 }
 
-QTEST_GUILESS_MAIN(TestExplain)
+SYNC_TEST_MAIN(TestExplain)
 #include "tst_explain.moc"
