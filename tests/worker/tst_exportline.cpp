@@ -8,7 +8,6 @@
 #include <QDateTime>
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTimeZone>
 #include <QtTest>
 
 #include <cmath>
@@ -158,15 +157,17 @@ private:
     QRandomGenerator m_random;
 };
 
-/// True for a text of the export's form whose moment the zone's clocks skip.
-bool isSkipped(const QString &text, const QByteArray &zone)
+/// True for a text of the export's form whose moment the local clocks skip. It has to be the local
+/// time: after 2037 Qt changes its clocks on the days of 2037, and those of a QTimeZone by the
+/// rules.
+bool isSkipped(const QString &text)
 {
     static const QRegularExpression form(R"(^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3}$)");
     if (!form.match(text).hasMatch())
         return false;
     const QDate date = QDate::fromString(text.left(10), "yyyy-MM-dd");
     const QTime time = QTime::fromString(text.mid(11), "hh:mm:ss.zzz");
-    return date.isValid() && time.isValid() && !QDateTime(date, time, QTimeZone(zone)).isValid();
+    return date.isValid() && time.isValid() && !QDateTime(date, time).isValid();
 }
 
 /// The line of the format's example, with one part replaced.
@@ -593,7 +594,7 @@ void TestExportLine::aTimeThatTheZoneSkipsKeepsItsDate()
     QFETCH(QString, text);
     QFETCH(QDate, date);
     const LocalZone local(zone);
-    QVERIFY(isSkipped(text, zone));
+    QVERIFY(isSkipped(text));
     QCOMPARE(ExportLine::parseDate(text, kFormat), date);
     QCOMPARE(MHRWorker().parseDate(text, kFormat), date);
     QCOMPARE(ExportLine::toRecord(exampleWith(8, text)).datumVystupu, date);
@@ -634,7 +635,7 @@ void TestExportLine::textsAroundAChangeOfTheClocksAreReadAsQtReadsThem()
         const QString text = random.oneIn(3) ? random.mutated(whole) : whole;
         // Only where the clocks skip does it give the day that Qt's parser refuses.
         const QDate expected =
-            isSkipped(text, zone) ? QDate::fromString(text.left(10), "yyyy-MM-dd") : dateOf(text);
+            isSkipped(text) ? QDate::fromString(text.left(10), "yyyy-MM-dd") : dateOf(text);
         QVERIFY2(ExportLine::parseDate(text, kFormat) == expected, qPrintable(text));
     }
 }
@@ -666,7 +667,7 @@ void TestExportLine::randomDatesAreReadAsQtReadsThem()
         const QString whole = random.date(firstYear, lastYear);
         const QString text = random.oneIn(3) ? random.mutated(whole) : whole;
         const QDate read = ExportLine::parseDate(text, kFormat);
-        if (isSkipped(text, zone)) {
+        if (isSkipped(text)) {
             QCOMPARE(read, QDate::fromString(text.left(10), "yyyy-MM-dd"));
             ++skipped;
             continue;
