@@ -1,80 +1,103 @@
-// What a serving worker costs: bench_cycle WHAT ROUNDS [EXPORT...]
+// What a serving worker costs:
 //
-//   idle                        ticks that do not synchronise
-//   unchanged EXPORT WAITING    synchronisations that find nothing changed: without the vacation
-//                               fund, then with the people of WAITING, whose branch is unknown,
-//                               then with the fund; and what the worker holds
-//   changed EXPORT OTHER        synchronisations that go from one to the other and back
+//   bench_cycle idle ROUNDS SECONDS
+//       ticks that do not synchronise
+//   bench_cycle serve ROUNDS SECONDS EXPORT WAITING CHANGED
+//       synchronisations that find nothing changed, without the vacation fund and with it, and with
+//       the people of WAITING, whose branch is unknown; those that go from EXPORT to CHANGED; and
+//       what the worker holds
+//
+// Each comparison makes at most ROUNDS rounds and begins none after SECONDS.
 
 #include "bench/heap.h"
 #include "bench/plainreading.h"
+#include "bench/rounds.h"
 #include "bench/site.h"
 #include "bench/statements.h"
 #include "bench/stopwatch.h"
 #include "worker/mhrworker.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QStringList>
 
 #include <limits>
 
 namespace {
 
+const QLatin1String kNoExport("/nonexistent");
+
 void discard(QtMsgType, const QMessageLogContext &, const QString &) { }
 
 class Bench {
 public:
-    explicit Bench(int rounds);
+    Bench(int rounds, int seconds);
 
     void idle();
-    void unchanged(const QString &path, const QString &waiting);
-    void changed(const QString &path, const QString &other);
+    void serve(const QString &path, const QString &waiting, const QString &changed);
 
 private:
-    /// A worker that synchronises at every tick and knows the people of the export.
-    void serve(const QString &path);
-    void tick(const QString &path);
-    Statements statementsOf(const QString &path);
-    void compareUnchanged(const char *what, const QString &path);
+    void learnPeople(const QString &path);
     void tellMemory(const QString &path);
+    void makeFund();
+    void compareUnchanged(const char *what, const QString &path);
+    void compareChanged(const QString &path, const QString &changed);
+
+    /// Ticks once, with this export.
+    void tick(const QString &path);
+    /// What a tick with this export sends.
+    Statements statementsOf(const char *what, const QString &path);
+
+    // The three that are compared. Without an export nothing is read.
+    void measurePlugin(const char *what, const QString &path);
+    void measureQt(const char *what, const QString &path, const Statements &statements);
+    void measureC(const char *what, const QString &path, const Statements &statements);
+
+    Rounds rounds() const { return Rounds(m_rounds, m_seconds); }
 
     const int m_rounds;
+    const int m_seconds;
     Site m_site;
     MHRWorker m_worker;
     Heap m_before;
 };
 
-Bench::Bench(int rounds)
+Bench::Bench(int rounds, int seconds)
     : m_rounds(rounds)
+    , m_seconds(seconds)
 {
-    m_before = Heap::now();
     m_worker.setTepDb(m_site.host());
     m_worker.init();
-    m_worker.setImportFile(QStringLiteral("/nonexistent"));
     m_worker.setSyncInterval(std::numeric_limits<unsigned int>::max());
-    m_worker.checkSync(); // the first tick always synchronises
+    tick(kNoExport); // the first tick always synchronises
+    m_before = Heap::now();
 }
 
 void Bench::idle()
 {
-    const Statements statements = statementsOf(QStringLiteral("/nonexistent"));
-    for (int round = 0; round < m_rounds; ++round) {
-        {
-            const Stopwatch run("idle", "plugin");
-            m_worker.checkSync();
-        }
-        {
-            const Stopwatch run("idle", "qt");
-            statements.sendByQt(m_site.host());
-        }
-        {
-            const Stopwatch run("idle", "c");
-            statements.sendByPlainClient(m_site.plain());
-        }
+    const Statements statements = statementsOf("idle", kNoExport);
+    for (Rounds some = rounds(); some.next();) {
+        measurePlugin("idle", kNoExport);
+        measureQt("idle", QString(), statements);
+        measureC("idle", QString(), statements);
     }
 }
 
-void Bench::serve(const QString &path)
+void Bench::serve(const QString &path, const QString &waiting, const QString &changed)
+{
+    learnPeople(path);
+    tellMemory(path);
+    compareUnchanged("unchanged", path);
+    tick(waiting);
+    compareUnchanged("waiting", waiting);
+    tick(path);
+    compareChanged(path, changed);
+    makeFund();
+    tick(path);
+    compareUnchanged("funds", path);
+}
+
+void Bench::learnPeople(const QString &path)
 {
     m_worker.setSyncInterval(1);
     // The first look at everybody writes much; in test mode less, and the worker knows as much.
@@ -84,94 +107,84 @@ void Bench::serve(const QString &path)
     tick(path);
 }
 
+void Bench::tellMemory(const QString &path)
+{
+    const Heap between = Heap::now();
+    Heap::forgetPeak();
+    tick(path);
+    std::printf("memory,%lld,%lld,%lld\n", between.allocated - m_before.allocated,
+                between.resident - m_before.resident, Heap::now().peak - m_before.resident);
+}
+
+void Bench::makeFund()
+{
+    m_site.administer(QStringLiteral("INSERT INTO funds (iid, unit) VALUES (3, 2)"));
+    m_site.administer(QStringLiteral(
+        "INSERT INTO funds_move (type, day, month, value, fid, uid) SELECT 1, 1577833200, 202001, "
+        "1250, LAST_INSERT_ID(), uid FROM people"));
+}
+
+void Bench::compareUnchanged(const char *what, const QString &path)
+{
+    const Statements statements = statementsOf(what, path);
+    for (Rounds some = rounds(); some.next();) {
+        measurePlugin(what, path);
+        measureQt(what, path, statements);
+        measureC(what, path, statements);
+    }
+}
+
+void Bench::compareChanged(const QString &path, const QString &changed)
+{
+    // What is written only once (new members of branches) is written now.
+    tick(changed);
+    tick(path);
+    const Statements there = statementsOf("changed", changed);
+    const Statements back = statementsOf("changed back", path);
+    for (Rounds some = rounds(); some.next();) {
+        measurePlugin("changed", changed);
+        tick(path);
+        measureQt("changed", changed, there);
+        back.sendByQt(m_site.host());
+        measureC("changed", changed, there);
+        back.sendByQt(m_site.host());
+    }
+}
+
 void Bench::tick(const QString &path)
 {
     m_worker.setImportFile(path);
     m_worker.checkSync();
 }
 
-Statements Bench::statementsOf(const QString &path)
+Statements Bench::statementsOf(const char *what, const QString &path)
 {
     const Statements statements = Statements::recorded(m_site, [&] { tick(path); });
-    std::printf("statements,%d\n", statements.count());
+    std::printf("statements,%s,%d\n", what, statements.count());
     return statements;
 }
 
-void Bench::compareUnchanged(const char *what, const QString &path)
+void Bench::measurePlugin(const char *what, const QString &path)
 {
-    const Statements statements = statementsOf(path);
-    for (int round = 0; round < m_rounds; ++round) {
-        {
-            const Stopwatch run(what, "plugin");
-            tick(path);
-        }
-        {
-            const Stopwatch run(what, "qt");
-            readByQt(path);
-            statements.sendByQt(m_site.host());
-        }
-        {
-            const Stopwatch run(what, "c");
-            plain_read_file(path.toLocal8Bit());
-            statements.sendByPlainClient(m_site.plain());
-        }
-    }
+    const Stopwatch run(what, "plugin");
+    tick(path);
 }
 
-void Bench::unchanged(const QString &path, const QString &waiting)
+void Bench::measureQt(const char *what, const QString &path, const Statements &statements)
 {
-    serve(path);
-    tellMemory(path);
-    compareUnchanged("unchanged", path);
-    tick(waiting);
-    compareUnchanged("unchanged, waiting", waiting);
-    tick(path);
-    m_site.administer(QStringLiteral("INSERT INTO funds (iid, unit) VALUES (3, 2)"));
-    m_site.administer(QStringLiteral(
-        "INSERT INTO funds_move (type, day, month, value, fid, uid) SELECT 1, 1577833200, 202001, "
-        "1250, LAST_INSERT_ID(), uid FROM people"));
-    tick(path);
-    compareUnchanged("unchanged, with funds", path);
+    const Stopwatch run(what, "qt");
+    if (!path.isEmpty())
+        readByQt(path);
+    statements.sendByQt(m_site.host());
 }
 
-void Bench::tellMemory(const QString &path)
+void Bench::measureC(const char *what, const QString &path, const Statements &statements)
 {
-    const Heap between = Heap::now();
-    Heap::forgetPeak();
-    tick(path);
-    const Heap after = Heap::now();
-    std::printf("memory,%lld,%lld,%lld,%lld\n", between.allocated - m_before.allocated,
-                after.allocated - m_before.allocated, between.resident - m_before.resident,
-                after.peak - m_before.resident);
-}
-
-void Bench::changed(const QString &path, const QString &other)
-{
-    serve(path);
-    // What is written only once (new members of branches) is written now.
-    tick(other);
-    tick(path);
-    const Statements there = statementsOf(other);
-    const Statements back = statementsOf(path);
-    for (int round = 0; round < m_rounds; ++round) {
-        {
-            const Stopwatch run("changed", "plugin");
-            tick(other);
-        }
-        tick(path);
-        {
-            const Stopwatch run("changed", "qt");
-            readByQt(other);
-            there.sendByQt(m_site.host());
-        }
-        back.sendByQt(m_site.host());
-        {
-            const Stopwatch run("changed", "c");
-            plain_read_file(other.toLocal8Bit());
-            there.sendByPlainClient(m_site.plain());
-        }
-        back.sendByPlainClient(m_site.plain());
-    }
+    const QByteArray file = QFile::encodeName(path);
+    const Stopwatch run(what, "c");
+    if (!file.isEmpty())
+        plain_read_file(file);
+    statements.sendByPlainClient(m_site.plain());
 }
 
 } // namespace
@@ -180,15 +193,14 @@ int main(int argc, char *argv[])
 {
     qInstallMessageHandler(discard);
     const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
-    Bench bench(arguments.value(1).toInt());
-    if (arguments.value(0) == QLatin1String("idle"))
+    const QStringList arguments = QCoreApplication::arguments();
+    const QString what = arguments.value(1);
+    Bench bench(arguments.value(2).toInt(), arguments.value(3).toInt());
+    if (what == QLatin1String("idle") && argc == 4)
         bench.idle();
-    else if (arguments.value(0) == QLatin1String("unchanged"))
-        bench.unchanged(arguments.value(2), arguments.value(3));
-    else if (arguments.value(0) == QLatin1String("changed"))
-        bench.changed(arguments.value(2), arguments.value(3));
+    else if (what == QLatin1String("serve") && argc == 7)
+        bench.serve(arguments.at(4), arguments.at(5), arguments.at(6));
     else
-        giveUp(QStringLiteral("bench_cycle idle|unchanged|changed ROUNDS [EXPORT...]"));
+        giveUp(QStringLiteral("bench_cycle idle|serve ROUNDS SECONDS [EXPORT WAITING CHANGED]"));
     return 0;
 }

@@ -1,7 +1,9 @@
 // The first synchronisation of a database without people, each in a program of its own:
 //
-//   bench_load record EXPORT STATEMENTS    the plugin; writes down what it sends
-//   bench_load plugin|qt|c EXPORT STATEMENTS
+//   bench_load record WHAT EXPORT STATEMENTS    the plugin; writes down what it sends
+//   bench_load plugin|qt|c WHAT EXPORT STATEMENTS
+//
+// WHAT is the name under which the runs are printed.
 
 #include "bench/plainreading.h"
 #include "bench/site.h"
@@ -23,35 +25,35 @@ void setUp(MHRWorker &worker, const Site &site, const QString &path)
     worker.setImportFile(path);
 }
 
-void record(const Site &site, const QString &path, const QString &file)
+void record(const Site &site, const char *what, const QString &path, const QString &file)
 {
     MHRWorker worker;
     setUp(worker, site, path);
     const Statements statements = Statements::recorded(site, [&] { worker.checkSync(); });
     statements.save(file);
-    std::printf("statements,%d\n", statements.count());
+    std::printf("statements,%s,%d\n", what, statements.count());
 }
 
-void loadByPlugin(const Site &site, const QString &path)
+void loadByPlugin(const Site &site, const char *what, const QString &path)
 {
     MHRWorker worker;
     setUp(worker, site, path);
-    const Stopwatch run("load", "plugin");
+    const Stopwatch run(what, "plugin");
     worker.checkSync();
 }
 
-void loadByQt(const Site &site, const QString &path, const QString &file)
+void loadByQt(const Site &site, const char *what, const QString &path, const QString &file)
 {
     const Statements statements = Statements::loaded(file);
-    const Stopwatch run("load", "qt");
+    const Stopwatch run(what, "qt");
     readByQt(path);
     statements.sendByQt(site.host());
 }
 
-void loadByPlainClient(const Site &site, const QString &path, const QString &file)
+void loadByPlainClient(const Site &site, const char *what, const QString &path, const QString &file)
 {
     const Statements statements = Statements::loaded(file);
-    const Stopwatch run("load", "c");
+    const Stopwatch run(what, "c");
     plain_read_file(path.toLocal8Bit());
     statements.sendByPlainClient(site.plain());
 }
@@ -63,17 +65,17 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(discard);
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 4)
-        giveUp(QStringLiteral("bench_load record|plugin|qt|c EXPORT STATEMENTS"));
+    if (argc != 5)
+        giveUp(QStringLiteral("bench_load record|plugin|qt|c WHAT EXPORT STATEMENTS"));
     const Site site;
     const QString &who = arguments.at(1);
     if (who == QLatin1String("record"))
-        record(site, arguments.at(2), arguments.at(3));
+        record(site, argv[2], arguments.at(3), arguments.at(4));
     else if (who == QLatin1String("plugin"))
-        loadByPlugin(site, arguments.at(2));
+        loadByPlugin(site, argv[2], arguments.at(3));
     else if (who == QLatin1String("qt"))
-        loadByQt(site, arguments.at(2), arguments.at(3));
+        loadByQt(site, argv[2], arguments.at(3), arguments.at(4));
     else
-        loadByPlainClient(site, arguments.at(2), arguments.at(3));
+        loadByPlainClient(site, argv[2], arguments.at(3), arguments.at(4));
     return 0;
 }

@@ -1,7 +1,8 @@
-// Reading the export: bench_reading FILE ROUNDS
+// Reading the export: bench_reading FILE ROUNDS SECONDS
 
 #include "bench/plainclient.h"
 #include "bench/plainreading.h"
+#include "bench/rounds.h"
 #include "bench/site.h"
 #include "bench/stopwatch.h"
 #include "worker/mhrworker.h"
@@ -26,11 +27,11 @@ void readByPlugin(const QString &path)
 
 int main(int argc, char *argv[])
 {
-    if (argc != 3)
-        giveUp(QStringLiteral("bench_reading FILE ROUNDS"));
+    if (argc != 4)
+        giveUp(QStringLiteral("bench_reading FILE ROUNDS SECONDS"));
     const QString path = QFile::decodeName(argv[1]);
-    const int rounds = QByteArray(argv[2]).toInt();
-    for (int round = 0; round < rounds; ++round) {
+    Rounds rounds(QByteArray(argv[2]).toInt(), QByteArray(argv[3]).toInt());
+    while (rounds.next()) {
         readByPlugin(path);
         {
             const Stopwatch run("reading", "qt");

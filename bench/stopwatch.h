@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <string>
 
 #include <valgrind/callgrind.h>
 
@@ -26,6 +27,8 @@ public:
         const std::chrono::duration<double> wall = Clock::now() - m_wall;
         std::printf("run,%s,%s,%.9f,%.9f\n", m_what, m_who, wall.count(), cpuSeconds() - m_cpu);
         std::fflush(stdout);
+        const std::string name = std::string(m_what) + ' ' + m_who;
+        CALLGRIND_DUMP_STATS_AT(name.c_str());
     }
 
     Stopwatch(const Stopwatch &) = delete;
