@@ -2,6 +2,7 @@
 
 #include "worker/mhrworker.h"
 
+#include "db/sqlstatement.h"
 #include "worker/recordcodes.h"
 #include "worker/sqlreport.h"
 
@@ -141,23 +142,13 @@ bool MHRWorker::dbAddPerson(const MirovaRonRecord &rec)
         return true;
     }
 
-    const QString sql = QString(kInsertPerson)
-                            .arg(rec.getPid())
-                            .arg(payrollId)
-                            .arg(rec.titul)
-                            .arg(rec.jmeno)
-                            .arg(rec.prijmeni)
-                            .arg(rec.titulZa)
-                            .arg(rec.telefon)
-                            .arg(personBeginForSql(rec.datumNastupu))
-                            .arg(personEndForSql(rec.datumVystupu, true))
-                            .arg(personEndForSql(rec.rsFrom, false))
-                            .arg(personEndForSql(rec.rsTo, false))
-                            .arg(rec.rsText)
-                            .arg(employmentTypeFromTPP(rec.typPracovnihoPomeru))
-                            .arg(departmentIdForSql())
-                            .arg(rec.kalendar)
-                            .arg(branchIdForSql(rec.stredisko));
+    const QString sql = SqlStatement::filled(
+        kInsertPerson,
+        {QString::number(rec.getPid()), payrollId, rec.titul, rec.jmeno, rec.prijmeni, rec.titulZa,
+         rec.telefon, personBeginForSql(rec.datumNastupu), personEndForSql(rec.datumVystupu, true),
+         personEndForSql(rec.rsFrom, false), personEndForSql(rec.rsTo, false), rec.rsText,
+         QString::number(employmentTypeFromTPP(rec.typPracovnihoPomeru)), departmentIdForSql(),
+         QString::number(rec.kalendar), branchIdForSql(rec.stredisko)});
     QSqlQuery query(m_db);
     if (!query.exec(sql)) {
         qCritical("MHRWorker::dbAddPerson(%s) - SQL ERROR: %s", qUtf8Printable(payrollId),
@@ -202,25 +193,23 @@ QString MHRWorker::updateStatement(const MirovaRonRecord &rec, bool esChanged) c
 {
     // A new relationship state moves the last calculation back to the day before its first one.
     const bool recalculate = esChanged && rec.rsFrom.isValid();
-    QString sql = QString(recalculate ? kUpdatePersonAndLastCalc : kUpdatePerson)
-                      .arg(rec.getPamId())
-                      .arg(rec.titul)
-                      .arg(rec.jmeno)
-                      .arg(rec.prijmeni)
-                      .arg(rec.titulZa)
-                      .arg(rec.telefon)
-                      .arg(personBeginForSql(rec.datumNastupu))
-                      .arg(personEndForSql(rec.datumVystupu, true))
-                      .arg(rec.getPid())
-                      .arg(personEndForSql(rec.rsFrom, false))
-                      .arg(personEndForSql(rec.rsTo, false))
-                      .arg(rec.rsText);
+    QStringList values = {rec.getPamId(),
+                          rec.titul,
+                          rec.jmeno,
+                          rec.prijmeni,
+                          rec.titulZa,
+                          rec.telefon,
+                          personBeginForSql(rec.datumNastupu),
+                          personEndForSql(rec.datumVystupu, true),
+                          QString::number(rec.getPid()),
+                          personEndForSql(rec.rsFrom, false),
+                          personEndForSql(rec.rsTo, false),
+                          rec.rsText};
     if (recalculate)
-        sql = sql.arg(RecordCodes::midnight32(rec.rsFrom.addDays(-1)));
-    return sql.arg(employmentTypeFromTPP(rec.typPracovnihoPomeru))
-        .arg(departmentIdForSql())
-        .arg(rec.kalendar)
-        .arg(branchIdForSql(rec.stredisko));
+        values += QString::number(RecordCodes::midnight32(rec.rsFrom.addDays(-1)));
+    values += {QString::number(employmentTypeFromTPP(rec.typPracovnihoPomeru)),
+               departmentIdForSql(), QString::number(rec.kalendar), branchIdForSql(rec.stredisko)};
+    return SqlStatement::filled(recalculate ? kUpdatePersonAndLastCalc : kUpdatePerson, values);
 }
 
 QString MHRWorker::departmentIdForSql() const

@@ -1,0 +1,92 @@
+#include "db/sqlstatement.h"
+
+#include <QRandomGenerator>
+#include <QtTest>
+
+namespace {
+
+QString chained(QLatin1String sql, const QStringList &values)
+{
+    QString text = sql;
+    for (const QString &value : values)
+        text = text.arg(value);
+    return text;
+}
+
+const QLatin1String kSixteen("A('%1', '%2', '%3', '%4', '%5', '%6', '%7', %8, %9, %10, %11, '%12', "
+                             "%13, %14, %15, %16) B=VALUES(b)");
+const QLatin1String kOutOfOrder("a=%1, b='%2', c=%4, d='%5', e=%6 WHERE f=%3");
+
+} // namespace
+
+class TestSqlStatement : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theValuesTakeThePlacesOfTheirNumbers_data();
+    void theValuesTakeThePlacesOfTheirNumbers();
+    void randomValuesAreFilledInAsByAChain_data();
+    void randomValuesAreFilledInAsByAChain();
+};
+
+void TestSqlStatement::theValuesTakeThePlacesOfTheirNumbers_data()
+{
+    QTest::addColumn<QString>("sql");
+    QTest::addColumn<QStringList>("values");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("none") << "SELECT 1" << QStringList() << "SELECT 1";
+    QTest::newRow("one") << "WHERE pid=%1" << QStringList{"7"} << "WHERE pid=7";
+    QTest::newRow("only a place") << "%1" << QStringList{"7"} << "7";
+    QTest::newRow("twice the same") << "%1 > %1;" << QStringList{"7"} << "7 > 7;";
+    QTest::newRow("out of order") << "a='%2' WHERE b=%1" << QStringList{"1", "x"}
+                                  << "a='x' WHERE b=1";
+    QTest::newRow("an empty value") << "a='%1'" << QStringList{""} << "a=''";
+    QTest::newRow("two digits and one more")
+        << "%1%2%3%4%5%6%7%8%9%101" << QStringList{"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"}
+        << "abcdefghij1";
+    QTest::newRow("a value with a mark") << "'%1', %2" << QStringList{"100 %", "7"} << "'100 %', 7";
+    // As ever: what looks like a place is one, wherever it came from.
+    QTest::newRow("a value with a place") << "'%1', %2" << QStringList{"%2", "7"} << "'7', 7";
+}
+
+void TestSqlStatement::theValuesTakeThePlacesOfTheirNumbers()
+{
+    QFETCH(QString, sql);
+    QFETCH(QStringList, values);
+    const QByteArray bytes = sql.toLatin1();
+    QTEST(SqlStatement::filled(QLatin1String(bytes), values), "text");
+}
+
+void TestSqlStatement::randomValuesAreFilledInAsByAChain_data()
+{
+    QTest::addColumn<QString>("sql");
+    QTest::addColumn<int>("count");
+    QTest::newRow("sixteen") << QString(kSixteen) << 16;
+    QTest::newRow("out of order") << QString(kOutOfOrder) << 6;
+}
+
+void TestSqlStatement::randomValuesAreFilledInAsByAChain()
+{
+    QFETCH(QString, sql);
+    QFETCH(int, count);
+    const QByteArray bytes = sql.toLatin1();
+    const QLatin1String statement(bytes);
+    const QStringList pieces = {"%", "%1", "%2", "%9", "%12", "%L3", "1",
+                                "0", "'",  "Á",  " ",  "abc", "",    "\U0001F600"};
+    QRandomGenerator random(20240319);
+    for (int i = 0; i < 20000; ++i) {
+        QStringList values;
+        const int variety = i % 2 == 0 ? pieces.size() : 6;
+        for (int n = 0; n < count; ++n) {
+            QString value;
+            // Every other statement has no mark in any value.
+            for (int length = random.bounded(4); length > 0; --length)
+                value += pieces.at(pieces.size() - 1 - random.bounded(variety));
+            values += value;
+        }
+        QCOMPARE(SqlStatement::filled(statement, values), chained(statement, values));
+    }
+}
+
+QTEST_APPLESS_MAIN(TestSqlStatement)
+#include "tst_sqlstatement.moc"
