@@ -13,7 +13,7 @@ project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-ser
 test_packages=(chromium libfaketime man-db mandoc)
 
 # What it takes to measure the plugin.
-bench_packages=(binutils gnuplot-nox libmariadb-dev python3-minimal valgrind)
+bench_packages=(binutils gnuplot-nox libmariadb-dev python3 valgrind)
 
 # What it takes to make the Debian packages.
 package_packages=(dpkg-dev git)
