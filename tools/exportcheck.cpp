@@ -105,9 +105,8 @@ void ExportCheck::notePids()
 /// no harm.
 void ExportCheck::notePid(const BoundedLineReader &reader)
 {
-    const QByteArray identity = identityOf(reader);
-    const QStringList parts =
-        ExportLine::split(ExportLine::decode(identity.constData()), ExportLine::kSeparator);
+    const QString identity = ExportLine::decode(identityOf(reader).constData());
+    const ExportLine::Parts parts = ExportLine::split(identity, ExportLine::kSeparator);
     if (parts.size() < 2)
         return;
     MirovaRonRecord record;

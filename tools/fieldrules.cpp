@@ -70,7 +70,7 @@ bool isKept(const QDate &day)
 
 } // namespace
 
-FieldRules::FieldRules(const QStringList &parts, const MirovaRonRecord &record,
+FieldRules::FieldRules(const ExportLine::Parts &parts, const MirovaRonRecord &record,
                        const TextWidths &widths, CheckedLine &line)
     : m_parts(parts)
     , m_record(record)
@@ -142,7 +142,7 @@ void FieldRules::checkTexts()
 
 void FieldRules::checkText(int field, const char *column)
 {
-    const QString &text = m_parts.at(field);
+    const QString text = this->text(field);
     if (text.contains(QLatin1Char('\''))) {
         add(field, Severity::Error, "quote-in-text",
             QStringLiteral("The text %1 has an apostrophe. It goes into the statement as it is, "
@@ -210,7 +210,7 @@ void FieldRules::checkDates()
 
 void FieldRules::checkDate(int field, const QDate &date)
 {
-    const QString &text = m_parts.at(field);
+    const QString text = this->text(field);
     if (text.isEmpty()) {
         add(field, Severity::Warning, "empty-date",
             QStringLiteral("There is no date: ") + consequence(field),
@@ -248,13 +248,13 @@ void FieldRules::checkCode(int field, ushort code)
         return;
     add(field, Severity::Warning, "code-wraps",
         QStringLiteral("Codes go up to 65535; %1 reads as %2.")
-            .arg(PlainText::quoted(m_parts.at(field)), QString::number(code)),
+            .arg(PlainText::quoted(text(field)), QString::number(code)),
         QStringLiteral("The code cannot be right."));
 }
 
 void FieldRules::checkBalance()
 {
-    const QString &text = m_parts.at(DovolenaZustatek);
+    const QString text = this->text(DovolenaZustatek);
     bool isNumber = false;
     toBalance(text, &isNumber);
     qint32 hundredths = 0;
@@ -271,10 +271,15 @@ void FieldRules::checkBalance()
     }
 }
 
+QString FieldRules::text(int field) const
+{
+    return m_parts.at(field).toString();
+}
+
 /// Says in a sentence why a field is no number, or none above 0.
 QString FieldRules::notANumber(int field) const
 {
-    const QString &text = m_parts.at(field);
+    const QString text = this->text(field);
     bool isNumber = false;
     toNumber(text, &isNumber);
     if (text.isEmpty())

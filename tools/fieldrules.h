@@ -7,8 +7,8 @@ class FieldRules {
 public:
     /// \a record is what the plugin makes of the parts; findings go to the line. All four must
     /// outlive the object.
-    FieldRules(const QStringList &parts, const MirovaRonRecord &record, const TextWidths &widths,
-               CheckedLine &line);
+    FieldRules(const ExportLine::Parts &parts, const MirovaRonRecord &record,
+               const TextWidths &widths, CheckedLine &line);
 
     void check();
 
@@ -24,11 +24,12 @@ private:
     void checkCode(int field, ushort code);
     void checkBalance();
 
+    QString text(int field) const;
     QString notANumber(int field) const;
     void add(int field, Severity severity, const char *rule, const QString &message,
              const QString &advice);
 
-    const QStringList &m_parts;
+    const ExportLine::Parts &m_parts;
     const MirovaRonRecord &m_record;
     const TextWidths &m_widths;
     CheckedLine &m_line;

@@ -84,8 +84,8 @@ bool GateExamination::readOld(QFile &file, GateComparison &comparison)
     const int fieldCount = ExportLine::fieldNames().size();
     BoundedLineReader reader(file);
     while (reader.next()) {
-        const QStringList parts =
-            ExportLine::split(ExportLine::decode(reader.line()), ExportLine::kSeparator);
+        const QString line = ExportLine::decode(reader.line());
+        const ExportLine::Parts parts = ExportLine::split(line, ExportLine::kSeparator);
         if (parts.size() != fieldCount)
             continue;
         const MirovaRonRecord record = ExportLine::toRecord(parts);

@@ -61,9 +61,9 @@ void checkBytes(const QString &text, CheckedLine &line)
     }
 }
 
-QString fieldCountAdvice(const QStringList &parts, int expected)
+QString fieldCountAdvice(const ExportLine::Parts &parts, int expected)
 {
-    const QString &text = parts.constFirst();
+    const QStringRef &text = parts.constFirst();
     if (parts.size() == 1
         && (text.count(QLatin1Char(';')) > 1 || text.count(QLatin1Char('\t')) > 1))
         return QStringLiteral("Fields are separated by the character |, nothing else.");
@@ -74,7 +74,7 @@ QString fieldCountAdvice(const QStringList &parts, int expected)
     return QStringLiteral("Empty fields must be there, too, each with its |.");
 }
 
-bool isHeader(const QStringList &parts, const QStringList &fieldNames)
+bool isHeader(const ExportLine::Parts &parts, const QStringList &fieldNames)
 {
     return parts.constFirst().trimmed().compare(fieldNames.constFirst(), Qt::CaseInsensitive) == 0;
 }
@@ -139,7 +139,7 @@ void LineCheck::checkText(const QString &text, CheckedLine &line) const
         line.isBlank = !line.raw.contains('\0');
         return;
     }
-    const QStringList parts = ExportLine::split(text, ExportLine::kSeparator);
+    const ExportLine::Parts parts = ExportLine::split(text, ExportLine::kSeparator);
     if (parts.size() == m_fieldNames.size()) {
         checkParts(parts, line);
         return;
@@ -152,7 +152,7 @@ void LineCheck::checkText(const QString &text, CheckedLine &line) const
              fieldCountAdvice(parts, m_fieldNames.size()));
 }
 
-void LineCheck::checkParts(const QStringList &parts, CheckedLine &line) const
+void LineCheck::checkParts(const ExportLine::Parts &parts, CheckedLine &line) const
 {
     const MirovaRonRecord record = ExportLine::toRecord(parts);
     if (ExportLine::isUsable(record))

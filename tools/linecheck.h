@@ -2,6 +2,7 @@
 
 #include "tools/finding.h"
 #include "tools/textwidths.h"
+#include "worker/exportline.h"
 #include "worker/mirovaronrecord.h"
 
 #include <QByteArray>
@@ -47,7 +48,7 @@ public:
 
 private:
     void checkText(const QString &text, CheckedLine &line) const;
-    void checkParts(const QStringList &parts, CheckedLine &line) const;
+    void checkParts(const ExportLine::Parts &parts, CheckedLine &line) const;
 
     const QStringList m_fieldNames;
     const TextWidths m_widths;

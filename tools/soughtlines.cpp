@@ -10,8 +10,8 @@ namespace {
 /// Whom the first two fields of a line name, dropped or not; nothing when they name nobody.
 std::optional<MirovaRonRecord> namedBy(const CheckedLine &line)
 {
-    const QStringList parts =
-        ExportLine::split(ExportLine::decode(line.raw.constData()), ExportLine::kSeparator);
+    const QString text = ExportLine::decode(line.raw.constData());
+    const ExportLine::Parts parts = ExportLine::split(text, ExportLine::kSeparator);
     MirovaRonRecord record;
     record.osobniCislo = ExportLine::toNumber(parts.value(ExportLine::OsobniCislo));
     record.poradoveCisloPP = ExportLine::toNumber(parts.value(ExportLine::PoradoveCisloPP));

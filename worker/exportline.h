@@ -3,6 +3,7 @@
 #include "worker/mirovaronrecord.h"
 
 #include <QStringList>
+#include <QVector>
 
 /// The format of the HR export: how a line becomes a record. Pure functions.
 namespace ExportLine {
@@ -42,21 +43,27 @@ QStringList fieldNames();
 /// An empty text is no line at all.
 QString decode(const char *line);
 
-/// The parts of a line. Only one with as many parts as there are fields makes a record.
-QStringList split(const QString &line, QChar separator);
+/// The parts of a line, which lie in its text: two of three are numbers and dates, and are never
+/// texts of their own.
+using Parts = QVector<QStringRef>;
+
+/// The parts of a line, which has to outlive them. Only one with as many parts as there are fields
+/// makes a record.
+Parts split(const QString &line, QChar separator);
+Parts split(QString &&line, QChar separator) = delete;
 
 /// A decimal number of 32 bits. Text that is none gives 0, and sets `ok` to false.
-quint32 toNumber(const QString &text, bool *ok = nullptr);
+quint32 toNumber(QStringView text, bool *ok = nullptr);
 
 /// Days with a decimal point. Text that is no number gives 0, and sets `ok` to false.
-double toBalance(const QString &text, bool *ok = nullptr);
+double toBalance(QStringView text, bool *ok = nullptr);
 
 /// The date part of a text in the given format; an invalid date when the text has another form.
 /// A date and time that a daylight-saving change of the local zone skips still gives its date.
-QDate parseDate(const QString &text, const QString &format);
+QDate parseDate(QStringView text, const QString &format);
 
 /// The record of a line's 18 parts. A bad number reads as 0, a bad date as an invalid one.
-MirovaRonRecord toRecord(const QStringList &parts);
+MirovaRonRecord toRecord(const Parts &parts);
 
 /// True when the record names a relationship (both its numbers) and a person (any name).
 bool isUsable(const MirovaRonRecord &record);

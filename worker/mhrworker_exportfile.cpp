@@ -62,7 +62,7 @@ void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar 
     if (m_debugLevel > 2)
         qDebug("MHRWorker::parseLine('%s')", qUtf8Printable(line));
 
-    const QStringList parts = ExportLine::split(line, separator);
+    const ExportLine::Parts parts = ExportLine::split(line, separator);
     if (parts.size() != fields.size()) {
         if (m_debugLevel > 2) {
             qWarning("MHRWorker::parseLine() - parts count (%i) <> fields count(%i) - line "

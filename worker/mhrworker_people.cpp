@@ -3,6 +3,7 @@
 #include "worker/mhrworker.h"
 
 #include "db/sqlstatement.h"
+#include "worker/exportline.h"
 #include "worker/recordcodes.h"
 #include "worker/sqlreport.h"
 
@@ -46,8 +47,8 @@ const QLatin1String kUpdatePerson(
 void setPayrollId(MirovaRonRecord &record, const QString &payrollId)
 {
     const QVector<QStringRef> parts = payrollId.splitRef(QLatin1Char('.'), Qt::KeepEmptyParts);
-    record.osobniCislo = parts.first().toUInt();
-    record.poradoveCisloPP = parts.value(1).toUInt();
+    record.osobniCislo = ExportLine::toNumber(parts.first());
+    record.poradoveCisloPP = ExportLine::toNumber(parts.value(1));
 }
 
 /// The database's view of a person. The pid column is not read: the key of a person is the pid that
