@@ -29,13 +29,19 @@ const QLatin1String kQueuePerson(
 
 const QLatin1String kMarkTerminals("CALL updateTermsSync(%1, 2);");
 
-/// The entries of a list and one more, separated by commas.
-QString joined(const QVector<QStringRef> &entries, const QString &last)
+constexpr QLatin1Char kComma(',');
+
+/// A list such as "1,2" without the empty entries that it may have at its ends or in between.
+QString withoutEmptyEntries(const QString &list)
 {
-    QString list;
-    for (const QStringRef &entry : entries)
-        list += entry + QLatin1Char(',');
-    return list + last;
+    const bool holdsNone =
+        !list.startsWith(kComma) && !list.endsWith(kComma) && !list.contains(QLatin1String(",,"));
+    return holdsNone ? list : list.split(kComma, Qt::SkipEmptyParts).join(kComma);
+}
+
+bool holdsEntry(const QString &list, const QString &entry)
+{
+    return (kComma + list + kComma).contains(kComma + entry + kComma);
 }
 
 /// The uid that the statement finds, 0 when it fails or finds none. The caller reports it.
@@ -62,12 +68,12 @@ bool MHRWorker::addPersonIntoPam(unsigned int pid)
     QString selectionKey = exports.first();
     selectionKey.replace(QLatin1String("active"), QLatin1String("selPeople"));
     const QString selection = m_settings->variableGet(selectionKey, QVariant()).toString();
-    // In place: the selection may name everybody, and every new person is looked for in it.
-    const QVector<QStringRef> entries = selection.splitRef(QLatin1Char(','), Qt::SkipEmptyParts);
+    // Not taken apart: it may name everybody, and every new person is looked for in it.
+    const QString list = withoutEmptyEntries(selection);
     const QString entry = QString::number(pid);
-    if (entries.contains(QStringRef(&entry)))
+    if (holdsEntry(list, entry))
         return true;
-    return m_settings->variableSet(selectionKey, joined(entries, entry));
+    return m_settings->variableSet(selectionKey, list.isEmpty() ? entry : list + kComma + entry);
 }
 
 bool MHRWorker::dbAddPersonIntoPam(unsigned int pid, unsigned int pamSettingsID)
