@@ -70,7 +70,7 @@ QVariant TepDbSettings::variableGet(const QString &name, const QVariant &default
 {
     QSqlQuery query = SqlStatement::run(m_db, QString(kSelectOne).arg(name));
     if (query.next())
-        return query.value(QStringLiteral("value"));
+        return query.value(0);
     SqlStatement::failed(query, "TepDbSettings::variableGet - SQL ERROR:");
     return defaultValue;
 }
@@ -119,10 +119,8 @@ QMap<QString, QVariant> TepDbSettings::selectVariables(const QString &sql) const
 {
     QMap<QString, QVariant> values;
     QSqlQuery query = SqlStatement::run(m_db, sql);
-    while (query.next()) {
-        values.insert(query.value(QStringLiteral("name")).toString(),
-                      query.value(QStringLiteral("value")));
-    }
+    while (query.next())
+        values.insert(query.value(0).toString(), query.value(1));
     SqlStatement::failed(query, "TepDbSettings::variableGetMultiple - SQL ERROR:");
     return values;
 }
