@@ -251,8 +251,7 @@ void TestExportFile::loadingLogsWhatTheDebugLevelAsksFor()
     QCOMPARE(takeRecords(worker).size(), 2);
 }
 
-// ---- The file itself
-// ------------------------------------------------------------------------------
+// ---- The file itself ----------------------------------------------------------------------------
 
 void TestExportFile::anEmptyPathMeansTheDefaultFile()
 {
@@ -368,8 +367,7 @@ void TestExportFile::aFileThatCannotBeOpenedIsCritical()
     QCOMPARE(takeRecords(worker), QStringList(syncLine(1)));
 }
 
-// ---- Removing the file
-// ----------------------------------------------------------------------------
+// ---- Removing the file --------------------------------------------------------------------------
 
 void TestExportFile::theFileIsRemovedOnlyWhenAskedFor()
 {
@@ -444,8 +442,7 @@ void TestExportFile::aFileThatCannotBeRemovedIsWarnedOf()
     QCOMPARE(takeRecords(worker), QStringList(syncLine(1)));
 }
 
-// ---- Lines
-// ------------------------------------------------------------------------------------------
+// ---- Lines --------------------------------------------------------------------------------------
 
 namespace {
 
@@ -576,8 +573,7 @@ void TestExportFile::theLengthOfALineCountsBytes()
     QCOMPARE(linesOf(letters + "z\n"), QStringList());
 }
 
-// ---- Fields of a line
-// -------------------------------------------------------------------------------
+// ---- Fields of a line ---------------------------------------------------------------------------
 
 void TestExportFile::aLineIsSplitAtTheGivenSeparator()
 {

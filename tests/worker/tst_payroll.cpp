@@ -72,8 +72,7 @@ private:
     }
 };
 
-// ---- The selection
-// --------------------------------------------------------------------------------
+// ---- The selection ------------------------------------------------------------------------------
 
 void TestPayroll::aPersonIsAppendedToTheSelection_data()
 {
@@ -260,8 +259,7 @@ void TestPayroll::aFailureToWriteTheSelectionIsReported()
     QCOMPARE(variable("exportPam.3.selPeople"), QString("10"));
 }
 
-// ---- The settings of a person
-// -----------------------------------------------------------------------
+// ---- The settings of a person -------------------------------------------------------------------
 
 void TestPayroll::aPersonIsBoundToPayrollSettings_data()
 {

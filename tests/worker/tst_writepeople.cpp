@@ -116,8 +116,7 @@ QString TestWritePeople::personRow()
     return m_db.dump("people");
 }
 
-// ---- Adding
-// ---------------------------------------------------------------------------------------
+// ---- Adding -------------------------------------------------------------------------------------
 
 void TestWritePeople::everyFieldOfANewPersonIsWritten()
 {
@@ -409,8 +408,7 @@ void TestWritePeople::testModeAddsNobody()
     QCOMPARE(m_db.rows("SELECT pid FROM people"), TableRows({{"12342"}}));
 }
 
-// ---- Updating
-// -------------------------------------------------------------------------------------
+// ---- Updating -----------------------------------------------------------------------------------
 
 void TestWritePeople::everyFieldOfAPersonIsUpdated()
 {
