@@ -1,5 +1,6 @@
 #include "db/branchesrepository.h"
 
+#include "db/placeholders.h"
 #include "db/sqlstatement.h"
 #include "db/termsyncrepository.h"
 
@@ -39,26 +40,21 @@ QStringList workingHours(const BranchRecord &branch)
         + dayTexts(branch.wh7b, branch.wh7e);
 }
 
-QString filled(QString sql, const QStringList &values)
-{
-    for (const QString &value : values)
-        sql = sql.arg(value);
-    return sql;
-}
-
 QString insertStatement(const BranchRecord &branch)
 {
-    return filled(kInsert,
-                  QStringList{numberOrNull(branch.number), branch.name, branch.address, branch.note}
-                      + workingHours(branch) + QStringList{numberOrNull(branch.mgid)});
+    return Placeholders::filled(
+        kInsert,
+        QStringList{numberOrNull(branch.number), branch.name, branch.address, branch.note}
+            + workingHours(branch) + QStringList{numberOrNull(branch.mgid)});
 }
 
 QString updateStatement(const BranchRecord &branch)
 {
-    return filled(kUpdate,
-                  QStringList{branch.name, branch.address, branch.note} + workingHours(branch)
-                      + QStringList{numberOrNull(branch.number), numberOrNull(branch.mgid),
-                                    QString::number(branch.bid)});
+    return Placeholders::filled(
+        kUpdate,
+        QStringList{branch.name, branch.address, branch.note} + workingHours(branch)
+            + QStringList{numberOrNull(branch.number), numberOrNull(branch.mgid),
+                          QString::number(branch.bid)});
 }
 
 } // namespace

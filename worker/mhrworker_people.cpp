@@ -2,7 +2,7 @@
 
 #include "worker/mhrworker.h"
 
-#include "db/sqlstatement.h"
+#include "db/placeholders.h"
 #include "worker/exportline.h"
 #include "worker/recordcodes.h"
 #include "worker/sqlreport.h"
@@ -11,6 +11,8 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
+
+#include <utility>
 
 namespace {
 
@@ -83,8 +85,8 @@ bool MHRWorker::dbLoadPeople()
         return false;
     m_people.clear();
     while (query.next()) {
-        const MirovaRonRecord person = personFromRow(query);
-        m_people.insert(person.getPid(), person);
+        MirovaRonRecord person = personFromRow(query);
+        m_people[person.getPid()] = std::move(person);
     }
     return true;
 }
@@ -143,7 +145,7 @@ bool MHRWorker::dbAddPerson(const MirovaRonRecord &rec)
         return true;
     }
 
-    const QString sql = SqlStatement::filled(
+    const QString sql = Placeholders::filled(
         kInsertPerson,
         {QString::number(rec.getPid()), payrollId, rec.titul, rec.jmeno, rec.prijmeni, rec.titulZa,
          rec.telefon, personBeginForSql(rec.datumNastupu), personEndForSql(rec.datumVystupu, true),
@@ -210,7 +212,7 @@ QString MHRWorker::updateStatement(const MirovaRonRecord &rec, bool esChanged) c
         values += QString::number(RecordCodes::midnight32(rec.rsFrom.addDays(-1)));
     values += {QString::number(employmentTypeFromTPP(rec.typPracovnihoPomeru)),
                departmentIdForSql(), QString::number(rec.kalendar), branchIdForSql(rec.stredisko)};
-    return SqlStatement::filled(recalculate ? kUpdatePersonAndLastCalc : kUpdatePerson, values);
+    return Placeholders::filled(recalculate ? kUpdatePersonAndLastCalc : kUpdatePerson, values);
 }
 
 QString MHRWorker::departmentIdForSql() const

@@ -1,11 +1,19 @@
 #include "worker/mirovaronrecord.h"
 
+#include "db/placeholders.h"
+
 #include <QLocale>
 
 #include <limits>
 #include <tuple>
 
 namespace {
+
+const QLatin1String kShortText("%1.%2 %3 %4 %5 %6 (T: %7) N-V: %8 - %9 TPP: %10  K: %11  DOV: %12, "
+                               "S: %13");
+
+const QLatin1String kLongText("%1.%2 %3 %4 (S: %5, K: %6 from %7) N-V: %8 - %9; ES: %10, RS: %11 - "
+                              "%12 '%13' TPP: %14  DOV: %15 NOC: %16");
 
 /// A date as the system locale writes it in short, an invalid one as an empty text.
 QString localDate(const QDate &date)
@@ -25,44 +33,24 @@ auto fields(const MirovaRonRecord &r)
 
 QString shortText(const MirovaRonRecord &r)
 {
-    return QStringLiteral("%1.%2 %3 %4 %5 %6 (T: %7) N-V: %8 - %9 TPP: %10  K: %11  DOV: %12, "
-                          "S: %13")
-        .arg(r.osobniCislo)
-        .arg(r.poradoveCisloPP)
-        .arg(r.titul)
-        .arg(r.jmeno)
-        .arg(r.prijmeni)
-        .arg(r.titulZa)
-        .arg(r.telefon)
-        .arg(localDate(r.datumNastupu))
-        .arg(localDate(r.datumVystupu))
-        .arg(r.typPracovnihoPomeru)
-        .arg(r.kalendar)
-        .arg(r.dovolenaZustatek)
-        .arg(r.stredisko);
+    return Placeholders::filled(
+        kShortText,
+        {QString::number(r.osobniCislo), QString::number(r.poradoveCisloPP), r.titul, r.jmeno,
+         r.prijmeni, r.titulZa, r.telefon, localDate(r.datumNastupu), localDate(r.datumVystupu),
+         QString::number(r.typPracovnihoPomeru), QString::number(r.kalendar),
+         QString::number(r.dovolenaZustatek), QString::number(r.stredisko)});
 }
 
 /// The surname comes before the first name here, the reverse of the short text.
 QString longText(const MirovaRonRecord &r)
 {
-    return QStringLiteral("%1.%2 %3 %4 (S: %5, K: %6 from %7) N-V: %8 - %9; ES: %10, "
-                          "RS: %11 - %12 '%13' TPP: %14  DOV: %15 NOC: %16")
-        .arg(r.osobniCislo)
-        .arg(r.poradoveCisloPP)
-        .arg(r.prijmeni)
-        .arg(r.jmeno)
-        .arg(r.stredisko)
-        .arg(r.kalendar)
-        .arg(localDate(r.kalendarPlatnostOd))
-        .arg(localDate(r.datumNastupu))
-        .arg(localDate(r.datumVystupu))
-        .arg(r.evidencniStav)
-        .arg(localDate(r.rsFrom))
-        .arg(localDate(r.rsTo))
-        .arg(r.rsText)
-        .arg(r.typPracovnihoPomeru)
-        .arg(r.dovolenaZustatek)
-        .arg(r.nadrizenyOsobniCislo);
+    return Placeholders::filled(
+        kLongText,
+        {QString::number(r.osobniCislo), QString::number(r.poradoveCisloPP), r.prijmeni, r.jmeno,
+         QString::number(r.stredisko), QString::number(r.kalendar), localDate(r.kalendarPlatnostOd),
+         localDate(r.datumNastupu), localDate(r.datumVystupu), QString::number(r.evidencniStav),
+         localDate(r.rsFrom), localDate(r.rsTo), r.rsText, QString::number(r.typPracovnihoPomeru),
+         QString::number(r.dovolenaZustatek), QString::number(r.nadrizenyOsobniCislo)});
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "db/sqlstatement.h"
+#include "db/placeholders.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -19,7 +19,7 @@ const QLatin1String kOutOfOrder("a=%1, b='%2', c=%4, d='%5', e=%6 WHERE f=%3");
 
 } // namespace
 
-class TestSqlStatement : public QObject {
+class TestPlaceholders : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void randomValuesAreFilledInAsByAChain();
 };
 
-void TestSqlStatement::theValuesTakeThePlacesOfTheirNumbers_data()
+void TestPlaceholders::theValuesTakeThePlacesOfTheirNumbers_data()
 {
     QTest::addColumn<QString>("sql");
     QTest::addColumn<QStringList>("values");
@@ -49,15 +49,15 @@ void TestSqlStatement::theValuesTakeThePlacesOfTheirNumbers_data()
     QTest::newRow("a value with a place") << "'%1', %2" << QStringList{"%2", "7"} << "'7', 7";
 }
 
-void TestSqlStatement::theValuesTakeThePlacesOfTheirNumbers()
+void TestPlaceholders::theValuesTakeThePlacesOfTheirNumbers()
 {
     QFETCH(QString, sql);
     QFETCH(QStringList, values);
     const QByteArray bytes = sql.toLatin1();
-    QTEST(SqlStatement::filled(QLatin1String(bytes), values), "text");
+    QTEST(Placeholders::filled(QLatin1String(bytes), values), "text");
 }
 
-void TestSqlStatement::randomValuesAreFilledInAsByAChain_data()
+void TestPlaceholders::randomValuesAreFilledInAsByAChain_data()
 {
     QTest::addColumn<QString>("sql");
     QTest::addColumn<int>("count");
@@ -65,7 +65,7 @@ void TestSqlStatement::randomValuesAreFilledInAsByAChain_data()
     QTest::newRow("out of order") << QString(kOutOfOrder) << 6;
 }
 
-void TestSqlStatement::randomValuesAreFilledInAsByAChain()
+void TestPlaceholders::randomValuesAreFilledInAsByAChain()
 {
     QFETCH(QString, sql);
     QFETCH(int, count);
@@ -84,9 +84,9 @@ void TestSqlStatement::randomValuesAreFilledInAsByAChain()
                 value += pieces.at(pieces.size() - 1 - random.bounded(variety));
             values += value;
         }
-        QCOMPARE(SqlStatement::filled(statement, values), chained(statement, values));
+        QCOMPARE(Placeholders::filled(statement, values), chained(statement, values));
     }
 }
 
-QTEST_APPLESS_MAIN(TestSqlStatement)
-#include "tst_sqlstatement.moc"
+QTEST_APPLESS_MAIN(TestPlaceholders)
+#include "tst_placeholders.moc"

@@ -1,0 +1,53 @@
+#include "db/placeholders.h"
+
+#include <algorithm>
+
+namespace Placeholders {
+
+namespace {
+
+constexpr QLatin1Char kMark('%');
+
+QString filledInTurn(QLatin1String text, const QStringList &values)
+{
+    QString result = text;
+    for (const QString &value : values)
+        result = result.arg(value);
+    return result;
+}
+
+/// The number at `at`, which goes behind it: at most two digits, as in QString::arg().
+int numberAt(QLatin1String text, int &at)
+{
+    int number = 0;
+    for (const int end = qMin(at + 2, text.size()); at < end; ++at) {
+        const char digit = text.at(at).toLatin1();
+        if (digit < '0' || digit > '9')
+            break;
+        number = number * 10 + (digit - '0');
+    }
+    return number;
+}
+
+} // namespace
+
+QString filled(QLatin1String text, const QStringList &values)
+{
+    const auto holdsMark = [](const QString &value) {
+        return value.contains(kMark);
+    };
+    if (std::any_of(values.cbegin(), values.cend(), holdsMark))
+        return filledInTurn(text, values);
+
+    QString result;
+    int done = 0;
+    for (int mark = text.indexOf(kMark); mark >= 0; mark = text.indexOf(kMark, done)) {
+        result += text.mid(done, mark - done);
+        done = mark + 1;
+        result += values.at(numberAt(text, done) - 1);
+    }
+    result += text.mid(done);
+    return result;
+}
+
+} // namespace Placeholders
