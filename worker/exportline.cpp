@@ -103,7 +103,15 @@ QString decode(const char *line)
 
 Parts split(const QString &line, QChar separator)
 {
-    return line.splitRef(separator, Qt::KeepEmptyParts, Qt::CaseSensitive);
+    Parts parts;
+    parts.reserve(kFieldCount);
+    int begin = 0;
+    for (int end = line.indexOf(separator); end >= 0; end = line.indexOf(separator, begin)) {
+        parts.append(QStringRef(&line, begin, end - begin));
+        begin = end + 1;
+    }
+    parts.append(QStringRef(&line, begin, line.size() - begin));
+    return parts;
 }
 
 quint32 toNumber(QStringView text, bool *ok)

@@ -27,7 +27,8 @@ enum Field {
     StavPracovnihoPomeru,
     EvidencniStav,
     DovolenaZustatek,
-    NadrizenyOsobniCislo
+    NadrizenyOsobniCislo,
+    kFieldCount
 };
 
 /// What separates the fields.
