@@ -9,7 +9,10 @@
 #include <QDebug>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QStringBuilder>
 #include <QVariant>
+
+#include <algorithm>
 
 namespace {
 
@@ -34,14 +37,18 @@ constexpr QLatin1Char kComma(',');
 /// A list such as "1,2" without the empty entries that it may have at its ends or in between.
 QString withoutEmptyEntries(const QString &list)
 {
-    const bool holdsNone =
-        !list.startsWith(kComma) && !list.endsWith(kComma) && !list.contains(QLatin1String(",,"));
+    const auto areCommas = [](QChar a, QChar b) {
+        return a == kComma && b == kComma;
+    };
+    const bool holdsNone = !list.startsWith(kComma) && !list.endsWith(kComma)
+        && std::adjacent_find(list.cbegin(), list.cend(), areCommas) == list.cend();
     return holdsNone ? list : list.split(kComma, Qt::SkipEmptyParts).join(kComma);
 }
 
 bool holdsEntry(const QString &list, const QString &entry)
 {
-    return (kComma + list + kComma).contains(kComma + entry + kComma);
+    const QString enclosed = kComma % list % kComma;
+    return enclosed.contains(kComma % entry % kComma);
 }
 
 /// The uid that the statement finds, 0 when it fails or finds none. The caller reports it.
@@ -73,7 +80,7 @@ bool MHRWorker::addPersonIntoPam(unsigned int pid)
     const QString entry = QString::number(pid);
     if (holdsEntry(list, entry))
         return true;
-    return m_settings->variableSet(selectionKey, list.isEmpty() ? entry : list + kComma + entry);
+    return m_settings->variableSet(selectionKey, list.isEmpty() ? entry : list % kComma % entry);
 }
 
 bool MHRWorker::dbAddPersonIntoPam(unsigned int pid, unsigned int pamSettingsID)
