@@ -8,7 +8,7 @@
 /// The format of the HR export: how a line becomes a record. Pure functions.
 namespace ExportLine {
 
-/// Positions of the fields in a line.
+/// Positions of the fields in a line, and how many there are.
 enum Field {
     OsobniCislo,
     PoradoveCisloPP,
@@ -44,8 +44,8 @@ QStringList fieldNames();
 /// An empty text is no line at all.
 QString decode(const char *line);
 
-/// The parts of a line, which lie in its text: two of three are numbers and dates, and are never
-/// texts of their own.
+/// The parts of a line, which lie in its text: two of three are numbers and dates, and hardly ever
+/// have to become texts of their own.
 using Parts = QVector<QStringRef>;
 
 /// The parts of a line, which has to outlive them. Only one with as many parts as there are fields

@@ -5,12 +5,12 @@
 
 namespace {
 
-QString chained(QLatin1String sql, const QStringList &values)
+QString chained(QLatin1String text, const QStringList &values)
 {
-    QString text = sql;
+    QString result = text;
     for (const QString &value : values)
-        text = text.arg(value);
-    return text;
+        result = result.arg(value);
+    return result;
 }
 
 const QLatin1String kSixteen("A('%1', '%2', '%3', '%4', '%5', '%6', '%7', %8, %9, %10, %11, '%12', "
@@ -31,7 +31,7 @@ private Q_SLOTS:
 
 void TestPlaceholders::theValuesTakeThePlacesOfTheirNumbers_data()
 {
-    QTest::addColumn<QString>("sql");
+    QTest::addColumn<QString>("pattern");
     QTest::addColumn<QStringList>("values");
     QTest::addColumn<QString>("text");
     QTest::newRow("none") << "SELECT 1" << QStringList() << "SELECT 1";
@@ -51,15 +51,15 @@ void TestPlaceholders::theValuesTakeThePlacesOfTheirNumbers_data()
 
 void TestPlaceholders::theValuesTakeThePlacesOfTheirNumbers()
 {
-    QFETCH(QString, sql);
+    QFETCH(QString, pattern);
     QFETCH(QStringList, values);
-    const QByteArray bytes = sql.toLatin1();
+    const QByteArray bytes = pattern.toLatin1();
     QTEST(Placeholders::filled(QLatin1String(bytes), values), "text");
 }
 
 void TestPlaceholders::randomValuesAreFilledInAsByAChain_data()
 {
-    QTest::addColumn<QString>("sql");
+    QTest::addColumn<QString>("pattern");
     QTest::addColumn<int>("count");
     QTest::newRow("sixteen") << QString(kSixteen) << 16;
     QTest::newRow("out of order") << QString(kOutOfOrder) << 6;
@@ -67,9 +67,9 @@ void TestPlaceholders::randomValuesAreFilledInAsByAChain_data()
 
 void TestPlaceholders::randomValuesAreFilledInAsByAChain()
 {
-    QFETCH(QString, sql);
+    QFETCH(QString, pattern);
     QFETCH(int, count);
-    const QByteArray bytes = sql.toLatin1();
+    const QByteArray bytes = pattern.toLatin1();
     const QLatin1String statement(bytes);
     const QStringList pieces = {"%", "%1", "%2", "%9", "%12", "%L3", "1",
                                 "0", "'",  "Á",  " ",  "abc", "",    "\U0001F600"};

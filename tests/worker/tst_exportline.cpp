@@ -310,6 +310,7 @@ void TestExportLine::theFieldsHaveTheirNamesAndOrder()
                                "DovolenaZustatek",
                                "NadrizenyOsobniCislo"};
     QCOMPARE(names.size(), 18);
+    QCOMPARE(int(ExportLine::kFieldCount), 18);
     QCOMPARE(ExportLine::fieldNames(), names);
     QCOMPARE(QString(ExportLine::kDateFormat), kFormat);
 }
