@@ -267,11 +267,11 @@ private:
     void reconcileRecords();
 
     void parseLines(QIODevice &file, const QStringList &fields);
+    void shareTexts(MirovaRonRecord &record);
 
     struct Reconciliation;
     void checkFunds(Reconciliation &work);
     void noteFundRetry(const Reconciliation &work);
-    void remember(quint32 pid, const MirovaRonRecord &rec);
     void compareWithLast(const MirovaRonRecord &rec, Reconciliation &work) const;
     bool reconcile(const MirovaRonRecord &rec, Reconciliation &work);
     bool createPerson(const MirovaRonRecord &rec);
@@ -326,5 +326,5 @@ private:
     quint16 m_vacationFundId = 0; ///< `funds.fid`; 0: no fund, balances are left alone
     QHash<unsigned short, QString> m_mes; ///< register state code to text
     QSet<quint32> m_fundRetry; ///< pids whose balance the last cycle could not correct
-    QSet<QString> m_sharedTexts; ///< the texts that the records remembered in this cycle share
+    QSet<QString> m_sharedTexts; ///< the texts that the records of the file being read share
 };

@@ -38,7 +38,6 @@ void MHRWorker::doSync()
     const QVector<MirovaRonRecord> records = std::exchange(m_records, {});
     for (const MirovaRonRecord &rec : records)
         doSyncRecord(rec);
-    m_sharedTexts.clear();
     flushBranchMembers();
 }
 
@@ -70,7 +69,7 @@ void MHRWorker::doSyncRecord(const MirovaRonRecord &rec)
     // A changed record is remembered even when writing it failed, so an unchanged line does not
     // try again: only a change of the line or a forced synchronisation does. Sites rely on it.
     if (written || work.changed || !work.active)
-        remember(work.pid, rec);
+        m_lastRecords[work.pid] = rec;
 
     if (work.active)
         placeOrWait(rec, work);
@@ -118,16 +117,6 @@ void MHRWorker::compareWithLast(const MirovaRonRecord &rec, Reconciliation &work
     if (!m_force && !work.fundRetry && rec.dovolenaZustatek == last->dovolenaZustatek)
         work.checkFunds = false;
     work.changed = work.checkFunds || rec != *last;
-}
-
-void MHRWorker::remember(quint32 pid, const MirovaRonRecord &rec)
-{
-    MirovaRonRecord &last = m_lastRecords[pid];
-    last = rec;
-    // Names, titles and cost centres repeat from person to person: one text in memory serves all.
-    for (QString *text :
-         {&last.titul, &last.jmeno, &last.prijmeni, &last.titulZa, &last.strediskoPopis})
-        *text = *m_sharedTexts.insert(*text);
 }
 
 bool MHRWorker::reconcile(const MirovaRonRecord &rec, Reconciliation &work)

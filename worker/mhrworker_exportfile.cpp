@@ -55,6 +55,7 @@ void MHRWorker::parseLines(QIODevice &file, const QStringList &fields)
         if (!line.isEmpty())
             parseLine(line, fields, ExportLine::kSeparator);
     }
+    m_sharedTexts.clear();
 }
 
 void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar separator)
@@ -73,8 +74,19 @@ void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar 
     }
 
     MirovaRonRecord record = ExportLine::toRecord(parts);
-    if (ExportLine::isUsable(record))
-        m_records.append(std::move(record));
+    if (!ExportLine::isUsable(record))
+        return;
+    shareTexts(record);
+    m_records.append(std::move(record));
+}
+
+/// Names, titles and cost centres repeat from person to person: one text in memory serves all, now
+/// and as long as the records are remembered.
+void MHRWorker::shareTexts(MirovaRonRecord &record)
+{
+    for (QString *text :
+         {&record.titul, &record.jmeno, &record.prijmeni, &record.titulZa, &record.strediskoPopis})
+        *text = *m_sharedTexts.insert(*text);
 }
 
 QDate MHRWorker::parseDate(const QString &text, const QString &format)
