@@ -39,9 +39,15 @@ QString filled(QLatin1String text, const QStringList &values)
     if (std::any_of(values.cbegin(), values.cend(), holdsMark))
         return filledInTurn(text, values);
 
+    // Not indexOf(), which takes ten times as long for texts as short as between two places.
+    const auto nextMark = [text](int from) {
+        const auto mark = std::find(text.begin() + from, text.end(), kMark.toLatin1());
+        return static_cast<int>(mark - text.begin());
+    };
     QString result;
+    result.reserve(2 * text.size());
     int done = 0;
-    for (int mark = text.indexOf(kMark); mark >= 0; mark = text.indexOf(kMark, done)) {
+    for (int mark = nextMark(0); mark < text.size(); mark = nextMark(done)) {
         result += text.mid(done, mark - done);
         done = mark + 1;
         result += values.at(numberAt(text, done) - 1);
