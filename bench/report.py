@@ -4,7 +4,7 @@
     report.py --show FOLDER     the ratios on standard output
     report.py --check FOLDER KEPT
         as --show; the exit status is 1 when a count of instructions in FOLDER is more than twice that
-        of the folder KEPT
+        of the folder KEPT, or the memory between cycles more than a quarter above its
 """
 
 import argparse
@@ -317,7 +317,12 @@ def show(measured):
 
 
 def check(measured, kept):
-    """Compares the counts of instructions, which repeat from run to run."""
+    """Compares what repeats from run to run: the counts of instructions and the memory kept."""
+    check_instructions(measured, kept)
+    check_memory(measured, kept)
+
+
+def check_instructions(measured, kept):
     grown = False
     for key, before in kept.facts.get("instructions", {}).items():
         now = measured.facts["instructions"].get(key, 0)
@@ -326,6 +331,14 @@ def check(measured, kept):
             grown = True
     if grown:
         sys.exit("The plugin takes more than twice the instructions that are kept.")
+
+
+def check_memory(measured, kept):
+    for size, facts in measured.facts["memory"].items():
+        now, before = facts["kept"], kept.facts["memory"][size]["kept"]
+        print(f"{'memory ' + size + ':':24}{now:>14,} bytes ({before:,} kept)")
+        if now > 1.25 * before:
+            sys.exit("The plugin keeps more than a quarter more memory between cycles.")
 
 
 def main():
