@@ -80,13 +80,21 @@ void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar 
     m_records.append(std::move(record));
 }
 
-/// Names, titles and cost centres repeat from person to person: one text in memory serves all, now
-/// and as long as the records are remembered.
+/// Most people have not changed since the last cycle, and names, titles and cost centres repeat
+/// from person to person: one text in memory serves all, now and as long as the records are
+/// remembered.
 void MHRWorker::shareTexts(MirovaRonRecord &record)
 {
-    for (QString *text :
-         {&record.titul, &record.jmeno, &record.prijmeni, &record.titulZa, &record.strediskoPopis})
-        *text = *m_sharedTexts.insert(*text);
+    const auto last = m_lastRecords.constFind(record.getPid());
+    const bool known = last != m_lastRecords.constEnd();
+    for (QString MirovaRonRecord::*text :
+         {&MirovaRonRecord::titul, &MirovaRonRecord::jmeno, &MirovaRonRecord::prijmeni,
+          &MirovaRonRecord::titulZa, &MirovaRonRecord::telefon, &MirovaRonRecord::strediskoPopis}) {
+        if (known && (*last).*text == record.*text)
+            record.*text = (*last).*text;
+        else
+            record.*text = *m_sharedTexts.insert(record.*text);
+    }
 }
 
 QDate MHRWorker::parseDate(const QString &text, const QString &format)
