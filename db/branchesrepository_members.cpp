@@ -2,6 +2,7 @@
 
 #include "db/branchesrepository.h"
 
+#include "db/placeholders.h"
 #include "db/sqlstatement.h"
 
 #include <QSqlQuery>
@@ -24,10 +25,7 @@ const QLatin1String kAddSections(
 const QLatin1String kDelTriplesOfSections("DELETE FROM bas WHERE bid = %1 AND secid IN(%2)");
 const QLatin1String kDelSections("DELETE FROM sec_branch WHERE bid = %1 AND secid IN(%2)");
 
-QString filled(QLatin1String sql, ushort bid, const QString &ids)
-{
-    return QString(sql).arg(bid).arg(ids);
-}
+using Placeholders::filled;
 
 } // namespace
 
@@ -51,8 +49,8 @@ bool BranchesRepository::addBranchToTerms(ushort bid, const QString &tids)
 
 bool BranchesRepository::delBranchFromTerms(ushort bid, const QString &tids)
 {
-    return changeMembers("BranchesRepository::delBranchFromTerms", QString(kDelTerms).arg(tids),
-                         bid, tids, &BranchesRepository::sigDeletedBranchFromTerms);
+    return changeMembers("BranchesRepository::delBranchFromTerms", filled(kDelTerms, tids), bid,
+                         tids, &BranchesRepository::sigDeletedBranchFromTerms);
 }
 
 bool BranchesRepository::addAdminsToBranch(ushort bid, const QString &aids)

@@ -2,10 +2,12 @@
 
 #include "db/branchesrepository.h"
 
+#include "db/placeholders.h"
 #include "db/sqlstatement.h"
 #include "db/termsyncrepository.h"
 
 #include <QSqlQuery>
+#include <QStringBuilder>
 #include <QVariant>
 
 namespace {
@@ -53,6 +55,12 @@ ushort adminId(const QString &text)
     return ushort(text.toUInt());
 }
 
+QString tuple(unsigned int owner, unsigned int uid)
+{
+    return QLatin1Char('(') % QString::number(owner) % QLatin1String(", ") % QString::number(uid)
+        % QLatin1Char(')');
+}
+
 /// One row "(owner, person)" for every owner and every person whose id is a positive number.
 QString rowTuples(const QVector<unsigned int> &owners, const QStringList &uids)
 {
@@ -61,7 +69,7 @@ QString rowTuples(const QVector<unsigned int> &owners, const QStringList &uids)
         for (const QString &text : uids) {
             const unsigned int uid = text.toUInt();
             if (uid != 0)
-                tuples += QStringLiteral("(%1, %2)").arg(owner).arg(uid);
+                tuples += tuple(owner, uid);
         }
     }
     return joined(tuples);
@@ -81,19 +89,22 @@ template <typename Ids, typename Operation> bool forEveryId(const Ids &ids, Oper
 QVector<unsigned int> BranchesRepository::getTids4Branch(ushort bid) const
 {
     logCall("BranchesRepository::getTids4Branch", bid);
-    return selectIds(QString(kTermsOfBranch).arg(bid), "BranchesRepository::getTids4Branch");
+    return selectIds(Placeholders::filled(kTermsOfBranch, bid),
+                     "BranchesRepository::getTids4Branch");
 }
 
 QVector<unsigned int> BranchesRepository::getAids4Branch(ushort bid) const
 {
     logCall("BranchesRepository::getAids4Branch", bid);
-    return selectIds(QString(kAdminsOfBranch).arg(bid), "BranchesRepository::getAids4Branch");
+    return selectIds(Placeholders::filled(kAdminsOfBranch, bid),
+                     "BranchesRepository::getAids4Branch");
 }
 
 QVector<unsigned int> BranchesRepository::getUids4Branch(ushort bid) const
 {
     logCall("BranchesRepository::getUids4Branch", bid);
-    return selectIds(QString(kPeopleOfBranch).arg(bid), "BranchesRepository::getUids4Branch");
+    return selectIds(Placeholders::filled(kPeopleOfBranch, bid),
+                     "BranchesRepository::getUids4Branch");
 }
 
 QSet<unsigned int> BranchesRepository::getAids4Uid(unsigned int uid) const
@@ -101,7 +112,7 @@ QSet<unsigned int> BranchesRepository::getAids4Uid(unsigned int uid) const
     logCall("BranchesRepository::getAids4Uid", uid);
     // Shares the message of the branch lookup on purpose.
     const QVector<unsigned int> aids =
-        selectIds(QString(kAdminsOfPerson).arg(uid), "BranchesRepository::getAids4Branch");
+        selectIds(Placeholders::filled(kAdminsOfPerson, uid), "BranchesRepository::getAids4Branch");
     return QSet<unsigned int>(aids.cbegin(), aids.cend());
 }
 
@@ -110,7 +121,8 @@ bool BranchesRepository::addPeopleToTerm(unsigned int tid, const QStringList &ui
     const QString tuples = rowTuples({tid}, uids);
     if (tuples.isEmpty())
         return true;
-    if (!executes(QString(kAddPeopleToTerm).arg(tuples), "BranchesRepository::AddPeopleToTerm"))
+    if (!executes(Placeholders::filled(kAddPeopleToTerm, tuples),
+                  "BranchesRepository::AddPeopleToTerm"))
         return false;
     // The queue gets the list as it came, with the texts that gave no tuple.
     m_termSync->addTermSyncPeople(tid, uids, kInserted);
@@ -120,7 +132,7 @@ bool BranchesRepository::addPeopleToTerm(unsigned int tid, const QStringList &ui
 bool BranchesRepository::deletePeopleFromTerm(unsigned int tid, const QStringList &uids)
 {
     logCall("BranchesRepository::deletePeopleFromTerm", tid, joined(uids));
-    if (!executes(QString(kDeletePeopleFromTerm).arg(tid).arg(joined(uids)),
+    if (!executes(Placeholders::filled(kDeletePeopleFromTerm, tid, joined(uids)),
                   "BranchesRepository::deletePeopleFromTerm")) {
         return false;
     }
@@ -136,7 +148,7 @@ bool BranchesRepository::addPeopleToAdmin(ushort aid, const QStringList &uids)
 bool BranchesRepository::deletePeopleFromAdmin(ushort aid, const QStringList &uids)
 {
     logCall("BranchesRepository::deletePeopleFromAdmin", aid, joined(uids));
-    return executes(QString(kDeletePeopleFromAdmin).arg(aid).arg(joined(uids)),
+    return executes(Placeholders::filled(kDeletePeopleFromAdmin, aid, joined(uids)),
                     "BranchesRepository::deletePeopleFromAdmin");
 }
 
@@ -144,7 +156,7 @@ bool BranchesRepository::deletePeopleFromAdmin(ushort aid, unsigned int uid)
 {
     if (debugLevel != 0)
         qInfo("BranchesRepository::deletePeopleFromAdmin(aid: %u, uid: %u)", aid, uid);
-    return executes(QString(kDeletePersonFromAdmin).arg(aid).arg(uid),
+    return executes(Placeholders::filled(kDeletePersonFromAdmin, aid, uid),
                     "BranchesRepository::deletePeopleFromAdmin");
 }
 
@@ -243,7 +255,7 @@ QVector<unsigned int> BranchesRepository::selectIds(const QString &sql, const ch
 bool BranchesRepository::insertPeopleOfAdmins(const QString &tuples)
 {
     return tuples.isEmpty()
-        || executes(QString(kAddPeopleToAdmins).arg(tuples),
+        || executes(Placeholders::filled(kAddPeopleToAdmins, tuples),
                     "BranchesRepository::AddPeopleToAdmins");
 }
 

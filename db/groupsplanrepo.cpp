@@ -1,5 +1,6 @@
 #include "db/groupsplanrepo.h"
 
+#include "db/placeholders.h"
 #include "db/sqlstatement.h"
 
 #include <QDate>
@@ -46,8 +47,8 @@ bool failed(const QSqlQuery &query, const char *operation)
 
 QString planStatement(unsigned int uid, unsigned int month)
 {
-    QString condition = QString(kPlanOfPerson).arg(uid);
-    condition += month != 0 ? QString(kBegunByMonth).arg(month) : QString(kBegunByNow);
+    QString condition = Placeholders::filled(kPlanOfPerson, uid);
+    condition += month != 0 ? Placeholders::filled(kBegunByMonth, month) : QString(kBegunByNow);
     return kSelectPlan + condition + kLatestFirst;
 }
 
@@ -89,7 +90,7 @@ bool GroupsPlanRepo::updateGroupsMonth(unsigned int uid, unsigned int month)
         qDebug("GroupsPlanRepo::updateGroupsMonth(%u, %u)", uid, month);
     if (uid == 0 || month == 0)
         return false;
-    return changesRows(QString(kUpdateGroupsMonth).arg(uid).arg(month),
+    return changesRows(Placeholders::filled(kUpdateGroupsMonth, uid, month),
                        "GroupsPlanRepo::updateGroupsMonth");
 }
 
@@ -104,7 +105,7 @@ unsigned int GroupsPlanRepo::getCurrentGid(unsigned int uid, unsigned int month,
     const unsigned int gid = firstId(plan);
     if (gid != 0 || !fallbackToPeople)
         return gid;
-    QSqlQuery people = SqlStatement::run(m_db, QString(kSelectDefault).arg(uid));
+    QSqlQuery people = SqlStatement::run(m_db, Placeholders::filled(kSelectDefault, uid));
     if (failed(people, "GroupsPlanRepo::getCurrentGid [people]"))
         return 0;
     return firstId(people);
@@ -129,7 +130,7 @@ bool GroupsPlanRepo::changePlan(const char *operation, QLatin1String sql,
         return false;
     // An upsert of a row that is there already changes no row and so counts as a failure: the
     // callers look for an identical row first.
-    if (!changesRows(QString(sql).arg(rec.gid).arg(rec.uid).arg(rec.since), operation))
+    if (!changesRows(Placeholders::filled(sql, rec.gid, rec.uid, rec.since), operation))
         return false;
     if (m_autoUpdateGroupsMonth)
         updateGroupsMonth(rec.uid, rec.since);

@@ -1,6 +1,7 @@
 #include "db/placeholders.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace Placeholders {
 
@@ -33,16 +34,17 @@ int numberAt(QLatin1String text, int &at)
 
 QString filled(QLatin1String text, const QStringList &values)
 {
+    // Not contains() and indexOf(), here and below: they take ten times as long for short texts.
     const auto holdsMark = [](const QString &value) {
-        return value.contains(kMark);
+        return std::find(value.cbegin(), value.cend(), kMark) != value.cend();
     };
     if (std::any_of(values.cbegin(), values.cend(), holdsMark))
         return filledInTurn(text, values);
 
-    // Not indexOf(), which takes ten times as long for texts as short as between two places.
     const auto nextMark = [text](int from) {
-        const auto mark = std::find(text.begin() + from, text.end(), kMark.toLatin1());
-        return static_cast<int>(mark - text.begin());
+        const void *mark =
+            std::memchr(text.data() + from, kMark.toLatin1(), size_t(text.size() - from));
+        return mark ? static_cast<int>(static_cast<const char *>(mark) - text.data()) : text.size();
     };
     QString result;
     result.reserve(2 * text.size());

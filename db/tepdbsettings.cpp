@@ -1,5 +1,6 @@
 #include "db/tepdbsettings.h"
 
+#include "db/placeholders.h"
 #include "db/sqlstatement.h"
 
 #include <QDebug>
@@ -68,7 +69,7 @@ void TepDbSettings::closeDB()
 
 QVariant TepDbSettings::variableGet(const QString &name, const QVariant &defaultValue) const
 {
-    QSqlQuery query = SqlStatement::run(m_db, QString(kSelectOne).arg(name));
+    QSqlQuery query = SqlStatement::run(m_db, Placeholders::filled(kSelectOne, name));
     if (query.next())
         return query.value(0);
     SqlStatement::failed(query, "TepDbSettings::variableGet - SQL ERROR:");
@@ -96,7 +97,7 @@ QMap<QString, QVariant> TepDbSettings::variableGetMultiple(const QStringList &na
     QStringList quoted;
     for (const QString &name : names)
         quoted += QLatin1Char('\'') + name + QLatin1Char('\'');
-    return selectVariables(QString(kSelectListed).arg(quoted.join(QLatin1Char(','))));
+    return selectVariables(Placeholders::filled(kSelectListed, quoted.join(QLatin1Char(','))));
 }
 
 QMap<QString, QVariant> TepDbSettings::variableGetMultiple(const QString &prefix) const

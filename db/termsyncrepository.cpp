@@ -1,5 +1,6 @@
 #include "db/termsyncrepository.h"
 
+#include "db/placeholders.h"
 #include "db/sqlstatement.h"
 
 #include <QSqlQuery>
@@ -102,86 +103,87 @@ void TermSyncRepository::setDB(const QSqlDatabase &db)
 
 void TermSyncRepository::addTermSyncPerson(unsigned int uid, QChar type, const QString &ref)
 {
-    if (!succeeds(QString(kQueuePerson).arg(type).arg(ref).arg(uid),
+    if (!succeeds(Placeholders::filled(kQueuePerson, type, ref, uid),
                   "TermSyncRepository::addTermSyncPerson() ERROR:")) {
         return;
     }
-    failed(SqlStatement::runAll(m_db, QString(kMarkTermsOfPerson).arg(uid)),
+    failed(SqlStatement::runAll(m_db, Placeholders::filled(kMarkTermsOfPerson, uid)),
            "TermSyncRepository::addTermSyncPerson() - updateTermsSync() FAILED! ERROR:");
 }
 
 void TermSyncRepository::addTermSyncPerson(unsigned int tid, unsigned int uid, QChar type,
                                            const QString &ref)
 {
-    queueForTerm(tid, kPeople, QString(kQueuePersonForTerm).arg(tid).arg(type).arg(ref).arg(uid),
+    queueForTerm(tid, kPeople, Placeholders::filled(kQueuePersonForTerm, tid, type, ref, uid),
                  "TermSyncRepository::addTermSyncPerson() ERROR:");
 }
 
 void TermSyncRepository::addTermSyncPeople(unsigned int tid, const QStringList &uids, QChar type)
 {
-    queueForTerm(tid, kPeople, QString(kQueuePeopleForTerm).arg(tid).arg(type).arg(idList(uids)),
+    queueForTerm(tid, kPeople, Placeholders::filled(kQueuePeopleForTerm, tid, type, idList(uids)),
                  "TermSyncRepository::addTermSyncPeople() ERROR:");
 }
 
 void TermSyncRepository::addTermSyncInter(unsigned int iid, QChar type, const QString &ref)
 {
-    if (!succeeds(QString(kQueueInter).arg(type).arg(ref).arg(iid),
+    if (!succeeds(Placeholders::filled(kQueueInter, type, ref, iid),
                   "TermSyncRepository::addTermSyncInter() ERROR:")) {
         return;
     }
     const QStringList tids = termsWithInter(iid);
     if (tids.isEmpty())
         return;
-    succeeds(QString(kMarkTermsForInters).arg(tids.join(QLatin1Char(','))),
+    succeeds(Placeholders::filled(kMarkTermsForInters, tids.join(QLatin1Char(','))),
              "TermSyncRepository::addTermSyncInter() - updateTermsSync() FAILED! ERROR:");
 }
 
 void TermSyncRepository::addTermSyncInter(unsigned int tid, unsigned int iid, QChar type,
                                           const QString &ref)
 {
-    queueForTerm(tid, kInters, QString(kQueueInterForTerm).arg(tid).arg(type).arg(ref).arg(iid),
+    queueForTerm(tid, kInters, Placeholders::filled(kQueueInterForTerm, tid, type, ref, iid),
                  "TermSyncRepository::addTermSyncInter() ERROR:");
 }
 
 void TermSyncRepository::addTermSyncInters(unsigned int tid, const QStringList &iids, QChar type)
 {
     // Shares the message of the people operation on purpose.
-    queueForTerm(tid, kInters, QString(kQueueIntersForTerm).arg(tid).arg(type).arg(idList(iids)),
+    queueForTerm(tid, kInters, Placeholders::filled(kQueueIntersForTerm, tid, type, idList(iids)),
                  "TermSyncRepository::addTermSyncPeople() ERROR:");
 }
 
 void TermSyncRepository::addTermSyncTimezone(unsigned int zid, QChar type, const QString &ref)
 {
-    if (!succeeds(QString(kQueueTimezone).arg(type).arg(ref).arg(zid),
+    if (!succeeds(Placeholders::filled(kQueueTimezone, type, ref, zid),
                   "TermSyncRepository::addTermSyncTimezone() ERROR:")) {
         return;
     }
-    failed(SqlStatement::runAll(m_db, QString(kMarkTermsOfTimezone).arg(zid)),
+    failed(SqlStatement::runAll(m_db, Placeholders::filled(kMarkTermsOfTimezone, zid)),
            "TermSyncRepository::addTermSyncTimezone() - update terminals FAILED! ERROR:");
 }
 
 void TermSyncRepository::addTermSyncPZT(unsigned int uid, unsigned int zid, unsigned int tid,
                                         QChar type, const QString &ref)
 {
-    if (!succeeds(QString(kQueueZoneAssignment).arg(tid).arg(type).arg(ref).arg(zid).arg(uid),
+    if (!succeeds(Placeholders::filled(kQueueZoneAssignment, tid, type, ref, zid, uid),
                   "TermSyncRepository::addTermSyncPZT() ERROR:")) {
         return;
     }
     if (type == QLatin1Char('I'))
         addTermSyncTimezone(zid, QLatin1Char('I'), QStringLiteral("zones"));
-    succeeds(QString(kMarkTermForTimezones).arg(tid),
+    succeeds(Placeholders::filled(kMarkTermForTimezones, tid),
              "TermSyncRepository::addTermSyncPZT() - update terminals FAILED! ERROR:");
 }
 
 void TermSyncRepository::addColorGroup(unsigned int tid, unsigned int uid)
 {
-    queueForTerm(tid, kColorGroups, QString(kQueueColorGroup).arg(tid).arg(uid),
+    queueForTerm(tid, kColorGroups, Placeholders::filled(kQueueColorGroup, tid, uid),
                  "TermSyncRepository::addColorGroup() ERROR:");
 }
 
 void TermSyncRepository::addColorGroup(unsigned int tid, const QStringList &uids)
 {
-    queueForTerm(tid, kColorGroups, QString(kQueueColorGroupsOfPeople).arg(tid).arg(idList(uids)),
+    queueForTerm(tid, kColorGroups,
+                 Placeholders::filled(kQueueColorGroupsOfPeople, tid, idList(uids)),
                  "TermSyncRepository::addColorGroup() - INSERT INTO `term_sync` FAILED! ERROR:");
 }
 
@@ -197,7 +199,7 @@ void TermSyncRepository::addColorGroupsToTermSync()
 
 bool TermSyncRepository::setTermSyn(unsigned int tid, unsigned short bits)
 {
-    const QSqlQuery query = SqlStatement::run(m_db, QString(kMarkTerm).arg(bits).arg(tid));
+    const QSqlQuery query = SqlStatement::run(m_db, Placeholders::filled(kMarkTerm, bits, tid));
     return !failed(query, "TermSyncRepository::setTermSyn() ERROR:") && query.numRowsAffected() > 0;
 }
 
@@ -216,7 +218,7 @@ void TermSyncRepository::queueForTerm(unsigned int tid, unsigned short bits, con
 QStringList TermSyncRepository::termsWithInter(unsigned int iid) const
 {
     QStringList tids;
-    QSqlQuery query = SqlStatement::run(m_db, QString(kSelectTermsOfInter).arg(iid));
+    QSqlQuery query = SqlStatement::run(m_db, Placeholders::filled(kSelectTermsOfInter, iid));
     while (query.next())
         tids += query.value(0).toString();
     return tids;

@@ -3,6 +3,7 @@
 #include "worker/mhrworker.h"
 
 #include "db/groupsplanrepo.h"
+#include "db/placeholders.h"
 #include "worker/recordcodes.h"
 #include "worker/sqlreport.h"
 
@@ -108,7 +109,7 @@ bool MHRWorker::dbCheckPersonInBranch(unsigned int pid, unsigned int bid)
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbCheckPersonInBranch(%u, %u)", pid, bid);
     QSqlQuery query(m_db);
-    if (!SqlReport::exec(query, QString(kCountMembership).arg(bid).arg(pid),
+    if (!SqlReport::exec(query, Placeholders::filled(kCountMembership, bid, pid),
                          "MHRWorker::dbCheckPersonInBranch() - SQL ERROR"))
         return false;
     return SqlReport::nextNumber(query) != 0;
@@ -119,7 +120,7 @@ unsigned int MHRWorker::dbGetGroupIdByCalendar(unsigned int bid, unsigned int ca
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::getGroupIdByCalendar(B: %u, C: %u)", bid, calendar);
     QSqlQuery query(m_db);
-    if (!SqlReport::exec(query, QString(kSelectGroup).arg(bid).arg(calendar),
+    if (!SqlReport::exec(query, Placeholders::filled(kSelectGroup, bid, calendar),
                          "MHRWorker::getGroupIdByCalendar() - SQL ERROR"))
         return 0;
     return SqlReport::nextNumber(query);
@@ -130,7 +131,7 @@ bool MHRWorker::dbCheckGroupsPlan(unsigned int gid, unsigned int uid, unsigned i
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbCheckGroupsPlan(%u, %u, %u)", gid, uid, since);
     QSqlQuery query(m_db);
-    if (!SqlReport::exec(query, QString(kCountPlan).arg(gid).arg(uid).arg(since),
+    if (!SqlReport::exec(query, Placeholders::filled(kCountPlan, gid, uid, since),
                          "MHRWorker::dbCheckGroupsPlan() - SQL ERROR"))
         return false;
     return SqlReport::nextNumber(query) != 0;
@@ -145,10 +146,10 @@ bool MHRWorker::dbChangeLastCalc(unsigned int uid, const QDate &date)
     const qint64 firstDay = RecordCodes::midnight(date);
     const qint64 dayBefore = RecordCodes::midnight(date.addDays(-1));
     QSqlQuery attendance(m_db);
-    if (!SqlReport::exec(attendance, QString(kResetAttendance).arg(firstDay).arg(uid),
+    if (!SqlReport::exec(attendance, Placeholders::filled(kResetAttendance, firstDay, uid),
                          "MHRWorker::dbChangeLastCalc() [UPDATE atten] - SQL ERROR"))
         return false;
     QSqlQuery person(m_db);
-    return SqlReport::exec(person, QString(kResetLastCalc).arg(dayBefore).arg(uid),
+    return SqlReport::exec(person, Placeholders::filled(kResetLastCalc, dayBefore, uid),
                            "MHRWorker::dbChangeLastCalc() [UPDATE people] - SQL ERROR");
 }

@@ -2,6 +2,7 @@
 
 #include "worker/mhrworker.h"
 
+#include "db/placeholders.h"
 #include "worker/recordcodes.h"
 #include "worker/sqlreport.h"
 
@@ -62,7 +63,7 @@ void MHRWorker::dbCheckDovolenkaFond(unsigned short iid)
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::checkDovolenkaFond()");
     QSqlQuery query(m_db);
-    if (SqlReport::exec(query, QString(kSelectFund).arg(iid),
+    if (SqlReport::exec(query, Placeholders::filled(kSelectFund, iid),
                         "MHRWorker::checkDovolenkaFond() - SQL ERROR")
         && query.next())
         m_vacationFundId = static_cast<quint16>(query.value(0).toUInt());
@@ -81,7 +82,7 @@ bool MHRWorker::dbCheckFundMove(unsigned int pid)
         qDebug("MHRWorker::dbCheckFundMove(pid: %u)", pid);
     QSqlQuery query(m_db);
     const bool none =
-        SqlReport::exec(query, QString(kCountMovesOfToday).arg(m_vacationFundId).arg(pid),
+        SqlReport::exec(query, Placeholders::filled(kCountMovesOfToday, m_vacationFundId, pid),
                         "MHRWorker::dbCheckFundMove() - SQL ERROR")
         && query.next() && query.value(0).toUInt() == 0;
     if (m_debugLevel >= 1) {
@@ -103,7 +104,7 @@ bool MHRWorker::dbCheckAttendance(unsigned int pid, unsigned int &uid)
 bool MHRWorker::isCalculated(quint32 pid, quint32 &uid)
 {
     QSqlQuery query(m_db);
-    if (!SqlReport::exec(query, QString(kSelectCalculation).arg(pid),
+    if (!SqlReport::exec(query, Placeholders::filled(kSelectCalculation, pid),
                          "MHRWorker::dbCheckAttendance() - SQL ERROR")
         || !query.next())
         return false;
@@ -118,7 +119,7 @@ bool MHRWorker::hasOpenDays(quint32 uid)
 {
     // A failure here does not block the correction.
     QSqlQuery query(m_db);
-    return SqlReport::exec(query, QString(kCountOpenDays).arg(uid),
+    return SqlReport::exec(query, Placeholders::filled(kCountOpenDays, uid),
                            "MHRWorker::dbCheckAttendance() - SQL ERROR")
         && SqlReport::nextNumber(query) != 0;
 }
@@ -138,7 +139,7 @@ qint64 MHRWorker::loadFundBalance(quint32 pid, bool &ok)
     const auto sum = [&](const QLatin1String &sql, const char *operation) {
         QSqlQuery query(m_db);
         const bool done = SqlReport::exec(
-            query, QString(sql).arg(m_vacationFundId).arg(pid).arg(monthStart), operation);
+            query, Placeholders::filled(sql, m_vacationFundId, pid, monthStart), operation);
         ok = ok && done;
         return done ? nextSum(query) : 0;
     };
@@ -157,7 +158,7 @@ bool MHRWorker::writeFundMove3(unsigned int uid, int value)
     if (m_debugLevel >= 1)
         qDebug("MHRWorker::writeFundMove3(uid: %u, value: %i)", uid, value);
     const qint64 today = RecordCodes::midnight(QDate::currentDate());
-    const QString sql = QString(kWriteMove).arg(today).arg(value).arg(m_vacationFundId).arg(uid);
+    const QString sql = Placeholders::filled(kWriteMove, today, value, m_vacationFundId, uid);
     QSqlQuery query(m_db);
     return SqlReport::execShowingStatement(query, sql, "MHRWorker::writeFundMove3() - SQL ERROR")
         && query.numRowsAffected() > 0;

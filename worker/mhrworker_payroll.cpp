@@ -2,6 +2,7 @@
 
 #include "worker/mhrworker.h"
 
+#include "db/placeholders.h"
 #include "db/sqlstatement.h"
 #include "db/tepdbsettings.h"
 #include "worker/sqlreport.h"
@@ -96,7 +97,7 @@ bool MHRWorker::dbAddPersonIntoPam(unsigned int pid, unsigned int pamSettingsID)
         return true;
     }
 
-    const quint32 uid = findUid(m_db, QString(kSelectUidForPam).arg(pid));
+    const quint32 uid = findUid(m_db, Placeholders::filled(kSelectUidForPam, pid));
     if (uid == 0) {
         if (m_debugLevel >= 1) {
             qWarning("MHRWorker::dbAddPersonIntoPam(pid: %u, pamSettingsID: %u) - Unique person "
@@ -107,7 +108,7 @@ bool MHRWorker::dbAddPersonIntoPam(unsigned int pid, unsigned int pamSettingsID)
     }
 
     QSqlQuery query(m_db);
-    if (!query.exec(QString(kInsertIntoPam).arg(uid).arg(pamSettingsID) + kOnDuplicatePam)) {
+    if (!query.exec(Placeholders::filled(kInsertIntoPam, uid, pamSettingsID) + kOnDuplicatePam)) {
         qCritical("MHRWorker::dbAddPersonIntoPam(pid: %u, pamSettingsID: %u) - SQL ERROR: %s", pid,
                   pamSettingsID, qUtf8Printable(query.lastError().text()));
         return false;
@@ -121,16 +122,16 @@ void MHRWorker::addTermSyncPerson(unsigned int pid, QChar type, const QString &r
         qDebug("MHRWorker::addTermSyncPerson(%u, %s, %s)", pid, qUtf8Printable(QString(type)),
                qUtf8Printable(ref));
     }
-    const quint32 uid = findUid(m_db, QString(kSelectUidForTerminals).arg(pid));
+    const quint32 uid = findUid(m_db, Placeholders::filled(kSelectUidForTerminals, pid));
     if (uid == 0) {
         qWarning("MHRWorker::addTermSyncPerson(%u) - uid NOT selected from DB!", pid);
         return;
     }
 
     const QSqlQuery queued =
-        SqlStatement::run(m_db, QString(kQueuePerson).arg(type).arg(ref).arg(uid));
+        SqlStatement::run(m_db, Placeholders::filled(kQueuePerson, type, ref, uid));
     if (SqlStatement::failed(queued, "MHRWorker::addTermSyncPerson() ERROR:"))
         return;
-    const QSqlQuery marked = SqlStatement::runAll(m_db, QString(kMarkTerminals).arg(uid));
+    const QSqlQuery marked = SqlStatement::runAll(m_db, Placeholders::filled(kMarkTerminals, uid));
     SqlStatement::failed(marked, "MHRWorker::addTermSyncPerson() - updateTermsSync() ERROR:");
 }

@@ -48,7 +48,7 @@ const QLatin1String kUpdatePerson(
 /// Personal number and relationship of a payroll id such as "1234.2".
 void setPayrollId(MirovaRonRecord &record, const QString &payrollId)
 {
-    const QVector<QStringRef> parts = payrollId.splitRef(QLatin1Char('.'), Qt::KeepEmptyParts);
+    const ExportLine::Parts parts = ExportLine::split(payrollId, QLatin1Char('.'));
     record.osobniCislo = ExportLine::toNumber(parts.first());
     record.poradoveCisloPP = ExportLine::toNumber(parts.value(1));
 }
@@ -102,7 +102,7 @@ uint MHRWorker::dbGetUidByPid(uint pid) const
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbGetUidByPid(%u)", pid);
     QSqlQuery query(m_db);
-    if (!SqlReport::exec(query, QString(kSelectUid).arg(pid),
+    if (!SqlReport::exec(query, Placeholders::filled(kSelectUid, pid),
                          "MHRWorker::dbGetUidByPid() - SQL ERROR"))
         return 0;
     return SqlReport::nextNumber(query);
@@ -126,7 +126,7 @@ bool MHRWorker::dbCheckPerson(const MirovaRonRecord &rec)
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbCheckPerson(%s)", qUtf8Printable(rec.getPamId()));
     QSqlQuery query(m_db);
-    if (!SqlReport::exec(query, QString(kCountPid).arg(rec.getPid()),
+    if (!SqlReport::exec(query, Placeholders::filled(kCountPid, rec.getPid()),
                          "MHRWorker::dbCheckPerson() - SQL ERROR"))
         return false;
     return SqlReport::nextNumber(query) > 0;

@@ -2,6 +2,7 @@
 
 #include "worker/mhrworker.h"
 
+#include "db/placeholders.h"
 #include "worker/sqlreport.h"
 #include "worker/transaction.h"
 
@@ -56,8 +57,9 @@ unsigned int MHRWorker::dbGetAidByOsCis(unsigned int personalNumber)
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbGetAidByOsCis(uid: %u)", personalNumber);
     QSqlQuery query(m_db);
-    const bool done = SqlReport::execShowingStatement(
-        query, QString(kSelectAid).arg(personalNumber), "MHRWorker::dbGetAidByOsCis() - SQL ERROR");
+    const bool done =
+        SqlReport::execShowingStatement(query, Placeholders::filled(kSelectAid, personalNumber),
+                                        "MHRWorker::dbGetAidByOsCis() - SQL ERROR");
     const uint aid = done ? SqlReport::nextNumber(query) : 0;
     if (m_debugLevel >= 1)
         qDebug("MHRWorker::dbGetAidByOsCis(uid: %u): %u", personalNumber, aid);
@@ -68,7 +70,7 @@ int MHRWorker::dbResetAdminPeopleRequest(unsigned int aid, unsigned int uid)
 {
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbResetAdminPeopleRequest(aid: %u, uid: %u)", aid, uid);
-    const int affected = changeRequest(QString(kResetRequest).arg(uid).arg(aid),
+    const int affected = changeRequest(Placeholders::filled(kResetRequest, uid, aid),
                                        "MHRWorker::dbResetAdminPeopleRequest() - SQL ERROR",
                                        "MHRWorker::dbResetAdminPeopleRequest");
     if (m_debugLevel >= 1) {
@@ -83,7 +85,7 @@ int MHRWorker::dbSetAdminPeopleRequest(unsigned int aid, unsigned int uid)
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbSetAdminPeopleRequest(aid: %u, uid: %u)", aid, uid);
     const int affected =
-        changeRequest(QString(kSetRequest).arg(aid).arg(uid),
+        changeRequest(Placeholders::filled(kSetRequest, aid, uid),
                       "MHRWorker::dbSetAdminPeopleRequest() - SQL ERROR", "MHRWorker");
     if (m_debugLevel >= 1) {
         qDebug("MHRWorker::dbSetAdminPeopleRequest(aid: %u, uid: %u) - affected: %i", aid, uid,

@@ -70,7 +70,7 @@ quint32 MirovaRonRecord::getPid() const
 
 QString MirovaRonRecord::getPamId() const
 {
-    return QStringLiteral("%1.%2").arg(osobniCislo).arg(poradoveCisloPP);
+    return QString::number(osobniCislo) + QLatin1Char('.') + QString::number(poradoveCisloPP);
 }
 
 QString MirovaRonRecord::getString(bool shortForm) const

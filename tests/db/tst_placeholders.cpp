@@ -27,6 +27,7 @@ private Q_SLOTS:
     void theValuesTakeThePlacesOfTheirNumbers();
     void randomValuesAreFilledInAsByAChain_data();
     void randomValuesAreFilledInAsByAChain();
+    void numbersAndCharactersAreFilledInAsByAChain();
 };
 
 void TestPlaceholders::theValuesTakeThePlacesOfTheirNumbers_data()
@@ -86,6 +87,22 @@ void TestPlaceholders::randomValuesAreFilledInAsByAChain()
         }
         QCOMPARE(Placeholders::filled(statement, values), chained(statement, values));
     }
+}
+
+void TestPlaceholders::numbersAndCharactersAreFilledInAsByAChain()
+{
+    const QLatin1String text("%1, %2, %3, %4, '%5', '%6' = %1");
+    const ushort narrow = 65535;
+    const uint wide = 4294967295U;
+    const int negative = -7;
+    const qint64 wider = -9223372036854775807LL - 1;
+    const QChar character = QLatin1Char('D');
+    for (const QString &name : {QStringLiteral("Nováková"), QStringLiteral("5 %"), QString()}) {
+        const QString chain =
+            QString(text).arg(narrow).arg(wide).arg(negative).arg(wider).arg(character).arg(name);
+        QCOMPARE(Placeholders::filled(text, narrow, wide, negative, wider, character, name), chain);
+    }
+    QCOMPARE(Placeholders::filled(QLatin1String("%1"), QStringLiteral("x")), QStringLiteral("x"));
 }
 
 QTEST_APPLESS_MAIN(TestPlaceholders)
