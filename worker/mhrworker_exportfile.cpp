@@ -92,7 +92,7 @@ void MHRWorker::shareTexts(MirovaRonRecord &record)
           &MirovaRonRecord::titulZa, &MirovaRonRecord::telefon, &MirovaRonRecord::strediskoPopis}) {
         if (known && (*last).*text == record.*text)
             record.*text = (*last).*text;
-        else
+        else if (text != &MirovaRonRecord::telefon) // hardly two people have the same
             record.*text = *m_sharedTexts.insert(record.*text);
     }
 }
