@@ -98,6 +98,13 @@ void TestPayroll::aPersonIsAppendedToTheSelection_data()
                                           << "012342,12342";
     QTest::newRow("words") << "all,none"
                            << "all,none,12342";
+    const QStringList many = QString("10,20,300,4000").repeated(20).split(',');
+    for (int others : {1, 2, 3, 5, 8, 13, 21, 34, 55}) {
+        QStringList parts = many;
+        parts.insert(others, QString());
+        QTest::addRow("an empty part after %d of many", others)
+            << parts.join(',') << many.join(',') + ",12342";
+    }
 }
 
 void TestPayroll::aPersonIsAppendedToTheSelection()
