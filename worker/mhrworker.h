@@ -1,6 +1,7 @@
 #pragma once
 
 #include "worker/mirovaronrecord.h"
+#include "worker/peoplecache.h"
 
 #include <QHash>
 #include <QMap>
@@ -163,7 +164,7 @@ public:
 
     /// The database's view of a person (pid) as dbLoadPeople() found it; nothing when there is no
     /// such active person.
-    std::optional<MirovaRonRecord> knownPerson(quint32 pid) const;
+    std::optional<MirovaRonRecord> knownPerson(quint32 pid);
 
     // ---- Branch and calendar ------------------------------------------------------------------
 
@@ -268,6 +269,7 @@ private:
 
     void parseLines(QIODevice &file, const QStringList &fields);
     void shareTexts(MirovaRonRecord &record);
+    bool isAsLastSeen(const MirovaRonRecord &record) const;
 
     struct Reconciliation;
     void checkFunds(Reconciliation &work);
@@ -275,7 +277,8 @@ private:
     void compareWithLast(const MirovaRonRecord &rec, Reconciliation &work) const;
     bool reconcile(const MirovaRonRecord &rec, Reconciliation &work);
     bool createPerson(const MirovaRonRecord &rec);
-    bool updateKnownPerson(const MirovaRonRecord &rec, Reconciliation &work);
+    bool updateKnownPerson(const MirovaRonRecord &rec, MirovaRonRecord &known,
+                           Reconciliation &work);
     bool correctVacation(const MirovaRonRecord &rec, const Reconciliation &work);
     void placeOrWait(const MirovaRonRecord &rec, const Reconciliation &work);
     void requestRecalculation(const MirovaRonRecord &rec);
@@ -310,11 +313,12 @@ private:
     QString m_importFile;
     bool m_deleteFileAfterImport = false;
     bool m_force = false; ///< the force flag as read at the start of the tick
-    QHash<quint32, MirovaRonRecord> m_people; ///< pid to the database's view, for one cycle
+    PeopleCache m_people; ///< the database's view, for one cycle
     QMultiHash<quint32, MirovaRonRecord> m_waiting; ///< pid to records that wait for their branch
     TepDbSettings *m_settings = nullptr;
     BranchesRepository *m_branches = nullptr;
     QVector<MirovaRonRecord> m_records; ///< parsed, still to be synchronised
+    QSet<quint32> m_changedPids; ///< of those records that are not as last seen in the export
     QHash<quint32, quint32> m_branchIds; ///< `branches.number` to bid
     QMap<quint32, QStringList> m_pendingMembers; ///< bid to uids that must join the branch
     GroupsPlanRepo *m_groupsPlan = nullptr;

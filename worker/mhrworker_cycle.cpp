@@ -70,6 +70,7 @@ void MHRWorker::reconcileRecords()
     }
     qCritical("MHRWorker: load people from TEPDB failed - synchronization terminated!");
     m_records.clear();
+    m_changedPids.clear();
 }
 
 void MHRWorker::runCommand()

@@ -121,8 +121,8 @@ void MHRWorker::compareWithLast(const MirovaRonRecord &rec, Reconciliation &work
 
 bool MHRWorker::reconcile(const MirovaRonRecord &rec, Reconciliation &work)
 {
-    if (m_people.contains(work.pid))
-        return updateKnownPerson(rec, work);
+    if (MirovaRonRecord *known = m_people.find(work.pid))
+        return updateKnownPerson(rec, *known, work);
     // Who has left already is never created.
     return work.active && createPerson(rec);
 }
@@ -142,9 +142,9 @@ bool MHRWorker::createPerson(const MirovaRonRecord &rec)
     return true;
 }
 
-bool MHRWorker::updateKnownPerson(const MirovaRonRecord &rec, Reconciliation &work)
+bool MHRWorker::updateKnownPerson(const MirovaRonRecord &rec, MirovaRonRecord &known,
+                                  Reconciliation &work)
 {
-    MirovaRonRecord &known = m_people[work.pid];
     work.lastCalcNeeded =
         RecordComparison::isComplete(known) && RecordComparison::movesElsewhere(rec, known);
 

@@ -77,6 +77,8 @@ void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar 
     if (!ExportLine::isUsable(record))
         return;
     shareTexts(record);
+    if (!isAsLastSeen(record))
+        m_changedPids.insert(record.getPid());
     m_records.append(std::move(record));
 }
 
@@ -95,6 +97,12 @@ void MHRWorker::shareTexts(MirovaRonRecord &record)
         else if (text != &MirovaRonRecord::telefon) // hardly two people have the same
             record.*text = *m_sharedTexts.insert(record.*text);
     }
+}
+
+bool MHRWorker::isAsLastSeen(const MirovaRonRecord &record) const
+{
+    const auto last = m_lastRecords.constFind(record.getPid());
+    return last != m_lastRecords.constEnd() && record == *last;
 }
 
 QDate MHRWorker::parseDate(const QString &text, const QString &format)

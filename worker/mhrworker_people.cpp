@@ -3,7 +3,6 @@
 #include "worker/mhrworker.h"
 
 #include "db/placeholders.h"
-#include "worker/exportline.h"
 #include "worker/recordcodes.h"
 #include "worker/sqlreport.h"
 
@@ -15,11 +14,6 @@
 #include <utility>
 
 namespace {
-
-const QLatin1String kSelectPeople(
-    "SELECT p.pid, p.pamId, p.title, p.name, p.surname, p.title2, p.phone, p.begin, p.end, "
-    "p.rsBegin, p.rsEnd, p.rsText, p.calendarID, b.number FROM people p LEFT JOIN branches b "
-    "USING(bid) WHERE p.status;");
 
 const QLatin1String kSelectUid("SELECT uid FROM people WHERE pid = %1 LIMIT 1;");
 
@@ -45,35 +39,6 @@ const QLatin1String kUpdatePerson(
     "begin=%7, end=%8, edited=UNIX_TIMESTAMP(), editor=0, rsBegin=%10, rsEnd=%11, rsText='%12', "
     "type=%13, did=%14, calendarID=%15, bid=%16  WHERE pid=%9");
 
-/// Personal number and relationship of a payroll id such as "1234.2".
-void setPayrollId(MirovaRonRecord &record, const QString &payrollId)
-{
-    const ExportLine::Parts parts = ExportLine::split(payrollId, QLatin1Char('.'));
-    record.osobniCislo = ExportLine::toNumber(parts.first());
-    record.poradoveCisloPP = ExportLine::toNumber(parts.value(1));
-}
-
-/// The database's view of a person. The pid column is not read: the key of a person is the pid that
-/// the payroll id makes, which is what the export's records are looked up by.
-MirovaRonRecord personFromRow(const QSqlQuery &row)
-{
-    MirovaRonRecord person;
-    setPayrollId(person, row.value(1).toString());
-    person.titul = row.value(2).toString();
-    person.jmeno = row.value(3).toString();
-    person.prijmeni = row.value(4).toString();
-    person.titulZa = row.value(5).toString();
-    person.telefon = row.value(6).toString();
-    person.datumNastupu = RecordCodes::datNastFromTimestamp(row.value(7).toUInt());
-    person.datumVystupu = RecordCodes::datVystFromTimestamp(row.value(8).toUInt());
-    person.rsFrom = RecordCodes::datVystFromTimestamp(row.value(9).toUInt());
-    person.rsTo = RecordCodes::datVystFromTimestamp(row.value(10).toUInt());
-    person.rsText = row.value(11).toString();
-    person.kalendar = row.value(12).toUInt();
-    person.stredisko = row.value(13).toUInt();
-    return person;
-}
-
 } // namespace
 
 bool MHRWorker::dbLoadPeople()
@@ -81,20 +46,16 @@ bool MHRWorker::dbLoadPeople()
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbLoadPeople()");
     QSqlQuery query(m_db);
-    if (!SqlReport::exec(query, kSelectPeople, "MHRWorker::dbLoadPeople() - SQL ERROR"))
+    if (!SqlReport::exec(query, PeopleCache::kSelect, "MHRWorker::dbLoadPeople() - SQL ERROR"))
         return false;
-    m_people.clear();
-    while (query.next()) {
-        MirovaRonRecord person = personFromRow(query);
-        m_people[person.getPid()] = std::move(person);
-    }
+    m_people.load(query, std::exchange(m_changedPids, {}));
     return true;
 }
 
-std::optional<MirovaRonRecord> MHRWorker::knownPerson(quint32 pid) const
+std::optional<MirovaRonRecord> MHRWorker::knownPerson(quint32 pid)
 {
-    const auto known = m_people.constFind(pid);
-    return known == m_people.constEnd() ? std::nullopt : std::make_optional(*known);
+    const MirovaRonRecord *known = m_people.find(pid);
+    return known ? std::make_optional(*known) : std::nullopt;
 }
 
 uint MHRWorker::dbGetUidByPid(uint pid) const
