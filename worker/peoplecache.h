@@ -10,9 +10,9 @@
 
 /// The database's view of its active people during one cycle, by pid.
 ///
-/// Taking in a row costs more than all else of an employee who has not changed, and nobody asks for
-/// that person then. So only those of whom it is expected are taken in at once. The others stay
-/// what they are in the result of the query until somebody else is looked for.
+/// Making a record of a row costs more than all else of an employee who has not changed, and nobody
+/// asks for that person then. So the rows stay in the result of the query until somebody is looked
+/// for, except those of people of whom it is expected.
 class PeopleCache {
 public:
     /// The query of the rows.
