@@ -109,8 +109,11 @@ void TestPeopleCache::aChangeStaysWhoeverIsLookedForNext()
 {
     QFETCH(Pids, expected);
     load(expected);
-    for (const quint32 pid : {1001U, 3001U, 2001U})
-        m_people.find(pid)->prijmeni += " changed";
+    for (const quint32 pid : {1001U, 3001U, 2001U}) {
+        MirovaRonRecord *person = m_people.find(pid);
+        QVERIFY(person);
+        person->prijmeni += " changed";
+    }
     QCOMPARE(surnameOf(4001), QString("nobody"));
     QCOMPARE(surnameOf(1001), QString("Anna changed"));
     QCOMPARE(surnameOf(2001), QString("Eva changed"));
