@@ -3,7 +3,8 @@
 #include "tools/plaintext.h"
 #include "tools/sqltext.h"
 #include "worker/exportline.h"
-#include "worker/recordcodes.h"
+#include "worker/recorddates.h"
+#include "worker/vacationbalance.h"
 
 #include <QDateTime>
 
@@ -64,8 +65,8 @@ bool isKept(const QDate &day)
 {
     if (day.year() > 1970 && day.year() < 2106)
         return true;
-    return RecordCodes::midnight(day) > 0
-        && RecordCodes::midnight(day.addDays(1)) <= qint64(std::numeric_limits<quint32>::max());
+    return RecordDates::midnight(day) > 0
+        && RecordDates::midnight(day.addDays(1)) <= qint64(std::numeric_limits<quint32>::max());
 }
 
 } // namespace
@@ -263,7 +264,7 @@ void FieldRules::checkBalance()
             QStringLiteral("%1 It reads as 0: %2")
                 .arg(notANumber(DovolenaZustatek), consequence(DovolenaZustatek)),
             balanceAdvice(text));
-    } else if (!RecordCodes::vacationMove(m_record.dovolenaZustatek, 0, hundredths)) {
+    } else if (!VacationBalance::correction(m_record.dovolenaZustatek, 0, hundredths)) {
         add(DovolenaZustatek, Severity::Warning, "balance-out-of-range",
             QStringLiteral("%1 days are no balance that can be kept: the balance is not changed.")
                 .arg(PlainText::quoted(text)),

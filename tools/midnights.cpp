@@ -1,6 +1,6 @@
 #include "tools/midnights.h"
 
-#include "worker/recordcodes.h"
+#include "worker/recorddates.h"
 
 #include <QDateTime>
 #include <QSet>
@@ -45,7 +45,7 @@ QString Midnights::query(const QVector<QDate> &days)
 QDate Midnights::differing(const QVector<QDate> &days, const QVariantList &midnights)
 {
     for (int i = 0; i < midnights.size(); ++i) {
-        if (midnights.at(i).toLongLong() != RecordCodes::midnight(days.at(i)))
+        if (midnights.at(i).toLongLong() != RecordDates::midnight(days.at(i)))
             return days.at(i);
     }
     return QDate();

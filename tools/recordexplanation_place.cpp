@@ -5,8 +5,8 @@
 #include "tools/explaincontext.h"
 #include "tools/explaintext.h"
 #include "tools/recordexplanation.h"
-#include "worker/recordcodes.h"
 #include "worker/recordcomparison.h"
+#include "worker/recorddates.h"
 
 namespace {
 
@@ -144,7 +144,7 @@ void RecordExplanation::explainRecalculation()
         say(QStringLiteral("Not for the place or the balance."));
         return;
     }
-    const QDate from = RecordCodes::firstDayOfPreviousMonth(QDate::currentDate());
+    const QDate from = RecordDates::firstDayOfPreviousMonth(QDate::currentDate());
     m_outcome.recalculation = ExplainText::day(from);
     say(QStringLiteral("Yes, from %1 on, because %2.")
             .arg(m_outcome.recalculation,

@@ -3,7 +3,7 @@
 #include "tools/explaincontext.h"
 #include "tools/explaintext.h"
 #include "tools/recordexplanation.h"
-#include "worker/recordcodes.h"
+#include "worker/vacationbalance.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ void RecordExplanation::explainCorrection(quint32 uid)
     bool loaded = false;
     const int held = m_context.view.worker().loadFundStatusAndMove3(m_context.pid, loaded);
     qint32 move = 0;
-    const bool writable = RecordCodes::vacationMove(m_record.dovolenaZustatek, held, move);
+    const bool writable = VacationBalance::correction(m_record.dovolenaZustatek, held, move);
     if (!writable) {
         m_outcome.balance = QStringLiteral("impossible");
         ExplainText::tell(

@@ -4,7 +4,7 @@
 
 #include "db/groupsplanrepo.h"
 #include "db/placeholders.h"
-#include "worker/recordcodes.h"
+#include "worker/recorddates.h"
 #include "worker/sqlreport.h"
 
 #include <QDebug>
@@ -143,8 +143,8 @@ bool MHRWorker::dbChangeLastCalc(unsigned int uid, const QDate &date)
         qDebug("MHRWorker::dbChangeLastCalc(%u, %s)", uid,
                qUtf8Printable(QLocale::system().toString(date, QLocale::ShortFormat)));
     }
-    const qint64 firstDay = RecordCodes::midnight(date);
-    const qint64 dayBefore = RecordCodes::midnight(date.addDays(-1));
+    const qint64 firstDay = RecordDates::midnight(date);
+    const qint64 dayBefore = RecordDates::midnight(date.addDays(-1));
     QSqlQuery attendance(m_db);
     if (!SqlReport::exec(attendance, Placeholders::filled(kResetAttendance, firstDay, uid),
                          "MHRWorker::dbChangeLastCalc() [UPDATE atten] - SQL ERROR"))

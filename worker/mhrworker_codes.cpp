@@ -3,25 +3,27 @@
 #include "worker/mhrworker.h"
 
 #include "worker/recordcodes.h"
+#include "worker/recorddates.h"
+#include "worker/relationshipstate.h"
 
 QString MHRWorker::personBeginForSql(const QDate &date) const
 {
-    return RecordCodes::personBeginForSql(date);
+    return RecordDates::personBeginForSql(date);
 }
 
 QString MHRWorker::personEndForSql(const QDate &date, bool endOfDay) const
 {
-    return RecordCodes::personEndForSql(date, endOfDay);
+    return RecordDates::personEndForSql(date, endOfDay);
 }
 
 QDate MHRWorker::datNastFromTimestamp(uint timestamp) const
 {
-    return RecordCodes::datNastFromTimestamp(timestamp);
+    return RecordDates::datNastFromTimestamp(timestamp);
 }
 
 QDate MHRWorker::datVystFromTimestamp(uint timestamp) const
 {
-    return RecordCodes::datVystFromTimestamp(timestamp);
+    return RecordDates::datVystFromTimestamp(timestamp);
 }
 
 ushort MHRWorker::employmentTypeFromTPP(ushort code) const
@@ -44,7 +46,7 @@ QString MHRWorker::es2rsText(ushort es) const
     const auto configured = m_mes.constFind(es);
     if (configured != m_mes.constEnd())
         return *configured;
-    const char *text = RecordCodes::builtInRsText(es);
+    const char *text = RelationshipState::builtInText(es);
     return text ? tr(text) : QString();
 }
 
@@ -57,9 +59,9 @@ void MHRWorker::updateRs(MirovaRonRecord &rec, const MirovaRonRecord &last) cons
 {
     const QDate today = QDate::currentDate();
     if (isRS(rec.evidencniStav))
-        RecordCodes::continueRs(rec, last, es2rsText(rec), today);
+        RelationshipState::carryOn(rec, last, es2rsText(rec), today);
     else
-        RecordCodes::closeRs(rec, last, today);
+        RelationshipState::close(rec, last, today);
 }
 
 MirovaRonRecord MHRWorker::updateRs(const MirovaRonRecord &rec, const MirovaRonRecord &last) const

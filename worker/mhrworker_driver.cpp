@@ -5,6 +5,8 @@
 #include "db/branchesrepository.h"
 #include "worker/recordcodes.h"
 #include "worker/recordcomparison.h"
+#include "worker/recorddates.h"
+#include "worker/vacationbalance.h"
 
 #include <QDebug>
 
@@ -178,7 +180,7 @@ bool MHRWorker::correctVacation(const MirovaRonRecord &rec, const Reconciliation
     }
 
     qint32 value = 0;
-    const bool writable = RecordCodes::vacationMove(rec.dovolenaZustatek, balance, value);
+    const bool writable = VacationBalance::correction(rec.dovolenaZustatek, balance, value);
     if (writable && value == 0)
         return false;
     if (writable && writeFundMove3(work.uid, value))
@@ -213,5 +215,5 @@ void MHRWorker::requestRecalculation(const MirovaRonRecord &rec)
                  pid, qUtf8Printable(rec.getString(false)));
         return;
     }
-    dbChangeLastCalc(uid, RecordCodes::firstDayOfPreviousMonth(QDate::currentDate()));
+    dbChangeLastCalc(uid, RecordDates::firstDayOfPreviousMonth(QDate::currentDate()));
 }

@@ -3,7 +3,7 @@
 #include "worker/mhrworker.h"
 
 #include "db/placeholders.h"
-#include "worker/recordcodes.h"
+#include "worker/recorddates.h"
 #include "worker/sqlreport.h"
 
 #include <QDateTime>
@@ -134,7 +134,7 @@ qint64 MHRWorker::loadFundBalance(quint32 pid, bool &ok)
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::loadFundStatusAndMove3(pid: %u)", pid);
     const QDate today = QDate::currentDate();
-    const qint64 monthStart = RecordCodes::midnight(QDate(today.year(), today.month(), 1));
+    const qint64 monthStart = RecordDates::midnight(QDate(today.year(), today.month(), 1));
     ok = true;
     const auto sum = [&](const QLatin1String &sql, const char *operation) {
         QSqlQuery query(m_db);
@@ -157,7 +157,7 @@ bool MHRWorker::writeFundMove3(unsigned int uid, int value)
 {
     if (m_debugLevel >= 1)
         qDebug("MHRWorker::writeFundMove3(uid: %u, value: %i)", uid, value);
-    const qint64 today = RecordCodes::midnight(QDate::currentDate());
+    const qint64 today = RecordDates::midnight(QDate::currentDate());
     const QString sql = Placeholders::filled(kWriteMove, today, value, m_vacationFundId, uid);
     QSqlQuery query(m_db);
     return SqlReport::execShowingStatement(query, sql, "MHRWorker::writeFundMove3() - SQL ERROR")

@@ -3,7 +3,7 @@
 #include "worker/mhrworker.h"
 
 #include "db/placeholders.h"
-#include "worker/recordcodes.h"
+#include "worker/recorddates.h"
 #include "worker/sqlreport.h"
 
 #include <QDebug>
@@ -170,7 +170,7 @@ QString MHRWorker::updateStatement(const MirovaRonRecord &rec, bool esChanged) c
                           personEndForSql(rec.rsTo, false),
                           rec.rsText};
     if (recalculate)
-        values += QString::number(RecordCodes::midnight32(rec.rsFrom.addDays(-1)));
+        values += QString::number(RecordDates::midnight32(rec.rsFrom.addDays(-1)));
     values += {QString::number(employmentTypeFromTPP(rec.typPracovnihoPomeru)),
                departmentIdForSql(), QString::number(rec.kalendar), branchIdForSql(rec.stredisko)};
     return Placeholders::filled(recalculate ? kUpdatePersonAndLastCalc : kUpdatePerson, values);

@@ -1,7 +1,7 @@
 #include "worker/peoplecache.h"
 
 #include "worker/exportline.h"
-#include "worker/recordcodes.h"
+#include "worker/recorddates.h"
 
 #include <QVariant>
 
@@ -34,10 +34,10 @@ void readRest(MirovaRonRecord &person, const QSqlQuery &row)
     person.prijmeni = row.value(4).toString();
     person.titulZa = row.value(5).toString();
     person.telefon = row.value(6).toString();
-    person.datumNastupu = RecordCodes::datNastFromTimestamp(row.value(7).toUInt());
-    person.datumVystupu = RecordCodes::datVystFromTimestamp(row.value(8).toUInt());
-    person.rsFrom = RecordCodes::datVystFromTimestamp(row.value(9).toUInt());
-    person.rsTo = RecordCodes::datVystFromTimestamp(row.value(10).toUInt());
+    person.datumNastupu = RecordDates::datNastFromTimestamp(row.value(7).toUInt());
+    person.datumVystupu = RecordDates::datVystFromTimestamp(row.value(8).toUInt());
+    person.rsFrom = RecordDates::datVystFromTimestamp(row.value(9).toUInt());
+    person.rsTo = RecordDates::datVystFromTimestamp(row.value(10).toUInt());
     person.rsText = row.value(11).toString();
     person.kalendar = row.value(12).toUInt();
     person.stredisko = row.value(13).toUInt();

@@ -1,7 +1,7 @@
 #include "tests/support/testdatabase.h"
 #include "tests/tools/toolrun.h"
 #include "tools/columnneeds.h"
-#include "worker/recordcodes.h"
+#include "worker/relationshipstate.h"
 
 #include <QJsonDocument>
 #include <QtTest>
@@ -716,7 +716,8 @@ void TestCheckDb::theLengthsOfTheProgramsOwnTextsAreRight()
 {
     int longest = 0;
     for (int code = 0; code <= 65535; ++code)
-        longest = qMax(longest, QString::fromUtf8(RecordCodes::builtInRsText(ushort(code))).size());
+        longest =
+            qMax(longest, QString::fromUtf8(RelationshipState::builtInText(ushort(code))).size());
     for (const ColumnNeeds::Text &need : ColumnNeeds::kTexts) {
         if (qstrcmp(need.column, "rsText") == 0)
             QCOMPARE(need.length, longest);

@@ -3,7 +3,7 @@
 #include "tests/tools/explainedsite.h"
 #include "tools/soughtperson.h"
 #include "worker/mirovaronrecord.h"
-#include "worker/recordcodes.h"
+#include "worker/recorddates.h"
 
 #include <QDir>
 #include <QtTest>
@@ -17,7 +17,7 @@ QString dayFromToday(int days)
 
 QString previousMonth()
 {
-    return RecordCodes::firstDayOfPreviousMonth(QDate::currentDate()).toString(Qt::ISODate);
+    return RecordDates::firstDayOfPreviousMonth(QDate::currentDate()).toString(Qt::ISODate);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "tests/sync/sampleexport.h"
 #include "tests/sync/synctest.h"
 #include "tests/tools/explainedsite.h"
-#include "worker/recordcodes.h"
+#include "worker/recorddates.h"
 
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -146,8 +146,8 @@ QString ObservedPerson::calendar(const QStringList &log) const
 
 QString ObservedPerson::recalculation(const QStringList &statements) const
 {
-    const QDate day = RecordCodes::firstDayOfPreviousMonth(QDate::currentDate());
-    const QString reset = QStringLiteral("`date` >= %1 AND uid =").arg(RecordCodes::midnight(day));
+    const QDate day = RecordDates::firstDayOfPreviousMonth(QDate::currentDate());
+    const QString reset = QStringLiteral("`date` >= %1 AND uid =").arg(RecordDates::midnight(day));
     return has(statements, reset) ? day.toString(Qt::ISODate) : "none";
 }
 

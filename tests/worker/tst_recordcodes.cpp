@@ -4,6 +4,9 @@
 #include "worker/mhrworker.h"
 #include "worker/mirovaronrecord.h"
 #include "worker/recordcodes.h"
+#include "worker/recorddates.h"
+#include "worker/relationshipstate.h"
+#include "worker/vacationbalance.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -151,7 +154,7 @@ void TestRecordCodes::aBeginIsTheLocalMidnight()
     QFETCH(QDate, date);
     QFETCH(QString, text);
     const LocalZone local(zone);
-    QCOMPARE(RecordCodes::personBeginForSql(date), text);
+    QCOMPARE(RecordDates::personBeginForSql(date), text);
     QCOMPARE(MHRWorker().personBeginForSql(date), text);
 }
 
@@ -212,8 +215,8 @@ void TestRecordCodes::anEndIsTheLocalMidnightOrTheDaysLastSecond()
     QFETCH(QString, start);
     QFETCH(QString, end);
     const LocalZone local(zone);
-    QCOMPARE(RecordCodes::personEndForSql(date, false), start);
-    QCOMPARE(RecordCodes::personEndForSql(date, true), end);
+    QCOMPARE(RecordDates::personEndForSql(date, false), start);
+    QCOMPARE(RecordDates::personEndForSql(date, true), end);
     const MHRWorker worker;
     QCOMPARE(worker.personEndForSql(date, false), start);
     QCOMPARE(worker.personEndForSql(date, true), end);
@@ -250,8 +253,8 @@ void TestRecordCodes::aTimestampIsReadAsItsLocalDay()
     QFETCH(QDate, begin);
     QFETCH(QDate, end);
     const LocalZone local(zone);
-    QCOMPARE(RecordCodes::datNastFromTimestamp(timestamp), begin);
-    QCOMPARE(RecordCodes::datVystFromTimestamp(timestamp), end);
+    QCOMPARE(RecordDates::datNastFromTimestamp(timestamp), begin);
+    QCOMPARE(RecordDates::datVystFromTimestamp(timestamp), end);
     const MHRWorker worker;
     QCOMPARE(worker.datNastFromTimestamp(timestamp), begin);
     QCOMPARE(worker.datVystFromTimestamp(timestamp), end);
@@ -271,33 +274,33 @@ void TestRecordCodes::everyDayComesBackFromTheDatabase()
     const LocalZone local(zone);
     const QDate last(2105, 12, 31);
     for (QDate date(1970, 1, 2); date <= last; date = date.addDays(1)) {
-        const uint begin = RecordCodes::personBeginForSql(date).toUInt();
-        QCOMPARE(RecordCodes::datNastFromTimestamp(begin), date);
-        const uint start = RecordCodes::personEndForSql(date, false).toUInt();
-        QCOMPARE(RecordCodes::datVystFromTimestamp(start), date);
-        const uint end = RecordCodes::personEndForSql(date, true).toUInt();
-        QCOMPARE(RecordCodes::datVystFromTimestamp(end), date);
-        QCOMPARE(RecordCodes::datVystFromTimestamp(end + 1), date.addDays(1));
+        const uint begin = RecordDates::personBeginForSql(date).toUInt();
+        QCOMPARE(RecordDates::datNastFromTimestamp(begin), date);
+        const uint start = RecordDates::personEndForSql(date, false).toUInt();
+        QCOMPARE(RecordDates::datVystFromTimestamp(start), date);
+        const uint end = RecordDates::personEndForSql(date, true).toUInt();
+        QCOMPARE(RecordDates::datVystFromTimestamp(end), date);
+        QCOMPARE(RecordDates::datVystFromTimestamp(end + 1), date.addDays(1));
     }
 }
 
 void TestRecordCodes::aMissingBeginComesBackAsTheYear2000()
 {
-    const uint begin = RecordCodes::personBeginForSql(QDate()).toUInt();
-    QCOMPARE(RecordCodes::datNastFromTimestamp(begin), QDate(2000, 1, 1));
+    const uint begin = RecordDates::personBeginForSql(QDate()).toUInt();
+    QCOMPARE(RecordDates::datNastFromTimestamp(begin), QDate(2000, 1, 1));
 }
 
 void TestRecordCodes::theMidnightOfADateIsSigned()
 {
     const LocalZone utc("UTC");
-    QCOMPARE(RecordCodes::midnight(QDate(1969, 12, 31)), qint64(-86400));
-    QCOMPARE(RecordCodes::midnight(QDate(9999, 12, 31)), qint64(253402214400));
-    QCOMPARE(RecordCodes::midnight32(QDate(1969, 12, 31)), 0U);
-    QCOMPARE(RecordCodes::midnight32(QDate(9999, 12, 31)), 4294967295U);
+    QCOMPARE(RecordDates::midnight(QDate(1969, 12, 31)), qint64(-86400));
+    QCOMPARE(RecordDates::midnight(QDate(9999, 12, 31)), qint64(253402214400));
+    QCOMPARE(RecordDates::midnight32(QDate(1969, 12, 31)), 0U);
+    QCOMPARE(RecordDates::midnight32(QDate(9999, 12, 31)), 4294967295U);
     const LocalZone bratislava("Europe/Bratislava");
-    QCOMPARE(RecordCodes::midnight(QDate(1970, 1, 1)), qint64(-3600));
-    QCOMPARE(RecordCodes::midnight(QDate()), qint64(0));
-    QCOMPARE(RecordCodes::midnight32(QDate()), 0U);
+    QCOMPARE(RecordDates::midnight(QDate(1970, 1, 1)), qint64(-3600));
+    QCOMPARE(RecordDates::midnight(QDate()), qint64(0));
+    QCOMPARE(RecordDates::midnight32(QDate()), 0U);
 }
 
 // ---- Codes ------------------------------------------------------------------------------------
@@ -326,7 +329,7 @@ void TestRecordCodes::stateTextsOfAllCodes()
 {
     const MHRWorker worker;
     for (uint code = 0; code < kCodes; ++code) {
-        QCOMPARE(QString::fromUtf8(RecordCodes::builtInRsText(ushort(code))),
+        QCOMPARE(QString::fromUtf8(RelationshipState::builtInText(ushort(code))),
                  kBuiltInTexts.value(ushort(code)));
         QCOMPARE(worker.es2rsText(ushort(code)), kBuiltInTexts.value(ushort(code)));
     }
@@ -426,7 +429,7 @@ void TestRecordCodes::aConfiguredStateGoesOnOrStartsToday()
     QFETCH(QDate, to);
     const MirovaRonRecord last = withState({}, lastFrom, lastTo, "old text");
     MirovaRonRecord record = recordWith(21);
-    RecordCodes::continueRs(record, last, "new text", kToday);
+    RelationshipState::carryOn(record, last, "new text", kToday);
     QCOMPARE(record, withState(recordWith(21), from, to, "new text"));
 }
 
@@ -453,7 +456,7 @@ void TestRecordCodes::anyOtherStateClosesTheRunningPeriod()
     QFETCH(QDate, to);
     const MirovaRonRecord last = withState({}, lastFrom, lastTo, "old text");
     MirovaRonRecord record = recordWith(21);
-    RecordCodes::closeRs(record, last, kToday);
+    RelationshipState::close(record, last, kToday);
     QCOMPARE(record, withState(recordWith(21), from, to, "old text"));
 }
 
@@ -487,9 +490,9 @@ void TestRecordCodes::theStateOfAPersonOverManyDays()
     for (const Day &day : days) {
         MirovaRonRecord record = recordWith(day.es);
         if (configured.contains(day.es))
-            RecordCodes::continueRs(record, last, configured.value(day.es), day.today);
+            RelationshipState::carryOn(record, last, configured.value(day.es), day.today);
         else
-            RecordCodes::closeRs(record, last, day.today);
+            RelationshipState::close(record, last, day.today);
         QCOMPARE(record, withState(recordWith(day.es), day.from, day.to, day.text));
         last = record;
     }
@@ -586,7 +589,7 @@ void TestRecordCodes::recalculationBeginsWithThePreviousMonth_data()
 void TestRecordCodes::recalculationBeginsWithThePreviousMonth()
 {
     QFETCH(QDate, today);
-    QTEST(RecordCodes::firstDayOfPreviousMonth(today), "begin");
+    QTEST(RecordDates::firstDayOfPreviousMonth(today), "begin");
 }
 
 void TestRecordCodes::aVacationMoveReachesTheTruncatedBalance_data()
@@ -617,7 +620,7 @@ void TestRecordCodes::aVacationMoveReachesTheTruncatedBalance()
     QFETCH(double, days);
     QFETCH(qint64, current);
     qint32 value = -1;
-    QVERIFY(RecordCodes::vacationMove(days, current, value));
+    QVERIFY(VacationBalance::correction(days, current, value));
     QTEST(value, "value");
 }
 
@@ -647,7 +650,7 @@ void TestRecordCodes::aVacationMoveThatDoesNotFitIsRefused()
     QFETCH(double, days);
     QFETCH(qint64, current);
     qint32 value = -1;
-    QVERIFY(!RecordCodes::vacationMove(days, current, value));
+    QVERIFY(!VacationBalance::correction(days, current, value));
     QTEST(value, "value");
 }
 
