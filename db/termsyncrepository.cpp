@@ -2,6 +2,7 @@
 
 #include "db/placeholders.h"
 #include "db/sqlstatement.h"
+#include "db/termsyncstatements.h"
 
 #include <QSqlQuery>
 #include <QVariant>
@@ -13,11 +14,6 @@ constexpr unsigned short kInters = 1;
 constexpr unsigned short kPeople = 2;
 constexpr unsigned short kColorGroups = 256;
 
-const QLatin1String kQueuePerson(
-    "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
-    " SELECT `tid` tid, '%1' type, '%2' ref, 'uid' ref_col, %3 ref_id, UNIX_TIMESTAMP() created,"
-    " 2 flags FROM people_term JOIN term USING(tid)"
-    " WHERE status = 1 AND uid = %3 AND (flags & 2);");
 const QLatin1String
     kQueuePersonForTerm("INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags)"
                         " VALUES(%1, '%2', '%3', 'uid', %4, UNIX_TIMESTAMP(), 2)");
@@ -59,7 +55,6 @@ const QLatin1String
                       " WHERE t.status = 1 AND (t.flags & 256);");
 
 const QLatin1String kMarkTerm("Update `term` SET syn = syn | %1 WHERE status = 1 AND tid = %2");
-const QLatin1String kMarkTermsOfPerson("CALL updateTermsSync(%1, 2);");
 const QLatin1String
     kSelectTermsOfInter("SELECT it.tid FROM inters_term it JOIN term t ON it.tid = t.tid"
                         " WHERE t.status = 1 AND iid = %1 AND (t.flags & 1)");
@@ -103,11 +98,12 @@ void TermSyncRepository::setDB(const QSqlDatabase &db)
 
 void TermSyncRepository::addTermSyncPerson(unsigned int uid, QChar type, const QString &ref)
 {
-    if (!succeeds(Placeholders::filled(kQueuePerson, type, ref, uid),
+    if (!succeeds(Placeholders::filled(TermSyncStatements::kQueuePerson, type, ref, uid),
                   "TermSyncRepository::addTermSyncPerson() ERROR:")) {
         return;
     }
-    failed(SqlStatement::runAll(m_db, Placeholders::filled(kMarkTermsOfPerson, uid)),
+    failed(SqlStatement::runAll(m_db,
+                                Placeholders::filled(TermSyncStatements::kMarkTermsOfPerson, uid)),
            "TermSyncRepository::addTermSyncPerson() - updateTermsSync() FAILED! ERROR:");
 }
 

@@ -1,9 +1,8 @@
-// What a synchronised person means to others: the payroll export and the attendance terminals.
+// The payroll export: the selection of people, and the settings that a person is bound to.
 
 #include "worker/mhrworker.h"
 
 #include "db/placeholders.h"
-#include "db/sqlstatement.h"
 #include "db/tepdbsettings.h"
 #include "worker/sqlreport.h"
 
@@ -21,15 +20,6 @@ const QLatin1String kSelectUidForPam("SELECT uid FROM people WHERE pid=%1");
 
 const QLatin1String kInsertIntoPam("INSERT INTO people_pam (uid, id) VALUES(%1, %2)");
 const QLatin1String kOnDuplicatePam(" ON DUPLICATE KEY UPDATE id=VALUES(id)");
-
-const QLatin1String kSelectUidForTerminals("SELECT uid FROM people WHERE pid=%1 LIMIT 1");
-
-const QLatin1String kQueuePerson(
-    "INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags) SELECT `tid` tid, "
-    "'%1' type, '%2' ref, 'uid' ref_col, %3 ref_id, UNIX_TIMESTAMP() created, 2 flags FROM "
-    "people_term JOIN term USING(tid) WHERE status = 1 AND uid = %3 AND (flags & 2);");
-
-const QLatin1String kMarkTerminals("CALL updateTermsSync(%1, 2);");
 
 constexpr QLatin1Char kComma(',');
 
@@ -55,13 +45,6 @@ bool holdsEntry(const QString &list, const QString &entry)
 {
     return list == entry || list.startsWith(entry % kComma) || list.endsWith(kComma % entry)
         || list.contains(kComma % entry % kComma);
-}
-
-/// The uid that the statement finds, 0 when it fails or finds none. The caller reports it.
-quint32 findUid(const QSqlDatabase &db, const QString &sql)
-{
-    QSqlQuery query(db);
-    return query.exec(sql) ? SqlReport::nextNumber(query) : 0;
 }
 
 } // namespace
@@ -102,7 +85,7 @@ bool MHRWorker::dbAddPersonIntoPam(unsigned int pid, unsigned int pamSettingsID)
         return true;
     }
 
-    const quint32 uid = findUid(m_db, Placeholders::filled(kSelectUidForPam, pid));
+    const quint32 uid = SqlReport::findNumber(m_db, Placeholders::filled(kSelectUidForPam, pid));
     if (uid == 0) {
         if (m_debugLevel >= 1) {
             qWarning("MHRWorker::dbAddPersonIntoPam(pid: %u, pamSettingsID: %u) - Unique person "
@@ -119,24 +102,4 @@ bool MHRWorker::dbAddPersonIntoPam(unsigned int pid, unsigned int pamSettingsID)
         return false;
     }
     return query.lastInsertId().toLongLong() >= 1 || query.numRowsAffected() > 0;
-}
-
-void MHRWorker::addTermSyncPerson(unsigned int pid, QChar type, const QString &ref)
-{
-    if (m_debugLevel >= 2) {
-        qDebug("MHRWorker::addTermSyncPerson(%u, %s, %s)", pid, qUtf8Printable(QString(type)),
-               qUtf8Printable(ref));
-    }
-    const quint32 uid = findUid(m_db, Placeholders::filled(kSelectUidForTerminals, pid));
-    if (uid == 0) {
-        qWarning("MHRWorker::addTermSyncPerson(%u) - uid NOT selected from DB!", pid);
-        return;
-    }
-
-    const QSqlQuery queued =
-        SqlStatement::run(m_db, Placeholders::filled(kQueuePerson, type, ref, uid));
-    if (SqlStatement::failed(queued, "MHRWorker::addTermSyncPerson() ERROR:"))
-        return;
-    const QSqlQuery marked = SqlStatement::runAll(m_db, Placeholders::filled(kMarkTerminals, uid));
-    SqlStatement::failed(marked, "MHRWorker::addTermSyncPerson() - updateTermsSync() ERROR:");
 }

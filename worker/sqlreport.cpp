@@ -1,6 +1,7 @@
 #include "worker/sqlreport.h"
 
 #include <QDebug>
+#include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
@@ -28,4 +29,10 @@ bool SqlReport::execShowingStatement(QSqlQuery &query, const QString &sql, const
 uint SqlReport::nextNumber(QSqlQuery &query)
 {
     return query.next() ? query.value(0).toUInt() : 0;
+}
+
+uint SqlReport::findNumber(const QSqlDatabase &db, const QString &sql)
+{
+    QSqlQuery query(db);
+    return query.exec(sql) ? nextNumber(query) : 0;
 }

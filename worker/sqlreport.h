@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QSqlDatabase;
 class QSqlQuery;
 
 /// How the worker runs a statement and reports its failure.
@@ -15,5 +16,9 @@ bool execShowingStatement(QSqlQuery &query, const QString &sql, const char *mess
 
 /// The first column of the next row as a number, 0 when there is no row.
 uint nextNumber(QSqlQuery &query);
+
+/// The first column of the first row that the statement finds, as a number; 0 when it finds none,
+/// and when it fails, which nobody logs.
+uint findNumber(const QSqlDatabase &db, const QString &sql);
 
 } // namespace SqlReport
