@@ -15,9 +15,9 @@ class TermSyncRepository;
 /// Branches and what belongs to them: people, terminals, administrators, sections and
 /// branch–attribute–section triples.
 ///
-/// Every membership change that succeeds is announced by a signal. The repository can connect
-/// these signals to its own slots, which carry the change on to the terminals and administrators
-/// of the branch; they then run inside the changing operation. Failures are logged and returned;
+/// A signal announces every membership change that succeeds. The repository can connect these
+/// signals to its own slots, which propagate the change to the terminals and administrators of the
+/// branch; they then run inside the changing operation. Failures are logged and returned;
 /// nothing is undone. The repository must be created and used in the thread that owns its
 /// connection. Affected rows must mean changed rows, so the connection must not be opened with
 /// CLIENT_FOUND_ROWS.

@@ -17,7 +17,7 @@ QString filledInTurn(QLatin1String text, const QStringList &values)
     return result;
 }
 
-/// The number at `at`, which goes behind it: at most two digits, as in QString::arg().
+/// Reads the number at `at`, at most two digits as in QString::arg(), and moves `at` behind it.
 int numberAt(QLatin1String text, int &at)
 {
     int number = 0;

@@ -6,13 +6,13 @@
 
 #include <type_traits>
 
-/// Texts with places for values: statements and lines of the log.
+/// Texts with placeholders: statements and log lines.
 namespace Placeholders {
 
-/// The text with the first value in the place of "%1", the second in that of "%2" and so on. It
-/// must hold a place for each value, no other "%", and no place that touches the next one unless
-/// their numbers ascend. What comes out is what a chain of arg() calls gives, also for a value that
-/// itself holds a placeholder; but the text is made once and not once for each value.
+/// The text with the first value in place of "%1", the second in place of "%2" and so on. It must
+/// have a placeholder for each value, no other "%", and no two adjacent placeholders unless their
+/// numbers ascend. The result is that of a chain of arg() calls, also for a value that itself holds
+/// a placeholder, but the text is built once instead of once a value.
 QString filled(QLatin1String text, const QStringList &values);
 
 /// A whole number in digits; a text or a character as it is.

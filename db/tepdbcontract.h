@@ -2,7 +2,7 @@
 
 /// What the attendance database (TEPDB) must have for the classes here and for the worker: the
 /// tables, columns, unique keys and routines that their SQL names. A site's tables may hold more.
-/// The meaning and units of the columns are told in reference-db/schema.sql, which a test holds
+/// The meaning and units of the columns stand in reference-db/schema.sql, which a test holds
 /// against this header.
 ///
 /// Lists of names are texts, the names separated by one blank.
@@ -11,7 +11,7 @@ namespace TepDbContract {
 enum class KeyUse {
     None, ///< No key in this place.
     Upsert, ///< "ON DUPLICATE KEY UPDATE" must hit it: without it rows double.
-    Identity ///< Tells the rows apart; no statement depends on it.
+    Identity ///< Identifies a row; no statement depends on it.
 };
 
 struct UniqueKey {

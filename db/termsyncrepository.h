@@ -7,12 +7,12 @@
 /// The queue of changes that the attendance terminals must fetch: `term_sync`.
 ///
 /// Every operation queues one row a terminal and then sets the bit of that kind of data in
-/// `term.syn`, which tells the terminal server whom to visit. The terminals are marked only when
-/// the queueing statement succeeded. `type` says what happened to the row that `ref` (the table)
-/// and the id name: 'I' inserted, 'U' updated, 'D' deleted. Failures are logged and not returned,
-/// except by setTermSyn(). Id lists hold decimal texts; an empty one makes the statement fail.
-/// The connection must allow several statements in one text, and the repository must be used in
-/// the thread that owns it.
+/// `term.syn`, which says which terminals the terminal server visits. The terminals are marked only
+/// when the queueing statement succeeded. `type` says what happened to the row that `ref` (the
+/// table) and the id name: 'I' inserted, 'U' updated, 'D' deleted. Failures are logged and not
+/// returned, except by setTermSyn(). Id lists hold decimal texts; an empty one makes the statement
+/// fail. The connection must allow several statements in one text, and the repository must be used
+/// in the thread that owns it.
 class TermSyncRepository : public QObject {
     Q_OBJECT
 

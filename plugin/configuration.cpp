@@ -42,7 +42,7 @@ Configuration Configuration::read(QSettings &settings)
 
     Configuration config;
     config.enabled = flag("enabled", config.enabled);
-    // In 32 bits: a period above 4294967 s wraps, and always has.
+    // In 32 bits: a period above 4294967 s wraps around. The behaviour is fixed.
     config.tickMilliseconds = number("timerInterval", 60) * 1000U;
     config.syncInterval = number("syncInterval", config.syncInterval);
     config.testMode = flag("testMode", config.testMode);

@@ -11,8 +11,8 @@ public:
 
     explicit BoundedLineReader(QIODevice &device);
 
-    /// Goes to the next line that is not too long; false at the end of the device or when it
-    /// cannot be read on.
+    /// Advances to the next line that is not too long; false at the end of the device and when
+    /// reading fails.
     bool next();
 
     /// The current line as read, with its line feed, ended by a NUL byte; valid until next().

@@ -15,13 +15,13 @@ bool isDigit(QChar c)
     return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
-/// True for ASCII digits alone, of a number that fits 32 bits whatever they are.
+/// True for at most nine ASCII digits and nothing else: any such number fits 32 bits.
 bool isPlainNumber(QStringView text)
 {
     return !text.isEmpty() && text.size() <= 9 && std::all_of(text.cbegin(), text.cend(), isDigit);
 }
 
-/// The number that `count` ASCII digits at `from` make.
+/// The value of the `count` ASCII digits at `from`.
 int numberAt(QStringView text, int from, int count)
 {
     int number = 0;
@@ -30,7 +30,7 @@ int numberAt(QStringView text, int from, int count)
     return number;
 }
 
-/// True when the text has the shape to the letter, with an ASCII digit for each "#".
+/// True when the text matches the shape exactly; "#" stands for an ASCII digit.
 bool hasShape(QStringView text, QLatin1String shape)
 {
     if (text.size() != shape.size())
@@ -43,11 +43,11 @@ bool hasShape(QStringView text, QLatin1String shape)
     return true;
 }
 
-/// The date of a text that has the export's form to the letter, an invalid date for any other.
+/// The date of a text that has exactly the export's format; an invalid date for any other text.
 ///
-/// It does not ask the local zone, so a time that a daylight-saving change skips is no error here:
-/// a leaving date lost in that gap would keep a person employed. And it costs a fraction of what
-/// Qt's parser does with a format.
+/// It ignores the local time zone, so that a time which a daylight-saving change skips is no error:
+/// a leaving date lost in that gap would keep a person employed. It also costs a fraction of Qt's
+/// parser.
 QDate wellFormedDate(QStringView text)
 {
     if (!hasShape(text, QLatin1String("####-##-## ##:##:##.###")))
@@ -116,7 +116,7 @@ Parts split(const QString &line, QChar separator)
 
 quint32 toNumber(QStringView text, bool *ok)
 {
-    // Qt's parser, which knows of locales, takes ten times as long.
+    // Qt's locale-aware parser takes ten times as long.
     if (!isPlainNumber(text))
         return text.toString().toUInt(ok, 10);
     if (ok)
@@ -133,7 +133,7 @@ QDate parseDate(QStringView text, const QString &format)
 {
     if (format == kDateFormat) {
         const QDate date = wellFormedDate(text);
-        // Most people have no leaving date, and Qt's parser asks the local zone even for that.
+        // Most people have no leaving date, and Qt's parser looks up the local zone even for that.
         if (date.isValid() || text.isEmpty())
             return date;
     }

@@ -139,7 +139,7 @@ void MHRWorker::start()
 
 void MHRWorker::stop()
 {
-    // The text of init(), not of stop(): log filters of the sites know it so.
+    // Logs the text of init(), not one of its own: the text is fixed.
     if (m_debugLevel != 0)
         qDebug("MHRWorker::init()");
     QMetaObject::invokeMethod(this, "stopTicking", Qt::AutoConnection);

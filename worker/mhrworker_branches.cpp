@@ -64,8 +64,8 @@ bool MHRWorker::doSyncBranchAndCalendar(const MirovaRonRecord &rec)
         return false;
     }
 
-    // A uid of 0 (a person not in the table) is not stopped here: the steps below refuse it, each
-    // with its own word in the log, and the branch gets "0", which names nobody.
+    // A uid of 0 (no such person) is not rejected here: each step below refuses it with a log line
+    // of its own, and the uid "0" in the list for the branch names nobody.
     const quint32 pid = rec.getPid();
     const quint32 uid = getUidByPid(pid);
     const bool queued = queueBranchMember(pid, uid, bid);

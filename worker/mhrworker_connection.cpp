@@ -19,7 +19,7 @@ bool MHRWorker::dbCheckOpen()
 
 void MHRWorker::dbClose()
 {
-    // The text of dbCheckOpen(), which marks the open and the close of every tick alike.
+    // Logs the text of dbCheckOpen(), not one of its own: the text is fixed.
     if (m_debugLevel > 1)
         qDebug("MHRWorker::dbCheckOpen()");
     const QMutexLocker lock(&m_dbMutex);

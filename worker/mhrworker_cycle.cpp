@@ -65,7 +65,7 @@ void MHRWorker::reconcileRecords()
         return;
     if (dbLoadPeople()) {
         doSync();
-        m_people.clear(); // the next cycle loads them anew, and it may be hours away
+        m_people.clear(); // reloaded by the next cycle, which may be hours away
         return;
     }
     qCritical("MHRWorker: load people from TEPDB failed - synchronization terminated!");
@@ -84,7 +84,8 @@ void MHRWorker::runCommand()
 
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
-    // The form that splits one command line by itself; sites write the line for its rules.
+    // Deprecated, but the INI key holds one command line, quoted for the rules by which this form
+    // splits it.
     const int exitCode = QProcess::execute(m_syncCommand);
     QT_WARNING_POP
     if (exitCode != 0) {

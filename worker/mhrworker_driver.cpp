@@ -12,10 +12,10 @@
 
 #include <utility>
 
-/// What is found out about one record on its way through the steps.
+/// What the steps find out about one record.
 struct MHRWorker::Reconciliation {
     quint32 pid = 0;
-    quint32 uid = 0; ///< known once the attendance was checked
+    quint32 uid = 0; ///< known once the attendance is checked
     bool active = false;
     bool fundsWritable = false; ///< today's balance correction may be written
     bool fundRetry = false; ///< the last cycle could not correct the balance
@@ -36,7 +36,7 @@ void MHRWorker::doSync()
 
     dbLoadBranches();
     dbCheckDovolenkaFond(kVacationIid);
-    // Walked to its end, not taken from the front: that would move all other records every time.
+    // Iterated, not taken from the front one by one, which would move all other records each time.
     const QVector<MirovaRonRecord> records = std::exchange(m_records, {});
     for (const MirovaRonRecord &rec : records)
         doSyncRecord(rec);
@@ -59,8 +59,8 @@ void MHRWorker::doSyncRecord(const MirovaRonRecord &rec)
 
     Reconciliation work;
     work.pid = rec.getPid();
-    // Asked for where there is a last day only: it costs as much as all the rest of a record that
-    // has not changed.
+    // Looked up only for a record with a last day: it costs as much as all the rest of an unchanged
+    // record.
     const QDate today = rec.datumVystupu.isValid() ? QDate::currentDate() : QDate();
     work.active = RecordCodes::isActive(rec, today);
     checkFunds(work);
@@ -68,8 +68,8 @@ void MHRWorker::doSyncRecord(const MirovaRonRecord &rec)
     noteFundRetry(work);
 
     const bool written = (work.changed || m_force) && reconcile(rec, work);
-    // A changed record is remembered even when writing it failed, so an unchanged line does not
-    // try again: only a change of the line or a forced synchronisation does. Sites rely on it.
+    // A changed record is remembered even when writing it failed: an unchanged line does not try
+    // again, only a changed line or a forced synchronisation does. The behaviour is fixed.
     if (written || work.changed || !work.active)
         m_lastRecords[work.pid] = rec;
 
@@ -83,7 +83,7 @@ void MHRWorker::checkFunds(Reconciliation &work)
 {
     if (m_vacationFundId == 0)
         return;
-    // Both are always asked: the second also finds the uid.
+    // Both checks always run: the second also looks up the uid.
     const bool moveAllowed = dbCheckFundMove(work.pid);
     const bool attendanceAllows = dbCheckAttendance(work.pid, work.uid);
     work.fundsWritable = moveAllowed && attendanceAllows;
@@ -125,7 +125,7 @@ bool MHRWorker::reconcile(const MirovaRonRecord &rec, Reconciliation &work)
 {
     if (MirovaRonRecord *known = m_people.find(work.pid))
         return updateKnownPerson(rec, *known, work);
-    // Who has left already is never created.
+    // A person who has already left is never created.
     return work.active && createPerson(rec);
 }
 

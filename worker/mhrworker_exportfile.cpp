@@ -82,9 +82,8 @@ void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar 
     m_records.append(std::move(record));
 }
 
-/// Most people have not changed since the last cycle, and names, titles and cost centres repeat
-/// from person to person: one text in memory serves all, now and as long as the records are
-/// remembered.
+/// Lets equal texts share memory: most people have not changed since the last cycle, and names,
+/// titles and cost centres repeat from person to person.
 void MHRWorker::shareTexts(MirovaRonRecord &record)
 {
     const auto last = m_lastRecords.constFind(record.getPid());

@@ -26,7 +26,7 @@ constexpr QLatin1Char kComma(',');
 /// True when a list such as "1,2" has an empty entry, at an end or in between.
 bool holdsEmptyEntry(const QString &list)
 {
-    // Looked at to its end whatever comes: the compiler then takes many characters at a time.
+    // No early exit: the compiler vectorises a loop that always runs to the end.
     const ushort comma = kComma.unicode();
     const ushort *text = list.utf16();
     int doubled = 0;
@@ -64,7 +64,7 @@ bool MHRWorker::addPersonIntoPam(unsigned int pid)
     QString selectionKey = exports.first();
     selectionKey.replace(QLatin1String("active"), QLatin1String("selPeople"));
     const QString selection = m_settings->variableGet(selectionKey, QVariant()).toString();
-    // Not taken apart: it may name everybody, and every new person is looked for in it.
+    // Searched as text, not split: it may name everybody, and each new person is looked up in it.
     const QString list = withoutEmptyEntries(selection);
     const QString entry = QString::number(pid);
     if (holdsEntry(list, entry))

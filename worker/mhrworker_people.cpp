@@ -19,8 +19,8 @@ const QLatin1String kSelectUid("SELECT uid FROM people WHERE pid = %1 LIMIT 1;")
 
 const QLatin1String kCountPid("SELECT COUNT(*) FROM people WHERE pid = %1;");
 
-// A person who comes back keeps the relationship state, calendar and branch of the old row, and
-// goes to department 1: the row's owner is then set by hand.
+// A returning person keeps the relationship state, calendar and branch of the old row and goes to
+// department 1, whatever `departmentId` says. The behaviour is fixed.
 const QLatin1String kInsertPerson(
     "INSERT INTO people (pid, pamId, title, name, surname, title2, phone, begin, end, created, "
     "rsBegin, rsEnd, rsText, type, did, calendarID, bid) VALUES('%1', '%2', '%3', '%4', '%5', "

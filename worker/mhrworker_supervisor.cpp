@@ -53,7 +53,7 @@ void MHRWorker::processNadOsCis(const MirovaRonRecord &rec)
 
 unsigned int MHRWorker::dbGetAidByOsCis(unsigned int personalNumber)
 {
-    // It is a personal number that is shown; the label has always said uid.
+    // Logs a personal number under the label "uid": the text is fixed.
     if (m_debugLevel >= 2)
         qDebug("MHRWorker::dbGetAidByOsCis(uid: %u)", personalNumber);
     QSqlQuery query(m_db);

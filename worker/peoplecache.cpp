@@ -14,9 +14,9 @@ const QLatin1String PeopleCache::kSelect(
 
 namespace {
 
-/// A person of whom only personal number and relationship are known, from a payroll id such as
-/// "1234.2". The pid column is not read: the key of a person is the pid that the payroll id makes,
-/// which is what the export's records are looked up by.
+/// A person with only personal number and relationship set, from a payroll id such as "1234.2". The
+/// key of a person is the pid that the payroll id makes, not the pid column: records of the export
+/// are looked up by the same pid.
 MirovaRonRecord numberedPerson(const QSqlQuery &row)
 {
     const QString payrollId = row.value(1).toString();
@@ -51,13 +51,13 @@ void PeopleCache::load(const QSqlQuery &rows, const QSet<quint32> &expected)
     m_expected = expected;
     m_rows = rows;
     if (!m_expected.isEmpty())
-        takeIn(true);
+        convertRows(true);
 }
 
 MirovaRonRecord *PeopleCache::find(quint32 pid)
 {
     if (m_rows && !m_expected.contains(pid)) {
-        takeIn(false);
+        convertRows(false);
         m_rows.reset();
     }
     const auto person = m_people.find(pid);
@@ -71,7 +71,7 @@ void PeopleCache::clear()
     m_rows.reset();
 }
 
-void PeopleCache::takeIn(bool expected)
+void PeopleCache::convertRows(bool expected)
 {
     for (bool more = m_rows->first(); more; more = m_rows->next()) {
         MirovaRonRecord person = numberedPerson(*m_rows);

@@ -10,16 +10,16 @@
 
 /// The database's view of its active people during one cycle, by pid.
 ///
-/// Making a record of a row costs more than all else of an employee who has not changed, and nobody
-/// asks for that person then. So the rows stay in the result of the query until somebody is looked
-/// for, except those of people of whom it is expected.
+/// Converting a row into a record costs more than all other work on an unchanged employee, who is
+/// never looked up. So the rows stay in the query's result until somebody is looked up; only the
+/// rows of people who are expected to be looked up are converted at once.
 class PeopleCache {
 public:
     /// The query of the rows.
     static const QLatin1String kSelect;
 
-    /// Replaces the people by those of an executed kSelect. Whom `expected` (pids) names decides
-    /// what a look for a person costs, not what it finds.
+    /// Replaces the people by those of an executed kSelect. `expected` (pids) affects what a lookup
+    /// costs, never what it finds.
     void load(const QSqlQuery &rows, const QSet<quint32> &expected);
 
     /// The person (pid), to be read and changed until the next load() or clear(); nullptr when
@@ -29,10 +29,10 @@ public:
     void clear();
 
 private:
-    /// Takes in the rows of those who are expected, or of those who are not.
-    void takeIn(bool expected);
+    /// Converts the rows of the people who are expected, or of all others.
+    void convertRows(bool expected);
 
     QHash<quint32, MirovaRonRecord> m_people;
     QSet<quint32> m_expected;
-    std::optional<QSqlQuery> m_rows; ///< while the people who are not expected are still in there
+    std::optional<QSqlQuery> m_rows; ///< while it holds rows that are not converted yet
 };
