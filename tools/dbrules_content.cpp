@@ -15,6 +15,8 @@ constexpr char kSelectTwiceNumbers[] = "SELECT number FROM branches WHERE number
                                        " GROUP BY number HAVING COUNT(*) > 1 ORDER BY number";
 constexpr char kSelectLargeBranches[] = "SELECT bid FROM branches WHERE number IS NOT NULL"
                                         " AND bid > 65535 ORDER BY bid";
+constexpr char kSelectLargeAdministrators[] =
+    "SELECT aid FROM admins WHERE aid > 65535 ORDER BY aid";
 constexpr char kSelectTwiceCalendars[] =
     "SELECT CONCAT(calendarID, ' of master group ', parent) FROM `groups`"
     " WHERE parent IS NOT NULL GROUP BY parent, calendarID HAVING COUNT(*) > 1"
@@ -120,12 +122,21 @@ void checkBranches(DbCheck &check)
               "Leave one group to a calendar in each master group.", "groups.calendarID");
 }
 
-void checkPeople(DbCheck &check)
+void checkAdministrators(DbCheck &check)
 {
+    checkNone(check, kSelectLargeAdministrators, Severity::Warning, "admin-id-large",
+              "The ids of these administrators do not fit 16 bits: %1. The plugin writes them "
+              "whole, but the components of the attendance server that use its repository classes "
+              "keep 16 bits: people go to another administrator, or to none",
+              "Give the administrators ids up to 65535.", "admins.aid");
     checkNone(check, kSelectTwiceSupervisors, Severity::Warning, "supervisor-twice",
               "Several administrators have the same personal number: %1. Any of them gets the "
               "requests",
               "Leave the number to one administrator.", "admins.personalNumber");
+}
+
+void checkPeople(DbCheck &check)
+{
     checkNone(
         check, kSelectStrangePayrollIds, Severity::Warning, "payroll-id-strange",
         "Of these active people pid and pamId do not agree: %1. The plugin looks for a person "
@@ -159,6 +170,7 @@ void DbRules::checkContent(DbCheck &check)
     checkPayrollExport(check);
     checkSelectionWidth(check);
     checkBranches(check);
+    checkAdministrators(check);
     checkPeople(check);
     check.end(QStringLiteral("What stands in the tables raises no doubt."));
 }

@@ -38,6 +38,7 @@ public:
         : m_check(check)
         , m_table(QString::fromLatin1(table.name))
         , m_contract(table)
+        , m_schema(schema)
         , m_keys(schema.uniqueKeys(m_table))
     {
     }
@@ -111,11 +112,21 @@ private:
                            });
     }
 
+    /// Whether every new row has a value of its own in the key: then no upsert hits it.
+    bool isNeverHit(const Columns &columns) const
+    {
+        return std::any_of(columns.cbegin(), columns.cend(), [this](const QString &name) {
+            const DbColumn *const column = m_schema.column(m_table, name);
+            return column != nullptr && column->uniquelyFilled
+                && !PluginRights::writesColumn(m_table, column->name);
+        });
+    }
+
     void checkFurtherKeys()
     {
         for (const DbKey &key : m_keys) {
             const Columns columns = toSet(key.columns);
-            if (!isHarmless(columns))
+            if (!isHarmless(columns) && !isNeverHit(columns))
                 furtherKey(key.name, columns);
         }
     }
@@ -133,6 +144,7 @@ private:
     DbCheck &m_check;
     const QString m_table;
     const TepDbContract::Table &m_contract;
+    const DbSchema &m_schema;
     const QVector<DbKey> m_keys;
 };
 

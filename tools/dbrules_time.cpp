@@ -29,14 +29,14 @@ void checkMidnights(DbCheck &check, const QString &serverZone, const QString &ow
     const QDate day = dayThatDiffers(check);
     if (!day.isValid())
         return;
-    check.tell(Severity::Error, "time-zone",
-               QStringLiteral("The server (time zone %1) and this program (%2) disagree about when "
-                              "days begin, such as %3. Days of attendance and of vacation would be "
-                              "missed, or be there twice")
-                   .arg(serverZone, ownZone, day.toString(Qt::ISODate)),
-               QStringLiteral("Run this check with the TZ of the attendance server. When it still "
-                              "complains, give both the same zone, by name: an offset such as "
-                              "+01:00 knows no daylight saving."));
+    check.breach("time-zone",
+                 QStringLiteral("The server (time zone %1) and this program (%2) disagree about "
+                                "when days begin, such as %3. Days of attendance and of vacation "
+                                "would be missed, or be there twice")
+                     .arg(serverZone, ownZone, day.toString(Qt::ISODate)),
+                 QStringLiteral("Run this check with the TZ of the attendance server. When it "
+                                "still complains, give both the same zone, by name: an offset "
+                                "such as +01:00 knows no daylight saving."));
 }
 
 void checkClock(DbCheck &check, qint64 serverNow)

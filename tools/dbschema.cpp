@@ -32,6 +32,15 @@ QString bareDefault(const QString &text)
     return quoted ? text.mid(1, text.size() - 2) : text;
 }
 
+/// Whether a default makes up a value of its own for each row. NEXTVAL is no such default here: a
+/// sequence may begin anew, and the account needs a right to it.
+bool isUniqueDefault(const QString &text)
+{
+    static const QStringList functions{QStringLiteral("uuid()"), QStringLiteral("uuid_short()"),
+                                       QStringLiteral("sys_guid()")};
+    return functions.contains(text, Qt::CaseInsensitive);
+}
+
 DbColumn readColumn(const QSqlQuery &query)
 {
     DbColumn column;
@@ -45,6 +54,7 @@ DbColumn readColumn(const QSqlQuery &query)
     column.defaultValue = bareDefault(query.value(8).toString());
     const QString extra = query.value(9).toString().toLower();
     column.automaticNumber = extra.contains(QLatin1String("auto_increment"));
+    column.uniquelyFilled = column.automaticNumber || isUniqueDefault(query.value(8).toString());
     column.filledByServer = !query.value(8).isNull() || column.automaticNumber
         || extra.contains(QLatin1String("generated"));
     column.rights = query.value(10).toString().toLower().split(QLatin1Char(','));

@@ -19,6 +19,7 @@ struct DbColumn {
     bool nullable = false;
     bool filledByServer = false; ///< by a default value, an automatic number or an expression
     bool automaticNumber = false;
+    bool uniquelyFilled = false; ///< left out of an insert, it gets what no other row has
     QString defaultValue; ///< without quotation marks
     QStringList rights; ///< of this account: "select", "insert", "update", "references"
 };

@@ -21,6 +21,12 @@ bool usesColumn(const QString &table, const QString &column)
         && (names(rights->select) + names(rights->insert) + names(rights->update)).contains(column);
 }
 
+bool writesColumn(const QString &table, const QString &column)
+{
+    const TableRights *const rights = find(table);
+    return rights != nullptr && (names(rights->insert) + names(rights->update)).contains(column);
+}
+
 bool insertsInto(const QString &table)
 {
     const TableRights *const rights = find(table);

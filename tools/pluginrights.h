@@ -59,6 +59,9 @@ const TableRights *find(const QString &table);
 /// Whether the plugin touches a column.
 bool usesColumn(const QString &table, const QString &column);
 
+/// Whether the plugin writes a column, in new rows or in rows that are there.
+bool writesColumn(const QString &table, const QString &column);
+
 /// Whether the plugin inserts rows into a table.
 bool insertsInto(const QString &table);
 

@@ -12,6 +12,11 @@ namespace {
 
 const char kZone[] = "Europe/Bratislava";
 
+const QString kWideBranchIds =
+    "ALTER TABLE branches MODIFY bid INT UNSIGNED NOT NULL AUTO_INCREMENT\n";
+const QString kWideAdminIds = "ALTER TABLE admins MODIFY aid INT UNSIGNED NOT NULL AUTO_INCREMENT\n"
+                              "ALTER TABLE admins_people MODIFY aid INT UNSIGNED NOT NULL\n";
+
 /// The right to change a routine goes with it.
 QString replaceFunction(const QString &name, const QString &arguments, const QString &body)
 {
@@ -80,6 +85,7 @@ private Q_SLOTS:
 private:
     QStringList connection();
     ToolRun check(const QStringList &more = {});
+    void apply(const QString &change);
     void compareOnlyFinding(const ToolRun &run, ExitStatus status);
 
     TestDatabase m_db;
@@ -113,6 +119,14 @@ QStringList TestCheckDb::connection()
 ToolRun TestCheckDb::check(const QStringList &more)
 {
     return runTool(QStringList{"check-db", "--json"} + connection() + more);
+}
+
+/// Runs the statements of a change, one a line.
+void TestCheckDb::apply(const QString &change)
+{
+    const QStringList statements = change.split('\n');
+    for (const QString &statement : statements)
+        m_db.run(statement);
 }
 
 void TestCheckDb::theReferenceDatabaseIsFine()
@@ -188,6 +202,21 @@ void TestCheckDb::whatThePluginReliesOnIsMissed_data()
         << "server-read-only"
         << ""
         << "The server is read-only: every write of the plugin fails";
+
+    QTest::newRow("another zone")
+        << "SET GLOBAL time_zone = '+05:30'"
+        << "time-zone"
+        << ""
+        << "The server (time zone +05:30) and this program (Europe/Bratislava) disagree about when "
+           "days begin, such as #. Days of attendance and of vacation would be missed, or be there "
+           "twice";
+    QTest::newRow("a zone without daylight saving")
+        << "SET GLOBAL time_zone = '+01:00'"
+        << "time-zone"
+        << ""
+        << "The server (time zone +01:00) and this program (Europe/Bratislava) disagree about when "
+           "days begin, such as #. Days of attendance and of vacation would be missed, or be there "
+           "twice";
 
     QTest::newRow("no table")
         << "DROP TABLE mastergroups"
@@ -338,7 +367,7 @@ void TestCheckDb::whatThePluginReliesOnIsMissed_data()
 void TestCheckDb::whatThePluginReliesOnIsMissed()
 {
     QFETCH(QString, change);
-    m_db.run(change);
+    apply(change);
     compareOnlyFinding(check(), ExitStatus::ContractBroken);
 }
 
@@ -355,21 +384,6 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << ""
         << "No strict SQL mode is on: a text that is longer than its column is cut and a number "
            "that does not fit is changed, and no log tells";
-    QTest::newRow("another zone")
-        << "SET GLOBAL time_zone = '+05:30'"
-        << "time-zone"
-        << ""
-        << "The server (time zone +05:30) and this program (Europe/Bratislava) disagree about when "
-           "days begin, such as #. Days of attendance and of vacation would be missed, or be there "
-           "twice";
-    QTest::newRow("a zone without daylight saving")
-        << "SET GLOBAL time_zone = '+01:00'"
-        << "time-zone"
-        << ""
-        << "The server (time zone +01:00) and this program (Europe/Bratislava) disagree about when "
-           "days begin, such as #. Days of attendance and of vacation would be missed, or be there "
-           "twice";
-
     QTest::newRow("dates to 2038")
         << "ALTER TABLE people MODIFY `end` INT NULL"
         << "column-too-narrow"
@@ -450,6 +464,15 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << "The table brape has a unique key one_branch on since, uid: what the plugin writes for "
            "a new row can hit another row by it and change that one instead";
 
+    QTest::newRow("a further key whose column is the same in every new row")
+        << "ALTER TABLE people_term ADD place INT NOT NULL DEFAULT 0\n"
+           "UPDATE people_term SET place = tid * 100 + uid\n"
+           "ALTER TABLE people_term ADD UNIQUE KEY one_place (place)"
+        << "key-unexpected"
+        << "people_term"
+        << "The table people_term has a unique key one_place on place: what the plugin writes for "
+           "a new row can hit another row by it and change that one instead";
+
     QTest::newRow("no vacation fund") << "DELETE FROM funds WHERE iid = 3 AND unit = 2"
                                       << "vacation-fund-none"
                                       << "funds"
@@ -493,7 +516,7 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << "Several branches have the same number: 120. People of that cost centre go to any of "
            "them";
     QTest::newRow("a branch with a large id")
-        << "UPDATE branches SET bid = 70000 WHERE bid = 3"
+        << kWideBranchIds + "UPDATE branches SET bid = 70000 WHERE bid = 3"
         << "branch-id-large"
         << "branches.bid"
         << "The ids of these branches do not fit 16 bits: 70000. Members are added to another "
@@ -504,6 +527,13 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << "groups.calendarID"
         << "Several calendar groups stand for the same calendar: 2 of master group 1. People get "
            "any of them";
+    QTest::newRow("administrators with large ids")
+        << kWideAdminIds + "UPDATE admins SET aid = aid + 65533 WHERE aid > 1"
+        << "admin-id-large"
+        << "admins.aid"
+        << "The ids of these administrators do not fit 16 bits: 65536, 65537. The plugin writes "
+           "them whole, but the components of the attendance server that use its repository "
+           "classes keep 16 bits: people go to another administrator, or to none";
     QTest::newRow("two supervisors of a number")
         << "UPDATE admins SET personalNumber = 1001 WHERE aid = 4"
         << "supervisor-twice"
@@ -529,7 +559,7 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
 void TestCheckDb::whatIsDoubtfulIsTold()
 {
     QFETCH(QString, change);
-    m_db.run(change);
+    apply(change);
     compareOnlyFinding(check(), ExitStatus::Findings);
 }
 
@@ -578,6 +608,19 @@ void TestCheckDb::theSiteMayHaveMore_data()
     QTest::newRow("another key that is not unique") << "ALTER TABLE people ADD KEY (surname)";
     QTest::newRow("a further unique key where no row is made")
         << "ALTER TABLE branches ADD UNIQUE KEY (number)";
+    QTest::newRow("a number of its own for each row")
+        << "ALTER TABLE brape DROP PRIMARY KEY, ADD UNIQUE KEY (bid, uid),"
+           " ADD id INT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY KEY";
+    QTest::newRow("a number of its own in a further key")
+        << "ALTER TABLE vars ADD id INT UNSIGNED NOT NULL AUTO_INCREMENT,"
+           " ADD UNIQUE KEY (id, value(10))";
+    for (const char *function : {"uuid", "uuid_short", "sys_guid"}) {
+        QTest::addRow("a key that %s() fills", function)
+            << QStringLiteral("ALTER TABLE funds_move DROP PRIMARY KEY,"
+                              " ADD UNIQUE KEY (type, day, fid, uid),"
+                              " ADD id VARCHAR(36) NOT NULL DEFAULT %1() PRIMARY KEY")
+                   .arg(function);
+    }
     QTest::newRow("a column's name in other letters")
         << "ALTER TABLE people RENAME COLUMN calendarID TO CALENDARID";
     QTest::newRow("a routine of somebody else")
@@ -596,7 +639,9 @@ void TestCheckDb::theSiteMayHaveMore_data()
     QTest::newRow("administrators without a number")
         << "INSERT INTO admins (personalNumber) VALUES (NULL), (0), (0)";
     QTest::newRow("a branch of no cost centre with a large id")
-        << "UPDATE branches SET bid = 70000 WHERE number IS NULL";
+        << kWideBranchIds + "UPDATE branches SET bid = 70000 WHERE number IS NULL";
+    QTest::newRow("an administrator with the largest id of 16 bits")
+        << "UPDATE admins SET aid = 65535 WHERE aid = 4";
     QTest::newRow("an inactive person with another payroll id")
         << "UPDATE people SET pamId = '' WHERE NOT status";
     QTest::newRow("a person without relationship")
@@ -608,7 +653,7 @@ void TestCheckDb::theSiteMayHaveMore_data()
 void TestCheckDb::theSiteMayHaveMore()
 {
     QFETCH(QString, change);
-    m_db.run(change);
+    apply(change);
     const ToolRun run = check();
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.findings(), QJsonArray());
