@@ -65,9 +65,10 @@ GRANT EXECUTE ON FUNCTION getCurrentGid TO 'yav'@'localhost';
 GRANT EXECUTE ON PROCEDURE updateTermsSync TO 'yav'@'localhost';
 
 -- mirovahrctl ------------------------------------------------------------------------------------
--- It reads, whole tables because `preview` copies them, and never writes. Not with this account but
--- with the plugin's: `force`, which sets a key in vars, and `check-db` when it shall judge the
--- rights of the plugin's account. EXECUTE on updateTermsSync is left out on purpose: that routine
+-- It reads, whole tables because `preview` copies them and because `check-db` looks with it for
+-- columns that the plugin's account does not see, and never writes. Not with this account but with
+-- the plugin's: `force`, which sets a key in vars, and the first look of `check-db`, which judges
+-- the rights of the plugin's account. EXECUTE on updateTermsSync is left out on purpose: that routine
 -- writes.
 
 CREATE USER IF NOT EXISTS 'mirovahrctl'@'localhost' ACCOUNT LOCK;

@@ -17,9 +17,10 @@ constexpr char kDescription[] =
     "Tells whether the attendance database is what the plugin relies on: the server, the\n"
     "connection, tables, columns, keys and routines, the rights of the account, and some\n"
     "of what stands in the tables. Nothing is written: the server itself refuses it.\n\n"
-    "Connect as the plugin does: with its account, its connect options and its time zone\n"
-    "(TZ). An account that may read whole tables sees columns that the plugin's does not;\n"
-    "check with it, too, and --other-account.";
+    "Check twice. First connect as the plugin does: with its account, its connect options\n"
+    "and its time zone (TZ). That account sees only the columns that it has a right to: a\n"
+    "column without a default value that the site added, which refuses every new row, shows\n"
+    "only in a second look, with an account that reads whole tables and --other-account.";
 
 DbRules::Account accountOf(const CommandLine &line)
 {
@@ -62,10 +63,13 @@ QString verdict(const DbCheck &check)
                                     QStringLiteral("thing that it relies on is not so"),
                                     QStringLiteral("things that it relies on are not so")));
     }
+    const QString begin = check.isPartlySeen() ? QStringLiteral("As far as this account sees, the")
+                                               : QStringLiteral("The");
     if (check.seriousCount() == 0)
-        return QStringLiteral("The database is what the plugin relies on.");
-    return QStringLiteral("The plugin can work with this database; %1 to look at.")
-        .arg(check.seriousCount() == 1
+        return QStringLiteral("%1 database is what the plugin relies on.").arg(begin);
+    return QStringLiteral("%1 plugin can work with this database; %2 to look at.")
+        .arg(begin,
+             check.seriousCount() == 1
                  ? QStringLiteral("there is one thing")
                  : QStringLiteral("there are %1 things").arg(check.seriousCount()));
 }

@@ -41,6 +41,10 @@ public:
     void tell(Severity severity, const char *rule, const QString &message, const QString &advice,
               const QString &field = QString());
 
+    /// The account does not see everything that decides whether the plugin can work.
+    void setPartlySeen() { m_partlySeen = true; }
+    bool isPartlySeen() const { return m_partlySeen; }
+
     bool isContractBroken() const { return m_breaches > 0; }
     int breachCount() const { return m_breaches; }
     /// How many warnings and errors there were.
@@ -55,5 +59,6 @@ private:
     int m_breaches = 0;
     int m_serious = 0;
     bool m_toldInSection = false;
+    bool m_partlySeen = false;
     QString m_unusable;
 };

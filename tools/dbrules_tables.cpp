@@ -6,6 +6,8 @@
 #include "tools/dbschema.h"
 #include "tools/pluginrights.h"
 
+#include <QSqlError>
+
 namespace {
 
 const QString kCreateAdvice = QStringLiteral(
@@ -114,6 +116,34 @@ void checkInserts(DbCheck &check, const DbSchema &schema)
     }
 }
 
+bool seesAllColumns(DbCheck &check, const QString &table)
+{
+    return !check.attempt(QStringLiteral("SELECT * FROM `%1` LIMIT 0").arg(table)).isValid();
+}
+
+/// The server hides the columns that an account has no right to, and the keys on them.
+void noteHiddenColumns(DbCheck &check, const DbSchema &schema)
+{
+    QStringList tables;
+    for (const PluginRights::TableRights &rights : PluginRights::kTables) {
+        const QString table = QString::fromLatin1(rights.table);
+        if (PluginRights::insertsInto(table) && schema.hasTable(table)
+            && !seesAllColumns(check, table))
+            tables += table;
+    }
+    if (tables.isEmpty())
+        return;
+    check.setPartlySeen();
+    check.tell(Severity::Note, "columns-hidden",
+               QStringLiteral("The rights of this account are on single columns of these tables, "
+                              "and it sees no others: %1. Whether the site added a column there "
+                              "that has no default value, so that every new row is refused, or "
+                              "a unique key on hidden columns, this look cannot tell")
+                   .arg(tables.join(QStringLiteral(", "))),
+               QStringLiteral("Check once more with an account that reads whole tables, such as "
+                              "mirovahrctl, and --other-account."));
+}
+
 void checkStatusOfNewPeople(DbCheck &check, const DbSchema &schema)
 {
     const DbColumn *const status =
@@ -150,6 +180,7 @@ void DbRules::checkTables(DbCheck &check, const DbSchema &schema)
         names.checkTable(table);
     tellMissingElsewhere(check, names.missingElsewhere());
     checkInserts(check, schema);
+    noteHiddenColumns(check, schema);
     checkStatusOfNewPeople(check, schema);
     checkUndoing(check, schema);
     check.end(QStringLiteral("All tables and columns are there, and new rows can be made."));

@@ -854,7 +854,7 @@ void TestCheckDb::theHelpSaysHowToConnect()
     COMPARE_EXIT(run, ExitStatus::Fine);
     QVERIFY2(run.out.startsWith("Usage: mirovahrctl check-db [OPTION...]\n"),
              run.report().constData());
-    QVERIFY(run.out.contains("Connect as the plugin does"));
+    QVERIFY(run.out.contains("First connect as the plugin does"));
     QVERIFY(run.out.contains("--other-account"));
 }
 

@@ -6,10 +6,14 @@
 #include <QSqlQuery>
 #include <QtTest>
 
+Q_DECLARE_METATYPE(ExitStatus)
+
 namespace {
 
 const char kPlugin[] = "yav";
 const char kTool[] = "mirovahrctl";
+const QString kFirstLook =
+    "As far as this account sees, the database is what the plugin relies on.";
 
 /// Of all findings, or of those of one severity.
 QString messages(const ToolRun &run, const QString &severity = QString())
@@ -36,6 +40,9 @@ private Q_SLOTS:
     void cleanup();
 
     void theAccountOfThePluginIsFine();
+    void whatOneAccountDoesNotSeeTheSecondLookFinds_data();
+    void whatOneAccountDoesNotSeeTheSecondLookFinds();
+    void anAccountThatReadsWholeTablesSeesAllColumns();
     void everyRightThatThePluginLacksIsFound_data();
     void everyRightThatThePluginLacksIsFound();
     void aMissingRightIsNamed();
@@ -87,6 +94,7 @@ void TestCheckDbRights::theAccountOfThePluginIsFine()
 {
     const ToolRun run = check(kPlugin);
     COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.json().value("verdict").toString(), kFirstLook);
     QCOMPARE(messages(run),
              QString("Not there, or hidden from this account: branches.name, branches.address, "
                      "branches.note, branches.wh1b, branches.wh1e, branches.wh2b, branches.wh2e, "
@@ -94,7 +102,64 @@ void TestCheckDbRights::theAccountOfThePluginIsFine()
                      "branches.wh5e, branches.wh6b, branches.wh6e, branches.wh7b, branches.wh7e, "
                      "sections, sec_branch, bas, term_sync.ref_col2, term_sync.ref_id2, inters, "
                      "inters_term, pzt. The plugin does not use them; other components of the "
-                     "attendance server may."));
+                     "attendance server may.\n"
+                     "The rights of this account are on single columns of these tables, and it "
+                     "sees no others: people, people_pam, funds_move, term_sync. Whether the site "
+                     "added a column there that has no default value, so that every new row is "
+                     "refused, or a unique key on hidden columns, this look cannot tell."));
+}
+
+void TestCheckDbRights::whatOneAccountDoesNotSeeTheSecondLookFinds_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<ExitStatus>("status");
+    QTest::newRow("a column that must be filled")
+        << "ALTER TABLE people ADD card VARCHAR(20) NOT NULL"
+        << "column-without-default" << ExitStatus::ContractBroken;
+    QTest::newRow("a further unique key") << "ALTER TABLE brape ADD place INT NOT NULL DEFAULT 0,"
+                                             " ADD UNIQUE KEY (uid, place)"
+                                          << "key-unexpected" << ExitStatus::Findings;
+}
+
+void TestCheckDbRights::whatOneAccountDoesNotSeeTheSecondLookFinds()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, rule);
+    QFETCH(ExitStatus, status);
+    m_db.run(change);
+    const ToolRun first = check(kPlugin);
+    const ToolRun second = checkWithTool();
+    m_db.reset();
+    COMPARE_EXIT(first, ExitStatus::Fine);
+    QCOMPARE(first.json().value("verdict").toString(), kFirstLook);
+    QCOMPARE(first.findingsOf("columns-hidden").size(), 1);
+    COMPARE_EXIT(second, status);
+    QCOMPARE(second.rules(), QStringList(rule));
+}
+
+void TestCheckDbRights::anAccountThatReadsWholeTablesSeesAllColumns()
+{
+    const TableRows tables = m_db.rows("SHOW TABLES");
+    for (const QStringList &table : tables)
+        m_db.run(QStringLiteral("GRANT SELECT ON `%1` TO yav@localhost").arg(table.first()));
+    ToolRun run = check(kPlugin);
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(messages(run), QString());
+    QCOMPARE(run.json().value("verdict").toString(),
+             QString("The database is what the plugin relies on."));
+
+    m_db.run("ALTER TABLE brape ADD place INT NOT NULL DEFAULT 0");
+    m_db.run("REVOKE SELECT ON brape FROM yav@localhost");
+    m_db.grant("grants.sql");
+    m_db.run("DELETE FROM funds WHERE iid = 3 AND unit = 2");
+    run = check(kPlugin);
+    m_db.reset();
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QVERIFY(messages(run).contains("sees no others: brape. "));
+    QCOMPARE(run.json().value("verdict").toString(),
+             QString("As far as this account sees, the plugin can work with this database; there "
+                     "is one thing to look at."));
 }
 
 void TestCheckDbRights::everyRightThatThePluginLacksIsFound_data()
