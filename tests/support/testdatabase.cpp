@@ -1,5 +1,7 @@
 #include "tests/support/testdatabase.h"
 
+#include "db/tepdbcontract.h"
+
 #include <QFile>
 #include <QSqlError>
 #include <QSqlField>
@@ -226,6 +228,24 @@ QString TestDatabase::difference(const DatabaseState &before, const DatabaseStat
         lines += missingIn("+ " + table + ": ", after.value(table), before.value(table));
     }
     return lines.join('\n');
+}
+
+void TestDatabase::addOwnNumbers()
+{
+    const TableRows numbered = rows("SELECT table_name FROM information_schema.columns WHERE"
+                                    " table_schema = DATABASE() AND extra = 'auto_increment'");
+    for (const TepDbContract::Table &table : TepDbContract::kTables) {
+        if (numbered.contains({table.name}))
+            continue;
+        QString columns = table.keys[0].columns;
+        const QString uniqueKey = columns.isEmpty()
+            ? QString()
+            : QStringLiteral("DROP PRIMARY KEY, ADD UNIQUE KEY (`%1`), ")
+                  .arg(columns.replace(' ', "`, `"));
+        run(QStringLiteral("ALTER TABLE `%1` %2ADD own_number INT UNSIGNED NOT NULL INVISIBLE"
+                           " AUTO_INCREMENT PRIMARY KEY")
+                .arg(table.name, uniqueKey));
+    }
 }
 
 void TestDatabase::clearStatements()

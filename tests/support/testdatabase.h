@@ -103,6 +103,13 @@ public:
     /// Everything the log has, the driver's own events included.
     QVector<ServerEvent> events();
 
+    // Making it another site's --------------------------------------------------------------------
+
+    /// Gives each table whose rows have no automatic number one of a column of its own, as the
+    /// primary key beside the unique keys that the table has. dump() and its like leave the column
+    /// out.
+    void addOwnNumbers();
+
     // Making things fail --------------------------------------------------------------------------
 
     void stopServer(); ///< An orderly shutdown: connections are lost.

@@ -105,12 +105,15 @@ private Q_SLOTS:
     void aBranchThatAppearsTakesWhoWaitedForIt();
 
     void aDatabaseWithoutAnythingTakesPeopleOnly();
+    void aNumberOfItsOwnInEveryRowChangesNothing();
 
 private:
     /// The sample as it is in daily use: calculated up to yesterday.
     void beCalculated();
 
     QVector<ExportRow> newcomers(int firstNumber) const;
+    /// What two synchronisations of the sample change that handle people of every kind.
+    QStringList changesOfTwoCycles();
 };
 
 void TestWholeState::beCalculated()
@@ -437,6 +440,32 @@ void TestWholeState::aDatabaseWithoutAnythingTakesPeopleOnly()
                            "rsText= type=1 did=1 calendarID=1 bid=NULL status=1 lastCalc=0 "
                            "calc=0 gid=NULL",
                      "people_pam + uid=1 id=1"}));
+}
+
+QStringList TestWholeState::changesOfTwoCycles()
+{
+    beCalculated();
+    StateChanges changes(m_db);
+    synchronise(ordinaryExport() + newcomers(3041));
+    force();
+    synchronise();
+    return changes.lines();
+}
+
+void TestWholeState::aNumberOfItsOwnInEveryRowChangesNothing()
+{
+    const QStringList usual = changesOfTwoCycles();
+    QStringList tables;
+    for (const QString &line : usual)
+        tables += line.section(' ', 0, 0);
+    tables.removeDuplicates();
+    QCOMPARE(tables.join(' '),
+             QString("admins_people atten brape funds_move groups_month groups_plan people "
+                     "people_pam people_term term term_sync vars"));
+    m_db.reset();
+    newWorker();
+    m_db.addOwnNumbers();
+    QCOMPARE(changesOfTwoCycles().join('\n'), usual.join('\n'));
 }
 
 SYNC_TEST_MAIN(TestWholeState)

@@ -61,6 +61,7 @@ private Q_SLOTS:
 
     void theSiteMayHaveMore_data();
     void theSiteMayHaveMore();
+    void everyRowMayHaveANumberOfItsOwn();
     void aBackslashThatIsOneIsNoted();
 
     void everyTableIsLookedFor_data();
@@ -654,6 +655,14 @@ void TestCheckDb::theSiteMayHaveMore()
 {
     QFETCH(QString, change);
     apply(change);
+    const ToolRun run = check();
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.findings(), QJsonArray());
+}
+
+void TestCheckDb::everyRowMayHaveANumberOfItsOwn()
+{
+    m_db.addOwnNumbers();
     const ToolRun run = check();
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.findings(), QJsonArray());
