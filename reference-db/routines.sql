@@ -1,8 +1,13 @@
 -- Attendance database: the routines that the MirovaHR plugin calls.
 -- They run with the rights of the caller. Days and months are those of the session's time zone.
--- FROM_UNIXTIME limits the dates of MariaDB 10.11 to 1970-2037; beyond, the results are NULL.
+--
+-- A routine keeps the SQL mode in which it was made, so this file sets it. It is not strict because
+-- FROM_UNIXTIME up to MariaDB 11.4 knows the time from 1970 to 19 January 2038 only. For other times
+-- the results are NULL; a strict mode would make that an error, and one day of attendance with a
+-- mistyped year would keep all months of the person from being filled.
 
 SET NAMES utf8mb4;
+SET @old_sql_mode = @@SESSION.sql_mode, SESSION sql_mode = '';
 
 DELIMITER //
 
@@ -47,3 +52,5 @@ CREATE PROCEDURE updateTermsSync(IN p_uid INT UNSIGNED, IN p_flag INT UNSIGNED)
 //
 
 DELIMITER ;
+
+SET SESSION sql_mode = @old_sql_mode;

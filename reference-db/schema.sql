@@ -6,6 +6,13 @@
 --         month     = year * 100 + month, as in 202403
 -- Local time is the time zone of the server's sessions.
 --
+-- Ids of branches and administrators have 16 bits, because operations of the plugin and of the
+-- repositories (db/) keep no more: in wider columns they would take 65537 for 1. Here the server
+-- refuses such an id. Only `bas` takes 32 bits, as its operations do.
+--
+-- term_sync and pzt have no primary key: their rows may repeat. Where the server wants one on every
+-- table, add a column `id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY KEY` to both.
+--
 -- Load into an empty database, then routines.sql.
 
 SET NAMES utf8mb4;
@@ -13,30 +20,30 @@ SET NAMES utf8mb4;
 -- People -----------------------------------------------------------------------------------------
 
 CREATE TABLE people (
-    uid        INT UNSIGNED     NOT NULL AUTO_INCREMENT,
-    pid        INT UNSIGNED     NOT NULL,                -- HR: personal number and relationship, joined
-    pamId      VARCHAR(24)      NOT NULL DEFAULT '',     -- HR: the same two, as in 1234.1
-    title      VARCHAR(40)      NOT NULL DEFAULT '',     -- before the name
-    name       VARCHAR(60)      NOT NULL DEFAULT '',
-    surname    VARCHAR(80)      NOT NULL DEFAULT '',
-    title2     VARCHAR(40)      NOT NULL DEFAULT '',     -- after the name
-    phone      VARCHAR(40)      NOT NULL DEFAULT '',
-    begin      BIGINT           NOT NULL DEFAULT 0,      -- employed from (timestamp)
-    `end`      BIGINT           NULL,                    -- employed to (timestamp), NULL = open
-    created    BIGINT           NOT NULL DEFAULT 0,      -- timestamp
-    edited     BIGINT           NOT NULL DEFAULT 0,      -- timestamp
-    editor     INT UNSIGNED     NOT NULL DEFAULT 0,      -- administrator of the last edit, 0 = HR
-    rsBegin    BIGINT           NULL,                    -- employment state: from (timestamp)
-    rsEnd      BIGINT           NULL,                    -- employment state: to (timestamp)
-    rsText     VARCHAR(120)     NOT NULL DEFAULT '',     -- employment state: its name
-    type       TINYINT UNSIGNED NOT NULL DEFAULT 0,      -- employment type
-    did        INT UNSIGNED     NULL,                    -- department
-    calendarID INT UNSIGNED     NOT NULL DEFAULT 0,      -- HR calendar code
-    bid        INT UNSIGNED     NULL,                    -- home branch
-    status     TINYINT UNSIGNED NOT NULL DEFAULT 1,      -- 1 active, 0 inactive
-    lastCalc   BIGINT           NOT NULL DEFAULT 0,      -- attendance is to be calculated from here (timestamp)
-    calc       BIGINT           NOT NULL DEFAULT 0,      -- last calculation (timestamp), 0 = one is due
-    gid        INT UNSIGNED     NULL,                    -- calendar group where groups_plan has none
+    uid        INT UNSIGNED      NOT NULL AUTO_INCREMENT,
+    pid        INT UNSIGNED      NOT NULL,               -- HR: personal number and relationship, joined
+    pamId      VARCHAR(24)       NOT NULL DEFAULT '',    -- HR: the same two, as in 1234.1
+    title      VARCHAR(40)       NOT NULL DEFAULT '',    -- before the name
+    name       VARCHAR(60)       NOT NULL DEFAULT '',
+    surname    VARCHAR(80)       NOT NULL DEFAULT '',
+    title2     VARCHAR(40)       NOT NULL DEFAULT '',    -- after the name
+    phone      VARCHAR(40)       NOT NULL DEFAULT '',
+    begin      BIGINT            NOT NULL DEFAULT 0,     -- employed from (timestamp)
+    `end`      BIGINT            NULL,                   -- employed to (timestamp), NULL = open
+    created    BIGINT            NOT NULL DEFAULT 0,     -- timestamp
+    edited     BIGINT            NOT NULL DEFAULT 0,     -- timestamp
+    editor     INT UNSIGNED      NOT NULL DEFAULT 0,     -- administrator of the last edit, 0 = HR
+    rsBegin    BIGINT            NULL,                   -- employment state: from (timestamp)
+    rsEnd      BIGINT            NULL,                   -- employment state: to (timestamp)
+    rsText     VARCHAR(120)      NOT NULL DEFAULT '',    -- employment state: its name
+    type       TINYINT UNSIGNED  NOT NULL DEFAULT 0,     -- employment type
+    did        INT UNSIGNED      NULL,                   -- department
+    calendarID INT UNSIGNED      NOT NULL DEFAULT 0,     -- HR calendar code
+    bid        SMALLINT UNSIGNED NULL,                   -- home branch
+    status     TINYINT UNSIGNED  NOT NULL DEFAULT 1,     -- 1 active, 0 inactive
+    lastCalc   BIGINT            NOT NULL DEFAULT 0,     -- attendance is to be calculated from here (timestamp)
+    calc       BIGINT            NOT NULL DEFAULT 0,     -- last calculation (timestamp), 0 = one is due
+    gid        INT UNSIGNED      NULL,                   -- calendar group where groups_plan has none
     PRIMARY KEY (uid),
     UNIQUE KEY (pid),
     KEY (bid)
@@ -62,7 +69,7 @@ CREATE TABLE atten (
 -- Branches and what belongs to them --------------------------------------------------------------
 
 CREATE TABLE branches (
-    bid     INT UNSIGNED      NOT NULL AUTO_INCREMENT,
+    bid     SMALLINT UNSIGNED NOT NULL AUTO_INCREMENT,
     number  INT UNSIGNED      NULL,                      -- HR: cost centre, NULL = none
     name    VARCHAR(120)      NOT NULL DEFAULT '',
     address VARCHAR(255)      NOT NULL DEFAULT '',
@@ -88,17 +95,17 @@ CREATE TABLE branches (
 
 -- People of a branch.
 CREATE TABLE brape (
-    bid   INT UNSIGNED NOT NULL,
-    uid   INT UNSIGNED NOT NULL,
-    since BIGINT       NOT NULL DEFAULT 0,               -- timestamp
+    bid   SMALLINT UNSIGNED NOT NULL,
+    uid   INT UNSIGNED      NOT NULL,
+    since BIGINT            NOT NULL DEFAULT 0,          -- timestamp
     PRIMARY KEY (bid, uid),
     KEY (uid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
 -- Administrators of a branch.
 CREATE TABLE bradm (
-    bid INT UNSIGNED NOT NULL,
-    aid INT UNSIGNED NOT NULL,
+    bid SMALLINT UNSIGNED NOT NULL,
+    aid SMALLINT UNSIGNED NOT NULL,
     PRIMARY KEY (bid, aid),
     KEY (aid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
@@ -110,8 +117,8 @@ CREATE TABLE sections (
 
 -- A section is in one branch at a time.
 CREATE TABLE sec_branch (
-    secid INT UNSIGNED NOT NULL,
-    bid   INT UNSIGNED NOT NULL,
+    secid INT UNSIGNED      NOT NULL,
+    bid   SMALLINT UNSIGNED NOT NULL,
     PRIMARY KEY (secid),
     KEY (bid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
@@ -178,16 +185,16 @@ CREATE TABLE funds_move (
 -- Administrators ---------------------------------------------------------------------------------
 
 CREATE TABLE admins (
-    aid            INT UNSIGNED NOT NULL AUTO_INCREMENT,
-    personalNumber INT UNSIGNED NULL,                    -- HR: personal number of the supervisor
+    aid            SMALLINT UNSIGNED NOT NULL AUTO_INCREMENT,
+    personalNumber INT UNSIGNED      NULL,               -- HR: personal number of the supervisor
     PRIMARY KEY (aid),
     KEY (personalNumber)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
 CREATE TABLE admins_people (
-    aid     INT UNSIGNED     NOT NULL,
-    uid     INT UNSIGNED     NOT NULL,
-    request TINYINT UNSIGNED NOT NULL DEFAULT 0,         -- 1 = receives the person's requests
+    aid     SMALLINT UNSIGNED NOT NULL,
+    uid     INT UNSIGNED      NOT NULL,
+    request TINYINT UNSIGNED  NOT NULL DEFAULT 0,        -- 1 = receives the person's requests
     PRIMARY KEY (aid, uid),
     KEY (uid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
@@ -197,11 +204,11 @@ CREATE TABLE admins_people (
 -- Bits of flags (what the terminal supports) and syn (what it has to fetch):
 -- 1 interval types, 2 people, 64 time zones, 256 colour groups.
 CREATE TABLE term (
-    tid    INT UNSIGNED     NOT NULL AUTO_INCREMENT,
-    bid    INT UNSIGNED     NULL,                        -- branch, NULL = none
-    status TINYINT UNSIGNED NOT NULL DEFAULT 1,          -- 0 switched off, 1 active
-    flags  INT UNSIGNED     NOT NULL DEFAULT 0,
-    syn    INT UNSIGNED     NOT NULL DEFAULT 0,
+    tid    INT UNSIGNED      NOT NULL AUTO_INCREMENT,
+    bid    SMALLINT UNSIGNED NULL,                       -- branch, NULL = none
+    status TINYINT UNSIGNED  NOT NULL DEFAULT 1,         -- 0 switched off, 1 active
+    flags  INT UNSIGNED      NOT NULL DEFAULT 0,
+    syn    INT UNSIGNED      NOT NULL DEFAULT 0,
     PRIMARY KEY (tid),
     KEY (bid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
@@ -247,8 +254,9 @@ CREATE TABLE pzt (
 
 -- Settings ---------------------------------------------------------------------------------------
 
+-- Two names are the same only when they are spelled the same, blanks at the end included.
 CREATE TABLE vars (
-    name  VARCHAR(160) NOT NULL,
+    name  VARCHAR(160) COLLATE utf8mb4_nopad_bin NOT NULL,
     value MEDIUMTEXT   NULL,
     PRIMARY KEY (name)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;

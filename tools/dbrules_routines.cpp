@@ -36,6 +36,9 @@ constexpr char kSelectGidOfNobody[] =
 /// write is stopped there, which is all that is to be found out.
 constexpr char kCallProcedure[] = "CALL updateTermsSync(0, 2)";
 
+/// A day of the year 9999, of which no server knows the month.
+constexpr char kMonthOfUnknownDay[] = "SELECT monthFromTimestamp(253402210800)";
+
 const QString kNoSuchFunction = QStringLiteral("1305");
 const QString kWrongArguments = QStringLiteral("1318");
 const QString kDenied = QStringLiteral("1370");
@@ -102,7 +105,8 @@ QString moments()
     return selects.join(QStringLiteral(" UNION ALL "));
 }
 
-void checkTimeFunction(DbCheck &check, const char *name, const char *expected)
+/// False when there is something to tell.
+bool checkTimeFunction(DbCheck &check, const char *name, const char *expected)
 {
     const QString function = QString::fromLatin1(name);
     const QString sql =
@@ -110,13 +114,33 @@ void checkTimeFunction(DbCheck &check, const char *name, const char *expected)
     const QSqlError error = check.attempt(sql);
     if (error.isValid()) {
         tellFailure(check, function, error);
-        return;
+        return false;
     }
     const QVariantList wrong = check.row(sql);
-    if (!wrong.isEmpty()) {
-        tellWrong(check, function, QStringLiteral("%1(%2)").arg(function, wrong.at(0).toString()),
-                  wrong.at(1), wrong.at(2));
-    }
+    if (wrong.isEmpty())
+        return true;
+    tellWrong(check, function, QStringLiteral("%1(%2)").arg(function, wrong.at(0).toString()),
+              wrong.at(1), wrong.at(2));
+    return false;
+}
+
+void checkMonthFunction(DbCheck &check)
+{
+    const QString function = QStringLiteral("monthFromTimestamp");
+    if (!checkTimeFunction(check, "monthFromTimestamp", kMonth))
+        return;
+    const QSqlError error = check.attempt(QLatin1String(kMonthOfUnknownDay));
+    if (!error.isValid())
+        return;
+    check.tell(Severity::Warning, "routine-late-days",
+               QStringLiteral("The function %1 fails for days that the server does not know (%2). "
+                              "One such day of attendance, such as one with a mistyped year, keeps "
+                              "all months of that person from being filled")
+                   .arg(function, error.databaseText()),
+               QStringLiteral("Make the function in an SQL mode that is not strict, as "
+                              "reference-db/routines.sql does, and grant the right to call it "
+                              "again."),
+               function);
 }
 
 void checkGroupFunction(DbCheck &check)
@@ -168,7 +192,7 @@ void DbRules::checkRoutines(DbCheck &check, Account account)
 {
     check.begin("routines", "Routines");
     checkTimeFunction(check, "midnightFromTs", kMidnight);
-    checkTimeFunction(check, "monthFromTimestamp", kMonth);
+    checkMonthFunction(check);
     checkGroupFunction(check);
     if (account == Account::OfThePlugin)
         callProcedure(check);

@@ -548,6 +548,7 @@ void TestBranchesPropagation::peopleAreGivenToEveryAdministratorInOneStatement()
 
 void TestBranchesPropagation::administratorIdsKeepTheir32BitsInTheTuples()
 {
+    m_database.widenIds();
     m_database.run("INSERT INTO bradm (bid, aid) VALUES (4, 65537)");
     QVERIFY(Repo(*this).AddPeopleToAdmins(4, {"4294967295"}));
     QCOMPARE(m_database.statements().last(), giving("(65537, 4294967295)"));
@@ -595,6 +596,7 @@ void TestBranchesPropagation::peopleKeepAnAdministratorTheyHaveThroughAnotherBra
 
 void TestBranchesPropagation::administratorsAreComparedIn32BitsAndNarrowedForTheRemoval()
 {
+    m_database.widenIds();
     m_database.run("INSERT INTO bradm (bid, aid) VALUES (4, 65567)"); // 65536 + 31
     m_database.run("INSERT INTO admins_people (aid, uid) VALUES (31, 21), (65567, 21)");
     QVERIFY(Repo(*this).deletePeopleFromAdmins(4, {"21"}));

@@ -374,6 +374,7 @@ void TestBranchesRepository::addBranchReturnsTheLow16BitsOfTheId_data()
 void TestBranchesRepository::addBranchReturnsTheLow16BitsOfTheId()
 {
     QFETCH(QString, id);
+    m_database.widenIds();
     m_database.run("ALTER TABLE branches AUTO_INCREMENT = " + id);
     QTEST(Repo(*this).addBranch(fullBranch()), "returned");
     QCOMPARE(m_database.value("SELECT bid FROM branches").toString(), id);

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void updateWritesTheGroupOfEachMonthWithAttendance();
     void updateReplacesTheGroupOfAMonth();
     void updateLeavesOutMonthsWithoutAGroup();
+    void updateLeavesOutDaysThatTheServerDoesNotKnow_data();
+    void updateLeavesOutDaysThatTheServerDoesNotKnow();
     void updateOfAPersonWithoutAttendanceFails();
     void updateThatChangesNothingFails();
     void updateWithoutAPersonOrAMonthRunsNoStatement_data();
@@ -373,6 +375,25 @@ void TestGroupsPlanRepo::updateLeavesOutMonthsWithoutAGroup()
     m_database.run("INSERT INTO groups_plan (gid, uid, since) VALUES (4, 17, 202404)");
     QVERIFY(Repo(*this).updateGroupsMonth(17, 202403));
     QCOMPARE(months(), TableRows({{"4", "17", "202404"}}));
+}
+
+void TestGroupsPlanRepo::updateLeavesOutDaysThatTheServerDoesNotKnow_data()
+{
+    QTest::addColumn<QString>("day");
+    QTest::newRow("a day of the year 9999") << "253402210800";
+    QTest::newRow("a day before 1970") << "-86400";
+}
+
+void TestGroupsPlanRepo::updateLeavesOutDaysThatTheServerDoesNotKnow()
+{
+    QFETCH(QString, day);
+    addPerson(17, "2");
+    addAttendance(17, {"2024-03-01", "2024-04-01"});
+    m_database.run("INSERT INTO atten (uid, `date`) VALUES (17, " + day + ")");
+    LogCapture log;
+    QVERIFY(Repo(*this).updateGroupsMonth(17, 202403));
+    QCOMPARE(months(), TableRows({{"2", "17", "202403"}, {"2", "17", "202404"}}));
+    QCOMPARE(log.lines(), QStringList());
 }
 
 void TestGroupsPlanRepo::updateOfAPersonWithoutAttendanceFails()

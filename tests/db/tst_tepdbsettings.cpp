@@ -173,11 +173,11 @@ void TestTepDbSettings::setReportsAFailedExecution()
 
 void TestTepDbSettings::delDeletesTheKeySpelledExactly()
 {
-    addVariables({"colour", "colours", "a colour"});
+    addVariables({"colour", "colours", "a colour", "Colour", "cólour", "colour "});
     LogCapture log;
     QVERIFY(TepDbSettings(m_connection).variableDel("colour", false));
     QCOMPARE(m_database.statements(), QStringList("DELETE FROM vars WHERE name='colour'"));
-    QCOMPARE(names(), QStringList({"a colour", "colours"}));
+    QCOMPARE(names(), QStringList({"Colour", "a colour", "colour ", "colours", "cólour"}));
     QCOMPARE(log.lines(), QStringList());
 }
 

@@ -3,6 +3,8 @@
 #include "tests/support/verifysql.h"
 
 #include <QDateTime>
+#include <QFile>
+#include <QTemporaryFile>
 #include <QTimeZone>
 
 namespace {
@@ -60,15 +62,21 @@ private Q_SLOTS:
     void aNewPersonIsActiveAndNeedsNoMoreThanAPid();
     void timestampsOfPeopleTake64BitsWithSign();
     void theLargestUnsignedNumbersFit();
+    void idsOfBranchesAndAdministratorsEndAt16Bits_data();
+    void idsOfBranchesAndAdministratorsEndAt16Bits();
+    void noBranchIsCreatedBeyond16Bits();
     void anUnquotedPayrollIdKeepsItsText();
     void branchesTakeNoNumberNoHoursAndNoMasterGroup();
     void theQueueTakesTheSameRowTwice();
     void settingsTakeLongTexts();
+    void namesOfSettingsAreTheSameOnlyWhenSpelledTheSame();
 
     void midnightBeginsTheDayOfTheTimestamp_data();
     void midnightBeginsTheDayOfTheTimestamp();
     void theMonthIsThatOfTheLocalDay_data();
     void theMonthIsThatOfTheLocalDay();
+    void daysAndMonthsThatTheServerDoesNotKnowAreNull_data();
+    void daysAndMonthsThatTheServerDoesNotKnowAreNull();
     void daysAndMonthsFollowTheTimeZoneOfTheSession();
     void theCurrentGroupIsTheLatestPlannedOneThatHasBegun_data();
     void theCurrentGroupIsTheLatestPlannedOneThatHasBegun();
@@ -76,11 +84,15 @@ private Q_SLOTS:
     void terminalsOfThePersonAreMarked();
     void otherBitsAreMarkedLikewise();
     void routinesRunWithTheRightsOfTheCaller();
+    void routinesHaveTheSqlModeOfTheirFile();
 
     void theSampleDataLoadsInStrictModeAndShowsEveryKindOfRow();
     void theSampleDataIsTheSameEveryTime();
 
 private:
+    /// How the server refuses a statement; empty when it does not.
+    QString errorOf(const QString &sql);
+
     TestDatabase m_db;
 };
 
@@ -93,6 +105,23 @@ void TestReferenceDb::initTestCase()
 void TestReferenceDb::init()
 {
     m_db.resetEmpty();
+}
+
+QString TestReferenceDb::errorOf(const QString &sql)
+{
+    const QString name = "refused";
+    QString error;
+    {
+        QSqlDatabase database =
+            m_db.server().addConnection(name, PrivateMariaDb::Account::Administrator);
+        database.setDatabaseName(m_db.server().databaseName());
+        database.open();
+        QSqlQuery query(database);
+        query.exec(sql);
+        error = query.lastError().databaseText();
+    }
+    QSqlDatabase::removeDatabase(name);
+    return error;
 }
 
 void TestReferenceDb::theSchemaHasTheTablesOfTheContractAndNoOther()
@@ -215,12 +244,54 @@ void TestReferenceDb::timestampsOfPeopleTake64BitsWithSign()
 void TestReferenceDb::theLargestUnsignedNumbersFit()
 {
     m_db.run("INSERT INTO people (pid, pamId, did, calendarID, bid)"
-             " VALUES (4294967295, '4294967295.4294967295', 4294967295, 4294967295, 4294967295)");
+             " VALUES (4294967295, '4294967295.4294967295', 4294967295, 4294967295, 65535)");
     m_db.run("INSERT INTO branches (number, name, mgid) VALUES (4294967295, 'b', 4294967295)");
     m_db.run(
         "INSERT INTO groups_plan (gid, uid, since) VALUES (4294967295, 4294967295, 4294967295)");
     m_db.run("INSERT INTO admins (personalNumber) VALUES (4294967295)");
     QCOMPARE(m_db.value("SELECT pamId FROM people").toString(), QString("4294967295.4294967295"));
+}
+
+void TestReferenceDb::idsOfBranchesAndAdministratorsEndAt16Bits_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("column");
+    QTest::newRow("home branch") << "people"
+                                 << "bid";
+    QTest::newRow("branch") << "branches"
+                            << "bid";
+    QTest::newRow("branch of a person") << "brape"
+                                        << "bid";
+    QTest::newRow("branch of an administrator") << "bradm"
+                                                << "bid";
+    QTest::newRow("administrator of a branch") << "bradm"
+                                               << "aid";
+    QTest::newRow("branch of a section") << "sec_branch"
+                                         << "bid";
+    QTest::newRow("administrator") << "admins"
+                                   << "aid";
+    QTest::newRow("administrator of a person") << "admins_people"
+                                               << "aid";
+    QTest::newRow("branch of a terminal") << "term"
+                                          << "bid";
+}
+
+void TestReferenceDb::idsOfBranchesAndAdministratorsEndAt16Bits()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, column);
+    m_db.reset();
+    m_db.run(QStringLiteral("UPDATE %1 SET %2 = 65535 LIMIT 1").arg(table, column));
+    QCOMPARE(errorOf(QStringLiteral("UPDATE %1 SET %2 = 65536 LIMIT 1").arg(table, column)),
+             QStringLiteral("Out of range value for column '%1' at row 1").arg(column));
+}
+
+void TestReferenceDb::noBranchIsCreatedBeyond16Bits()
+{
+    m_db.run("INSERT INTO branches (bid) VALUES (65534)");
+    m_db.run("INSERT INTO branches (number) VALUES (1)");
+    QCOMPARE(errorOf("INSERT INTO branches (number) VALUES (2)"),
+             QString("Out of range value for column 'bid' at row 1"));
 }
 
 void TestReferenceDb::anUnquotedPayrollIdKeepsItsText()
@@ -255,6 +326,14 @@ void TestReferenceDb::settingsTakeLongTexts()
 {
     m_db.run("INSERT INTO vars (name, value) VALUES ('a', REPEAT('1234567890,', 100000))");
     QCOMPARE(m_db.value("SELECT LENGTH(value) FROM vars").toInt(), 1100000);
+}
+
+void TestReferenceDb::namesOfSettingsAreTheSameOnlyWhenSpelledTheSame()
+{
+    m_db.run("INSERT INTO vars (name) VALUES ('a'), ('A'), ('á'), ('a ')");
+    m_db.run("DELETE FROM vars WHERE name = 'a'");
+    QCOMPARE(firstColumn(m_db.rows("SELECT name FROM vars ORDER BY name")),
+             QStringList({"A", "a ", "á"}));
 }
 
 void TestReferenceDb::midnightBeginsTheDayOfTheTimestamp_data()
@@ -310,6 +389,30 @@ void TestReferenceDb::theMonthIsThatOfTheLocalDay()
                             .arg(timestamp(moment, "Europe/Bratislava")))
                  .toInt(),
              month);
+}
+
+void TestReferenceDb::daysAndMonthsThatTheServerDoesNotKnowAreNull_data()
+{
+    QTest::addColumn<QString>("moment");
+    QTest::newRow("after the last second of 32 bits with sign") << "2147483648";
+    QTest::newRow("the year 9999") << "253402210800";
+    QTest::newRow("before 1970") << "-1";
+}
+
+/// The server that the tests run on knows the time up to January 2038.
+void TestReferenceDb::daysAndMonthsThatTheServerDoesNotKnowAreNull()
+{
+    QFETCH(QString, moment);
+    QCOMPARE(m_db.rows(QStringLiteral("SELECT FROM_UNIXTIME(%1)").arg(moment)),
+             TableRows({{"NULL"}}));
+    QCOMPARE(
+        m_db.rows(QStringLiteral("SELECT midnightFromTs(%1), monthFromTimestamp(%1)").arg(moment)),
+        TableRows({{"NULL", "NULL"}}));
+    m_db.run(QStringLiteral("INSERT INTO vars (name, value) SELECT 'a', midnightFromTs(%1)")
+                 .arg(moment));
+    m_db.run(QStringLiteral("INSERT INTO vars (name, value) SELECT 'b', monthFromTimestamp(%1)")
+                 .arg(moment));
+    QCOMPARE(m_db.dump("vars"), QString("name=a value=NULL\nname=b value=NULL"));
 }
 
 void TestReferenceDb::daysAndMonthsFollowTheTimeZoneOfTheSession()
@@ -396,6 +499,28 @@ void TestReferenceDb::routinesRunWithTheRightsOfTheCaller()
     QSqlQuery query(m_db.openPluginConnection());
     VERIFY_SQL(query, query.exec("CALL updateTermsSync(7, 2);"));
     VERIFY_SQL(query, query.exec("SELECT getCurrentGid(7, monthFromTimestamp(0), 1)"));
+}
+
+void TestReferenceDb::routinesHaveTheSqlModeOfTheirFile()
+{
+    for (const TepDbContract::Routine &routine : TepDbContract::kRoutines) {
+        m_db.run(QStringLiteral("DROP %1 %2")
+                     .arg(routine.kind == TepDbContract::RoutineKind::Function ? "FUNCTION"
+                                                                               : "PROCEDURE",
+                          routine.name));
+    }
+    QTemporaryFile script;
+    QFile routines(MIROVAHR_REFERENCE_DB_DIR "/routines.sql");
+    QVERIFY(script.open() && routines.open(QIODevice::ReadOnly));
+    script.write("SET SESSION sql_mode = 'ANSI_QUOTES,STRICT_ALL_TABLES';\n");
+    script.write(routines.readAll());
+    script.write("INSERT INTO vars (name, value) VALUES ('mode', @@SESSION.sql_mode);\n");
+    script.close();
+    QVERIFY2(m_db.server().load({script.fileName()}), qPrintable(m_db.server().errorString()));
+    QCOMPARE(m_db.rows("SELECT DISTINCT sql_mode FROM information_schema.routines WHERE"
+                       " routine_schema = DATABASE()"),
+             TableRows({{""}}));
+    QCOMPARE(m_db.dump("vars"), QString("name=mode value=ANSI_QUOTES,STRICT_ALL_TABLES"));
 }
 
 void TestReferenceDb::theSampleDataLoadsInStrictModeAndShowsEveryKindOfRow()

@@ -248,6 +248,17 @@ void TestDatabase::addOwnNumbers()
     }
 }
 
+void TestDatabase::widenIds()
+{
+    const TableRows ids = rows(
+        "SELECT CONCAT('ALTER TABLE `', table_name, '` MODIFY ', column_name, ' INT UNSIGNED ',"
+        " IF(is_nullable = 'YES', 'NULL ', 'NOT NULL '), extra) FROM"
+        " information_schema.columns WHERE table_schema = DATABASE() AND data_type ="
+        " 'smallint' AND column_name IN ('bid', 'aid')");
+    for (const QStringList &id : ids)
+        run(id.first());
+}
+
 void TestDatabase::clearStatements()
 {
     run("TRUNCATE TABLE mysql.general_log");

@@ -110,6 +110,9 @@ public:
     /// out.
     void addOwnNumbers();
 
+    /// Gives the ids of branches and administrators 32 bits in every table.
+    void widenIds();
+
     // Making things fail --------------------------------------------------------------------------
 
     void stopServer(); ///< An orderly shutdown: connections are lost.

@@ -653,9 +653,9 @@ void TestClock::afterJanuary2038TheServerHasNoMidnights()
     const Trace trace =
         synchronise({tomasWith("12.5").with(&ExportRow::datumNastupu, QDate(2040, 2, 29))});
     QCOMPARE(trace.log,
-             QStringList({"C MHRWorker::writeFundMove3() - SQL ERROR [1292]: Truncated incorrect "
-                          "unixtime value: '2214169200' QMYSQL: Unable to execute query\n SQL: "
-                          "INSERT INTO funds_move (type, day, month, value, fid, uid) VALUES(3, "
+             QStringList({"C MHRWorker::writeFundMove3() - SQL ERROR [1048]: Column 'month' cannot "
+                          "be null QMYSQL: Unable to execute query\n SQL: INSERT INTO funds_move "
+                          "(type, day, month, value, fid, uid) VALUES(3, "
                           "2214169200, monthFromTimestamp(2214169200), 1250, 2, 8) ON DUPLICATE "
                           "KEY UPDATE value=VALUES(value)",
                           "W MHRWorker::doSyncRecord() - funds_move type (type=3, valeu=1250) not "

@@ -269,13 +269,15 @@ void TestCycle::theBranchIdIsNarrowedAtTheCallOnly_data()
     QTest::addColumn<int>("bid");
     QTest::addColumn<QString>("call");
     QTest::addColumn<QStringList>("statements");
+    QTest::addColumn<TableRows>("joined");
     QTest::newRow("65535 is itself")
         << 65535 << "I BranchesRepository::addPeopleToBranch(65535, '8')"
-        << QStringList(Sent::joinBranch(65535, "8"));
+        << QStringList(Sent::joinBranch(65535, "8")) << TableRows({{"65535"}});
     QTest::newRow("65536 becomes 0, which is refused")
-        << 65536 << "I BranchesRepository::addPeopleToBranch(0, '8')" << QStringList();
+        << 65536 << "I BranchesRepository::addPeopleToBranch(0, '8')" << QStringList()
+        << TableRows();
     QTest::newRow("65537 becomes 1") << 65537 << "I BranchesRepository::addPeopleToBranch(1, '8')"
-                                     << QStringList(Sent::joinBranch(1, "8"));
+                                     << QStringList(Sent::joinBranch(1, "8")) << TableRows({{"1"}});
 }
 
 void TestCycle::theBranchIdIsNarrowedAtTheCallOnly()
@@ -283,12 +285,15 @@ void TestCycle::theBranchIdIsNarrowedAtTheCallOnly()
     QFETCH(int, bid);
     QFETCH(QString, call);
     QFETCH(QStringList, statements);
+    QFETCH(TableRows, joined);
+    m_db.widenIds();
     m_db.run(QString("INSERT INTO branches (bid, number) VALUES (%1, 999)").arg(bid));
     newWorker(1);
     const Trace trace = synchronise({tomas().with(&ExportRow::stredisko, 999)});
     QVERIFY(trace.statements.contains(Sent::membership(20012, bid)));
     QCOMPARE(trace.log.filter("addPeopleToBranch"), QStringList(call));
     QCOMPARE(trace.statements.filter("INSERT INTO brape"), statements);
+    QCOMPARE(m_db.rows("SELECT bid FROM brape WHERE uid = 8"), joined);
 }
 
 SYNC_TEST_MAIN(TestCycle)

@@ -491,6 +491,14 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << "funds"
         << "The vacation fund has the number 65536; the plugin keeps 16 bits of it and would write "
            "to another fund";
+    QTest::newRow("months of days that the server knows only")
+        << replaceFunction("monthFromTimestamp", "t BIGINT",
+                           "EXTRACT(YEAR_MONTH FROM FROM_UNIXTIME(t))")
+        << "routine-late-days"
+        << "monthFromTimestamp"
+        << "The function monthFromTimestamp fails for days that the server does not know "
+           "(Truncated incorrect unixtime value: '#'). One such day of attendance, such as one "
+           "with a mistyped year, keeps all months of that person from being filled";
     QTest::newRow("no payroll export")
         << "DELETE FROM vars WHERE name = 'exportPam.1.active'"
         << "payroll-export-none"

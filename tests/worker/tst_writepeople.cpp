@@ -227,6 +227,7 @@ void TestWritePeople::branchesOfPeople()
 {
     QFETCH(quint32, costCentre);
     QFETCH(QString, bid);
+    m_db.widenIds();
     m_db.run("SET sql_mode = 'NO_AUTO_VALUE_ON_ZERO'");
     m_db.run("INSERT INTO branches (bid, number) VALUES (0, 130), (4294967294, 4294967295)");
     m_db.run("SET sql_mode = DEFAULT");
