@@ -39,6 +39,7 @@ bool checkSchema(DbCheck &check, DbRules::Account account)
     DbRules::checkTables(check, schema);
     DbRules::checkColumns(check, schema);
     DbRules::checkKeys(check, schema);
+    DbRules::checkKeylessTables(check, schema, DbRules::readKeySettings(check));
     if (account == DbRules::Account::OfThePlugin)
         DbRules::checkRights(check, schema);
     return check.breachCount() == breachesBefore;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QHash>
+#include <QString>
+
 class DbCheck;
 class DbSchema;
 
@@ -10,12 +13,18 @@ namespace DbRules {
 /// nothing about the plugin.
 enum class Account { OfThePlugin, Another };
 
+/// Settings of the server by their names, which are in lower case.
+using ServerSettings = QHash<QString, QString>;
+
 void checkServer(DbCheck &check);
 void checkConnection(DbCheck &check);
 void checkTime(DbCheck &check);
 void checkTables(DbCheck &check, const DbSchema &schema);
 void checkColumns(DbCheck &check, const DbSchema &schema);
 void checkKeys(DbCheck &check, const DbSchema &schema);
+/// The settings that decide about tables without a primary key.
+ServerSettings readKeySettings(DbCheck &check);
+void checkKeylessTables(DbCheck &check, const DbSchema &schema, const ServerSettings &settings);
 void checkRoutines(DbCheck &check, Account account);
 void checkRights(DbCheck &check, const DbSchema &schema);
 /// Only for tables that are all there.

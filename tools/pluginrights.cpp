@@ -27,6 +27,12 @@ bool writesColumn(const QString &table, const QString &column)
     return rights != nullptr && (names(rights->insert) + names(rights->update)).contains(column);
 }
 
+bool writesTo(const QString &table)
+{
+    const TableRights *const rights = find(table);
+    return rights != nullptr && (*rights->insert != '\0' || *rights->update != '\0');
+}
+
 bool insertsInto(const QString &table)
 {
     const TableRights *const rights = find(table);

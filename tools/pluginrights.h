@@ -62,6 +62,9 @@ bool usesColumn(const QString &table, const QString &column);
 /// Whether the plugin writes a column, in new rows or in rows that are there.
 bool writesColumn(const QString &table, const QString &column);
 
+/// Whether the plugin inserts or updates rows of a table.
+bool writesTo(const QString &table);
+
 /// Whether the plugin inserts rows into a table.
 bool insertsInto(const QString &table);
 

@@ -1,7 +1,10 @@
+#include "db/termsyncrepository.h"
+#include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
 #include "tests/tools/toolrun.h"
 #include "tools/dbcheck.h"
 #include "tools/dbrules.h"
+#include "tools/dbschema.h"
 #include "tools/reportwriter.h"
 #include "tools/serverversion.h"
 
@@ -10,6 +13,8 @@
 #include <QtTest>
 
 #include <dlfcn.h>
+
+Q_DECLARE_METATYPE(DbRules::ServerSettings)
 
 namespace {
 
@@ -23,6 +28,14 @@ public:
     void finding(const Finding &finding) override { findings += finding; }
     void fact(const QString &, const QString &, const QVariant &) override { }
     void end(ExitStatus, const QString &) override { }
+
+    QString messages() const
+    {
+        QStringList messages;
+        for (const Finding &finding : findings)
+            messages += finding.message;
+        return messages.join('\n');
+    }
 
     QVector<Finding> findings;
 };
@@ -50,12 +63,19 @@ class TestCheckDbServer : public QObject {
 
 private Q_SLOTS:
     void initTestCase();
+    void cleanup();
 
     void aConnectionThatIsNotUnicodeIsTold_data();
     void aConnectionThatIsNotUnicodeIsTold();
     void aConnectionThatTakesOneStatementAtATimeIsTold();
     void anOrdinaryConnectionIsFine();
     void aConnectionThatIsLostEndsTheCheck();
+
+    void theTemporaryTableIsRefusedWhereThisIsTold_data();
+    void theTemporaryTableIsRefusedWhereThisIsTold();
+    void clustersThatWantPrimaryKeysAreTold_data();
+    void clustersThatWantPrimaryKeysAreTold();
+    void anAccountThatDoesNotSeeAllColumnsOnlyNotesThatAKeyIsWanted();
 
     void aServerThatReservesGroupsIsOfNoUse();
     void versionsAreTakenApart_data();
@@ -68,6 +88,16 @@ private:
 void TestCheckDbServer::initTestCase()
 {
     QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+    m_db.grant("grants-repositories.sql");
+    m_db.run("GRANT SELECT ON term_sync TO yav@localhost");
+}
+
+void TestCheckDbServer::cleanup()
+{
+    for (const char *setting : {"innodb_force_primary_key = 0", "enforce_storage_engine = NULL",
+                                "default_storage_engine = DEFAULT",
+                                "default_tmp_storage_engine = NULL", "sql_mode = DEFAULT"})
+        m_db.run(QString("SET GLOBAL ") + setting);
 }
 
 void TestCheckDbServer::aConnectionThatIsNotUnicodeIsTold_data()
@@ -135,6 +165,136 @@ void TestCheckDbServer::aConnectionThatIsLostEndsTheCheck()
     DbCheck check(db, report);
     DbRules::checkServer(check);
     QVERIFY(!check.unusable().isEmpty());
+}
+
+void TestCheckDbServer::theTemporaryTableIsRefusedWhereThisIsTold_data()
+{
+    QTest::addColumn<QStringList>("settings");
+    QTest::addColumn<QString>("error");
+    const QString key = "This table type requires a primary key";
+    const QString engine = "The MariaDB server is running with the NO_ENGINE_SUBSTITUTION option "
+                           "so it cannot execute this statement";
+    const QString forcedKey = "innodb_force_primary_key = 1";
+    const auto row = [](const char *name, const QStringList &settings, const QString &failure) {
+        QTest::newRow(name) << settings << failure;
+    };
+    row("as it is installed", {}, {});
+    row("a forced key", {forcedKey}, key);
+    row("a forced key, temporary tables of InnoDB",
+        {forcedKey, "default_tmp_storage_engine = InnoDB"}, key);
+    row("a forced key, temporary tables of Aria", {forcedKey, "default_tmp_storage_engine = Aria"},
+        {});
+    row("a forced key, tables of Aria", {forcedKey, "default_storage_engine = Aria"}, {});
+    row("another forced engine", {"enforce_storage_engine = Aria"}, engine);
+    row("the same forced engine", {"enforce_storage_engine = InnoDB"}, {});
+    row("a forced engine of temporary tables",
+        {"enforce_storage_engine = Aria", "default_tmp_storage_engine = Aria"}, {});
+    row("an engine that takes the place of another",
+        {"enforce_storage_engine = Aria", "sql_mode = 'STRICT_TRANS_TABLES'"}, {});
+    row("a forced engine and a forced key",
+        {"enforce_storage_engine = InnoDB", "default_storage_engine = Aria",
+         "sql_mode = 'STRICT_TRANS_TABLES'", forcedKey},
+        key);
+}
+
+void TestCheckDbServer::theTemporaryTableIsRefusedWhereThisIsTold()
+{
+    QFETCH(QStringList, settings);
+    QFETCH(QString, error);
+    for (const QString &setting : settings)
+        m_db.run("SET GLOBAL " + setting);
+    const QSqlDatabase db = m_db.openPluginConnection();
+    FindingList report;
+    DbCheck check(db, report);
+    DbRules::checkKeylessTables(check, DbSchema(), DbRules::readKeySettings(check));
+    QCOMPARE(check.unusable(), QString());
+    QCOMPARE(report.findings.size(), error.isEmpty() ? 0 : 1);
+
+    LogCapture log;
+    TermSyncRepository queue;
+    queue.setDB(db);
+    queue.addTermSyncTimezone(1, 'I', "zones");
+    QCOMPARE(log.lines(),
+             error.isEmpty()
+                 ? QStringList()
+                 : QStringList("C TermSyncRepository::addTermSyncTimezone() - update terminals "
+                               "FAILED! ERROR: "
+                               + error + " QMYSQL: Unable to execute next query"));
+}
+
+void TestCheckDbServer::clustersThatWantPrimaryKeysAreTold_data()
+{
+    QTest::addColumn<DbRules::ServerSettings>("settings");
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("message");
+    const DbRules::ServerSettings cluster = {{"wsrep_on", "ON"}, {"wsrep_certify_nonpk", "ON"}};
+    const auto with = [](DbRules::ServerSettings settings, const char *name, const char *value) {
+        settings.insert(name, value);
+        return settings;
+    };
+    const QString noChange = "DO 1";
+    const QString queue =
+        "The server has wsrep_certify_nonPK = OFF, and this account sees no primary key on these "
+        "tables: %1. Without one, every write of the plugin to them fails with error 1213 "
+        "(deadlock).";
+    QTest::newRow("a cluster") << cluster << noChange << "";
+    QTest::newRow("wanted of tables that are made")
+        << with(cluster, "wsrep_mode", "STRICT_REPLICATION,REQUIRED_PRIMARY_KEY") << noChange
+        << "The server has wsrep_mode = REQUIRED_PRIMARY_KEY: CREATE TEMPORARY TABLE "
+           "tmptbl_updateTermsSyncTZ fails with error 4165. The plugin does without, but where "
+           "the attendance server uses the same classes, a changed time zone does not reach the "
+           "terminals.";
+    QTest::newRow("other modes") << with(cluster, "wsrep_mode", "STRICT_REPLICATION") << noChange
+                                 << "";
+    QTest::newRow("wanted of rows that are written")
+        << with(cluster, "wsrep_certify_nonpk", "OFF") << noChange << queue.arg("term_sync");
+    QTest::newRow("a key that takes NULL") << with(cluster, "wsrep_certify_nonpk", "OFF")
+                                           << "ALTER TABLE vars DROP PRIMARY KEY, MODIFY name "
+                                              "VARCHAR(160) NULL, ADD UNIQUE KEY (name)"
+                                           << queue.arg("term_sync, vars");
+    QTest::newRow("a number of its own for each row")
+        << with(cluster, "wsrep_certify_nonpk", "OFF")
+        << "ALTER TABLE term_sync ADD id INT NOT NULL AUTO_INCREMENT UNIQUE"
+        << "";
+    QTest::newRow("a server that is no cluster")
+        << DbRules::ServerSettings({{"wsrep_on", "OFF"},
+                                    {"wsrep_certify_nonpk", "OFF"},
+                                    {"wsrep_mode", "REQUIRED_PRIMARY_KEY"}})
+        << noChange << "";
+}
+
+void TestCheckDbServer::clustersThatWantPrimaryKeysAreTold()
+{
+    QFETCH(DbRules::ServerSettings, settings);
+    QFETCH(QString, change);
+    QFETCH(QString, message);
+    m_db.run(change);
+    const QSqlDatabase db = m_db.openPluginConnection();
+    DbSchema schema;
+    QVERIFY2(schema.load(db), qPrintable(schema.errorText()));
+    m_db.reset();
+    FindingList report;
+    DbCheck check(db, report);
+    DbRules::checkKeylessTables(check, schema, settings);
+    QCOMPARE(report.messages(), message);
+    QVERIFY(!check.isContractBroken());
+}
+
+void TestCheckDbServer::anAccountThatDoesNotSeeAllColumnsOnlyNotesThatAKeyIsWanted()
+{
+    const QSqlDatabase db = m_db.openPluginConnection();
+    DbSchema schema;
+    QVERIFY2(schema.load(db), qPrintable(schema.errorText()));
+    for (const bool seesAll : {true, false}) {
+        FindingList report;
+        DbCheck check(db, report);
+        if (!seesAll)
+            check.setPartlySeen();
+        DbRules::checkKeylessTables(check, schema,
+                                    {{"wsrep_on", "ON"}, {"wsrep_certify_nonpk", "OFF"}});
+        QCOMPARE(report.findings.size(), 1);
+        QCOMPARE(report.findings.first().severity, seesAll ? Severity::Error : Severity::Note);
+    }
 }
 
 void TestCheckDbServer::aServerThatReservesGroupsIsOfNoUse()

@@ -1,0 +1,130 @@
+// Tables without a primary key: servers can be set to refuse them.
+
+#include "tools/dbcheck.h"
+#include "tools/dbrules.h"
+#include "tools/dbschema.h"
+#include "tools/pluginrights.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr char kSelectSettings[] =
+    "SHOW VARIABLES WHERE Variable_name IN ('default_storage_engine', 'default_tmp_storage_engine',"
+    " 'enforce_storage_engine', 'innodb_force_primary_key', 'sql_mode', 'wsrep_certify_nonPK',"
+    " 'wsrep_mode', 'wsrep_on')";
+
+using DbRules::ServerSettings;
+
+/// A setting that makes a statement fail.
+struct Refusal {
+    QString setting;
+    int error;
+    QString remedy;
+};
+
+bool isOn(const ServerSettings &settings, const char *name)
+{
+    return settings.value(QLatin1String(name)) == QLatin1String("ON");
+}
+
+bool has(const ServerSettings &settings, const char *name, const char *word)
+{
+    const QStringList words = settings.value(QLatin1String(name)).split(QLatin1Char(','));
+    return words.contains(QLatin1String(word));
+}
+
+QString temporaryEngine(const ServerSettings &settings)
+{
+    const QString own = settings.value(QStringLiteral("default_tmp_storage_engine"));
+    return own.isEmpty() ? settings.value(QStringLiteral("default_storage_engine")) : own;
+}
+
+/// What keeps a temporary table without a primary key from being made.
+std::optional<Refusal> refusalOfTemporaryTable(const ServerSettings &settings)
+{
+    const QString chosen = temporaryEngine(settings);
+    const QString enforced = settings.value(QStringLiteral("enforce_storage_engine"));
+    const QString engine = enforced.isEmpty() ? chosen : enforced;
+    if (engine != chosen && has(settings, "sql_mode", "NO_ENGINE_SUBSTITUTION"))
+        return Refusal{QStringLiteral("enforce_storage_engine = %1").arg(enforced), 1290,
+                       QStringLiteral("Set default_tmp_storage_engine to the same engine.")};
+    if (isOn(settings, "innodb_force_primary_key") && engine == QLatin1String("InnoDB"))
+        return Refusal{QStringLiteral("innodb_force_primary_key = ON"), 1173,
+                       QStringLiteral("Turn it off, or set default_tmp_storage_engine to Aria.")};
+    if (isOn(settings, "wsrep_on") && has(settings, "wsrep_mode", "REQUIRED_PRIMARY_KEY"))
+        return Refusal{QStringLiteral("wsrep_mode = REQUIRED_PRIMARY_KEY"), 4165,
+                       QStringLiteral("Take the mode out of wsrep_mode.")};
+    return std::nullopt;
+}
+
+void checkTemporaryTable(DbCheck &check, const ServerSettings &settings)
+{
+    const auto refusal = refusalOfTemporaryTable(settings);
+    if (!refusal)
+        return;
+    check.tell(Severity::Warning, "temporary-table-refused",
+               QStringLiteral("The server has %1: CREATE TEMPORARY TABLE tmptbl_updateTermsSyncTZ "
+                              "fails with error %2. The plugin does without, but where the "
+                              "attendance server uses the same classes, a changed time zone does "
+                              "not reach the terminals")
+                   .arg(refusal->setting, QString::number(refusal->error)),
+               refusal->remedy);
+}
+
+/// Rows are told apart by a primary key, or by a unique one on columns that take no NULL.
+bool tellsRowsApart(const DbSchema &schema, const QString &table)
+{
+    const QVector<DbKey> keys = schema.uniqueKeys(table);
+    return std::any_of(keys.cbegin(), keys.cend(), [&](const DbKey &key) {
+        return std::all_of(key.columns.cbegin(), key.columns.cend(), [&](const QString &name) {
+            const DbColumn *const column = schema.column(table, name);
+            return column != nullptr && !column->nullable;
+        });
+    });
+}
+
+void checkWrites(DbCheck &check, const DbSchema &schema, const ServerSettings &settings)
+{
+    if (!isOn(settings, "wsrep_on") || isOn(settings, "wsrep_certify_nonpk"))
+        return;
+    QStringList tables;
+    for (const PluginRights::TableRights &rights : PluginRights::kTables) {
+        const QString table = QString::fromLatin1(rights.table);
+        if (schema.hasTable(table) && PluginRights::writesTo(table)
+            && !tellsRowsApart(schema, table))
+            tables += table;
+    }
+    if (tables.isEmpty())
+        return;
+    // A key on a column that the account does not see is hidden, too.
+    const Severity severity = check.isPartlySeen() ? Severity::Note : Severity::Error;
+    check.tell(severity, "primary-key-wanted",
+               QStringLiteral("The server has wsrep_certify_nonPK = OFF, and this account sees no "
+                              "primary key on these tables: %1. Without one, every write of the "
+                              "plugin to them fails with error 1213 (deadlock)")
+                   .arg(tables.join(QStringLiteral(", "))),
+               QStringLiteral("Add a column id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY "
+                              "KEY."));
+}
+
+} // namespace
+
+DbRules::ServerSettings DbRules::readKeySettings(DbCheck &check)
+{
+    ServerSettings settings;
+    const QVector<QVariantList> rows = check.rows(QLatin1String(kSelectSettings));
+    for (const QVariantList &row : rows)
+        settings.insert(row.value(0).toString().toLower(), row.value(1).toString());
+    return settings;
+}
+
+void DbRules::checkKeylessTables(DbCheck &check, const DbSchema &schema,
+                                 const ServerSettings &settings)
+{
+    check.begin("keyless-tables", "Tables without a primary key");
+    checkTemporaryTable(check, settings);
+    checkWrites(check, schema, settings);
+    check.end(QStringLiteral("The server takes them where they are used."));
+}
