@@ -59,6 +59,7 @@ bool PreviewRun::run(const QSqlDatabase &copy, const PluginLog::Listener &log,
     RunProgress seen(progress);
     const PluginLog caught([&](QtMsgType type, const QString &text) {
         seen.see(type, text);
+        m_failure.see(text);
         log(type, text);
     });
     m_begin = QDateTime::currentSecsSinceEpoch();

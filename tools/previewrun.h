@@ -2,6 +2,7 @@
 
 #include "plugin/configuration.h"
 #include "tools/pluginlog.h"
+#include "tools/syncfailure.h"
 
 #include <QSqlDatabase>
 #include <QString>
@@ -22,6 +23,8 @@ public:
     /// that the plugin logs at its highest debug level. False when it could not be done.
     bool run(const QSqlDatabase &copy, const PluginLog::Listener &log, const Listener &progress);
     QString errorText() const { return m_error; }
+    /// Why there is nothing to see of the synchronisation, although it was run.
+    std::optional<PreviewRefusal> refusal() const { return m_failure.refusal(); }
 
     /// When it began and when it was over, by the copy's clock: what lies between is "now".
     qint64 begin() const { return m_begin; }
@@ -34,4 +37,5 @@ private:
     qint64 m_begin = 0;
     qint64 m_end = 0;
     QString m_error;
+    SyncFailure m_failure;
 };

@@ -39,6 +39,13 @@ PreviewRefusal refusal(const QString &sentence)
     return {ExitStatus::NoDatabase, sentence};
 }
 
+/// The copy's server is our own: what keeps the force flag from being set is the site's table.
+PreviewRefusal cannotForce(const QString &error)
+{
+    return {ExitStatus::ContractBroken,
+            QStringLiteral("The copy cannot be synchronised: %1. check-db tells more").arg(error)};
+}
+
 } // namespace
 
 PreviewWork::PreviewWork(Console &console, PreviewServer &server)
@@ -112,8 +119,10 @@ std::optional<PreviewRefusal> PreviewWork::synchronise(const Configuration &conf
                 m_server.attendance(),
                 [&](QtMsgType type, const QString &text) { take(type, text, log); },
                 [&](qint64 done, qint64 total) { progress.update(done, total); }))
-            return refusal(QStringLiteral("The copy cannot be synchronised: ") + run.errorText());
+            return cannotForce(run.errorText());
     }
+    if (auto refused = run.refusal())
+        return refused;
     m_moments = std::make_unique<PreviewMoments>(run.begin(), run.end());
     m_names = std::make_unique<PreviewNames>(m_server.attendance());
     return compare();

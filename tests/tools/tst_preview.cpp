@@ -61,6 +61,7 @@ private Q_SLOTS:
     void whatTheConfigurationHoldsBackIsTold();
     void theCopyIsGoneAfterASignal_data();
     void theCopyIsGoneAfterASignal();
+    void aSynchronisationThatDoesNotTakePlaceIsNoResult();
     void aServerProgramThatIsNotInstalledIsNamed();
     void whatCannotBeUsedIsRefusedAtOnce_data();
     void whatCannotBeUsedIsRefusedAtOnce();
@@ -227,6 +228,18 @@ void TestPreview::theCopyIsGoneAfterASignal()
     m_bench.site().run("UNLOCK TABLES");
     COMPARE_STATUS(preview, 128 + signal);
     descendants.waitForEnd();
+}
+
+void TestPreview::aSynchronisationThatDoesNotTakePlaceIsNoResult()
+{
+    m_bench.site().run("ALTER TABLE people DROP COLUMN title2");
+    const ToolRun tool = runTool(arguments({"--sql", path("nothing.sql")}));
+    COMPARE_EXIT(tool, ExitStatus::ContractBroken);
+    QCOMPARE(tool.out, QString());
+    QVERIFY2(tool.err.startsWith("mirovahrctl: preview: The plugin cannot load the people of this "
+                                 "database and would synchronise nobody. It logs "),
+             tool.report().constData());
+    QVERIFY(!QFileInfo::exists(path("nothing.sql")));
 }
 
 void TestPreview::aServerProgramThatIsNotInstalledIsNamed()

@@ -1,5 +1,6 @@
 #include "tests/sync/sampleexport.h"
 #include "tests/tools/previewbench.h"
+#include "tools/previewrun.h"
 
 #include <QtTest>
 
@@ -22,6 +23,10 @@ private Q_SLOTS:
     void aForeignKeyToAHiddenTable();
     void aForeignKeyToAnotherDatabase();
     void anotherTimeZone();
+    void peopleWhoCannotBeLoaded();
+    void branchesThatCannotBeLoaded();
+    void aForceFlagThatCannotBeSet();
+    void aCopyThatThePluginCannotOpen();
 
     void hiddenTriggersAreTold();
     void triggersThatTheAccountSeesAreCopied();
@@ -33,6 +38,8 @@ private Q_SLOTS:
 
 private:
     PreviewRefusal refusal(const QString &account = QStringLiteral("mirovahrctl"));
+    /// Of a synchronisation of the site's database itself.
+    PreviewRefusal refusalOfRun();
     PreviewResult accepted(const QString &account = QStringLiteral("mirovahrctl"));
 
     PreviewBench m_bench;
@@ -64,6 +71,16 @@ PreviewRefusal TestPreviewRefusals::refusal(const QString &account)
 {
     const PreviewResult result = m_bench.preview(m_bench.options(account));
     return result.refusal.value_or(PreviewRefusal{ExitStatus::Fine, "not refused"});
+}
+
+PreviewRefusal TestPreviewRefusals::refusalOfRun()
+{
+    PreviewRun run(Configuration(), m_bench.exportFile().path());
+    const bool done = run.run(
+        m_bench.site().openPluginConnection(), [](QtMsgType, const QString &) {},
+        [](qint64, qint64) {});
+    return done ? run.refusal().value_or(PreviewRefusal{ExitStatus::Fine, "not refused"})
+                : PreviewRefusal{ExitStatus::Fine, run.errorText()};
 }
 
 PreviewResult TestPreviewRefusals::accepted(const QString &account)
@@ -176,6 +193,54 @@ void TestPreviewRefusals::anotherTimeZone()
     QCOMPARE(refusal().sentence,
              QString("The site's server (time zone -11:30) and this program disagree about when "
                      "days begin. Run it with the TZ of the attendance server"));
+}
+
+void TestPreviewRefusals::peopleWhoCannotBeLoaded()
+{
+    m_bench.site().run("ALTER TABLE people DROP COLUMN title2");
+    QCOMPARE(refusal().status, ExitStatus::ContractBroken);
+    QCOMPARE(refusal().sentence,
+             QString("The plugin cannot load the people of this database and would synchronise "
+                     "nobody. It logs \"MHRWorker::dbLoadPeople() - SQL ERROR [1054]: Unknown "
+                     "column 'p.title2' in 'SELECT' QMYSQL: Unable to execute query\". check-db "
+                     "tells more"));
+}
+
+void TestPreviewRefusals::branchesThatCannotBeLoaded()
+{
+    m_bench.site().hideTable("branches");
+    m_bench.site().run("CREATE FUNCTION refuseValue() RETURNS INT BEGIN SIGNAL SQLSTATE '45000' SET"
+                       " MESSAGE_TEXT = 'refused by the test'; RETURN 0; END");
+    // Nobody belongs to branch 4, so that the query of the people does not come across its number.
+    m_bench.site().run("CREATE VIEW branches AS SELECT bid, IF(bid = 4, refuseValue(), number)"
+                       " number, mgid FROM branches_hidden");
+    const PreviewRefusal refused = refusalOfRun();
+    QCOMPARE(refused.status, ExitStatus::ContractBroken);
+    QCOMPARE(refused.sentence,
+             QString("The plugin cannot load the branches of this database and would leave "
+                     "everybody whom it writes without one. It logs \"MHRWorker::dbLoadBranches() "
+                     "- SQL ERROR [1644]: refused by the test QMYSQL: Unable to store result\". "
+                     "check-db tells more"));
+}
+
+void TestPreviewRefusals::aForceFlagThatCannotBeSet()
+{
+    m_bench.site().run("ALTER TABLE vars RENAME COLUMN value TO content");
+    QCOMPARE(refusal().status, ExitStatus::ContractBroken);
+    QVERIFY2(refusal().sentence.startsWith("The copy cannot be synchronised: variableSet ERROR: "
+                                           "\"Unknown column 'value' in 'INSERT INTO'"),
+             qPrintable(refusal().sentence));
+}
+
+void TestPreviewRefusals::aCopyThatThePluginCannotOpen()
+{
+    m_bench.site().run("GRANT USAGE ON *.* TO yav@localhost WITH MAX_USER_CONNECTIONS 1");
+    const PreviewRefusal refused = refusalOfRun();
+    m_bench.site().run("GRANT USAGE ON *.* TO yav@localhost WITH MAX_USER_CONNECTIONS 0");
+    QCOMPARE(refused.status, ExitStatus::NoDatabase);
+    QVERIFY2(refused.sentence.startsWith("The plugin cannot open the copy. It logs "
+                                         "\"MHRWorker::dbCheckOpen() - SQL ERROR: User 'yav'"),
+             qPrintable(refused.sentence));
 }
 
 void TestPreviewRefusals::hiddenTriggersAreTold()

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "tools/previewrefusal.h"
+
+#include <QString>
+
+#include <optional>
+
+/// Finds in the plugin's log why a synchronisation did not take place.
+class SyncFailure {
+public:
+    /// Takes one text of the log.
+    void see(const QString &text);
+
+    /// Why there is nothing to preview; nothing when the synchronisation took place.
+    std::optional<PreviewRefusal> refusal() const { return m_refusal; }
+
+private:
+    std::optional<PreviewRefusal> m_refusal;
+};
