@@ -21,6 +21,12 @@ class TermSyncRepository;
 /// nothing is undone. The repository must be created and used in the thread that owns its
 /// connection. Affected rows must mean changed rows, so the connection must not be opened with
 /// CLIENT_FOUND_ROWS.
+///
+/// setDB() must come before every operation. Lists of ids and the texts of a branch go into the
+/// statements as they are: the caller vouches that a list holds decimal ids and commas only, and
+/// that no text holds a quote. No operation checks that its branch exists, and those for a single
+/// terminal or administrator do not check that either: an unknown id leaves rows that belong to
+/// nothing.
 class BranchesRepository : public QObject {
     Q_OBJECT
 
@@ -75,7 +81,8 @@ public:
     /// of the sections alone.
     bool delSectionsFromBranch(ushort bid, const QString &secids);
 
-    /// Stores the triple; one that is stored already stays. False when the statement fails.
+    /// Stores the triple, whether or not its parts exist; one that is stored already stays. False
+    /// when the statement fails.
     bool addBAS(const BASData &triple);
 
     /// Deletes the triple, if it is there. False when the statement fails.
@@ -102,16 +109,16 @@ public:
     QSet<unsigned int> getAids4Uid(unsigned int uid) const;
 
     /// Registers the people `uids` (decimal texts; what is not a positive number is skipped) in
-    /// terminal `tid` and queues them for it. True also when nobody is left to register; false
-    /// when the statement fails.
+    /// terminal `tid` and queues them for it. Also registers people who do not exist. True also
+    /// when nobody is left to register; false when the statement fails.
     bool addPeopleToTerm(unsigned int tid, const QStringList &uids);
 
     /// Removes the people `uids` from terminal `tid` and queues that for it. False when the
     /// statement fails, as it does for an empty list.
     bool deletePeopleFromTerm(unsigned int tid, const QStringList &uids);
 
-    /// Lets administrator `aid` handle the people `uids`, read as by addPeopleToTerm(). True also
-    /// when nobody is left; false when the statement fails.
+    /// Lets administrator `aid` handle the people `uids`, read as by addPeopleToTerm() and likewise
+    /// also those who do not exist. True also when nobody is left; false when the statement fails.
     bool addPeopleToAdmin(ushort aid, const QStringList &uids);
 
     /// Takes the people `uids` away from administrator `aid`. False when the statement fails, as it

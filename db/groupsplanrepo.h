@@ -12,6 +12,9 @@ class QDate;
 /// `groups_plan` says from which month on a person belongs to a group, `groups_month` which group
 /// was in force in each month in which the person has attendance. The repository writes the first
 /// and keeps the second in step with it. It must be used in the thread that owns its connection.
+///
+/// setDB() must come before every operation on the database. Neither the person nor the group of a
+/// plan has to exist: an unknown id leaves a plan of nobody.
 class GroupsPlanRepo : public QObject {
     Q_OBJECT
 

@@ -10,7 +10,9 @@
 ///
 /// A small value around a connection handle. It must be used in the thread that owns the
 /// connection. Names that are written into a statement go there as they are, between single
-/// quotes; a name with a quote in it therefore only works with the two set operations.
+/// quotes: the caller vouches for them. A name with a quote in it only works with the two set
+/// operations. Whether case and accents of a name count is for the collation of `vars.name` to say;
+/// in reference-db/schema.sql they do.
 class TepDbSettings {
 public:
     /// Without a connection; setDB() must follow before anything else.

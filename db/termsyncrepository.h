@@ -10,9 +10,14 @@
 /// `term.syn`, which says which terminals the terminal server visits. The terminals are marked only
 /// when the queueing statement succeeded. `type` says what happened to the row that `ref` (the
 /// table) and the id name: 'I' inserted, 'U' updated, 'D' deleted. Failures are logged and not
-/// returned, except by setTermSyn(). Id lists hold decimal texts; an empty one makes the statement
-/// fail. The connection must allow several statements in one text, and the repository must be used
-/// in the thread that owns it.
+/// returned, except by setTermSyn(). The connection must allow several statements in one text, and
+/// the repository must be used in the thread that owns it.
+///
+/// setDB() must come before every operation. `type`, `ref` and the lists of ids go into the
+/// statements as they are: the caller vouches that a list holds decimal texts, and that `ref` holds
+/// no quote. An empty list makes the statement fail. Operations that name a terminal queue whether
+/// or not the terminal, or the single person, interval type or time zone, exists: an unknown id
+/// leaves a row that nobody fetches, or that speaks of nothing.
 class TermSyncRepository : public QObject {
     Q_OBJECT
 
