@@ -1,11 +1,8 @@
-#include "privatedb/privatemariadb.h"
+#include "tests/reference-db/privateservertest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -21,44 +18,6 @@
 namespace {
 
 constexpr int kPatienceMs = 60000;
-
-/// What the first column of the first row of a query is, or the database's error.
-QString answer(const PrivateMariaDb &server, const QString &sql,
-               PrivateMariaDb::Account account = PrivateMariaDb::Account::Host)
-{
-    QString result;
-    {
-        QSqlDatabase database = server.addConnection("answer", account);
-        if (!database.open()) {
-            result = database.lastError().text();
-        } else {
-            QSqlQuery query(database);
-            const bool done = query.exec(sql);
-            result = done && query.next() ? query.value(0).toString() : query.lastError().text();
-        }
-    }
-    QSqlDatabase::removeDatabase("answer");
-    return result;
-}
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("%s could not be written", qPrintable(path));
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList entries(const QString &folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System
-                                  | QDir::NoDotAndDotDot);
-}
 
 /// A bare connection to a server's socket, to see the server go.
 class Peer {
@@ -95,24 +54,6 @@ public:
 private:
     const int m_socket;
     bool m_connected;
-};
-
-/// Sets an environment variable for the rest of the block.
-class ScopedVariable {
-public:
-    ScopedVariable(const char *name, const QByteArray &value)
-        : m_name(name)
-        , m_before(qgetenv(name))
-    {
-        qputenv(name, value);
-    }
-    ~ScopedVariable() { qputenv(m_name, m_before); }
-    ScopedVariable(const ScopedVariable &) = delete;
-    ScopedVariable &operator=(const ScopedVariable &) = delete;
-
-private:
-    const char *m_name;
-    const QByteArray m_before;
 };
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "tests/host/descendants.h"
 #include "tests/host/programrun.h"
 #include "tests/sync/sampleexport.h"
 #include "tests/tools/browser.h"
@@ -8,7 +9,6 @@
 #include <QtTest>
 
 #include <csignal>
-#include <unistd.h>
 
 namespace {
 
@@ -21,27 +21,6 @@ QByteArray content(const QString &path)
         qFatal("%s cannot be read", qPrintable(path));
     return file.readAll();
 }
-
-/// Tells when every process that was started since is gone.
-class Descendants {
-public:
-    Descendants()
-    {
-        if (::pipe(m_pipe) != 0)
-            qFatal("No pipe");
-    }
-    ~Descendants() { ::close(m_pipe[0]); }
-
-    void waitForEnd()
-    {
-        ::close(m_pipe[1]);
-        char byte = 0;
-        while (::read(m_pipe[0], &byte, 1) > 0) { }
-    }
-
-private:
-    int m_pipe[2];
-};
 
 } // namespace
 
