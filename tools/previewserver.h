@@ -1,7 +1,7 @@
 #pragma once
 
 #include "privatedb/privatemariadb.h"
-#include "tools/previewfolder.h"
+#include "privatedb/guardedfolder.h"
 
 #include <QSqlDatabase>
 #include <QString>

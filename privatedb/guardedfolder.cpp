@@ -1,4 +1,4 @@
-#include "tools/previewfolder.h"
+#include "privatedb/guardedfolder.h"
 
 #include <QDir>
 #include <QFile>
