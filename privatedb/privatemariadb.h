@@ -1,13 +1,15 @@
 #pragma once
 
+#include "privatedb/hostaccount.h"
+#include "privatedb/serverfolder.h"
+
+#include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
 
 #include <memory>
 
 class BoundProcess;
-class QSqlDatabase;
-class QTemporaryDir;
 
 /// A MariaDB server of one's own in a temporary folder, for tests, the demo and tools.
 ///
@@ -26,10 +28,7 @@ public:
         Host ///< userName(), with password(): rights on the database only, see HostRights
     };
 
-    enum class HostRights {
-        All, ///< every right on the database
-        None ///< only what the administrator grants
-    };
+    using HostRights = HostAccount::Rights;
 
     PrivateMariaDb();
     ~PrivateMariaDb(); ///< Stops the server and removes its folder.
@@ -44,8 +43,9 @@ public:
     void setDatabaseName(const QString &name) { m_databaseName = name; }
     /// What the first start() grants to Account::Host; everything by default.
     void setHostRights(HostRights rights) { m_hostRights = rights; }
-    /// Leaves the folder behind at the end, for a look at the data and the error log.
-    void setKeepFiles(bool keep);
+    /// Leaves the folder behind at the end, for a look at the data and the error log. Before the
+    /// first start().
+    void setKeepFiles(bool keep) { m_keepFiles = keep; }
 
     /// Starts the server; true once it answers queries. The first call makes the data folder, the
     /// database and the accounts; after stop() or kill() it goes on with the same data and socket.
@@ -67,12 +67,12 @@ public:
     QString errorString() const { return m_error; }
 
     /// The server's folder; empty before the first start().
-    QString folder() const { return m_folder; }
-    QString dataDir() const;
-    QString socketPath() const;
-    QString errorLogPath() const;
+    QString folder() const { return m_folder.path(); }
+    QString dataDir() const { return m_folder.dataDir(); }
+    QString socketPath() const { return m_folder.socketPath(); }
+    QString errorLogPath() const { return m_folder.errorLogPath(); }
     /// File that holds password() and nothing else, readable by its owner only.
-    QString passwordFile() const;
+    QString passwordFile() const { return m_folder.passwordFile(); }
     QString databaseName() const { return m_databaseName; }
     QString userName() const;
     QString password() const;
@@ -86,10 +86,9 @@ private:
     bool fail(const QString &error);
     bool findPrograms();
     bool makeFolder();
-    bool makeDataDir();
     bool launch();
     bool waitUntilReady();
-    bool makeAccounts();
+    bool makeAccount();
     QString errorLogTail() const;
 
     QString m_baseDir;
@@ -97,9 +96,8 @@ private:
     QString m_databaseName;
     HostRights m_hostRights = HostRights::All;
     bool m_keepFiles = false;
-    bool m_prepared = false; ///< Data folder, database and accounts are there.
-    std::unique_ptr<QTemporaryDir> m_temporaryDir;
-    QString m_folder;
+    bool m_prepared = false; ///< Data folder, database and account are there.
+    ServerFolder m_folder;
     QString m_error;
     std::unique_ptr<BoundProcess> m_server;
 };

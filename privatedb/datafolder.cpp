@@ -1,0 +1,35 @@
+#include "privatedb/datafolder.h"
+
+#include "privatedb/boundprocess.h"
+#include "privatedb/lastlines.h"
+#include "privatedb/programs.h"
+#include "privatedb/serverfolder.h"
+#include "privatedb/serveroptions.h"
+
+#include <csignal>
+
+namespace {
+
+constexpr int kInstallTimeoutMs = 120000;
+
+} // namespace
+
+bool makeDataFolder(const ServerFolder &folder, QString &error)
+{
+    BoundProcess install(SIGKILL, BoundProcess::Group::OfItsOwn);
+    install.setProcessChannelMode(QProcess::MergedChannels);
+    install.start(MariaDbPrograms::find(MariaDbPrograms::Program::InstallDb),
+                  QStringList{QStringLiteral("--no-defaults"),
+                              QStringLiteral("--auth-root-authentication-method=normal"),
+                              QStringLiteral("--skip-test-db"),
+                              // Also where the machine cannot look its own name up.
+                              QStringLiteral("--force"),
+                              QStringLiteral("--datadir=%1").arg(folder.dataDir())}
+                      + ServerOptions::forInstallation());
+    if (install.waitForFinished(kInstallTimeoutMs) && install.exitStatus() == QProcess::NormalExit
+        && install.exitCode() == 0)
+        return true;
+    error = QStringLiteral("The data folder of the private MariaDB server could not be made.\n%1")
+                .arg(lastLines(QString::fromUtf8(install.readAll())));
+    return false;
+}

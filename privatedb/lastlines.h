@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// The end of what a program of MariaDB's has printed, for the reason of a failure.
+inline QString lastLines(const QString &text)
+{
+    constexpr int count = 20;
+    const QStringList lines = text.trimmed().split(QLatin1Char('\n'));
+    return lines.mid(qMax(0, lines.size() - count)).join(QLatin1Char('\n'));
+}

@@ -1,0 +1,49 @@
+#include "privatedb/serveroptions.h"
+
+#include "privatedb/serverfolder.h"
+
+#include <unistd.h>
+
+namespace {
+
+/// What keeps a throw-away server small and quick: it need not survive the machine, so it never
+/// waits for the disk. None of it changes how SQL behaves, or what a killed server finds again.
+QStringList storage()
+{
+    return {QStringLiteral("--debug-no-sync"),
+            QStringLiteral("--innodb-log-file-size=8M"),
+            QStringLiteral("--innodb-buffer-pool-size=16M"),
+            QStringLiteral("--innodb-flush-log-at-trx-commit=0"),
+            QStringLiteral("--innodb-flush-method=nosync"),
+            QStringLiteral("--innodb-doublewrite=0"),
+            QStringLiteral("--innodb-file-per-table=0"),
+            QStringLiteral("--innodb-use-native-aio=0"),
+            QStringLiteral("--aria-pagecache-buffer-size=8M"),
+            QStringLiteral("--key-buffer-size=1M")};
+}
+
+/// mariadbd refuses to run as root unless it is told to.
+QStringList account()
+{
+    return ::geteuid() == 0 ? QStringList{QStringLiteral("--user=root")} : QStringList();
+}
+
+} // namespace
+
+QStringList ServerOptions::forInstallation()
+{
+    return account() + storage();
+}
+
+QStringList ServerOptions::forService(const ServerFolder &folder)
+{
+    return QStringList{QStringLiteral("--no-defaults"), // must come first
+                       QStringLiteral("--datadir=%1").arg(folder.dataDir()),
+                       QStringLiteral("--socket=%1").arg(folder.socketPath()),
+                       QStringLiteral("--pid-file=%1").arg(folder.pidFile()),
+                       QStringLiteral("--log-error=%1").arg(folder.errorLogPath()),
+                       QStringLiteral("--skip-networking"),
+                       QStringLiteral("--character-set-server=utf8mb4"),
+                       QStringLiteral("--collation-server=utf8mb4_general_ci")}
+    + account() + storage();
+}
