@@ -1,7 +1,7 @@
 #include "privatedb/datafolder.h"
 
-#include "privatedb/boundprocess.h"
 #include "privatedb/lastlines.h"
+#include "privatedb/mariadbprocess.h"
 #include "privatedb/programs.h"
 #include "privatedb/serverfolder.h"
 #include "privatedb/serveroptions.h"
@@ -16,7 +16,7 @@ constexpr int kInstallTimeoutMs = 120000;
 
 bool makeDataFolder(const ServerFolder &folder, QString &error)
 {
-    BoundProcess install(SIGKILL, BoundProcess::Group::OfItsOwn);
+    MariaDbProcess install(folder, BoundProcess::Group::OfItsOwn);
     install.setProcessChannelMode(QProcess::MergedChannels);
     install.start(MariaDbPrograms::find(MariaDbPrograms::Program::InstallDb),
                   QStringList{QStringLiteral("--no-defaults"),
@@ -29,6 +29,8 @@ bool makeDataFolder(const ServerFolder &folder, QString &error)
     if (install.waitForFinished(kInstallTimeoutMs) && install.exitStatus() == QProcess::NormalExit
         && install.exitCode() == 0)
         return true;
+    if (install.state() != QProcess::NotRunning)
+        ::kill(-static_cast<pid_t>(install.processId()), SIGKILL); // with the server in it
     error = QStringLiteral("The data folder of the private MariaDB server could not be made.\n%1")
                 .arg(lastLines(QString::fromUtf8(install.readAll())));
     return false;

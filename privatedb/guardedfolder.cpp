@@ -1,6 +1,5 @@
 #include "privatedb/guardedfolder.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <cerrno>
@@ -15,6 +14,7 @@ namespace {
 constexpr char kShell[] = "/bin/sh";
 // Whatever ends the program in a terminal must not end the guard.
 constexpr char kGuard[] = "trap '' HUP INT QUIT TERM; cat; exec rm -rf -- \"$1\"";
+constexpr char kGuardPath[] = "PATH=/usr/bin:/bin";
 
 /// What the guard's process gets: its end of the pipe as standard input, and nothing else of this
 /// program's.
@@ -43,30 +43,31 @@ public:
 
 } // namespace
 
-PreviewFolder::PreviewFolder()
-    : m_dir(QDir::tempPath() + QStringLiteral("/mhrpreview-XXXXXX"))
+GuardedFolder::GuardedFolder(const QString &name, AtTheEnd atTheEnd)
+    : m_dir(name)
 {
-    if (m_dir.isValid())
-        startGuard();
-    else
+    m_dir.setAutoRemove(atTheEnd == AtTheEnd::Removed);
+    if (!m_dir.isValid())
         m_error = m_dir.errorString();
+    else if (m_dir.autoRemove())
+        startGuard();
 }
 
-PreviewFolder::~PreviewFolder()
+GuardedFolder::~GuardedFolder()
 {
-    m_dir.remove();
     if (m_guard <= 0)
         return;
+    m_dir.remove();
     ::close(m_pipe);
     while (::waitpid(m_guard, nullptr, 0) < 0 && errno == EINTR) { }
 }
 
-void PreviewFolder::setChildrenBelong(bool on)
+void GuardedFolder::belongToThisProcess() const
 {
-    ::fcntl(m_pipe, F_SETFD, on ? 0 : FD_CLOEXEC);
+    ::fcntl(m_pipe, F_SETFD, 0);
 }
 
-void PreviewFolder::startGuard()
+void GuardedFolder::startGuard()
 {
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0) {
@@ -78,10 +79,12 @@ void PreviewFolder::startGuard()
     QByteArray folder = QFile::encodeName(m_dir.path());
     QByteArray shell(kShell);
     QByteArray option("-c");
+    QByteArray path(kGuardPath);
     char *arguments[] = {shell.data(), option.data(), script.data(),
                          shell.data(), folder.data(), nullptr};
+    char *environment[] = {path.data(), nullptr};
     const int error =
-        ::posix_spawn(&m_guard, kShell, &setup.actions, &setup.attributes, arguments, environ);
+        ::posix_spawn(&m_guard, kShell, &setup.actions, &setup.attributes, arguments, environment);
     ::close(ends[0]);
     if (error == 0) {
         m_pipe = ends[1];

@@ -5,26 +5,29 @@
 
 #include <sys/types.h>
 
-/// A private folder that is gone for certain when this program is, also when it was killed.
+/// A folder for this user alone that is gone for certain when this program is, also when it was
+/// killed, unless it is to be kept.
 ///
 /// A small process of its own waits until this program is gone, and every child that works in the
 /// folder, and then removes it. It notices that by a pipe which they all hold open.
-class PreviewFolder {
+class GuardedFolder {
 public:
-    /// In the system's temporary folder.
-    PreviewFolder();
-    ~PreviewFolder();
-    PreviewFolder(const PreviewFolder &) = delete;
-    PreviewFolder &operator=(const PreviewFolder &) = delete;
+    enum class AtTheEnd { Removed, Kept };
 
-    bool isValid() const { return m_guard > 0; }
+    /// Makes the folder. \a name ends in XXXXXX, which is replaced.
+    GuardedFolder(const QString &name, AtTheEnd atTheEnd);
+    /// Waits until every child that works in the folder is gone.
+    ~GuardedFolder();
+    GuardedFolder(const GuardedFolder &) = delete;
+    GuardedFolder &operator=(const GuardedFolder &) = delete;
+
+    bool isValid() const { return m_error.isEmpty(); }
     /// Why there is no such folder.
     QString errorString() const { return m_error; }
     QString path() const { return m_dir.path(); }
 
-    /// Whether children that are started now belong to those who work in the folder. They must be
-    /// gone before this object is.
-    void setChildrenBelong(bool on);
+    /// To be called in a child between fork and exec: the child works in the folder.
+    void belongToThisProcess() const;
 
 private:
     void startGuard();

@@ -1,8 +1,8 @@
 #include "privatedb/privatemariadb.h"
 
-#include "privatedb/boundprocess.h"
 #include "privatedb/datafolder.h"
 #include "privatedb/lastlines.h"
+#include "privatedb/mariadbprocess.h"
 #include "privatedb/programs.h"
 #include "privatedb/serveroptions.h"
 
@@ -12,8 +12,6 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
-
-#include <csignal>
 
 namespace {
 
@@ -101,7 +99,7 @@ bool PrivateMariaDb::load(const QStringList &sqlFiles)
     if (program.isEmpty())
         return fail(MariaDbPrograms::missing(Program::Client));
     for (const QString &file : sqlFiles) {
-        BoundProcess client(SIGKILL, BoundProcess::Group::WithParent);
+        MariaDbProcess client(m_folder, BoundProcess::Group::WithParent);
         client.setStandardInputFile(file);
         client.start(program,
                      {QStringLiteral("--no-defaults"),
@@ -176,12 +174,14 @@ bool PrivateMariaDb::findPrograms()
 
 bool PrivateMariaDb::makeFolder()
 {
-    return m_folder.make(m_baseDir, m_keepFiles, m_error) && makeDataFolder(m_folder, m_error);
+    const auto atTheEnd =
+        m_keepFiles ? ServerFolder::AtTheEnd::Kept : ServerFolder::AtTheEnd::Removed;
+    return m_folder.make(m_baseDir, atTheEnd, m_error) && makeDataFolder(m_folder, m_error);
 }
 
 bool PrivateMariaDb::launch()
 {
-    m_server = std::make_unique<BoundProcess>(SIGKILL, BoundProcess::Group::OfItsOwn);
+    m_server = std::make_unique<MariaDbProcess>(m_folder, BoundProcess::Group::OfItsOwn);
     m_server->setProcessChannelMode(QProcess::MergedChannels);
     m_server->setStandardOutputFile(errorLogPath(), QIODevice::Append);
     m_server->start(MariaDbPrograms::find(Program::Server),

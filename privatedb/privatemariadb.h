@@ -9,15 +9,15 @@
 
 #include <memory>
 
-class BoundProcess;
+class MariaDbProcess;
 
 /// A MariaDB server of one's own in a temporary folder, for tests, the demo and tools.
 ///
 /// It reads no configuration file of the machine, listens on a socket only, dies with the program
-/// that started it (see BoundProcess for the thread) and takes its folder along; only a program
-/// that is killed leaves the folder behind. Its local time zone is that of the program's
-/// environment (`TZ`). It holds one database and two accounts: `root` without a password, and the
-/// account that an attendance server would use, with one.
+/// that started it (see BoundProcess for the thread) and takes its folder along, also when the
+/// program is killed. Its local time zone is that of the program's environment (`TZ`). It holds one
+/// database and two accounts: `root` without a password, and the account that an attendance server
+/// would use, with one.
 ///
 /// Needs a QCoreApplication, for Qt's database drivers. Operations that return bool leave the
 /// reason of a failure in errorString().
@@ -99,5 +99,5 @@ private:
     bool m_prepared = false; ///< Data folder, database and account are there.
     ServerFolder m_folder;
     QString m_error;
-    std::unique_ptr<BoundProcess> m_server;
+    std::unique_ptr<MariaDbProcess> m_server;
 };

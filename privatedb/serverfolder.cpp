@@ -1,37 +1,41 @@
 #include "privatedb/serverfolder.h"
 
 #include <QFile>
-#include <QTemporaryDir>
+#include <QFileInfo>
 
 #include <sys/un.h>
 
-ServerFolder::ServerFolder() = default;
+namespace {
 
-ServerFolder::~ServerFolder() = default;
+constexpr int kLongestSocketPath = int(sizeof(sockaddr_un::sun_path)) - 1;
 
-bool ServerFolder::make(const QString &baseDir, bool keep, QString &error)
+/// Why a server cannot have its folder under this path; empty when it can.
+QString objectionTo(const QString &path)
 {
-    m_folder = std::make_unique<QTemporaryDir>(baseDir + QStringLiteral("/mhrdb-XXXXXX"));
-    if (!m_folder->isValid()) {
-        error = QStringLiteral("No folder for the private MariaDB server could be made in %1: %2")
-                    .arg(baseDir)
-                    .arg(m_folder->errorString());
-        return false;
+    const QString socket = path + QStringLiteral("/s");
+    if (QFile::encodeName(socket).size() > kLongestSocketPath) {
+        return QStringLiteral("The socket path %1 is longer than %2 bytes: "
+                              "set TMPDIR to a folder with a shorter name.")
+            .arg(socket)
+            .arg(kLongestSocketPath);
     }
-    constexpr int longest = int(sizeof(sockaddr_un::sun_path)) - 1;
-    if (QFile::encodeName(socketPath()).size() > longest) {
-        error = QStringLiteral("The socket path %1 is longer than %2 bytes: "
-                               "set TMPDIR to a folder with a shorter name.")
-                    .arg(socketPath())
-                    .arg(longest);
-        m_folder.reset();
-        return false;
-    }
-    m_folder->setAutoRemove(!keep);
-    return true;
+    return QString();
 }
 
-QString ServerFolder::path() const
+} // namespace
+
+bool ServerFolder::make(const QString &baseDir, AtTheEnd atTheEnd, QString &error)
 {
-    return m_folder ? m_folder->path() : QString();
+    const QString base = QFileInfo(baseDir).absoluteFilePath();
+    const QString name = base + QStringLiteral("/mhrdb-XXXXXX");
+    error = objectionTo(name);
+    if (!error.isEmpty())
+        return false;
+    m_folder = std::make_unique<GuardedFolder>(name, atTheEnd);
+    if (m_folder->isValid())
+        return true;
+    error = QStringLiteral("No folder for the private MariaDB server could be made in %1: %2")
+                .arg(base)
+                .arg(m_folder->errorString());
+    return false;
 }

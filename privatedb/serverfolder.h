@@ -1,30 +1,29 @@
 #pragma once
 
+#include "privatedb/guardedfolder.h"
+
 #include <QString>
 
 #include <memory>
 
-class QTemporaryDir;
-
-/// The folder of one private server, and where in it everything lies. It is gone with this object
-/// unless it is kept.
+/// The folder of one private server, and where in it everything lies.
 class ServerFolder {
 public:
-    ServerFolder();
-    ~ServerFolder();
-    ServerFolder(const ServerFolder &) = delete;
-    ServerFolder &operator=(const ServerFolder &) = delete;
+    using AtTheEnd = GuardedFolder::AtTheEnd;
 
     /// Makes the folder in \a baseDir. False when that fails, with the reason in \a error.
-    bool make(const QString &baseDir, bool keep, QString &error);
+    bool make(const QString &baseDir, AtTheEnd atTheEnd, QString &error);
 
-    QString path() const; ///< Empty until it is made.
+    QString path() const { return m_folder ? m_folder->path() : QString(); }
     QString dataDir() const { return path() + QStringLiteral("/data"); }
     QString socketPath() const { return path() + QStringLiteral("/s"); }
     QString pidFile() const { return path() + QStringLiteral("/server.pid"); }
     QString errorLogPath() const { return path() + QStringLiteral("/error.log"); }
     QString passwordFile() const { return path() + QStringLiteral("/password"); }
 
+    /// As GuardedFolder's.
+    void belongToThisProcess() const { m_folder->belongToThisProcess(); }
+
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<GuardedFolder> m_folder;
 };

@@ -36,19 +36,11 @@ bool PreviewServer::start(const PreviewSchema &schema)
         attendance().close();
         return true;
     }
-    if (!m_folder.isValid()) {
-        return fail(
-            QStringLiteral("No folder for the copy could be made: %1").arg(m_folder.errorString()));
-    }
-    m_server.setBaseDir(m_folder.path());
     m_server.setDatabaseName(schema.name);
     m_server.setServerOptions(
         QStringList{timeZoneOption(schema.timeZone), QLatin1String(kLargestPacket)}
         + schema.serverOptions);
-    m_folder.setChildrenBelong(true);
-    const bool started = m_server.start();
-    m_folder.setChildrenBelong(false);
-    return started ? connectToServer() : fail(m_server.errorString());
+    return m_server.start() ? connectToServer() : fail(m_server.errorString());
 }
 
 bool PreviewServer::connectToServer()

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "privatedb/privatemariadb.h"
-#include "privatedb/guardedfolder.h"
 
 #include <QSqlDatabase>
 #include <QString>
 
 struct PreviewSchema;
 
-/// The database server that holds the copy. Server and copy are gone with this object, and also
-/// when the program is killed.
+/// The database server that holds the copy. Server and copy are gone with this object.
 class PreviewServer {
 public:
     PreviewServer() = default;
@@ -35,7 +33,6 @@ private:
     bool connectToServer();
     bool fail(const QString &error);
 
-    PreviewFolder m_folder;
     PrivateMariaDb m_server;
     QString m_error;
 };

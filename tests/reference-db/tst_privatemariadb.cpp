@@ -1,3 +1,4 @@
+#include "tests/host/descendants.h"
 #include "tests/reference-db/privateservertest.h"
 
 #include <QDir>
@@ -90,7 +91,9 @@ private Q_SLOTS:
     void keepNamesTheFolderAndLeavesIt();
     void aSignalEndsTheCommandAndCleansUp_data();
     void aSignalEndsTheCommandAndCleansUp();
-    void serverAndCommandDieWithAKilledProgram();
+    void serverCommandAndFolderGoWithAKilledProgram();
+    void aProgramThatIsKilledWhileItStartsLeavesNothingBehind();
+    void aKilledProgramLeavesAFolderThatIsToBeKept();
     void aMachineThatCannotLookItsNameUpWillDo();
     void aMissingDriverNamesThePackage();
 
@@ -421,17 +424,51 @@ void TestPrivateMariaDb::aSignalEndsTheCommandAndCleansUp()
     QCOMPARE(entries(m_temp->path()), QStringList());
 }
 
-void TestPrivateMariaDb::serverAndCommandDieWithAKilledProgram()
+void TestPrivateMariaDb::serverCommandAndFolderGoWithAKilledProgram()
 {
+    Descendants descendants;
     QProcess program;
     startProgram(program, {"--", "sh", "-c", "echo $MIROVAHR_DB_SOCKET; exec cat"});
     QVERIFY(program.waitForReadyRead(kPatienceMs));
-    const Peer server(program.readLine().trimmed());
+    const QByteArray socket = program.readLine().trimmed();
+    const Peer server(socket);
     QVERIFY(server.isConnected());
     QCOMPARE(::kill(pid_t(program.processId()), SIGKILL), 0);
     QVERIFY(server.waitUntilGone());
     // The command holds its output open for as long as it lives.
     QVERIFY(program.waitForFinished(kPatienceMs));
+    descendants.waitForEnd();
+    QCOMPARE(entries(m_temp->path()), QStringList());
+}
+
+void TestPrivateMariaDb::aProgramThatIsKilledWhileItStartsLeavesNothingBehind()
+{
+    Descendants descendants;
+    QProcess program;
+    startProgram(program, {"--", "true"});
+    const auto isMade = [this] {
+        const QStringList folders = entries(m_temp->path());
+        return !folders.isEmpty()
+            && !entries(m_temp->filePath(folders.first() + "/data")).isEmpty();
+    };
+    while (!isMade())
+        QVERIFY(!program.waitForFinished(1));
+    QCOMPARE(::kill(pid_t(program.processId()), SIGKILL), 0);
+    QVERIFY(program.waitForFinished(kPatienceMs));
+    descendants.waitForEnd();
+    QCOMPARE(entries(m_temp->path()), QStringList());
+}
+
+void TestPrivateMariaDb::aKilledProgramLeavesAFolderThatIsToBeKept()
+{
+    Descendants descendants;
+    QProcess program;
+    startProgram(program, {"--keep", "--", "sh", "-c", "echo ready; exec cat"});
+    QVERIFY(program.waitForReadyRead(kPatienceMs));
+    QCOMPARE(::kill(pid_t(program.processId()), SIGKILL), 0);
+    QVERIFY(program.waitForFinished(kPatienceMs));
+    descendants.waitForEnd();
+    QCOMPARE(entries(m_temp->path()).size(), 1);
 }
 
 void TestPrivateMariaDb::aMachineThatCannotLookItsNameUpWillDo()

@@ -66,6 +66,10 @@ void TestPreview::initTestCase()
 
 void TestPreview::init()
 {
+    // The site's server takes a moment to notice that a preview was killed.
+    const QString sessions =
+        "SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE USER = 'mirovahrctl'";
+    while (m_bench.site().value(sessions).toInt() > 0) { }
     m_bench.site().reset();
     m_bench.writeIni();
     m_bench.writeExport({SampleExport::jana().with(&ExportRow::prijmeni, "Malá"),
@@ -194,6 +198,7 @@ void TestPreview::theCopyIsGoneAfterASignal()
     QFETCH(int, signal);
     Descendants descendants;
     m_bench.site().run("LOCK TABLES people WRITE");
+    const auto unlock = qScopeGuard([this] { m_bench.site().run("UNLOCK TABLES"); });
     ProgramRun preview;
     preview.setVariable("TMPDIR", m_temporary.path());
     preview.start(MIROVAHRCTL, arguments());
@@ -201,10 +206,9 @@ void TestPreview::theCopyIsGoneAfterASignal()
     const QString waiting = "SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE USER = "
                             "'mirovahrctl' AND STATE LIKE 'Waiting for table%'";
     while (m_bench.site().value(waiting).toInt() == 0) { }
-    QVERIFY(!leftBehind().isEmpty());
+    QCOMPARE(leftBehind().size(), 1);
     preview.sendSignal(signal);
     QVERIFY(preview.waitForEnd());
-    m_bench.site().run("UNLOCK TABLES");
     COMPARE_STATUS(preview, 128 + signal);
     descendants.waitForEnd();
 }

@@ -1,0 +1,18 @@
+#include "privatedb/mariadbprocess.h"
+
+#include "privatedb/serverfolder.h"
+
+#include <csignal>
+
+MariaDbProcess::MariaDbProcess(const ServerFolder &folder, Group group, QObject *parent)
+    : BoundProcess(SIGKILL, group, parent)
+    , m_folder(folder)
+{
+}
+
+// Runs in the child between fork and exec: system calls only.
+void MariaDbProcess::setupChildProcess()
+{
+    BoundProcess::setupChildProcess();
+    m_folder.belongToThisProcess();
+}
