@@ -2,12 +2,17 @@
 
 #include "privatedb/serverfolder.h"
 
+#include <QProcessEnvironment>
+
 #include <csignal>
 
 MariaDbProcess::MariaDbProcess(const ServerFolder &folder, Group group, QObject *parent)
     : BoundProcess(SIGKILL, group, parent)
     , m_folder(folder)
 {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TMPDIR"), folder.temporaryDir());
+    setProcessEnvironment(environment);
 }
 
 // Runs in the child between fork and exec: system calls only.

@@ -5,6 +5,7 @@
 class ServerFolder;
 
 /// One of MariaDB's programs at work for a private server, which never outlives this program.
+/// It has its temporary files in the server's folder.
 class MariaDbProcess : public BoundProcess {
     Q_OBJECT
 public:

@@ -21,6 +21,13 @@ constexpr int kStartTimeoutMs = 120000;
 constexpr int kStopTimeoutMs = 120000;
 constexpr int kReadyProbeMs = 20;
 
+/// Also when there is no such folder: it can be named then.
+QString folderForTemporaryFiles()
+{
+    const QString folder = QDir::tempPath();
+    return folder.isEmpty() ? qEnvironmentVariable("TMPDIR") : folder;
+}
+
 /// A connection that is removed again at the end of the block.
 class ScopedConnection {
 public:
@@ -46,7 +53,7 @@ private:
 } // namespace
 
 PrivateMariaDb::PrivateMariaDb()
-    : m_baseDir(QDir::tempPath())
+    : m_baseDir(folderForTemporaryFiles())
     , m_databaseName(QStringLiteral("tepdb"))
 {
 }

@@ -1,5 +1,6 @@
 #include "privatedb/serverfolder.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -19,6 +20,11 @@ QString objectionTo(const QString &path)
             .arg(socket)
             .arg(kLongestSocketPath);
     }
+    if (path.contains(QLatin1Char(':'))) {
+        return QStringLiteral("mariadbd would take the folder %1 for several, separated by \":\": "
+                              "set TMPDIR to a folder with another name.")
+            .arg(path);
+    }
     return QString();
 }
 
@@ -32,10 +38,10 @@ bool ServerFolder::make(const QString &baseDir, AtTheEnd atTheEnd, QString &erro
     if (!error.isEmpty())
         return false;
     m_folder = std::make_unique<GuardedFolder>(name, atTheEnd);
-    if (m_folder->isValid())
+    if (m_folder->isValid() && QDir().mkdir(temporaryDir()) && QDir().mkdir(pluginDir()))
         return true;
     error = QStringLiteral("No folder for the private MariaDB server could be made in %1: %2")
                 .arg(base)
-                .arg(m_folder->errorString());
+                .arg(m_folder->isValid() ? qt_error_string() : m_folder->errorString());
     return false;
 }

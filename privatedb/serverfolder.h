@@ -16,6 +16,8 @@ public:
 
     QString path() const { return m_folder ? m_folder->path() : QString(); }
     QString dataDir() const { return path() + QStringLiteral("/data"); }
+    QString temporaryDir() const { return path() + QStringLiteral("/tmp"); }
+    QString pluginDir() const { return path() + QStringLiteral("/plugins"); } ///< stays empty
     QString socketPath() const { return path() + QStringLiteral("/s"); }
     QString pidFile() const { return path() + QStringLiteral("/server.pid"); }
     QString errorLogPath() const { return path() + QStringLiteral("/error.log"); }

@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
@@ -43,14 +42,50 @@ QStringList entries(const QString &folder)
                                   | QDir::NoDotAndDotDot);
 }
 
+TemporaryTable::TemporaryTable(const QString &socketPath, const QString &connectionName)
+    : m_connectionName(connectionName)
+    , m_database(QSqlDatabase::addDatabase("QMYSQL", connectionName))
+{
+    m_database.setConnectOptions("UNIX_SOCKET=" + socketPath);
+    if (!m_database.open("root", ""))
+        m_error = m_database.lastError().text();
+    run("CREATE TEMPORARY TABLE mysql.t ENGINE=Aria AS SELECT 'Jana Nováková' name");
+}
+
+TemporaryTable::~TemporaryTable()
+{
+    m_database = QSqlDatabase();
+    QSqlDatabase::removeDatabase(m_connectionName);
+}
+
+void TemporaryTable::drop()
+{
+    run("DROP TEMPORARY TABLE mysql.t");
+}
+
+void TemporaryTable::run(const QString &sql)
+{
+    QSqlQuery query(m_database);
+    if (!query.exec(sql) && m_error.isEmpty())
+        m_error = query.lastError().text();
+}
+
 ScopedVariable::ScopedVariable(const char *name, const QByteArray &value)
     : m_name(name)
     , m_before(qgetenv(name))
 {
-    qputenv(name, value);
+    set(value);
 }
 
 ScopedVariable::~ScopedVariable()
 {
-    qputenv(m_name, m_before);
+    set(m_before);
+}
+
+void ScopedVariable::set(const QByteArray &value)
+{
+    if (value.isNull())
+        qunsetenv(m_name);
+    else
+        qputenv(m_name, value);
 }

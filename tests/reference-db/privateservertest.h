@@ -3,6 +3,7 @@
 #include "privatedb/privatemariadb.h"
 
 #include <QByteArray>
+#include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
 
@@ -18,7 +19,27 @@ QByteArray readFile(const QString &path);
 /// Names of everything in a folder.
 QStringList entries(const QString &folder);
 
-/// Sets an environment variable for the rest of the block.
+/// A connection of a private server's administrator that holds a temporary table on the disk.
+class TemporaryTable {
+public:
+    TemporaryTable(const QString &socketPath, const QString &connectionName);
+    ~TemporaryTable();
+    TemporaryTable(const TemporaryTable &) = delete;
+    TemporaryTable &operator=(const TemporaryTable &) = delete;
+
+    void drop();
+    /// The first error of the database, empty when there was none.
+    QString error() const { return m_error; }
+
+private:
+    void run(const QString &sql);
+
+    const QString m_connectionName;
+    QSqlDatabase m_database;
+    QString m_error;
+};
+
+/// Sets an environment variable for the rest of the block; a null value takes it away.
 class ScopedVariable {
 public:
     ScopedVariable(const char *name, const QByteArray &value);
@@ -27,6 +48,8 @@ public:
     ScopedVariable &operator=(const ScopedVariable &) = delete;
 
 private:
+    void set(const QByteArray &value);
+
     const char *m_name;
     const QByteArray m_before;
 };

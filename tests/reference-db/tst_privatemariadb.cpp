@@ -68,7 +68,6 @@ private Q_SLOTS:
     void theHostAccountHasNoRightsOnOtherDatabases();
     void theHostAccountHasOnlyWhatIsGranted();
     void theServerListensOnItsSocketOnly();
-    void configurationFilesAreNotRead();
     void theFolderGoesAwayWithTheServer();
     void theFolderStaysWhenAskedFor();
     void aRestartKeepsDataSocketAndAccounts();
@@ -168,17 +167,6 @@ void TestPrivateMariaDb::theServerListensOnItsSocketOnly()
     QCOMPARE(answer(server, "SELECT @@skip_networking"), QString("1"));
     QCOMPARE(answer(server, "SELECT @@socket"), server.socketPath());
     QVERIFY(server.socketPath().startsWith(server.folder() + '/'));
-}
-
-void TestPrivateMariaDb::configurationFilesAreNotRead()
-{
-    writeFile(m_temp->filePath(".my.cnf"),
-              "[mysqld]\nno-such-option=1\n[client]\nuser=nobody\nno-such-option=1\n");
-    const ScopedVariable home("HOME", m_temp->path().toUtf8());
-    writeFile(m_temp->filePath("a.sql"), "CREATE TABLE a (n INT);\n");
-    PrivateMariaDb server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
-    QVERIFY2(server.load(m_temp->filePath("a.sql")), qPrintable(server.errorString()));
 }
 
 void TestPrivateMariaDb::theFolderGoesAwayWithTheServer()
@@ -433,6 +421,8 @@ void TestPrivateMariaDb::serverCommandAndFolderGoWithAKilledProgram()
     const QByteArray socket = program.readLine().trimmed();
     const Peer server(socket);
     QVERIFY(server.isConnected());
+    const TemporaryTable table(QString::fromUtf8(socket), "table");
+    QCOMPARE(table.error(), QString());
     QCOMPARE(::kill(pid_t(program.processId()), SIGKILL), 0);
     QVERIFY(server.waitUntilGone());
     // The command holds its output open for as long as it lives.

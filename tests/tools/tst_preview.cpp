@@ -1,5 +1,6 @@
 #include "tests/host/descendants.h"
 #include "tests/host/programrun.h"
+#include "tests/reference-db/privateservertest.h"
 #include "tests/sync/sampleexport.h"
 #include "tests/tools/browser.h"
 #include "tests/tools/previewbench.h"
@@ -206,7 +207,10 @@ void TestPreview::theCopyIsGoneAfterASignal()
     const QString waiting = "SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE USER = "
                             "'mirovahrctl' AND STATE LIKE 'Waiting for table%'";
     while (m_bench.site().value(waiting).toInt() == 0) { }
-    QCOMPARE(leftBehind().size(), 1);
+    const QStringList folders = leftBehind();
+    QCOMPARE(folders.size(), 1);
+    const TemporaryTable table(m_temporary.filePath(folders.first() + "/s"), "table");
+    QCOMPARE(table.error(), QString());
     preview.sendSignal(signal);
     QVERIFY(preview.waitForEnd());
     COMPARE_STATUS(preview, 128 + signal);

@@ -1,0 +1,284 @@
+#include "tests/reference-db/privateservertest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QtTest>
+
+#include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using Account = PrivateMariaDb::Account;
+
+const QByteArray kUnset;
+
+QString procFile(const PrivateMariaDb &server, const char *name)
+{
+    return QStringLiteral("/proc/%1/%2").arg(server.pid()).arg(name);
+}
+
+/// The files that a process holds open, "(deleted)" ones included.
+QStringList openFiles(const QString &descriptors)
+{
+    QStringList files;
+    for (const QString &descriptor : QDir(descriptors).entryList(QDir::Files | QDir::System)) {
+        char file[4096];
+        const QByteArray link = QFile::encodeName(descriptors + '/' + descriptor);
+        const ssize_t length = ::readlink(link.constData(), file, sizeof file);
+        files += QFile::decodeName(QByteArray(file, int(length)));
+    }
+    return files;
+}
+
+void writeProgram(const QString &path, const QByteArray &script)
+{
+    writeFile(path, "#!/bin/sh\n" + script);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+} // namespace
+
+/// A private server on a machine that has servers of its own, where settings and files of other
+/// programs stand in its way. This test sees the machine as it is: it runs without
+/// scripts/private-view, and writes only into folders of its own, and one file into /tmp.
+class TestMachineUntouched : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void temporaryFilesOfOtherServersStay_data();
+    void temporaryFilesOfOtherServersStay();
+    void serversBesideEachOtherKeepTheirTemporaryTables();
+    void everyPathOfTheServerLiesInItsFolder();
+    void theServerHasNoFileOpenElsewhere();
+    void nobodyElseMayEnterTheFolder();
+    void aFolderWithBlanksInItsNameWillDo();
+    void aFolderThatTheServerWouldTakeForSeveralIsRefused();
+    void aMissingFolderForTemporaryFilesIsNamed();
+
+    void optionFilesAreNotRead_data();
+    void optionFilesAreNotRead();
+
+    void filesOfTheMachineAreOutOfReach();
+    void pluginsOfTheMachineAreOutOfReach();
+
+    void theInstallationGivesNothingToAnotherUser();
+
+private:
+    QByteArray path(const char *name) const { return QFile::encodeName(m_temp->filePath(name)); }
+
+    std::unique_ptr<QTemporaryDir> m_temp;
+};
+
+void TestMachineUntouched::initTestCase()
+{
+    QVERIFY2(!QFileInfo::exists(QStringLiteral("/tmp/.machine")),
+             "This test must see the machine's /tmp: run it without scripts/private-view.");
+}
+
+void TestMachineUntouched::init()
+{
+    m_temp = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_temp->isValid());
+}
+
+void TestMachineUntouched::temporaryFilesOfOtherServersStay_data()
+{
+    QTest::addColumn<bool>("isTmpdirSet");
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("in /tmp") << false << "/tmp";
+    QTest::newRow("in TMPDIR") << true << "";
+    QTest::newRow("where the server's folder is made") << true << "base";
+}
+
+void TestMachineUntouched::temporaryFilesOfOtherServersStay()
+{
+    QFETCH(bool, isTmpdirSet);
+    QFETCH(QString, folder);
+    QVERIFY(QDir(m_temp->path()).mkdir("base"));
+    const ScopedVariable tmpdir("TMPDIR", isTmpdirSet ? m_temp->path().toUtf8() : kUnset);
+    QTemporaryFile table(QDir(m_temp->path()).filePath(folder) + "/#sql-temptable-XXXXXX.MAD");
+    QVERIFY(table.open());
+
+    PrivateMariaDb server;
+    if (folder == "base")
+        server.setBaseDir(m_temp->filePath("base"));
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QVERIFY(QFileInfo::exists(table.fileName()));
+    QVERIFY2(server.restart(), qPrintable(server.errorString()));
+    QVERIFY(QFileInfo::exists(table.fileName()));
+}
+
+void TestMachineUntouched::serversBesideEachOtherKeepTheirTemporaryTables()
+{
+    PrivateMariaDb servers[3];
+    QVERIFY2(servers[0].start(), qPrintable(servers[0].errorString()));
+    TemporaryTable first(servers[0].socketPath(), "first");
+    QVERIFY2(servers[1].start(), qPrintable(servers[1].errorString()));
+    TemporaryTable second(servers[1].socketPath(), "second");
+    QVERIFY2(servers[2].start(), qPrintable(servers[2].errorString()));
+    for (TemporaryTable *const table : {&first, &second}) {
+        table->drop();
+        QCOMPARE(table->error(), QString());
+    }
+}
+
+void TestMachineUntouched::everyPathOfTheServerLiesInItsFolder()
+{
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    // What is only read of the machine: the programs' own texts and character sets.
+    QCOMPARE(answer(server,
+                    QStringLiteral("SELECT GROUP_CONCAT(VARIABLE_NAME ORDER BY VARIABLE_NAME) FROM "
+                                   "information_schema.SYSTEM_VARIABLES WHERE GLOBAL_VALUE LIKE "
+                                   "'/%' AND GLOBAL_VALUE NOT LIKE '%1/%'")
+                        .arg(server.folder())),
+             QString("BASEDIR,CHARACTER_SETS_DIR"));
+    QCOMPARE(answer(server,
+                    "SELECT CONCAT_WS(' ', COALESCE(@@innodb_tmpdir, @@tmpdir), "
+                    "@@slave_load_tmpdir, @@tmpdir)"),
+             QString("%1/tmp %1/tmp %1/tmp").arg(server.folder()));
+}
+
+void TestMachineUntouched::theServerHasNoFileOpenElsewhere()
+{
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    const TemporaryTable table(server.socketPath(), "table");
+    QCOMPARE(table.error(), QString());
+    const QStringList files = openFiles(procFile(server, "fd"));
+    QVERIFY(!files.filter(server.folder() + "/data/ibdata1").isEmpty());
+    const QStringList inherited = openFiles(QStringLiteral("/proc/self/fd"));
+    for (const QString &file : files) {
+        QVERIFY2(!file.startsWith('/') || file == "/dev/null" || inherited.contains(file)
+                     || file.startsWith(server.folder() + '/'),
+                 qPrintable(file));
+    }
+}
+
+void TestMachineUntouched::nobodyElseMayEnterTheFolder()
+{
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    struct stat status = {};
+    QCOMPARE(::stat(QFile::encodeName(server.folder()).constData(), &status), 0);
+    QCOMPARE(status.st_mode & ACCESSPERMS, mode_t(S_IRWXU));
+    QCOMPARE(status.st_uid, ::geteuid());
+}
+
+void TestMachineUntouched::aFolderWithBlanksInItsNameWillDo()
+{
+    const QString folder = m_temp->filePath("a 'folder' * of \"mine\"");
+    QVERIFY(QDir().mkdir(folder));
+    PrivateMariaDb server;
+    server.setBaseDir(folder);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QCOMPARE(answer(server, "SELECT @@tmpdir"), server.folder() + "/tmp");
+}
+
+void TestMachineUntouched::aFolderThatTheServerWouldTakeForSeveralIsRefused()
+{
+    const QString folder = m_temp->filePath("a:b");
+    QVERIFY(QDir().mkdir(folder));
+    PrivateMariaDb server;
+    server.setBaseDir(folder);
+    QVERIFY(!server.start());
+    QVERIFY2(server.errorString().contains(folder), qPrintable(server.errorString()));
+    QCOMPARE(entries(folder), QStringList());
+}
+
+void TestMachineUntouched::aMissingFolderForTemporaryFilesIsNamed()
+{
+    const ScopedVariable tmpdir("TMPDIR", path("missing"));
+    PrivateMariaDb server;
+    QVERIFY(!server.start());
+    QVERIFY2(server.errorString().contains(m_temp->filePath("missing")),
+             qPrintable(server.errorString()));
+}
+
+void TestMachineUntouched::optionFilesAreNotRead_data()
+{
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("of the user") << "HOME"
+                                 << ".my.cnf";
+    QTest::newRow("MYSQL_HOME") << "MYSQL_HOME"
+                                << "my.cnf";
+    QTest::newRow("MARIADB_HOME") << "MARIADB_HOME"
+                                  << "my.cnf";
+}
+
+void TestMachineUntouched::optionFilesAreNotRead()
+{
+    QFETCH(QString, variable);
+    QFETCH(QString, file);
+    writeFile(m_temp->filePath(file),
+              "[mariadbd]\nno-such-option=1\n[mariadb-install-db]\nuser=nobody\n"
+              "[client]\nuser=nobody\nno-such-option=1\n");
+    const QByteArray name = variable.toUtf8();
+    const ScopedVariable folder(name.constData(), m_temp->path().toUtf8());
+    writeFile(m_temp->filePath("a.sql"), "CREATE TABLE a (n INT);\n");
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QVERIFY2(server.load(m_temp->filePath("a.sql")), qPrintable(server.errorString()));
+}
+
+void TestMachineUntouched::filesOfTheMachineAreOutOfReach()
+{
+    writeFile(m_temp->filePath("in"), "secret\n");
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    const auto administratorGets = [&server](const QString &sql) {
+        return answer(server, sql, Account::Administrator);
+    };
+    QCOMPARE(administratorGets(
+                 QStringLiteral("SELECT LOAD_FILE('%1') IS NULL").arg(m_temp->filePath("in"))),
+             QString("1"));
+    const QString refused = administratorGets(
+        QStringLiteral("SELECT 1 INTO OUTFILE '%1'").arg(m_temp->filePath("out")));
+    QVERIFY2(refused.contains("--secure-file-priv"), qPrintable(refused));
+    administratorGets("CREATE TABLE tepdb.a (t TEXT)");
+    const QString local =
+        administratorGets(QStringLiteral("LOAD DATA LOCAL INFILE '%1' INTO TABLE tepdb.a")
+                              .arg(m_temp->filePath("in")));
+    QCOMPARE(administratorGets("SELECT COUNT(*) FROM tepdb.a"), QString("0"));
+    QVERIFY2(!local.isEmpty(), "The file was offered to the server.");
+    administratorGets(
+        QStringLiteral("CREATE TABLE tepdb.b (t TEXT) ENGINE=Aria DATA DIRECTORY='%1'")
+            .arg(m_temp->path()));
+    QCOMPARE(administratorGets("SELECT COUNT(*) FROM tepdb.b"), QString("0"));
+    QCOMPARE(entries(m_temp->path()), QStringList("in"));
+}
+
+void TestMachineUntouched::pluginsOfTheMachineAreOutOfReach()
+{
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QCOMPARE(answer(server, "SELECT @@plugin_dir"), server.folder() + "/plugins/");
+    QCOMPARE(answer(server,
+                    "SELECT GROUP_CONCAT(PLUGIN_NAME) FROM information_schema.ALL_PLUGINS WHERE "
+                    "PLUGIN_LIBRARY IS NOT NULL OR (PLUGIN_NAME = 'feedback' AND PLUGIN_STATUS = "
+                    "'ACTIVE')"),
+             QString());
+}
+
+/// As root, mariadb-install-db can take folders of the machine's own plugins away from the
+/// machine's server.
+void TestMachineUntouched::theInstallationGivesNothingToAnotherUser()
+{
+    writeProgram(m_temp->filePath("chown"), "echo \"$*\" >>'" + path("given") + "'\n");
+    const ScopedVariable programs("PATH", m_temp->path().toUtf8() + ':' + qgetenv("PATH"));
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QCOMPARE(readFile(m_temp->filePath("given")), QByteArray());
+}
+
+QTEST_GUILESS_MAIN(TestMachineUntouched)
+#include "tst_machineuntouched.moc"
