@@ -1,10 +1,10 @@
 #include "privatedb/commandrun.h"
 
 #include "privatedb/boundprocess.h"
+#include "privatedb/environment.h"
 #include "privatedb/privatemariadb.h"
 
 #include <QEventLoop>
-#include <QProcessEnvironment>
 #include <QSocketNotifier>
 
 #include <csignal>
@@ -31,7 +31,7 @@ void noteSignal(int number)
 
 QProcessEnvironment commandEnvironment(const PrivateMariaDb &server)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = environmentWithoutServers();
     environment.insert(QStringLiteral("MIROVAHR_DB_SOCKET"), server.socketPath());
     environment.insert(QStringLiteral("MIROVAHR_DB_NAME"), server.databaseName());
     environment.insert(QStringLiteral("MIROVAHR_DB_USER"), server.userName());

@@ -11,7 +11,7 @@ class QSocketNotifier;
 /// on to it, so that the caller can clean up once the command is gone. One instance per program.
 ///
 /// The command finds the server in MIROVAHR_DB_SOCKET, MIROVAHR_DB_NAME, MIROVAHR_DB_USER and
-/// MIROVAHR_DB_PASSWORD_FILE.
+/// MIROVAHR_DB_PASSWORD_FILE, and no other server in its environment.
 class CommandRun : public QObject {
     Q_OBJECT
 public:

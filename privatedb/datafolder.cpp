@@ -18,6 +18,8 @@ bool makeDataFolder(const ServerFolder &folder, QString &error)
 {
     MariaDbProcess install(folder, BoundProcess::Group::OfItsOwn);
     install.setProcessChannelMode(QProcess::MergedChannels);
+    // It would run programs that it finds below its working folder.
+    install.setWorkingDirectory(folder.path());
     install.start(MariaDbPrograms::find(MariaDbPrograms::Program::InstallDb),
                   QStringList{QStringLiteral("--no-defaults"),
                               QStringLiteral("--auth-root-authentication-method=normal"),

@@ -1,16 +1,27 @@
 #include "privatedb/mariadbprocess.h"
 
+#include "privatedb/environment.h"
 #include "privatedb/serverfolder.h"
 
-#include <QProcessEnvironment>
-
 #include <csignal>
+
+#include <sys/resource.h>
+
+namespace {
+
+/// By these the service manager and the service that this program may be part of are reached.
+constexpr const char *kServiceVariables[] = {"NOTIFY_SOCKET",  "LISTEN_FDS",   "LISTEN_PID",
+                                             "LISTEN_FDNAMES", "WATCHDOG_PID", "WATCHDOG_USEC"};
+
+} // namespace
 
 MariaDbProcess::MariaDbProcess(const ServerFolder &folder, Group group, QObject *parent)
     : BoundProcess(SIGKILL, group, parent)
     , m_folder(folder)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = environmentWithoutServers();
+    for (const char *const name : kServiceVariables)
+        environment.remove(QLatin1String(name));
     environment.insert(QStringLiteral("TMPDIR"), folder.temporaryDir());
     setProcessEnvironment(environment);
 }
@@ -19,5 +30,7 @@ MariaDbProcess::MariaDbProcess(const ServerFolder &folder, Group group, QObject 
 void MariaDbProcess::setupChildProcess()
 {
     BoundProcess::setupChildProcess();
+    const rlimit none = {0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
     m_folder.belongToThisProcess();
 }

@@ -5,7 +5,9 @@
 class ServerFolder;
 
 /// One of MariaDB's programs at work for a private server, which never outlives this program.
-/// It has its temporary files in the server's folder.
+///
+/// It knows nothing of the machine's other servers and of the service manager, has its temporary
+/// files in the server's folder, and writes no core file, which would hold rows of people.
 class MariaDbProcess : public BoundProcess {
     Q_OBJECT
 public:

@@ -156,6 +156,8 @@ QSqlDatabase PrivateMariaDb::addConnection(const QString &connectionName, Accoun
         database.setPassword(password());
     } else {
         database.setUserName(QStringLiteral("root"));
+        // Without any password the client library would take MYSQL_PWD of the environment.
+        database.setPassword(QStringLiteral(""));
     }
     return database;
 }

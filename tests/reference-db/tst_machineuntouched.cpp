@@ -3,13 +3,17 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QtTest>
 
 #include <memory>
 
+#include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace {
@@ -42,6 +46,51 @@ void writeProgram(const QString &path, const QByteArray &script)
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
+/// What listens to the messages of a service.
+class ServiceManager {
+public:
+    explicit ServiceManager(const QByteArray &socketPath)
+        : m_socket(::socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK, 0))
+    {
+        sockaddr_un address = {};
+        address.sun_family = AF_UNIX;
+        qstrncpy(address.sun_path, socketPath.constData(), sizeof address.sun_path);
+        if (::bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0)
+            qFatal("%s cannot be listened to", socketPath.constData());
+    }
+    ~ServiceManager() { ::close(m_socket); }
+    ServiceManager(const ServiceManager &) = delete;
+    ServiceManager &operator=(const ServiceManager &) = delete;
+
+    /// The next message that has arrived, empty when there is none.
+    QByteArray message() const
+    {
+        char bytes[1024];
+        const ssize_t length = ::recv(m_socket, bytes, sizeof bytes, 0);
+        return QByteArray(bytes, int(qMax<ssize_t>(0, length)));
+    }
+
+private:
+    const int m_socket;
+};
+
+/// Lets this program and its children write core files for the rest of the block.
+class CoreFilesAllowed {
+public:
+    CoreFilesAllowed()
+    {
+        ::getrlimit(RLIMIT_CORE, &m_before);
+        const rlimit allowed = {m_before.rlim_max, m_before.rlim_max};
+        ::setrlimit(RLIMIT_CORE, &allowed);
+    }
+    ~CoreFilesAllowed() { ::setrlimit(RLIMIT_CORE, &m_before); }
+    CoreFilesAllowed(const CoreFilesAllowed &) = delete;
+    CoreFilesAllowed &operator=(const CoreFilesAllowed &) = delete;
+
+private:
+    rlimit m_before = {};
+};
+
 } // namespace
 
 /// A private server on a machine that has servers of its own, where settings and files of other
@@ -65,10 +114,17 @@ private Q_SLOTS:
 
     void optionFilesAreNotRead_data();
     void optionFilesAreNotRead();
+    void settingsForOtherServersDoNotCount_data();
+    void settingsForOtherServersDoNotCount();
+    void theServiceManagerHearsNothing();
+    void theServerDoesNotInheritWhatConcernsAnother();
 
     void filesOfTheMachineAreOutOfReach();
     void pluginsOfTheMachineAreOutOfReach();
+    void aCrashLeavesNoCoreFile();
 
+    void theInstallationRunsNoProgramThatLiesAround_data();
+    void theInstallationRunsNoProgramThatLiesAround();
     void theInstallationGivesNothingToAnotherUser();
 
 private:
@@ -230,6 +286,64 @@ void TestMachineUntouched::optionFilesAreNotRead()
     QVERIFY2(server.load(m_temp->filePath("a.sql")), qPrintable(server.errorString()));
 }
 
+void TestMachineUntouched::settingsForOtherServersDoNotCount_data()
+{
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("host") << "MYSQL_HOST" << QByteArray("127.0.0.1");
+    QTest::newRow("port") << "MYSQL_TCP_PORT" << QByteArray("1");
+    QTest::newRow("socket") << "MYSQL_UNIX_PORT" << QByteArray("/nonexistent");
+    QTest::newRow("password") << "MYSQL_PWD" << QByteArray("of another server");
+    QTest::newRow("group of options") << "MYSQL_GROUP_SUFFIX" << QByteArray("_other");
+}
+
+void TestMachineUntouched::settingsForOtherServersDoNotCount()
+{
+    QFETCH(QString, variable);
+    QFETCH(QByteArray, value);
+    // Nobody listens there: a program that goes astray finds no server of the machine.
+    const ScopedVariable port("MYSQL_TCP_PORT", "1");
+    const QByteArray name = variable.toUtf8();
+    const ScopedVariable setting(name.constData(), value);
+    writeFile(m_temp->filePath("a.sql"), "CREATE TABLE a AS SELECT 'loaded' t;\n");
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QVERIFY2(server.load(m_temp->filePath("a.sql")), qPrintable(server.errorString()));
+    QCOMPARE(answer(server, "SELECT t FROM a"), QString("loaded"));
+}
+
+void TestMachineUntouched::theServiceManagerHearsNothing()
+{
+    const ServiceManager manager(path("notify"));
+    const ScopedVariable notifySocket("NOTIFY_SOCKET", path("notify"));
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QVERIFY2(server.stop(), qPrintable(server.errorString()));
+    QCOMPARE(manager.message(), QByteArray());
+}
+
+void TestMachineUntouched::theServerDoesNotInheritWhatConcernsAnother()
+{
+    const ScopedVariable notifySocket("NOTIFY_SOCKET", path("notify"));
+    const ScopedVariable fds("LISTEN_FDS", "1");
+    const ScopedVariable pid("LISTEN_PID", QByteArray::number(::getpid()));
+    const ScopedVariable names("LISTEN_FDNAMES", "mariadb.socket");
+    const ScopedVariable watchdog("WATCHDOG_USEC", "1000000");
+    const ScopedVariable watchdogPid("WATCHDOG_PID", QByteArray::number(::getpid()));
+    const ScopedVariable password("MYSQL_PWD", "of another server");
+    const ScopedVariable home("MARIADB_HOME", m_temp->path().toUtf8());
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QFile file(procFile(server, "environ"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> environment = file.readAll().split('\0');
+    QVERIFY(environment.contains("TMPDIR=" + QFile::encodeName(server.folder()) + "/tmp"));
+    for (const char *prefix : {"NOTIFY_", "LISTEN_", "WATCHDOG_", "MYSQL", "MARIADB"}) {
+        for (const QByteArray &variable : environment)
+            QVERIFY2(!variable.startsWith(prefix), variable.constData());
+    }
+}
+
 void TestMachineUntouched::filesOfTheMachineAreOutOfReach()
 {
     writeFile(m_temp->filePath("in"), "secret\n");
@@ -267,6 +381,43 @@ void TestMachineUntouched::pluginsOfTheMachineAreOutOfReach()
                     "PLUGIN_LIBRARY IS NOT NULL OR (PLUGIN_NAME = 'feedback' AND PLUGIN_STATUS = "
                     "'ACTIVE')"),
              QString());
+}
+
+void TestMachineUntouched::aCrashLeavesNoCoreFile()
+{
+    const CoreFilesAllowed allowed;
+    PrivateMariaDb server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QFile file(procFile(server, "limits"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString limits = QString::fromUtf8(file.readAll());
+    static const QRegularExpression none("^Max core file size +0 +0 ",
+                                         QRegularExpression::MultilineOption);
+    QVERIFY2(limits.contains(none), qPrintable(limits));
+}
+
+void TestMachineUntouched::theInstallationRunsNoProgramThatLiesAround_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QByteArray>("bootstrap");
+    QTest::newRow("in the working folder") << "extra/my_print_defaults" << kUnset;
+    QTest::newRow("by the environment") << "bootstrap" << QByteArray("./bootstrap");
+}
+
+void TestMachineUntouched::theInstallationRunsNoProgramThatLiesAround()
+{
+    QFETCH(QString, program);
+    QFETCH(QByteArray, bootstrap);
+    QVERIFY(QDir(m_temp->path()).mkdir("extra"));
+    writeProgram(m_temp->filePath(program), "touch '" + path("mark") + "'\n");
+    const ScopedVariable variable("MYSQLD_BOOTSTRAP", bootstrap);
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_temp->path()));
+    PrivateMariaDb server;
+    const bool started = server.start();
+    QVERIFY(QDir::setCurrent(before));
+    QVERIFY(!QFileInfo::exists(m_temp->filePath("mark")));
+    QVERIFY2(started, qPrintable(server.errorString()));
 }
 
 /// As root, mariadb-install-db can take folders of the machine's own plugins away from the

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void aMissingProgramNamesThePackage();
 
     void theCommandFindsTheServerInItsEnvironment();
+    void theCommandIsNotLedToAnotherServer();
     void theAccountOfTheProgramCanBeWithoutRights();
     void theExitStatusIsTheCommands_data();
     void theExitStatusIsTheCommands();
@@ -320,6 +321,20 @@ void TestPrivateMariaDb::theCommandFindsTheServerInItsEnvironment()
     QCOMPARE(program.readAllStandardOutput(), QByteArray("loaded\tmine\t19\n"));
     QCOMPARE(program.exitCode(), 0);
     QCOMPARE(entries(m_temp->path()), QStringList("a.sql"));
+}
+
+void TestPrivateMariaDb::theCommandIsNotLedToAnotherServer()
+{
+    const ScopedVariable host("MYSQL_HOST", "127.0.0.1");
+    const ScopedVariable port("MYSQL_TCP_PORT", "1"); // nobody listens there
+    const ScopedVariable password("MYSQL_PWD", "of another server");
+    QProcess program;
+    runProgram(program,
+               {"--", "sh", "-c",
+                "mariadb --no-defaults -N --socket=$MIROVAHR_DB_SOCKET --user=root"
+                " -e 'SELECT @@socket = \"\'$MIROVAHR_DB_SOCKET\'\"'"});
+    QCOMPARE(program.readAllStandardError(), QByteArray());
+    QCOMPARE(program.readAllStandardOutput(), QByteArray("1\n"));
 }
 
 void TestPrivateMariaDb::theAccountOfTheProgramCanBeWithoutRights()
