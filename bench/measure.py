@@ -251,7 +251,9 @@ def main():
         sys.exit("sections: " + " ".join(SECTIONS))
 
     results = Results(arguments.folder)
-    with tempfile.TemporaryDirectory(prefix="mirovahr-bench-") as scratch:
+    # In the server's own folder, which goes away with the server in any case.
+    folder = os.path.dirname(os.environ["MIROVAHR_DB_SOCKET"])
+    with tempfile.TemporaryDirectory(prefix="bench-", dir=folder) as scratch:
         plan = QUICK if arguments.quick else FULL
         Bench(arguments.build.resolve(), pathlib.Path(scratch), plan).sql(data.frame_sql())
         for section in arguments.sections or SECTIONS:
