@@ -13,11 +13,15 @@ class MariaDbProcess;
 
 /// A MariaDB server of one's own in a temporary folder, for tests, the demo and tools.
 ///
-/// It reads no configuration file of the machine, listens on a socket only, dies with the program
-/// that started it (see BoundProcess for the thread) and takes its folder along, also when the
-/// program is killed. Its local time zone is that of the program's environment (`TZ`). It holds one
-/// database and two accounts: `root` without a password, and the account that an attendance server
-/// would use, with one.
+/// It shares processor, memory and disk with the machine's servers, and nothing else. Everything
+/// that it writes lies in its folder (ServerFolder), temporary tables included. It takes no
+/// options, accounts or plugins from the machine and reports to nobody (MariaDbProcess,
+/// ServerOptions). It listens on a socket only. It dies with the program that started it (see
+/// BoundProcess for the thread) and takes its folder along, also when the program is killed.
+///
+/// Its local time zone is that of the program's environment (`TZ`). It holds one database and two
+/// accounts: `root` without a password, and the account that an attendance server would use, with
+/// one.
 ///
 /// Needs a QCoreApplication, for Qt's database drivers. Operations that return bool leave the
 /// reason of a failure in errorString().
