@@ -88,7 +88,8 @@ public:
     /// Appends the records of the export file to the records that wait to be synchronised.
     void loadAndParseData();
 
-    /// Appends the record of one trimmed line, if the line makes a usable record.
+    /// Appends the record of one trimmed line, if the line makes a usable record. With fewer names
+    /// than the 18 in \a fields no line does.
     void parseLine(const QString &line, const QStringList &fields, QChar separator);
 
     /// The date part of a text in the given format, invalid when the text has another form.

@@ -73,6 +73,9 @@ void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar 
         return;
     }
 
+    // A caller may name fewer fields than a record has.
+    if (parts.size() < ExportLine::kFieldCount)
+        return;
     MirovaRonRecord record = ExportLine::toRecord(parts);
     if (!ExportLine::isUsable(record))
         return;

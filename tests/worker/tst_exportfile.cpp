@@ -174,6 +174,8 @@ private Q_SLOTS:
     void theSeparatorIsCaseSensitive();
     void aLineOfAnotherNumberOfFieldsIsSkipped_data();
     void aLineOfAnotherNumberOfFieldsIsSkipped();
+    void aLineOfAsManyPartsAsTooFewFieldsMakesNoRecord_data();
+    void aLineOfAsManyPartsAsTooFewFieldsMakesNoRecord();
     void skippedLinesAreNamedFromDebugLevel3On_data();
     void skippedLinesAreNamedFromDebugLevel3On();
     void aLineWithoutNumberOrNameIsDroppedInSilence_data();
@@ -620,6 +622,27 @@ void TestExportFile::aLineOfAnotherNumberOfFieldsIsSkipped()
                           QString("W MHRWorker::parseLine() - parts count (%1) <> fields "
                                   "count(18) - line skipped!")
                               .arg(parts)}));
+    QCOMPARE(takeRecords(worker), QStringList());
+}
+
+void TestExportFile::aLineOfAsManyPartsAsTooFewFieldsMakesNoRecord_data()
+{
+    QTest::addColumn<int>("count");
+    for (int count = 1; count < kFields.size(); ++count)
+        QTest::addRow("the first %d fields", count) << count;
+}
+
+void TestExportFile::aLineOfAsManyPartsAsTooFewFieldsMakesNoRecord()
+{
+    QFETCH(int, count);
+    MHRWorker worker;
+    worker.setDebugLevel(3);
+    const QString line = formerEmployee(1).fields().mid(0, count).join('|');
+    {
+        const LogCapture log;
+        worker.parseLine(line, kFields.mid(0, count), '|');
+        QCOMPARE(log.lines(), QStringList("D MHRWorker::parseLine('" + line + "')"));
+    }
     QCOMPARE(takeRecords(worker), QStringList());
 }
 
