@@ -9,14 +9,14 @@ namespace {
 constexpr int kBlockSize = 64 * 1024;
 
 /// The longest line and its line feed.
-constexpr int kMostBytes = BoundedLineReader::kLongestLine + 1;
+constexpr int kLineCapacity = BoundedLineReader::kLongestLine + 1;
 
 } // namespace
 
 BoundedLineReader::BoundedLineReader(QIODevice &device)
     : m_device(device)
     , m_block(kBlockSize, Qt::Uninitialized)
-    , m_line(kMostBytes + 1, '\0')
+    , m_line(kLineCapacity + 1, '\0')
 {
 }
 
@@ -31,7 +31,8 @@ bool BoundedLineReader::next()
 
 bool BoundedLineReader::isTooLong() const
 {
-    return m_length > kMostBytes || (m_length == kMostBytes && m_line.at(kLongestLine) != '\n');
+    return m_length > kLineCapacity
+        || (m_length == kLineCapacity && m_line.at(kLongestLine) != '\n');
 }
 
 bool BoundedLineReader::readLine()
@@ -48,7 +49,7 @@ bool BoundedLineReader::readLine()
         append(begin, count);
         m_begin += count;
     }
-    if (m_length == 0)
+    if (m_length == 0 || hasFailed())
         return false;
     ++m_lineNumber;
     return true;
@@ -57,14 +58,27 @@ bool BoundedLineReader::readLine()
 bool BoundedLineReader::readBlock()
 {
     m_begin = 0;
-    m_end = static_cast<int>(qMax<qint64>(m_device.read(m_block.data(), kBlockSize), 0));
+    m_end = 0;
+    if (hasFailed())
+        return false;
+    const qint64 count = m_device.read(m_block.data(), kBlockSize);
+    if (count < 0) {
+        m_error = m_device.errorString();
+        return false;
+    }
+    m_bytesRead += count;
+    if (m_bytesRead > kMostBytes) {
+        m_error = QStringLiteral("it is longer than 1 GiB, and the plugin reads no further");
+        return false;
+    }
+    m_end = static_cast<int>(count);
     return m_end > 0;
 }
 
 void BoundedLineReader::append(const char *bytes, int count)
 {
-    if (m_length + count > kMostBytes) {
-        m_length = kMostBytes + 1;
+    if (m_length + count > kLineCapacity) {
+        m_length = kLineCapacity + 1;
         return;
     }
     std::memcpy(m_line.data() + m_length, bytes, static_cast<std::size_t>(count));

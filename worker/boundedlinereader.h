@@ -1,19 +1,29 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 class QIODevice;
 
-/// Reads a device line by line in bounded memory. A line of more than 64 KiB is skipped whole.
+/// Reads a device line by line, in bounded memory and in bounded time. A line of more than 64 KiB
+/// is skipped whole. No more than 1 GiB is read: an export of a million lines has 150 MB, but a
+/// file with a hole may have any length.
 class BoundedLineReader {
 public:
     static constexpr int kLongestLine = 64 * 1024; ///< bytes, without the line feed
+    static constexpr qint64 kMostBytes = qint64(1) << 30; ///< of the device
 
     explicit BoundedLineReader(QIODevice &device);
 
-    /// Advances to the next line that is not too long; false at the end of the device and when
-    /// reading fails.
+    /// Advances to the next line that is not too long; false when there is none: at the end of the
+    /// device, or where reading fails. A line that is cut off there is left out.
     bool next();
+
+    /// True when the device was not read to its end: it cannot be read on, or is too long.
+    bool hasFailed() const { return !m_error.isEmpty(); }
+
+    /// Why, for people: a part of a sentence without its full stop.
+    QString errorString() const { return m_error; }
 
     /// The current line as read, with its line feed, ended by a NUL byte; valid until next().
     const char *line() const { return m_line.constData(); }
@@ -22,7 +32,7 @@ public:
     int length() const { return m_length; }
 
     /// The number of the current line, counted from 1 and with the lines that were skipped; after
-    /// the end, the number of all lines.
+    /// the last one, the number of all lines.
     qint64 lineNumber() const { return m_lineNumber; }
 
 private:
@@ -38,4 +48,6 @@ private:
     QByteArray m_line;
     int m_length = 0; ///< of the line; more than the line can hold when it is too long
     qint64 m_lineNumber = 0;
+    qint64 m_bytesRead = 0;
+    QString m_error;
 };

@@ -55,7 +55,7 @@ public:
     /// Path of the HR export; empty means "/tmp/ron.data". INI key `importFile`.
     void setImportFile(const QString &path);
 
-    /// Whether the export is removed after it was read. INI key `deleteFile`.
+    /// Whether the export is removed after it was read to its end. INI key `deleteFile`.
     void setDeleteFileAfterImport(bool on);
 
     /// The command line that produces the export. INI key `syncCommand`.
@@ -85,7 +85,8 @@ public:
 
     // ---- Export file --------------------------------------------------------------------------
 
-    /// Appends the records of the export file to the records that wait to be synchronised.
+    /// Appends the records of the export file to the records that wait to be synchronised. A file
+    /// that cannot be read to its end gives those of its complete lines, and is kept.
     void loadAndParseData();
 
     /// Appends the record of one trimmed line, if the line makes a usable record. With fewer names
@@ -268,7 +269,8 @@ private:
     void synchronise();
     void reconcileRecords();
 
-    void parseLines(QIODevice &file, const QStringList &fields);
+    /// False when the file cannot be read to its end.
+    bool parseLines(QIODevice &file, const QStringList &fields);
     void shareTexts(MirovaRonRecord &record);
     bool isAsLastSeen(const MirovaRonRecord &record) const;
 

@@ -40,14 +40,15 @@ void MHRWorker::loadAndParseData()
         qCritical("MHRWorker::loadAndParseData() - file '%s' not opened!", qUtf8Printable(path));
         return;
     }
-    parseLines(file, fields);
+    // A file that cannot be read to its end is kept for the next time, and the administrator is
+    // to know of it also where exports are kept anyway.
+    const bool isRead = parseLines(file, fields);
     file.close();
-
-    if (m_deleteFileAfterImport && !file.remove())
+    if (!isRead || (m_deleteFileAfterImport && !file.remove()))
         qWarning("MHRWorker::loadAndParseData() - file '%s' NOT removed!", qUtf8Printable(path));
 }
 
-void MHRWorker::parseLines(QIODevice &file, const QStringList &fields)
+bool MHRWorker::parseLines(QIODevice &file, const QStringList &fields)
 {
     BoundedLineReader reader(file);
     while (reader.next()) {
@@ -56,6 +57,7 @@ void MHRWorker::parseLines(QIODevice &file, const QStringList &fields)
             parseLine(line, fields, ExportLine::kSeparator);
     }
     m_sharedTexts.clear();
+    return !reader.hasFailed();
 }
 
 void MHRWorker::parseLine(const QString &line, const QStringList &fields, QChar separator)

@@ -1,8 +1,10 @@
-// A line without an end costs the worker no memory. A program of its own: it looks at the most
-// memory that the program has ever held.
+// A line or a file without an end costs the worker neither memory nor time. A program of its own:
+// it looks at the most memory that the program has ever held.
 
 #include "tests/input/workerreading.h"
 #include "tests/support/exportfile.h"
+#include "tests/support/logcapture.h"
+#include "worker/mhrworker.h"
 
 #include <QFile>
 #include <QtTest>
@@ -35,19 +37,36 @@ qint64 diskUse(const QString &path)
 class TestEndlessLine : public QObject {
     Q_OBJECT
 
+private:
+    static void writeFarBehind(const ExportFile &file, qint64 position, const QByteArray &bytes);
+
 private Q_SLOTS:
-    void aLineOfGigabytesIsSkippedInBoundedMemory_data();
-    void aLineOfGigabytesIsSkippedInBoundedMemory();
+    void aLineOfAThousandMegabytesIsSkippedInBoundedMemory_data();
+    void aLineOfAThousandMegabytesIsSkippedInBoundedMemory();
+    void aFileOfManyGigabytesIsNotReadToItsEndAndKept();
 };
 
-void TestEndlessLine::aLineOfGigabytesIsSkippedInBoundedMemory_data()
+/// Writes these bytes at this place of the file; what lies before them is a hole.
+void TestEndlessLine::writeFarBehind(const ExportFile &file, qint64 position,
+                                     const QByteArray &bytes)
+{
+    QFile sparse(file.path());
+    QVERIFY(sparse.open(QIODevice::ReadWrite));
+    QVERIFY(sparse.seek(position));
+    QCOMPARE(sparse.write(bytes), qint64(bytes.size()));
+    sparse.close();
+    QVERIFY(sparse.size() > position);
+    QVERIFY(diskUse(file.path()) < kMiB);
+}
+
+void TestEndlessLine::aLineOfAThousandMegabytesIsSkippedInBoundedMemory_data()
 {
     QTest::addColumn<QByteArray>("begin");
     QTest::newRow("of nothing") << QByteArray();
     QTest::newRow("that begins well") << ExportRow().text().toUtf8();
 }
 
-void TestEndlessLine::aLineOfGigabytesIsSkippedInBoundedMemory()
+void TestEndlessLine::aLineOfAThousandMegabytesIsSkippedInBoundedMemory()
 {
     QFETCH(QByteArray, begin);
     const ExportRow first = ExportRow().with(&ExportRow::osobniCislo, 1);
@@ -59,18 +78,32 @@ void TestEndlessLine::aLineOfGigabytesIsSkippedInBoundedMemory()
 
     // The same two lines with another one between them, most of which is a hole in the file.
     file.writeBytes(first.text().toUtf8() + '\n' + begin);
-    QFile sparse(file.path());
-    QVERIFY(sparse.open(QIODevice::ReadWrite));
-    QVERIFY(sparse.seek(4096 * kMiB));
-    sparse.write('\n' + next.text().toUtf8() + '\n');
-    sparse.close();
-    QVERIFY(sparse.size() > 4096 * kMiB);
-    QVERIFY(diskUse(file.path()) < kMiB);
+    writeFarBehind(file, 1000 * kMiB, '\n' + next.text().toUtf8() + '\n');
 
     const long before = peakMemory();
     QCOMPARE(WorkerReading::ofFile(file.path()), both);
     const long growth = peakMemory() - before;
     QVERIFY2(growth < 8 * 1024, qPrintable(QString("%1 KiB").arg(growth)));
+}
+
+void TestEndlessLine::aFileOfManyGigabytesIsNotReadToItsEndAndKept()
+{
+    const QString good = ExportRow().text();
+    ExportFile file;
+    file.write(QStringList{good});
+    writeFarBehind(file, 64 * 1024 * kMiB, '\n' + good.toUtf8() + '\n');
+
+    MHRWorker worker;
+    worker.setDebugLevel(3);
+    worker.setImportFile(file.path());
+    worker.setDeleteFileAfterImport(true);
+    const LogCapture log;
+    worker.loadAndParseData();
+    QCOMPARE(
+        log.lines().mid(3),
+        QStringList({"D MHRWorker::parseLine('" + good + "')",
+                     "W MHRWorker::loadAndParseData() - file '" + file.path() + "' NOT removed!"}));
+    QVERIFY(file.exists());
 }
 
 QTEST_GUILESS_MAIN(TestEndlessLine)
