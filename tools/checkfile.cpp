@@ -10,6 +10,7 @@
 #include "tools/progress.h"
 #include "tools/rejectsfile.h"
 #include "tools/report.h"
+#include "worker/importfile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -33,7 +34,8 @@ private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> readWidths();
     bool isExport(const QString &path) const;
-    void check(ExportCheck &check);
+    std::optional<ExitStatus> openExport();
+    bool check(ExportCheck &check);
     void report(const CheckedLine &line);
     void report(const Finding &finding);
     void conclude(const ExportCheck &check);
@@ -42,6 +44,7 @@ private:
 
     const CommandLine &m_line;
     Console &m_console;
+    const QString m_path;
     QFile m_file;
     RejectsFile m_rejects;
     const bool m_wantsRejects;
@@ -79,8 +82,8 @@ QString verdict(const ExportCheck::Counts &counts, ExitStatus status)
 CheckFileRun::CheckFileRun(const CommandLine &line, Console &console)
     : m_line(line)
     , m_console(console)
-    , m_file(line.argument(0))
-    , m_rejects(line.value("rejects"), QFileInfo(line.argument(0)).fileName())
+    , m_path(line.argument(0))
+    , m_rejects(line.value("rejects"), QFileInfo(m_path).fileName())
     , m_wantsRejects(line.isSet("rejects"))
     , m_report(line, console)
 {
@@ -91,12 +94,11 @@ ExitStatus CheckFileRun::run()
     if (const auto end = prepare())
         return *end;
     ExportCheck exportCheck(m_file, m_widths);
-    m_report.begin(m_line.subcommand(), QStringLiteral("HR export %1").arg(m_file.fileName()));
-    check(exportCheck);
-    if (m_file.error() != QFileDevice::NoError) {
+    m_report.begin(m_line.subcommand(), QStringLiteral("HR export %1").arg(m_path));
+    if (!check(exportCheck)) {
         return fail(ExitStatus::Usage,
                     QStringLiteral("'%1' cannot be read to its end: %2")
-                        .arg(m_file.fileName(), m_file.errorString()));
+                        .arg(m_path, exportCheck.errorString()));
     }
     conclude(exportCheck);
     return commit(exportCheck.counts());
@@ -104,15 +106,8 @@ ExitStatus CheckFileRun::run()
 
 std::optional<ExitStatus> CheckFileRun::prepare()
 {
-    if (!QFileInfo(m_file.fileName()).isFile()) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("There is no file '%1'").arg(m_file.fileName()));
-    }
-    if (!m_file.open(QIODevice::ReadOnly)) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("'%1' cannot be opened: %2")
-                        .arg(m_file.fileName(), m_file.errorString()));
-    }
+    if (const auto end = openExport())
+        return end;
     if (isExport(m_rejects.path()) || isExport(m_line.pagePath())) {
         return fail(ExitStatus::Usage,
                     QStringLiteral("The result would be written over the export; name another "
@@ -128,9 +123,23 @@ std::optional<ExitStatus> CheckFileRun::prepare()
     return m_report.open();
 }
 
+std::optional<ExitStatus> CheckFileRun::openExport()
+{
+    QString error;
+    switch (ImportFile::open(m_path, m_file, error)) {
+    case ImportFile::Opening::Done:
+        return std::nullopt;
+    case ImportFile::Opening::NotFound:
+        return fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(m_path));
+    case ImportFile::Opening::Failed:
+        break;
+    }
+    return fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be opened: %2").arg(m_path, error));
+}
+
 bool CheckFileRun::isExport(const QString &path) const
 {
-    return !path.isEmpty() && QFileInfo(path) == QFileInfo(m_file.fileName());
+    return !path.isEmpty() && QFileInfo(path) == QFileInfo(m_path);
 }
 
 std::optional<ExitStatus> CheckFileRun::readWidths()
@@ -150,12 +159,12 @@ std::optional<ExitStatus> CheckFileRun::readWidths()
     return std::nullopt;
 }
 
-void CheckFileRun::check(ExportCheck &check)
+bool CheckFileRun::check(ExportCheck &check)
 {
     Progress progress(m_console, QStringLiteral("Checking the export"));
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
-    check.run([this](const CheckedLine &line) { report(line); });
+    return check.run([this](const CheckedLine &line) { report(line); });
 }
 
 void CheckFileRun::report(const CheckedLine &line)

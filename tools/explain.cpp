@@ -42,6 +42,7 @@ private:
     std::optional<ExitStatus> findExport();
     ExitStatus explain(const QSqlDatabase &site);
     std::optional<ExitStatus> readExport(const QSqlDatabase &site);
+    ExitStatus failMissing();
     ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
@@ -100,7 +101,7 @@ std::optional<ExitStatus> ExplainRun::findExport()
     m_source.exportPath = named.isEmpty() ? ImportFile::path(m_configuration.importFile) : named;
     const QFileInfo info(m_source.exportPath);
     if (!named.isEmpty() && !info.isFile())
-        return fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(named));
+        return failMissing();
     // Two files that are not there count as the same.
     if (info.exists() && QFileInfo(m_line.pagePath()) == info) {
         return fail(ExitStatus::Usage,
@@ -133,15 +134,17 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
 
 std::optional<ExitStatus> ExplainRun::readExport(const QSqlDatabase &site)
 {
-    QFile file(m_source.exportPath);
-    if (!QFileInfo(file).isFile())
-        return std::nullopt;
-    if (!file.open(QIODevice::ReadOnly)) {
-        return fail(
-            ExitStatus::Usage,
-            QStringLiteral("'%1' cannot be opened: %2").arg(file.fileName(), file.errorString()));
-    }
+    QFile file;
     QString error;
+    switch (ImportFile::open(m_source.exportPath, file, error)) {
+    case ImportFile::Opening::Done:
+        break;
+    case ImportFile::Opening::NotFound:
+        return m_line.argument(1).isEmpty() ? std::nullopt : std::make_optional(failMissing());
+    case ImportFile::Opening::Failed:
+        return fail(ExitStatus::Usage,
+                    QStringLiteral("'%1' cannot be opened: %2").arg(m_source.exportPath, error));
+    }
     const TextWidths widths = readTextWidths(site, error);
     if (widths.isEmpty())
         return fail(ExitStatus::ContractBroken, error);
@@ -150,7 +153,14 @@ std::optional<ExitStatus> ExplainRun::readExport(const QSqlDatabase &site)
         return std::nullopt;
     return fail(ExitStatus::Usage,
                 QStringLiteral("'%1' cannot be read to its end: %2")
-                    .arg(file.fileName(), file.errorString()));
+                    .arg(m_source.exportPath, m_lines->errorString()));
+}
+
+/// There is no such export, though the command line names it.
+ExitStatus ExplainRun::failMissing()
+{
+    return fail(ExitStatus::Usage,
+                QStringLiteral("There is no file '%1'").arg(m_source.exportPath));
 }
 
 ExitStatus ExplainRun::fail(ExitStatus status, const QString &sentence)

@@ -57,15 +57,7 @@ ExportCheck::ExportCheck(QFile &file, const TextWidths &widths)
 
 bool ExportCheck::run(const LineListener &listener)
 {
-    notePids();
-    if (m_file.error() != QFileDevice::NoError || !m_file.seek(0))
-        return false;
-    checkLines(listener);
-    // Seeking would forget the error.
-    if (m_file.error() != QFileDevice::NoError)
-        return false;
-    m_endsWithLineFeed = endsWithLineFeed();
-    return m_file.error() == QFileDevice::NoError;
+    return notePids() && rewind() && checkLines(listener) && lookAtEnd();
 }
 
 QVector<Finding> ExportCheck::fileFindings() const
@@ -92,13 +84,14 @@ QVector<Finding> ExportCheck::fileFindings() const
     return file.findings;
 }
 
-void ExportCheck::notePids()
+bool ExportCheck::notePids()
 {
     BoundedLineReader reader(m_file);
     while (reader.next()) {
         notePid(reader);
         tellProgress(m_file.pos());
     }
+    return !reader.hasFailed() || fail(reader.errorString());
 }
 
 /// Takes the two numbers only. A line that is dropped for another reason is noted, too; that does
@@ -116,7 +109,12 @@ void ExportCheck::notePid(const BoundedLineReader &reader)
         m_pids.note(record.getPid());
 }
 
-void ExportCheck::checkLines(const LineListener &listener)
+bool ExportCheck::rewind()
+{
+    return m_file.seek(0) || fail(m_file.errorString());
+}
+
+bool ExportCheck::checkLines(const LineListener &listener)
 {
     BoundedLineReader reader(m_file);
     qint64 checked = 0;
@@ -128,8 +126,11 @@ void ExportCheck::checkLines(const LineListener &listener)
         report(line, listener);
         tellProgress(m_size + m_file.pos());
     }
+    if (reader.hasFailed())
+        return fail(reader.errorString());
     reportTooLong(checked + 1, reader.lineNumber() + 1, listener);
     m_counts.lines = reader.lineNumber();
+    return true;
 }
 
 /// The reader tells of a line that is too long only by leaving out its number.
@@ -169,8 +170,16 @@ void ExportCheck::tellProgress(qint64 done) const
         m_progress(done, 2 * m_size);
 }
 
-bool ExportCheck::endsWithLineFeed()
+bool ExportCheck::lookAtEnd()
 {
     char last = '\n';
-    return m_size == 0 || (m_file.seek(m_size - 1) && m_file.getChar(&last) && last == '\n');
+    m_endsWithLineFeed =
+        m_size == 0 || (m_file.seek(m_size - 1) && m_file.getChar(&last) && last == '\n');
+    return m_file.error() == QFileDevice::NoError || fail(m_file.errorString());
+}
+
+bool ExportCheck::fail(const QString &reason)
+{
+    m_error = reason;
+    return false;
 }

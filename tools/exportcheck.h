@@ -29,8 +29,10 @@ public:
     void setProgressListener(const ProgressListener &listener) { m_progress = listener; }
 
     /// Reads the export and hands its lines to the listener, in their order, blank ones left out.
-    /// False when the export cannot be read to its end.
+    /// False when the export cannot be read to its end; errorString() then says why, a part of a
+    /// sentence without its full stop.
     bool run(const LineListener &listener);
+    QString errorString() const { return m_error; }
 
     const Counts &counts() const { return m_counts; }
 
@@ -38,14 +40,16 @@ public:
     QVector<Finding> fileFindings() const;
 
 private:
-    void notePids();
+    bool notePids();
     void notePid(const BoundedLineReader &reader);
-    void checkLines(const LineListener &listener);
+    bool rewind();
+    bool checkLines(const LineListener &listener);
     void reportTooLong(qint64 from, qint64 to, const LineListener &listener);
     void checkRepetition(CheckedLine &line);
     void report(const CheckedLine &line, const LineListener &listener);
     void tellProgress(qint64 done) const;
-    bool endsWithLineFeed();
+    bool lookAtEnd();
+    bool fail(const QString &reason);
 
     QFile &m_file;
     const LineCheck m_lineCheck;
@@ -54,4 +58,5 @@ private:
     ProgressListener m_progress;
     Counts m_counts;
     bool m_endsWithLineFeed = true;
+    QString m_error;
 };

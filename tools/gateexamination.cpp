@@ -14,6 +14,9 @@ namespace {
 
 constexpr int kPieceSize = 64 * 1024;
 
+const QLatin1String kCopy("The copy of HR's file");
+const QLatin1String kLastAdmitted("The last admitted file");
+
 bool hasRule(const QVector<Finding> &findings, const char *rule)
 {
     return std::any_of(findings.cbegin(), findings.cend(), [rule](const Finding &finding) {
@@ -73,9 +76,9 @@ bool GateExamination::compareContents(QFile &newFile, QFile &oldFile)
     }
     // Seeking forgets the error.
     if (newFile.error() != QFileDevice::NoError || !newFile.seek(0))
-        return failReading(newFile, QStringLiteral("The copy of HR's file"));
+        return failReading(kCopy, newFile.errorString());
     if (oldFile.error() != QFileDevice::NoError || !oldFile.seek(0))
-        return failReading(oldFile, QStringLiteral("The last admitted file"));
+        return failReading(kLastAdmitted, oldFile.errorString());
     return true;
 }
 
@@ -92,8 +95,7 @@ bool GateExamination::readOld(QFile &file, GateComparison &comparison)
         if (ExportLine::isUsable(record))
             comparison.addOld(record);
     }
-    return file.error() == QFileDevice::NoError
-        || failReading(file, QStringLiteral("The last admitted file"));
+    return !reader.hasFailed() || failReading(kLastAdmitted, reader.errorString());
 }
 
 bool GateExamination::readNew(QFile &file, GateComparison &comparison, RejectsText &rejects)
@@ -111,11 +113,11 @@ bool GateExamination::readNew(QFile &file, GateComparison &comparison, RejectsTe
     });
     m_facts.counts = check.counts();
     m_facts.endsOpen = hasRule(check.fileFindings(), "no-final-line-feed");
-    return isRead || failReading(file, QStringLiteral("The copy of HR's file"));
+    return isRead || failReading(kCopy, check.errorString());
 }
 
-bool GateExamination::failReading(const QFile &file, const QString &what)
+bool GateExamination::failReading(const QString &what, const QString &reason)
 {
-    m_error = QStringLiteral("%1 cannot be read: %2").arg(what, file.errorString());
+    m_error = QStringLiteral("%1 cannot be read to its end: %2").arg(what, reason);
     return false;
 }

@@ -30,7 +30,7 @@ private:
     bool compareContents(QFile &newFile, QFile &oldFile);
     bool readOld(QFile &file, GateComparison &comparison);
     bool readNew(QFile &file, GateComparison &comparison, RejectsText &rejects);
-    bool failReading(const QFile &file, const QString &what);
+    bool failReading(const QString &what, const QString &reason);
 
     GateFolder &m_folder;
     Console &m_console;

@@ -140,6 +140,15 @@ GateReason missing(const QString &path)
             false};
 }
 
+GateReason tooLong()
+{
+    return {
+        finding(Severity::Error, "file-too-long",
+                QStringLiteral("The file is longer than 1 GiB, and the plugin reads no further."),
+                QStringLiteral("Ask HR whether the export went wrong.")),
+        false};
+}
+
 GateReason changedMeanwhile()
 {
     return {finding(Severity::Error, "changed-meanwhile",

@@ -29,6 +29,7 @@ namespace GateJudgement {
 QVector<GateReason> judge(const GateFacts &facts, const GateLimits &limits, bool mayEndOpen);
 
 GateReason missing(const QString &path);
+GateReason tooLong();
 GateReason changedMeanwhile();
 GateReason justWritten(qint64 settleSeconds);
 GateReason busy();

@@ -121,6 +121,8 @@ std::optional<ExitStatus> GateRun::openSource()
     case GateSource::Outcome::Failed:
         return fail(m_source.errorString());
     }
+    if (m_source.isTooLong())
+        return refuse({GateJudgement::tooLong()});
     if (m_options.settleSeconds > 0 && m_source.age() < m_options.settleSeconds)
         return refuse({GateJudgement::justWritten(m_options.settleSeconds)});
     return std::nullopt;

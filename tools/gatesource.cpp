@@ -1,5 +1,7 @@
 #include "tools/gatesource.h"
 
+#include "worker/boundedlinereader.h"
+
 #include <cerrno>
 
 #include <fcntl.h>
@@ -36,25 +38,32 @@ GateSource::Outcome GateSource::open()
         return Outcome::Missing;
     if (fd < 0 || !m_file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)
         || ::fstat(fd, &m_opened) != 0) {
-        fail(qt_error_string(errno));
+        fail("cannot be read", qt_error_string(errno));
         return Outcome::Failed;
     }
     return S_ISREG(m_opened.st_mode) ? Outcome::Done : Outcome::Missing;
 }
 
+bool GateSource::isTooLong() const
+{
+    return m_opened.st_size > BoundedLineReader::kMostBytes;
+}
+
 bool GateSource::copyTo(QIODevice &target)
 {
     QByteArray piece(kPieceSize, Qt::Uninitialized);
-    for (;;) {
+    // One that grows meanwhile has changed, whatever is copied of it.
+    while (m_copied <= BoundedLineReader::kMostBytes) {
         const qint64 length = m_file.read(piece.data(), piece.size());
         if (length < 0)
-            return fail(m_file.errorString());
+            return fail("cannot be read to its end", m_file.errorString());
         if (length == 0)
-            return true;
+            break;
         if (target.write(piece.constData(), length) != length)
             return false;
         m_copied += length;
     }
+    return true;
 }
 
 bool GateSource::hasChanged() const
@@ -76,8 +85,8 @@ qint64 GateSource::age() const
     return modified().secsTo(QDateTime::currentDateTime());
 }
 
-bool GateSource::fail(const QString &reason)
+bool GateSource::fail(const char *whatIsNotPossible, const QString &reason)
 {
-    m_error = QStringLiteral("'%1' cannot be read: %2").arg(m_path, reason);
+    m_error = QStringLiteral("'%1' %2: %3").arg(m_path, QLatin1String(whatIsNotPossible), reason);
     return false;
 }

@@ -18,6 +18,8 @@ public:
 
     /// Missing when there is no such regular file.
     Outcome open();
+    /// Whether the plugin would not read the file to its end; see BoundedLineReader.
+    bool isTooLong() const;
     /// False when reading or writing fails; \a target's owner looks which it was.
     bool copyTo(QIODevice &target);
     /// Whether the file was written to or replaced since it was opened.
@@ -32,7 +34,7 @@ public:
     bool hasReadError() const { return !m_error.isEmpty(); }
 
 private:
-    bool fail(const QString &reason);
+    bool fail(const char *whatIsNotPossible, const QString &reason);
 
     const QString m_path;
     QFile m_file;

@@ -35,6 +35,7 @@ bool SoughtLines::find(QFile &file, const TextWidths &widths, Console &console)
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
     const bool read = check.run([this](const CheckedLine &line) { look(line); });
     m_count = check.counts().lines;
+    m_error = check.errorString();
     return read;
 }
 

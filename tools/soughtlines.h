@@ -21,8 +21,10 @@ public:
 
     explicit SoughtLines(const SoughtPerson &person);
 
-    /// Goes over the export. False when it cannot be read to its end; the file then says why.
+    /// Goes over the export. False when it cannot be read to its end; errorString() then says why,
+    /// a part of a sentence without its full stop.
     bool find(QFile &file, const TextWidths &widths, Console &console);
+    QString errorString() const { return m_error; }
 
     /// The lines that the plugin takes for the person's, or drops although the first two fields
     /// name the person.
@@ -47,4 +49,5 @@ private:
     qint64 m_more = 0;
     qint64 m_nameless = 0;
     qint64 m_count = 0;
+    QString m_error;
 };

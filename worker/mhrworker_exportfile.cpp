@@ -23,20 +23,21 @@ void MHRWorker::loadAndParseData()
     }
 
     const QString path = ImportFile::path(m_importFile);
-    const QFileInfo info(path);
     if (m_debugLevel > 2) {
         qInfo("MHRWorker::loadAndParseData() - loading data from file: '%s'",
-              qUtf8Printable(info.absoluteFilePath()));
+              qUtf8Printable(QFileInfo(path).absoluteFilePath()));
     }
-    if (!info.isFile()) {
+    QFile file;
+    QString error;
+    switch (ImportFile::open(path, file, error)) {
+    case ImportFile::Opening::Done:
+        break;
+    case ImportFile::Opening::NotFound:
         if (m_debugLevel >= 2) {
             qWarning("MHRWorker::loadAndParseData() - file '%s' NOT found!", qUtf8Printable(path));
         }
         return;
-    }
-
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    case ImportFile::Opening::Failed:
         qCritical("MHRWorker::loadAndParseData() - file '%s' not opened!", qUtf8Printable(path));
         return;
     }
@@ -44,7 +45,7 @@ void MHRWorker::loadAndParseData()
     // to know of it also where exports are kept anyway.
     const bool isRead = parseLines(file, fields);
     file.close();
-    if (!isRead || (m_deleteFileAfterImport && !file.remove()))
+    if (!isRead || (m_deleteFileAfterImport && !QFile::remove(path)))
         qWarning("MHRWorker::loadAndParseData() - file '%s' NOT removed!", qUtf8Printable(path));
 }
 

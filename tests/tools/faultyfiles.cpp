@@ -11,6 +11,7 @@
 //   FAULTY_TRACE    a file to which every call that counts is appended, a line each: its name and
 //                   the path of its file
 //   FAULTY_APPEND   a file to which a byte is appended when it is first read
+//   FAULTY_PIPE     a file that a pipe replaces when it is first opened
 //
 // Every function takes its kernel call itself, so that nothing comes between.
 
@@ -51,6 +52,7 @@ struct Faults {
     std::string folder = setting("FAULTY_FOLDER");
     std::string trace = setting("FAULTY_TRACE");
     std::string append = setting("FAULTY_APPEND");
+    std::string pipe = setting("FAULTY_PIPE");
     Kind least = leastKind();
     long call = std::atol(setting("FAULTY_CALL").c_str());
     int error = std::atoi(setting("FAULTY_ERROR").c_str());
@@ -97,6 +99,12 @@ void appendTo(const std::string &path, const std::string &text)
     ::syscall(SYS_close, file);
 }
 
+void replaceByPipe(const std::string &path)
+{
+    ::syscall(SYS_unlinkat, AT_FDCWD, path.c_str(), 0);
+    ::syscall(SYS_mknodat, AT_FDCWD, path.c_str(), S_IFIFO | 0600, 0);
+}
+
 [[noreturn]] void die()
 {
     for (;;)
@@ -132,6 +140,9 @@ bool fails(const char *name, const std::string &path, Kind kind)
 
 int openAt(int folder, const char *path, int flags, mode_t mode)
 {
+    Faults &all = faults();
+    if (!all.pipe.empty() && path == all.pipe)
+        replaceByPipe(std::exchange(all.pipe, {}));
     const Kind kind = (flags & O_CREAT) != 0 ? Kind::TakesSpace : Kind::Looks;
     const char *const name = (flags & O_CREAT) != 0 ? "create" : "open";
     return fails(name, pathAt(folder, path), kind) ? -1 : int(openFile(folder, path, flags, mode));

@@ -1,5 +1,6 @@
 #include "tests/tools/gatesite.h"
 #include "tests/tools/manual.h"
+#include "tools/gatesource.h"
 
 #include <QSet>
 #include <QtTest>
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void aTruncatedFileIsRefused();
     void aMissingFileIsRefused_data();
     void aMissingFileIsRefused();
+    void aFileOfMoreThanOneGibibyteIsRefused();
     void aFileThatWasJustWrittenIsRefused_data();
     void aFileThatWasJustWrittenIsRefused();
     void theFirstFileIsRefused();
@@ -412,6 +414,23 @@ void TestGate::aMissingFileIsRefused()
     QCOMPARE(run.findings()[0].toObject()["message"].toString(),
              QString("There is no file '%1'.").arg(path));
     QCOMPARE(m_site->status()["lastAdmitted"].toObject()["lines"].toInt(), 1);
+}
+
+void TestGate::aFileOfMoreThanOneGibibyteIsRefused()
+{
+    constexpr qint64 kMostBytes = qint64(1) << 30;
+    m_site->admit({Row()});
+    m_site->deliver(QVector<Row>{Row()});
+    GateSource source(m_site->hrFile());
+    QVERIFY(QFile::resize(m_site->hrFile(), kMostBytes));
+    QCOMPARE(source.open(), GateSource::Outcome::Done);
+    QVERIFY(!source.isTooLong());
+    QVERIFY(QFile::resize(m_site->hrFile(), kMostBytes + 1));
+    const ToolRun run = m_site->run({"--accept"});
+    compare(run, {"file-too-long"});
+    QCOMPARE(run.findings()[0].toObject()["message"].toString(),
+             QString("The file is longer than 1 GiB, and the plugin reads no further."));
+    QCOMPARE(m_site->copies().size(), 1);
 }
 
 void TestGate::aFileThatWasJustWrittenIsRefused_data()

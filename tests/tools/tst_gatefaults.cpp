@@ -1,4 +1,4 @@
-#include "tests/host/programrun.h"
+#include "tests/tools/faultyrun.h"
 #include "tests/tools/gatesite.h"
 #include "tools/gatestatus.h"
 
@@ -9,6 +9,8 @@
 #include <memory>
 
 namespace {
+
+using FaultyRun::Fault;
 
 constexpr int kKilled = 128 + SIGKILL;
 
@@ -70,27 +72,9 @@ QStringList arguments(const GateSite &site)
     return site.arguments({"--accept", "--keep", "1"});
 }
 
-/// What shall go wrong: see faultyfiles.cpp.
-struct Fault {
-    const char *counted = "all";
-    int call = 0;
-    int error = 0;
-    bool rest = false;
-};
-
 void runFaulty(ProgramRun &run, const GateSite &site, const Fault &fault)
 {
-    run.setVariable("LD_PRELOAD", MIROVAHR_FAULTYFILES);
-    // The library stands before that of the sanitizer. Looking for leaks takes longer than all
-    // else.
-    run.setVariable("ASAN_OPTIONS",
-                    qEnvironmentVariable("ASAN_OPTIONS")
-                        + ":verify_asan_link_order=0:detect_leaks=0");
-    run.setVariable("FAULTY_FOLDER", site.folder());
-    run.setVariable("FAULTY_COUNTED", fault.counted);
-    run.setVariable("FAULTY_CALL", QString::number(fault.call));
-    run.setVariable("FAULTY_ERROR", QString::number(fault.error));
-    run.setVariable("FAULTY_REST", fault.rest ? "1" : "0");
+    FaultyRun::prepare(run, site.folder(), fault);
     if (!run.run(MIROVAHRCTL, arguments(site)))
         qFatal("The program does not end: %s", run.report().constData());
 }
