@@ -20,6 +20,8 @@ private Q_SLOTS:
     void withoutRecordsNothingIsLoggedOrSent();
     void recordsAreTakenInTheOrderOfTheFile();
     void branchesAndFundAreLookedUpOncePerCycle();
+    void theKnownPeopleAreFreedAtTheEndOfTheCycle_data();
+    void theKnownPeopleAreFreedAtTheEndOfTheCycle();
     void aCycleGoesOnWithoutBranches();
     void aCycleGoesOnWhenTheFundCannotBeLookedUp();
 
@@ -161,6 +163,28 @@ void TestCycle::branchesAndFundAreLookedUpOncePerCycle()
         QCOMPARE(statements.count(Sent::branches()), 1);
         QCOMPARE(statements.count(Sent::fund()), 1);
     }
+}
+
+void TestCycle::theKnownPeopleAreFreedAtTheEndOfTheCycle_data()
+{
+    // Whose row was made a record of decides where the people are kept.
+    QTest::addColumn<bool>("isChanged");
+    QTest::newRow("some were looked for") << true;
+    QTest::newRow("nobody was looked for") << false;
+}
+
+void TestCycle::theKnownPeopleAreFreedAtTheEndOfTheCycle()
+{
+    QFETCH(bool, isChanged);
+    synchronise({jana(), peter()});
+    synchronise({isChanged ? jana().with(&ExportRow::telefon, "1") : jana(), peter()});
+    for (const quint32 pid : {12341U, 10021U, 10011U})
+        QVERIFY(!m_worker->knownPerson(pid));
+
+    // The next cycle loads them anew.
+    observe([this] { QVERIFY(m_worker->dbLoadPeople()); });
+    for (const quint32 pid : {12341U, 10021U, 10011U})
+        QVERIFY(m_worker->knownPerson(pid));
 }
 
 void TestCycle::aCycleGoesOnWithoutBranches()
