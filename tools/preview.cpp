@@ -4,6 +4,7 @@
 #include "plugin/configuration.h"
 #include "tools/commandline.h"
 #include "tools/console.h"
+#include "tools/outputfile.h"
 #include "tools/previewreport.h"
 #include "tools/previewserver.h"
 #include "tools/previewsql.h"
@@ -11,7 +12,6 @@
 #include "tools/report.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QSettings>
 
 namespace {
@@ -41,7 +41,7 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> readConfiguration();
-    std::optional<ExitStatus> openOutput(QSaveFile &file);
+    std::optional<ExitStatus> openOutput(OutputFile &file);
     bool isExport(const QString &path) const;
     ExitStatus commit(ExitStatus status);
     ExitStatus fail(ExitStatus status, const QString &sentence);
@@ -54,8 +54,8 @@ private:
     Console &m_console;
     Report m_report;
     const QString m_export;
-    QSaveFile m_sql;
-    QSaveFile m_log;
+    OutputFile m_sql;
+    OutputFile m_log;
     Configuration m_configuration;
 };
 
@@ -92,7 +92,7 @@ std::optional<ExitStatus> PreviewCommand::prepare()
     }
     if (const auto end = readConfiguration())
         return end;
-    for (QSaveFile *const file : {&m_sql, &m_log}) {
+    for (OutputFile *const file : {&m_sql, &m_log}) {
         if (const auto end = openOutput(*file))
             return end;
     }
@@ -112,7 +112,7 @@ std::optional<ExitStatus> PreviewCommand::readConfiguration()
     return std::nullopt;
 }
 
-std::optional<ExitStatus> PreviewCommand::openOutput(QSaveFile &file)
+std::optional<ExitStatus> PreviewCommand::openOutput(OutputFile &file)
 {
     if (file.fileName().isEmpty() || file.open(QIODevice::WriteOnly))
         return std::nullopt;
@@ -128,7 +128,7 @@ bool PreviewCommand::isExport(const QString &path) const
 
 ExitStatus PreviewCommand::commit(ExitStatus status)
 {
-    for (QSaveFile *const file : {&m_sql, &m_log}) {
+    for (OutputFile *const file : {&m_sql, &m_log}) {
         if (file->isOpen() && !file->commit()) {
             return fail(ExitStatus::Usage,
                         QStringLiteral("'%1' cannot be written: %2")

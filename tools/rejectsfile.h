@@ -1,8 +1,8 @@
 #pragma once
 
+#include "tools/outputfile.h"
 #include "tools/rejectstext.h"
 
-#include <QSaveFile>
 #include <QString>
 
 struct CheckedLine;
@@ -25,6 +25,6 @@ public:
     QString errorString() const { return m_file.errorString(); }
 
 private:
-    QSaveFile m_file;
+    OutputFile m_file;
     RejectsText m_text;
 };

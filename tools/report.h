@@ -1,8 +1,7 @@
 #pragma once
 
+#include "tools/outputfile.h"
 #include "tools/reportwriter.h"
-
-#include <QSaveFile>
 
 #include <memory>
 #include <optional>
@@ -41,7 +40,7 @@ private:
     ExitStatus failPage() const;
 
     Console &m_console;
-    QSaveFile m_page;
+    OutputFile m_page;
     std::vector<std::unique_ptr<ReportWriter>> m_writers;
     bool m_hasSeriousFindings = false;
 };
