@@ -23,10 +23,18 @@ bool isRoot()
     return ::geteuid() == 0;
 }
 
-bool isTrusted(const struct stat &folder)
+bool isPrivate(const struct stat &folder)
 {
     const bool owned = folder.st_uid == ::geteuid() || folder.st_uid == 0 || isRoot();
     return owned && (folder.st_mode & S_IWOTH) == 0;
+}
+
+/// A file that was there already, and that may be another one of root's, to which somebody has
+/// given one more name.
+bool hasOtherNames(int file)
+{
+    struct stat status = {};
+    return ::fstat(file, &status) != 0 || status.st_nlink > 1;
 }
 
 } // namespace
@@ -43,7 +51,16 @@ bool GateFolder::open(const QString &path)
 {
     m_path = QDir::cleanPath(path);
     struct stat status = {};
-    return openFolder(0, status);
+    return openFolder(0, status) && isOwnerTrusted();
+}
+
+bool GateFolder::openAgain(const GateFolder &folder)
+{
+    m_path = folder.m_path;
+    m_owner = folder.m_owner;
+    m_group = folder.m_group;
+    m_fd = ::fcntl(folder.m_fd, F_DUPFD_CLOEXEC, 0);
+    return m_fd >= 0 || fail(m_path, "cannot be opened as a folder");
 }
 
 bool GateFolder::openPrivate(const QString &path)
@@ -53,10 +70,10 @@ bool GateFolder::openPrivate(const QString &path)
     if (!made && errno != EEXIST)
         return fail(m_path, "cannot be made");
     struct stat status = {};
-    if (!openFolder(O_NOFOLLOW, status) || (made && !takeOwnerOfParent()))
+    if (!openFolder(O_NOFOLLOW, status) || !isOwnerTrusted())
         return false;
-    if (isTrusted(status))
-        return true;
+    if (isPrivate(status))
+        return !made || takeOwnerOfParent();
     m_error = QStringLiteral("The folder '%1' belongs to somebody else, or everybody may write "
                              "there: what the gate keeps would be worth nothing")
                   .arg(m_path);
@@ -72,6 +89,22 @@ bool GateFolder::openFolder(int flags, struct stat &status)
     m_owner = status.st_uid;
     m_group = status.st_gid;
     return true;
+}
+
+bool GateFolder::isOwnerTrusted()
+{
+    if (!isRoot() || m_owner == 0)
+        return true;
+    struct stat parent = {};
+    if (::fstatat(m_fd, "..", &parent, 0) != 0)
+        return fail(m_path, "cannot be judged by the folder above");
+    if (m_owner == parent.st_uid)
+        return true;
+    m_error = QStringLiteral("The folder '%1' belongs neither to root nor to the owner of the "
+                             "folder above, so anybody may have made it. Run the gate as its owner "
+                             "if that is right, or give the folder to root")
+                  .arg(m_path);
+    return false;
 }
 
 /// Root runs the gate by hand where the attendance server's user runs it otherwise, and must not
@@ -90,7 +123,8 @@ GateFolder::Lock GateFolder::lock(const QString &name)
 {
     m_lockFd = ::openat(m_fd, QFile::encodeName(name).constData(),
                         O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kPrivateFile);
-    if (m_lockFd >= 0 && giveToOwner(m_lockFd) && ::flock(m_lockFd, LOCK_EX | LOCK_NB) == 0)
+    const bool isGiven = m_lockFd >= 0 && (hasOtherNames(m_lockFd) || giveToOwner(m_lockFd));
+    if (isGiven && ::flock(m_lockFd, LOCK_EX | LOCK_NB) == 0)
         return Lock::Taken;
     if (m_lockFd >= 0 && errno == EWOULDBLOCK)
         return Lock::Busy;

@@ -13,6 +13,9 @@
 /// A folder in which the gate keeps or publishes files. It is opened once, and files are named in
 /// it from then on: whoever moves the folder or puts a link in its place changes nothing.
 ///
+/// Root gives its files to the owner of the folder. That must be root or the owner of the folder
+/// above: where others may write, anybody may have made a folder beforehand.
+///
 /// Functions that return false leave a sentence without its full stop in errorString().
 class GateFolder {
 public:
@@ -25,6 +28,9 @@ public:
 
     /// Opens a folder that is there.
     bool open(const QString &path);
+
+    /// Opens the folder that the other object has opened, wherever its path leads by now.
+    bool openAgain(const GateFolder &folder);
 
     /// Opens the folder of the gate's own files, which must be no link, belong to this user or to
     /// root and not be writable for everybody. Makes it when it is missing.
@@ -62,6 +68,7 @@ private:
 
     bool openFolder(int flags, struct stat &status);
     bool takeOwnerOfParent();
+    bool isOwnerTrusted();
     bool isLeftover(const QString &entry, const QString &name) const;
     /// Nothing unless this is root.
     bool giveToOwner(int file) const;

@@ -72,8 +72,9 @@ std::optional<ExitStatus> GateRun::openFolders()
         || !m_folder.removeLeftovers(GateRecord::fileName()) || !m_record.readLast(m_folder))
         return fail(m_folder.errorString());
     const QFileInfo rejects(m_options.rejects);
-    if (!m_rejectsFolder.open(rejects.path())
-        || !m_rejectsFolder.removeLeftovers(rejects.fileName()))
+    const bool isOpen = m_line.isSet("rejects") ? m_rejectsFolder.open(rejects.path())
+                                                : m_rejectsFolder.openAgain(m_folder);
+    if (!isOpen || !m_rejectsFolder.removeLeftovers(rejects.fileName()))
         return fail(m_rejectsFolder.errorString());
     if (!m_publication.open())
         return fail(m_publication.errorString());

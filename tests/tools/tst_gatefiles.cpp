@@ -1,5 +1,6 @@
 #include "tests/tools/gatesite.h"
 #include "tools/gatecopies.h"
+#include "tools/gatefile.h"
 #include "tools/gatefolder.h"
 #include "tools/gatesource.h"
 #include "tools/gatestatus.h"
@@ -139,6 +140,12 @@ private Q_SLOTS:
     void anUntrustworthyFolderIsAFailure_data();
     void anUntrustworthyFolderIsAFailure();
     void aFolderOfAnotherUserIsAFailure();
+    void rootLeavesNothingInAFolderThatSomebodyElseMade_data();
+    void rootLeavesNothingInAFolderThatSomebodyElseMade();
+    void aFolderOfTheOwnerOfTheFolderAboveIsTrusted();
+    void aFolderIsMadeInOneThatEverybodyMayWriteTo();
+    void anotherFileOfRootsWithTheNameOfTheLockStaysRoots();
+    void theRejectsLieInTheFolderThatWasJudged();
     void aFolderThatCannotBeWrittenIsAFailure();
     void aSecondGateIsRefused();
     void theLockGoesWithTheRun();
@@ -600,6 +607,97 @@ void TestGateFiles::aFolderOfAnotherUserIsAFailure()
     if (isRoot)
         QVERIFY(folder.errorString().startsWith("The folder '" + stranger
                                                 + "' belongs to somebody else, or "));
+}
+
+void TestGateFiles::rootLeavesNothingInAFolderThatSomebodyElseMade_data()
+{
+    QTest::addColumn<QString>("folder"); // in the site's folder
+    QTest::addColumn<int>("modeAbove");
+    for (const int mode : {0755, 0777, 01777}) {
+        QTest::addRow("the state, above it %o", mode) << "state" << mode;
+        QTest::addRow("that of the plugin, above it %o", mode) << "plugin" << mode;
+        QTest::addRow("that of the rejects, above it %o", mode) << "rejects" << mode;
+    }
+}
+
+void TestGateFiles::rootLeavesNothingInAFolderThatSomebodyElseMade()
+{
+    QFETCH(QString, folder);
+    QFETCH(int, modeAbove);
+    const QString path = m_site->folder() + '/' + folder;
+    const bool isRoot = ::geteuid() == 0;
+    QDir().mkdir(path);
+    setPermissions(m_site->folder(), mode_t(modeAbove));
+    if (isRoot)
+        giveTo(kNobody, {path});
+    m_site->deliver(QByteArray("broken\n") + GatePeople::file(GatePeople::some(1)));
+    QStringList options{"--accept"};
+    if (folder == "rejects")
+        options << "--rejects" << path + "/rejects.txt";
+    const ToolRun run = m_site->run(options);
+    // Anybody else has made the folder.
+    COMPARE_EXIT(run, isRoot ? ExitStatus::Usage : ExitStatus::Fine);
+    QCOMPARE(m_site->names(path).isEmpty(), isRoot);
+    QCOMPARE(m_site->isPublished(), !isRoot);
+    if (isRoot)
+        QCOMPARE(run.err,
+                 QString("mirovahrctl: gate: The folder '%1' belongs neither to root nor to the "
+                         "owner of the folder above, so anybody may have made it. Run the gate as "
+                         "its owner if that is right, or give the folder to root. Nothing was "
+                         "published.\n")
+                     .arg(path));
+}
+
+void TestGateFiles::aFolderOfTheOwnerOfTheFolderAboveIsTrusted()
+{
+    const uid_t owner = ::geteuid() == 0 ? kNobody : ::geteuid();
+    QVERIFY(QDir().mkdir(m_site->state()));
+    giveTo(owner, {m_site->folder(), m_site->state(), QFileInfo(m_site->target()).path()});
+    m_site->deliver(GatePeople::some(1));
+    COMPARE_EXIT(m_site->run({"--accept"}), ExitStatus::Fine);
+    COMPARE_EXIT(m_site->run(), ExitStatus::Fine);
+    QCOMPARE(statusOf(m_site->inState("admitted.data")).st_uid, owner);
+}
+
+void TestGateFiles::aFolderIsMadeInOneThatEverybodyMayWriteTo()
+{
+    setPermissions(m_site->folder(), 01777);
+    m_site->deliver(GatePeople::some(1));
+    COMPARE_EXIT(m_site->run({"--accept"}), ExitStatus::Fine);
+    COMPARE_EXIT(m_site->run(), ExitStatus::Fine);
+    QCOMPARE(statusOf(m_site->state()).st_uid, ::geteuid());
+}
+
+void TestGateFiles::anotherFileOfRootsWithTheNameOfTheLockStaysRoots()
+{
+    const uid_t owner = ::geteuid() == 0 ? kNobody : ::geteuid();
+    const QString other = m_site->folder() + "/other";
+    QVERIFY(QDir().mkdir(m_site->state()));
+    writeFile(other, "another file");
+    QCOMPARE(::link(QFile::encodeName(other).constData(),
+                    QFile::encodeName(m_site->inState("lock")).constData()),
+             0);
+    giveTo(owner, {m_site->folder(), m_site->state(), QFileInfo(m_site->target()).path()});
+    m_site->deliver(GatePeople::some(1));
+    COMPARE_EXIT(m_site->run({"--accept"}), ExitStatus::Fine);
+    QCOMPARE(statusOf(other).st_uid, ::geteuid());
+    QCOMPARE(contentOf(other), QByteArray("another file"));
+}
+
+void TestGateFiles::theRejectsLieInTheFolderThatWasJudged()
+{
+    QVERIFY(QDir().mkdir(m_site->state()));
+    GateFolder judged;
+    QVERIFY(judged.openPrivate(m_site->state()));
+    // Somebody who may write to the folder above is quick.
+    QVERIFY(QDir().rename(m_site->state(), m_site->folder() + "/moved"));
+    QVERIFY(QDir().mkdir(m_site->state()));
+    GateFolder same;
+    QVERIFY(same.openAgain(judged));
+    GateFile file(same, "rejects.txt", 0640);
+    QVERIFY(file.create() && file.finish() && file.putInPlace());
+    QCOMPARE(m_site->names(m_site->folder() + "/moved"), QStringList("rejects.txt"));
+    QCOMPARE(m_site->names(m_site->state()), QStringList());
 }
 
 void TestGateFiles::aFolderThatCannotBeWrittenIsAFailure()
