@@ -48,6 +48,7 @@ ExitStatus HostSession::run()
     printInfo(QStringLiteral("The plugin is started."));
     const auto status = static_cast<ExitStatus>(QCoreApplication::exec());
     m_plugin.server()->stop();
+    m_watch.letGo();
     m_plugin.unload();
     printInfo(QStringLiteral("The plugin is unloaded."));
     return status;

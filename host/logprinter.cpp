@@ -11,6 +11,7 @@ namespace {
 std::mutex g_mutex; // a message may be on its way in another thread at any time
 bool g_printDebug = true;
 LogPrinter::Observer g_observer;
+QLoggingCategory::CategoryFilter g_outerFilter = nullptr;
 
 bool isQuiet(QtMsgType type)
 {
@@ -34,7 +35,8 @@ const char *levelName(QtMsgType type)
     Q_UNREACHABLE();
 }
 
-void print(QtMsgType type, const QMessageLogContext &, const QString &text)
+/// Prints the message if it is to be printed. Returns who wants to know of it.
+LogPrinter::Observer print(QtMsgType type, const QString &text)
 {
     const std::lock_guard<std::mutex> lock(g_mutex);
     if (!isQuiet(type) || g_printDebug) {
@@ -42,8 +44,28 @@ void print(QtMsgType type, const QMessageLogContext &, const QString &text)
         std::fprintf(stream, "%-8s  %s\n", levelName(type), text.toUtf8().constData());
         std::fflush(stream);
     }
-    if (g_observer) {
-        g_observer(text);
+    return g_observer;
+}
+
+void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    const LogPrinter::Observer observer = print(type, text);
+    if (observer) {
+        observer(text);
+    }
+}
+
+/// The log of the plugin is what this program is for: no rule of the system or of the environment
+/// (QT_LOGGING_RULES) takes anything out of it.
+void letThrough(QLoggingCategory *category)
+{
+    if (g_outerFilter != nullptr) {
+        g_outerFilter(category);
+    }
+    if (qstrcmp(category->categoryName(), "default") == 0) {
+        for (const QtMsgType type : {QtDebugMsg, QtInfoMsg, QtWarningMsg, QtCriticalMsg}) {
+            category->setEnabled(type, true);
+        }
     }
 }
 
@@ -56,14 +78,14 @@ LogPrinter::LogPrinter(bool printDebug, const Observer &observer)
         g_printDebug = printDebug;
         g_observer = observer;
     }
-    // Some systems ship a rule that turns debug messages off.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=true\ndefault.info=true"));
-    qInstallMessageHandler(print);
+    g_outerFilter = QLoggingCategory::installFilter(letThrough);
+    qInstallMessageHandler(handle);
 }
 
 LogPrinter::~LogPrinter()
 {
     qInstallMessageHandler(nullptr);
+    QLoggingCategory::installFilter(g_outerFilter);
     const std::lock_guard<std::mutex> lock(g_mutex);
     g_observer = nullptr;
 }

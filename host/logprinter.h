@@ -9,8 +9,8 @@
 /// error. One object at a time.
 class LogPrinter {
 public:
-    /// Called with the text of every message, printed or not, in the thread that logs it.
-    /// It must not log anything itself.
+    /// Called with the text of every message, printed or not, in the thread that logs it, which
+    /// goes on when it returns. It must not log anything itself.
     using Observer = std::function<void(const QString &text)>;
 
     /// Prints debug and info messages only with printDebug. The observer may be empty.

@@ -2,6 +2,8 @@
 
 #include "host/exitstatus.h"
 
+#include <QThread>
+
 namespace {
 
 struct TellingMessage {
@@ -24,7 +26,15 @@ void SynchronizationWatch::inspect(const QString &message)
 {
     for (const TellingMessage &telling : kTellingMessages) {
         if (message.startsWith(QLatin1String(telling.begin)) && !m_over.exchange(true)) {
-            Q_EMIT over(static_cast<int>(telling.status));
+            tell(static_cast<int>(telling.status));
         }
+    }
+}
+
+void SynchronizationWatch::tell(int exitStatus)
+{
+    Q_EMIT over(exitStatus);
+    if (QThread::currentThread() != thread()) {
+        m_stopped.acquire();
     }
 }

@@ -42,6 +42,8 @@ private Q_SLOTS:
 
     void onceBringsAPersonIntoTheDatabase();
     void onceIsSuccessfulWithoutAnExportFile();
+    void onceEndsBeforeATickThatIsOverdue();
+    void onceEndsWhateverTheEnvironmentSaysOfTheLog();
     void atDebugLevel0OnlyWarningsArePrinted();
     void warningsGoToStandardErrorAndTheRestToStandardOutput();
     void thePasswordCanComeFromTheEnvironment();
@@ -239,6 +241,25 @@ void TestYavHost::onceIsSuccessfulWithoutAnExportFile()
     QVERIFY(host.run(kHost, arguments({"--once"})));
     COMPARE_STATUS(host, 0);
     QCOMPARE(host.errors(), QString());
+}
+
+void TestYavHost::onceEndsBeforeATickThatIsOverdue()
+{
+    // The export takes longer than a tick, and every tick synchronises.
+    writeIni("syncInterval=1\nsyncCommand=sleep 2\nsyncCommandRun=2");
+    ProgramRun host;
+    QVERIFY(host.run(kHost, arguments({"--once"})));
+    COMPARE_STATUS(host, 0);
+    QCOMPARE(host.output().count("BEGIN synchronization"), 1);
+}
+
+void TestYavHost::onceEndsWhateverTheEnvironmentSaysOfTheLog()
+{
+    ProgramRun host;
+    host.setVariable("QT_LOGGING_RULES", "*.debug=false;default.info=false");
+    QVERIFY(host.run(kHost, arguments({"--once"})));
+    COMPARE_STATUS(host, 0);
+    QVERIFY(host.output().contains("debug     MHRWorker: END synchronization #1"));
 }
 
 void TestYavHost::atDebugLevel0OnlyWarningsArePrinted()
