@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr ExitStatus kAll[] = {ExitStatus::Success,    ExitStatus::Usage,      ExitStatus::NoPlugin,
+constexpr ExitStatus kAll[] = {ExitStatus::Success,    ExitStatus::NoPlugin,   ExitStatus::Usage,
                                ExitStatus::NoDatabase, ExitStatus::NotStarted, ExitStatus::Disabled,
                                ExitStatus::NoPeople,   ExitStatus::Interrupted};
 
@@ -15,10 +15,10 @@ QString exitStatusSentence(ExitStatus status)
     switch (status) {
     case ExitStatus::Success:
         return QStringLiteral("Everything went well");
-    case ExitStatus::Usage:
-        return QStringLiteral("The command line is not understood");
     case ExitStatus::NoPlugin:
         return QStringLiteral("The library is not a plugin of the attendance server");
+    case ExitStatus::Usage:
+        return QStringLiteral("The command line is not understood");
     case ExitStatus::NoDatabase:
         return QStringLiteral("The attendance database could not be opened");
     case ExitStatus::NotStarted:

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "cli/exitstatus.h"
+
 #include <QString>
 
 /// How yavhost ends; the numbers are part of its --help.
 enum class ExitStatus {
-    Success = 0,
-    Usage = 1, ///< the command line does not make sense
-    NoPlugin = 2, ///< the library is not a plugin of the attendance server
-    NoDatabase = 3, ///< the database could not be opened
+    Success = CommonStatus::kSuccess,
+    NoPlugin = 1, ///< the library is not a plugin of the attendance server
+    Usage = CommonStatus::kUsage,
+    NoDatabase = CommonStatus::kNoDatabase,
     NotStarted = 4, ///< the plugin reported that it could not start
     Disabled = 5, ///< the plugin's INI file disables it
     NoPeople = 6, ///< the plugin could not load the people from the database

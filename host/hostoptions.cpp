@@ -1,6 +1,7 @@
 #include "host/hostoptions.h"
 
 #include "cli/numberoption.h"
+#include "cli/standardoptions.h"
 #include "host/exitstatus.h"
 
 #include <QCommandLineParser>
@@ -34,8 +35,7 @@ QString description()
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(description());
-    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                      QStringLiteral("Print this help, and end.")});
+    StandardOptions::addTo(parser);
     parser.addPositionalArgument(QStringLiteral("library"),
                                  QStringLiteral("The plugin, libmirovahr.so."));
     parser.addOption({QStringLiteral("version-info"),
@@ -78,8 +78,10 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     ParsedCommandLine result;
     if (!parser.parse(arguments)) {
         result.error = parser.errorText();
-    } else if (parser.isSet(QStringLiteral("help"))) {
-        result.help = parser.helpText();
+    } else if (StandardOptions::wantsHelp(parser, arguments)) {
+        result.answer = parser.helpText();
+    } else if (StandardOptions::wantsVersion(parser)) {
+        result.answer = StandardOptions::versionText(QStringLiteral("yavhost")) + QLatin1Char('\n');
     } else {
         result.error = readOptions(parser, result.options);
     }

@@ -16,8 +16,8 @@ struct HostOptions {
 
 /// The outcome of reading a command line.
 struct ParsedCommandLine {
-    HostOptions options; ///< of use only when help and error are empty
-    QString help; ///< the help text, when it was asked for
+    HostOptions options; ///< of use only when answer and error are empty
+    QString answer; ///< the help text or the version, with a line feed, when it was asked for
     QString error; ///< what does not make sense, if anything does not
 };
 

@@ -51,8 +51,8 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     const ParsedCommandLine commandLine = parseCommandLine(QCoreApplication::arguments());
-    if (!commandLine.help.isEmpty()) {
-        std::fputs(qUtf8Printable(commandLine.help), stdout);
+    if (!commandLine.answer.isEmpty()) {
+        std::fputs(qUtf8Printable(commandLine.answer), stdout);
         return 0;
     }
     if (!commandLine.error.isEmpty()) {

@@ -1,6 +1,7 @@
 #include "tools/commandline.h"
 
 #include "cli/databaseoptions.h"
+#include "cli/standardoptions.h"
 #include "tools/console.h"
 
 namespace {
@@ -18,8 +19,7 @@ CommandLine::CommandLine(const char *subcommand, const char *description)
     : m_subcommand(text(subcommand))
     , m_description(text(description))
 {
-    m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                        QStringLiteral("Print this help, and end.")});
+    StandardOptions::addTo(m_parser);
 }
 
 void CommandLine::addArgument(const char *name, const char *description)
@@ -69,6 +69,10 @@ std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, Conso
     const bool understood = m_parser.parse(QStringList(m_subcommand) + arguments);
     if (understood && m_parser.isSet(QStringLiteral("help"))) {
         console.print(helpText());
+        return ExitStatus::Fine;
+    }
+    if (understood && StandardOptions::wantsVersion(m_parser)) {
+        console.print(StandardOptions::versionText(QStringLiteral("mirovahrctl")));
         return ExitStatus::Fine;
     }
     const QString error = understood ? argumentError() : m_parser.errorText();

@@ -35,11 +35,12 @@ public:
     void addOption(const char *name, const char *valueName, const char *description);
     /// --json, and --html where the page for HR is offered.
     void addReportOptions(Page page);
-    /// The options that name the attendance database, and the password's variable.
+    /// The options that name the attendance database, and where else the program finds it.
     void addDatabaseOptions();
 
-    /// Reads the arguments. Has a status when the subcommand must end with it: the help was asked
-    /// for and printed, or the arguments make no sense, which was said on the console.
+    /// Reads the arguments. Has a status when the subcommand must end with it: the help or the
+    /// version was asked for and printed, or the arguments make no sense, which was said on the
+    /// console.
     std::optional<ExitStatus> parse(const QStringList &arguments, Console &console);
 
     /// The name of the subcommand.

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "cli/exitstatus.h"
+
 #include <QString>
 
 /// How mirovahrctl ends. Scripts and monitoring rely on the numbers: they are part of the help text
 /// and of the manual, and never change their meaning.
 enum class ExitStatus {
-    Fine = 0, ///< nothing to object to
+    Fine = CommonStatus::kSuccess, ///< nothing to object to
     Findings = 1, ///< there is something that a person should look at
-    Usage = 2, ///< the command line, a file that it names or the configuration is of no use
-    NoDatabase = 3, ///< the database cannot be reached or used
+    /// The command line, a file that it names or the configuration is of no use.
+    Usage = CommonStatus::kUsage,
+    NoDatabase = CommonStatus::kNoDatabase, ///< the database cannot be reached or used
     ContractBroken = 4, ///< the database is not what the plugin relies on
     GuardTripped = 5, ///< a guard refused what was asked for; nothing was changed
 };

@@ -1,5 +1,6 @@
 #include "tools/subcommand.h"
 
+#include "cli/standardoptions.h"
 #include "tools/checkconfig.h"
 #include "tools/checkdb.h"
 #include "tools/checkfile.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 
 namespace {
+
 
 QString overview()
 {
@@ -31,11 +33,41 @@ QString overview()
                      .arg(QLatin1String(subcommand.summary));
     }
     lines << QString()
-          << QStringLiteral("  mirovahrctl SUBCOMMAND --help   what it does and its options")
-          << QStringLiteral("  mirovahrctl --help              this overview")
-          << QStringLiteral("  mirovahrctl --version           the version") << QString()
+          << QStringLiteral("  mirovahrctl help SUBCOMMAND   what it does and its options")
+          << QStringLiteral("  mirovahrctl help              this overview")
+          << QStringLiteral("  mirovahrctl --version         the version") << QString()
           << exitStatusHelp();
     return lines.join(QLatin1Char('\n'));
+}
+
+ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Console &console)
+{
+    const auto &all = subcommands();
+    const auto found =
+        std::find_if(all.cbegin(), all.cend(), [&name](const Subcommand &subcommand) {
+            return name == QLatin1String(subcommand.name);
+        });
+    if (found != all.cend())
+        return found->run(arguments, console);
+    return console.fail(
+        ExitStatus::Usage,
+        name.isEmpty()
+            ? QStringLiteral("Name a subcommand; --help lists them")
+            : QStringLiteral("There is no subcommand '%1'; --help lists them").arg(name));
+}
+
+ExitStatus runHelp(const QStringList &arguments, Console &console)
+{
+    if (arguments.isEmpty()) {
+        console.print(overview());
+        return ExitStatus::Fine;
+    }
+    if (arguments.size() > 1) {
+        return console.fail(
+            ExitStatus::Usage,
+            QStringLiteral("'%1' is one argument too many for help").arg(arguments.at(1)));
+    }
+    return runSubcommand(arguments.constFirst(), {QStringLiteral("--help")}, console);
 }
 
 } // namespace
@@ -63,21 +95,11 @@ ExitStatus runMirovahrctl(const QStringList &arguments, Console &console)
         console.print(overview());
         return ExitStatus::Fine;
     }
-    if (name == QLatin1String("--version")) {
-        console.print(QStringLiteral("mirovahrctl " MIROVAHR_VERSION));
+    if (name == QLatin1String("help"))
+        return runHelp(arguments.mid(1), console);
+    if (name == QLatin1String("--version") || name == QLatin1String("-v")) {
+        console.print(StandardOptions::versionText(QStringLiteral("mirovahrctl")));
         return ExitStatus::Fine;
     }
-    const auto &all = subcommands();
-    const auto found =
-        std::find_if(all.cbegin(), all.cend(), [&name](const Subcommand &subcommand) {
-            return name == QLatin1String(subcommand.name);
-        });
-    if (found == all.cend()) {
-        return console.fail(
-            ExitStatus::Usage,
-            name.isEmpty()
-                ? QStringLiteral("Name a subcommand; --help lists them")
-                : QStringLiteral("There is no subcommand '%1'; --help lists them").arg(name));
-    }
-    return found->run(arguments.mid(1), console);
+    return runSubcommand(name, arguments.mid(1), console);
 }

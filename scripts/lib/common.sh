@@ -27,6 +27,20 @@ fail()
     exit 1
 }
 
+# usage ARGUMENTS: ends a script that was called otherwise than with these.
+usage()
+{
+    printf 'usage: %s %s\n' "$script" "$*" >&2
+    exit 2
+}
+
+# The comment at the head of a script is its help text.
+case ${1:-} in
+    -h | --help | help)
+        sed -n '3,/^[^#]*$/s/^# \{0,1\}//p' "$0"
+        exit ;;
+esac
+
 # quietly COMMAND...: shows what COMMAND prints only when it fails.
 quietly()
 {

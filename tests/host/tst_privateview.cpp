@@ -197,7 +197,7 @@ void TestPrivateView::theExitStatusIsThatOfTheCommand_data()
     QTest::newRow("failure") << QStringList{"sh", "-c", "exit 7"} << 7;
     QTest::newRow("ended by a signal") << QStringList{"sh", "-c", "kill -KILL $$"} << 128 + SIGKILL;
     QTest::newRow("no such command") << QStringList{"/nowhere/command"} << 127;
-    QTest::newRow("no command at all") << QStringList() << 125;
+    QTest::newRow("no command at all") << QStringList() << 2;
 }
 
 void TestPrivateView::theExitStatusIsThatOfTheCommand()

@@ -127,8 +127,8 @@ void TestYavHost::helpNamesTheOptionsAndEveryExitStatus()
           "--connect-options <options>", "YAVHOST_PASSWORD", "leave CLIENT_FOUND_ROWS off",
           "SIGUSR1 pauses it, SIGUSR2 resumes it",
           "  0  Everything went well\n"
-          "  1  The command line is not understood\n"
-          "  2  The library is not a plugin of the attendance server\n"
+          "  1  The library is not a plugin of the attendance server\n"
+          "  2  The command line is not understood\n"
           "  3  The attendance database could not be opened\n"
           "  4  The plugin could not start\n"
           "  5  The plugin is disabled by its INI file\n"
@@ -189,7 +189,7 @@ void TestYavHost::aCommandLineThatMakesNoSenseIsRefused()
     QFETCH(QString, reason);
     ProgramRun host;
     QVERIFY(host.run(kHost, arguments));
-    COMPARE_STATUS(host, 1);
+    COMPARE_STATUS(host, 2);
     QCOMPARE(host.errors(),
              QStringLiteral("yavhost: The command line is not understood: %1.\n").arg(reason));
     QCOMPARE(host.output(), QString());
@@ -217,7 +217,7 @@ void TestYavHost::aLibraryThatIsNoPluginOfTheServerIsRefused()
          {QStringList{"--version-info", library}, QStringList{library} + databaseArguments()}) {
         ProgramRun host;
         QVERIFY(host.run(kHost, arguments));
-        COMPARE_STATUS(host, 2);
+        COMPARE_STATUS(host, 1);
         QCOMPARE(host.errors(), expected.arg(reason));
     }
 }

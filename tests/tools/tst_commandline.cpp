@@ -10,6 +10,11 @@ class TestCommandLine : public QObject {
 
 private Q_SLOTS:
     void theOverviewNamesEverySubcommandAndStatus();
+    void helpIsAWordToo();
+    void helpIsThatOfTheSubcommand_data();
+    void helpIsThatOfTheSubcommand();
+    void helpTakesOneSubcommand();
+    void theVersionIsPrinted_data();
     void theVersionIsPrinted();
     void withoutASubcommandThereIsNothingToDo();
     void anUnknownSubcommandIsRefused();
@@ -58,9 +63,48 @@ void TestCommandLine::theOverviewNamesEverySubcommandAndStatus()
     }
 }
 
+void TestCommandLine::helpIsAWordToo()
+{
+    const ToolRun run = runTool({"help"});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.out, runTool({"--help"}).out);
+}
+
+void TestCommandLine::helpIsThatOfTheSubcommand_data()
+{
+    addSubcommands();
+}
+
+void TestCommandLine::helpIsThatOfTheSubcommand()
+{
+    QFETCH(QString, name);
+    const ToolRun run = runTool({"help", name});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.out, runTool({name, "--help"}).out);
+}
+
+void TestCommandLine::helpTakesOneSubcommand()
+{
+    const ToolRun unknown = runTool({"help", "chek-file"});
+    COMPARE_EXIT(unknown, ExitStatus::Usage);
+    QCOMPARE(unknown.err,
+             QString("mirovahrctl: There is no subcommand 'chek-file'; --help lists them.\n"));
+    COMPARE_EXIT(runTool({"help", "gate", "force"}), ExitStatus::Usage);
+}
+
+void TestCommandLine::theVersionIsPrinted_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("--version") << QStringList{"--version"};
+    QTest::newRow("-v") << QStringList{"-v"};
+    for (const Subcommand &subcommand : subcommands())
+        QTest::newRow(subcommand.name) << QStringList{subcommand.name, "--version"};
+}
+
 void TestCommandLine::theVersionIsPrinted()
 {
-    const ToolRun run = runTool({"--version"});
+    QFETCH(QStringList, arguments);
+    const ToolRun run = runTool(arguments);
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.out, QString("mirovahrctl 1.5.3\n"));
 }

@@ -1,0 +1,31 @@
+#include "cli/standardoptions.h"
+
+#include <QCommandLineParser>
+
+namespace StandardOptions {
+
+void addTo(QCommandLineParser &parser)
+{
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
+                      QStringLiteral("Print this help, and end.")});
+    parser.addOption({{QStringLiteral("v"), QStringLiteral("version")},
+                      QStringLiteral("Print the version, and end.")});
+}
+
+bool wantsHelp(const QCommandLineParser &parser, const QStringList &arguments)
+{
+    return parser.isSet(QStringLiteral("help"))
+        || arguments.mid(1) == QStringList(QStringLiteral("help"));
+}
+
+bool wantsVersion(const QCommandLineParser &parser)
+{
+    return parser.isSet(QStringLiteral("version"));
+}
+
+QString versionText(const QString &program)
+{
+    return program + QStringLiteral(" " MIROVAHR_VERSION);
+}
+
+} // namespace StandardOptions
