@@ -2,6 +2,7 @@
 
 #include "tools/gatefile.h"
 #include "tools/gatefolder.h"
+#include "tools/moment.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,17 +16,15 @@ const QLatin1String kOverridden("overridden");
 /// For everybody who may enter the folder: there is nobody's name in it.
 constexpr mode_t kPermissions = 0644;
 
-/// With the offset of the local zone.
 QString now()
 {
-    const QDateTime time = QDateTime::currentDateTime();
-    return time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
+    return Moment::text(QDateTime::currentDateTime());
 }
 
-/// Never changes its form, so that it can be compared.
-QString deliveryText(const QDateTime &time)
+/// In whatever zone it was written.
+QDateTime readMoment(const QJsonValue &value)
 {
-    return time.toUTC().toString(Qt::ISODateWithMs);
+    return QDateTime::fromString(value.toString(), Qt::ISODateWithMs);
 }
 
 /// Others join the reasons to one sentence.
@@ -59,7 +58,7 @@ void GateRecord::refuse(const QStringList &reasons)
 
 void GateRecord::admitAgain(const Admission &admission)
 {
-    if (m_lastAdmitted.value(kDelivered).toString() == deliveryText(admission.delivered))
+    if (readMoment(m_lastAdmitted.value(kDelivered)) == admission.delivered)
         finish("admitted", {}, {});
     else
         admit(admission);
@@ -71,7 +70,7 @@ void GateRecord::admit(const Admission &admission)
         {QStringLiteral("time"), now()},
         {QStringLiteral("file"), admission.file},
         {QStringLiteral("lines"), admission.lines},
-        {kDelivered, deliveryText(admission.delivered)},
+        {kDelivered, Moment::exactText(admission.delivered)},
         {kOverridden, withoutFullStops(admission.overridden)},
     };
     finish("admitted", {}, admission.overridden);

@@ -1,6 +1,7 @@
 #include "tools/htmlreport.h"
 
 #include "tools/finding.h"
+#include "tools/moment.h"
 #include "tools/plaintext.h"
 
 #include <QDateTime>
@@ -164,7 +165,7 @@ void HtmlReport::fact(const QString &, const QString &label, const QVariant &val
 void HtmlReport::end(ExitStatus status, const QString &verdict)
 {
     endSection();
-    const QString now = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm"));
+    const QString now = Moment::text(QDateTime::currentDateTime());
     const QString page =
         QStringLiteral("<title>%1</title>\n%2</head>\n<body>\n<header>\n<h1>%1</h1>\n"
                        "<p class=\"verdict %3\">%4</p>\n<dl>\n%5</dl>\n</header>\n<main>\n%6"

@@ -1,5 +1,6 @@
 #include "tools/previewsql.h"
 
+#include "tools/moment.h"
 #include "tools/previewdiff.h"
 #include "tools/previewmoments.h"
 
@@ -45,8 +46,7 @@ QString comment(const PreviewSchema &schema)
     QString text =
         QStringLiteral("-- What a forced synchronisation would change in the database %1,\n"
                        "-- by a preview of %2.\n")
-            .arg(schema.name.simplified(),
-                 QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm")));
+            .arg(schema.name.simplified(), Moment::text(QDateTime::currentDateTime()));
     if (!schema.triggers.isEmpty()) {
         text += QStringLiteral("-- What triggers did is among it: they must not do it once more "
                                "when this is run.\n");

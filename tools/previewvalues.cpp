@@ -1,5 +1,6 @@
 #include "tools/previewvalues.h"
 
+#include "tools/moment.h"
 #include "tools/previewcolumns.h"
 #include "tools/previewdiff.h"
 #include "tools/previewmoments.h"
@@ -16,7 +17,6 @@ namespace {
 using PreviewColumns::Reading;
 
 constexpr char kDay[] = "yyyy-MM-dd";
-constexpr char kMoment[] = "yyyy-MM-dd hh:mm:ss";
 
 struct Flag {
     uint bit;
@@ -97,7 +97,7 @@ QString PreviewValues::time(const QString &seconds)
 {
     const QDateTime moment = QDateTime::fromSecsSinceEpoch(seconds.toLongLong());
     const bool isDay = moment.time() == QTime(0, 0) || moment.time() == QTime(23, 59, 59);
-    return moment.toString(QLatin1String(isDay ? kDay : kMoment));
+    return isDay ? moment.toString(QLatin1String(kDay)) : Moment::text(moment);
 }
 
 QString PreviewValues::month(const QString &number)

@@ -1,6 +1,7 @@
 #include "tools/rejectstext.h"
 
 #include "tools/linecheck.h"
+#include "tools/moment.h"
 #include "tools/plaintext.h"
 
 #include <QDateTime>
@@ -18,7 +19,7 @@ void RejectsText::begin()
                            "they should.")
                 .arg(m_exportName));
     comment(QStringLiteral("Checked on %1. The reasons stand above each line.")
-                .arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm"))));
+                .arg(Moment::text(QDateTime::currentDateTime())));
 }
 
 void RejectsText::add(const CheckedLine &line)

@@ -6,6 +6,7 @@
 #include "tools/console.h"
 #include "tools/databaseaccess.h"
 #include "tools/gatestatus.h"
+#include "tools/moment.h"
 #include "tools/nagios.h"
 #include "tools/report.h"
 #include "tools/statusdata.h"
@@ -60,8 +61,10 @@ QString shownTime(qint64 time)
 void reportTime(Report &report, const char *id, const char *label,
                 const std::optional<qint64> &time)
 {
-    if (time)
-        report.fact(QString::fromLatin1(id), QString::fromLatin1(label), shownTime(*time));
+    if (time) {
+        report.fact(QString::fromLatin1(id), QString::fromLatin1(label),
+                    Moment::text(QDateTime::fromSecsSinceEpoch(*time)));
+    }
 }
 
 void reportDatabase(Report &report, const StatusData &data)

@@ -1,3 +1,4 @@
+#include "tests/support/localzone.h"
 #include "tests/tools/gatesite.h"
 #include "tools/gatecopies.h"
 #include "tools/gatefile.h"
@@ -119,6 +120,8 @@ private Q_SLOTS:
     void anUnchangedFileIsPublishedAgain();
     void aNewDeliveryOfTheSameFileCountsAsNew();
 
+    void everyTimeOfTheStatusFileIsOfTheLocalZone();
+    void anotherZoneMakesNoNewDelivery();
     void everyAdmittedFileHasADatedCopy();
     void theNewestCopiesAreKept_data();
     void theNewestCopiesAreKept();
@@ -324,9 +327,35 @@ void TestGateFiles::aNewDeliveryOfTheSameFileCountsAsNew()
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.rules(), QStringList("unchanged"));
     const QJsonObject last = m_site->status()["lastAdmitted"].toObject();
-    QCOMPARE(last["delivered"].toString(), QString("2026-03-04T05:06:07.089Z"));
+    QCOMPARE(QDateTime::fromString(last["delivered"].toString(), Qt::ISODateWithMs),
+             QDateTime::fromString("2026-03-04T05:06:07.089Z", Qt::ISODateWithMs));
     QCOMPARE(last["time"], m_site->status()["time"]);
     QCOMPARE(m_site->copies().size(), 1);
+}
+
+void TestGateFiles::everyTimeOfTheStatusFileIsOfTheLocalZone()
+{
+    const LocalZone zone("Asia/Kolkata");
+    m_site->deliver(GatePeople::some(3));
+    setModified(m_site->hrFile(), "2026-03-04T05:06:07.089Z");
+    COMPARE_EXIT(m_site->run({"--accept"}), ExitStatus::Fine);
+    const QJsonObject last = m_site->status()["lastAdmitted"].toObject();
+    QCOMPARE(last["delivered"].toString(), QString("2026-03-04T10:36:07.089+05:30"));
+    QVERIFY(last["time"].toString().endsWith("+05:30"));
+    QVERIFY(m_site->status()["time"].toString().endsWith("+05:30"));
+}
+
+void TestGateFiles::anotherZoneMakesNoNewDelivery()
+{
+    m_site->deliver(GatePeople::some(3));
+    {
+        const LocalZone zone("Asia/Kolkata");
+        COMPARE_EXIT(m_site->run({"--accept"}), ExitStatus::Fine);
+    }
+    const QJsonObject last = m_site->status()["lastAdmitted"].toObject();
+    const LocalZone zone("America/New_York");
+    COMPARE_EXIT(m_site->run(), ExitStatus::Fine);
+    QCOMPARE(m_site->status()["lastAdmitted"].toObject(), last);
 }
 
 void TestGateFiles::everyAdmittedFileHasADatedCopy()

@@ -1,6 +1,8 @@
+#include "tests/support/localzone.h"
 #include "tests/sync/middayzone.h"
 #include "tests/sync/sampleexport.h"
 #include "tests/tools/previewbench.h"
+#include "tools/previewvalues.h"
 
 #include <QCoreApplication>
 #include <QtTest>
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void init();
 
     void anExportWithoutPeopleChangesNothing();
+    void aMomentHasItsOffsetAndADayHasNone();
     void aNameThatChanges();
     void aNewPerson();
     void aPersonWhoMoves();
@@ -60,6 +63,13 @@ void TestPreviewWords::anExportWithoutPeopleChangesNothing()
     QVERIFY(!result.refusal);
     QCOMPARE(result.changes, 0);
     QCOMPARE(result.told(), QStringList());
+}
+
+void TestPreviewWords::aMomentHasItsOffsetAndADayHasNone()
+{
+    const LocalZone zone("Europe/Bratislava");
+    QCOMPARE(PreviewValues::time("1800000000"), QString("2027-01-15T09:00:00+01:00"));
+    QCOMPARE(PreviewValues::time("1799967600"), QString("2027-01-15"));
 }
 
 void TestPreviewWords::aNameThatChanges()

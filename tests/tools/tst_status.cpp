@@ -1,4 +1,5 @@
 #include "tests/support/accountrights.h"
+#include "tests/support/localzone.h"
 #include "tests/support/testdatabase.h"
 #include "tests/tools/toolrun.h"
 #include "tools/gatestatus.h"
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void agesOfTheReport();
 
     void theGateIsReported();
+    void everyTimeIsOfTheLocalZone();
     void aRefusedFileIsTold();
     void theGatesTimeCountsWhereItIsKnown_data();
     void theGatesTimeCountsWhereItIsKnown();
@@ -62,6 +64,7 @@ private:
     QJsonObject facts(const ToolRun &run) { return run.json().value("facts").toObject(); }
     QString writeGate(const QByteArray &content);
 
+    const LocalZone m_zone{"UTC"};
     TestDatabase m_db;
     QTemporaryDir m_folder;
 };
@@ -293,6 +296,18 @@ void TestStatus::theGateIsReported()
     QCOMPARE(all.value("admittedTime").toString(), QString("2027-01-15T06:59:58Z"));
     QCOMPARE(all.value("admittedFile").toString(), QString("/var/lib/yav/hr/a.data"));
     QCOMPARE(all.value("admittedLines").toInt(), 1200);
+}
+
+void TestStatus::everyTimeIsOfTheLocalZone()
+{
+    const LocalZone zone("Europe/Bratislava");
+    const QString file = writeGate(R"({"result": "admitted", "time": "2027-01-15T07:00:00Z",
+        "lastAdmitted": {"time": "2026-07-15T02:59:58-04:00"}})");
+    const QJsonObject all = facts(status({"--gate-status", file}));
+    QCOMPARE(all.value("created").toString(), QString("2027-01-12T09:00:00+01:00"));
+    QCOMPARE(all.value("gateTime").toString(), QString("2027-01-15T08:00:00+01:00"));
+    // In summer.
+    QCOMPARE(all.value("admittedTime").toString(), QString("2026-07-15T08:59:58+02:00"));
 }
 
 void TestStatus::aRefusedFileIsTold()
