@@ -50,9 +50,8 @@ ExitStatus runCheckConfig(const QStringList &arguments, Console &console)
         line.argument(0).isEmpty() ? QString(Configuration::kPath) : line.argument(0);
     const QFileInfo info(path);
     if (info.exists() && !(info.isFile() && info.isReadable())) {
-        return console.fail(
-            ExitStatus::Usage,
-            QStringLiteral("check-config: '%1' is no file that can be read").arg(path));
+        return console.fail(ExitStatus::Usage,
+                            QStringLiteral("'%1' is no file that can be read").arg(path));
     }
     Report output(line, console);
     if (const auto end = output.open())

@@ -83,7 +83,7 @@ ExitStatus check(const CommandLine &line, const QSqlDatabase &db, Report &report
     if (!check.unusable().isEmpty()) {
         return console.fail(
             ExitStatus::NoDatabase,
-            QStringLiteral("check-db: The database cannot be used: %1").arg(check.unusable()));
+            QStringLiteral("The database cannot be used: %1").arg(check.unusable()));
     }
     return report.conclude(check.isContractBroken() ? ExitStatus::ContractBroken
                                                     : report.findingsStatus(),
@@ -106,7 +106,7 @@ ExitStatus runCheckDb(const QStringList &arguments, Console &console)
     QString error;
     const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
     if (!database)
-        return console.fail(ExitStatus::NoDatabase, QStringLiteral("check-db: ") + error);
+        return console.fail(ExitStatus::NoDatabase, error);
     Report report(line, console);
     return check(line, database->handle(), report, console);
 }

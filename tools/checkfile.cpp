@@ -202,18 +202,18 @@ void CheckFileRun::conclude(const ExportCheck &check)
 
 ExitStatus CheckFileRun::commit(const ExportCheck::Counts &counts)
 {
+    if (m_wantsRejects && !m_rejects.commit()) {
+        return fail(ExitStatus::Usage,
+                    QStringLiteral("'%1' cannot be written: %2")
+                        .arg(m_rejects.path(), m_rejects.errorString()));
+    }
     const ExitStatus status = m_report.findingsStatus();
-    const ExitStatus end = m_report.conclude(status, verdict(counts, status));
-    if (!m_wantsRejects || m_rejects.commit())
-        return end;
-    return fail(ExitStatus::Usage,
-                QStringLiteral("'%1' cannot be written: %2")
-                    .arg(m_rejects.path(), m_rejects.errorString()));
+    return m_report.conclude(status, verdict(counts, status));
 }
 
 ExitStatus CheckFileRun::fail(ExitStatus status, const QString &sentence)
 {
-    return m_console.fail(status, m_line.subcommand() + QStringLiteral(": ") + sentence);
+    return m_console.fail(status, sentence);
 }
 
 } // namespace

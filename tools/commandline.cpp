@@ -65,8 +65,11 @@ void CommandLine::addDatabaseOptions()
 
 std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, Console &console)
 {
+    console.setSubcommand(m_subcommand);
     // The parser takes the first argument for the program's name.
     const bool understood = m_parser.parse(QStringList(m_subcommand) + arguments);
+    if (understood ? isSet("json") : arguments.contains(QLatin1String("--json")))
+        console.startJson();
     if (understood && m_parser.isSet(QStringLiteral("help"))) {
         console.print(helpText());
         return ExitStatus::Fine;
@@ -78,7 +81,7 @@ std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, Conso
     const QString error = understood ? argumentError() : m_parser.errorText();
     if (error.isEmpty())
         return std::nullopt;
-    return console.fail(ExitStatus::Usage, QStringLiteral("%1: %2").arg(m_subcommand, error));
+    return console.fail(ExitStatus::Usage, error);
 }
 
 bool CommandLine::isSet(const char *option) const
@@ -109,10 +112,13 @@ bool CommandLine::namesDatabase() const
 std::optional<ExitStatus> CommandLine::readDatabase(DatabaseOptions &options,
                                                     Console &console) const
 {
-    const QString error = readDatabaseOptions(m_parser, kPasswordVariable, options);
+    QString warning;
+    const QString error = readDatabaseOptions(m_parser, databaseSources(), options, warning);
+    if (!warning.isEmpty())
+        console.warn(warning);
     if (error.isEmpty())
         return std::nullopt;
-    return console.fail(ExitStatus::Usage, QStringLiteral("%1: %2").arg(m_subcommand, error));
+    return console.fail(ExitStatus::Usage, error);
 }
 
 QString CommandLine::usage() const

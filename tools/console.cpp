@@ -1,12 +1,28 @@
 #include "tools/console.h"
 
+#include "tools/jsonreport.h"
+#include "tools/plaintext.h"
+
 #include <QIODevice>
 
-Console::Console(QIODevice &out, QIODevice &err, bool interactive)
+Console::Console(QIODevice &out, QIODevice &err, bool interactive, int columns)
     : m_out(out)
     , m_err(err)
     , m_interactive(interactive)
+    , m_columns(columns)
 {
+}
+
+Console::~Console() = default;
+
+void Console::setSubcommand(const QString &name)
+{
+    m_subcommand = name;
+}
+
+void Console::startJson()
+{
+    m_json = std::make_unique<JsonReport>(m_out);
 }
 
 void Console::print(const QString &text)
@@ -16,9 +32,22 @@ void Console::print(const QString &text)
 
 ExitStatus Console::fail(ExitStatus status, const QString &sentence)
 {
-    QString line = QStringLiteral("mirovahrctl: ") + sentence;
-    if (!line.endsWith(QLatin1Char('.')))
-        line += QLatin1Char('.');
-    m_err.write((line + QLatin1Char('\n')).toUtf8());
+    const QString reason = PlainText::sentence(sentence);
+    complain(reason);
+    if (m_json)
+        m_json->fail(m_subcommand, status, reason);
     return status;
+}
+
+void Console::warn(const QString &sentence)
+{
+    complain(QStringLiteral("Warning: ") + PlainText::sentence(sentence));
+}
+
+void Console::complain(const QString &sentence)
+{
+    QString line = QStringLiteral("mirovahrctl: ");
+    if (!m_subcommand.isEmpty())
+        line += m_subcommand + QStringLiteral(": ");
+    m_err.write((line + sentence + QLatin1Char('\n')).toUtf8());
 }

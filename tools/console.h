@@ -4,28 +4,53 @@
 
 #include <QString>
 
+#include <memory>
+
+class JsonReport;
 class QIODevice;
 
 /// Where a subcommand writes: results to one device, complaints and progress to the other. In the
 /// program these are standard output and standard error, in tests two buffers.
 class Console {
 public:
-    /// \a interactive: `err` is a terminal, so that progress may be shown there.
-    Console(QIODevice &out, QIODevice &err, bool interactive);
+    /// The width of lines where there is no terminal.
+    static constexpr int kColumns = 100;
+
+    /// \a interactive: `err` is a terminal, so that progress may be shown there. \a columns: how
+    /// wide `out` is.
+    Console(QIODevice &out, QIODevice &err, bool interactive, int columns = kColumns);
+    ~Console();
 
     QIODevice &out() { return m_out; }
     QIODevice &err() { return m_err; }
     bool isInteractive() const { return m_interactive; }
+    int columns() const { return m_columns; }
+
+    /// Names the subcommand that runs, for complaints.
+    void setSubcommand(const QString &name);
+
+    /// From now on `out` gets one JSON object, whether the subcommand comes to its end or fails.
+    void startJson();
+    /// That object; null unless startJson() was called.
+    JsonReport *json() { return m_json.get(); }
 
     /// Writes a text and a line feed to the results.
     void print(const QString &text);
 
-    /// Writes to `err` why the program ends, a sentence with or without its full stop, and returns
-    /// the status, for `return console.fail(...)`.
+    /// Writes to `err` why the program ends, a sentence with or without its full stop, and to the
+    /// JSON object if there is one. Returns the status, for `return console.fail(...)`.
     ExitStatus fail(ExitStatus status, const QString &sentence);
 
+    /// Writes to `err` what the user should know, a sentence with or without its full stop.
+    void warn(const QString &sentence);
+
 private:
+    void complain(const QString &sentence);
+
     QIODevice &m_out;
     QIODevice &m_err;
     const bool m_interactive;
+    const int m_columns;
+    QString m_subcommand;
+    std::unique_ptr<JsonReport> m_json;
 };

@@ -35,8 +35,7 @@ void checkSeveralStatements(DbCheck &check)
     QSqlQuery query(check.database());
     const bool allowed = query.exec(QLatin1String(kTwoStatements)) && query.nextResult();
     check.report().fact(QStringLiteral("severalStatements"),
-                        QStringLiteral("Several statements in one text"),
-                        allowed ? QStringLiteral("allowed") : QStringLiteral("refused"));
+                        QStringLiteral("Several statements in one text allowed"), allowed);
     if (allowed)
         return;
     check.tell(Severity::Warning, "several-statements",

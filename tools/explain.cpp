@@ -165,7 +165,7 @@ ExitStatus ExplainRun::failMissing()
 
 ExitStatus ExplainRun::fail(ExitStatus status, const QString &sentence)
 {
-    return m_console.fail(status, m_line.subcommand() + QStringLiteral(": ") + sentence);
+    return m_console.fail(status, sentence);
 }
 
 } // namespace

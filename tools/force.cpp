@@ -72,10 +72,8 @@ ExitStatus ForceRun::run(const QSqlDatabase &db)
 
 void ForceRun::reportFlag(bool wasSet, bool isSet)
 {
-    m_report.fact(QStringLiteral("before"), QStringLiteral("Set before"),
-                  wasSet ? QStringLiteral("yes") : QStringLiteral("no"));
-    m_report.fact(QStringLiteral("now"), QStringLiteral("Set now"),
-                  isSet ? QStringLiteral("yes") : QStringLiteral("no"));
+    m_report.fact(QStringLiteral("before"), QStringLiteral("Set before"), wasSet);
+    m_report.fact(QStringLiteral("now"), QStringLiteral("Set now"), isSet);
     if (m_on && wasSet) {
         m_report.sentence(QStringLiteral("The flag was set already: the plugin has not yet come to "
                                          "it, or is just synchronising."));
@@ -158,7 +156,7 @@ void ForceRun::tell(Severity severity, const char *rule, const QString &message,
 
 ExitStatus ForceRun::fail(const QString &sentence)
 {
-    return m_console.fail(ExitStatus::NoDatabase, QStringLiteral("force: ") + sentence);
+    return m_console.fail(ExitStatus::NoDatabase, sentence);
 }
 
 QString ForceRun::verdict(bool isSet) const
@@ -186,6 +184,6 @@ ExitStatus runForce(const QStringList &arguments, Console &console)
     QString error;
     const auto database = openDatabase(options, DatabaseAccess::ReadWrite, error);
     if (!database)
-        return console.fail(ExitStatus::NoDatabase, QStringLiteral("force: ") + error);
+        return console.fail(ExitStatus::NoDatabase, error);
     return ForceRun(line, console).run(database->handle());
 }

@@ -142,6 +142,5 @@ std::optional<ExitStatus> GateOptions::read(const CommandLine &line, Console &co
         complaint = pathComplaint(*this);
     if (complaint.isEmpty())
         return std::nullopt;
-    return console.fail(ExitStatus::Usage,
-                        QStringLiteral("%1: %2").arg(line.subcommand(), complaint));
+    return console.fail(ExitStatus::Usage, complaint);
 }

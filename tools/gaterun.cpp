@@ -234,6 +234,5 @@ ExitStatus GateRun::fail(const QString &sentence)
         m_record.refuse({sentence});
         m_record.write(m_folder, ignored);
     }
-    return m_console.fail(ExitStatus::Usage,
-                          QStringLiteral("%1: %2").arg(m_line.subcommand(), sentence) + outcome);
+    return m_console.fail(ExitStatus::Usage, sentence + outcome);
 }

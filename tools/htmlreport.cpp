@@ -102,7 +102,7 @@ QString tableRow(const Table &table, const QVariantList &row)
 {
     QString text = QStringLiteral("<tr>");
     for (int i = 0; i < table.columns.size(); ++i)
-        text += cell(table.columns.at(i).heading, html(row.at(i).toString()));
+        text += cell(table.columns.at(i).heading, html(PlainText::plain(row.at(i))));
     return text + QStringLiteral("</tr>\n");
 }
 
@@ -159,7 +159,7 @@ void HtmlReport::finding(const Finding &finding)
 void HtmlReport::fact(const QString &, const QString &label, const QVariant &value)
 {
     m_facts += QStringLiteral("<div><dt>%1:</dt><dd>%2</dd></div>\n")
-                   .arg(html(label), html(value.toString()));
+                   .arg(html(label), html(PlainText::plain(value)));
 }
 
 void HtmlReport::end(ExitStatus status, const QString &verdict)

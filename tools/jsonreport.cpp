@@ -59,6 +59,7 @@ JsonReport::JsonReport(QIODevice &out)
 
 void JsonReport::begin(const QString &subcommand, const QString &title)
 {
+    m_state = State::Begun;
     m_out.write("{"
                 + members({{QStringLiteral("mirovahrctl"), QStringLiteral(MIROVAHR_VERSION)},
                            {QStringLiteral("subcommand"), subcommand},
@@ -98,13 +99,28 @@ void JsonReport::fact(const QString &id, const QString &, const QVariant &value)
 
 void JsonReport::end(ExitStatus status, const QString &verdict)
 {
+    finish(status, "verdict", verdict);
+}
+
+void JsonReport::fail(const QString &subcommand, ExitStatus status, const QString &reason)
+{
+    if (m_state == State::Ended)
+        return;
+    if (m_state == State::New)
+        begin(subcommand, QString());
+    finish(status, "error", reason);
+}
+
+void JsonReport::finish(ExitStatus status, const char *lastMember, const QString &text)
+{
+    m_state = State::Ended;
     endSection();
     m_out.write("],\n"
                 + members({{QStringLiteral("sections"), m_sections},
                            {QStringLiteral("facts"), m_facts},
                            {QStringLiteral("status"), static_cast<int>(status)},
                            {QStringLiteral("result"), exitStatusWord(status)},
-                           {QStringLiteral("verdict"), verdict}})
+                           {QLatin1String(lastMember), text}})
                 + "}\n");
 }
 

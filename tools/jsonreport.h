@@ -16,6 +16,7 @@ class QIODevice;
 ///      "facts": {id: value}, "status": number, "result": word, "verdict": sentence}
 ///
 /// Findings are written as they come, one on a line. Members that a finding has not are absent.
+/// What fails has "error", the reason, in place of "verdict".
 class JsonReport : public ReportWriter {
 public:
     explicit JsonReport(QIODevice &out);
@@ -28,10 +29,18 @@ public:
     void fact(const QString &id, const QString &label, const QVariant &value) override;
     void end(ExitStatus status, const QString &verdict) override;
 
+    /// Ends the report of a subcommand that failed, before begin() or after it. Does nothing after
+    /// end(): the object is complete.
+    void fail(const QString &subcommand, ExitStatus status, const QString &reason);
+
 private:
+    enum class State { New, Begun, Ended };
+
     void endSection();
+    void finish(ExitStatus status, const char *lastMember, const QString &text);
 
     QIODevice &m_out;
+    State m_state = State::New;
     bool m_hasFindings = false;
     QJsonArray m_sections;
     QJsonObject m_section; ///< the current one; empty before the first

@@ -4,8 +4,26 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
+#include <sys/ioctl.h>
 #include <unistd.h>
+
+namespace {
+
+/// Below this, lines run over the terminal's edge.
+constexpr int kNarrowest = 40;
+
+/// How wide standard output is.
+int columns()
+{
+    winsize size = {};
+    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
+        return Console::kColumns;
+    return std::max(kNarrowest, int(size.ws_col));
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -16,7 +34,7 @@ int main(int argc, char *argv[])
         || !err.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
         return static_cast<int>(ExitStatus::Usage);
 
-    Console console(out, err, isatty(STDERR_FILENO) != 0);
+    Console console(out, err, isatty(STDERR_FILENO) != 0, columns());
     const ExitStatus status = runMirovahrctl(QCoreApplication::arguments().mid(1), console);
     if (!out.flush() || out.error() != QFileDevice::NoError) {
         return static_cast<int>(

@@ -236,8 +236,7 @@ void PersonExplanation::writeFacts()
     report.fact(QStringLiteral("calendar"), QStringLiteral("Calendar group"), m_outcome->calendar);
     report.fact(QStringLiteral("recalculation"), QStringLiteral("Recalculation from"),
                 m_outcome->recalculation);
-    report.fact(QStringLiteral("waits"), QStringLiteral("Waits afterwards"),
-                m_outcome->waits ? QStringLiteral("yes") : QStringLiteral("no"));
+    report.fact(QStringLiteral("waits"), QStringLiteral("Waits afterwards"), m_outcome->waits);
 }
 
 QString PersonExplanation::verdict() const

@@ -41,6 +41,18 @@ QString quoted(const QString &text)
         .arg(visible(text.left(kLongest)), cut ? QStringLiteral("…") : QString());
 }
 
+QString plain(const QVariant &value)
+{
+    if (value.type() == QVariant::Bool)
+        return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+    return value.toString();
+}
+
+QString sentence(const QString &text)
+{
+    return text.endsWith(QLatin1Char('.')) ? text : text + QLatin1Char('.');
+}
+
 QString counted(qint64 count, const QString &one, const QString &many)
 {
     return QStringLiteral("%1 %2").arg(QString::number(count), count == 1 ? one : many);

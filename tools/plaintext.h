@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 /// Texts from files and databases, made fit to be shown.
 namespace PlainText {
@@ -11,6 +12,12 @@ QString visible(const QString &text);
 
 /// As visible(), between quotation marks and cut short when it is long.
 QString quoted(const QString &text);
+
+/// A fact or the cell of a table, as people read it: yes or no for a flag.
+QString plain(const QVariant &value);
+
+/// The text with a full stop at its end.
+QString sentence(const QString &text);
 
 /// "1 line", "2 lines".
 QString counted(qint64 count, const QString &one, const QString &many);

@@ -43,7 +43,7 @@ private:
     std::optional<ExitStatus> readConfiguration();
     std::optional<ExitStatus> openOutput(OutputFile &file);
     bool isExport(const QString &path) const;
-    ExitStatus commit(ExitStatus status);
+    std::optional<ExitStatus> commit();
     ExitStatus fail(ExitStatus status, const QString &sentence);
     ExitStatus fail(const PreviewRefusal &refusal)
     {
@@ -75,7 +75,9 @@ ExitStatus PreviewCommand::run(const DatabaseOptions &site)
     m_report.begin(m_line.subcommand(), QStringLiteral("Preview of HR export %1").arg(m_export));
     PreviewReport report(work, m_configuration, m_report);
     report.write();
-    return commit(m_report.conclude(m_report.findingsStatus(), report.verdict()));
+    if (const auto end = commit())
+        return *end;
+    return m_report.conclude(m_report.findingsStatus(), report.verdict());
 }
 
 std::optional<ExitStatus> PreviewCommand::prepare()
@@ -126,7 +128,7 @@ bool PreviewCommand::isExport(const QString &path) const
     return !path.isEmpty() && QFileInfo(path) == QFileInfo(m_export);
 }
 
-ExitStatus PreviewCommand::commit(ExitStatus status)
+std::optional<ExitStatus> PreviewCommand::commit()
 {
     for (OutputFile *const file : {&m_sql, &m_log}) {
         if (file->isOpen() && !file->commit()) {
@@ -135,12 +137,12 @@ ExitStatus PreviewCommand::commit(ExitStatus status)
                             .arg(file->fileName(), file->errorString()));
         }
     }
-    return status;
+    return std::nullopt;
 }
 
 ExitStatus PreviewCommand::fail(ExitStatus status, const QString &sentence)
 {
-    return m_console.fail(status, m_line.subcommand() + QStringLiteral(": ") + sentence);
+    return m_console.fail(status, sentence);
 }
 
 } // namespace

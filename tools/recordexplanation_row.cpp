@@ -29,8 +29,7 @@ Table fieldTable(const QVector<RowField> &fields)
                  {QStringLiteral("differs"), QStringLiteral("Differs")}},
                 {}};
     for (const RowField &field : fields) {
-        table.rows.append({field.name, field.exported, field.held,
-                           field.differs ? QStringLiteral("yes") : QString()});
+        table.rows.append({field.name, field.exported, field.held, field.differs});
     }
     return table;
 }

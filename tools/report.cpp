@@ -10,13 +10,17 @@
 Report::Report(const CommandLine &line, Console &console)
     : m_console(console)
     , m_page(line.pagePath())
+    , m_main(console.json())
 {
-    if (line.isSet("json"))
-        m_writers.push_back(std::make_unique<JsonReport>(console.out()));
-    else
-        m_writers.push_back(std::make_unique<TextReport>(console.out()));
-    if (!line.pagePath().isEmpty())
-        m_writers.push_back(std::make_unique<HtmlReport>(m_page));
+    if (m_main == nullptr) {
+        m_text = std::make_unique<TextReport>(console.out(), console.columns());
+        m_main = m_text.get();
+    }
+    m_writers.push_back(m_main);
+    if (!line.pagePath().isEmpty()) {
+        m_html = std::make_unique<HtmlReport>(m_page);
+        m_writers.push_back(m_html.get());
+    }
 }
 
 std::optional<ExitStatus> Report::open()
@@ -28,44 +32,44 @@ std::optional<ExitStatus> Report::open()
 
 void Report::begin(const QString &subcommand, const QString &title)
 {
-    for (const auto &writer : m_writers)
+    for (ReportWriter *const writer : m_writers)
         writer->begin(subcommand, title);
 }
 
 void Report::section(const QString &id, const QString &heading)
 {
-    for (const auto &writer : m_writers)
+    for (ReportWriter *const writer : m_writers)
         writer->section(id, heading);
 }
 
 void Report::sentence(const QString &text)
 {
-    for (const auto &writer : m_writers)
+    for (ReportWriter *const writer : m_writers)
         writer->sentence(text);
 }
 
 void Report::table(const Table &table)
 {
-    for (const auto &writer : m_writers)
+    for (ReportWriter *const writer : m_writers)
         writer->table(table);
 }
 
 void Report::finding(const Finding &finding)
 {
     m_hasSeriousFindings = m_hasSeriousFindings || finding.severity != Severity::Note;
-    for (const auto &writer : m_writers)
+    for (ReportWriter *const writer : m_writers)
         writer->finding(finding);
 }
 
 void Report::fact(const QString &id, const QString &label, const QVariant &value)
 {
-    for (const auto &writer : m_writers)
+    for (ReportWriter *const writer : m_writers)
         writer->fact(id, label, value);
 }
 
 void Report::end(ExitStatus status, const QString &verdict)
 {
-    for (const auto &writer : m_writers)
+    for (ReportWriter *const writer : m_writers)
         writer->end(status, verdict);
 }
 
@@ -76,10 +80,14 @@ ExitStatus Report::findingsStatus() const
 
 ExitStatus Report::conclude(ExitStatus status, const QString &verdict)
 {
-    end(status, verdict);
-    if (!m_page.isOpen() || m_page.commit())
-        return status;
-    return failPage();
+    // The page first: JSON has the reason in place of the verdict when it cannot be written.
+    if (m_html) {
+        m_html->end(status, verdict);
+        if (!m_page.commit())
+            return failPage();
+    }
+    m_main->end(status, verdict);
+    return status;
 }
 
 ExitStatus Report::failPage() const

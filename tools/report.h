@@ -41,6 +41,9 @@ private:
 
     Console &m_console;
     OutputFile m_page;
-    std::vector<std::unique_ptr<ReportWriter>> m_writers;
+    std::unique_ptr<ReportWriter> m_text; ///< null when the console wants JSON
+    std::unique_ptr<ReportWriter> m_html; ///< null without a page
+    ReportWriter *m_main; ///< the text, or the console's JSON
+    std::vector<ReportWriter *> m_writers; ///< all of them
     bool m_hasSeriousFindings = false;
 };

@@ -51,13 +51,6 @@ private:
     std::optional<GateStatus> m_gate;
 };
 
-/// With the offset of the local zone.
-QString shownTime(qint64 time)
-{
-    const QDateTime local = QDateTime::fromSecsSinceEpoch(time);
-    return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate);
-}
-
 void reportTime(Report &report, const char *id, const char *label,
                 const std::optional<qint64> &time)
 {
@@ -71,7 +64,7 @@ void reportDatabase(Report &report, const StatusData &data)
 {
     report.section(QStringLiteral("database"), QStringLiteral("Database"));
     report.fact(QStringLiteral("forced"), QStringLiteral("Forced synchronisation pending"),
-                data.forced ? QStringLiteral("yes") : QStringLiteral("no"));
+                data.forced);
     report.fact(QStringLiteral("activePeople"), QStringLiteral("Active people"), data.activePeople);
     reportTime(report, "created", "Last person created", data.created);
     reportTime(report, "edited", "Last person changed by the plugin", data.edited);
@@ -99,7 +92,7 @@ void reportGate(Report &report, const GateStatus &gate)
 /// How to end after the command line was read and its errors were told.
 ExitStatus usageEnd(ExitStatus end, bool forNagios, Console &console)
 {
-    if (!forNagios || end != ExitStatus::Usage)
+    if (!forNagios || end != ExitStatus::Usage || console.json() != nullptr)
         return end;
     console.print(Nagios::line(Nagios::Level::Unknown,
                                QStringLiteral("The command line makes no sense: see mirovahrctl "
@@ -189,7 +182,7 @@ ExitStatus StatusRun::report(const StatusData &data, const StatusJudgement &judg
 ExitStatus StatusRun::fail(ExitStatus status, const QString &sentence)
 {
     if (!m_line.isSet("nagios"))
-        return m_console.fail(status, QStringLiteral("status: ") + sentence);
+        return m_console.fail(status, sentence);
     const Nagios::Level level =
         status == ExitStatus::NoDatabase ? Nagios::Level::Critical : Nagios::Level::Unknown;
     m_console.print(Nagios::line(level, sentence));

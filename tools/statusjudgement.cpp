@@ -64,10 +64,8 @@ void judgeGate(StatusJudgement &judgement, const GateStatus &gate)
     QString message = QStringLiteral("The gate has refused the last file");
     if (!gate.reasons.isEmpty())
         message += QStringLiteral(": ") + gate.reasons.join(QStringLiteral("; "));
-    if (!message.endsWith(QLatin1Char('.')))
-        message += QLatin1Char('.');
     judgement.findings +=
-        finding(Severity::Warning, "gate-refused", message,
+        finding(Severity::Warning, "gate-refused", PlainText::sentence(message),
                 QStringLiteral("Until a file is admitted nothing new reaches the plugin."));
 }
 

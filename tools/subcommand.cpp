@@ -15,6 +15,7 @@
 
 namespace {
 
+const QLatin1String kJson("--json");
 
 QString overview()
 {
@@ -49,6 +50,8 @@ ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Cons
         });
     if (found != all.cend())
         return found->run(arguments, console);
+    if (name == kJson || arguments.contains(kJson))
+        console.startJson();
     return console.fail(
         ExitStatus::Usage,
         name.isEmpty()

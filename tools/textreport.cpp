@@ -2,16 +2,15 @@
 
 #include "tools/finding.h"
 #include "tools/plaintext.h"
+#include "tools/textlayout.h"
 
 #include <QIODevice>
 #include <QStringList>
 
 namespace {
 
-QString underline(const QString &text, QChar with)
-{
-    return QString(text.size(), with);
-}
+/// Of the lines below a finding's or a fact's first one.
+constexpr int kIndent = 4;
 
 /// "line 12, DatumNastupu (1234.1 Jana Nováková): warning: ".
 QString findingHead(const Finding &finding)
@@ -33,7 +32,7 @@ QStringList cellTexts(const QVariantList &row)
 {
     QStringList texts;
     for (const QVariant &cell : row)
-        texts << PlainText::visible(cell.toString());
+        texts << PlainText::visible(PlainText::plain(cell));
     return texts;
 }
 
@@ -45,91 +44,81 @@ QStringList headings(const Table &table)
     return texts;
 }
 
-QVector<int> columnWidths(const QVector<QStringList> &rows)
-{
-    QVector<int> widths(rows.constFirst().size(), 0);
-    for (const QStringList &row : rows) {
-        for (int i = 0; i < row.size(); ++i)
-            widths[i] = qMax(widths.at(i), row.at(i).size());
-    }
-    return widths;
-}
-
-QString aligned(const QStringList &row, const QVector<int> &widths)
-{
-    QString text;
-    for (int i = 0; i < row.size(); ++i)
-        text += row.at(i).leftJustified(widths.at(i) + 2);
-    while (text.endsWith(QLatin1Char(' ')))
-        text.chop(1);
-    return text;
-}
-
-QStringList rule(const QVector<int> &widths)
-{
-    QStringList dashes;
-    for (const int width : widths)
-        dashes << QString(width, QLatin1Char('-'));
-    return dashes;
-}
-
 } // namespace
 
-TextReport::TextReport(QIODevice &out)
+TextReport::TextReport(QIODevice &out, int columns)
     : m_out(out)
+    , m_columns(columns)
 {
 }
 
 void TextReport::begin(const QString &, const QString &title)
 {
-    const QString text = PlainText::visible(title);
-    line(text);
-    line(underline(text, QLatin1Char('=')));
+    heading(title, QLatin1Char('='));
 }
 
-void TextReport::section(const QString &, const QString &heading)
+void TextReport::section(const QString &, const QString &title)
 {
-    const QString text = PlainText::visible(heading);
     line(QString());
-    line(text);
-    line(underline(text, QLatin1Char('-')));
+    heading(title, QLatin1Char('-'));
 }
 
 void TextReport::sentence(const QString &text)
 {
-    line(PlainText::visible(text));
+    paragraph(PlainText::visible(text), 0);
 }
 
 void TextReport::table(const Table &table)
 {
-    QVector<QStringList> rows{headings(table)};
+    QVector<QStringList> rows;
     for (const QVariantList &row : table.rows)
         rows << cellTexts(row);
-    const QVector<int> widths = columnWidths(rows);
-    rows.insert(1, rule(widths));
-    for (const QStringList &row : qAsConst(rows))
-        line(aligned(row, widths));
+    const QStringList lines = TextLayout::table(headings(table), rows, m_columns);
+    for (const QString &text : lines)
+        line(text);
 }
 
 void TextReport::finding(const Finding &finding)
 {
-    line(QStringLiteral("%1%2 [%3]")
-             .arg(findingHead(finding), PlainText::visible(finding.message), finding.rule));
+    paragraph(QStringLiteral("%1%2 [%3]")
+                  .arg(findingHead(finding), PlainText::visible(finding.message), finding.rule),
+              kIndent / 2);
     if (!finding.advice.isEmpty()) {
-        line((finding.forHr ? QStringLiteral("    Tell HR: ") : QStringLiteral("    "))
-             + PlainText::visible(finding.advice));
+        const QString indent(kIndent, QLatin1Char(' '));
+        paragraph(indent + (finding.forHr ? QStringLiteral("Tell HR: ") : QString())
+                      + PlainText::visible(finding.advice),
+                  kIndent);
     }
 }
 
 void TextReport::fact(const QString &, const QString &label, const QVariant &value)
 {
-    line(QStringLiteral("%1: %2").arg(label, PlainText::visible(value.toString())));
+    paragraph(QStringLiteral("%1: %2").arg(label, PlainText::visible(PlainText::plain(value))),
+              kIndent);
 }
 
 void TextReport::end(ExitStatus, const QString &verdict)
 {
     line(QString());
-    line(PlainText::visible(verdict));
+    sentence(verdict);
+}
+
+void TextReport::heading(const QString &text, QChar underline)
+{
+    const QStringList lines = TextLayout::wrapped(PlainText::visible(text), m_columns);
+    int width = 0;
+    for (const QString &part : lines) {
+        line(part);
+        width = qMax(width, part.size());
+    }
+    line(QString(width, underline));
+}
+
+void TextReport::paragraph(const QString &text, int indent)
+{
+    const QStringList lines = TextLayout::wrapped(text, m_columns, indent);
+    for (const QString &part : lines)
+        line(part);
 }
 
 void TextReport::line(const QString &text)

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "tools/console.h"
 #include "tools/reportwriter.h"
 
 class QIODevice;
 
-/// A report as plain text for a terminal: one line a finding, its advice below it.
+/// A report as plain text for a terminal, in lines of at most so many columns: each finding with
+/// its advice below it.
 class TextReport : public ReportWriter {
 public:
-    explicit TextReport(QIODevice &out);
+    explicit TextReport(QIODevice &out, int columns = Console::kColumns);
 
     void begin(const QString &subcommand, const QString &title) override;
     void section(const QString &id, const QString &heading) override;
@@ -18,7 +20,10 @@ public:
     void end(ExitStatus status, const QString &verdict) override;
 
 private:
+    void heading(const QString &text, QChar underline);
+    void paragraph(const QString &text, int indent);
     void line(const QString &text);
 
     QIODevice &m_out;
+    const int m_columns;
 };

@@ -9,6 +9,13 @@
 
 #include <algorithm>
 
+namespace {
+
+/// So wide that no text is broken.
+constexpr int kWide = 10000;
+
+} // namespace
+
 QJsonObject ToolRun::json() const
 {
     return QJsonDocument::fromJson(out.toUtf8()).object();
@@ -54,7 +61,7 @@ ToolRun runTool(const QStringList &arguments, bool interactive)
     QBuffer err;
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
-    Console console(out, err, interactive);
+    Console console(out, err, interactive, kWide);
     const ExitStatus status = runMirovahrctl(arguments, console);
     return {status, QString::fromUtf8(out.data()), QString::fromUtf8(err.data())};
 }

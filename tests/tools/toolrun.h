@@ -15,6 +15,8 @@ struct ToolRun {
 
     /// The output as JSON; empty when it is none.
     QJsonObject json() const;
+    /// Why a run with --json failed; empty when it did not.
+    QString failure() const { return json().value("error").toString(); }
     /// The findings of a run with --json.
     QJsonArray findings() const;
     /// The findings of one rule.
@@ -25,7 +27,8 @@ struct ToolRun {
     QByteArray report() const;
 };
 
-/// Runs `mirovahrctl` with these arguments. Standard error is no terminal unless \a interactive.
+/// Runs `mirovahrctl` with these arguments. Standard error is no terminal unless \a interactive,
+/// and standard output is as wide as any text.
 ToolRun runTool(const QStringList &arguments, bool interactive = false);
 
 /// Fails the test, with what the tool printed, unless it ended with this status.

@@ -2,6 +2,8 @@
 #include "tests/tools/toolrun.h"
 #include "tools/subcommand.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QtTest>
 
 /// What all subcommands have in common, and the program itself.
@@ -22,10 +24,15 @@ private Q_SLOTS:
     void everySubcommandExplainsItself();
     void everySubcommandRefusesAnOptionThatIsNone_data();
     void everySubcommandRefusesAnOptionThatIsNone();
+    void wrongUsageIsToldInJson_data();
+    void wrongUsageIsToldInJson();
+    void anUnknownSubcommandIsToldInJson();
     void noSubcommandTakesAPasswordOnItsCommandLine_data();
     void noSubcommandTakesAPasswordOnItsCommandLine();
     void theProgramEndsWithTheStatus();
     void outputThatCannotBeWrittenIsAFailure();
+    void linesAreNoWiderThanAHundredColumns();
+    void linesAreNoWiderThanTheTerminal();
 
 private:
     void addSubcommands();
@@ -156,6 +163,33 @@ void TestCommandLine::everySubcommandRefusesAnOptionThatIsNone()
     QCOMPARE(run.out, QString());
 }
 
+void TestCommandLine::wrongUsageIsToldInJson_data()
+{
+    addSubcommands();
+}
+
+void TestCommandLine::wrongUsageIsToldInJson()
+{
+    QFETCH(QString, name);
+    const ToolRun run = runTool({name, "--json", "--no-such-option"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err, QString("mirovahrctl: %1: Unknown option 'no-such-option'.\n").arg(name));
+    QCOMPARE(run.failure(), QString("Unknown option 'no-such-option'."));
+    QCOMPARE(run.json()["status"].toInt(), 2);
+    QCOMPARE(run.json()["result"].toString(), QString("usage"));
+    QCOMPARE(run.json()["subcommand"].toString(), name);
+}
+
+void TestCommandLine::anUnknownSubcommandIsToldInJson()
+{
+    for (const QStringList &arguments : {QStringList{"chek-file", "--json"}, {"--json"}}) {
+        const ToolRun run = runTool(arguments);
+        COMPARE_EXIT(run, ExitStatus::Usage);
+        QCOMPARE(run.err, "mirovahrctl: " + run.failure() + "\n");
+        QVERIFY2(!run.failure().isEmpty(), run.report().constData());
+    }
+}
+
 void TestCommandLine::noSubcommandTakesAPasswordOnItsCommandLine_data()
 {
     addSubcommands();
@@ -191,6 +225,48 @@ void TestCommandLine::outputThatCannotBeWrittenIsAFailure()
     COMPARE_STATUS(run, 2);
     QVERIFY2(run.errors().startsWith("mirovahrctl: The output cannot be written: "),
              run.report().constData());
+}
+
+/// An INI file with a text of 300 characters.
+static QString wideIni(const QTemporaryDir &folder)
+{
+    QFile file(folder.filePath("MirovaHR.ini"));
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("%s cannot be written", qPrintable(file.fileName()));
+    file.write("syncCommandRun=2\nsyncCommand=/bin/true" + QByteArray(" --accept").repeated(30));
+    file.write("\nunknown=1\n");
+    return file.fileName();
+}
+
+static int widest(const QString &output)
+{
+    int width = 0;
+    for (const QString &line : QString(output).remove('\r').split('\n'))
+        width = qMax(width, line.size());
+    return width;
+}
+
+void TestCommandLine::linesAreNoWiderThanAHundredColumns()
+{
+    const QTemporaryDir folder;
+    ProgramRun run;
+    QVERIFY(run.run(MIROVAHRCTL, {"check-config", wideIni(folder)}));
+    COMPARE_STATUS(run, 1);
+    QVERIFY(run.output().contains("--accept"));
+    QVERIFY2(widest(run.output()) <= 100, run.report().constData());
+}
+
+void TestCommandLine::linesAreNoWiderThanTheTerminal()
+{
+    const QTemporaryDir folder;
+    const QString command =
+        QString("stty cols 72; exec '%1' check-config '%2'").arg(MIROVAHRCTL, wideIni(folder));
+    ProgramRun run;
+    QVERIFY(run.run("script", {"--quiet", "--return", "--command", command, "/dev/null"}));
+    COMPARE_STATUS(run, 1);
+    QVERIFY(run.output().contains("--accept"));
+    const int width = widest(run.output());
+    QVERIFY2(width > 60 && width <= 72, run.report().constData());
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)

@@ -185,7 +185,7 @@ void TestExplain::aPersonWhoArrivesIsFine()
                           {"branch", "member"},
                           {"calendar", "kept"},
                           {"recalculation", previousMonth()},
-                          {"waits", "no"}}));
+                          {"waits", false}}));
     // By pid the same.
     QCOMPARE(ExplainedSite::facts(m_site.explain("12341")), ExplainedSite::facts(run));
 }
@@ -837,20 +837,20 @@ void TestExplain::theFieldsAreComparedOneByOne()
     line.stredisko = "130";
     const ToolRun run = explain(line);
     QCOMPARE(ExplainedSite::table(run, "row", "fields", {"field", "export", "database", "differs"}),
-             TableRows({{"Personal number", "1234", "1234", ""},
-                        {"Relationship number", "1", "1", ""},
-                        {"Title", "Mgr.", "Ing.", "yes"},
-                        {"First name", "Jana", "Jana", ""},
-                        {"Surname", "Nováková", "Nováková", ""},
-                        {"Title after the name", "", "", ""},
-                        {"Phone", "555123456", "555123456", ""},
-                        {"First day", "2019-04-01", "2019-04-01", ""},
-                        {"Last day", "2031-05-31", "", "yes"},
-                        {"Calendar", "3", "3", ""},
-                        {"Cost centre", "130", "120", "yes"},
-                        {"Relationship state from", "", "", ""},
-                        {"Relationship state to", "", "", ""},
-                        {"Relationship state", "", "", ""}}));
+             TableRows({{"Personal number", "1234", "1234", "false"},
+                        {"Relationship number", "1", "1", "false"},
+                        {"Title", "Mgr.", "Ing.", "true"},
+                        {"First name", "Jana", "Jana", "false"},
+                        {"Surname", "Nováková", "Nováková", "false"},
+                        {"Title after the name", "", "", "false"},
+                        {"Phone", "555123456", "555123456", "false"},
+                        {"First day", "2019-04-01", "2019-04-01", "false"},
+                        {"Last day", "2031-05-31", "", "true"},
+                        {"Calendar", "3", "3", "false"},
+                        {"Cost centre", "130", "120", "true"},
+                        {"Relationship state from", "", "", "false"},
+                        {"Relationship state to", "", "", "false"},
+                        {"Relationship state", "", "", "false"}}));
 }
 
 void TestExplain::theConfigurationIsThatOfTheFile()
@@ -988,6 +988,7 @@ void TestExplain::aDatabaseWithoutATableBreaksTheContract()
     const ToolRun run = explain(SampleExport::jana().with(&ExportRow::nadrizenyOsobniCislo, 1001));
     COMPARE_EXIT(run, ExitStatus::ContractBroken);
     QVERIFY2(run.err.startsWith("mirovahrctl: explain: The database "), run.report().constData());
+    QVERIFY2(run.failure().startsWith("The database "), run.report().constData());
 }
 
 SYNC_TEST_MAIN(TestExplain)

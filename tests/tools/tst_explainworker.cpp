@@ -84,11 +84,13 @@ QJsonObject ObservedPerson::facts(const Trace &trace)
 {
     m_after = look();
     const bool waits = !has(trace.log, "END synchronization #1 (waiting records: 0)");
-    return {
-        {"person", person(trace.log)},         {"balance", balance(trace.log)},
-        {"supervisor", supervisor(trace.log)}, {"branch", branch(trace.log)},
-        {"calendar", calendar(trace.log)},     {"recalculation", recalculation(trace.statements)},
-        {"waits", waits ? "yes" : "no"}};
+    return {{"person", person(trace.log)},
+            {"balance", balance(trace.log)},
+            {"supervisor", supervisor(trace.log)},
+            {"branch", branch(trace.log)},
+            {"calendar", calendar(trace.log)},
+            {"recalculation", recalculation(trace.statements)},
+            {"waits", waits}};
 }
 
 QString ObservedPerson::person(const QStringList &log) const
@@ -321,8 +323,9 @@ void TestExplainWorker::whatIsExplainedHappens()
     QCOMPARE(explained, observed.facts(trace));
 
     QStringList told;
-    for (const char *fact : {"person", "balance", "supervisor", "branch", "calendar", "waits"})
+    for (const char *fact : {"person", "balance", "supervisor", "branch", "calendar"})
         told += explained.value(fact).toString();
+    told += explained.value("waits").toBool() ? "yes" : "no";
     QCOMPARE(told.join(' '), words);
 
     compareWarnings(run, trace.log);

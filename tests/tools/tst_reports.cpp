@@ -1,13 +1,18 @@
+#include "tools/commandline.h"
+#include "tools/console.h"
 #include "tools/finding.h"
 #include "tools/htmlreport.h"
 #include "tools/jsonreport.h"
 #include "tools/plaintext.h"
+#include "tools/report.h"
+#include "tools/textlayout.h"
 #include "tools/textreport.h"
 
 #include <QBuffer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -69,8 +74,15 @@ class TestReports : public QObject {
 
 private Q_SLOTS:
     void theTextForm();
+    void longTextIsBrokenAtBlanks();
+    void aWideTableIsNarrowed();
+    void aTableThatFitsIsLeftAlone();
     void theJsonForm();
     void theJsonFormWithoutAnything();
+    void aFlagIsAWordForPeopleOnly();
+    void aFailureEndsTheJsonObject_data();
+    void aFailureEndsTheJsonObject();
+    void aPageThatCannotBeWrittenIsAFailureInJson();
     void thePageHoldsEverythingEscaped();
     void thePageNeedsNothingButItself();
     void thePageShowsTheFirstFindingsOnly();
@@ -106,6 +118,58 @@ void TestReports::theTextForm()
                      "Done & dusted.\n"));
 }
 
+void TestReports::longTextIsBrokenAtBlanks()
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    TextReport report(buffer, 40);
+    report.begin("check-config", "Configuration /etc/yav/a/long/name/of/an.ini");
+    report.section("one", "One");
+    report.sentence("A sentence with more than forty characters in it.");
+    Finding wordy = finding("A message that has more characters than forty.");
+    wordy.advice = "An advice that is as long as the message above it.";
+    wordy.forHr = true;
+    report.finding(wordy);
+    report.fact("path", "Where", "/a/path/that/is/longer/than/forty/characters");
+    report.end(ExitStatus::Findings, "A verdict of more than forty characters, too.");
+    QCOMPARE(QString::fromUtf8(buffer.data()),
+             QString("Configuration\n"
+                     "/etc/yav/a/long/name/of/an.ini\n"
+                     "==============================\n"
+                     "\n"
+                     "One\n"
+                     "---\n"
+                     "A sentence with more than forty\n"
+                     "characters in it.\n"
+                     "error: A message that has more\n"
+                     "  characters than forty. [rule-id]\n"
+                     "    Tell HR: An advice that is as long\n"
+                     "    as the message above it.\n"
+                     "Where:\n"
+                     "    /a/path/that/is/longer/than/forty/characters\n"
+                     "\n"
+                     "A verdict of more than forty characters,\n"
+                     "too.\n"));
+}
+
+void TestReports::aWideTableIsNarrowed()
+{
+    const QStringList lines = TextLayout::table(
+        {"Key", "Value", "Meaning"},
+        {{"a", "/a/path/of/more/than/a/line", "one two three four five six"}, {"b", "", "seven"}},
+        36);
+    QCOMPARE(lines,
+             QStringList({"Key  Value           Meaning", "---  --------------  ---------------",
+                          "a    /a/path/of/mor  one two three",
+                          "     e/than/a/line   four five six", "b                    seven"}));
+}
+
+void TestReports::aTableThatFitsIsLeftAlone()
+{
+    QCOMPARE(TextLayout::table({"Key", "Value"}, {{"a b", "c"}}, 10),
+             QStringList({"Key  Value", "---  -----", "a b  c"}));
+}
+
 void TestReports::theJsonForm()
 {
     const QJsonObject json = QJsonDocument::fromJson(written<JsonReport>(everything)).object();
@@ -139,6 +203,84 @@ void TestReports::theJsonFormWithoutAnything()
     QCOMPARE(json["sections"].toArray().size(), 0);
     QCOMPARE(json["facts"].toObject().size(), 0);
     QCOMPARE(json["verdict"].toString(), QString("Done & dusted."));
+}
+
+void TestReports::aFlagIsAWordForPeopleOnly()
+{
+    const auto flags = [](ReportWriter &report) {
+        report.section("one", "One");
+        report.table({"t", {{"on", "On"}}, {{true}, {false}}});
+        report.fact("yes", "Yes", true);
+        report.fact("no", "No", false);
+    };
+    const QByteArray text = written<TextReport>(flags);
+    QVERIFY(text.contains("On\n---\nyes\nno\nYes: yes\nNo: no\n"));
+    const QByteArray page = written<HtmlReport>(flags);
+    QVERIFY(page.contains("<dt>Yes:</dt><dd>yes</dd>"));
+    QVERIFY(page.contains("<td data-label=\"On\">no</td>"));
+    const QJsonObject json = QJsonDocument::fromJson(written<JsonReport>(flags)).object();
+    QCOMPARE(json["facts"].toObject(), QJsonObject({{"yes", true}, {"no", false}}));
+    QCOMPARE(json["sections"].toArray().first()["tables"]["t"],
+             QJsonValue(QJsonArray{QJsonObject{{"on", true}}, QJsonObject{{"on", false}}}));
+}
+
+void TestReports::aFailureEndsTheJsonObject_data()
+{
+    QTest::addColumn<bool>("begun");
+    QTest::addColumn<bool>("ended");
+    QTest::newRow("before anything was written") << false << false;
+    QTest::newRow("in the middle") << true << false;
+    QTest::newRow("when all is written") << true << true;
+}
+
+void TestReports::aFailureEndsTheJsonObject()
+{
+    QFETCH(bool, begun);
+    QFETCH(bool, ended);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    JsonReport report(buffer);
+    if (begun) {
+        report.begin("check-db", "Title");
+        report.section("one", "One");
+        report.finding(finding("Wrong."));
+    }
+    if (ended)
+        report.end(ExitStatus::Fine, "Done.");
+    report.fail("check-db", ExitStatus::NoDatabase, "The server has gone");
+
+    QJsonParseError error;
+    const QJsonObject json = QJsonDocument::fromJson(buffer.data(), &error).object();
+    QVERIFY2(error.error == QJsonParseError::NoError, buffer.data().constData());
+    QCOMPARE(json["subcommand"].toString(), QString("check-db"));
+    QCOMPARE(json["findings"].toArray().size(), begun ? 1 : 0);
+    QCOMPARE(json["error"].toString(), ended ? QString() : QString("The server has gone"));
+    QCOMPARE(json["verdict"].toString(), ended ? QString("Done.") : QString());
+    QCOMPARE(json["status"].toInt(), ended ? 0 : 3);
+    QCOMPARE(json["result"].toString(), QString(ended ? "fine" : "no-database"));
+}
+
+void TestReports::aPageThatCannotBeWrittenIsAFailureInJson()
+{
+    QTemporaryDir folder;
+    QBuffer out;
+    QBuffer err;
+    out.open(QIODevice::WriteOnly);
+    err.open(QIODevice::WriteOnly);
+    Console console(out, err, false);
+    CommandLine line("preview", "Does something.");
+    line.addReportOptions(CommandLine::Page::Offered);
+    QVERIFY(!line.parse({"--json", "--html", folder.filePath("page.html")}, console));
+    Report report(line, console);
+    QVERIFY(!report.open());
+    report.begin("preview", "Title");
+    QVERIFY(folder.remove());
+    QCOMPARE(report.conclude(ExitStatus::Fine, "Done."), ExitStatus::Usage);
+
+    const QJsonObject json = QJsonDocument::fromJson(out.data()).object();
+    QVERIFY2(json["error"].toString().startsWith("The page '"), out.data().constData());
+    QCOMPARE(json["status"].toInt(), 2);
+    QVERIFY(err.data().startsWith("mirovahrctl: preview: The page '"));
 }
 
 void TestReports::thePageHoldsEverythingEscaped()

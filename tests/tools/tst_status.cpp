@@ -139,7 +139,7 @@ void TestStatus::everythingIsCounted()
     const ToolRun run = status();
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(facts(run),
-             QJsonObject({{"forced", "yes"},
+             QJsonObject({{"forced", true},
                           {"activePeople", 7},
                           {"created", "2027-01-12T08:00:00Z"},
                           {"edited", "2027-01-15T06:00:00Z"},
@@ -155,7 +155,7 @@ void TestStatus::whatNeverHappenedIsLeftOut()
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(facts(run),
              QJsonObject(
-                 {{"forced", "no"}, {"activePeople", 0}, {"correctionsToday", 0}, {"queued", 0}}));
+                 {{"forced", false}, {"activePeople", 0}, {"correctionsToday", 0}, {"queued", 0}}));
     QCOMPARE(run.findingsOf("too-old").value(0).value("message").toString(),
              QString("There is no trace of the plugin yet."));
 }
@@ -439,6 +439,7 @@ void TestStatus::wrongUsage()
     const ToolRun monitored = nagios(options);
     QCOMPARE(monitored.out, "MIROVAHR UNKNOWN - " + line + '\n');
     QCOMPARE(static_cast<int>(monitored.status), 3);
+    QCOMPARE(run.failure(), reason + '.');
     const ToolRun both = nagios({"--json"});
     QCOMPARE(both.out, QString("MIROVAHR UNKNOWN - Give --nagios or --json, not both\n"));
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/// Texts in lines of a limited width, for terminals.
+namespace TextLayout {
+
+/// The lines of a text, broken at blanks. Those after the first begin with \a indent blanks. A word
+/// that is longer than a line stays whole, so that a path can be copied.
+QStringList wrapped(const QString &text, int width, int indent = 0);
+
+/// The lines of a table: its headings, dashes below them, and the rows. Each row, the headings
+/// among them, has a text for each column. When a row would be wider than \a width, the widest
+/// columns are narrowed and their texts broken, within long words as well.
+QStringList table(const QStringList &headings, const QVector<QStringList> &rows, int width);
+
+} // namespace TextLayout
