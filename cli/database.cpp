@@ -28,7 +28,7 @@ Database::Database(const DatabaseOptions &options, const QString &connectionName
     : m_connection(QSqlDatabase::addDatabase(QLatin1String(kDriver), connectionName))
 {
     m_connection.setHostName(options.socket.isEmpty() ? options.host : QStringLiteral("localhost"));
-    m_connection.setPort(options.port == 0 ? -1 : options.port);
+    m_connection.setPort(options.port == 0 ? -1 : static_cast<int>(options.port));
     m_connection.setDatabaseName(options.name);
     m_connection.setUserName(options.user);
     m_connection.setPassword(options.password);

@@ -1,40 +1,72 @@
 #include "cli/databaseoptions.h"
 
+#include "cli/connectionfile.h"
 #include "cli/numberoption.h"
+#include "cli/passwordfile.h"
 
 #include <QCommandLineParser>
-#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
-QCommandLineOption valueOption(const char *name, const char *text, const char *valueName)
+QCommandLineOption valueOption(const char *name, const QString &text, const char *valueName)
 {
-    return {QString::fromLatin1(name), QString::fromLatin1(text), QString::fromLatin1(valueName)};
+    return {QString::fromLatin1(name), text, QString::fromLatin1(valueName)};
 }
 
-QString readPassword(const QCommandLineParser &parser, const char *variable, QString &password)
+QString fileOptionText(const DatabaseSources &sources)
 {
-    password = qEnvironmentVariable(variable);
-    qunsetenv(variable);
-    if (!parser.isSet(QStringLiteral("password-file"))) {
-        return {};
+    QString text = QStringLiteral("A file that has these options in its group [client].");
+    if (!sources.file.isEmpty()) {
+        text += QStringLiteral(" Left out: %1, if it is there.").arg(sources.file);
     }
-    QFile file(parser.value(QStringLiteral("password-file")));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("The password file '%1' cannot be read: %2")
-            .arg(file.fileName(), file.errorString());
+    return text;
+}
+
+/// The connection file to read; empty for none.
+QString fileToRead(const QCommandLineParser &parser, const DatabaseSources &sources)
+{
+    if (parser.isSet(QStringLiteral("defaults-file"))) {
+        return parser.value(QStringLiteral("defaults-file"));
     }
-    QByteArray line = file.readLine();
-    if (line.endsWith('\n')) {
-        line.chop(1);
+    return QFileInfo(sources.file).isReadable() ? sources.file : QString();
+}
+
+void readText(const QCommandLineParser &parser, const char *name, QString &value)
+{
+    const QString option = QString::fromLatin1(name);
+    if (parser.isSet(option)) {
+        value = parser.value(option);
     }
-    password = QString::fromUtf8(line);
+}
+
+/// Puts what the command line says in place of what the file says.
+QString readCommandLine(const QCommandLineParser &parser, DatabaseOptions &options)
+{
+    // Host and port, or a socket: one of the command line does not go with the other of the file.
+    if (parser.isSet(QStringLiteral("host")) || parser.isSet(QStringLiteral("socket"))) {
+        options.host.clear();
+        options.socket.clear();
+        options.port = 0;
+    }
+    readText(parser, "host", options.host);
+    readText(parser, "socket", options.socket);
+    readText(parser, "database", options.name);
+    readText(parser, "user", options.user);
+    readText(parser, "connect-options", options.connectOptions);
+    if (!readNumberOption(parser, QStringLiteral("port"), kLargestPort, options.port)) {
+        return QStringLiteral("The port is a number from 0 to %1").arg(kLargestPort);
+    }
     return {};
 }
 
-QString check(const DatabaseOptions &options)
+/// What is still to be named; empty when nothing is.
+QString missing(const DatabaseOptions &options)
 {
-    if (options.host.isEmpty() == options.socket.isEmpty()) {
+    if (options.host.isEmpty() && options.socket.isEmpty()) {
         return QStringLiteral("Name the database server with either --host or --socket");
     }
     if (options.name.isEmpty()) {
@@ -46,40 +78,77 @@ QString check(const DatabaseOptions &options)
     return {};
 }
 
+/// What a complaint about a missing option is silent about: the file that was not read.
+QString unreadFile(const QString &file, const DatabaseSources &sources)
+{
+    if (!file.isEmpty() || sources.file.isEmpty()) {
+        return {};
+    }
+    return QFileInfo::exists(sources.file)
+        ? QStringLiteral("; the file '%1' cannot be read").arg(sources.file)
+        : QStringLiteral(", or in the file %1").arg(sources.file);
+}
+
+QString readPassword(const QCommandLineParser &parser, const char *variable,
+                     const ConnectionFile &file, DatabaseOptions &options, QString &warning)
+{
+    options.password = qEnvironmentVariable(variable);
+    qunsetenv(variable);
+    if (parser.isSet(QStringLiteral("password-file"))) {
+        return readPasswordFile(parser.value(QStringLiteral("password-file")), options.password);
+    }
+    const QString fileUser = file.options().user;
+    if (!options.password.isEmpty() || (!fileUser.isEmpty() && fileUser != options.user)) {
+        return {};
+    }
+    return file.readPassword(options.password, warning);
+}
+
 } // namespace
 
-void addDatabaseOptions(QCommandLineParser &parser)
+void addDatabaseOptions(QCommandLineParser &parser, const DatabaseSources &sources)
 {
-    parser.addOption(valueOption("host", "The database server's host.", "host"));
-    parser.addOption(valueOption("port", "The database server's port.", "port"));
-    parser.addOption(
-        valueOption("socket", "The database server's UNIX socket, instead of a host.", "path"));
-    parser.addOption(valueOption("database", "The attendance database's name.", "name"));
-    parser.addOption(valueOption("user", "The database user.", "user"));
-    parser.addOption(
-        valueOption("password-file", "A file whose first line is the password.", "file"));
-    parser.addOption(
-        valueOption("connect-options", "Options of Qt's MySQL driver, joined by ';'.", "options"));
+    const auto add = [&parser](const char *name, const char *text, const char *valueName) {
+        parser.addOption(valueOption(name, QString::fromLatin1(text), valueName));
+    };
+    add("host", "The database server's host.", "host");
+    add("port", "The database server's port.", "port");
+    add("socket", "The database server's UNIX socket, instead of a host.", "path");
+    add("database", "The attendance database's name.", "name");
+    add("user", "The database user.", "user");
+    add("password-file", "A file whose first line is the password.", "file");
+    add("connect-options", "Options of Qt's MySQL driver, joined by ';'.", "options");
+    parser.addOption(valueOption("defaults-file", fileOptionText(sources), "file"));
 }
 
 bool hasDatabaseOptions(const QCommandLineParser &parser)
 {
-    return parser.isSet(QStringLiteral("host")) || parser.isSet(QStringLiteral("socket"));
+    const char *const names[] = {"host", "socket", "database", "user", "defaults-file"};
+    return std::any_of(std::begin(names), std::end(names), [&parser](const char *name) {
+        return parser.isSet(QString::fromLatin1(name));
+    });
 }
 
-QString readDatabaseOptions(const QCommandLineParser &parser, const char *passwordVariable,
-                            DatabaseOptions &options)
+QString readDatabaseOptions(const QCommandLineParser &parser, const DatabaseSources &sources,
+                            DatabaseOptions &options, QString &warning)
 {
-    uint port = 0;
-    if (!readNumberOption(parser, QStringLiteral("port"), 65535, port)) {
-        return QStringLiteral("The port is a number from 0 to 65535");
+    ConnectionFile file;
+    const QString path = fileToRead(parser, sources);
+    QString error = path.isEmpty() ? QString() : file.read(path);
+    if (!error.isEmpty()) {
+        return error;
     }
-    options.port = static_cast<int>(port);
-    options.host = parser.value(QStringLiteral("host"));
-    options.socket = parser.value(QStringLiteral("socket"));
-    options.name = parser.value(QStringLiteral("database"));
-    options.user = parser.value(QStringLiteral("user"));
-    options.connectOptions = parser.value(QStringLiteral("connect-options"));
-    const QString error = check(options);
-    return error.isEmpty() ? readPassword(parser, passwordVariable, options.password) : error;
+    options = file.options();
+    error = readCommandLine(parser, options);
+    if (!error.isEmpty()) {
+        return error;
+    }
+    if (!options.host.isEmpty() && !options.socket.isEmpty()) {
+        return QStringLiteral("Name the database server with either --host or --socket, not both");
+    }
+    error = missing(options);
+    if (!error.isEmpty()) {
+        return error + unreadFile(path, sources);
+    }
+    return readPassword(parser, sources.passwordVariable, file, options, warning);
 }

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QCommandLineParser;
+
+constexpr uint kLargestPort = 65535;
 
 /// How to reach the attendance database.
 struct DatabaseOptions {
     QString host; ///< empty when a socket is used
-    int port = 0; ///< 0: the server's usual port
+    uint port = 0; ///< 0: the server's usual port
     QString socket; ///< path of a UNIX socket; empty when a host is used
     QString name;
     QString user;
@@ -15,16 +18,28 @@ struct DatabaseOptions {
     QString connectOptions; ///< as QSqlDatabase::setConnectOptions takes them
 };
 
+/// Where a program finds its connection besides on its command line.
+struct DatabaseSources {
+    const char *passwordVariable; ///< environment variable that holds the password
+    QString file; ///< ConnectionFile that is read when no other is named; empty for none
+};
+
 /// Adds the options that name the attendance database. There is none for the password itself:
 /// every user of the machine can read a command line.
-void addDatabaseOptions(QCommandLineParser &parser);
+void addDatabaseOptions(QCommandLineParser &parser, const DatabaseSources &sources);
 
-/// Whether the command line names a server. A program that can do without a database asks this
-/// before it reads the options.
+/// Whether the command line asks for a database. A program that can do without one looks here
+/// before it reads the options: a file that lies in its place is no such wish.
 bool hasDatabaseOptions(const QCommandLineParser &parser);
 
-/// Reads the options, and the password from the file that they name or else from the environment
-/// variable. The variable is then removed, so that child processes do not inherit it. Returns what
-/// does not make sense, a sentence without its full stop; empty when all is well.
-QString readDatabaseOptions(const QCommandLineParser &parser, const char *passwordVariable,
-                            DatabaseOptions &options);
+/// Reads the options, each from the command line or else from the connection file: the one that the
+/// command line names, or else that of the sources if it is there.
+///
+/// The password is that of --password-file, or else of the environment variable, or else of the
+/// connection file when the user is the file's, too. The variable is removed, so that child
+/// processes do not inherit it.
+///
+/// Returns what does not make sense, a sentence without its full stop; empty when all is well.
+/// \a warning is such a sentence when something was left out on purpose.
+QString readDatabaseOptions(const QCommandLineParser &parser, const DatabaseSources &sources,
+                            DatabaseOptions &options, QString &warning);

@@ -10,6 +10,12 @@ namespace {
 
 constexpr char kPasswordVariable[] = "YAVHOST_PASSWORD";
 
+/// No file of its own: the one of mirovahrctl names an account that only reads.
+DatabaseSources databaseSources()
+{
+    return {kPasswordVariable, QString()};
+}
+
 QString description()
 {
     return QStringLiteral(
@@ -17,7 +23,8 @@ QString description()
                "attendance\n"
                "database, starts it and keeps it until a signal comes.\n"
                "\n"
-               "The password is read from --password-file or from the environment variable %1.\n"
+               "The password is read from --password-file, from the environment variable %1\n"
+               "or from --defaults-file.\n"
                "The plugin makes a connection of its own out of this one, with the same connect "
                "options;\n"
                "leave CLIENT_FOUND_ROWS off and multiple statements allowed, as the driver has "
@@ -47,7 +54,7 @@ void describe(QCommandLineParser &parser)
     parser.addOption({QStringLiteral("debug-level"),
                       QStringLiteral("0 none, 1 normal (default), 2 and more verbose."),
                       QStringLiteral("level")});
-    addDatabaseOptions(parser);
+    addDatabaseOptions(parser, databaseSources());
 }
 
 QString readOptions(const QCommandLineParser &parser, HostOptions &options)
@@ -66,7 +73,7 @@ QString readOptions(const QCommandLineParser &parser, HostOptions &options)
     if (options.versionInfo) {
         return {};
     }
-    return readDatabaseOptions(parser, kPasswordVariable, options.database);
+    return readDatabaseOptions(parser, databaseSources(), options.database, options.warning);
 }
 
 } // namespace

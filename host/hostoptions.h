@@ -12,6 +12,7 @@ struct HostOptions {
     bool once = false; ///< end after the first synchronisation
     unsigned char debugLevel = 1; ///< 0 none, 1 normal, 2 and more verbose
     DatabaseOptions database;
+    QString warning; ///< what the user should know, a sentence without its full stop; may be empty
 };
 
 /// The outcome of reading a command line.

@@ -17,6 +17,11 @@ void printInfo(const QString &sentence)
     print(stdout, sentence);
 }
 
+void printWarning(const QString &sentence)
+{
+    print(stderr, QStringLiteral("Warning: %1.").arg(sentence));
+}
+
 void printFailure(ExitStatus status, const QString &detail)
 {
     if (status == ExitStatus::Success) {

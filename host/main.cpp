@@ -61,5 +61,8 @@ int main(int argc, char *argv[])
     if (commandLine.options.versionInfo) {
         return printVersionInfo(commandLine.options.library);
     }
+    if (!commandLine.options.warning.isEmpty()) {
+        printWarning(commandLine.options.warning);
+    }
     return runPlugin(commandLine.options);
 }

@@ -8,6 +8,11 @@ namespace {
 
 constexpr char kPasswordVariable[] = "MIROVAHRCTL_PASSWORD";
 
+DatabaseSources databaseSources()
+{
+    return {kPasswordVariable, QStringLiteral("/etc/yav/mirovahrctl.ini")};
+}
+
 QString text(const char *utf8)
 {
     return QString::fromUtf8(utf8);
@@ -57,10 +62,10 @@ void CommandLine::addReportOptions(Page page)
 
 void CommandLine::addDatabaseOptions()
 {
-    m_description += QStringLiteral("\n\nThe database password is read from --password-file or "
-                                    "from the environment\nvariable %1.")
+    m_description += QStringLiteral("\n\nThe database password is read from --password-file, from "
+                                    "the environment\nvariable %1 or from --defaults-file.")
                          .arg(QLatin1String(kPasswordVariable));
-    ::addDatabaseOptions(m_parser);
+    ::addDatabaseOptions(m_parser, databaseSources());
 }
 
 std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, Console &console)

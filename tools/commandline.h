@@ -55,7 +55,7 @@ public:
 
     /// The file of --html; empty when it was not given or is not offered.
     QString pagePath() const;
-    /// Whether the command line names a database server.
+    /// Whether the command line asks for a database.
     bool namesDatabase() const;
     /// Reads the database options. Has a status when the subcommand must end with it.
     std::optional<ExitStatus> readDatabase(DatabaseOptions &options, Console &console) const;

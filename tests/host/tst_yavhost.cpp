@@ -168,7 +168,8 @@ void TestYavHost::aCommandLineThatMakesNoSenseIsRefused_data()
     QTest::newRow("no server") << QStringList{"plugin.so"}
                                << "Name the database server with either --host or --socket";
     QTest::newRow("two servers") << complete + QStringList{"--host", "h"}
-                                 << "Name the database server with either --host or --socket";
+                                 << "Name the database server with either --host or --socket, not "
+                                    "both";
     QTest::newRow("no database") << QStringList{"plugin.so", "--host", "h"}
                                  << "Name the attendance database with --database";
     QTest::newRow("no user") << server << "Name the database user with --user";

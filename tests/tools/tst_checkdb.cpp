@@ -882,7 +882,7 @@ void TestCheckDb::withoutAServerTheUsageIsWrong()
     COMPARE_EXIT(run, ExitStatus::Usage);
     QCOMPARE(run.err,
              QString("mirovahrctl: check-db: Name the database server with either --host"
-                     " or --socket.\n"));
+                     " or --socket, or in the file /etc/yav/mirovahrctl.ini.\n"));
 }
 
 void TestCheckDb::theHelpSaysHowToConnect()

@@ -554,7 +554,8 @@ void TestCheckFile::badUsageIsRefused_data()
                               << "mirovahrctl: check-file: There is no file '/srv'.\n";
     QTest::newRow("a database without a user")
         << QStringList{"/etc/hostname", "--host", "h", "--database", "d"}
-        << "mirovahrctl: check-file: Name the database user with --user.\n";
+        << "mirovahrctl: check-file: Name the database user with --user, or in the "
+           "file /etc/yav/mirovahrctl.ini.\n";
 }
 
 void TestCheckFile::badUsageIsRefused()

@@ -415,7 +415,8 @@ void TestStatus::wrongUsage_data()
         << QStringList{"--no-such"} << "Unknown option 'no-such'" << plain;
     QTest::newRow("an argument") << QStringList{"now"} << "'now' is one argument too many" << plain;
     QTest::newRow("two servers") << QStringList{"--host", "h"}
-                                 << "Name the database server with either --host or --socket"
+                                 << "Name the database server with either --host or --socket, not "
+                                    "both"
                                  << plain;
     QTest::newRow("no number") << QStringList{"--warning", "x"}
                                << "--warning takes a number of hours above 0"

@@ -1,0 +1,121 @@
+#include "cli/connectionfile.h"
+
+#include "cli/numberoption.h"
+#include "cli/passwordfile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct TextKey {
+    const char *name;
+    QString DatabaseOptions::*option;
+};
+
+constexpr TextKey kTextKeys[] = {
+    {"connect-options", &DatabaseOptions::connectOptions},
+    {"database", &DatabaseOptions::name},
+    {"host", &DatabaseOptions::host},
+    {"socket", &DatabaseOptions::socket},
+    {"user", &DatabaseOptions::user},
+};
+
+} // namespace
+
+QString ConnectionFile::read(const QString &path)
+{
+    m_path = path;
+    const QFileInfo info(path);
+    if (!info.isFile()) {
+        return QStringLiteral("There is no file '%1'").arg(path);
+    }
+    if (!info.isReadable()) {
+        return QStringLiteral("'%1' cannot be read").arg(path);
+    }
+    QSettings settings(path, QSettings::IniFormat);
+    settings.setIniCodec("UTF-8");
+    const QString error = readKeys(settings);
+    return error.isEmpty() ? QString() : QStringLiteral("'%1': %2").arg(path, error);
+}
+
+QString ConnectionFile::readPassword(QString &password, QString &warning) const
+{
+    if (!m_passwordFile.isEmpty()) {
+        return readPasswordFile(m_passwordFile, password);
+    }
+    if (!m_password.isEmpty() && QFileInfo(m_path).permission(QFileDevice::ReadOther)) {
+        warning = QStringLiteral("Every user of the machine can read '%1': the password in it is "
+                                 "not used. Take the right away (chmod o-r)")
+                      .arg(m_path);
+        return {};
+    }
+    password = m_password;
+    return {};
+}
+
+QString ConnectionFile::readKeys(QSettings &settings)
+{
+    const QStringList strays = settings.childKeys();
+    if (!strays.isEmpty()) {
+        return QStringLiteral("the key '%1' stands in no group; write [client] above it")
+            .arg(strays.constFirst());
+    }
+    settings.beginGroup(QStringLiteral("client"));
+    const QStringList keys = settings.childKeys();
+    for (const QString &key : keys) {
+        const QString error = take(key, settings.value(key));
+        if (!error.isEmpty()) {
+            return error;
+        }
+    }
+    if (settings.status() != QSettings::NoError) {
+        return QStringLiteral("there are lines that are neither [group], nor key = value, nor a "
+                              "comment that begins with a semicolon");
+    }
+    return check();
+}
+
+QString ConnectionFile::take(const QString &key, const QVariant &value)
+{
+    if (value.type() == QVariant::StringList) {
+        return QStringLiteral("the value of '%1' has a comma; put it in quotation marks").arg(key);
+    }
+    const QString text = value.toString();
+    if (key == QLatin1String("port")) {
+        return readNumber(text, kLargestPort, m_options.port)
+            ? QString()
+            : QStringLiteral("the port is a number from 0 to %1").arg(kLargestPort);
+    }
+    if (key == QLatin1String("password")) {
+        m_password = text;
+        return {};
+    }
+    if (key == QLatin1String("password-file")) {
+        m_passwordFile = QFileInfo(m_path).dir().filePath(text);
+        return {};
+    }
+    const auto *const found =
+        std::find_if(std::begin(kTextKeys), std::end(kTextKeys),
+                     [&key](const TextKey &known) { return key == QLatin1String(known.name); });
+    if (found == std::end(kTextKeys)) {
+        return QStringLiteral("there is no key '%1' for a connection").arg(key);
+    }
+    m_options.*found->option = text;
+    return {};
+}
+
+QString ConnectionFile::check() const
+{
+    if (!m_options.host.isEmpty() && !m_options.socket.isEmpty()) {
+        return QStringLiteral("it names both a host and a socket");
+    }
+    if (!m_password.isEmpty() && !m_passwordFile.isEmpty()) {
+        return QStringLiteral("it names both a password and a password-file");
+    }
+    return {};
+}
