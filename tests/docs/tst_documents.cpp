@@ -1,3 +1,4 @@
+#include "cli/connectionfile.h"
 #include "plugin/configuration.h"
 #include "tests/docs/markdown.h"
 #include "tests/docs/sourcetexts.h"
@@ -5,6 +6,7 @@
 #include "worker/importfile.h"
 #include "worker/schedule.h"
 
+#include <QCommandLineParser>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
@@ -102,6 +104,8 @@ private Q_SLOTS:
     void linksLeadToFiles();
     void theSampleConfigurationReadsAsItSays();
     void theSampleConfigurationNamesEveryKeyAndNoOther();
+    void theSampleConnectionReadsAsItSays();
+    void theSampleConnectionNamesEveryOption();
 };
 
 void TestDocuments::everyLogTextIsDocumentedWithItsLevel()
@@ -230,6 +234,40 @@ void TestDocuments::theSampleConfigurationNamesEveryKeyAndNoOther()
     keys.sort();
     expected.sort();
     QCOMPARE(keys, expected);
+}
+
+void TestDocuments::theSampleConnectionReadsAsItSays()
+{
+    ConnectionFile sample;
+    QCOMPARE(sample.read(PROJECT_FOLDER "/config/mirovahrctl.ini"), QString());
+    QCOMPARE(sample.options().socket, QString("/run/mysqld/mysqld.sock"));
+    QCOMPARE(sample.options().name, QString("tepdb"));
+    QCOMPARE(sample.options().user, QString("mirovahrctl"));
+    QString password;
+    QString warning;
+    QCOMPARE(sample.readPassword(password, warning).section("'", 0, 1),
+             QString("The password file '" PROJECT_FOLDER "/config/mirovahrctl.password"));
+}
+
+void TestDocuments::theSampleConnectionNamesEveryOption()
+{
+    QCommandLineParser parser;
+    addDatabaseOptions(parser, {"PASSWORD", QString()});
+    static const QRegularExpression option("--([a-z-]+) <");
+    QStringList names{"password"};
+    auto matches = option.globalMatch(parser.helpText());
+    while (matches.hasNext())
+        names << matches.next().captured(1);
+    names.removeOne("defaults-file");
+
+    static const QRegularExpression key("^;?([a-z-]+)=", QRegularExpression::MultilineOption);
+    QStringList keys;
+    matches = key.globalMatch(Markdown::text("config/mirovahrctl.ini"));
+    while (matches.hasNext())
+        keys << matches.next().captured(1);
+    names.sort();
+    keys.sort();
+    QCOMPARE(keys, names);
 }
 
 QTEST_GUILESS_MAIN(TestDocuments)

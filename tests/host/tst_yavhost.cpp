@@ -6,7 +6,7 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QRegularExpression>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <csignal>
@@ -43,6 +43,7 @@ private Q_SLOTS:
     void onceBringsAPersonIntoTheDatabase();
     void onceIsSuccessfulWithoutAnExportFile();
     void onceEndsBeforeATickThatIsOverdue();
+    void onceEndsItsTickBeforeItEnds();
     void onceEndsWhateverTheEnvironmentSaysOfTheLog();
     void atDebugLevel0OnlyWarningsArePrinted();
     void warningsGoToStandardErrorAndTheRestToStandardOutput();
@@ -50,6 +51,9 @@ private Q_SLOTS:
     void thePasswordFileWinsOverTheEnvironment();
     void programsOfThePluginDoNotInheritThePassword();
     void connectOptionsReachTheConnectionOfThePlugin();
+    void theConnectionCanComeFromAFile();
+    void theConnectionFileOfTheToolsIsNotRead();
+    void aPasswordThatEverybodyCanReadIsNotUsed();
 
     void onceFailsWhenTheDatabaseIsDown();
     void onceFailsWhenOnlyThePluginCannotOpenTheDatabase();
@@ -67,6 +71,8 @@ private Q_SLOTS:
 private:
     QStringList databaseArguments() const;
     QStringList arguments(const QStringList &more = {}) const;
+    /// The connection, and a line that says the password.
+    QString connectionFile(const QString &passwordLine) const;
     void writeIni(const QString &more = {});
     int countPeople(const QString &pamId);
 
@@ -110,6 +116,13 @@ QStringList TestYavHost::arguments(const QStringList &more) const
         + QStringList{"--password-file", server.passwordFile()} + more;
 }
 
+QString TestYavHost::connectionFile(const QString &passwordLine) const
+{
+    const PrivateMariaDb &server = const_cast<TestYavHost *>(this)->m_db.server();
+    return QStringLiteral("[client]\nsocket=%1\ndatabase=%2\nuser=%3\n%4\n")
+        .arg(server.socketPath(), server.databaseName(), server.userName(), passwordLine);
+}
+
 int TestYavHost::countPeople(const QString &pamId)
 {
     return m_db.value(QStringLiteral("SELECT COUNT(*) FROM people WHERE pamId = '%1'").arg(pamId))
@@ -124,8 +137,8 @@ void TestYavHost::helpNamesTheOptionsAndEveryExitStatus()
     for (const char *text :
          {"--version-info", "--once", "--debug-level <level>", "--host <host>", "--port <port>",
           "--socket <path>", "--database <name>", "--user <user>", "--password-file <file>",
-          "--connect-options <options>", "YAVHOST_PASSWORD", "leave CLIENT_FOUND_ROWS off",
-          "SIGUSR1 pauses it, SIGUSR2 resumes it",
+          "--connect-options <options>", "--defaults-file <file>", "--version", "YAVHOST_PASSWORD",
+          "leave CLIENT_FOUND_ROWS off", "SIGUSR1 pauses it, SIGUSR2 resumes it",
           "  0  Everything went well\n"
           "  1  The library is not a plugin of the attendance server\n"
           "  2  The command line is not understood\n"
@@ -254,6 +267,17 @@ void TestYavHost::onceEndsBeforeATickThatIsOverdue()
     QCOMPARE(host.output().count("BEGIN synchronization"), 1);
 }
 
+void TestYavHost::onceEndsItsTickBeforeItEnds()
+{
+    m_db.run("UPDATE vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
+    ProgramRun host;
+    QVERIFY(host.run(kHost, arguments({"--once"})));
+    COMPARE_STATUS(host, 0);
+    QVERIFY(host.output().contains("BEGIN synchronization #1 (force: YES)"));
+    QCOMPARE(m_db.value("SELECT value FROM vars WHERE name = 'YAV.MHRWorker.forceSync'").toString(),
+             QString("0"));
+}
+
 void TestYavHost::onceEndsWhateverTheEnvironmentSaysOfTheLog()
 {
     ProgramRun host;
@@ -330,6 +354,42 @@ void TestYavHost::connectOptionsReachTheConnectionOfThePlugin()
     COMPARE_STATUS(host, 0);
     const QString complaint = "QMYSQLDriver::open: Unknown connect option 'NO_SUCH_OPTION'";
     QVERIFY2(host.errors().count(complaint) >= 2, host.report().constData());
+}
+
+void TestYavHost::theConnectionCanComeFromAFile()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("yavhost.ini");
+    writeFile(file, connectionFile("password-file=" + m_db.server().passwordFile()));
+    ProgramRun host;
+    QVERIFY(host.run(kHost, {kPlugin, "--once", "--defaults-file", file}));
+    COMPARE_STATUS(host, 0);
+    QCOMPARE(countPeople("4711.1"), 1);
+}
+
+void TestYavHost::theConnectionFileOfTheToolsIsNotRead()
+{
+    const QString file = "/etc/yav/mirovahrctl.ini";
+    writeFile(file, connectionFile("password-file=" + m_db.server().passwordFile()));
+    ProgramRun host;
+    const bool ended = host.run(kHost, {kPlugin, "--once"});
+    QVERIFY(QFile::remove(file));
+    QVERIFY(ended);
+    COMPARE_STATUS(host, 2);
+}
+
+void TestYavHost::aPasswordThatEverybodyCanReadIsNotUsed()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("yavhost.ini");
+    writeFile(file, connectionFile("password=" + m_db.server().password()));
+    QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadOther));
+    ProgramRun host;
+    QVERIFY(host.run(kHost, {kPlugin, "--once", "--defaults-file", file}));
+    COMPARE_STATUS(host, 3);
+    QVERIFY2(host.errors().startsWith("yavhost: Warning: Every user of the machine can read '"),
+             host.report().constData());
+    QVERIFY2(host.errors().contains("(using password: NO)"), host.report().constData());
 }
 
 void TestYavHost::onceFailsWhenTheDatabaseIsDown()

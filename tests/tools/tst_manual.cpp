@@ -121,11 +121,13 @@ void TestManual::completion_data()
     for (const Subcommand &subcommand : subcommands())
         all << subcommand.name;
     QTest::newRow("every subcommand")
-        << QStringList{""} << all + QStringList{"--help", "--version"};
+        << QStringList{""} << all + QStringList{"help", "--help", "--version"};
     QTest::newRow("the beginning of a subcommand")
         << QStringList{"check-f"} << QStringList{"check-file"};
+    QTest::newRow("the subcommand that help is for")
+        << QStringList{"help", "check-f"} << QStringList{"check-file"};
     QTest::newRow("options") << QStringList{"check-config", "--"}
-                             << QStringList{"--help", "--json"};
+                             << QStringList{"--help", "--json", "--version"};
     QTest::newRow("the beginning of an option")
         << QStringList{"check-file", "x", "--pass"} << QStringList{"--password-file"};
     QTest::newRow("an option behind a flag")

@@ -1,0 +1,120 @@
+#include "tests/host/programrun.h"
+
+#include <QtTest>
+
+namespace {
+
+/// What stands in the place of a program that is not executable before it is installed.
+const QStringList kDemo{"bash", BUILD_FOLDER "/packaging/mirovahr-demo"};
+
+QStringList script(const char *name)
+{
+    return {QStringLiteral(PROJECT_FOLDER "/scripts/") + name};
+}
+
+} // namespace
+
+/// What is the same in all programs and scripts: help, version, and the status of wrong usage.
+class TestPrograms : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void helpIsGiven_data();
+    void helpIsGiven();
+    void theVersionIsGiven_data();
+    void theVersionIsGiven();
+    void wrongUsageEndsWithTheSameStatus_data();
+    void wrongUsageEndsWithTheSameStatus();
+
+private:
+    static void addPrograms();
+    static void addRow(const QString &name, const QStringList &program, const QString &argument);
+};
+
+void TestPrograms::addRow(const QString &name, const QStringList &program, const QString &argument)
+{
+    QTest::newRow(qPrintable(name + ' ' + argument)) << name << (program + QStringList{argument});
+}
+
+void TestPrograms::helpIsGiven_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("command");
+    for (const char *argument : {"-h", "--help", "help"}) {
+        addRow("mirovahrctl", {MIROVAHRCTL}, argument);
+        addRow("yavhost", {YAVHOST}, argument);
+        addRow("private-mariadb", {PRIVATE_MARIADB}, argument);
+        addRow("mirovahr-demo", kDemo, argument);
+        for (const char *name :
+             {"bench", "check-code", "check-hardening", "demo", "fault-sweep", "fuzz",
+              "long-service", "package", "random-hosts", "test", "test-packages"})
+            addRow(name, script(name), argument);
+    }
+    for (const char *argument : {"-h", "--help"})
+        addRow("private-view", script("private-view"), argument);
+}
+
+void TestPrograms::helpIsGiven()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, command);
+    ProgramRun run;
+    QVERIFY(run.run(command.first(), command.mid(1)));
+    COMPARE_STATUS(run, 0);
+    QVERIFY2(run.output().section('\n', 0, 0).contains(name), run.report().constData());
+    QCOMPARE(run.errors(), QString());
+}
+
+void TestPrograms::theVersionIsGiven_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("command");
+    for (const char *argument : {"-v", "--version"}) {
+        addRow("mirovahrctl", {MIROVAHRCTL}, argument);
+        addRow("yavhost", {YAVHOST}, argument);
+        addRow("private-mariadb", {PRIVATE_MARIADB}, argument);
+        addRow("mirovahr-demo", kDemo, argument);
+    }
+}
+
+void TestPrograms::theVersionIsGiven()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, command);
+    ProgramRun run;
+    QVERIFY(run.run(command.first(), command.mid(1)));
+    COMPARE_STATUS(run, 0);
+    QCOMPARE(run.output(), name + " 1.5.3\n");
+    QCOMPARE(run.errors(), QString());
+}
+
+void TestPrograms::wrongUsageEndsWithTheSameStatus_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("command");
+    const QString argument = "--no-such-option";
+    addRow("mirovahrctl", {MIROVAHRCTL}, argument);
+    addRow("yavhost", {YAVHOST}, argument);
+    addRow("private-mariadb", {PRIVATE_MARIADB}, argument);
+    addRow("mirovahr-demo", kDemo, argument);
+    for (const char *name : {"demo", "package", "test-packages"})
+        addRow(name, script(name), argument);
+    QTest::newRow("mirovahrctl alone") << "mirovahrctl" << QStringList{MIROVAHRCTL};
+    QTest::newRow("yavhost alone") << "yavhost" << QStringList{YAVHOST};
+    QTest::newRow("private-mariadb alone") << "private-mariadb" << QStringList{PRIVATE_MARIADB};
+    QTest::newRow("private-view alone") << "private-view" << script("private-view");
+}
+
+void TestPrograms::wrongUsageEndsWithTheSameStatus()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, command);
+    ProgramRun run;
+    QVERIFY(run.run(command.first(), command.mid(1)));
+    COMPARE_STATUS(run, 2);
+    QCOMPARE(run.output(), QString());
+    QVERIFY2(run.errors().contains(name), run.report().constData());
+}
+
+QTEST_GUILESS_MAIN(TestPrograms)
+#include "tst_programs.moc"
