@@ -32,6 +32,9 @@ private Q_SLOTS:
     void peopleAreRegisteredInATerminalAndQueued();
     void peopleRegisteredAlreadyAreQueuedAgain();
     void theQueueGetsTheListAsItCame();
+    void blanksAndRepeatedIdsStayInTheListOfATerminal();
+    void repeatedPeopleAreGivenAndTakenAsOftenAsTheyCome();
+    void anIdOf0IsATerminalOrAdministratorLikeAnyOther();
     void peopleWithoutANumberAreNotRegistered_data();
     void peopleWithoutANumberAreNotRegistered();
     void peopleAreRemovedFromATerminalAndQueued();
@@ -63,6 +66,8 @@ private Q_SLOTS:
     void addedPeopleReachTerminalsAndAdministrators();
     void deletedPeopleLeaveTerminalsAndAdministrators();
     void peopleSlotsUseOnlyTheIdsThatAreThere();
+    void peopleSlotsKeepBlanksAndRepeatedIds();
+    void peopleSlotsTakeAListOfBlanksForAnId();
     void peopleSlotsWithoutABranchOrIdsRunNoStatement_data();
     void peopleSlotsWithoutABranchOrIdsRunNoStatement();
     void administratorsFollowWhenTheTerminalsFail_data();
@@ -74,6 +79,12 @@ private Q_SLOTS:
     void leavingTerminalsLoseThePeopleOfTheBranch();
     void newAdministratorsGetThePeopleOfTheBranch();
     void leavingAdministratorsLoseThePeopleOfTheBranchForGood();
+    void slotsOfTerminalsAndAdministratorsTakeBranch0_data();
+    void slotsOfTerminalsAndAdministratorsTakeBranch0();
+    void slotsTakeTerminalsAndAdministratorsWithoutANumberForId0_data();
+    void slotsTakeTerminalsAndAdministratorsWithoutANumberForId0();
+    void slotsVisitARepeatedIdAsOftenAsItComes_data();
+    void slotsVisitARepeatedIdAsOftenAsItComes();
     void slotsGoOnAfterAFailure_data();
     void slotsGoOnAfterAFailure();
     void newTerminalsAndAdministratorsOfAnEmptyBranchGetNobody();
@@ -315,6 +326,51 @@ void TestBranchesPropagation::theQueueGetsTheListAsItCame()
     QVERIFY2(line.startsWith("C TermSyncRepository::addTermSyncPeople() ERROR: You have an error in"
                              " your SQL syntax;"),
              qPrintable(line));
+}
+
+void TestBranchesPropagation::blanksAndRepeatedIdsStayInTheListOfATerminal()
+{
+    const QStringList uids = {"21", "21", " 22"};
+    LogCapture log;
+    QVERIFY(Repo(*this).addPeopleToTerm(11, uids));
+    QCOMPARE(m_database.statements(), registering(11, "(11, 21),(11, 21),(11, 22)", "21, 21,  22"));
+    m_database.clearStatements();
+    QVERIFY(Repo(*this).deletePeopleFromTerm(11, uids));
+    QCOMPARE(m_database.statements(), removing(11, "21,21, 22", "21, 21,  22"));
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void TestBranchesPropagation::repeatedPeopleAreGivenAndTakenAsOftenAsTheyCome()
+{
+    Repo repo(*this);
+    QVERIFY(repo.addPeopleToAdmin(31, {"21", "21"}));
+    QVERIFY(repo.deletePeopleFromAdmin(31, QStringList({"21", "21", " 22"})));
+    QVERIFY(repo.AddPeopleToAdmins(3, {"23", "23"}));
+    QVERIFY(repo.deletePeopleFromAdmins(3, {"23", "23"}));
+    const QString adminsOf3 = "SELECT aid FROM bradm WHERE bid = 3";
+    const QString adminsOf23 =
+        "SELECT DISTINCT aid FROM bradm JOIN brape USING(bid) WHERE uid = 23";
+    const QString taking23 = "DELETE FROM admins_people WHERE aid=31  AND uid=23";
+    QCOMPARE(m_database.statements(),
+             QStringList({giving("(31, 21),(31, 21)"),
+                          "DELETE FROM admins_people WHERE aid=31  AND uid IN(21,21, 22)",
+                          adminsOf3, giving("(31, 23),(31, 23)"), adminsOf3, adminsOf23, taking23,
+                          adminsOf23, taking23}));
+}
+
+void TestBranchesPropagation::anIdOf0IsATerminalOrAdministratorLikeAnyOther()
+{
+    Repo repo(*this);
+    QVERIFY(repo.addPeopleToTerm(0, {"21"}));
+    QVERIFY(repo.deletePeopleFromTerm(0, {"21"}));
+    QVERIFY(repo.addPeopleToAdmin(0, {"21"}));
+    QVERIFY(repo.deletePeopleFromAdmin(0, QStringList("21")));
+    QVERIFY(repo.deletePeopleFromAdmin(0, 21u));
+    QCOMPARE(m_database.statements(),
+             registering(0, "(0, 21)", "21") + removing(0, "21", "21")
+                 + QStringList({giving("(0, 21)"),
+                                "DELETE FROM admins_people WHERE aid=0  AND uid IN(21)",
+                                "DELETE FROM admins_people WHERE aid=0  AND uid=21"}));
 }
 
 void TestBranchesPropagation::peopleWithoutANumberAreNotRegistered_data()
@@ -685,6 +741,39 @@ void TestBranchesPropagation::peopleSlotsUseOnlyTheIdsThatAreThere()
     QCOMPARE(log.lines(), QStringList());
 }
 
+void TestBranchesPropagation::peopleSlotsKeepBlanksAndRepeatedIds()
+{
+    LogCapture log;
+    QVERIFY(Repo(*this).slotAddedPeopleToBranch(3, "21,21, 23"));
+    QCOMPARE(m_database.statements(),
+             QStringList("SELECT tid FROM term WHERE status > 0 AND bid = 3")
+                 + registering(14, "(14, 21),(14, 21),(14, 23)", "21, 21,  23")
+                 + QStringList({"SELECT aid FROM bradm WHERE bid = 3",
+                                giving("(31, 21),(31, 21),(31, 23)")}));
+    m_database.clearStatements();
+    QVERIFY(Repo(*this).slotDeletedPeopleFromBranch(3, "21,21, 23"));
+    QCOMPARE(m_database.statements().mid(1, 3), removing(14, "21,21, 23", "21, 21,  23"));
+    QCOMPARE(m_database.statements().count(kAdminsOf21), 2);
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void TestBranchesPropagation::peopleSlotsTakeAListOfBlanksForAnId()
+{
+    LogCapture log;
+    QVERIFY(Repo(*this).slotAddedPeopleToBranch(3, " "));
+    QCOMPARE(m_database.statements(),
+             QStringList({"SELECT tid FROM term WHERE status > 0 AND bid = 3",
+                          "SELECT aid FROM bradm WHERE bid = 3"}));
+    QCOMPARE(log.lines(), QStringList());
+    m_database.clearStatements();
+    QVERIFY(!Repo(*this).slotDeletedPeopleFromBranch(3, " "));
+    QCOMPARE(m_database.statements().at(1),
+             QString("DELETE FROM people_term WHERE tid=14  AND uid IN( )"));
+    QCOMPARE(m_database.statements().last(),
+             QString("DELETE FROM admins_people WHERE aid=31  AND uid=0"));
+    QCOMPARE(log.lines().last(), kTermsFailed);
+}
+
 void TestBranchesPropagation::peopleSlotsWithoutABranchOrIdsRunNoStatement_data()
 {
     QTest::addColumn<int>("bid");
@@ -810,6 +899,91 @@ void TestBranchesPropagation::leavingAdministratorsLoseThePeopleOfTheBranchForGo
     // Person 21 also belongs to branch 3, which administrator 31 serves.
     QCOMPARE(handled(), TableRows({{"31", "23"}}));
     QCOMPARE(log.lines(), QStringList());
+}
+
+void TestBranchesPropagation::slotsOfTerminalsAndAdministratorsTakeBranch0_data()
+{
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QStringList>("statements");
+    QTest::newRow("new terminals")
+        << Call([](Branches &repo) { return repo.slotAddedBranchToTerms(0, "13"); })
+        << registering(13, "(13, 23)", "23");
+    QTest::newRow("leaving terminals")
+        << Call([](Branches &repo) { return repo.slotDeletedBranchFromTerms(0, "13"); })
+        << removing(13, "23", "23");
+    QTest::newRow("new administrators")
+        << Call([](Branches &repo) { return repo.slotAddedAdminsToBranch(0, "33"); })
+        << QStringList(giving("(33, 23)"));
+    QTest::newRow("leaving administrators")
+        << Call([](Branches &repo) { return repo.slotDeletedAdminsFromBranch(0, "33"); })
+        << QStringList("DELETE FROM admins_people WHERE aid=33  AND uid IN(23)");
+}
+
+void TestBranchesPropagation::slotsOfTerminalsAndAdministratorsTakeBranch0()
+{
+    QFETCH(Call, call);
+    QFETCH(QStringList, statements);
+    m_database.run("INSERT INTO brape (bid, uid) VALUES (0, 23)");
+    Repo repo(*this);
+    LogCapture log;
+    QVERIFY(call(repo));
+    QCOMPARE(m_database.statements(),
+             QStringList("SELECT uid FROM brape WHERE bid = 0") + statements);
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void TestBranchesPropagation::slotsTakeTerminalsAndAdministratorsWithoutANumberForId0_data()
+{
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QStringList>("statements");
+    QTest::newRow("new terminals")
+        << Call([](Branches &repo) { return repo.slotAddedBranchToTerms(3, "0, ,x"); })
+        << registering(0, "(0, 21)", "21");
+    QTest::newRow("leaving terminals")
+        << Call([](Branches &repo) { return repo.slotDeletedBranchFromTerms(3, "0, ,x"); })
+        << removing(0, "21", "21");
+    QTest::newRow("new administrators")
+        << Call([](Branches &repo) { return repo.slotAddedAdminsToBranch(3, "0, ,65536"); })
+        << QStringList(giving("(0, 21)"));
+    QTest::newRow("leaving administrators")
+        << Call([](Branches &repo) { return repo.slotDeletedAdminsFromBranch(3, "0, ,65536"); })
+        << QStringList("DELETE FROM admins_people WHERE aid=0  AND uid IN(21)");
+}
+
+void TestBranchesPropagation::slotsTakeTerminalsAndAdministratorsWithoutANumberForId0()
+{
+    QFETCH(Call, call);
+    QFETCH(QStringList, statements);
+    Repo repo(*this);
+    LogCapture log;
+    QVERIFY(call(repo));
+    QCOMPARE(m_database.statements(),
+             QStringList("SELECT uid FROM brape WHERE bid = 3") + statements + statements
+                 + statements);
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void TestBranchesPropagation::slotsVisitARepeatedIdAsOftenAsItComes_data()
+{
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QStringList>("statements");
+    QTest::newRow("new terminals")
+        << Call([](Branches &repo) { return repo.slotAddedBranchToTerms(3, "13,13, 13"); })
+        << registering(13, "(13, 21)", "21");
+    QTest::newRow("leaving terminals")
+        << Call([](Branches &repo) { return repo.slotDeletedBranchFromTerms(3, "13,13, 13"); })
+        << removing(13, "21", "21");
+    QTest::newRow("new administrators")
+        << Call([](Branches &repo) { return repo.slotAddedAdminsToBranch(3, "33,33, 33"); })
+        << QStringList(giving("(33, 21)"));
+    QTest::newRow("leaving administrators")
+        << Call([](Branches &repo) { return repo.slotDeletedAdminsFromBranch(3, "33,33, 33"); })
+        << QStringList("DELETE FROM admins_people WHERE aid=33  AND uid IN(21)");
+}
+
+void TestBranchesPropagation::slotsVisitARepeatedIdAsOftenAsItComes()
+{
+    slotsTakeTerminalsAndAdministratorsWithoutANumberForId0();
 }
 
 void TestBranchesPropagation::slotsGoOnAfterAFailure_data()

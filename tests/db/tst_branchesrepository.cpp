@@ -32,6 +32,7 @@ private Q_SLOTS:
     void aDayIsWrittenWhenEitherHourIsSet_data();
     void aDayIsWrittenWhenEitherHourIsSet();
     void addBranchWithoutANameRunsNoStatement();
+    void aNameOfBlanksIsAName();
     void addBranchReportsAFailedStatement();
     void addBranchReturnsTheLow16BitsOfTheId_data();
     void addBranchReturnsTheLow16BitsOfTheId();
@@ -58,6 +59,10 @@ private Q_SLOTS:
     void membershipChangesWithoutABranchOrIdsRunNoStatement();
     void membershipChangesThatAffectNoRowAnnounceNothing_data();
     void membershipChangesThatAffectNoRowAnnounceNothing();
+    void membershipChangesSendAndAnnounceTheListAsItCame_data();
+    void membershipChangesSendAndAnnounceTheListAsItCame();
+    void aListOfBlanksIsSentAndFails_data();
+    void aListOfBlanksIsSentAndFails();
     void failedMembershipChangesAreReported_data();
     void failedMembershipChangesAreReported();
     void membershipCallsAreLoggedFromLevel1On_data();
@@ -79,6 +84,7 @@ private Q_SLOTS:
     void deleteBASOfAMissingTripleSucceeds();
     void addBASStoresAListAsABatch();
     void deleteBASDeletesAListAsABatch();
+    void repeatedTriplesAreExecutedAsOftenAsTheyCome();
     void textsWithoutThreePartsAreSkipped();
     void partsThatAreNoNumbersCountAs0();
     void anEmptyBatchExecutesNothingAndSucceeds_data();
@@ -350,6 +356,14 @@ void TestBranchesRepository::addBranchWithoutANameRunsNoStatement()
     QCOMPARE(m_database.statements(), QStringList());
     QCOMPARE(log.lines(),
              QStringList("W BranchesRepository::addBranch() -  branch name can not be empty!"));
+}
+
+void TestBranchesRepository::aNameOfBlanksIsAName()
+{
+    LogCapture log;
+    QCOMPARE(Repo(*this).addBranch(namedBranch("  ")), ushort(1));
+    QCOMPARE(m_database.rows("SELECT name FROM branches"), TableRows({{"  "}}));
+    QCOMPARE(log.lines(), QStringList());
 }
 
 void TestBranchesRepository::addBranchReportsAFailedStatement()
@@ -655,6 +669,48 @@ void TestBranchesRepository::membershipChangesThatAffectNoRowAnnounceNothing()
     QCOMPARE(log.lines(), QStringList());
 }
 
+void TestBranchesRepository::membershipChangesSendAndAnnounceTheListAsItCame_data()
+{
+    membershipChangesWithoutABranchOrIdsRunNoStatement_data();
+}
+
+void TestBranchesRepository::membershipChangesSendAndAnnounceTheListAsItCame()
+{
+    QFETCH(Change, change);
+    fillTables();
+    Repo repo(*this);
+    QStringList announced;
+    for (Signal signal : kSignals)
+        connect(&repo, signal, &repo, [&](ushort, const QString &ids) { announced += ids; });
+    const QString ids = " 12,11 , 12,11";
+    LogCapture log;
+    QVERIFY((repo.*change)(2, ids));
+    const QStringList statements = m_database.statements();
+    QVERIFY(!statements.isEmpty());
+    QCOMPARE(statements.filter(" IN(" + ids + ")"), statements);
+    QCOMPARE(announced, QStringList(ids));
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void TestBranchesRepository::aListOfBlanksIsSentAndFails_data()
+{
+    membershipChangesWithoutABranchOrIdsRunNoStatement_data();
+}
+
+void TestBranchesRepository::aListOfBlanksIsSentAndFails()
+{
+    QFETCH(Change, change);
+    fillTables();
+    Repo repo(*this);
+    LogCapture log;
+    QVERIFY(!(repo.*change)(2, "  "));
+    const QStringList statements = m_database.statements();
+    QVERIFY(!statements.isEmpty());
+    QCOMPARE(statements.filter(" IN(  )"), statements);
+    QCOMPARE(log.lines().filter("ERROR: You have an error in your SQL syntax").size(),
+             statements.size());
+}
+
 void TestBranchesRepository::failedMembershipChangesAreReported_data()
 {
     QTest::addColumn<Change>("change");
@@ -867,6 +923,18 @@ void TestBranchesRepository::deleteBASDeletesAListAsABatch()
                      "EXECUTE: DELETE FROM `bas` WHERE bid = 3 AND attrid = 13 AND secid = 7"}));
     QCOMPARE(triples(), TableRows({{"3", "12", "7"}}));
     QCOMPARE(log.lines(), QStringList());
+}
+
+void TestBranchesRepository::repeatedTriplesAreExecutedAsOftenAsTheyCome()
+{
+    const QStringList texts = {"3-12-7", "3-12-7", " 3-12-7"};
+    QVERIFY(Repo(*this).addBAS(texts));
+    QCOMPARE(m_database.statements().filter("EXECUTE").size(), 3);
+    QCOMPARE(triples(), TableRows({{"3", "12", "7"}}));
+    m_database.clearStatements();
+    QVERIFY(Repo(*this).deleteBAS(texts));
+    QCOMPARE(m_database.statements().filter("EXECUTE").size(), 3);
+    QCOMPARE(triples(), TableRows());
 }
 
 void TestBranchesRepository::textsWithoutThreePartsAreSkipped()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void delReportsAFailedStatement();
 
     void getMultipleOfAListReturnsThoseThatExist();
+    void getMultipleOfAListTakesTheNamesAsTheyCome();
     void getMultipleOfAnEmptyListRunsNoStatement();
     void getMultipleOfAPrefixReturnsEveryKeyThatBeginsWithIt();
     void getMultipleOfAPrefixTakesWildcards();
@@ -227,6 +228,19 @@ void TestTepDbSettings::getMultipleOfAListReturnsThoseThatExist()
     QCOMPARE(values, Values({{"colour", "colour value"}, {"speed", "speed value"}}));
     QCOMPARE(m_database.statements(),
              QStringList("SELECT name, value FROM vars WHERE name IN('speed','age','colour')"));
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void TestTepDbSettings::getMultipleOfAListTakesTheNamesAsTheyCome()
+{
+    addVariables({"colour", " size", "speed"});
+    LogCapture log;
+    const Values values = TepDbSettings(m_connection)
+                              .variableGetMultiple(QStringList({"colour", " size", "", "colour"}));
+    QCOMPARE(values, Values({{" size", " size value"}, {"colour", "colour value"}}));
+    QCOMPARE(m_database.statements(),
+             QStringList("SELECT name, value FROM vars WHERE name IN('colour',' size','',"
+                         "'colour')"));
     QCOMPARE(log.lines(), QStringList());
 }
 

@@ -32,6 +32,13 @@ private Q_SLOTS:
     void anEmptyListFailsAndMarksNothing_data();
     void anEmptyListFailsAndMarksNothing();
 
+    void blanksAndRepeatedIdsStayInTheList_data();
+    void blanksAndRepeatedIdsStayInTheList();
+    void aListOfABlankIsSentAndFails_data();
+    void aListOfABlankIsSentAndFails();
+    void aQuoteInTheTableNameBreaksTheStatement_data();
+    void aQuoteInTheTableNameBreaksTheStatement();
+
     void aPersonInNoTerminalIsNotQueuedButTheTerminalsAreStillMarked();
     void singleTerminalOperationsDoNotLookAtFlagsOrStatus();
     void listsQueueActivePeopleAndKnownIntervalTypesOnly();
@@ -419,6 +426,96 @@ void TestTermSyncRepository::anEmptyListFailsAndMarksNothing()
                            " line 1 QMYSQL: Unable to execute query"));
     QCOMPARE(m_database.statements().size(), 1);
     QVERIFY(m_database.statements().first().endsWith(" IN()"));
+    QCOMPARE(pending(), QString("0,1024,0,0,0"));
+}
+
+void TestTermSyncRepository::blanksAndRepeatedIdsStayInTheList_data()
+{
+    QTest::addColumn<Call>("call");
+    const QStringList ids = {" 21", "31", "21", "31"};
+    QTest::newRow("people") << Call(
+        [ids](TermSyncRepository &repo) { repo.addTermSyncPeople(1, ids, 'I'); });
+    QTest::newRow("interval types")
+        << Call([ids](TermSyncRepository &repo) { repo.addTermSyncInters(1, ids, 'I'); });
+    QTest::newRow("colour groups")
+        << Call([ids](TermSyncRepository &repo) { repo.addColorGroup(1, ids); });
+}
+
+void TestTermSyncRepository::blanksAndRepeatedIdsStayInTheList()
+{
+    QFETCH(Call, call);
+    fillTables();
+    Repo repo(*this);
+    LogCapture log;
+    call(repo);
+    const QString statement = m_database.statements().value(0);
+    QVERIFY2(statement.endsWith(" IN( 21, 31, 21, 31)"), qPrintable(statement));
+    QCOMPARE(queue().size(), 1);
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void TestTermSyncRepository::aListOfABlankIsSentAndFails_data()
+{
+    QTest::addColumn<Call>("call");
+    const QStringList ids(" ");
+    QTest::newRow("people") << Call(
+        [ids](TermSyncRepository &repo) { repo.addTermSyncPeople(1, ids, 'I'); });
+    QTest::newRow("interval types")
+        << Call([ids](TermSyncRepository &repo) { repo.addTermSyncInters(1, ids, 'I'); });
+    QTest::newRow("colour groups")
+        << Call([ids](TermSyncRepository &repo) { repo.addColorGroup(1, ids); });
+}
+
+void TestTermSyncRepository::aListOfABlankIsSentAndFails()
+{
+    QFETCH(Call, call);
+    fillTables();
+    Repo repo(*this);
+    LogCapture log;
+    call(repo);
+    QCOMPARE(m_database.statements().size(), 1);
+    QVERIFY(m_database.statements().first().endsWith(" IN( )"));
+    QCOMPARE(log.lines().filter("ERROR: You have an error in your SQL syntax").size(), 1);
+}
+
+void TestTermSyncRepository::aQuoteInTheTableNameBreaksTheStatement_data()
+{
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("person in all terminals")
+        << Call([](TermSyncRepository &repo) { repo.addTermSyncPerson(21, 'U', "o'clock"); })
+        << "TermSyncRepository::addTermSyncPerson() ERROR: ";
+    QTest::newRow("person in one terminal")
+        << Call([](TermSyncRepository &repo) { repo.addTermSyncPerson(1, 21, 'U', "o'clock"); })
+        << "TermSyncRepository::addTermSyncPerson() ERROR: ";
+    QTest::newRow("interval type in one terminal")
+        << Call([](TermSyncRepository &repo) { repo.addTermSyncInter(1, 31, 'U', "o'clock"); })
+        << "TermSyncRepository::addTermSyncInter() ERROR: ";
+    QTest::newRow("interval type in all terminals")
+        << Call([](TermSyncRepository &repo) { repo.addTermSyncInter(31, 'U', "o'clock"); })
+        << "TermSyncRepository::addTermSyncInter() ERROR: ";
+    QTest::newRow("time zone in all terminals")
+        << Call([](TermSyncRepository &repo) { repo.addTermSyncTimezone(8, 'U', "o'clock"); })
+        << "TermSyncRepository::addTermSyncTimezone() ERROR: ";
+    QTest::newRow("zone assignment")
+        << Call([](TermSyncRepository &repo) { repo.addTermSyncPZT(21, 8, 1, 'I', "o'clock"); })
+        << "TermSyncRepository::addTermSyncPZT() ERROR: ";
+}
+
+void TestTermSyncRepository::aQuoteInTheTableNameBreaksTheStatement()
+{
+    QFETCH(Call, call);
+    QFETCH(QString, message);
+    fillTables();
+    Repo repo(*this);
+    LogCapture log;
+    call(repo);
+    QCOMPARE(m_database.statements().size(), 1);
+    QVERIFY(m_database.statements().first().contains("'o'clock'"));
+    QCOMPARE(log.lines().size(), 1);
+    QVERIFY2(log.lines().first().startsWith("C " + message + "You have an error in your SQL"),
+             qPrintable(log.lines().first()));
+    QCOMPARE(queue(), TableRows());
     QCOMPARE(pending(), QString("0,1024,0,0,0"));
 }
 
