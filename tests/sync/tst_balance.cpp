@@ -57,6 +57,7 @@ private Q_SLOTS:
 
     void aBalanceThatCannotBeLoadedIsReported_data() { addDebugLevels(); }
     void aBalanceThatCannotBeLoadedIsReported();
+    void aBalanceThatCannotBeLoadedAsksForNoRecalculation();
     void aCorrectionThatCannotBeWrittenIsReported_data() { addDebugLevels(); }
     void aCorrectionThatCannotBeWrittenIsReported();
 };
@@ -305,6 +306,17 @@ void TestBalance::aBalanceThatCannotBeLoadedIsReported()
                        "correctly!"}}));
     QCOMPARE(trace.statements.filter("INSERT INTO funds_move"), QStringList());
     QVERIFY(trace.statements.contains(Sent::sumOfCorrections(12341)));
+}
+
+void TestBalance::aBalanceThatCannotBeLoadedAsksForNoRecalculation()
+{
+    synchronise({tomas()});
+    m_db.run("INSERT INTO funds_move (type, day, month, value, fid, uid) "
+             "VALUES (2, UNIX_TIMESTAMP('2025-01-01'), 202501, 100, 2, 8)");
+    refuseColumn("funds_move", "value");
+    const Trace trace = synchronise({tomasWith("5")});
+    QCOMPARE(trace.log.size(), 2);
+    QCOMPARE(trace.statements, Sent::begin() << Sent::fundChecks(20012, 8) << Sent::balance(20012));
 }
 
 void TestBalance::aCorrectionThatCannotBeWrittenIsReported()

@@ -2,6 +2,8 @@
 #include "tests/sync/sent.h"
 #include "tests/sync/synctest.h"
 
+#include <optional>
+
 using namespace SampleExport;
 
 namespace {
@@ -56,6 +58,7 @@ private Q_SLOTS:
     void aForcedCycleIgnoresColumnsThatItDoesNotCompare_data();
     void aForcedCycleIgnoresColumnsThatItDoesNotCompare();
     void aForcedCycleTakesEveryRecordThroughTheDatabase();
+    void aForcedCycleTakesAnUnchangedLineThroughTheDatabaseAlsoWithoutAFund();
 
     void aConfiguredStateBeginsToday();
     void aConfiguredStateSeenForTheFirstTimeIsRecalculated();
@@ -69,15 +72,35 @@ private Q_SLOTS:
     void aFailedUpdateIsNotRepeatedForTheSameLine();
     void aFailedUpdateIsRepeatedWhenForced();
     void aNewSupervisorIsAssigned();
+    void theSupervisorOfAnotherEmploymentTypeIsLeftAlone_data();
     void theSupervisorOfAnotherEmploymentTypeIsLeftAlone();
 
     void theSameLineTwiceIsReconciledOnce();
     void twoLinesOfOnePersonAreBothWrittenInEveryCycle();
     void aSecondLineSeesWhatTheFirstOneMoved();
     void aSecondLineSeesTheOldNameOfTheFirstOne();
+    void whoMovesIsKnownInTheNewPlace();
+    void whoStaysIsKnownAsTheRowShows();
     void aNewWorkerKnowsNobody();
     void stopAndStartKeepWhatTheWorkerKnows();
+
+private:
+    /// Reconciles one line; the person (pid) as the worker then knows it for later lines.
+    std::optional<MirovaRonRecord> knownAfter(const ExportRow &line, uint pid);
 };
+
+std::optional<MirovaRonRecord> TestChanges::knownAfter(const ExportRow &line, uint pid)
+{
+    m_export.write({line});
+    std::optional<MirovaRonRecord> known;
+    observe([&] {
+        m_worker->loadAndParseData();
+        m_worker->dbLoadPeople();
+        m_worker->doSync();
+        known = m_worker->knownPerson(pid);
+    });
+    return known;
+}
 
 void TestChanges::whoIsSeenForTheFirstTimeIsWritten()
 {
@@ -239,6 +262,21 @@ void TestChanges::aForcedCycleTakesEveryRecordThroughTheDatabase()
              Sent::begin() << Sent::fundChecks(12341, 4) << Sent::fundChecks(12351, 5));
 }
 
+void TestChanges::aForcedCycleTakesAnUnchangedLineThroughTheDatabaseAlsoWithoutAFund()
+{
+    // A balance that may be corrected would make the line count as changed.
+    m_db.run("DELETE FROM funds");
+    synchronise({jana()});
+    m_db.run("UPDATE people SET surname = 'Iná' WHERE uid = 4");
+    force();
+    QCOMPARE(synchronise().statements,
+             Sent::begin() << Sent::updatePerson(jana()) << Sent::tellTerminals(12341, 4)
+                           << Sent::membership(12341, 1) << Sent::group(1, 3)
+                           << Sent::plannedGroup(13, 4, 202301) << Sent::recalculation(4)
+                           << Sent::resetForce());
+    QCOMPARE(synchronise().statements, Sent::begin());
+}
+
 void TestChanges::aConfiguredStateBeginsToday()
 {
     m_worker->setMes({{21, "na materskej"}});
@@ -365,9 +403,20 @@ void TestChanges::aNewSupervisorIsAssigned()
     QCOMPARE(assigned(1002), expected(1002)); // differs from none
 }
 
+void TestChanges::theSupervisorOfAnotherEmploymentTypeIsLeftAlone_data()
+{
+    QTest::addColumn<int>("employmentType");
+    QTest::newRow("51") << 51;
+    QTest::newRow("53") << 53;
+    QTest::newRow("54") << 54;
+    QTest::newRow("12, which has no meaning") << 12;
+    QTest::newRow("0, which has no meaning") << 0;
+}
+
 void TestChanges::theSupervisorOfAnotherEmploymentTypeIsLeftAlone()
 {
-    const ExportRow line = jana().with(&ExportRow::typPracovnihoPomeru, 51);
+    QFETCH(int, employmentType);
+    const ExportRow line = jana().with(&ExportRow::typPracovnihoPomeru, employmentType);
     synchronise({line});
     const ExportRow supervised = ExportRow(line).with(&ExportRow::nadrizenyOsobniCislo, 1002);
     QCOMPARE(synchronise({supervised}).statements.filter("admins"), QStringList());
@@ -414,6 +463,34 @@ void TestChanges::aSecondLineSeesTheOldNameOfTheFirstOne()
     const ExportRow second = ExportRow(first).with(&ExportRow::strediskoPopis, "Iné");
     QCOMPARE(synchronise({first, second}).statements.filter("UPDATE people SET pamId"),
              QStringList({Sent::updatePerson(first), Sent::updatePerson(second)}));
+}
+
+void TestChanges::whoMovesIsKnownInTheNewPlace()
+{
+    const ExportRow line = jana()
+                               .with(&ExportRow::stredisko, 140)
+                               .with(&ExportRow::strediskoPopis, "Administratíva")
+                               .with(&ExportRow::kalendar, 2)
+                               .with(&ExportRow::dovolenaZustatek, "3.5");
+    const std::optional<MirovaRonRecord> known = knownAfter(line, 12341);
+    QVERIFY(known);
+    QCOMPARE(known->stredisko, 140U);
+    QCOMPARE(known->strediskoPopis, QString("Administratíva"));
+    QCOMPARE(known->kalendar, 2U);
+    QCOMPARE(known->kalendarPlatnostOd, QDate(2023, 1, 1));
+    QCOMPARE(known->dovolenaZustatek, 3.5);
+}
+
+void TestChanges::whoStaysIsKnownAsTheRowShows()
+{
+    m_db.run("INSERT INTO funds_move (type, day, month, value, fid, uid) "
+             "VALUES (1, UNIX_TIMESTAMP('2025-01-01'), 202501, 350, 2, 8)");
+    const ExportRow line =
+        tomas().with(&ExportRow::strediskoPopis, "Sklad").with(&ExportRow::dovolenaZustatek, "3.5");
+    const std::optional<MirovaRonRecord> known = knownAfter(line, 20012);
+    QVERIFY(known);
+    QCOMPARE(known->strediskoPopis, QString());
+    QCOMPARE(known->dovolenaZustatek, 0.0);
 }
 
 void TestChanges::aNewWorkerKnowsNobody()

@@ -49,7 +49,10 @@ private Q_SLOTS:
     void aFailedPayrollRegistrationIsReported_data() { addDebugLevels(); }
     void aFailedPayrollRegistrationIsReported();
     void theSupervisorOfANewcomerIsAssigned();
-    void theSupervisorOfANewcomerOfAnotherTypeIsNot();
+    void theSupervisorIsAssignedAlsoWhenThePayrollRegistrationFailed();
+    void whetherANewcomerGetsASupervisorDependsOnTheEmploymentType_data();
+    void whetherANewcomerGetsASupervisorDependsOnTheEmploymentType();
+    void noSupervisorOfANewcomerIsProcessedWhenTheLineNamesNone();
 
     void whoHasLeftIsNotCreated_data();
     void whoHasLeftIsNotCreated();
@@ -166,12 +169,50 @@ void TestCreation::theSupervisorOfANewcomerIsAssigned()
                  << Sent::findUid(pid) << Sent::supervisor(2, 9) << Sent::membership(pid, 1));
 }
 
-void TestCreation::theSupervisorOfANewcomerOfAnotherTypeIsNot()
+void TestCreation::theSupervisorIsAssignedAlsoWhenThePayrollRegistrationFailed()
 {
+    m_db.refuse("INSERT", "people_pam");
+    const ExportRow line =
+        newcomer(newPersonalNumber()).with(&ExportRow::nadrizenyOsobniCislo, 1002);
+    const uint pid = pidOf(line);
+    const QStringList statements = synchronise({line}).statements;
+    const int from = statements.indexOf(Sent::payrollBinding(pid, 9, 1).last()) + 1;
+    QVERIFY(from > 0);
+    QCOMPARE(statements.mid(from, 6),
+             QStringList(Sent::findAdmin(1002)) << Sent::findUid(pid) << Sent::supervisor(2, 9));
+}
+
+void TestCreation::whetherANewcomerGetsASupervisorDependsOnTheEmploymentType_data()
+{
+    QTest::addColumn<int>("employmentType");
+    QTest::addColumn<bool>("assigned");
+    QTest::newRow("11") << 11 << true;
+    QTest::newRow("65") << 65 << true;
+    QTest::newRow("51") << 51 << false;
+    QTest::newRow("53") << 53 << false;
+    QTest::newRow("54") << 54 << false;
+    QTest::newRow("12, which has no meaning") << 12 << false;
+    QTest::newRow("0, which has no meaning") << 0 << false;
+}
+
+void TestCreation::whetherANewcomerGetsASupervisorDependsOnTheEmploymentType()
+{
+    QFETCH(int, employmentType);
+    QFETCH(bool, assigned);
     const ExportRow line = newcomer(newPersonalNumber())
-                               .with(&ExportRow::typPracovnihoPomeru, 51)
+                               .with(&ExportRow::typPracovnihoPomeru, employmentType)
                                .with(&ExportRow::nadrizenyOsobniCislo, 1002);
-    QCOMPARE(synchronise({line}).statements.filter("FROM admins "), QStringList());
+    QCOMPARE(synchronise({line}).statements.filter("FROM admins "),
+             assigned ? QStringList(Sent::findAdmin(1002)) : QStringList());
+    QVERIFY(uidOf(pidOf(line)) != 0);
+}
+
+void TestCreation::noSupervisorOfANewcomerIsProcessedWhenTheLineNamesNone()
+{
+    newWorker(1);
+    const ExportRow line = newcomer(newPersonalNumber());
+    QCOMPARE(synchronise({line}).log.filter("processNadOsCis"), QStringList());
+    QVERIFY(uidOf(pidOf(line)) != 0);
 }
 
 void TestCreation::whoHasLeftIsNotCreated_data()

@@ -1,6 +1,9 @@
 #include "tests/worker/workertest.h"
 
+#include <QThread>
 #include <QtTest>
+
+#include <memory>
 
 /// Looking up persons in the table. The uids that the worker has found stay known for the life of
 /// the program, so every test has persons of its own.
@@ -19,6 +22,7 @@ private Q_SLOTS:
     void aFailedLookUpIsNotRemembered();
     void aUidStaysKnownWhateverBecomesOfTheRow();
     void allWorkersShareTheKnownUids();
+    void workersOfOtherThreadsShareTheKnownUids();
 
     void aPersonIsFoundByItsPid_data();
     void aPersonIsFoundByItsPid();
@@ -139,6 +143,20 @@ void TestFindPeople::allWorkersShareTheKnownUids()
     QCOMPARE(m_worker->getUidByPid(571), 57U);
     const MHRWorker withoutDatabase;
     QCOMPARE(withoutDatabase.getUidByPid(571), 57U);
+}
+
+void TestFindPeople::workersOfOtherThreadsShareTheKnownUids()
+{
+    insertPerson(58, 581);
+    QCOMPARE(m_worker->getUidByPid(581), 58U);
+    uint uid = 0;
+    const std::unique_ptr<QThread> thread(QThread::create([&uid] {
+        const MHRWorker withoutDatabase;
+        uid = withoutDatabase.getUidByPid(581);
+    }));
+    thread->start();
+    QVERIFY(thread->wait());
+    QCOMPARE(uid, 58U);
 }
 
 void TestFindPeople::aPersonIsFoundByItsPid_data()

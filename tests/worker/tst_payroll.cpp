@@ -86,6 +86,10 @@ void TestPayroll::aPersonIsAppendedToTheSelection_data()
                                     << "30,10,20,12342";
     QTest::newRow("an empty part") << "10,,20"
                                    << "10,20,12342";
+    QTest::newRow("an empty part at the begin") << ",10,20"
+                                                << "10,20,12342";
+    QTest::newRow("an empty part at the end") << "10,20,"
+                                              << "10,20,12342";
     QTest::newRow("empty parts at the ends") << ",10,20,,"
                                              << "10,20,12342";
     QTest::newRow("only separators") << ",,,"
@@ -136,6 +140,8 @@ void TestPayroll::aSelectedPersonIsNotWrittenAgain_data()
     QTest::newRow("alone") << "12342";
     QTest::newRow("first") << "12342,10";
     QTest::newRow("last") << "10,12342";
+    QTest::newRow("first, after an empty part") << ",12342,10";
+    QTest::newRow("last, before an empty part") << "10,12342,";
     QTest::newRow("in the middle, with empty parts") << "10,,12342,,20,";
     QTest::newRow("twice") << "12342,12342";
 }
