@@ -39,8 +39,8 @@ class Mutant:
         -a line that goes
         +a line that comes
 
-    The lines that stay and go must be found once in all of the code, whichever file that is in.
-    How they are broken and indented does not count.
+    The lines that stay and go must be found once in all of the code, in whichever file; how they
+    are broken and indented does not count.
     """
 
     def __init__(self, source, text):
@@ -64,14 +64,14 @@ class Mutant:
         self.mutated = None  #: that file's text with the mutant in it
 
     def find(self, code):
-        """Looks for the place in the code; whether there is exactly one."""
-        found = [(path, text, match) for path, text in code.items()
+        """Looks for the place in the code; the paths at which it was found."""
+        found = [(path, match) for path, text in code.items()
                  for match in self.pattern.finditer(text)]
-        if len(found) != 1:
-            return False
-        self.path, text, match = found[0]
-        self.mutated = text[:match.start()] + self.replacement + text[match.end():]
-        return True
+        if len(found) == 1:
+            self.path, match = found[0]
+            text = code[self.path]
+            self.mutated = text[:match.start()] + self.replacement + text[match.end():]
+        return [path for path, match in found]
 
 
 def pattern(text):
@@ -92,7 +92,7 @@ def is_word(token):
 
 def read_lists(folder):
     mutants = [Mutant(source, entry) for source in sorted(folder.glob("*.txt"))
-               for entry in re.split(r"\n\s*\n", source.read_text().strip())]
+               for entry in re.split(r"\n\s*\n", source.read_text(encoding="utf-8").strip())]
     names = collections.Counter(mutant.name for mutant in mutants)
     names.update({mutant.list for mutant in mutants})
     twice = sorted(name for name, count in names.items() if count > 1)
@@ -152,7 +152,7 @@ class Copy:
                 if "command" in test}
 
     def code(self):
-        return {path: (self.folder / path).read_text()
+        return {path: (self.folder / path).read_text(encoding="utf-8")
                 for path in self.paths if CODE.fullmatch(path)}
 
     def run(self, *command, **options):
@@ -178,14 +178,13 @@ class Trial:
     def run(self, mutants):
         code = self.copy.code()
         for mutant in mutants:
-            if not mutant.find(code):
-                self.tell(mutant, DOES_NOT_APPLY)
-        # One program after the other, and of each one file after the other: what the next mutant
-        # needs is then mostly built.
-        def order(mutant):
-            return mutant.program, mutant.path
-
-        found = sorted((mutant for mutant in mutants if mutant.path), key=order)
+            paths = mutant.find(code)
+            if len(paths) != 1:
+                self.tell(mutant, DOES_NOT_APPLY, ["found in: " + (", ".join(paths) or "no file")])
+        # One test program after the other, and for each one file after the other: most of what the
+        # next mutant needs is then built.
+        found = sorted((mutant for mutant in mutants if mutant.path),
+                       key=lambda mutant: (mutant.program, mutant.path))
         for program, group in itertools.groupby(found, lambda mutant: mutant.program):
             self.run_program(program, list(group), code)
 
@@ -213,18 +212,18 @@ class Trial:
     def try_out(self, mutant):
         built = self.copy.build(mutant.program)
         if built.returncode != 0:
-            self.tell(mutant, DOES_NOT_BUILD)
-            print(*re.findall(r".*error:.*", built.stdout)[:3], sep="\n", flush=True)
+            self.tell(mutant, DOES_NOT_BUILD, re.findall(r".*error:.*", built.stdout)[:3])
         elif self.copy.passes(mutant.program, [mutant.function]):
             self.tell(mutant, SURVIVED)
         else:
             self.tell(mutant, KILLED)
 
-    def tell(self, mutant, outcome):
+    def tell(self, mutant, outcome, details=()):
         self.outcomes[outcome] += 1
-        print(f"{outcome:14}  {mutant.list}: {mutant.name}", flush=True)
+        lines = [f"{outcome:14}  {mutant.list}: {mutant.name}"]
         if outcome != KILLED:
-            print(f"{'':16}{mutant.behaviour}\n{'':16}{mutant.test}", flush=True)
+            lines += [f"{'':16}{line}" for line in (mutant.behaviour, mutant.test, *details)]
+        print(*lines, sep="\n", flush=True)
 
 
 def main(project, *names):

@@ -114,6 +114,8 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
     key("a key that stands there once", "testMode=0", "key-twice", QString());
     key("a semicolon that cuts a value", "syncCommand=/bin/true; x", "unquoted-semicolon",
         "syncCommand");
+    key("a semicolon behind quotation marks", "syncCommand=\"/bin/true\"; x", "unquoted-semicolon",
+        "syncCommand");
     key("a semicolon in quotation marks", "syncCommand=\"/bin/true ; x\"", "unquoted-semicolon",
         QString());
     key("a comment", "; testMode=1;x", "unquoted-semicolon", QString());

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void testModeIsToldWhereItHolds();
     void findings_data();
     void findings();
+    void aTextThatBreaksTheStatementMayBeInAnyField_data();
+    void aTextThatBreaksTheStatementMayBeInAnyField();
     void verdicts_data();
     void verdicts();
 
@@ -584,6 +586,28 @@ void TestExplain::findings()
     QVERIFY2(found.first().value("message").toString().startsWith(message),
              run.report().constData());
     QVERIFY(!found.first().value("advice").toString().isEmpty());
+}
+
+void TestExplain::aTextThatBreaksTheStatementMayBeInAnyField_data()
+{
+    QTest::addColumn<ExportRow>("line");
+    QTest::addColumn<QString>("person");
+    using R = ExportRow;
+    const R newcomer = SampleExport::newcomer(3506);
+    QTest::newRow("title") << R(newcomer).with(&R::titul, "'") << "uncertain";
+    QTest::newRow("first name") << R(newcomer).with(&R::jmeno, "E'va") << "uncertain";
+    QTest::newRow("surname") << R(newcomer).with(&R::prijmeni, "O'Hara") << "uncertain";
+    QTest::newRow("title after") << R(newcomer).with(&R::titulZa, "'") << "uncertain";
+    QTest::newRow("telephone") << R(newcomer).with(&R::telefon, "'") << "uncertain";
+    QTest::newRow("description, which is not written")
+        << R(newcomer).with(&R::strediskoPopis, "'") << "created";
+}
+
+void TestExplain::aTextThatBreaksTheStatementMayBeInAnyField()
+{
+    QFETCH(ExportRow, line);
+    QFETCH(QString, person);
+    QCOMPARE(ExplainedSite::facts(explain(line)).value("person").toString(), person);
 }
 
 void TestExplain::verdicts_data()

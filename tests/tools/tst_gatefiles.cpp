@@ -151,6 +151,7 @@ private Q_SLOTS:
     void theRejectsLieInTheFolderThatWasJudged();
     void aFolderThatCannotBeWrittenIsAFailure();
     void aSecondGateIsRefused();
+    void aGateExcludesAnother();
     void theLockGoesWithTheRun();
 
     void aFileThatIsWrittenMeanwhileHasChanged_data();
@@ -762,6 +763,15 @@ void TestGateFiles::aSecondGateIsRefused()
     QVERIFY(!m_site->isPublished());
     // The status is that of the other one.
     QCOMPARE(m_site->status(), before);
+}
+
+void TestGateFiles::aGateExcludesAnother()
+{
+    m_site->admit(GatePeople::some(1));
+    GateFolder other;
+    QVERIFY2(other.openPrivate(m_site->state()), qPrintable(other.errorString()));
+    QVERIFY(other.lock("lock") == GateFolder::Lock::Taken);
+    QCOMPARE(m_site->run().rules(), QStringList("busy"));
 }
 
 void TestGateFiles::theLockGoesWithTheRun()
