@@ -42,6 +42,8 @@ private Q_SLOTS:
     void setMultipleOfAnEmptyMapSucceeds();
     void setMultipleWritesNothingWhenItCannotBePrepared();
 
+    void caseAndAccentsMakeAnotherKey();
+
     void aQuoteInTheNameBreaksTheStatementsThatSpellIt_data();
     void aQuoteInTheNameBreaksTheStatementsThatSpellIt();
     void aQuoteInTheNameOfAListBreaksItsStatement();
@@ -339,6 +341,28 @@ void TestTepDbSettings::setMultipleWritesNothingWhenItCannotBePrepared()
              QStringList("C variableSet ERROR: \"Table 'tepdb.vars' doesn't exist"
                          " QMYSQL3: Unable to prepare statement\""));
     QVERIFY(m_database.statements().filter("EXECUTE").isEmpty());
+}
+
+void TestTepDbSettings::caseAndAccentsMakeAnotherKey()
+{
+    m_database.run("ALTER TABLE vars MODIFY name VARCHAR(160) COLLATE utf8mb4_nopad_bin NOT NULL");
+    const QStringList others = {"COLOUR", "Colour", "cólour"};
+    addVariables(others);
+    TepDbSettings settings(m_connection);
+    LogCapture log;
+    QCOMPARE(settings.variableGet("colour", 17), QVariant(17));
+    QCOMPARE(settings.variableGetMultiple(QStringList("colour")), Values());
+    QCOMPARE(settings.variableGetMultiple(QString("colour")), Values());
+    QVERIFY(settings.variableDel("colour", false));
+    QVERIFY(settings.variableDel("colour", true));
+    QVERIFY(settings.variableSet("colour", "red"));
+    QVERIFY(settings.variableSetMultiple({{"colour", "green"}}));
+    QCOMPARE(settings.variableGet("colour", 17), QVariant("green"));
+    QVERIFY(settings.variableDel("Colour", false));
+    QVERIFY(settings.variableDel("cól", true));
+    QCOMPARE(names(), QStringList({"COLOUR", "colour"}));
+    QCOMPARE(settings.variableGet("COLOUR", 17), QVariant("COLOUR value"));
+    QCOMPARE(log.lines(), QStringList());
 }
 
 void TestTepDbSettings::aQuoteInTheNameBreaksTheStatementsThatSpellIt_data()

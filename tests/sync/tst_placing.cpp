@@ -57,10 +57,16 @@ int TestPlacing::waiting(const Trace &trace) const
 
 void TestPlacing::whoHasNoCostCentreIsNotPlaced()
 {
-    QCOMPARE(synchronise({jana().with(&ExportRow::stredisko, 0)}).statements.filter("FROM brape"),
-             QStringList());
-    force();
-    QCOMPARE(synchronise().statements.filter("FROM brape"), QStringList());
+    newWorker(1);
+    m_export.write({jana().with(&ExportRow::stredisko, 0)});
+    for (int cycle = 1; cycle <= 2; ++cycle) {
+        const Trace trace = synchronise();
+        QCOMPARE(trace.statements.filter("FROM brape"), QStringList());
+        QCOMPARE(trace.log.filter(QRegularExpression("^W")), QStringList());
+        QCOMPARE(trace.log.last(),
+                 QString("D MHRWorker: END synchronization #%1 (waiting records: 0)").arg(cycle));
+        force();
+    }
 }
 
 void TestPlacing::anUnchangedRecordIsPlacedOnlyWhenForced()
