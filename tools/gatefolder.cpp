@@ -29,8 +29,7 @@ bool isPrivate(const struct stat &folder)
     return owned && (folder.st_mode & S_IWOTH) == 0;
 }
 
-/// A file that was there already, and that may be another one of root's, to which somebody has
-/// given one more name.
+/// True for what may be another file of root's, to which somebody has given one more name.
 bool hasOtherNames(int file)
 {
     struct stat status = {};
@@ -97,7 +96,7 @@ bool GateFolder::isOwnerTrusted()
         return true;
     struct stat parent = {};
     if (::fstatat(m_fd, "..", &parent, 0) != 0)
-        return fail(m_path, "cannot be judged by the folder above");
+        return fail(m_path, "has no folder above that can be looked at");
     if (m_owner == parent.st_uid)
         return true;
     m_error = QStringLiteral("The folder '%1' belongs neither to root nor to the owner of the "

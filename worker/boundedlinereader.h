@@ -22,7 +22,8 @@ public:
     /// True when the device was not read to its end: it cannot be read on, or is too long.
     bool hasFailed() const { return !m_error.isEmpty(); }
 
-    /// Why, for people: a part of a sentence without its full stop.
+    /// Why it has failed: a clause without capital letter and full stop, to be shown to an
+    /// operator.
     QString errorString() const { return m_error; }
 
     /// The current line as read, with its line feed, ended by a NUL byte; valid until next().

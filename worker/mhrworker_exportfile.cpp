@@ -41,8 +41,8 @@ void MHRWorker::loadAndParseData()
         qCritical("MHRWorker::loadAndParseData() - file '%s' not opened!", qUtf8Printable(path));
         return;
     }
-    // A file that cannot be read to its end is kept for the next time, and the administrator is
-    // to know of it also where exports are kept anyway.
+    // An export that cannot be read to its end is read again next time. The administrator must
+    // learn of it even at a site that keeps its exports.
     const bool isRead = parseLines(file, fields);
     file.close();
     if (!isRead || (m_deleteFileAfterImport && !QFile::remove(path)))

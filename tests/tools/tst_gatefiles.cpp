@@ -147,7 +147,7 @@ private Q_SLOTS:
     void rootLeavesNothingInAFolderThatSomebodyElseMade();
     void aFolderOfTheOwnerOfTheFolderAboveIsTrusted();
     void aFolderIsMadeInOneThatEverybodyMayWriteTo();
-    void anotherFileOfRootsWithTheNameOfTheLockStaysRoots();
+    void aFileOfRootUnderTheNameOfTheLockKeepsItsOwner();
     void theRejectsLieInTheFolderThatWasJudged();
     void aFolderThatCannotBeWrittenIsAFailure();
     void aSecondGateIsRefused();
@@ -698,7 +698,7 @@ void TestGateFiles::aFolderIsMadeInOneThatEverybodyMayWriteTo()
     QCOMPARE(statusOf(m_site->state()).st_uid, ::geteuid());
 }
 
-void TestGateFiles::anotherFileOfRootsWithTheNameOfTheLockStaysRoots()
+void TestGateFiles::aFileOfRootUnderTheNameOfTheLockKeepsItsOwner()
 {
     const uid_t owner = ::geteuid() == 0 ? kNobody : ::geteuid();
     const QString other = m_site->folder() + "/other";

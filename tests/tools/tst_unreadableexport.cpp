@@ -31,10 +31,10 @@ private Q_SLOTS:
     void initTestCase();
     void init();
 
-    void aReadErrorInTheMiddleIsSaid_data() { addSubcommands(); }
-    void aReadErrorInTheMiddleIsSaid();
-    void aReadErrorIsSaidWhereverItComes_data();
-    void aReadErrorIsSaidWhereverItComes();
+    void aReadErrorInTheMiddleIsReported_data() { addSubcommands(); }
+    void aReadErrorInTheMiddleIsReported();
+    void aReadErrorIsReportedWhereverItOccurs_data();
+    void aReadErrorIsReportedWhereverItOccurs();
 
     void aFileOfManyGigabytesIsRefused_data();
     void aFileOfManyGigabytesIsRefused();
@@ -123,7 +123,7 @@ void TestUnreadableExport::compareReadError(const ProgramRun &run)
     QVERIFY(m_bench.exportFile().exists());
 }
 
-void TestUnreadableExport::aReadErrorInTheMiddleIsSaid()
+void TestUnreadableExport::aReadErrorInTheMiddleIsReported()
 {
     QFETCH(QString, subcommand);
     ProgramRun run;
@@ -133,7 +133,7 @@ void TestUnreadableExport::aReadErrorInTheMiddleIsSaid()
     compareReadError(run);
 }
 
-void TestUnreadableExport::aReadErrorIsSaidWhereverItComes_data()
+void TestUnreadableExport::aReadErrorIsReportedWhereverItOccurs_data()
 {
     QTest::addColumn<QString>("subcommand");
     // preview reads as the worker does, and takes its time.
@@ -141,7 +141,7 @@ void TestUnreadableExport::aReadErrorIsSaidWhereverItComes_data()
         QTest::newRow(subcommand) << subcommand;
 }
 
-void TestUnreadableExport::aReadErrorIsSaidWhereverItComes()
+void TestUnreadableExport::aReadErrorIsReportedWhereverItOccurs()
 {
     QFETCH(QString, subcommand);
     const QStringList calls = callsOf(subcommand);
