@@ -3,6 +3,20 @@
 
 set(root "${CPACK_TEMPORARY_DIRECTORY}")
 
+# The documents speak of the sources and their paths. What concerns the sources only stands between
+# two marks, and the files that are in the package are named where they are installed.
+file(GLOB_RECURSE documents LIST_DIRECTORIES false "${root}/*/usr/share/doc/mirovahr-plugin/*.md")
+if(documents)
+    set(doc /usr/share/doc/mirovahr-plugin)
+    execute_process(
+        COMMAND sed -i -E
+            -e "/^<!-- sources -->$/,/^<!-- .sources -->$/d"
+            -e "s,([ (`])([.][.]/)?reference-db/,\\1${doc}/reference-db/,g"
+            -e "s,([ (`])config/,\\1${doc}/examples/,g"
+            ${documents}
+        COMMAND_ERROR_IS_FATAL ANY)
+endif()
+
 file(GLOB_RECURSE texts LIST_DIRECTORIES false
     "${root}/*/usr/share/man/*.1" "${root}/*/usr/share/doc/*/changelog.Debian")
 foreach(text IN LISTS texts)

@@ -50,6 +50,28 @@ quietly()
     return 1
 }
 
+# with_progress COMMAND...: a build by Ninja, as quietly, but tells how far it is: in one line on a
+# terminal, and at every tenth of the steps elsewhere.
+with_progress()
+{
+    local line output=() tenths=0
+    while IFS= read -r line; do
+        output+=("$line")
+        [[ $line =~ ^\[([0-9]+)/([0-9]+)\] ]] || continue
+        if [[ -t 1 ]]; then
+            printf '\r  %s of %s steps' "${BASH_REMATCH[@]:1}"
+        elif (( BASH_REMATCH[1] * 10 / BASH_REMATCH[2] > tenths )); then
+            (( tenths = BASH_REMATCH[1] * 10 / BASH_REMATCH[2] ))
+            printf '  %s of %s steps\n' "${BASH_REMATCH[@]:1}"
+        fi
+    done < <("$@" 2>&1 </dev/null)
+    local built=0
+    wait "$!" || built=$?
+    [[ ! -t 1 ]] || printf '\r\e[K'
+    (( built == 0 )) || printf '%s\n' "${output[@]}" >&2
+    return "$built"
+}
+
 is_installed()
 {
     [[ $(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
@@ -84,6 +106,6 @@ build()
     printf 'Building (%s) ...\n' "$preset"
     cd -- "$project" || fail "cannot enter $project"
     quietly cmake --preset "$preset" \
-        && quietly cmake --build --preset "$preset" ${1:+--target "$@"} \
+        && with_progress cmake --build --preset "$preset" ${1:+--target "$@"} \
         || fail "the project could not be built"
 }
