@@ -27,17 +27,17 @@ constexpr std::array kNames{
 using Fields = decltype(RecordComparison::rowFields(std::declval<const MirovaRonRecord &>()));
 static_assert(kNames.size() == std::tuple_size_v<Fields>, "a name for each field");
 
-QString text(quint32 number)
+QVariant value(quint32 number)
 {
-    return QString::number(number);
+    return number;
 }
 
-QString text(const QString &text)
+QVariant value(const QString &text)
 {
     return text;
 }
 
-QString text(const QDate &date)
+QVariant value(const QDate &date)
 {
     return date.toString(Qt::ISODate);
 }
@@ -46,8 +46,8 @@ template <size_t... Indices>
 QVector<RowField> compare(const Fields &updated, const Fields &known,
                           std::index_sequence<Indices...>)
 {
-    return {RowField{QString::fromLatin1(kNames[Indices]), text(std::get<Indices>(updated)),
-                     text(std::get<Indices>(known)),
+    return {RowField{QString::fromLatin1(kNames[Indices]), value(std::get<Indices>(updated)),
+                     value(std::get<Indices>(known)),
                      std::get<Indices>(updated) != std::get<Indices>(known)}...};
 }
 

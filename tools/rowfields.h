@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 #include <QVector>
 
 class MirovaRonRecord;
@@ -8,8 +9,8 @@ class MirovaRonRecord;
 /// One of the fields that the plugin compares with a row of `people`.
 struct RowField {
     QString name; ///< for people
-    QString exported; ///< what the export makes of it
-    QString held; ///< what the row holds
+    QVariant exported; ///< what the export makes of it: a number or a text, also for a day
+    QVariant held; ///< what the row holds, likewise
     bool differs = false;
 };
 

@@ -26,6 +26,9 @@ private Q_SLOTS:
     void wrongUsageEndsWithTheSameStatus_data();
     void wrongUsageEndsWithTheSameStatus();
 
+    void aBuildTellsHowFarItIs();
+    void aBuildThatFailsShowsWhatItPrinted();
+
 private:
     static void addPrograms();
     static void addRow(const QString &name, const QStringList &program, const QString &argument);
@@ -114,6 +117,35 @@ void TestPrograms::wrongUsageEndsWithTheSameStatus()
     COMPARE_STATUS(run, 2);
     QCOMPARE(run.output(), QString());
     QVERIFY2(run.errors().contains(name), run.report().constData());
+}
+
+/// What the scripts make of a build that is this command.
+static void build(ProgramRun &run, const QString &command)
+{
+    const QString line = QStringLiteral("source '" PROJECT_FOLDER "/scripts/lib/common.sh'; "
+                                        "build() { %1; }; with_progress build");
+    run.run("bash", {"-c", line.arg(command)});
+}
+
+void TestPrograms::aBuildTellsHowFarItIs()
+{
+    ProgramRun run;
+    build(run, R"(for step in {1..40}; do echo "[$step/40] Building"; done)");
+    COMPARE_STATUS(run, 0);
+    QCOMPARE(run.output(),
+             QString("  4 of 40 steps\n  8 of 40 steps\n  12 of 40 steps\n  16 of 40 steps\n"
+                     "  20 of 40 steps\n  24 of 40 steps\n  28 of 40 steps\n  32 of 40 steps\n"
+                     "  36 of 40 steps\n  40 of 40 steps\n"));
+    QCOMPARE(run.errors(), QString());
+}
+
+void TestPrograms::aBuildThatFailsShowsWhatItPrinted()
+{
+    ProgramRun run;
+    build(run, "echo '[1/100] Building a'; echo 'a: wrong' >&2; return 3");
+    COMPARE_STATUS(run, 3);
+    QCOMPARE(run.output(), QString());
+    QCOMPARE(run.errors(), QString("[1/100] Building a\na: wrong\n"));
 }
 
 QTEST_GUILESS_MAIN(TestPrograms)

@@ -64,6 +64,7 @@ private Q_SLOTS:
     void theExportMayBeNamed();
     void whatTheDatabaseHolds();
     void theFieldsAreComparedOneByOne();
+    void numbersAndFlagsAreSuchInJson();
     void theConfigurationIsThatOfTheFile();
     void withoutAConfigurationThePluginHasItsDefaults();
 
@@ -875,6 +876,20 @@ void TestExplain::theFieldsAreComparedOneByOne()
                         {"Relationship state from", "", "", "false"},
                         {"Relationship state to", "", "", "false"},
                         {"Relationship state", "", "", "false"}}));
+}
+
+void TestExplain::numbersAndFlagsAreSuchInJson()
+{
+    const ToolRun run = explain(SampleExport::jana().with(&ExportRow::stredisko, 130));
+    const int section = ExplainedSite::sections(run).indexOf("row");
+    const QJsonValue row = run.json()["sections"].toArray().at(section);
+    const QJsonArray fields = row["tables"]["fields"].toArray();
+    QCOMPARE(
+        fields.at(10).toObject(),
+        QJsonObject(
+            {{"field", "Cost centre"}, {"export", 130}, {"database", 120}, {"differs", true}}));
+    QCOMPARE(fields.at(3)["export"], QJsonValue("Jana"));
+    QCOMPARE(fields.at(3)["differs"], QJsonValue(false));
 }
 
 void TestExplain::theConfigurationIsThatOfTheFile()
