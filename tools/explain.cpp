@@ -6,6 +6,7 @@
 #include "tools/commandline.h"
 #include "tools/console.h"
 #include "tools/databaseaccess.h"
+#include "tools/forceflag.h"
 #include "tools/personexplanation.h"
 #include "tools/pluginview.h"
 #include "tools/report.h"
@@ -122,6 +123,13 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
     };
     if (!view.open(site, m_configuration))
         return failView();
+    ForceFlag flag(view.database());
+    const auto forced = flag.isSet();
+    if (!forced) {
+        return fail(ExitStatus::ContractBroken,
+                    QStringLiteral("The database cannot be used: %1").arg(flag.errorText()));
+    }
+    m_source.isForced = *forced;
     if (const auto end = m_report.open())
         return *end;
     m_report.begin(m_line.subcommand(), QStringLiteral("What became of %1").arg(m_person->name()));

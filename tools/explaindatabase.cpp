@@ -31,7 +31,7 @@ constexpr Holding kHoldings[] = {
 
 void tellRow(ExplainContext &context)
 {
-    const PersonRow &row = *context.row;
+    const PersonRow &row = *context.person.row();
     context.report.sentence(
         QStringLiteral("The database has the person as uid %1: %2 %3, %4.")
             .arg(QString::number(row.uid), row.payrollId, row.name,
@@ -55,8 +55,8 @@ void tellHoldings(ExplainContext &context)
                  {QStringLiteral("value"), QStringLiteral("In the database")}},
                 {}};
     for (const Holding &holding : kHoldings) {
-        const QString value =
-            context.view.sql().value(QString(QLatin1String(holding.select)).arg(context.uid()));
+        const QString value = context.view.sql().value(
+            QString(QLatin1String(holding.select)).arg(context.person.uid()));
         table.rows.append(
             {QString::fromLatin1(holding.name), value.isNull() ? QVariant() : QVariant(value)});
     }
@@ -66,20 +66,22 @@ void tellHoldings(ExplainContext &context)
 /// How the plugin finds the row again: by the payroll id of the active ones.
 void tellRecognition(ExplainContext &context)
 {
-    const bool seesRow = context.row && context.row->active;
-    if (context.known && !seesRow) {
+    const auto &row = context.person.row();
+    const auto &known = context.person.known();
+    const bool seesRow = row && row->active;
+    if (known && !seesRow) {
         ExplainText::tell(context.report, Severity::Warning, "payroll-id-strange",
                           QStringLiteral("An active row with another pid has the payroll id %1. "
                                          "The plugin takes it for this person, but writes by pid: "
                                          "it changes nobody, or somebody else.")
-                              .arg(context.known->getPamId()),
+                              .arg(known->getPamId()),
                           QStringLiteral("Set pid and pamId of that row right."));
-    } else if (seesRow && !context.known) {
+    } else if (seesRow && !known) {
         ExplainText::tell(context.report, Severity::Warning, "payroll-id-strange",
                           QStringLiteral("The payroll id of the row makes another pid: the plugin "
                                          "does not recognise the person in it."),
                           QStringLiteral("Set pamId of the row right."));
-    } else if (context.row && !context.row->active) {
+    } else if (row && !row->active) {
         context.report.sentence(
             QStringLiteral("The plugin sees active people only: to it, nobody is there."));
     }
@@ -90,25 +92,27 @@ void tellRecognition(ExplainContext &context)
 void explainDatabase(ExplainContext &context)
 {
     context.report.section(QStringLiteral("database"), QStringLiteral("Database"));
-    if (context.row)
+    const bool hasRow = context.person.row().has_value();
+    if (hasRow)
         tellRow(context);
     else
         context.report.sentence(
-            QStringLiteral("The database has nobody with the pid %1.").arg(context.pid));
+            QStringLiteral("The database has nobody with the pid %1.").arg(context.person.pid()));
     tellRecognition(context);
-    if (context.row)
+    if (hasRow)
         tellHoldings(context);
 }
 
 void explainRowOnly(ExplainContext &context)
 {
-    if (!context.known)
+    const auto &known = context.person.known();
+    if (!known)
         return;
     Table table{QStringLiteral("fields"),
                 {{QStringLiteral("field"), QStringLiteral("Field")},
                  {QStringLiteral("database"), QStringLiteral("In the database")}},
                 {}};
-    const QVector<RowField> fields = compareRowFields(*context.known, *context.known);
+    const QVector<RowField> fields = compareRowFields(*known, *known);
     for (const RowField &field : fields)
         table.rows.append({field.name, field.held});
     context.report.table(table);

@@ -27,8 +27,47 @@ constexpr PersonVerdict kVerdicts[] = {
     {"unchanged", "A synchronisation leaves the row of %1 alone."},
     {"never-created", "%1 has left and is not in the database: the plugin never creates the row."},
     {"uncertain", "A text in the line of %1 keeps the row from being written as it should."},
+    {"missed", "The plugin takes somebody for %1, but finds no row to write."},
     {"test-mode", "Test mode is on: the plugin does not write the row of %1."},
 };
+
+/// The facts that are words.
+struct WordFact {
+    const char *id;
+    const char *label;
+    QString RecordOutcome::*word;
+};
+
+constexpr WordFact kWordFacts[] = {
+    {"person", "Person", &RecordOutcome::person},
+    {"payroll", "Payroll selection", &RecordOutcome::payroll},
+    {"payrollSettings", "Payroll settings", &RecordOutcome::payrollSettings},
+    {"balance", "Vacation balance", &RecordOutcome::balance},
+    {"supervisor", "Supervisor", &RecordOutcome::supervisor},
+    {"branch", "Branch", &RecordOutcome::branch},
+    {"calendar", "Calendar group", &RecordOutcome::calendar},
+};
+
+/// A table of what becomes of each line, in the words of the facts.
+Table lineTable()
+{
+    Table table{QStringLiteral("lines"), {{QStringLiteral("line"), QStringLiteral("Line")}}, {}};
+    for (const WordFact &fact : kWordFacts)
+        table.columns += {QString::fromLatin1(fact.id), QString::fromLatin1(fact.label)};
+    table.columns += {QStringLiteral("recalculation"), QStringLiteral("Recalculation from")};
+    table.columns += {QStringLiteral("waits"), QStringLiteral("Waits afterwards")};
+    return table;
+}
+
+QVariantList lineRow(qint64 number, const RecordOutcome &outcome)
+{
+    QVariantList row{number};
+    for (const WordFact &fact : kWordFacts)
+        row += outcome.*fact.word;
+    row += outcome.recalculation.text();
+    row += outcome.waits;
+    return row;
+}
 
 } // namespace
 
@@ -37,12 +76,7 @@ PersonExplanation::PersonExplanation(const SoughtPerson &person, const Explained
                                      Report &report)
     : m_person(person)
     , m_source(source)
-    , m_context{configuration,
-                view,
-                report,
-                person.pid(),
-                PersonRow::read(view.sql(), person.pid()),
-                view.worker().knownPerson(person.pid())}
+    , m_context{configuration, view, report, PersonState(view, person.pid(), source.isForced)}
 {
 }
 
@@ -54,6 +88,10 @@ QString PersonExplanation::explain(const SoughtLines *lines)
         explainExport(*lines);
     else
         explainAbsentExport();
+    if (m_source.isForced) {
+        m_context.report.sentence(QStringLiteral("The next synchronisation is a forced one: the "
+                                                 "plugin handles every line, changed or not."));
+    }
     explainDatabase(m_context);
     if (!m_isFound)
         explainAbsence();
@@ -117,18 +155,26 @@ void PersonExplanation::explainExport(const SoughtLines &lines)
     for (const CheckedLine &line : lines.lines())
         explainLine(line);
     if (lines.more() > 0) {
-        report.sentence(QStringLiteral("%1 more about the same person are not looked at here.")
-                            .arg(lineCount(lines.more())));
+        ExplainText::tell(report, Severity::Warning, "lines-not-explained",
+                          QStringLiteral("%1 more about the same person are not looked at here: "
+                                         "the facts are those of the first %2.")
+                              .arg(lineCount(lines.more()), lineCount(SoughtLines::kMost)),
+                          QStringLiteral("Have HR export each employment relationship once."));
     }
     explainOthers(lines);
 }
 
 void PersonExplanation::explainNotFound(const SoughtLines &lines)
 {
-    ExplainText::tell(m_context.report, Severity::Warning, "not-in-export",
+    const auto &row = m_context.person.row();
+    const bool hasLeft = row && (!row->active || row->isOver());
+    ExplainText::tell(m_context.report, hasLeft ? Severity::Note : Severity::Warning,
+                      "not-in-export",
                       QStringLiteral("None of the %1 of %2 is about %3.")
                           .arg(lineCount(lines.count()), m_source.exportPath, m_person.name()),
-                      QStringLiteral("Ask HR why the export does not name the person."));
+                      hasLeft ? QStringLiteral("Nothing is wrong, unless the person still works: "
+                                               "in the database the person has left.")
+                              : QStringLiteral("Ask HR why the export does not name the person."));
     if (lines.nameless() > 0) {
         m_context.report.sentence(
             QStringLiteral("%1 cannot be read so far as to say whom they are about, and the plugin "
@@ -162,7 +208,7 @@ void PersonExplanation::explainLine(const CheckedLine &line)
 
 void PersonExplanation::explainAbsence()
 {
-    if (!m_context.row) {
+    if (!m_context.person.row()) {
         ExplainText::tell(m_context.report, Severity::Warning, "not-in-database",
                           QStringLiteral("The person is not in the database either."),
                           QStringLiteral("Check the number, and whether HR's export has ever named "
@@ -176,31 +222,33 @@ void PersonExplanation::explainAbsence()
 
 void PersonExplanation::explainRecords(const QVector<CheckedLine> &lines)
 {
-    const auto isRead = [](const CheckedLine &line) {
-        return line.record.has_value();
-    };
-    const bool several = std::count_if(lines.cbegin(), lines.cend(), isRead) > 1;
-    const MirovaRonRecord *previous = nullptr;
+    const bool several =
+        std::count_if(lines.cbegin(), lines.cend(),
+                      [](const CheckedLine &line) { return line.record.has_value(); })
+        > 1;
     for (const CheckedLine &line : lines) {
         if (!line.record)
             continue;
-        if (previous && *line.record == *previous)
-            explainRepetition(line);
-        else
-            m_outcome = RecordExplanation(m_context, line, previous, several).explain();
-        previous = &*line.record;
+        m_outcomes += RecordExplanation(m_context, line, several).explain();
+        m_lineNumbers += line.number;
     }
-    if (!m_outcome)
+    if (m_outcomes.isEmpty())
         explainRowOnly(m_context);
+    else
+        m_outcome = outcomeOfAll();
 }
 
-void PersonExplanation::explainRepetition(const CheckedLine &line)
+/// What an earlier line has set and a later one has set back is as before.
+RecordOutcome PersonExplanation::outcomeOfAll()
 {
-    m_context.report.section(QStringLiteral("repetition-line%1").arg(line.number),
-                             QStringLiteral("Line %1: the same again").arg(line.number));
-    m_context.report.sentence(
-        QStringLiteral("The line is as the one before: unless the synchronisation is forced, the "
-                       "plugin does nothing more."));
+    RecordOutcome all = RecordOutcome::combined(m_outcomes);
+    if (all.payrollSettings == QLatin1String("set") && !m_context.person.hasOtherPayrollSettings())
+        all.payrollSettings = QStringLiteral("kept");
+    if (all.supervisor == QLatin1String("set") && !m_context.person.hasOtherAdministrators())
+        all.supervisor = QStringLiteral("kept");
+    if (all.calendar == QLatin1String("planned") && !m_context.person.hasOtherPlan())
+        all.calendar = QStringLiteral("kept");
+    return all;
 }
 
 void PersonExplanation::explainMemory()
@@ -224,19 +272,50 @@ void PersonExplanation::writeFacts()
 {
     Report &report = m_context.report;
     report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
-    report.fact(QStringLiteral("pid"), QStringLiteral("pid"), m_context.pid);
-    if (m_context.row)
-        report.fact(QStringLiteral("uid"), QStringLiteral("uid"), m_context.uid());
+    if (m_outcomes.size() > 1) {
+        Table table = lineTable();
+        for (int i = 0; i < m_outcomes.size(); ++i)
+            table.rows += lineRow(m_lineNumbers.at(i), m_outcomes.at(i));
+        report.table(table);
+    }
+    report.fact(QStringLiteral("pid"), QStringLiteral("pid"), m_context.person.pid());
+    if (m_context.person.row())
+        report.fact(QStringLiteral("uid"), QStringLiteral("uid"), m_context.person.uid());
     if (!m_outcome)
         return;
-    report.fact(QStringLiteral("person"), QStringLiteral("Person"), m_outcome->person);
-    report.fact(QStringLiteral("balance"), QStringLiteral("Vacation balance"), m_outcome->balance);
-    report.fact(QStringLiteral("supervisor"), QStringLiteral("Supervisor"), m_outcome->supervisor);
-    report.fact(QStringLiteral("branch"), QStringLiteral("Branch"), m_outcome->branch);
-    report.fact(QStringLiteral("calendar"), QStringLiteral("Calendar group"), m_outcome->calendar);
-    report.fact(QStringLiteral("recalculation"), QStringLiteral("Recalculation from"),
-                m_outcome->recalculation);
+    for (const WordFact &fact : kWordFacts) {
+        report.fact(QString::fromLatin1(fact.id), QString::fromLatin1(fact.label),
+                    (*m_outcome).*fact.word);
+    }
+    writeRecalculation();
     report.fact(QStringLiteral("waits"), QStringLiteral("Waits afterwards"), m_outcome->waits);
+}
+
+void PersonExplanation::writeRecalculation()
+{
+    Report &report = m_context.report;
+    const QStringList &causes = m_outcome->recalculation.causes;
+    report.fact(QStringLiteral("recalculation"), QStringLiteral("Recalculation from"),
+                m_outcome->recalculation.text());
+    report.fact(QStringLiteral("recalculationCauses"), QStringLiteral("Recalculation because of"),
+                causes.isEmpty() ? QStringLiteral("none") : causes.join(QStringLiteral(", ")));
+    report.fact(QStringLiteral("recalculatedDays"), QStringLiteral("Days of attendance to mark"),
+                m_context.person.recalculatedDays());
+    const qint64 before = m_context.person.lastCalculationBefore();
+    const qint64 after = m_context.person.lastCalculation();
+    if (after > before && before != 0) {
+        ExplainText::tell(
+            report, Severity::Note, "calculation-forward",
+            QStringLiteral("The last calculation moves from %1 forward to %2. Days in "
+                           "between that are not calculated stay so.")
+                .arg(ExplainText::day(before), ExplainText::day(after)),
+            QStringLiteral("Calculate the person's attendance again by hand if there "
+                           "are such days."));
+    }
+    report.fact(QStringLiteral("lastCalculation"), QStringLiteral("Last calculation is set"),
+                after == before      ? QStringLiteral("kept")
+                    : after < before ? QStringLiteral("back")
+                                     : QStringLiteral("forward"));
 }
 
 QString PersonExplanation::verdict() const
@@ -257,13 +336,13 @@ QString PersonExplanation::verdict() const
 QString PersonExplanation::verdictWithoutRecord() const
 {
     const QString name = m_person.name();
-    const QString where =
-        m_context.row ? QStringLiteral("in the database") : QStringLiteral("not in the database");
+    const QString where = m_context.person.row() ? QStringLiteral("in the database")
+                                                 : QStringLiteral("not in the database");
     if (m_isFound)
         return QStringLiteral("The plugin drops the line of %1, who is %2.").arg(name, where);
     if (!m_hasExport)
         return QStringLiteral("There is no export; %1 is %2.").arg(name, where);
-    return m_context.row
+    return m_context.person.row()
         ? QStringLiteral("%1 is in the database, but not in the export.").arg(name)
         : QStringLiteral("%1 is neither in the export nor in the database.").arg(name);
 }

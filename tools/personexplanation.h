@@ -12,6 +12,7 @@ struct ExplainedSource {
     QString configurationPath;
     bool hasConfiguration = false; ///< there is such a file
     QString exportPath;
+    bool isForced = false; ///< the next synchronisation is a forced one
 };
 
 /// Why a person did not arrive, or arrived so: the whole report but for its frame.
@@ -33,9 +34,10 @@ private:
     void explainLine(const CheckedLine &line);
     void explainAbsence();
     void explainRecords(const QVector<CheckedLine> &lines);
-    void explainRepetition(const CheckedLine &line);
     void explainMemory();
+    RecordOutcome outcomeOfAll();
     void writeFacts();
+    void writeRecalculation();
     QString verdict() const;
     QString verdictWithoutRecord() const;
 
@@ -44,5 +46,7 @@ private:
     ExplainContext m_context;
     bool m_hasExport = false;
     bool m_isFound = false; ///< in the export, dropped or not
-    std::optional<RecordOutcome> m_outcome; ///< of the last line that the plugin does not drop
+    QVector<RecordOutcome> m_outcomes; ///< of the lines that the plugin does not drop
+    QVector<qint64> m_lineNumbers; ///< of the same lines
+    std::optional<RecordOutcome> m_outcome; ///< of all of them together
 };

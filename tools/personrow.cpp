@@ -2,10 +2,12 @@
 
 #include "tools/sqlsession.h"
 
+#include <QDateTime>
+
 namespace {
 
 constexpr char kSelect[] = "SELECT uid, pamId, CONCAT_WS(' ', name, surname), status, created,"
-                           " edited, editor FROM people WHERE pid = %1";
+                           " edited, editor, `end`, lastCalc, calc FROM people WHERE pid = %1";
 
 } // namespace
 
@@ -22,5 +24,15 @@ std::optional<PersonRow> PersonRow::read(SqlSession &sql, quint32 pid)
     row.created = columns.at(4).toLongLong();
     row.edited = columns.at(5).toLongLong();
     row.editedByPlugin = columns.at(6) == QLatin1String("0");
+    // 0 is no last day to the plugin either.
+    if (columns.at(7).toLongLong() != 0)
+        row.end = columns.at(7).toLongLong();
+    row.lastCalc = columns.at(8).toLongLong();
+    row.calc = columns.at(9).toLongLong();
     return row;
+}
+
+bool PersonRow::isOver() const
+{
+    return end && *end < QDateTime::currentSecsSinceEpoch();
 }

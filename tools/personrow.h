@@ -16,6 +16,12 @@ struct PersonRow {
     qint64 created = 0; ///< Unix time; 0: not known
     qint64 edited = 0; ///< Unix time; 0: never
     bool editedByPlugin = false; ///< `editor` is 0: the last change was the plugin's
+    std::optional<qint64> end; ///< Unix time of the last second of employment; nothing: open
+    qint64 lastCalc = 0; ///< Unix time
+    qint64 calc = 0; ///< Unix time of the last calculation of attendance; 0: one is due
+
+    /// Whether the last day is over.
+    bool isOver() const;
 
     /// Nothing when there is none, or the query fails.
     static std::optional<PersonRow> read(SqlSession &sql, quint32 pid);

@@ -8,8 +8,6 @@
 
 namespace {
 
-const QString kNone = QStringLiteral("none");
-
 /// Whether the last day of the record is over.
 bool isOver(const MirovaRonRecord &record, const QDate &today)
 {
@@ -19,37 +17,58 @@ bool isOver(const MirovaRonRecord &record, const QDate &today)
 } // namespace
 
 RecordExplanation::RecordExplanation(ExplainContext &context, const CheckedLine &line,
-                                     const MirovaRonRecord *previous, bool numbered)
+                                     bool numbered)
     : m_context(context)
+    , m_person(context.person)
     , m_line(line)
     , m_record(*line.record)
-    , m_previous(previous)
     , m_numbered(numbered)
-    , m_outcome{kNone, kNone, kNone, kNone, kNone, kNone}
+    , m_found(m_person.compare(m_record))
+    , m_active(RecordCodes::isActive(m_record, QDate::currentDate()))
 {
 }
 
 RecordOutcome RecordExplanation::explain()
 {
+    if (isHandled())
+        explainSteps();
+    else
+        explainRepetition();
+    m_outcome.waits = m_person.waits(m_record);
+    m_person.remember(m_record);
+    return m_outcome;
+}
+
+void RecordExplanation::explainSteps()
+{
     explainState();
     explainRow();
-    const bool isThere = m_context.known.has_value();
-    if (isThere)
+    const bool isKnown = m_person.known().has_value();
+    if (isKnown)
         explainBalance();
-    if (hasUid() && (isThere || (m_active && m_outcome.person != QLatin1String("uncertain"))))
+    if (isKnown || isPerson("created") || isPerson("merged") || isPerson("test-mode"))
         explainSupervisor();
-    if (hasUid() && m_active)
+    if (m_active)
         explainPlace();
-    if (isThere)
+    if (isKnown || m_outcome.recalculation.from)
         explainRecalculation();
-    return m_outcome;
+}
+
+void RecordExplanation::explainRepetition()
+{
+    section("repetition", "The same again");
+    say(QStringLiteral("The line is the same as the one before, so the plugin leaves the person "
+                       "alone."));
+    m_outcome.person =
+        m_person.exists() ? QStringLiteral("unchanged") : QStringLiteral("never-created");
+    if (m_active && m_person.waits(m_record))
+        explainPlace();
 }
 
 void RecordExplanation::explainState()
 {
     section("state", "Does the person work?");
     const QDate today = QDate::currentDate();
-    m_active = RecordCodes::isActive(m_record, today);
     if (m_active) {
         say(QStringLiteral("Yes: the employment state %1 is below 4, and %2.")
                 .arg(QString::number(m_record.stavPracovnihoPomeru),
@@ -83,11 +102,9 @@ void RecordExplanation::say(const QString &sentence)
     m_context.report.sentence(sentence);
 }
 
-/// Whether the steps behind that of the row find somebody to write to.
-bool RecordExplanation::hasUid() const
+void RecordExplanation::warn(const char *rule, const QString &message, const QString &advice)
 {
-    return m_context.row || m_outcome.person == QLatin1String("created")
-        || m_outcome.person == QLatin1String("merged");
+    ExplainText::tell(m_context.report, Severity::Warning, rule, message, advice);
 }
 
 bool RecordExplanation::isTypeOfSupervisors() const

@@ -12,6 +12,30 @@ namespace {
 
 constexpr char kSelectBranchName[] = "SELECT name FROM branches WHERE bid = %1";
 
+/// Why attendance is calculated again, behind "because".
+struct Reason {
+    const char *cause;
+    const char *text;
+};
+
+constexpr Reason kReasons[] = {
+    {"state", "the relationship state begins"},
+    {"calendar", "the calendar group is planned from a day on that is over"},
+    {"moved",
+     "calendar, its start or the cost centre are not those that the plugin knows (of the "
+     "start it knows nothing at first)"},
+    {"balance", "the balance is corrected"},
+};
+
+QString reasonOf(const QString &cause)
+{
+    for (const Reason &reason : kReasons) {
+        if (cause == QLatin1String(reason.cause))
+            return QString::fromLatin1(reason.text);
+    }
+    Q_UNREACHABLE();
+}
+
 QStringList texts(const QVector<unsigned int> &ids)
 {
     QStringList texts;
@@ -32,39 +56,52 @@ void RecordExplanation::explainPlace()
     const quint32 bid = m_context.view.worker().bidOfBranch(m_record.stredisko);
     if (bid == 0) {
         m_outcome.branch = QStringLiteral("unknown");
-        ExplainText::tell(m_context.report, Severity::Warning, "branch-unknown",
-                          QStringLiteral("No branch has the number %1 of the cost centre. The log "
-                                         "says: %2")
-                              .arg(QString::number(m_record.stredisko), placingLog()),
-                          QStringLiteral("Give the branch this number, or have HR put the person "
-                                         "elsewhere."));
-    } else {
-        explainBranch(bid);
-        explainCalendar(bid);
+        warn("branch-unknown",
+             QStringLiteral("No branch has the number %1 of the cost centre. The log says: %2")
+                 .arg(QString::number(m_record.stredisko), placingLog()),
+             QStringLiteral("Give the branch this number, or have HR put the person elsewhere."));
+        explainWaiting(false);
+        return;
     }
-    explainWaiting();
+    const bool isQueued = explainBranch(bid);
+    const bool hasGroup = explainCalendar(bid);
+    explainWaiting(isQueued || hasGroup);
 }
 
-void RecordExplanation::explainBranch(quint32 bid)
+bool RecordExplanation::explainBranch(quint32 bid)
 {
     const QString name =
         m_context.view.sql().value(QString(QLatin1String(kSelectBranchName)).arg(bid));
     say(QStringLiteral("The cost centre %1 is branch %2, %3.")
             .arg(QString::number(m_record.stredisko), QString::number(bid), name));
-    if (m_context.view.worker().dbCheckPersonInBranch(m_context.pid, bid)) {
+    if (m_context.view.worker().dbCheckPersonInBranch(m_person.pid(), bid)) {
         m_outcome.branch = QStringLiteral("member");
         say(QStringLiteral("The person is a member already."));
-        return;
+        return false;
     }
-    explainNewMember(bid);
+    // Without a row the plugin puts nobody on the list, but does not notice.
+    if (m_person.exists())
+        explainNewMember(bid);
+    return true;
 }
 
 void RecordExplanation::explainNewMember(quint32 bid)
 {
+    // Members are added by a number of 16 bits.
+    const auto number = static_cast<ushort>(bid);
+    if (number != bid) {
+        warn("branch-id-large",
+             QStringLiteral("The id of the branch is above 65535: %1.")
+                 .arg(number == 0
+                          ? QStringLiteral("the person joins no branch")
+                          : QStringLiteral("the person joins branch %1 instead").arg(number)),
+             QStringLiteral("Give the branch a smaller id."));
+    }
+    if (number == 0)
+        return;
     m_outcome.branch = QStringLiteral("joins");
     BranchesRepository branches(nullptr, false, false);
     branches.setDB(m_context.view.database());
-    const auto number = static_cast<ushort>(bid);
     say(QStringLiteral("The person joins it at the end of the synchronisation, and stays in every "
                        "other branch."));
     say(ExplainText::list(
@@ -77,55 +114,63 @@ void RecordExplanation::explainNewMember(quint32 bid)
         + QLatin1Char('.'));
 }
 
-void RecordExplanation::explainCalendar(quint32 bid)
+bool RecordExplanation::explainCalendar(quint32 bid)
 {
     if (m_record.kalendar == 0) {
         say(QStringLiteral("The line names no calendar."));
-        return;
+        return false;
     }
     const quint32 gid = m_context.view.worker().dbGetGroupIdByCalendar(bid, m_record.kalendar);
     if (gid == 0) {
         m_outcome.calendar = QStringLiteral("unknown");
-        ExplainText::tell(m_context.report, Severity::Warning, "calendar-unknown",
-                          QStringLiteral("The branch's master group has no group for the calendar "
-                                         "%1. The log says: %2")
-                              .arg(QString::number(m_record.kalendar), placingLog()),
-                          QStringLiteral("Make a group for this calendar in the master group of "
-                                         "the branch, or have HR correct the calendar."));
-        return;
+        warn("calendar-unknown",
+             QStringLiteral("The branch's master group has no group for the calendar %1. The log "
+                            "says: %2")
+                 .arg(QString::number(m_record.kalendar), placingLog()),
+             QStringLiteral("Make a group for this calendar in the master group of the branch, or "
+                            "have HR correct the calendar."));
+        return false;
     }
-    explainPlan(gid);
+    say(QStringLiteral("The calendar %1 is group %2 there.").arg(m_record.kalendar).arg(gid));
+    if (m_person.exists()) {
+        explainPlan(gid);
+        return true;
+    }
+    warn("person-missing",
+         QStringLiteral("The database has nobody with the pid %1 for whom the group could be "
+                        "planned. The log says: MHRWorker: can't add record '%2' into "
+                        "[groups_plan]!")
+             .arg(QString::number(m_person.pid()), m_record.getString(false)),
+         QStringLiteral("See above why the person has no row with this pid."));
+    return false;
 }
 
 void RecordExplanation::explainPlan(quint32 gid)
 {
     const QDate since = m_record.kalendarPlatnostOd;
     const uint month = GroupsPlanRepo::monthFromDate(since);
-    say(QStringLiteral("The calendar %1 is group %2 there.").arg(m_record.kalendar).arg(gid));
-    if (m_context.uid() != 0
-        && m_context.view.worker().dbCheckGroupsPlan(gid, m_context.uid(), month)) {
+    if (m_person.isPlanned(gid, month)) {
         m_outcome.calendar = QStringLiteral("kept");
         say(QStringLiteral("It is planned from month %1 on already.").arg(month));
         return;
     }
     m_outcome.calendar = QStringLiteral("planned");
+    m_person.plan(gid, month);
     say(QStringLiteral("It is planned from month %1 on.").arg(month));
-    if (since < QDate::currentDate()) {
-        say(since.isValid()
-                ? QStringLiteral("Attendance is calculated again from %1 on.")
-                      .arg(ExplainText::day(since))
-                : QStringLiteral("All attendance is calculated again, because the start of the "
-                                 "calendar is no date."));
-    }
+    if (since >= QDate::currentDate())
+        return;
+    m_person.recalculate(since);
+    m_outcome.recalculation.add(since, QStringLiteral("calendar"));
+    say(since.isValid() ? QStringLiteral("Attendance is calculated again from %1 on.")
+                              .arg(ExplainText::day(since))
+                        : QStringLiteral("All attendance is calculated again, because the start of "
+                                         "the calendar is no date."));
 }
 
-void RecordExplanation::explainWaiting()
+void RecordExplanation::explainWaiting(bool isPlaced)
 {
-    const bool placed = m_outcome.branch == QLatin1String("joins")
-        || m_outcome.calendar == QLatin1String("planned")
-        || m_outcome.calendar == QLatin1String("kept");
-    m_outcome.waits = !placed;
-    if (placed)
+    m_person.setWaiting(m_record, !isPlaced);
+    if (isPlaced)
         return;
     say(m_outcome.branch == QLatin1String("member") && m_record.kalendar == 0
             ? QStringLiteral("There is nothing to be done; the plugin counts the record among the "
@@ -134,23 +179,52 @@ void RecordExplanation::explainWaiting()
                              "arrives."));
 }
 
+/// The only place that tells from when on attendance is calculated again as a whole: the steps
+/// before it have added their days.
 void RecordExplanation::explainRecalculation()
 {
     section("recalculation", "Is attendance calculated again?");
-    const bool moves = RecordComparison::isComplete(*m_context.known)
-        && RecordComparison::movesElsewhere(m_record, *m_context.known);
-    const bool corrected = m_outcome.balance == QLatin1String("corrected");
-    if (!moves && !corrected) {
-        say(QStringLiteral("Not for the place or the balance."));
+    const auto &known = m_person.known();
+    const bool moves = known && RecordComparison::isComplete(*known)
+        && RecordComparison::movesElsewhere(m_record, *known);
+    const bool isCorrected = m_outcome.balance == QLatin1String("corrected");
+    if (moves || isCorrected) {
+        m_person.take(m_record);
+        requestRecalculation(moves, isCorrected);
+    }
+    const Recalculation &recalculation = m_outcome.recalculation;
+    if (!recalculation.from) {
+        say(QStringLiteral("No."));
+        return;
+    }
+    QStringList reasons;
+    for (const QString &cause : recalculation.causes)
+        reasons += reasonOf(cause);
+    say(QStringLiteral("Yes, %1, because %2.")
+            .arg(recalculation.from->isValid()
+                     ? QStringLiteral("from %1 on").arg(recalculation.text())
+                     : QStringLiteral("all of it"),
+                 reasons.join(QStringLiteral("; "))));
+}
+
+void RecordExplanation::requestRecalculation(bool moves, bool isCorrected)
+{
+    if (!m_person.exists()) {
+        warn("person-missing",
+             QStringLiteral("The database has nobody with the pid %1 whose attendance could be "
+                            "calculated again. The log says: MHRWorker: User (employee) ID NOT "
+                            "found for pid (Personal ID) %1 [employee: '%2'] - lastCalc not "
+                            "changed (manual recalculation is needed)!")
+                 .arg(QString::number(m_person.pid()), m_record.getString(false)),
+             QStringLiteral("See above why the person has no row with this pid."));
         return;
     }
     const QDate from = RecordDates::firstDayOfPreviousMonth(QDate::currentDate());
-    m_outcome.recalculation = ExplainText::day(from);
-    say(QStringLiteral("Yes, from %1 on, because %2.")
-            .arg(m_outcome.recalculation,
-                 moves ? QStringLiteral("calendar, its start or the cost centre are not those that "
-                                        "the plugin knows (of the start it knows nothing at first)")
-                       : QStringLiteral("the balance is corrected")));
+    m_person.recalculate(from);
+    if (moves)
+        m_outcome.recalculation.add(from, QStringLiteral("moved"));
+    if (isCorrected)
+        m_outcome.recalculation.add(from, QStringLiteral("balance"));
 }
 
 QString RecordExplanation::placingLog()

@@ -3,8 +3,10 @@
 #include "tools/explaincontext.h"
 #include "tools/explaintext.h"
 #include "tools/payrollexports.h"
+#include "tools/plaintext.h"
 #include "tools/recordexplanation.h"
 #include "tools/rowfields.h"
+#include "tools/sqltext.h"
 #include "worker/exportline.h"
 #include "worker/recordcodes.h"
 #include "worker/recordcomparison.h"
@@ -17,8 +19,6 @@ namespace {
 /// people.
 constexpr char kSelectTerminals[] = "SELECT tid FROM people_term JOIN term USING(tid)"
                                     " WHERE status = 1 AND uid = %1 AND (flags & 2) ORDER BY tid";
-
-constexpr char kSelectPayrollSettings[] = "SELECT id FROM people_pam WHERE uid = %1";
 
 Table fieldTable(const QVector<RowField> &fields)
 {
@@ -58,43 +58,60 @@ QStringList firstColumn(const QVector<QStringList> &rows)
 void RecordExplanation::explainRow()
 {
     section("row", "Is the person created or updated?");
-    if (m_context.known) {
+    if (m_person.known())
         explainUpdate();
-        explainHarmfulText();
-    } else if (m_active) {
+    else if (m_active)
         explainCreation();
-        explainHarmfulText();
-        if (!hasUid())
-            say(QStringLiteral("The steps that follow find nobody to write to, and warn."));
+    else
+        explainLeaver();
+}
+
+void RecordExplanation::explainLeaver()
+{
+    m_outcome.person =
+        m_person.exists() ? QStringLiteral("unchanged") : QStringLiteral("never-created");
+    if (m_person.isAdded()) {
+        warn("left-already",
+             QStringLiteral("An earlier line has created the person or made the row active. The "
+                            "plugin looks people up once in a synchronisation, so it does not "
+                            "write that the person has left."),
+             QStringLiteral("Have HR export each employment relationship once."));
+    } else if (m_person.exists()) {
+        say(QStringLiteral("The person has left. The plugin does not see the row, so it leaves the "
+                           "row alone."));
     } else {
-        m_outcome.person = QStringLiteral("never-created");
-        ExplainText::tell(m_context.report, Severity::Warning, "left-already",
-                          QStringLiteral("The plugin does not find the person in the database, and "
-                                         "who has left is never created. It ends here."),
-                          QStringLiteral("Fine, unless the person still works: then HR's export "
-                                         "is wrong."));
+        ExplainText::tell(m_context.report, Severity::Note, "left-already",
+                          QStringLiteral("The person has left and has no row. The plugin never "
+                                         "creates a row for somebody who has left."),
+                          QStringLiteral("Nothing is wrong, unless the person still works: then "
+                                         "HR's export is wrong."));
     }
 }
 
-void RecordExplanation::explainHarmfulText()
+void RecordExplanation::explainHarmfulText(const QString &stateText)
 {
-    const bool writes = m_outcome.person != QLatin1String("unchanged")
-        && m_outcome.person != QLatin1String("test-mode");
-    if (!writes || !hasHarmfulText(m_line))
-        return;
-    m_outcome.person = QStringLiteral("uncertain");
-    say(QStringLiteral("But a text of the line, named above, makes the statement fail or write "
-                       "something else."));
+    if (hasHarmfulText(m_line)) {
+        say(QStringLiteral("But a text of the line, named above, makes the statement fail or write "
+                           "something else."));
+    } else if (m_isHarmful) {
+        warn("state-breaks-statement",
+             QStringLiteral("The text of the relationship state, %1, makes the statement fail or "
+                            "write something else.")
+                 .arg(PlainText::quoted(stateText)),
+             QStringLiteral("Change the text in the group MES of the configuration, or rsText of "
+                            "the row."));
+    }
 }
 
 void RecordExplanation::explainUpdate()
 {
-    const MirovaRonRecord updated = m_context.view.worker().updateRs(m_record, *m_context.known);
+    const MirovaRonRecord updated = m_context.view.worker().updateRs(m_record, *m_person.known());
+    m_isHarmful = hasHarmfulText(m_line) || SqlText::breaksStatement(updated.rsText);
     explainRelationshipState();
     explainComparison(updated);
     explainWriting(updated,
                    RecordComparison::rowFields(updated)
-                       == RecordComparison::rowFields(*m_context.known));
+                       == RecordComparison::rowFields(*m_person.known()));
 }
 
 void RecordExplanation::explainRelationshipState()
@@ -113,11 +130,15 @@ void RecordExplanation::explainRelationshipState()
 
 void RecordExplanation::explainComparison(const MirovaRonRecord &updated)
 {
-    const QVector<RowField> fields = compareRowFields(updated, *m_context.known);
+    const QVector<RowField> fields = compareRowFields(updated, *m_person.known());
     QStringList differing;
     for (const RowField &field : fields) {
         if (field.differs)
             differing += field.name;
+    }
+    if (m_person.last()) {
+        say(QStringLiteral("The plugin compares with the row as it was before the earlier lines "
+                           "changed it."));
     }
     say(differing.isEmpty() ? QStringLiteral("No field differs from the row.")
                             : QStringLiteral("These fields differ from the row: %1.")
@@ -127,39 +148,66 @@ void RecordExplanation::explainComparison(const MirovaRonRecord &updated)
 
 void RecordExplanation::explainWriting(const MirovaRonRecord &updated, bool sameRow)
 {
-    const bool esChanged = isFirstLook() || m_record.evidencniStav != m_previous->evidencniStav;
-    const bool tppChanged =
-        isFirstLook() || m_record.typPracovnihoPomeru != m_previous->typPracovnihoPomeru;
-    if (sameRow && !esChanged && !tppChanged) {
+    if (sameRow && !m_found.esChanged && !m_found.tppChanged) {
         m_outcome.person = QStringLiteral("unchanged");
         say(QStringLiteral("The row is left alone."));
-        return;
-    }
-    if (m_context.configuration.testMode) {
+    } else if (m_context.configuration.testMode) {
         explainTestMode("dbUpdatePerson", "update");
-        return;
+    } else if (!m_person.row()) {
+        m_outcome.person = QStringLiteral("missed");
+        say(QStringLiteral("The plugin updates the row with the pid %1, and there is none: nothing "
+                           "is written.")
+                .arg(m_person.pid()));
+    } else {
+        explainWrittenRow(updated, sameRow);
+        explainTerminalsOfPerson();
+        explainHarmfulText(updated.rsText);
     }
-    m_outcome.person = QStringLiteral("updated");
-    say(sameRow ? QStringLiteral("The row is written all the same: the plugin does not know yet "
-                                 "with which codes of employment type and register state it was "
-                                 "written last.")
-                : QStringLiteral("The row is updated."));
+}
+
+void RecordExplanation::explainWrittenRow(const MirovaRonRecord &updated, bool sameRow)
+{
+    m_outcome.person = m_isHarmful ? QStringLiteral("uncertain") : QStringLiteral("updated");
+    if (!sameRow) {
+        say(QStringLiteral("The row is updated."));
+    } else if (m_person.last()) {
+        say(QStringLiteral("The row is written all the same: the employment type or the register "
+                           "state is not that of the line before."));
+    } else {
+        say(QStringLiteral("The row is written all the same: the plugin does not know yet with "
+                           "which codes of employment type and register state it was written "
+                           "last."));
+    }
     if (!m_active) {
         say(QStringLiteral("It stays active: the plugin never ends people, it only writes their "
                            "last day."));
     }
-    if (esChanged && updated.rsFrom.isValid()) {
-        say(QStringLiteral("Attendance is calculated again from %1 on, where the relationship "
-                           "state begins.")
-                .arg(ExplainText::day(updated.rsFrom)));
+    if (m_found.esChanged && updated.rsFrom.isValid())
+        explainStateBegin(updated.rsFrom);
+}
+
+void RecordExplanation::explainStateBegin(const QDate &day)
+{
+    if (m_isHarmful)
+        return;
+    const qint64 before = m_person.lastCalculation();
+    m_person.setLastCalculation(day);
+    if (before <= m_person.lastCalculation()) {
+        say(QStringLiteral("The last calculation is set to the day before %1, where the "
+                           "relationship state begins.")
+                .arg(ExplainText::day(day)));
+        return;
     }
-    explainTerminalsOfPerson();
+    m_outcome.recalculation.add(day, QStringLiteral("state"));
+    say(QStringLiteral("Attendance is calculated again from %1 on, where the relationship state "
+                       "begins.")
+            .arg(ExplainText::day(day)));
 }
 
 void RecordExplanation::explainTerminalsOfPerson()
 {
     const QStringList tids = firstColumn(
-        m_context.view.sql().rows(QString(QLatin1String(kSelectTerminals)).arg(m_context.uid())));
+        m_context.view.sql().rows(QString(QLatin1String(kSelectTerminals)).arg(m_person.uid())));
     say(ExplainText::list(QStringLiteral("The change is queued for terminal"),
                           QStringLiteral("The change is queued for the terminals"), tids,
                           QStringLiteral("No active terminal that handles people holds this "
@@ -169,19 +217,30 @@ void RecordExplanation::explainTerminalsOfPerson()
 
 void RecordExplanation::explainCreation()
 {
-    if (m_context.configuration.testMode) {
+    if (m_context.configuration.testMode)
         explainTestMode("dbAddPerson", "add");
-        return;
-    }
-    m_outcome.person =
-        m_context.row || isMadeBefore() ? QStringLiteral("merged") : QStringLiteral("created");
-    if (m_context.row) {
+    else
+        explainAddition();
+    if (!m_person.exists())
+        say(QStringLiteral("The steps that follow find nobody to write to, and warn."));
+}
+
+void RecordExplanation::explainAddition()
+{
+    const QString stateText = m_context.view.worker().updateRs(m_record, MirovaRonRecord()).rsText;
+    m_isHarmful = hasHarmfulText(m_line) || SqlText::breaksStatement(stateText);
+    m_mayNotAdd = m_person.isAddedAs(m_record);
+    m_outcome.person = m_isHarmful ? QStringLiteral("uncertain")
+        : m_person.exists()        ? QStringLiteral("merged")
+                                   : QStringLiteral("created");
+    if (m_person.isAdded()) {
+        say(QStringLiteral("The line is merged into the row that an earlier line has written. The "
+                           "department becomes 1."));
+    } else if (m_person.row()) {
         say(QStringLiteral("The line is merged into the row with the uid %1, which becomes active. "
                            "Relationship state, calendar and branch of the row stay as they are, "
                            "the department becomes 1.")
-                .arg(m_context.uid()));
-    } else if (isMadeBefore()) {
-        say(QStringLiteral("The line is merged into the row that the line before has made."));
+                .arg(m_person.uid()));
     } else {
         say(QStringLiteral("The person is created."));
     }
@@ -190,27 +249,38 @@ void RecordExplanation::explainCreation()
                        "synchronisation is forced.")
             .arg(m_record.getPamId()));
     explainPayroll();
+    explainPayrollSettings();
     say(QStringLiteral("The vacation balance of a new person follows at a later synchronisation."));
+    explainHarmfulText(stateText);
+    if (!m_isHarmful)
+        m_person.add(m_record);
 }
 
 void RecordExplanation::explainPayroll()
 {
     const QStringList exports = payrollExports(m_context.view.database());
-    if (exports.size() == 1 && m_record.getPid() != 0) {
-        say(QStringLiteral("The person joins the selection of the payroll export %1.")
-                .arg(exports.first().section(QLatin1Char('.'), 1, 1)));
-    } else {
-        ExplainText::tell(
-            m_context.report, Severity::Warning, "no-payroll-export",
-            QStringLiteral("The person joins no payroll export, since %1. The log says: "
-                           "MHRWorker::dbAddPerson(%2) - addPersonIntoPam() FAILED!")
-                .arg(exports.size() == 1
-                         ? QStringLiteral("the pid is 0")
-                         : QStringLiteral("there is not exactly one, but %1").arg(exports.size()),
-                     m_record.getPamId()),
-            QStringLiteral("Add the person by hand where it is wanted."));
+    if (exports.size() != 1 || m_record.getPid() == 0) {
+        warn("no-payroll-export",
+             QStringLiteral("The person joins no payroll export, since %1. The log says: "
+                            "MHRWorker::dbAddPerson(%2) - addPersonIntoPam() FAILED!")
+                 .arg(exports.size() == 1
+                          ? QStringLiteral("the pid is 0")
+                          : QStringLiteral("there is not exactly one, but %1").arg(exports.size()),
+                      m_record.getPamId()),
+             QStringLiteral("Add the person by hand where it is wanted."));
+        return;
     }
-    explainPayrollSettings();
+    const QString id = exports.first().section(QLatin1Char('.'), 1, 1);
+    const bool isMember = m_person.isSelected(exports.first());
+    m_outcome.payroll = isMember ? QStringLiteral("member")
+        : m_isHarmful            ? QStringLiteral("uncertain")
+                                 : QStringLiteral("joins");
+    if (!m_isHarmful)
+        m_person.select();
+    say(isMember
+            ? QStringLiteral("The person is in the selection of the payroll export %1 already.")
+                  .arg(id)
+            : QStringLiteral("The person joins the selection of the payroll export %1.").arg(id));
 }
 
 void RecordExplanation::explainPayrollSettings()
@@ -225,8 +295,24 @@ void RecordExplanation::explainPayrollSettings()
     say(QStringLiteral("The employment type %1 gives the settings %2 of the payroll export.")
             .arg(type)
             .arg(settings));
-    if (!hasPayrollSettings(settings))
+    const bool isKept = m_person.payrollSettings() == settings;
+    m_outcome.payrollSettings = isKept ? QStringLiteral("kept")
+        : m_mayNotAdd || m_isHarmful   ? QStringLiteral("uncertain")
+                                       : QStringLiteral("set");
+    if (m_mayNotAdd) {
+        say(QStringLiteral("An earlier line has written the same row. Within the same second the "
+                           "statement changes nothing, which the plugin takes for a failure: it "
+                           "then leaves the settings and the supervisor as they are."));
         return;
+    }
+    if (!m_isHarmful)
+        m_person.setPayrollSettings(settings);
+    if (isKept)
+        explainKeptSettings(settings);
+}
+
+void RecordExplanation::explainKeptSettings(ushort settings)
+{
     ExplainText::tell(m_context.report, Severity::Note, "payroll-settings-kept",
                       QStringLiteral("The person has these settings already, which the plugin "
                                      "takes for a failure. The log says: "
@@ -235,21 +321,6 @@ void RecordExplanation::explainPayrollSettings()
                           .arg(m_record.getString(false), QString::number(m_record.getPid()),
                                QString::number(settings)),
                       QStringLiteral("Nothing is wrong with that."));
-}
-
-bool RecordExplanation::hasPayrollSettings(ushort settings)
-{
-    if (!m_context.row)
-        return isMadeBefore()
-            && RecordCodes::pamSettingsIdFromTPP(m_previous->typPracovnihoPomeru) == settings;
-    const QString select = QString(QLatin1String(kSelectPayrollSettings)).arg(m_context.uid());
-    return m_context.view.sql().value(select) == QString::number(settings);
-}
-
-/// Whether a line before this one has created the person.
-bool RecordExplanation::isMadeBefore() const
-{
-    return m_previous && RecordCodes::isActive(*m_previous, QDate::currentDate());
 }
 
 void RecordExplanation::explainTestMode(const char *operation, const char *what)

@@ -5,60 +5,56 @@
 #include "tools/recordexplanation.h"
 #include "worker/vacationbalance.h"
 
-namespace {
-
-/// The administrators who handle the requests of a person.
-constexpr char kSelectAdministrators[] =
-    "SELECT aid FROM admins_people WHERE request AND uid = %1 ORDER BY aid";
-
-} // namespace
-
 void RecordExplanation::explainBalance()
 {
     section("balance", "Is the vacation balance corrected?");
-    MHRWorker &worker = m_context.view.worker();
-    if (worker.vacationFundId() == 0) {
+    if (m_context.view.worker().vacationFundId() == 0) {
         m_outcome.balance = QStringLiteral("no-fund");
         say(QStringLiteral("No: there is no vacation fund."));
-        return;
-    }
-    uint uid = 0;
-    if (!worker.dbCheckFundMove(m_context.pid)) {
+    } else if (m_found.correctedToday) {
         m_outcome.balance = QStringLiteral("later");
-        say(QStringLiteral("Not today: today's correction is there already. The plugin looks again "
-                           "tomorrow."));
-    } else if (!worker.dbCheckAttendance(m_context.pid, uid)) {
+        say(m_person.correctingLine() == 0
+                ? QStringLiteral("Not today: today's correction is there already. The plugin looks "
+                                 "again tomorrow.")
+                : QStringLiteral("Not today: line %1 has corrected it, and the plugin corrects a "
+                                 "balance once a day.")
+                      .arg(m_person.correctingLine()));
+    } else if (!m_found.attendanceCalculated) {
         m_outcome.balance = QStringLiteral("later");
         say(QStringLiteral("Not now: the person's attendance is just being calculated, or has days "
                            "that are still to be calculated. The plugin looks again at the next "
                            "synchronisation that brings the person."));
+    } else if (!m_found.checkFunds) {
+        m_outcome.balance = QStringLiteral("kept");
+        say(QStringLiteral("No: the balance is that of the line before."));
     } else {
-        explainCorrection(uid);
+        explainCorrection();
     }
 }
 
-void RecordExplanation::explainCorrection(quint32 uid)
+void RecordExplanation::explainCorrection()
 {
     bool loaded = false;
-    const int held = m_context.view.worker().loadFundStatusAndMove3(m_context.pid, loaded);
+    const int held = m_context.view.worker().loadFundStatusAndMove3(m_person.pid(), loaded);
     qint32 move = 0;
     const bool writable = VacationBalance::correction(m_record.dovolenaZustatek, held, move);
     if (!writable) {
         m_outcome.balance = QStringLiteral("impossible");
-        ExplainText::tell(
-            m_context.report, Severity::Warning, "balance-not-written",
-            QStringLiteral("The fund holds %1, and no correction leads from there to %2 days. The "
-                           "balance stays, and the log says: MHRWorker::doSyncRecord() - "
-                           "funds_move type (type=3, valeu=%3) not writed for uid %4 (pid: %5)")
-                .arg(ExplainText::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
-                     QString::number(move), QString::number(uid), QString::number(m_context.pid)),
-            QStringLiteral("One of the two balances is wrong."));
+        warn("balance-not-written",
+             QStringLiteral("The fund holds %1, and no correction leads from there to %2 days. The "
+                            "balance stays, and the log says: MHRWorker::doSyncRecord() - "
+                            "funds_move type (type=3, valeu=%3) not writed for uid %4 (pid: %5)")
+                 .arg(ExplainText::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
+                      QString::number(move), QString::number(m_person.uid()),
+                      QString::number(m_person.pid())),
+             QStringLiteral("One of the two balances is wrong."));
     } else if (move == 0) {
         m_outcome.balance = QStringLiteral("equal");
         say(QStringLiteral("No: the fund holds %1, as the export says.")
                 .arg(ExplainText::days(held)));
     } else {
         m_outcome.balance = QStringLiteral("corrected");
+        m_person.correctBalance(m_line.number);
         say(QStringLiteral("Yes: the fund holds %1, and the correction of today is %2.")
                 .arg(ExplainText::days(held), ExplainText::days(move)));
     }
@@ -68,15 +64,13 @@ void RecordExplanation::explainSupervisor()
 {
     section("supervisor", "Who gets the person's requests?");
     const quint32 supervisor = m_record.nadrizenyOsobniCislo;
-    const bool isNews =
-        !m_context.known || isFirstLook() || supervisor != m_previous->nadrizenyOsobniCislo;
     if (supervisor == 0) {
         say(QStringLiteral("The line names no supervisor: nothing changes."));
     } else if (!isTypeOfSupervisors()) {
         say(QStringLiteral("The employment type %1 is not one for which the plugin sets a "
                            "supervisor: nothing changes.")
                 .arg(m_record.typPracovnihoPomeru));
-    } else if (!isNews) {
+    } else if (m_person.known() && !m_found.supervisorChanged) {
         say(QStringLiteral("The supervisor is that of the line before: nothing changes."));
     } else {
         explainAdministrator(m_context.view.worker().dbGetAidByOsCis(supervisor));
@@ -85,29 +79,48 @@ void RecordExplanation::explainSupervisor()
 
 void RecordExplanation::explainAdministrator(quint32 aid)
 {
-    const quint32 supervisor = m_record.nadrizenyOsobniCislo;
     if (aid == 0) {
-        m_outcome.supervisor = QStringLiteral("unknown");
-        // Without an administrator it does nothing but warn.
-        const CaughtLog log;
-        m_context.view.worker().processNadOsCis(m_record);
-        ExplainText::tell(m_context.report, Severity::Warning, "supervisor-unknown",
-                          QStringLiteral("No administrator has the personal number %1 of the "
-                                         "supervisor: nothing changes. The log says: %2")
-                              .arg(QString::number(supervisor), log.complaints()),
-                          QStringLiteral("Give the supervisor an administrator's account with "
-                                         "this personal number."));
+        explainUnknownAdministrator();
         return;
     }
-    const QVector<QStringList> now = m_context.view.sql().rows(
-        QString(QLatin1String(kSelectAdministrators)).arg(m_context.uid()));
-    const bool isKept = now.size() == 1 && now.first().first().toUInt() == aid;
-    m_outcome.supervisor = isKept ? QStringLiteral("kept") : QStringLiteral("set");
-    say(isKept ? QStringLiteral("Administrator %1, who has the personal number %2, as now.")
-                     .arg(aid)
-                     .arg(supervisor)
-               : QStringLiteral("Administrator %1, who has the personal number %2, and nobody "
-                                "else.")
-                     .arg(aid)
-                     .arg(supervisor));
+    const quint32 supervisor = m_record.nadrizenyOsobniCislo;
+    if (!m_person.exists()) {
+        warn("person-missing",
+             QStringLiteral("The database has nobody with the pid %1 who could get a supervisor. "
+                            "The log says: MHRWorker - zamestnanec s osobnym cislom %1 nebol "
+                            "najdeny!")
+                 .arg(m_person.pid()),
+             QStringLiteral("See above why the person has no row with this pid."));
+    } else if (m_person.administrators() == QSet<quint32>{aid}) {
+        m_outcome.supervisor = QStringLiteral("kept");
+        say(QStringLiteral("Administrator %1, who has the personal number %2, as now.")
+                .arg(aid)
+                .arg(supervisor));
+    } else if (m_mayNotAdd) {
+        m_outcome.supervisor = QStringLiteral("uncertain");
+        say(QStringLiteral("Administrator %1, who has the personal number %2, unless the line "
+                           "comes within the same second as the earlier one.")
+                .arg(aid)
+                .arg(supervisor));
+    } else {
+        m_outcome.supervisor = QStringLiteral("set");
+        m_person.setAdministrator(aid);
+        say(QStringLiteral("Administrator %1, who has the personal number %2, and nobody else.")
+                .arg(aid)
+                .arg(supervisor));
+    }
+}
+
+void RecordExplanation::explainUnknownAdministrator()
+{
+    m_outcome.supervisor = QStringLiteral("unknown");
+    // Without an administrator it does nothing but warn.
+    const CaughtLog log;
+    m_context.view.worker().processNadOsCis(m_record);
+    warn("supervisor-unknown",
+         QStringLiteral("No administrator has the personal number %1 of the supervisor: nothing "
+                        "changes. The log says: %2")
+             .arg(QString::number(m_record.nadrizenyOsobniCislo), log.complaints()),
+         QStringLiteral("Give the supervisor an administrator's account with this personal "
+                        "number."));
 }

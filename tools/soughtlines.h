@@ -17,7 +17,7 @@ class QFile;
 class SoughtLines {
 public:
     /// The most lines of the person, and the most other relationships, that are kept.
-    static constexpr int kMost = 20;
+    static constexpr int kMost = 100;
 
     explicit SoughtLines(const SoughtPerson &person);
 

@@ -121,5 +121,6 @@ QString PreviewBench::synchroniseSite()
         program.run(SINGLESYNC,
                     {m_site.server().socketPath(), m_site.server().databaseName(),
                      m_site.server().userName(), m_site.server().password(), iniPath()});
+    m_siteLog = program.errors().split('\n');
     return ended && program.status() == 0 ? QString() : QString::fromUtf8(program.report());
 }

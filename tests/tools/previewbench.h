@@ -55,10 +55,13 @@ public:
     /// One forced synchronisation of the site's database itself, in a process of its own. What that
     /// process printed when it failed, else empty.
     QString synchroniseSite();
+    /// The log of the last synchroniseSite() at the highest debug level, in lines such as "W text".
+    QStringList siteLog() const { return m_siteLog; }
 
 private:
     TestDatabase m_site;
     ExportFile m_export;
     QTemporaryDir m_dir;
     PreviewServer m_server;
+    QStringList m_siteLog;
 };

@@ -39,13 +39,13 @@ QString RandomSite::one(const QStringList &list)
     return list.at(number(0, list.size() - 1));
 }
 
-void RandomSite::fill(TestDatabase &db)
+void RandomSite::fill(TestDatabase &db, Programs programs)
 {
     fillPeople(db);
     fillRelations(db);
     fillAttendance(db);
     fillSettings(db);
-    if (chance(40))
+    if (chance(40) && programs == Programs::Some)
         addRoutinesAndTriggers(db);
 }
 
@@ -213,6 +213,54 @@ QString RandomSite::person()
     if (chance(5))
         return one({"0|1", "429496729|6", "x|1", "12|341"});
     return QStringLiteral("%1|%2").arg(m_firstNumber + number(9, 32)).arg(number(1, 2));
+}
+
+QByteArray RandomSite::exportOfFewPeople()
+{
+    QVector<QStringList> lines;
+    for (int people = number(4, 7); people > 0; --people) {
+        QStringList fields = lineOf(person());
+        for (int i = number(1, 4); i > 0; --i) {
+            lines.insert(chance(60) ? lines.size() : number(0, lines.size()), fields);
+            if (chance(65))
+                fields = varied(fields);
+        }
+    }
+    QByteArray content;
+    for (const QStringList &fields : qAsConst(lines))
+        content += fields.join('|').toUtf8() + '\n';
+    return content;
+}
+
+/// The same line with a few fields behind the person's numbers changed.
+QStringList RandomSite::varied(const QStringList &fields)
+{
+    const QStringList others = lineOf(fields.at(0) + '|' + fields.at(1));
+    QStringList result = fields;
+    for (int i = number(1, 3); i > 0; --i) {
+        const int field = number(2, fields.size() - 1);
+        result[field] = others.at(field);
+    }
+    return result;
+}
+
+QStringList RandomSite::lineOf(const QString &person)
+{
+    const bool isHarmless = chance(90);
+    const auto name = [this, isHarmless](const QStringList &names) {
+        return isHarmless ? one(names) : text();
+    };
+    return (QStringList{person, one({"", "Ing.", "Mgr."}), name({"Eva", "Ján"}),
+                        name({"Malá", "Nováková", "Veľký"}), name({"", "PhD."}),
+                        one({"", "0900", "555"}), date(), chance(75) ? QString() : date(),
+                        one({"0", "120", "120", "130", "130", "140", "199"}), "Sklad",
+                        one({"0", "1", "2", "3", "9"}), date(),
+                        one({"1", "2", "11", "11", "11", "51", "61"}), one({"0", "1", "1", "4"}),
+                        one({"0", "0", "1", "3", "5", "7"}),
+                        one({"0", "12.5", "17.5", "-3", "x", "30000000"}),
+                        one({"0", "1001", "1002", "1003", "9"})})
+        .join('|')
+        .split('|');
 }
 
 QString RandomSite::line()

@@ -15,12 +15,18 @@ class TestDatabase;
 /// process looks up the uid of a person only once.
 class RandomSite {
 public:
+    /// Whether a site may have routines and triggers of its own.
+    enum class Programs { Some, None };
+
     explicit RandomSite(quint32 seed);
 
     /// Fills the database, which holds the sample data, with more, and changes what is there.
-    void fill(TestDatabase &db);
+    void fill(TestDatabase &db, Programs programs = Programs::Some);
     /// Lines of an export, each with a line feed.
     QByteArray exportContent();
+    /// The same of a few people who have several lines each: equal ones, ones that differ in a few
+    /// fields, ones in which they have left, in any order. Few texts break a statement.
+    QByteArray exportOfFewPeople();
     /// Further lines of an INI file.
     QString ini();
 
@@ -39,6 +45,8 @@ private:
     QString date();
     QString person();
     QString line();
+    QStringList lineOf(const QString &person);
+    QStringList varied(const QStringList &fields);
 
     std::mt19937 m_random;
     const int m_firstNumber; ///< of people who are not of the sample

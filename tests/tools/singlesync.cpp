@@ -1,5 +1,6 @@
 // singlesync SOCKET DATABASE USER PASSWORD INI: one tick of a worker that is set up as the plugin
-// does, in a process that has seen no other. Its log goes to standard error.
+// does, in a process that has seen no other. Its log goes to standard error, at the highest debug
+// level, in lines such as "W text".
 
 #include "plugin/configuration.h"
 #include "plugin/workersetup.h"
@@ -21,7 +22,10 @@ int main(int argc, char *argv[])
     database.setDatabaseName(arguments.at(2));
     database.setUserName(arguments.at(3));
     database.setPassword(arguments.at(4));
+    qSetMessagePattern("%{if-debug}D%{endif}%{if-info}I%{endif}%{if-warning}W%{endif}"
+                       "%{if-critical}C%{endif} %{message}");
     MHRWorker worker;
+    worker.setDebugLevel(3);
     worker.setTepDb(database);
     configureWorker(worker, Configuration::read(*Configuration::open(arguments.at(5))));
     worker.init();

@@ -57,6 +57,9 @@ private Q_SLOTS:
     void otherRelationshipsAreNamed();
     void severalLinesAreToldOneByOne();
     void onlyTheFirstLinesOfOnePersonAreLookedAt();
+    void aLeaverWhoIsNotInTheExportAnyMoreIsFine_data();
+    void aLeaverWhoIsNotInTheExportAnyMoreIsFine();
+    void aForcedSynchronisationHandlesEqualLinesAgain();
     void textsLongerThanTheirColumnsAreTold();
 
     void withoutAnExportTheDatabaseIsTold_data();
@@ -183,11 +186,16 @@ void TestExplain::aPersonWhoArrivesIsFine()
              QJsonObject({{"pid", 12341},
                           {"uid", 4},
                           {"person", "updated"},
+                          {"payroll", "none"},
+                          {"payrollSettings", "none"},
                           {"balance", "equal"},
                           {"supervisor", "none"},
                           {"branch", "member"},
                           {"calendar", "kept"},
                           {"recalculation", previousMonth()},
+                          {"recalculationCauses", "moved"},
+                          {"recalculatedDays", 0},
+                          {"lastCalculation", "kept"},
                           {"waits", false}}));
     // By pid the same.
     QCOMPARE(ExplainedSite::facts(m_site.explain("12341")), ExplainedSite::facts(run));
@@ -228,9 +236,11 @@ void TestExplain::theTextForPeopleIsPlain()
                  "warning: No branch has the number 999 of the cost centre. The log says: "
                  "MHRWorker: Branch '999' NOT FOUND for employee: '3301.1 Malá Eva (S: 999, "),
              run.report().constData());
-    QVERIFY2(run.out.endsWith("Person: created\nVacation balance: none\nSupervisor: none\n"
+    QVERIFY2(run.out.endsWith("Person: created\nPayroll selection: joins\n"
+                              "Payroll settings: set\nVacation balance: none\nSupervisor: none\n"
                               "Branch: unknown\nCalendar group: none\nRecalculation from: none\n"
-                              "Waits afterwards: yes\n\n"
+                              "Recalculation because of: none\nDays of attendance to mark: 0\n"
+                              "Last calculation is set: kept\nWaits afterwards: yes\n\n"
                               "A synchronisation creates 3301.1. Not everything is as it should "
                               "be.\n"),
              run.report().constData());
@@ -253,11 +263,15 @@ void TestExplain::theSectionsComeInTheOrderOfTheDecisions_data()
         {"state", "row", "balance", "supervisor", "place", "recalculation"});
     add("known and left", left, {"state", "row", "balance", "supervisor", "recalculation"});
     add("new", SampleExport::newcomer(3302), {"state", "row", "supervisor", "place"});
-    add("new in test mode", SampleExport::newcomer(3302), {"state", "row"}, "testMode=1\n");
+    add("new in test mode", SampleExport::newcomer(3302), {"state", "row", "supervisor", "place"},
+        "testMode=1\n");
+    add("new with a calendar that has begun",
+        SampleExport::newcomer(3302).with(&ExportRow::kalendarPlatnostOd, QDate(2026, 1, 1)),
+        {"state", "row", "supervisor", "place", "recalculation"});
     add("not active in test mode", SampleExport::newcomer(1237),
         {"state", "row", "supervisor", "place"}, "testMode=1\n");
     add("new with a text that breaks the statement",
-        SampleExport::newcomer(3302).with(&ExportRow::jmeno, "E'va"), {"state", "row"});
+        SampleExport::newcomer(3302).with(&ExportRow::jmeno, "E'va"), {"state", "row", "place"});
     add("not active, with a text that breaks the statement",
         SampleExport::newcomer(1237).with(&ExportRow::jmeno, "E'va"), {"state", "row", "place"});
     add("new and left", left.with(&ExportRow::osobniCislo, 3303), {"state", "row"});
@@ -321,6 +335,15 @@ void TestExplain::sentences_data()
          "The row is updated.",
          "Attendance is calculated again from " + dayFromToday(0)
              + " on, where the relationship state begins.",
+         terminal},
+        {"UPDATE people SET lastCalc = UNIX_TIMESTAMP() WHERE uid = 4"});
+    add("a relationship state after the last calculation", jana().with(&R::evidencniStav, 21),
+        "row",
+        {"The register state 21 is a relationship state of the configuration: \"materská\".",
+         "These fields differ from the row: Relationship state from, Relationship state.",
+         "The row is updated.",
+         "The last calculation is set to the day before " + dayFromToday(0)
+             + ", where the relationship state begins.",
          terminal});
     add("no terminal", tomas(), "row",
         {notARs, "No field differs from the row.",
@@ -438,7 +461,16 @@ void TestExplain::sentences_data()
            "knows (of the start it knows nothing at first)."});
     add("a recalculation for the balance", tomas().with(&R::dovolenaZustatek, "1"), "recalculation",
         {"Yes, from " + previousMonth() + " on, because the balance is corrected."});
-    add("no recalculation", tomas(), "recalculation", {"Not for the place or the balance."});
+    add("no recalculation", tomas(), "recalculation", {"No."});
+    add("a recalculation for the calendar of somebody new",
+        newcomer(3317).with(&R::kalendarPlatnostOd, QDate(2026, 1, 1)), "recalculation",
+        {"Yes, from 2026-01-01 on, because the calendar group is planned from a day on that is "
+         "over."});
+    add("a recalculation of everything", tomas().with(&R::stredisko, 120).with(&R::kalendar, 1),
+        "recalculation",
+        {"Yes, all of it, because the calendar group is planned from a day on that is over; "
+         "calendar, its start or the cost centre are not those that the plugin knows (of the "
+         "start it knows nothing at first)."});
 
     add("who is active", jana(), "database",
         {"The database has the person as uid 4: 1234.1 Jana Nováková, active.",
@@ -531,8 +563,20 @@ void TestExplain::findings_data()
         "Test mode is on: the rows of people are not written, only what hangs on them.", {},
         "testMode=1\n");
     add("left-already", newcomer(3401).with(&R::stavPracovnihoPomeru, 4),
-        "The plugin does not find the person in the database, and who has left is never created. "
-        "It ends here.");
+        "The person has left and has no row. The plugin never creates a row for somebody who has "
+        "left.",
+        {}, {}, "note");
+    add("branch-id-large", newcomer(3404).with(&R::stredisko, 150),
+        "The id of the branch is above 65535: the person joins branch 1 instead.",
+        {"ALTER TABLE branches MODIFY bid INT UNSIGNED NOT NULL",
+         "INSERT INTO branches (bid, number, name, mgid) VALUES (65537, 150, 'x', 1)"});
+    add("branch-id-large", newcomer(3405).with(&R::stredisko, 150),
+        "The id of the branch is above 65535: the person joins no branch.",
+        {"ALTER TABLE branches MODIFY bid INT UNSIGNED NOT NULL",
+         "INSERT INTO branches (bid, number, name, mgid) VALUES (65536, 150, 'x', 1)"},
+        {}, "warning", "a branch without a number of 16 bits");
+    add("calculation-forward", jana().with(&R::evidencniStav, 21),
+        "The last calculation moves from 2025-03-31 forward to ", {}, "[MES]\n21=x\n", "note");
     add("no-payroll-export", newcomer(3402),
         "The person joins no payroll export, since there is not exactly one, but 2. The log says: "
         "MHRWorker::dbAddPerson(3402.1) - addPersonIntoPam() FAILED!",
@@ -629,8 +673,9 @@ void TestExplain::verdicts_data()
         "A synchronisation brings the row of 1237.1 up to date and makes it active.");
     add(jana(), "updated", "A synchronisation writes the row of 1234.1.");
     add(newcomer(3502).with(&R::stavPracovnihoPomeru, 4), "never-created",
-        "3502.1 has left and is not in the database: the plugin never creates the row. Not "
-        "everything is as it should be.");
+        "3502.1 has left and is not in the database: the plugin never creates the row.");
+    add(newcomer(1237).with(&R::stavPracovnihoPomeru, 4), "unchanged",
+        "A synchronisation leaves the row of 1237.1 alone.");
     add(newcomer(3503).with(&R::jmeno, "\\"), "uncertain",
         "A text in the line of 3503.1 keeps the row from being written as it should. Not "
         "everything is as it should be.");
@@ -758,20 +803,58 @@ void TestExplain::severalLinesAreToldOneByOne()
                           "row-line5", "balance-line5", "supervisor-line5", "place-line5",
                           "recalculation-line5", "memory", "summary"}));
     QCOMPARE(ExplainedSite::sentences(run, "repetition-line3"),
-             QStringList("The line is as the one before: unless the synchronisation is forced, the "
-                         "plugin does nothing more."));
-    QCOMPARE(ExplainedSite::sentences(run, "row-line5").at(1),
+             QStringList("The line is the same as the one before, so the plugin leaves the person "
+                         "alone."));
+    QCOMPARE(ExplainedSite::sentences(run, "row-line5").at(2),
              QString("These fields differ from the row: Personal number, Relationship number."));
 }
 
 void TestExplain::onlyTheFirstLinesOfOnePersonAreLookedAt()
 {
-    m_site.exportFile().write(QVector<ExportRow>(22, SampleExport::jana()));
+    m_site.exportFile().write(QVector<ExportRow>(102, SampleExport::jana()));
     const ToolRun run = m_site.explain("1234.1");
-    const QStringList sentences = ExplainedSite::sentences(run, "export");
-    QCOMPARE(sentences.size(), 21);
-    QCOMPARE(sentences.last(),
-             QString("2 lines more about the same person are not looked at here."));
+    QCOMPARE(ExplainedSite::sentences(run, "export").size(), 100);
+    QCOMPARE(run.findingsOf("lines-not-explained").first().value("message").toString(),
+             QString("2 lines more about the same person are not looked at here: the facts are "
+                     "those of the first 100 lines."));
+}
+
+void TestExplain::aLeaverWhoIsNotInTheExportAnyMoreIsFine_data()
+{
+    QTest::addColumn<QString>("person");
+    QTest::addColumn<QString>("severity");
+    QTest::newRow("works") << "1234.1"
+                           << "warning";
+    QTest::newRow("not active") << "1237.1"
+                                << "note";
+    QTest::newRow("with a last day that is over") << "1235.1"
+                                                  << "note";
+}
+
+void TestExplain::aLeaverWhoIsNotInTheExportAnyMoreIsFine()
+{
+    QFETCH(QString, person);
+    QFETCH(QString, severity);
+    m_db.run("UPDATE people SET `end` = UNIX_TIMESTAMP('2025-02-01') WHERE uid = 5");
+    m_site.exportFile().write({SampleExport::maria().text()});
+    const ToolRun run = m_site.explain(person);
+    COMPARE_EXIT(run, severity == "note" ? ExitStatus::Fine : ExitStatus::Findings);
+    QCOMPARE(run.findingsOf("not-in-export").first().value("severity").toString(), severity);
+    QCOMPARE(ExplainedSite::verdict(run), person + " is in the database, but not in the export.");
+}
+
+void TestExplain::aForcedSynchronisationHandlesEqualLinesAgain()
+{
+    m_site.exportFile().write(QVector<ExportRow>(2, SampleExport::tomas()));
+    QCOMPARE(ExplainedSite::table(m_site.explain("2001.2"), "summary", "lines", {"balance"}),
+             TableRows({{"equal"}, {"none"}}));
+    m_db.run("REPLACE INTO vars VALUES ('YAV.MHRWorker.forceSync', '1')");
+    const ToolRun run = m_site.explain("2001.2");
+    QCOMPARE(ExplainedSite::table(run, "summary", "lines", {"balance"}),
+             TableRows({{"equal"}, {"equal"}}));
+    QCOMPARE(ExplainedSite::sentences(run, "export").last(),
+             QString("The next synchronisation is a forced one: the plugin handles every line, "
+                     "changed or not."));
 }
 
 void TestExplain::textsLongerThanTheirColumnsAreTold()

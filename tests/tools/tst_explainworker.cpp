@@ -1,159 +1,11 @@
 #include "tests/sync/sampleexport.h"
 #include "tests/sync/synctest.h"
 #include "tests/tools/explainedsite.h"
-#include "worker/recorddates.h"
+#include "tests/tools/observedperson.h"
 
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QSqlDatabase>
-
-namespace {
-
-/// What happens to one person in a synchronisation, as the facts of explain have it.
-class ObservedPerson {
-public:
-    ObservedPerson(TestDatabase &database, const ExportRow &line)
-        : m_db(database)
-        , m_line(line)
-        , m_payrollId(line.osobniCislo + "." + line.poradoveCisloPP)
-        , m_pid(line.osobniCislo + line.poradoveCisloPP)
-        , m_before(look())
-    {
-    }
-
-    /// What has happened since the construction.
-    QJsonObject facts(const Trace &trace);
-
-private:
-    /// What the database says of the person.
-    struct State {
-        bool exists = false;
-        bool isKnown = false; ///< to the plugin
-        bool corrected = false;
-        QString administrators;
-        QString branches;
-        QString plan;
-    };
-
-    State look();
-    QString person(const QStringList &log) const;
-    QString balance(const QStringList &log) const;
-    QString supervisor(const QStringList &log) const;
-    QString branch(const QStringList &log) const;
-    QString calendar(const QStringList &log) const;
-    QString recalculation(const QStringList &statements) const;
-
-    QString text(const QString &select)
-    {
-        return m_db.value(select.arg("(SELECT uid FROM people WHERE pid = " + m_pid + ")"))
-            .toString();
-    }
-    static bool has(const QStringList &log, const QString &part)
-    {
-        return !log.filter(part).isEmpty();
-    }
-
-    TestDatabase &m_db;
-    const ExportRow m_line;
-    const QString m_payrollId;
-    const QString m_pid;
-    const State m_before;
-    State m_after;
-};
-
-ObservedPerson::State ObservedPerson::look()
-{
-    State state;
-    state.exists = !text("SELECT %1").isEmpty() && text("SELECT %1") != "0";
-    state.isKnown =
-        m_db.value("SELECT COUNT(*) FROM people WHERE status AND pamId = '" + m_payrollId + "'")
-            .toInt()
-        != 0;
-    state.corrected = text("SELECT COUNT(*) FROM funds_move WHERE type = 3 AND fid = 2 AND day = "
-                           "midnightFromTs(UNIX_TIMESTAMP()) AND uid = %1")
-        != "0";
-    state.administrators = text("SELECT GROUP_CONCAT(aid ORDER BY aid) FROM admins_people WHERE "
-                                "request AND uid = %1");
-    state.branches = text("SELECT GROUP_CONCAT(bid ORDER BY bid) FROM brape WHERE uid = %1");
-    state.plan = text("SELECT GROUP_CONCAT(gid, ' ', since ORDER BY since) FROM groups_plan WHERE "
-                      "uid = %1");
-    return state;
-}
-
-QJsonObject ObservedPerson::facts(const Trace &trace)
-{
-    m_after = look();
-    const bool waits = !has(trace.log, "END synchronization #1 (waiting records: 0)");
-    return {{"person", person(trace.log)},
-            {"balance", balance(trace.log)},
-            {"supervisor", supervisor(trace.log)},
-            {"branch", branch(trace.log)},
-            {"calendar", calendar(trace.log)},
-            {"recalculation", recalculation(trace.statements)},
-            {"waits", waits}};
-}
-
-QString ObservedPerson::person(const QStringList &log) const
-{
-    if (has(log, "Testing mode is active, person not really"))
-        return "test-mode";
-    if (has(log, "- SQL ERROR: "))
-        return "uncertain";
-    if (has(log, "MHRWorker::dbAddPerson(" + m_payrollId + ")"))
-        return m_before.exists ? "merged" : m_after.exists ? "created" : "lost";
-    if (has(log, "MHRWorker::dbUpdatePerson(" + m_payrollId + ")"))
-        return "updated";
-    return m_after.exists ? "unchanged" : "never-created";
-}
-
-QString ObservedPerson::balance(const QStringList &log) const
-{
-    if (has(log, "checkDovolenkaFond(): fid=0") && m_before.isKnown)
-        return "no-fund";
-    if (has(log, " not writed for uid "))
-        return "impossible";
-    if (!m_before.corrected && m_after.corrected)
-        return "corrected";
-    if (has(log, "MHRWorker::loadFundStatusAndMove3(pid: "))
-        return "equal";
-    return m_before.isKnown ? "later" : "none";
-}
-
-QString ObservedPerson::supervisor(const QStringList &log) const
-{
-    if (has(log, "MHRWorker - admin s osobnym cislom "))
-        return "unknown";
-    if (m_before.administrators != m_after.administrators)
-        return has(log, "MHRWorker::processNadOsCis(") ? "set" : "none";
-    return has(log, "MHRWorker::dbSetAdminPeopleRequest(") ? "kept" : "none";
-}
-
-QString ObservedPerson::branch(const QStringList &log) const
-{
-    if (has(log, "W MHRWorker: Branch '"))
-        return "unknown";
-    if (m_before.branches != m_after.branches)
-        return "joins";
-    return has(log, "MHRWorker::dbCheckPersonInBranch(") ? "member" : "none";
-}
-
-QString ObservedPerson::calendar(const QStringList &log) const
-{
-    if (has(log, "W MHRWorker: Group ID NOT found"))
-        return "unknown";
-    if (m_before.plan != m_after.plan)
-        return "planned";
-    return has(log, "MHRWorker::dbCheckGroupsPlan(") ? "kept" : "none";
-}
-
-QString ObservedPerson::recalculation(const QStringList &statements) const
-{
-    const QDate day = RecordDates::firstDayOfPreviousMonth(QDate::currentDate());
-    const QString reset = QStringLiteral("`date` >= %1 AND uid =").arg(RecordDates::midnight(day));
-    return has(statements, reset) ? day.toString(Qt::ISODate) : "none";
-}
-
-} // namespace
 
 /// explain, held against what the worker then does with the same export and database.
 class TestExplainWorker : public SyncTest {
@@ -165,6 +17,8 @@ private Q_SLOTS:
     void aDroppedLineDoesNothing();
     void aSecondLineIsWrittenWhenSomethingDiffers_data();
     void aSecondLineIsWrittenWhenSomethingDiffers();
+    void severalLinesAreHandledInTurn_data();
+    void severalLinesAreHandledInTurn();
 
 private:
     ToolRun explain(const QVector<ExportRow> &lines, const QByteArray &configuration = {});
@@ -300,6 +154,20 @@ void TestExplainWorker::whatIsExplainedHappens_data()
     add("somebody who comes back with a text that breaks the statement",
         newcomer(1237).with(&R::jmeno, "E'va").with(&R::nadrizenyOsobniCislo, 1002),
         "uncertain none none joins planned no");
+    add("somebody new in test mode", newcomer(3107).with(&R::nadrizenyOsobniCislo, 1002),
+        "test-mode none none none none no", {}, "testMode=1\n");
+    add("somebody new in an unknown branch in test mode", newcomer(3108).with(&R::stredisko, 999),
+        "test-mode none none unknown none yes", {}, "testMode=1\n");
+    add("somebody new with a text that breaks the statement",
+        newcomer(3109).with(&R::jmeno, "E'va").with(&R::nadrizenyOsobniCislo, 1002),
+        "uncertain none none none none no");
+    add("somebody whose payroll id stands in the row of another pid",
+        newcomer(3110).with(&R::nadrizenyOsobniCislo, 1002), "missed later none none none no",
+        {"UPDATE people SET pamId = '3110.1' WHERE uid = 4"});
+    add("somebody who has left already and is not active",
+        newcomer(1237).with(&R::stavPracovnihoPomeru, 5), "unchanged none none none none no");
+    add("a relationship state whose text breaks the statement", jana().with(&R::evidencniStav, 1),
+        "uncertain equal none member kept no", {"UPDATE people SET rsText = 'O''x' WHERE uid = 4"});
     add("somebody who comes back under another name of the row",
         newcomer(1236).with(&R::stredisko, 130), "merged none none member planned no",
         {"UPDATE people SET pamId = 'x' WHERE uid = 6"});
@@ -315,12 +183,20 @@ void TestExplainWorker::whatIsExplainedHappens()
         m_db.run(change);
     const ToolRun run = explain({line}, configuration);
 
-    ObservedPerson observed(m_db, line);
+    ObservedPerson observed(m_db, (line.osobniCislo + line.poradoveCisloPP).toUInt());
     const Trace trace = synchroniseAs(configuration);
+    observed.see(ObservedPerson::parts(trace.log).last(), false);
+    observed.finish(trace.statements);
+    QJsonObject happened = observed.facts();
+    happened.insert("waits", trace.log.filter("(waiting records: 0)").isEmpty());
     QJsonObject explained = ExplainedSite::facts(run);
-    explained.remove("pid");
-    explained.remove("uid");
-    QCOMPARE(explained, observed.facts(trace));
+    for (const char *fact : {"pid", "uid", "recalculationCauses"})
+        explained.remove(fact);
+    for (const char *fact : {"payroll", "payrollSettings"}) {
+        if (explained.value(fact) == "uncertain")
+            explained.insert(fact, happened.value(fact));
+    }
+    QCOMPARE(explained, happened);
 
     QStringList told;
     for (const char *fact : {"person", "balance", "supervisor", "branch", "calendar"})
@@ -356,7 +232,7 @@ void TestExplainWorker::aSecondLineIsWrittenWhenSomethingDiffers_data()
         line.*field = value;
         return line;
     };
-    QTest::newRow("the same") << jana << jana << "updated" << 1;
+    QTest::newRow("the same") << jana << jana << "unchanged" << 1;
     QTest::newRow("a field of the row") << jana << with(&R::telefon, "7") << "updated" << 2;
     QTest::newRow("back to the row") << with(&R::telefon, "7") << jana << "unchanged" << 1;
     QTest::newRow("the register state") << jana << with(&R::evidencniStav, "1") << "updated" << 2;
@@ -372,7 +248,7 @@ void TestExplainWorker::aSecondLineIsWrittenWhenSomethingDiffers_data()
     left.stavPracovnihoPomeru = "5";
     QTest::newRow("new and again") << eva << ExportRow(eva).with(&R::telefon, "7") << "merged" << 2;
     QTest::newRow("left and then new") << left << eva << "created" << 1;
-    QTest::newRow("new and then left") << eva << left << "never-created" << 1;
+    QTest::newRow("new and then left") << eva << left << "unchanged" << 1;
 }
 
 void TestExplainWorker::aSecondLineIsWrittenWhenSomethingDiffers()
@@ -382,11 +258,98 @@ void TestExplainWorker::aSecondLineIsWrittenWhenSomethingDiffers()
     QFETCH(QString, person);
     QFETCH(int, writes);
     const ToolRun run = explain({first, second});
-    QCOMPARE(ExplainedSite::facts(run).value("person").toString(), person);
+    QCOMPARE(ExplainedSite::table(run, "summary", "lines", {"person"}).last(), QStringList(person));
     const QStringList log = synchronise().log;
     compareWarnings(run, log);
     QCOMPARE(log.filter(QRegularExpression("^D MHRWorker::db(Add|Update)Person\\(")).size(),
              writes);
+}
+
+void TestExplainWorker::severalLinesAreHandledInTurn_data()
+{
+    QTest::addColumn<QVector<ExportRow>>("lines");
+    QTest::addColumn<QStringList>("changes"); // of the database, before
+    QTest::addColumn<QString>("fact");
+    QTest::addColumn<QString>("words"); // of the lines
+    QTest::addColumn<QString>("whole");
+
+    using R = ExportRow;
+    const auto add = [](const char *name, const QVector<ExportRow> &lines, const char *fact,
+                        const char *words, const char *whole, const QStringList &changes = {}) {
+        QTest::newRow(name) << lines << changes << QString(fact) << QString(words)
+                            << QString(whole);
+    };
+    const auto jana = [](const char *balance) {
+        return SampleExport::jana().with(&R::dovolenaZustatek, balance);
+    };
+    add("the first balance wins", {jana("18"), jana("19")}, "balance", "corrected later",
+        "corrected");
+    add("a balance after one that is right", {jana("17.5"), jana("19")}, "balance",
+        "equal corrected", "corrected");
+    add("a balance that is not looked at again",
+        {jana("17.5"), jana("17.5").with(&R::telefon, "7")}, "balance", "equal kept", "equal");
+    add("a balance that the recalculation of the first line keeps from being corrected",
+        {jana("17.5"), jana("19")}, "balance", "equal later", "later",
+        {"INSERT INTO atten (uid, `date`, ok) VALUES (4, UNIX_TIMESTAMP(CURDATE()), 1)"});
+    add("a balance that the recalculation of the first line lets be corrected",
+        {jana("19"), jana("19")}, "balance", "later corrected", "corrected",
+        {"UPDATE people SET calc = UNIX_TIMESTAMP(), lastCalc = UNIX_TIMESTAMP() WHERE uid = 4"});
+
+    const ExportRow eva = SampleExport::newcomer(3202);
+    ExportRow left = eva;
+    left.stavPracovnihoPomeru = "5";
+    const ExportRow again = ExportRow(eva).with(&R::telefon, "7");
+    add("new, left, and here again", {eva, left, again}, "person", "created unchanged merged",
+        "created");
+    add("left and then new", {left, eva}, "person", "never-created created", "created");
+    // Before the first line nobody is there whose attendance could be calculated.
+    add("new and the same again", {eva, eva, eva}, "person", "created merged unchanged", "created");
+    add("new and the same again without a vacation fund", {eva, eva}, "person", "created unchanged",
+        "created", {"DELETE FROM funds WHERE iid = 3"});
+
+    const auto jan = [](int supervisor) {
+        return SampleExport::jan().with(&R::nadrizenyOsobniCislo, supervisor);
+    };
+    add("two supervisors", {jan(1002), jan(1003)}, "supervisor", "set set", "set");
+    add("another supervisor and back", {jan(1002), jan(1001)}, "supervisor", "set set", "kept");
+    add("another calendar and back",
+        {SampleExport::jana().with(&R::kalendar, 1), SampleExport::jana()}, "calendar",
+        "planned planned", "kept");
+    add("an unknown branch twice",
+        {SampleExport::jana().with(&R::stredisko, 999),
+         SampleExport::jana().with(&R::stredisko, 999)},
+        "branch", "unknown unknown", "unknown");
+}
+
+void TestExplainWorker::severalLinesAreHandledInTurn()
+{
+    QFETCH(QVector<ExportRow>, lines);
+    QFETCH(QStringList, changes);
+    QFETCH(QString, fact);
+    QFETCH(QString, words);
+    QFETCH(QString, whole);
+    for (const QString &change : changes)
+        m_db.run(change);
+    const ToolRun run = explain(lines);
+    QStringList explained;
+    for (const QStringList &line : ExplainedSite::table(run, "summary", "lines", {fact}))
+        explained += line.first();
+    QCOMPARE(explained.join(' '), words);
+    QCOMPARE(ExplainedSite::facts(run).value(fact).toString(), whole);
+
+    ObservedPerson observed(m_db, (lines[0].osobniCislo + lines[0].poradoveCisloPP).toUInt());
+    const Trace trace = synchronise();
+    const QVector<QStringList> parts = ObservedPerson::parts(trace.log);
+    QCOMPARE(parts.size(), lines.size() + 1);
+    QStringList happened;
+    for (int i = 0; i < lines.size(); ++i) {
+        observed.see(parts.at(i + 1), i > 0 && lines.at(i).text() == lines.at(i - 1).text());
+        happened += observed.records().last().value(fact).toString();
+    }
+    observed.finish(trace.statements);
+    QCOMPARE(happened.join(' '), words);
+    QCOMPARE(observed.facts().value(fact).toString(), whole);
+    compareWarnings(run, trace.log);
 }
 
 SYNC_TEST_MAIN(TestExplainWorker)

@@ -26,7 +26,8 @@ QSet<QString> options(const QString &help)
 QSet<QString> rulesInSources()
 {
     static const QRegularExpression rule(
-        "Severity::\\w+,\\s*(?:[^,;]*\\?\\s*\"([a-z0-9-]+)\"\\s*:\\s*)?\"([a-z0-9-]+)\",");
+        "(?:Severity::\\w+,|\\bwarn\\()\\s*(?:[^,;]*\\?\\s*\"([a-z0-9-]+)\"\\s*:\\s*)?"
+        "\"([a-z0-9-]+)\",");
     QSet<QString> rules;
     const QDir folder(MIROVAHR_TOOLS_DIR);
     for (const QFileInfo &info : folder.entryInfoList({"*.cpp"})) {

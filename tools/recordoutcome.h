@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+/// From when on attendance is calculated again, and why.
+struct Recalculation {
+    std::optional<QDate> from; ///< nothing: it is not; an invalid date: all of it
+    QStringList causes; ///< state, calendar, moved, balance
+
+    /// Takes up one more cause; the earliest day counts.
+    void add(const QDate &day, const QString &cause);
+    /// "2026-03-01", "all" or "none".
+    QString text() const;
+};
+
+/// What becomes of a record, or of a person with all records of an export, in stable words for
+/// scripts.
+struct RecordOutcome {
+    QString person; ///< created, merged, updated, unchanged, never-created, missed, test-mode,
+                    ///< uncertain
+    QString payroll; ///< joins, member, none, uncertain
+    QString payrollSettings; ///< set, kept, none, uncertain
+    QString balance; ///< corrected, equal, later, impossible, kept, no-fund, none
+    QString supervisor; ///< set, kept, unknown, none, uncertain
+    QString branch; ///< joins, member, unknown, none
+    QString calendar; ///< planned, kept, unknown, none
+    Recalculation recalculation;
+    bool waits = false; ///< the record waits for its branch or calendar afterwards
+
+    /// Nothing happens.
+    static RecordOutcome none();
+    /// What the records of one person come to that one synchronisation handles in turn.
+    static RecordOutcome combined(const QVector<RecordOutcome> &outcomes);
+};
