@@ -7,11 +7,13 @@
 #include "tools/console.h"
 #include "tools/databaseaccess.h"
 #include "tools/forceflag.h"
+#include "tools/midnights.h"
 #include "tools/personexplanation.h"
 #include "tools/pluginview.h"
 #include "tools/report.h"
 #include "tools/soughtlines.h"
 #include "tools/soughtperson.h"
+#include "tools/sqlsession.h"
 #include "worker/importfile.h"
 
 #include <QFile>
@@ -64,7 +66,12 @@ ExitStatus ExplainRun::run()
         return *end;
     QString error;
     const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
-    return database ? explain(database->handle()) : fail(ExitStatus::NoDatabase, error);
+    if (!database)
+        return fail(ExitStatus::NoDatabase, error);
+    SqlSession site(database->handle());
+    const QString disagreement = Midnights::disagreement(site);
+    return disagreement.isEmpty() ? explain(database->handle())
+                                  : fail(ExitStatus::Usage, disagreement);
 }
 
 std::optional<ExitStatus> ExplainRun::prepare()

@@ -1,5 +1,6 @@
 #include "tools/midnights.h"
 
+#include "tools/sqlsession.h"
 #include "worker/recorddates.h"
 
 #include <QDateTime>
@@ -49,4 +50,15 @@ QDate Midnights::differing(const QVector<QDate> &days, const QVariantList &midni
             return days.at(i);
     }
     return QDate();
+}
+
+QString Midnights::disagreement(SqlSession &server)
+{
+    const QVector<QDate> days = daysToCompare(QDate::currentDate());
+    const QStringList texts = server.row(query(days));
+    if (!differing(days, QVariantList(texts.cbegin(), texts.cend())).isValid())
+        return {};
+    return QStringLiteral("The site's server (time zone %1) and this program disagree about when "
+                          "days begin. Run it with the TZ of the attendance server")
+        .arg(server.value(QStringLiteral("SELECT @@SESSION.time_zone")));
 }

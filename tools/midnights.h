@@ -5,6 +5,8 @@
 #include <QVariant>
 #include <QVector>
 
+class SqlSession;
+
 /// When days begin, for a server and for this program: they must mean the same.
 namespace Midnights {
 
@@ -17,5 +19,9 @@ QString query(const QVector<QDate> &days);
 /// The first of these days that begins at another moment for this program than for the server,
 /// whose answer to the query is \a midnights. Invalid when there is none.
 QDate differing(const QVector<QDate> &days, const QVariantList &midnights);
+
+/// Why nothing that this program computes holds for the server, whose session is in its own time
+/// zone: a sentence without its full stop. Empty when both agree, and when the query fails.
+QString disagreement(SqlSession &server);
 
 } // namespace Midnights

@@ -70,7 +70,6 @@ struct PreviewSchema {
     QStringList serverOptions; ///< as mariadbd takes them
     QString serverVersion;
     QString timeZone; ///< of its sessions
-    QStringList midnights; ///< the answer to Midnights::query()
 
     qint64 rowEstimate() const;
 };

@@ -1,7 +1,6 @@
 #include "tools/previewschemareader.h"
 
 #include "db/tepdbcontract.h"
-#include "tools/midnights.h"
 #include "tools/pluginrights.h"
 #include "tools/sqlsession.h"
 
@@ -125,8 +124,6 @@ void PreviewSchemaReader::readServer()
     const QStringList server = m_site.row(QLatin1String(kServer));
     m_schema.serverVersion = server.value(0);
     m_schema.timeZone = server.value(1);
-    m_schema.midnights =
-        m_site.row(Midnights::query(Midnights::daysToCompare(QDate::currentDate())));
 }
 
 void PreviewSchemaReader::readDatabase()

@@ -73,6 +73,9 @@ std::optional<PreviewRefusal> PreviewWork::copy(const DatabaseOptions &options)
 
 std::optional<PreviewRefusal> PreviewWork::copyFrom(SqlSession &site)
 {
+    const QString disagreement = Midnights::disagreement(site);
+    if (!disagreement.isEmpty())
+        return PreviewRefusal{ExitStatus::Usage, disagreement};
     PreviewSchemaReader reader(site);
     if (auto refused = reader.read())
         return refused;
@@ -91,22 +94,9 @@ std::optional<PreviewRefusal> PreviewWork::startServer()
 {
     if (!m_server.start(m_schema))
         return refusal(m_server.errorText());
-    return compareServers();
-}
-
-std::optional<PreviewRefusal> PreviewWork::compareServers()
-{
     SqlSession copy(m_server.administrator());
-    copy.run(QStringLiteral("SET SESSION time_zone = DEFAULT"));
     m_copyVersion = copy.value(QStringLiteral("SELECT VERSION()"));
-    const auto days = Midnights::daysToCompare(QDate::currentDate());
-    if (copy.row(Midnights::query(days)) == m_schema.midnights)
-        return std::nullopt;
-    return PreviewRefusal{
-        ExitStatus::Usage,
-        QStringLiteral("The site's server (time zone %1) and this program disagree about when days "
-                       "begin. Run it with the TZ of the attendance server")
-            .arg(m_schema.timeZone)};
+    return std::nullopt;
 }
 
 std::optional<PreviewRefusal> PreviewWork::synchronise(const Configuration &configuration,

@@ -47,7 +47,6 @@ public:
 private:
     std::optional<PreviewRefusal> copyFrom(SqlSession &site);
     std::optional<PreviewRefusal> startServer();
-    std::optional<PreviewRefusal> compareServers();
     std::optional<PreviewRefusal> compare();
     void take(QtMsgType type, const QString &text, QIODevice *log);
 

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void aDatabaseIsNeeded();
     void thePageIsNotWrittenOverTheExport();
     void aServerThatIsNotThereIsNoDatabase();
+    void aServerInAnotherTimeZoneIsRefused();
     void aDatabaseWithoutATableBreaksTheContract_data();
     void aDatabaseWithoutATableBreaksTheContract();
 
@@ -1093,6 +1094,18 @@ void TestExplain::aServerThatIsNotThereIsNoDatabase()
     COMPARE_EXIT(run, ExitStatus::NoDatabase);
     QVERIFY2(run.err.startsWith("mirovahrctl: explain: The database cannot be opened: "),
              run.report().constData());
+}
+
+void TestExplain::aServerInAnotherTimeZoneIsRefused()
+{
+    m_db.run("SET GLOBAL time_zone = '-11:30'");
+    const ToolRun run = explain(SampleExport::jana());
+    m_db.run("SET GLOBAL time_zone = DEFAULT");
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err,
+             QString("mirovahrctl: explain: The site's server (time zone -11:30) and this program "
+                     "disagree about when days begin. Run it with the TZ of the attendance "
+                     "server.\n"));
 }
 
 void TestExplain::aDatabaseWithoutATableBreaksTheContract_data()

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void theCopyIsGoneAfterASignal();
     void aSynchronisationThatDoesNotTakePlaceIsNoResult();
     void aServerProgramThatIsNotInstalledIsNamed();
+    void anOffsetOfTheSiteThatTheProgramDoesNotHaveIsRefused();
     void whatCannotBeUsedIsRefusedAtOnce_data();
     void whatCannotBeUsedIsRefusedAtOnce();
     void progressIsShownOnATerminal();
@@ -239,6 +240,20 @@ void TestPreview::aServerProgramThatIsNotInstalledIsNamed()
     QVERIFY2(preview.errors().endsWith("is missing: install the package mariadb-server-core.\n"),
              preview.report().constData());
     QCOMPARE(preview.output(), QString());
+}
+
+/// The server of the copy takes over a zone that is an offset, so that it agrees with the site's.
+void TestPreview::anOffsetOfTheSiteThatTheProgramDoesNotHaveIsRefused()
+{
+    m_bench.site().run("SET GLOBAL time_zone = '-11:30'");
+    ProgramRun preview;
+    run(preview);
+    m_bench.site().run("SET GLOBAL time_zone = DEFAULT");
+    COMPARE_STATUS(preview, 2);
+    QCOMPARE(preview.errors(),
+             QString("mirovahrctl: preview: The site's server (time zone -11:30) and this program "
+                     "disagree about when days begin. Run it with the TZ of the attendance "
+                     "server.\n"));
 }
 
 void TestPreview::whatCannotBeUsedIsRefusedAtOnce_data()
