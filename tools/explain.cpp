@@ -8,15 +8,15 @@
 #include "tools/databaseaccess.h"
 #include "tools/forceflag.h"
 #include "tools/midnights.h"
+#include "tools/peoplelist.h"
+#include "tools/peoplesearch.h"
 #include "tools/personexplanation.h"
 #include "tools/pluginview.h"
 #include "tools/report.h"
 #include "tools/soughtlines.h"
 #include "tools/soughtperson.h"
 #include "tools/sqlsession.h"
-#include "worker/importfile.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -26,7 +26,9 @@ constexpr char kDescription[] =
     "Tells why a person did not arrive, or arrived so: what the plugin makes of the\n"
     "person's line in the export, what the database holds, and what each step of a\n"
     "synchronisation does with the two, in the order in which the plugin decides.\n"
-    "PERSON is a payroll id such as 1234.1, or a pid such as 12341. Changes nothing.";
+    "PERSON is a payroll id such as 1234.1, a personal number, a pid, or a name in any\n"
+    "spelling, such as novakova; when that may be several people, they are listed.\n"
+    "Changes nothing.";
 
 class ExplainRun {
 public:
@@ -41,17 +43,22 @@ public:
 
 private:
     std::optional<ExitStatus> prepare();
+    std::optional<ExitStatus> readPerson();
     std::optional<ExitStatus> readConfiguration();
-    std::optional<ExitStatus> findExport();
+    std::optional<ExitStatus> openExport();
+    ExitStatus answer(const QSqlDatabase &site);
+    std::optional<ExitStatus> search(const QSqlDatabase &site);
     ExitStatus explain(const QSqlDatabase &site);
     std::optional<ExitStatus> readExport(const QSqlDatabase &site);
-    ExitStatus failMissing();
+    bool hasExport() const { return m_source.file.source() != ExplainedExport::Source::None; }
+    ExitStatus failExport(const QString &error);
     ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
     Console &m_console;
     Report m_report;
     std::optional<SoughtPerson> m_person;
+    std::optional<PeopleSearch> m_search; ///< when there is no person yet
     ExplainedSource m_source;
     Configuration m_configuration;
     std::optional<SoughtLines> m_lines;
@@ -70,22 +77,31 @@ ExitStatus ExplainRun::run()
         return fail(ExitStatus::NoDatabase, error);
     SqlSession site(database->handle());
     const QString disagreement = Midnights::disagreement(site);
-    return disagreement.isEmpty() ? explain(database->handle())
+    return disagreement.isEmpty() ? answer(database->handle())
                                   : fail(ExitStatus::Usage, disagreement);
 }
 
 std::optional<ExitStatus> ExplainRun::prepare()
 {
-    m_person = SoughtPerson::parse(m_line.argument(0));
-    if (!m_person) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("'%1' is neither a payroll id such as 1234.1 nor a pid such as "
-                                   "12341")
-                        .arg(m_line.argument(0)));
-    }
+    if (const auto end = readPerson())
+        return end;
     if (const auto end = readConfiguration())
         return end;
-    return findExport();
+    return openExport();
+}
+
+std::optional<ExitStatus> ExplainRun::readPerson()
+{
+    const QString text = m_line.argument(0);
+    m_person = SoughtPerson::parse(text);
+    if (!m_person)
+        m_search = PeopleSearch::parse(text);
+    if (m_person || m_search)
+        return std::nullopt;
+    return fail(ExitStatus::Usage,
+                QStringLiteral("'%1' is neither a payroll id such as 1234.1, nor a number, nor a "
+                               "name")
+                    .arg(text));
 }
 
 std::optional<ExitStatus> ExplainRun::readConfiguration()
@@ -103,15 +119,12 @@ std::optional<ExitStatus> ExplainRun::readConfiguration()
     return std::nullopt;
 }
 
-std::optional<ExitStatus> ExplainRun::findExport()
+std::optional<ExitStatus> ExplainRun::openExport()
 {
-    const QString named = m_line.argument(1);
-    m_source.exportPath = named.isEmpty() ? ImportFile::path(m_configuration.importFile) : named;
-    const QFileInfo info(m_source.exportPath);
-    if (!named.isEmpty() && !info.isFile())
-        return failMissing();
-    // Two files that are not there count as the same.
-    if (info.exists() && QFileInfo(m_line.pagePath()) == info) {
+    ExplainedExport &file = m_source.file;
+    if (!file.open(m_line.argument(1), m_line.value("gate-folder"), m_configuration))
+        return fail(ExitStatus::Usage, file.errorString());
+    if (hasExport() && QFileInfo(m_line.pagePath()) == QFileInfo(file.path())) {
         return fail(ExitStatus::Usage,
                     QStringLiteral("The result would be written over the export; name another "
                                    "file"));
@@ -119,10 +132,42 @@ std::optional<ExitStatus> ExplainRun::findExport()
     return std::nullopt;
 }
 
-ExitStatus ExplainRun::explain(const QSqlDatabase &site)
+ExitStatus ExplainRun::answer(const QSqlDatabase &site)
 {
+    if (m_search) {
+        if (const auto end = search(site))
+            return *end;
+    }
     if (const auto end = readExport(site))
         return *end;
+    return explain(site);
+}
+
+/// Finds the person; ends with a list unless it is exactly one.
+std::optional<ExitStatus> ExplainRun::search(const QSqlDatabase &site)
+{
+    SqlSession sql(site);
+    if (hasExport() && !m_search->searchExport(m_source.file.file(), m_console))
+        return failExport(m_search->errorString());
+    m_search->searchDatabase(sql);
+    if (sql.failed()) {
+        return fail(ExitStatus::ContractBroken,
+                    QStringLiteral("The database cannot be used: %1").arg(sql.errorText()));
+    }
+    const QVector<FoundPerson> people = m_search->people();
+    if (people.size() == 1)
+        m_person = people.first().person();
+    if (m_person)
+        return std::nullopt;
+    if (const auto end = m_report.open())
+        return end;
+    m_report.begin(m_line.subcommand(), QStringLiteral("Who is %1?").arg(m_search->text()));
+    const QString verdict = listPeople(*m_search, m_report);
+    return m_report.conclude(m_report.findingsStatus(), verdict);
+}
+
+ExitStatus ExplainRun::explain(const QSqlDatabase &site)
+{
     PluginView view;
     const auto failView = [&] {
         return fail(view.isConnected() ? ExitStatus::ContractBroken : ExitStatus::NoDatabase,
@@ -149,33 +194,23 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
 
 std::optional<ExitStatus> ExplainRun::readExport(const QSqlDatabase &site)
 {
-    QFile file;
+    if (!hasExport())
+        return std::nullopt;
     QString error;
-    switch (ImportFile::open(m_source.exportPath, file, error)) {
-    case ImportFile::Opening::Done:
-        break;
-    case ImportFile::Opening::NotFound:
-        return m_line.argument(1).isEmpty() ? std::nullopt : std::make_optional(failMissing());
-    case ImportFile::Opening::Failed:
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("'%1' cannot be opened: %2").arg(m_source.exportPath, error));
-    }
     const TextWidths widths = readTextWidths(site, error);
     if (widths.isEmpty())
         return fail(ExitStatus::ContractBroken, error);
     m_lines.emplace(*m_person);
-    if (m_lines->find(file, widths, m_console))
+    if (m_lines->find(m_source.file.file(), widths, m_console))
         return std::nullopt;
-    return fail(ExitStatus::Usage,
-                QStringLiteral("'%1' cannot be read to its end: %2")
-                    .arg(m_source.exportPath, m_lines->errorString()));
+    return failExport(m_lines->errorString());
 }
 
-/// There is no such export, though the command line names it.
-ExitStatus ExplainRun::failMissing()
+ExitStatus ExplainRun::failExport(const QString &error)
 {
-    return fail(ExitStatus::Usage,
-                QStringLiteral("There is no file '%1'").arg(m_source.exportPath));
+    return fail(
+        ExitStatus::Usage,
+        QStringLiteral("'%1' cannot be read to its end: %2").arg(m_source.file.path(), error));
 }
 
 ExitStatus ExplainRun::fail(ExitStatus status, const QString &sentence)
@@ -188,8 +223,11 @@ ExitStatus ExplainRun::fail(ExitStatus status, const QString &sentence)
 ExitStatus runExplain(const QStringList &arguments, Console &console)
 {
     CommandLine line("explain", kDescription);
-    line.addArgument("person", "A payroll id such as 1234.1, or a pid such as 12341.");
+    line.addArgument("person", "A payroll id such as 1234.1, a personal number, a pid, or a name.");
     line.addOptionalArgument("file", "The export; importFile of the INI file when left out.");
+    line.addOption("gate-folder", "folder",
+                   "The gate's own folder, whose last admitted file is the export when importFile "
+                   "is gone; that of the gate in syncCommand when left out.");
     line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini when left out.");
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();

@@ -14,6 +14,11 @@ QString copyName(const QDateTime &time)
 
 } // namespace
 
+QString GateCopies::lastAdmitted()
+{
+    return QStringLiteral("admitted.data");
+}
+
 bool GateCopies::add(const QString &fileName, const QDateTime &time)
 {
     // Two files within a second: the name after the last one keeps their order.

@@ -14,6 +14,9 @@ public:
     {
     }
 
+    /// The name of the last admitted file in the gate's folder.
+    static QString lastAdmitted();
+
     /// Gives an admitted file, which is never written to again, a second name. Both return false
     /// when that is not possible; the folder then says why.
     bool add(const QString &fileName, const QDateTime &time);

@@ -3,8 +3,10 @@
 #include "tools/commandline.h"
 #include "tools/console.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 
 namespace {
 
@@ -105,6 +107,17 @@ void addLimits(CommandLine &line)
                    "The same in percent of the people who work; 10.");
 }
 
+/// The arguments of the gate in the words of a command line; nothing when they run no gate.
+std::optional<QStringList> gateArguments(const QStringList &words)
+{
+    for (int i = 0; i + 1 < words.size(); ++i) {
+        if (QFileInfo(words.at(i)).fileName() == QLatin1String("mirovahrctl")
+            && words.at(i + 1) == QLatin1String("gate"))
+            return words.mid(i + 2);
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 void GateOptions::addTo(CommandLine &line)
@@ -143,4 +156,28 @@ std::optional<ExitStatus> GateOptions::read(const CommandLine &line, Console &co
     if (complaint.isEmpty())
         return std::nullopt;
     return console.fail(ExitStatus::Usage, complaint);
+}
+
+std::optional<GateOptions> GateOptions::ofCommand(const QString &command)
+{
+    const auto arguments = gateArguments(QProcess::splitCommand(command));
+    if (!arguments)
+        return std::nullopt;
+    QBuffer out;
+    QBuffer err;
+    out.open(QIODevice::WriteOnly);
+    err.open(QIODevice::WriteOnly);
+    Console nobody(out, err, false);
+    CommandLine line("gate", "");
+    addTo(line);
+    line.addReportOptions(CommandLine::Page::NotOffered);
+    GateOptions options;
+    if (line.parse(*arguments, nobody) || options.read(line, nobody))
+        return std::nullopt;
+    return options;
+}
+
+bool GateOptions::publishesTo(const QString &path) const
+{
+    return isSame(to, path);
 }

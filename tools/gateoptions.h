@@ -27,4 +27,11 @@ struct GateOptions {
     /// Reads them from a command line that was parsed. Has a status when the subcommand must end
     /// with it: they make no sense, which was said on the console.
     std::optional<ExitStatus> read(const CommandLine &line, Console &console);
+
+    /// The options of the gate that a command line such as `syncCommand` runs, also by way of
+    /// another program such as sudo. Nothing when it runs no gate, or one that refuses its options.
+    static std::optional<GateOptions> ofCommand(const QString &command);
+
+    /// Whether the gate publishes to this path.
+    bool publishesTo(const QString &path) const;
 };

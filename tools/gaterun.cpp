@@ -14,12 +14,6 @@
 
 namespace {
 
-/// The last admitted file, in the gate's folder.
-QString lastAdmitted()
-{
-    return QStringLiteral("admitted.data");
-}
-
 constexpr mode_t kForOwner = 0600;
 constexpr mode_t kForGroup = 0640;
 
@@ -45,7 +39,7 @@ GateRun::GateRun(const CommandLine &line, const GateOptions &options, Console &c
     , m_console(console)
     , m_publication(options.to)
     , m_source(options.from)
-    , m_copy(m_folder, lastAdmitted(), kForOwner)
+    , m_copy(m_folder, GateCopies::lastAdmitted(), kForOwner)
     , m_rejects(m_rejectsFolder, QFileInfo(options.rejects).fileName(), kForGroup)
     , m_examination(m_folder, console)
 {
@@ -68,7 +62,7 @@ std::optional<ExitStatus> GateRun::openFolders()
         return fail(m_folder.errorString());
     if (const auto end = lock())
         return end;
-    if (!m_folder.removeLeftovers(lastAdmitted())
+    if (!m_folder.removeLeftovers(GateCopies::lastAdmitted())
         || !m_folder.removeLeftovers(GateRecord::fileName()) || !m_record.readLast(m_folder))
         return fail(m_folder.errorString());
     const QFileInfo rejects(m_options.rejects);
@@ -135,7 +129,7 @@ std::optional<ExitStatus> GateRun::examine()
     if (!m_rejects.create())
         return fail(m_rejects.errorString());
     rejects.begin();
-    if (!m_examination.run(m_copy.temporaryName(), lastAdmitted(), rejects))
+    if (!m_examination.run(m_copy.temporaryName(), GateCopies::lastAdmitted(), rejects))
         return fail(m_examination.errorString());
     rejects.end();
     if (!m_rejects.finish() || !m_rejects.putInPlace())

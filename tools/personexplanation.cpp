@@ -84,10 +84,12 @@ QString PersonExplanation::explain(const SoughtLines *lines)
 {
     m_hasExport = lines != nullptr;
     explainConfiguration();
+    m_context.report.section(QStringLiteral("export"), QStringLiteral("Export"));
+    if (m_source.file.source() != ExplainedExport::Source::Named
+        && m_source.file.source() != ExplainedExport::Source::ImportFile)
+        explainAbsentExport();
     if (lines)
         explainExport(*lines);
-    else
-        explainAbsentExport();
     if (m_source.isForced) {
         m_context.report.sentence(QStringLiteral("The next synchronisation is a forced one: the "
                                                  "plugin handles every line, changed or not."));
@@ -131,19 +133,43 @@ void PersonExplanation::explainConfiguration()
 
 void PersonExplanation::explainAbsentExport()
 {
-    m_context.report.section(QStringLiteral("export"), QStringLiteral("Export"));
-    m_context.report.sentence(
-        QStringLiteral("There is no export %1%2. What follows is from the database only.")
-            .arg(m_source.exportPath,
-                 m_context.configuration.deleteFile
-                     ? QStringLiteral(": the plugin removes it after it has read it")
-                     : QString()));
+    const ExplainedExport &file = m_source.file;
+    m_context.report.sentence(QStringLiteral("There is no export %1%2.")
+                                  .arg(file.importFile(),
+                                       m_context.configuration.deleteFile
+                                           ? QStringLiteral(": the plugin removes it after it has "
+                                                            "read it")
+                                           : QString()));
+    if (file.source() == ExplainedExport::Source::Gate) {
+        explainGate();
+        return;
+    }
+    if (!file.gateError().isEmpty())
+        m_context.report.sentence(file.gateError() + QLatin1Char('.'));
+    m_context.report.sentence(QStringLiteral("What follows is from the database only."));
+}
+
+void PersonExplanation::explainGate()
+{
+    Report &report = m_context.report;
+    const ExplainedExport &file = m_source.file;
+    const auto &status = file.gateStatus();
+    const auto admitted = status ? status->admittedTime : std::nullopt;
+    report.sentence(
+        QStringLiteral("What follows is from the file that the gate%1 admitted last%2.")
+            .arg(file.isGateOfCommand() ? QStringLiteral(" of syncCommand") : QString(),
+                 admitted ? QStringLiteral(", on ") + ExplainText::day(*admitted) : QString()));
+    if (status && status->refused) {
+        ExplainText::tell(report, Severity::Warning, "gate-refused",
+                          QStringLiteral("The gate has refused a file since then: %1.")
+                              .arg(status->reasons.join(QStringLiteral("; "))),
+                          QStringLiteral("See whether the person stands otherwise in that file."));
+    }
 }
 
 void PersonExplanation::explainExport(const SoughtLines &lines)
 {
     Report &report = m_context.report;
-    report.section(QStringLiteral("export"), QStringLiteral("Export"));
     if (m_context.configuration.syncCommandRun >= 1
         && !m_context.configuration.syncCommand.isEmpty()) {
         report.sentence(QStringLiteral("The plugin runs its export command first, and may then "
@@ -171,7 +197,7 @@ void PersonExplanation::explainNotFound(const SoughtLines &lines)
     ExplainText::tell(m_context.report, hasLeft ? Severity::Note : Severity::Warning,
                       "not-in-export",
                       QStringLiteral("None of the %1 of %2 is about %3.")
-                          .arg(lineCount(lines.count()), m_source.exportPath, m_person.name()),
+                          .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()),
                       hasLeft ? QStringLiteral("Nothing is wrong, unless the person still works: "
                                                "in the database the person has left.")
                               : QStringLiteral("Ask HR why the export does not name the person."));
@@ -197,11 +223,11 @@ void PersonExplanation::explainLine(const CheckedLine &line)
     Report &report = m_context.report;
     report.sentence(line.record
                         ? QStringLiteral("Line %1 of %2 is about %3, pid %4.")
-                              .arg(QString::number(line.number), m_source.exportPath,
+                              .arg(QString::number(line.number), m_source.file.path(),
                                    personName(*line.record), QString::number(line.record->getPid()))
                         : QStringLiteral("Line %1 of %2 is about the person, but the "
                                          "plugin drops it.")
-                              .arg(QString::number(line.number), m_source.exportPath));
+                              .arg(QString::number(line.number), m_source.file.path()));
     for (const Finding &finding : line.findings)
         report.finding(finding);
 }
@@ -278,6 +304,8 @@ void PersonExplanation::writeFacts()
             table.rows += lineRow(m_lineNumbers.at(i), m_outcomes.at(i));
         report.table(table);
     }
+    report.fact(QStringLiteral("exportSource"), QStringLiteral("Export is"),
+                m_source.file.sourceWord());
     report.fact(QStringLiteral("pid"), QStringLiteral("pid"), m_context.person.pid());
     if (m_context.person.row())
         report.fact(QStringLiteral("uid"), QStringLiteral("uid"), m_context.person.uid());

@@ -1,23 +1,25 @@
 #pragma once
 
 #include "tools/explaincontext.h"
+#include "tools/explainedexport.h"
 #include "tools/recordexplanation.h"
 #include "tools/soughtlines.h"
 #include "tools/soughtperson.h"
 
 #include <QString>
 
-/// Where the explanation of a person comes from.
+/// Where the explanation of a person comes from, apart from the database.
 struct ExplainedSource {
     QString configurationPath;
     bool hasConfiguration = false; ///< there is such a file
-    QString exportPath;
+    ExplainedExport file; ///< the export
     bool isForced = false; ///< the next synchronisation is a forced one
 };
 
 /// Why a person did not arrive, or arrived so: the whole report but for its frame.
 class PersonExplanation {
 public:
+    /// \a source must live longer than this object.
     PersonExplanation(const SoughtPerson &person, const ExplainedSource &source,
                       const Configuration &configuration, PluginView &view, Report &report);
 
@@ -28,6 +30,7 @@ public:
 private:
     void explainConfiguration();
     void explainAbsentExport();
+    void explainGate();
     void explainExport(const SoughtLines &lines);
     void explainNotFound(const SoughtLines &lines);
     void explainOthers(const SoughtLines &lines);
@@ -42,7 +45,7 @@ private:
     QString verdictWithoutRecord() const;
 
     const SoughtPerson m_person;
-    const ExplainedSource m_source;
+    const ExplainedSource &m_source;
     ExplainContext m_context;
     bool m_hasExport = false;
     bool m_isFound = false; ///< in the export, dropped or not

@@ -3,44 +3,49 @@
 #include "worker/exportline.h"
 #include "worker/mirovaronrecord.h"
 
-#include <QStringList>
+#include <QRegularExpression>
 
 std::optional<SoughtPerson> SoughtPerson::parse(const QString &text)
 {
-    if (text.contains(QLatin1Char('.')))
-        return parsePayrollId(text);
-    SoughtPerson person;
-    person.m_pid = ExportLine::toNumber(text);
-    return person.m_pid == 0 ? std::nullopt : std::make_optional(person);
+    static const QRegularExpression form(QStringLiteral("\\A(?:pid ?(\\d+)|(\\d+)\\.(\\d+))\\z"));
+    const QRegularExpressionMatch match = form.match(text);
+    const quint32 pid = ExportLine::toNumber(match.capturedView(1));
+    const quint32 osobniCislo = ExportLine::toNumber(match.capturedView(2));
+    const quint32 poradoveCisloPP = ExportLine::toNumber(match.capturedView(3));
+    if (pid != 0)
+        return ofPid(pid);
+    if (osobniCislo != 0 && poradoveCisloPP != 0)
+        return ofPayrollId(osobniCislo, poradoveCisloPP);
+    return std::nullopt;
 }
 
-std::optional<SoughtPerson> SoughtPerson::parsePayrollId(const QString &text)
+SoughtPerson SoughtPerson::ofPayrollId(quint32 osobniCislo, quint32 poradoveCisloPP)
 {
-    const QStringList parts = text.split(QLatin1Char('.'));
-    SoughtPerson person;
-    person.m_isPayrollId = true;
-    person.m_osobniCislo = ExportLine::toNumber(parts.value(0));
-    person.m_poradoveCisloPP = ExportLine::toNumber(parts.value(1));
-    if (parts.size() != 2 || person.m_osobniCislo == 0 || person.m_poradoveCisloPP == 0)
-        return std::nullopt;
     MirovaRonRecord record;
-    record.osobniCislo = person.m_osobniCislo;
-    record.poradoveCisloPP = person.m_poradoveCisloPP;
+    record.osobniCislo = osobniCislo;
+    record.poradoveCisloPP = poradoveCisloPP;
+    SoughtPerson person;
+    person.m_osobniCislo = osobniCislo;
+    person.m_poradoveCisloPP = poradoveCisloPP;
     person.m_pid = record.getPid();
+    return person;
+}
+
+SoughtPerson SoughtPerson::ofPid(quint32 pid)
+{
+    SoughtPerson person;
+    person.m_pid = pid;
     return person;
 }
 
 QString SoughtPerson::name() const
 {
-    return m_isPayrollId ? QStringLiteral("%1.%2").arg(m_osobniCislo).arg(m_poradoveCisloPP)
-                         : QStringLiteral("pid %1").arg(m_pid);
+    return m_osobniCislo != 0 ? QStringLiteral("%1.%2").arg(m_osobniCislo).arg(m_poradoveCisloPP)
+                              : QStringLiteral("pid %1").arg(m_pid);
 }
 
 bool SoughtPerson::matches(const MirovaRonRecord &record) const
 {
-    if (m_isPayrollId && record.osobniCislo == m_osobniCislo
-        && record.poradoveCisloPP == m_poradoveCisloPP)
-        return true;
-    // With pid 0 there are many, who have nothing else in common.
-    return m_pid != 0 && record.getPid() == m_pid;
+    // Also with the pid 0, which many can have: the plugin takes all of them for one person.
+    return record.getPid() == m_pid;
 }

@@ -190,7 +190,7 @@ void TestExplainWorker::whatIsExplainedHappens()
     QJsonObject happened = observed.facts();
     happened.insert("waits", trace.log.filter("(waiting records: 0)").isEmpty());
     QJsonObject explained = ExplainedSite::facts(run);
-    for (const char *fact : {"pid", "uid", "recalculationCauses"})
+    for (const char *fact : {"pid", "uid", "exportSource", "recalculationCauses"})
         explained.remove(fact);
     for (const char *fact : {"payroll", "payrollSettings"}) {
         if (explained.value(fact) == "uncertain")
@@ -212,7 +212,8 @@ void TestExplainWorker::aDroppedLineDoesNothing()
     const ExportRow line =
         SampleExport::jana().with(&ExportRow::jmeno, "").with(&ExportRow::prijmeni, "");
     const ToolRun run = explain({line});
-    QCOMPARE(ExplainedSite::facts(run), QJsonObject({{"pid", 12341}, {"uid", 4}}));
+    QCOMPARE(ExplainedSite::facts(run),
+             QJsonObject({{"exportSource", "importFile"}, {"pid", 12341}, {"uid", 4}}));
     const DatabaseState before = m_db.dumpAll();
     synchronise();
     QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());

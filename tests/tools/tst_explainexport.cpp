@@ -1,0 +1,208 @@
+#include "tests/sync/sampleexport.h"
+#include "tests/tools/explainedsite.h"
+#include "tests/tools/gatesite.h"
+#include "tools/gateoptions.h"
+
+#include <QtTest>
+
+/// Which export explain looks at when the plugin has removed its own.
+class TestExplainExport : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void theGateOfACommandIsFound_data();
+    void theGateOfACommandIsFound();
+    void theLastAdmittedFileIsUsedWhenThePluginHasRemovedItsOwn_data();
+    void theLastAdmittedFileIsUsedWhenThePluginHasRemovedItsOwn();
+    void aGateThatIsOfNoUseIsSaid_data();
+    void aGateThatIsOfNoUseIsSaid();
+    void theExportThatIsThereComesFirst();
+    void aRefusalOfTheGateIsSaid();
+    void aGateThatHasAdmittedNothingIsNoExport();
+    void namesAreSearchedInTheAdmittedFile();
+
+private:
+    QByteArray command(const QString &more = {}) const;
+    void configure(const QByteArray &command);
+
+    TestDatabase m_db;
+    ExplainedSite m_site{m_db};
+    std::unique_ptr<GateSite> m_gate;
+};
+
+void TestExplainExport::initTestCase()
+{
+    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+    m_site.unlockAccount();
+}
+
+void TestExplainExport::init()
+{
+    m_gate = std::make_unique<GateSite>();
+    m_gate->admit({SampleExport::jana().with(&ExportRow::prijmeni, "Malá")});
+}
+
+QByteArray TestExplainExport::command(const QString &more) const
+{
+    return QStringLiteral("/usr/bin/mirovahrctl gate --from %1 --to %2 --state %3 %4")
+        .arg(m_gate->hrFile(), m_gate->target(), m_gate->state(), more)
+        .toUtf8();
+}
+
+void TestExplainExport::configure(const QByteArray &command)
+{
+    QFile file(m_site.configurationPath());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("importFile=\"" + m_gate->target().toUtf8() + "\"\nsyncCommand=\"" + command
+               + "\"\nsyncCommandRun=2\n");
+}
+
+void TestExplainExport::theGateOfACommandIsFound_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("folder"); // empty: no gate
+    QTest::newRow("none") << ""
+                          << "";
+    QTest::newRow("another program") << "/usr/bin/export --to /hr/ron.data"
+                                     << "";
+    QTest::newRow("another subcommand") << "mirovahrctl status"
+                                        << "";
+    QTest::newRow("the program alone") << "mirovahrctl"
+                                       << "";
+    QTest::newRow("with a folder") << "mirovahrctl gate --from /hr/a --to /hr/b --state /var/gate"
+                                   << "/var/gate";
+    QTest::newRow("without a folder") << "mirovahrctl gate --from /hr/a --to /hr/b"
+                                      << "/hr/b.gate";
+    QTest::newRow("with its path, by way of another program")
+        << "sudo -u yav /usr/bin/mirovahrctl gate --state=/var/gate --from /hr/a --to /hr/b"
+        << "/var/gate";
+    QTest::newRow("quoted blanks")
+        << R"(mirovahrctl gate --from /hr/a --to /hr/b --state "/var/my gate")"
+        << "/var/my gate";
+    QTest::newRow("an option that the gate does not know")
+        << "mirovahrctl gate --from /hr/a --to /hr/b --what"
+        << "";
+    QTest::newRow("no target") << "mirovahrctl gate --from /hr/a"
+                               << "";
+    QTest::newRow("its help") << "mirovahrctl gate --help"
+                              << "";
+}
+
+void TestExplainExport::theGateOfACommandIsFound()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, folder);
+    const auto gate = GateOptions::ofCommand(command);
+    QCOMPARE(gate ? gate->stateFolder : QString(), folder);
+}
+
+void TestExplainExport::theLastAdmittedFileIsUsedWhenThePluginHasRemovedItsOwn_data()
+{
+    QTest::addColumn<bool>("isTold");
+    QTest::addColumn<QString>("gate");
+    QTest::newRow("the folder is told") << true << "gate";
+    QTest::newRow("the folder is that of syncCommand") << false << "gate of syncCommand";
+}
+
+void TestExplainExport::theLastAdmittedFileIsUsedWhenThePluginHasRemovedItsOwn()
+{
+    QFETCH(bool, isTold);
+    QFETCH(QString, gate);
+    configure(isTold ? QByteArray() : command());
+    const ToolRun run = m_site.explain(
+        "1234.1", isTold ? QStringList{"--gate-folder", m_gate->state()} : QStringList());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(ExplainedSite::facts(run).value("exportSource").toString(), QString("gate"));
+    QCOMPARE(ExplainedSite::facts(run).value("person").toString(), QString("updated"));
+    const QStringList sentences = ExplainedSite::sentences(run, "export");
+    QCOMPARE(sentences.first(),
+             "There is no export " + m_gate->target()
+                 + ": the plugin removes it after it has read it.");
+    QCOMPARE(sentences.at(1),
+             "What follows is from the file that the " + gate + " admitted last, on "
+                 + QDate::currentDate().toString(Qt::ISODate) + ".");
+    QCOMPARE(sentences.last(),
+             "Line 1 of " + m_gate->inState("admitted.data")
+                 + " is about 1234.1 Jana Malá, pid 12341.");
+}
+
+void TestExplainExport::aGateThatIsOfNoUseIsSaid_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("sentence");
+    QTest::newRow("another target")
+        << "mirovahrctl gate --from /hr/a --to /hr/b"
+        << "The gate of syncCommand publishes to /hr/b, where the plugin does not read.";
+    QTest::newRow("a folder that depends on where the server was started")
+        << "mirovahrctl gate --from /hr/a --to %1 --state gate"
+        << "The gate of syncCommand has the folder gate, and where that is depends on the "
+           "attendance server.";
+    QTest::newRow("a folder that is not there")
+        << "mirovahrctl gate --from /hr/a --to %1 --state /nowhere"
+        << "'/nowhere' cannot be opened as a folder: No such file or directory.";
+}
+
+void TestExplainExport::aGateThatIsOfNoUseIsSaid()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, sentence);
+    configure(command.replace("%1", m_gate->target()).toUtf8());
+    const ToolRun run = m_site.explain("1234.1");
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(ExplainedSite::facts(run).value("exportSource").toString(), QString("none"));
+    QCOMPARE(ExplainedSite::sentences(run, "export").mid(1),
+             QStringList({sentence, "What follows is from the database only."}));
+}
+
+void TestExplainExport::theExportThatIsThereComesFirst()
+{
+    configure(command());
+    writeFile(m_gate->target(), GatePeople::file({SampleExport::jana()}));
+    const ToolRun run = m_site.explain("1234.1", {"--gate-folder", m_gate->state()});
+    QCOMPARE(ExplainedSite::facts(run).value("exportSource").toString(), QString("importFile"));
+    QCOMPARE(ExplainedSite::sentences(run, "export"),
+             QStringList(
+                 {"The plugin runs its export command first, and may then find another "
+                  "file than this.",
+                  "Line 1 of " + m_gate->target() + " is about 1234.1 Jana Nováková, pid 12341."}));
+}
+
+void TestExplainExport::aRefusalOfTheGateIsSaid()
+{
+    configure(command());
+    m_gate->deliver(QByteArray());
+    m_gate->run();
+    const ToolRun run = m_site.explain("1234.1");
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.rules(), QStringList("gate-refused"));
+    QVERIFY2(
+        ExplainedSite::messages(run).first().startsWith("The gate has refused a file since then: "),
+        run.report().constData());
+    QCOMPARE(ExplainedSite::facts(run).value("person").toString(), QString("updated"));
+}
+
+void TestExplainExport::aGateThatHasAdmittedNothingIsNoExport()
+{
+    configure({});
+    QVERIFY(QFile::remove(m_gate->inState("admitted.data")));
+    const ToolRun run = m_site.explain("1234.1", {"--gate-folder", m_gate->state()});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err,
+             "mirovahrctl: explain: The gate has admitted no file yet: there is no '"
+                 + m_gate->inState("admitted.data") + "'.\n");
+}
+
+void TestExplainExport::namesAreSearchedInTheAdmittedFile()
+{
+    m_gate->admit({SampleExport::newcomer(3701).with(&ExportRow::prijmeni, "Kráľová")});
+    configure(command());
+    const ToolRun run = m_site.explain("kralova");
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(ExplainedSite::facts(run).value("person").toString(), QString("created"));
+}
+
+QTEST_GUILESS_MAIN(TestExplainExport)
+#include "tst_explainexport.moc"

@@ -1,0 +1,246 @@
+#include "tests/sync/sampleexport.h"
+#include "tests/tools/explainedsite.h"
+#include "tools/peoplesearch.h"
+#include "tools/personname.h"
+
+#include <QtTest>
+
+/// Whom explain means when somebody asks by a name or a number.
+class TestExplainPeople : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void spellingsOfANameHaveTheSameWords_data();
+    void spellingsOfANameHaveTheSameWords();
+    void onePersonIsExplained_data();
+    void onePersonIsExplained();
+    void severalPeopleAreListed_data();
+    void severalPeopleAreListed();
+    void nobodyIsSaid_data();
+    void nobodyIsSaid();
+    void aLineWithoutNumbersIsListed();
+    void linesThatMayHideThePersonAreCounted_data();
+    void linesThatMayHideThePersonAreCounted();
+    void onlyTheFirstPeopleAreListed();
+    void withoutAnExportTheDatabaseIsSearched();
+    void aDatabaseWithoutPeopleBreaksTheContract();
+
+private:
+    static TableRows people(const ToolRun &run)
+    {
+        return ExplainedSite::table(run, "people", "people",
+                                    {"person", "name", "line", "database"});
+    }
+
+    TestDatabase m_db;
+    ExplainedSite m_site{m_db};
+};
+
+void TestExplainPeople::initTestCase()
+{
+    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+    m_site.unlockAccount();
+    m_site.configure({});
+}
+
+void TestExplainPeople::init()
+{
+    m_db.reset();
+    ExportRow second = SampleExport::jana();
+    second.poradoveCisloPP = "2";
+    m_site.exportFile().write(
+        {SampleExport::jana().text(), second.text(), SampleExport::newcomer(3801).text(),
+         SampleExport::newcomer(3802).with(&ExportRow::prijmeni, "Łukasz-Ødegård").text()});
+}
+
+void TestExplainPeople::spellingsOfANameHaveTheSameWords_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("as it is") << "Jana Novakova"
+                              << "jana novakova";
+    QTest::newRow("accents and capitals") << "JANA NOVÁKOVÁ"
+                                          << "jana novakova";
+    QTest::newRow("accents of their own")
+        << QString("Jana Nova\u0301kova\u0301") << "jana novakova";
+    QTest::newRow("a double name") << "Malá-Nováková"
+                                   << "mala novakova";
+    QTest::newRow("letters with strokes") << "Łukasz Đorđe Øster"
+                                          << "lukasz dorde oster";
+    QTest::newRow("a sharp s") << "Weiß"
+                               << "weiss";
+    QTest::newRow("a title") << "Ing. Jana"
+                             << "ing jana";
+    QTest::newRow("another script") << "Иванов"
+                                    << "иванов";
+    QTest::newRow("nothing") << " - "
+                             << "";
+}
+
+void TestExplainPeople::spellingsOfANameHaveTheSameWords()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, words);
+    QCOMPARE(nameWords(name).join(' '), words);
+}
+
+void TestExplainPeople::onePersonIsExplained_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("a name of the export") << "Malá"
+                                          << "What became of 3801.1";
+    QTest::newRow("another spelling") << "MALA"
+                                      << "What became of 3801.1";
+    QTest::newRow("two words in any order") << "malá  Eva"
+                                            << "What became of 3801.1";
+    QTest::newRow("a part of a double name") << "odegard"
+                                             << "What became of 3802.1";
+    QTest::newRow("a name of the database") << "žiak"
+                                            << "What became of 1237.1";
+    QTest::newRow("with a title") << "ing. Kováčová"
+                                  << "What became of 1001.1";
+    QTest::newRow("a personal number") << "3801"
+                                       << "What became of 3801.1";
+    QTest::newRow("a personal number of the database") << "2001"
+                                                       << "What became of 2001.2";
+    QTest::newRow("a pid") << "12342"
+                           << "What became of 1234.2";
+    QTest::newRow("a row with a strange payroll id") << "Szabó"
+                                                     << "What became of pid 12351";
+}
+
+void TestExplainPeople::onePersonIsExplained()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, title);
+    m_db.run("UPDATE people SET pamId = 'x' WHERE uid = 5");
+    const ToolRun run = m_site.explain(text);
+    QVERIFY2(run.status == ExitStatus::Fine || run.status == ExitStatus::Findings,
+             run.report().constData());
+    QCOMPARE(run.json().value("title").toString(), title);
+    QVERIFY(ExplainedSite::sections(run).contains("database"));
+}
+
+void TestExplainPeople::severalPeopleAreListed_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<TableRows>("rows");
+    QTest::newRow("a name in export and database")
+        << "novakova"
+        << TableRows{{"1234.1", "Ing. Jana Nováková", "1", "active"},
+                     {"1234.2", "Ing. Jana Nováková", "2", ""}};
+    QTest::newRow("a first name") << "EVA"
+                                  << TableRows{{"3801.1", "Eva Malá", "3", ""},
+                                               {"3802.1", "Eva Łukasz-Ødegård", "4", ""}};
+    QTest::newRow("a personal number") << "1234"
+                                       << TableRows{{"1234.1", "Ing. Jana Nováková", "1", "active"},
+                                                    {"1234.2", "Ing. Jana Nováková", "2", ""}};
+    QTest::newRow("a personal number that is a pid as well")
+        << "3801"
+        << TableRows{{"380.1", "Somebody", "", "not active"}, {"3801.1", "Eva Malá", "3", ""}};
+}
+
+void TestExplainPeople::severalPeopleAreListed()
+{
+    QFETCH(QString, text);
+    QFETCH(TableRows, rows);
+    m_db.run("INSERT INTO people (pid, pamId, name, status) VALUES (3801, '380.1', 'Somebody', 0)");
+    const ToolRun run = m_site.explain(text);
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(people(run), rows);
+    QCOMPARE(run.rules(), QStringList("person-ambiguous"));
+    QCOMPARE(ExplainedSite::facts(run), QJsonObject({{"matches", 2}}));
+    QCOMPARE(ExplainedSite::verdict(run), QString("2 people may be meant: name one of them."));
+    // Whoever is named then is explained.
+    for (const QStringList &row : rows) {
+        QCOMPARE(m_site.explain(row.first()).json().value("title").toString(),
+                 "What became of " + row.first());
+    }
+}
+
+void TestExplainPeople::nobodyIsSaid_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("a name") << "Nobodyová";
+    QTest::newRow("the beginning of a name") << "Nová";
+    QTest::newRow("one word too many") << "Jana Nováková Malá";
+    QTest::newRow("a number") << "4711";
+}
+
+void TestExplainPeople::nobodyIsSaid()
+{
+    QFETCH(QString, text);
+    const ToolRun run = m_site.explain(text);
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.rules(), QStringList("nobody-found"));
+    QCOMPARE(ExplainedSite::facts(run), QJsonObject({{"matches", 0}}));
+    QCOMPARE(ExplainedSite::verdict(run), "Nobody is known as \"" + text + "\".");
+}
+
+void TestExplainPeople::aLineWithoutNumbersIsListed()
+{
+    m_site.exportFile().write(
+        {SampleExport::newcomer(3803).with(&ExportRow::osobniCislo, "x").text()});
+    const ToolRun run = m_site.explain("mala");
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(people(run), TableRows({{"", "Eva Malá", "1", ""}}));
+}
+
+void TestExplainPeople::linesThatMayHideThePersonAreCounted_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("count");
+    QTest::newRow("by number") << "4711"
+                               << "2 lines";
+    QTest::newRow("by name") << "Nobodyová"
+                             << "1 line";
+}
+
+void TestExplainPeople::linesThatMayHideThePersonAreCounted()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, count);
+    m_site.exportFile().write({QString("broken"), QString(), QString("x|1|||Malá|"),
+                               SampleExport::newcomer(3804).text()});
+    QCOMPARE(ExplainedSite::sentences(m_site.explain(text), "people"),
+             QStringList(count
+                         + " of the export cannot be read so far as to say whom they are about, "
+                           "and the plugin drops them: see check-file."));
+}
+
+void TestExplainPeople::onlyTheFirstPeopleAreListed()
+{
+    QVector<ExportRow> lines;
+    for (int i = 0; i <= PeopleSearch::kMost; ++i)
+        lines += SampleExport::newcomer(4000 + i);
+    m_site.exportFile().write(lines);
+    const ToolRun run = m_site.explain("mala");
+    QCOMPARE(people(run).size(), PeopleSearch::kMost);
+    QCOMPARE(ExplainedSite::sentences(run, "people"),
+             QStringList("There are more; these are the first 100."));
+}
+
+void TestExplainPeople::withoutAnExportTheDatabaseIsSearched()
+{
+    m_site.exportFile().remove();
+    QCOMPARE(m_site.explain("novakova").json().value("title").toString(),
+             QString("What became of 1234.1"));
+    QCOMPARE(m_site.explain("1234").json().value("title").toString(),
+             QString("What became of 1234.1"));
+}
+
+void TestExplainPeople::aDatabaseWithoutPeopleBreaksTheContract()
+{
+    m_db.hideTable("people");
+    const ToolRun run = m_site.explain("mala");
+    COMPARE_EXIT(run, ExitStatus::ContractBroken);
+    QVERIFY2(run.err.startsWith("mirovahrctl: explain: The database cannot be used: "),
+             run.report().constData());
+}
+
+QTEST_GUILESS_MAIN(TestExplainPeople)
+#include "tst_explainpeople.moc"

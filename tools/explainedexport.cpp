@@ -1,0 +1,104 @@
+#include "tools/explainedexport.h"
+
+#include "plugin/configuration.h"
+#include "tools/gatecopies.h"
+#include "tools/gatefolder.h"
+#include "tools/gateoptions.h"
+#include "tools/gaterecord.h"
+#include "worker/importfile.h"
+
+#include <QDir>
+
+bool ExplainedExport::open(const QString &named, const QString &gateFolder,
+                           const Configuration &configuration)
+{
+    m_importFile = ImportFile::path(configuration.importFile);
+    if (!named.isEmpty() && !gateFolder.isEmpty())
+        return fail(QStringLiteral("Name either FILE or --gate-folder"));
+    if (!named.isEmpty()) {
+        return openFile(named, Source::Named)
+            || (m_error.isEmpty() && fail(QStringLiteral("There is no file '%1'").arg(named)));
+    }
+    if (openFile(m_importFile, Source::ImportFile) || !m_error.isEmpty())
+        return m_error.isEmpty();
+    if (!gateFolder.isEmpty())
+        return openGate(gateFolder);
+    openGateOfCommand(configuration.syncCommand);
+    return true;
+}
+
+QString ExplainedExport::sourceWord() const
+{
+    switch (m_source) {
+    case Source::None:
+        return QStringLiteral("none");
+    case Source::Named:
+        return QStringLiteral("named");
+    case Source::ImportFile:
+        return QStringLiteral("importFile");
+    case Source::Gate:
+        return QStringLiteral("gate");
+    }
+    Q_UNREACHABLE();
+}
+
+/// False also when there is none, without an error then.
+bool ExplainedExport::openFile(const QString &path, Source source)
+{
+    QString error;
+    switch (ImportFile::open(path, m_file, error)) {
+    case ImportFile::Opening::Done:
+        m_path = path;
+        m_source = source;
+        return true;
+    case ImportFile::Opening::NotFound:
+        return false;
+    case ImportFile::Opening::Failed:
+        return fail(QStringLiteral("'%1' cannot be opened: %2").arg(path, error));
+    }
+    Q_UNREACHABLE();
+}
+
+bool ExplainedExport::openGate(const QString &folder)
+{
+    GateFolder gate;
+    bool missing = false;
+    if (!gate.open(folder))
+        return fail(gate.errorString());
+    m_path = gate.pathOf(GateCopies::lastAdmitted());
+    if (!gate.openForReading(GateCopies::lastAdmitted(), m_file, missing)) {
+        return fail(
+            missing
+                ? QStringLiteral("The gate has admitted no file yet: there is no '%1'").arg(m_path)
+                : gate.errorString());
+    }
+    m_source = Source::Gate;
+    QString ignored;
+    m_gateStatus = GateStatus::read(gate.pathOf(GateRecord::fileName()), ignored);
+    return true;
+}
+
+void ExplainedExport::openGateOfCommand(const QString &command)
+{
+    const auto gate = GateOptions::ofCommand(command);
+    if (!gate)
+        return;
+    m_isGateOfCommand = true;
+    if (!gate->publishesTo(m_importFile)) {
+        m_gateError = QStringLiteral(
+                          "The gate of syncCommand publishes to %1, where the plugin does not read")
+                          .arg(gate->to);
+    } else if (QDir::isRelativePath(gate->stateFolder)) {
+        m_gateError = QStringLiteral("The gate of syncCommand has the folder %1, and where that is "
+                                     "depends on the attendance server")
+                          .arg(gate->stateFolder);
+    } else if (!openGate(gate->stateFolder)) {
+        m_gateError = std::exchange(m_error, QString());
+    }
+}
+
+bool ExplainedExport::fail(const QString &error)
+{
+    m_error = error;
+    return false;
+}

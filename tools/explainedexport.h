@@ -1,0 +1,56 @@
+#pragma once
+
+#include "tools/gatestatus.h"
+
+#include <QFile>
+#include <QString>
+
+#include <optional>
+
+struct Configuration;
+
+/// The export that explain looks at: the one that is named, else the one that the plugin reads.
+/// When that is gone, because the plugin removes it after reading it, the one that the gate
+/// admitted last.
+class ExplainedExport {
+public:
+    enum class Source { None, Named, ImportFile, Gate };
+
+    /// Opens it. \a named and \a gateFolder may be empty; the gate's folder is then that of the
+    /// configuration's syncCommand, if that runs a gate. False when a file that is there, or was
+    /// named, cannot be used; errorString() then says why, a sentence without its full stop.
+    bool open(const QString &named, const QString &gateFolder, const Configuration &configuration);
+
+    Source source() const { return m_source; }
+    /// A stable word for scripts: "named", "importFile", "gate" or "none".
+    QString sourceWord() const;
+    /// The open file, at its beginning. Only when there is a source.
+    QFile &file() { return m_file; }
+    QString path() const { return m_path; }
+    /// Where the plugin reads its export.
+    QString importFile() const { return m_importFile; }
+
+    /// Whether the gate's folder was found in the configuration.
+    bool isGateOfCommand() const { return m_isGateOfCommand; }
+    /// Why the gate of the configuration is of no use here; empty when it is, or there is none.
+    QString gateError() const { return m_gateError; }
+    /// What the gate says of its last run, as far as that can be read.
+    const std::optional<GateStatus> &gateStatus() const { return m_gateStatus; }
+
+    QString errorString() const { return m_error; }
+
+private:
+    bool openFile(const QString &path, Source source);
+    bool openGate(const QString &folder);
+    void openGateOfCommand(const QString &command);
+    bool fail(const QString &error);
+
+    QFile m_file;
+    QString m_path;
+    QString m_importFile;
+    QString m_error;
+    QString m_gateError;
+    Source m_source = Source::None;
+    bool m_isGateOfCommand = false;
+    std::optional<GateStatus> m_gateStatus;
+};

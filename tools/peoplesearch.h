@@ -1,0 +1,68 @@
+#pragma once
+
+#include "tools/soughtperson.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+class Console;
+class MirovaRonRecord;
+class QFile;
+class SqlSession;
+
+/// Somebody whom a PeopleSearch has found.
+struct FoundPerson {
+    quint32 osobniCislo = 0; ///< 0 with poradoveCisloPP: known by the pid only
+    quint32 poradoveCisloPP = 0;
+    quint32 pid = 0;
+    QString name;
+    qint64 line = 0; ///< the first line of the export that names the person; 0: none
+    std::optional<bool> active; ///< the row of `people`; nothing: there is none
+
+    /// How to ask for this very person. Nothing when no line and no row has a number.
+    std::optional<SoughtPerson> person() const;
+};
+
+/// Looks in the export and in the database for the people whom a name or a number may mean. A
+/// number is a personal number or a pid. A name is one or more words, each of which is a word of
+/// the person's name or title; capital letters and accents do not matter.
+class PeopleSearch {
+public:
+    /// The most people that are kept.
+    static constexpr int kMost = 100;
+
+    /// Nothing when the text is neither a number above 0 nor has a letter.
+    static std::optional<PeopleSearch> parse(const QString &text);
+
+    /// False when the export cannot be read to its end; errorString() then says why, a part of a
+    /// sentence without its full stop. The file is at its beginning afterwards.
+    bool searchExport(QFile &file, Console &console);
+    QString errorString() const { return m_error; }
+    void searchDatabase(SqlSession &site);
+
+    /// As it was asked for.
+    QString text() const { return m_text; }
+    /// In the order of their numbers.
+    QVector<FoundPerson> people() const;
+    /// There are more than are kept.
+    bool hasMore() const { return m_hasMore; }
+    /// Lines of the export that cannot be read so far as to say whether they match.
+    qint64 unreadableLines() const { return m_unreadableLines; }
+
+private:
+    void look(const QString &line, qint64 number);
+    void lookAtRow(const QStringList &row);
+    bool matches(const FoundPerson &person) const;
+    void add(const FoundPerson &person);
+
+    QString m_text;
+    quint32 m_number = 0; ///< 0: a name
+    QStringList m_words;
+    QVector<FoundPerson> m_people;
+    bool m_hasMore = false;
+    qint64 m_unreadableLines = 0;
+    QString m_error;
+};
