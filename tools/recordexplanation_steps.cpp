@@ -114,13 +114,16 @@ void RecordExplanation::explainAdministrator(quint32 aid)
 void RecordExplanation::explainUnknownAdministrator()
 {
     m_outcome.supervisor = QStringLiteral("unknown");
-    // Without an administrator it does nothing but warn.
-    const CaughtLog log;
-    m_context.view.worker().processNadOsCis(m_record);
-    warn("supervisor-unknown",
-         QStringLiteral("No administrator has the personal number %1 of the supervisor: nothing "
-                        "changes. The log says: %2")
-             .arg(QString::number(m_record.nadrizenyOsobniCislo), log.complaints()),
+    QString message = QStringLiteral("No administrator has the personal number %1 of the "
+                                     "supervisor: nothing changes.")
+                          .arg(m_record.nadrizenyOsobniCislo);
+    if (!m_mayNotAdd) {
+        // Without an administrator it does nothing but warn.
+        const CaughtLog log;
+        m_context.view.worker().processNadOsCis(m_record);
+        message += QStringLiteral(" The log says: ") + log.complaints();
+    }
+    warn("supervisor-unknown", message,
          QStringLiteral("Give the supervisor an administrator's account with this personal "
                         "number."));
 }

@@ -20,6 +20,24 @@ QVector<PreviewLine> linesOf(PreviewWork &work)
     return lines;
 }
 
+QHash<QString, QString> cellsOf(const PreviewTable &table, const QStringList &row)
+{
+    QHash<QString, QString> cells;
+    for (int i = 0; i < row.size(); ++i)
+        cells[table.columns.at(i).name] = row.at(i);
+    return cells;
+}
+
+QVector<PreviewedRow> rowsOf(const PreviewWork &work)
+{
+    QVector<PreviewedRow> rows;
+    for (const PreviewChange &change : work.changes()) {
+        rows += {change.table->name, cellsOf(*change.table, change.before),
+                 cellsOf(*change.table, change.after)};
+    }
+    return rows;
+}
+
 QString sqlOf(const PreviewWork &work)
 {
     QBuffer buffer;
@@ -109,6 +127,7 @@ PreviewResult PreviewBench::preview(const DatabaseOptions &site)
     result.schema = work.schema();
     result.lines = linesOf(work);
     result.warnings = work.warnings();
+    result.rows = rowsOf(work);
     result.changes = work.changes().size();
     result.sql = sqlOf(work);
     return result;

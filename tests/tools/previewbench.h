@@ -9,6 +9,7 @@
 #include "tools/previewserver.h"
 #include "tools/previewwords.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -16,12 +17,24 @@
 
 #include <optional>
 
+/// A row that a preview shows as changed.
+struct PreviewedRow {
+    QString table;
+    QHash<QString, QString> before; ///< cells by column; empty: the row is new
+    QHash<QString, QString> after; ///< empty: the row is gone
+
+    /// A cell of the row that is there.
+    QString cell(const char *column) const { return (after.isEmpty() ? before : after)[column]; }
+    bool changes(const char *column) const { return before[column] != after[column]; }
+};
+
 /// What a test learns from a preview.
 struct PreviewResult {
     std::optional<PreviewRefusal> refusal;
     PreviewSchema schema;
     QVector<PreviewLine> lines;
     QVector<Finding> warnings;
+    QVector<PreviewedRow> rows;
     int changes = 0;
     QString sql;
 
