@@ -316,6 +316,10 @@ void TestExplainWorker::severalLinesAreHandledInTurn_data()
     add("another calendar and back",
         {SampleExport::jana().with(&R::kalendar, 1), SampleExport::jana()}, "calendar",
         "planned planned", "kept");
+    const ExportRow moved = SampleExport::jana().with(&R::kalendar, 1);
+    add("another calendar and something that the row does not hold",
+        {moved, ExportRow(moved).with(&R::strediskoPopis, "x")}, "person", "updated unchanged",
+        "updated");
     add("an unknown branch twice",
         {SampleExport::jana().with(&R::stredisko, 999),
          SampleExport::jana().with(&R::stredisko, 999)},
