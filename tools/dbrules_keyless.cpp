@@ -73,8 +73,8 @@ void checkTemporaryTable(DbCheck &check, const ServerSettings &settings)
                refusal->remedy);
 }
 
-/// Rows are told apart by a primary key, or by a unique one on columns that take no NULL.
-bool tellsRowsApart(const DbSchema &schema, const QString &table)
+/// Whether the table has a primary key, or a unique one on columns that take no NULL.
+bool hasPrimaryKey(const DbSchema &schema, const QString &table)
 {
     const QVector<DbKey> keys = schema.uniqueKeys(table);
     return std::any_of(keys.cbegin(), keys.cend(), [&](const DbKey &key) {
@@ -93,7 +93,7 @@ void checkWrites(DbCheck &check, const DbSchema &schema, const ServerSettings &s
     for (const PluginRights::TableRights &rights : PluginRights::kTables) {
         const QString table = QString::fromLatin1(rights.table);
         if (schema.hasTable(table) && PluginRights::writesTo(table)
-            && !tellsRowsApart(schema, table))
+            && !hasPrimaryKey(schema, table))
             tables += table;
     }
     if (tables.isEmpty())

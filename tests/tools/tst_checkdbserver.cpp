@@ -71,10 +71,10 @@ private Q_SLOTS:
     void anOrdinaryConnectionIsFine();
     void aConnectionThatIsLostEndsTheCheck();
 
-    void theTemporaryTableIsRefusedWhereThisIsTold_data();
-    void theTemporaryTableIsRefusedWhereThisIsTold();
-    void clustersThatWantPrimaryKeysAreTold_data();
-    void clustersThatWantPrimaryKeysAreTold();
+    void theTemporaryTableFailsWhereCheckDbSaysSo_data();
+    void theTemporaryTableFailsWhereCheckDbSaysSo();
+    void clustersThatWantPrimaryKeysAreReported_data();
+    void clustersThatWantPrimaryKeysAreReported();
     void anAccountThatDoesNotSeeAllColumnsOnlyNotesThatAKeyIsWanted();
 
     void aServerThatReservesGroupsIsOfNoUse();
@@ -167,7 +167,7 @@ void TestCheckDbServer::aConnectionThatIsLostEndsTheCheck()
     QVERIFY(!check.unusable().isEmpty());
 }
 
-void TestCheckDbServer::theTemporaryTableIsRefusedWhereThisIsTold_data()
+void TestCheckDbServer::theTemporaryTableFailsWhereCheckDbSaysSo_data()
 {
     QTest::addColumn<QStringList>("settings");
     QTest::addColumn<QString>("error");
@@ -197,7 +197,7 @@ void TestCheckDbServer::theTemporaryTableIsRefusedWhereThisIsTold_data()
         key);
 }
 
-void TestCheckDbServer::theTemporaryTableIsRefusedWhereThisIsTold()
+void TestCheckDbServer::theTemporaryTableFailsWhereCheckDbSaysSo()
 {
     QFETCH(QStringList, settings);
     QFETCH(QString, error);
@@ -222,7 +222,7 @@ void TestCheckDbServer::theTemporaryTableIsRefusedWhereThisIsTold()
                                + error + " QMYSQL: Unable to execute next query"));
 }
 
-void TestCheckDbServer::clustersThatWantPrimaryKeysAreTold_data()
+void TestCheckDbServer::clustersThatWantPrimaryKeysAreReported_data()
 {
     QTest::addColumn<DbRules::ServerSettings>("settings");
     QTest::addColumn<QString>("change");
@@ -263,7 +263,7 @@ void TestCheckDbServer::clustersThatWantPrimaryKeysAreTold_data()
         << noChange << "";
 }
 
-void TestCheckDbServer::clustersThatWantPrimaryKeysAreTold()
+void TestCheckDbServer::clustersThatWantPrimaryKeysAreReported()
 {
     QFETCH(DbRules::ServerSettings, settings);
     QFETCH(QString, change);
