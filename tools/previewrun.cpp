@@ -41,6 +41,7 @@ private:
 
 PreviewRun::PreviewRun(const Configuration &configuration, const QString &exportFile)
     : m_configuration(configuration)
+    , m_failure(exportFile)
 {
     m_configuration.importFile = QFileInfo(exportFile).absoluteFilePath();
     m_configuration.deleteFile = false;
@@ -60,21 +61,12 @@ bool PreviewRun::run(const QSqlDatabase &copy, const PluginLog::Listener &log,
     const PluginLog caught([&](QtMsgType type, const QString &text) {
         seen.see(type, text);
         m_failure.see(text);
-        noteComplaint(type, text);
         log(type, text);
     });
     m_begin = QDateTime::currentSecsSinceEpoch();
     const bool done = synchronise(copy);
     m_end = QDateTime::currentSecsSinceEpoch();
     return done;
-}
-
-/// The export is to be kept, so the plugin complains of no file but one that it could not read.
-void PreviewRun::noteComplaint(QtMsgType type, const QString &text)
-{
-    const bool isComplaint = type == QtWarningMsg || type == QtCriticalMsg;
-    if (isComplaint && text.startsWith(QLatin1String("MHRWorker::loadAndParseData() - file '")))
-        m_readingComplaint = text;
 }
 
 bool PreviewRun::synchronise(const QSqlDatabase &copy)

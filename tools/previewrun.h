@@ -26,16 +26,11 @@ public:
     /// Why there is nothing to see of the synchronisation, although it was run.
     std::optional<PreviewRefusal> refusal() const { return m_failure.refusal(); }
 
-    /// What the plugin logged because it could not read the export, or not to its end; empty when
-    /// it could.
-    QString readingComplaint() const { return m_readingComplaint; }
-
     /// When it began and when it was over, by the copy's clock: what lies between is "now".
     qint64 begin() const { return m_begin; }
     qint64 end() const { return m_end; }
 
 private:
-    void noteComplaint(QtMsgType type, const QString &text);
     bool synchronise(const QSqlDatabase &copy);
 
     Configuration m_configuration;
@@ -43,5 +38,4 @@ private:
     qint64 m_end = 0;
     QString m_error;
     SyncFailure m_failure;
-    QString m_readingComplaint;
 };

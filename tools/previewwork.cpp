@@ -113,12 +113,6 @@ std::optional<PreviewRefusal> PreviewWork::synchronise(const Configuration &conf
     }
     if (auto refused = run.refusal())
         return refused;
-    if (!run.readingComplaint().isEmpty()) {
-        return PreviewRefusal{ExitStatus::Usage,
-                              QStringLiteral("'%1' cannot be read to its end: the plugin would log "
-                                             "\"%2\"")
-                                  .arg(exportFile, run.readingComplaint())};
-    }
     m_moments = std::make_unique<PreviewMoments>(run.begin(), run.end());
     m_names = std::make_unique<PreviewNames>(m_server.attendance());
     return compare();

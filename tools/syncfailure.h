@@ -6,9 +6,12 @@
 
 #include <optional>
 
-/// Finds in the plugin's log why a synchronisation did not take place.
+/// Finds in the plugin's log why a synchronisation did not take place, or not with all of the
+/// export.
 class SyncFailure {
 public:
+    explicit SyncFailure(const QString &exportFile);
+
     /// Takes one text of the log.
     void see(const QString &text);
 
@@ -16,5 +19,6 @@ public:
     std::optional<PreviewRefusal> refusal() const { return m_refusal; }
 
 private:
+    const QString m_exportFile;
     std::optional<PreviewRefusal> m_refusal;
 };
