@@ -345,7 +345,6 @@ void TestTepDbSettings::setMultipleWritesNothingWhenItCannotBePrepared()
 
 void TestTepDbSettings::caseAndAccentsMakeAnotherKey()
 {
-    m_database.run("ALTER TABLE vars MODIFY name VARCHAR(160) COLLATE utf8mb4_nopad_bin NOT NULL");
     const QStringList others = {"COLOUR", "Colour", "cólour"};
     addVariables(others);
     TepDbSettings settings(m_connection);
