@@ -838,6 +838,9 @@ void TestExplain::aForcedSynchronisationHandlesEqualLinesAgain()
     const ToolRun run = m_site.explain("2001.2");
     QCOMPARE(ExplainedSite::table(run, "summary", "lines", {"balance"}),
              TableRows({{"equal"}, {"equal"}}));
+    m_db.run("DELETE FROM funds");
+    QCOMPARE(ExplainedSite::table(m_site.explain("2001.2"), "summary", "lines", {"balance"}),
+             TableRows({{"no-fund"}, {"no-fund"}}));
     QCOMPARE(ExplainedSite::sentences(run, "export").last(),
              QString("The next synchronisation is a forced one: the plugin handles every line, "
                      "changed or not."));
