@@ -1,7 +1,7 @@
 // A whole file through the worker: it parses and takes over what the plain reading does.
 
 #include "fuzz/fuzztarget.h"
-#include "tests/input/workerreading.h"
+#include "tests/worker/input/workerreading.h"
 
 namespace {
 

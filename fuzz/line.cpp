@@ -1,8 +1,8 @@
 // One line: its text, its parts and its record are those of the plain reading.
 
 #include "fuzz/fuzztarget.h"
-#include "tests/input/parttexts.h"
-#include "tests/input/plainreading.h"
+#include "tests/worker/input/parttexts.h"
+#include "tests/worker/input/plainreading.h"
 #include "worker/exportline.h"
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

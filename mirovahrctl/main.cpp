@@ -1,5 +1,5 @@
-#include "tools/console.h"
-#include "tools/subcommand.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/subcommand.h"
 
 #include <QCoreApplication>
 #include <QFile>

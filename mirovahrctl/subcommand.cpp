@@ -1,15 +1,15 @@
-#include "tools/subcommand.h"
+#include "mirovahrctl/subcommand.h"
 
 #include "cli/standardoptions.h"
-#include "tools/checkconfig.h"
-#include "tools/checkdb.h"
-#include "tools/checkfile.h"
-#include "tools/console.h"
-#include "tools/explain.h"
-#include "tools/force.h"
-#include "tools/gate.h"
-#include "tools/preview.h"
-#include "tools/status.h"
+#include "mirovahrctl/checkconfig/checkconfig.h"
+#include "mirovahrctl/checkdb/checkdb.h"
+#include "mirovahrctl/checkfile/checkfile.h"
+#include "mirovahrctl/explain/explain.h"
+#include "mirovahrctl/force/force.h"
+#include "mirovahrctl/gate/gate.h"
+#include "mirovahrctl/preview/preview.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/status/status.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "host/exitstatus.h"
+#include "yavhost/exitstatus.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
-#include "host/hostoptions.h"
+#include "yavhost/hostoptions.h"
 
 #include "cli/numberoption.h"
 #include "cli/standardoptions.h"
-#include "host/exitstatus.h"
+#include "yavhost/exitstatus.h"
 
 #include <QCommandLineParser>
 

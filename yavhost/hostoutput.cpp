@@ -1,4 +1,4 @@
-#include "host/hostoutput.h"
+#include "yavhost/hostoutput.h"
 
 #include <cstdio>
 

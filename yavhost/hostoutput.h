@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/exitstatus.h"
+#include "yavhost/exitstatus.h"
 
 #include <QString>
 

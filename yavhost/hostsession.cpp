@@ -1,7 +1,7 @@
-#include "host/hostsession.h"
+#include "yavhost/hostsession.h"
 
-#include "host/hostoutput.h"
 #include "plugin/interfaces/serverinterface.h"
+#include "yavhost/hostoutput.h"
 
 #include <QCoreApplication>
 

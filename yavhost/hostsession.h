@@ -1,12 +1,12 @@
 #pragma once
 
 #include "cli/database.h"
-#include "host/exitstatus.h"
-#include "host/hostoptions.h"
-#include "host/logprinter.h"
-#include "host/serverplugin.h"
-#include "host/synchronizationwatch.h"
-#include "host/unixsignals.h"
+#include "yavhost/exitstatus.h"
+#include "yavhost/hostoptions.h"
+#include "yavhost/logprinter.h"
+#include "yavhost/serverplugin.h"
+#include "yavhost/synchronizationwatch.h"
+#include "yavhost/unixsignals.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "host/logprinter.h"
+#include "yavhost/logprinter.h"
 
 #include <QLoggingCategory>
 #include <QtGlobal>

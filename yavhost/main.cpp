@@ -1,8 +1,8 @@
 #include "cli/database.h"
-#include "host/hostoptions.h"
-#include "host/hostoutput.h"
-#include "host/hostsession.h"
-#include "host/serverplugin.h"
+#include "yavhost/hostoptions.h"
+#include "yavhost/hostoutput.h"
+#include "yavhost/hostsession.h"
+#include "yavhost/serverplugin.h"
 
 #include <QCoreApplication>
 #include <QMap>

@@ -1,4 +1,4 @@
-#include "host/serverplugin.h"
+#include "yavhost/serverplugin.h"
 
 #include "plugin/interfaces/serverinterface.h"
 #include "plugin/interfaces/verinfointerface.h"

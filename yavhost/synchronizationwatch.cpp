@@ -1,6 +1,6 @@
-#include "host/synchronizationwatch.h"
+#include "yavhost/synchronizationwatch.h"
 
-#include "host/exitstatus.h"
+#include "yavhost/exitstatus.h"
 
 #include <QThread>
 

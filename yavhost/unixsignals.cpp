@@ -1,4 +1,4 @@
-#include "host/unixsignals.h"
+#include "yavhost/unixsignals.h"
 
 #include <QSocketNotifier>
 

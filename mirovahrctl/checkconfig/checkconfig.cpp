@@ -1,9 +1,9 @@
-#include "tools/checkconfig.h"
+#include "mirovahrctl/checkconfig/checkconfig.h"
 
-#include "tools/commandline.h"
-#include "tools/configcheck.h"
-#include "tools/console.h"
-#include "tools/report.h"
+#include "mirovahrctl/checkconfig/configassessment.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
 
 #include <QFileInfo>
 
@@ -20,7 +20,7 @@ QString verdict(ExitStatus status)
         : QStringLiteral("Somebody should look at the configuration.");
 }
 
-ExitStatus report(ConfigCheck &check, const QString &path, Report &report)
+ExitStatus report(ConfigAssessment &check, const QString &path, Report &report)
 {
     report.begin(QStringLiteral("check-config"), QStringLiteral("Configuration %1").arg(path));
     report.section(QStringLiteral("keys"), QStringLiteral("What is in force"));
@@ -56,6 +56,6 @@ ExitStatus runCheckConfig(const QStringList &arguments, Console &console)
     Report output(line, console);
     if (const auto end = output.open())
         return *end;
-    ConfigCheck check(path);
+    ConfigAssessment check(path);
     return report(check, path, output);
 }

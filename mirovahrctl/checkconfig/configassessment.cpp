@@ -1,7 +1,7 @@
-#include "tools/configcheck.h"
+#include "mirovahrctl/checkconfig/configassessment.h"
 
-#include "tools/configtable.h"
-#include "tools/plaintext.h"
+#include "mirovahrctl/checkconfig/configtable.h"
+#include "mirovahrctl/report/wording.h"
 #include "worker/schedule.h"
 
 #include <QFileInfo>
@@ -64,7 +64,7 @@ bool isPlainFlag(const QString &text)
 
 } // namespace
 
-ConfigCheck::ConfigCheck(const QString &path)
+ConfigAssessment::ConfigAssessment(const QString &path)
     : m_path(path)
     , m_lines(readIniLines(path))
     , m_settings(Configuration::open(path))
@@ -72,14 +72,14 @@ ConfigCheck::ConfigCheck(const QString &path)
 {
 }
 
-ConfigCheck::~ConfigCheck() = default;
+ConfigAssessment::~ConfigAssessment() = default;
 
-Table ConfigCheck::keys() const
+Table ConfigAssessment::keys() const
 {
     return configurationTable(*m_settings, m_config);
 }
 
-QVector<Finding> ConfigCheck::findings()
+QVector<Finding> ConfigAssessment::findings()
 {
     m_findings.clear();
     checkFile();
@@ -100,7 +100,7 @@ QVector<Finding> ConfigCheck::findings()
     return m_findings;
 }
 
-void ConfigCheck::checkFile()
+void ConfigAssessment::checkFile()
 {
     if (!QFileInfo::exists(m_path)) {
         add(Severity::Warning, "file-missing", {},
@@ -122,7 +122,7 @@ void ConfigCheck::checkFile()
     }
 }
 
-void ConfigCheck::checkKeys()
+void ConfigAssessment::checkKeys()
 {
     QStringList seen;
     for (const IniLine &line : m_lines) {
@@ -136,7 +136,7 @@ void ConfigCheck::checkKeys()
     }
 }
 
-void ConfigCheck::checkLine(const IniLine &line)
+void ConfigAssessment::checkLine(const IniLine &line)
 {
     if (!line.key.startsWith(QLatin1String("MES/")) && !knownKeys().contains(line.key)) {
         add(Severity::Error, "unknown-key", line.key,
@@ -150,7 +150,7 @@ void ConfigCheck::checkLine(const IniLine &line)
     }
 }
 
-void ConfigCheck::checkFlag(const QString &key)
+void ConfigAssessment::checkFlag(const QString &key)
 {
     if (!m_settings->contains(key))
         return;
@@ -160,7 +160,7 @@ void ConfigCheck::checkFlag(const QString &key)
     if (m_settings->value(key).toBool()) {
         add(Severity::Warning, "flag-reads-as-true", key,
             QStringLiteral("%1 reads as true, as everything does but 0, false and an empty value.")
-                .arg(PlainText::quoted(text)),
+                .arg(Wording::quoted(text)),
             QStringLiteral("Write true or false."));
     } else {
         add(Severity::Warning, "flag-empty", key, QStringLiteral("An empty value reads as false."),
@@ -168,7 +168,7 @@ void ConfigCheck::checkFlag(const QString &key)
     }
 }
 
-void ConfigCheck::checkNumber(const QString &key)
+void ConfigAssessment::checkNumber(const QString &key)
 {
     if (!m_settings->contains(key))
         return;
@@ -178,7 +178,7 @@ void ConfigCheck::checkNumber(const QString &key)
     if (!isNumber) {
         add(Severity::Error, "number-reads-as-0", key,
             QStringLiteral("%1 is no whole number and reads as 0.")
-                .arg(PlainText::quoted(written(key))),
+                .arg(Wording::quoted(written(key))),
             QStringLiteral("Write digits only, without sign, unit, point or comma."));
     } else if (number > std::numeric_limits<quint32>::max()) {
         add(Severity::Error, "number-wraps", key,
@@ -187,7 +187,7 @@ void ConfigCheck::checkNumber(const QString &key)
     }
 }
 
-void ConfigCheck::checkText(const QString &key)
+void ConfigAssessment::checkText(const QString &key)
 {
     if (!isList(key))
         return;
@@ -196,7 +196,7 @@ void ConfigCheck::checkText(const QString &key)
         QStringLiteral("Put the whole value in quotation marks."));
 }
 
-void ConfigCheck::checkOperation()
+void ConfigAssessment::checkOperation()
 {
     const QString enabled = QStringLiteral("enabled");
     if (!m_config.enabled) {
@@ -217,7 +217,7 @@ void ConfigCheck::checkOperation()
     }
 }
 
-void ConfigCheck::checkPeriods()
+void ConfigAssessment::checkPeriods()
 {
     const QString key = QStringLiteral("timerInterval");
     const quint32 seconds = m_settings->value(key, 60).toUInt();
@@ -246,18 +246,18 @@ void ConfigCheck::checkPeriods()
     }
 }
 
-QString ConfigCheck::written(const QString &key) const
+QString ConfigAssessment::written(const QString &key) const
 {
     // A list when the text has unquoted commas.
     return m_settings->value(key).toStringList().join(QLatin1Char(','));
 }
 
-bool ConfigCheck::isList(const QString &key) const
+bool ConfigAssessment::isList(const QString &key) const
 {
     return m_settings->value(key).type() == QVariant::StringList;
 }
 
-qint64 ConfigCheck::lineOf(const QString &key) const
+qint64 ConfigAssessment::lineOf(const QString &key) const
 {
     // The last one: it is the one in force.
     const auto found = std::find_if(m_lines.crbegin(), m_lines.crend(),
@@ -265,8 +265,8 @@ qint64 ConfigCheck::lineOf(const QString &key) const
     return found == m_lines.crend() ? 0 : found->number;
 }
 
-void ConfigCheck::add(Severity severity, const char *rule, const QString &key,
-                      const QString &message, const QString &advice)
+void ConfigAssessment::add(Severity severity, const char *rule, const QString &key,
+                           const QString &message, const QString &advice)
 {
     Finding finding;
     finding.severity = severity;

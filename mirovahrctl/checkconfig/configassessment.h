@@ -1,9 +1,9 @@
 #pragma once
 
+#include "mirovahrctl/checkconfig/inifile.h"
+#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/reportwriter.h"
 #include "plugin/configuration.h"
-#include "tools/finding.h"
-#include "tools/inifile.h"
-#include "tools/reportwriter.h"
 
 #include <QVector>
 
@@ -13,12 +13,12 @@ class QSettings;
 
 /// What an INI file puts in force, and what is wrong with it. Reads the file as the plugin does,
 /// and looks at the files and folders that it names; nothing else.
-class ConfigCheck {
+class ConfigAssessment {
 public:
-    explicit ConfigCheck(const QString &path);
-    ~ConfigCheck();
-    ConfigCheck(const ConfigCheck &) = delete;
-    ConfigCheck &operator=(const ConfigCheck &) = delete;
+    explicit ConfigAssessment(const QString &path);
+    ~ConfigAssessment();
+    ConfigAssessment(const ConfigAssessment &) = delete;
+    ConfigAssessment &operator=(const ConfigAssessment &) = delete;
 
     /// What is in force.
     const Configuration &configuration() const { return m_config; }

@@ -1,6 +1,6 @@
 // Where the export comes from: its file, and the command that writes it.
 
-#include "tools/configcheck.h"
+#include "mirovahrctl/checkconfig/configassessment.h"
 
 #include "worker/importfile.h"
 
@@ -44,7 +44,7 @@ QString openFolder(const QString &file)
 
 } // namespace
 
-void ConfigCheck::checkImportFile()
+void ConfigAssessment::checkImportFile()
 {
     const QString key = QStringLiteral("importFile");
     const QString path = ImportFile::path(m_config.importFile);
@@ -70,7 +70,7 @@ void ConfigCheck::checkImportFile()
     checkImportFolder(path);
 }
 
-void ConfigCheck::checkImportFolder(const QString &path)
+void ConfigAssessment::checkImportFolder(const QString &path)
 {
     const QString key = QStringLiteral("importFile");
     const QString folder = QFileInfo(path).absolutePath();
@@ -92,7 +92,7 @@ void ConfigCheck::checkImportFolder(const QString &path)
     }
 }
 
-void ConfigCheck::checkSyncCommand()
+void ConfigAssessment::checkSyncCommand()
 {
     checkSyncCommandRun();
     const QString key = QStringLiteral("syncCommand");
@@ -119,7 +119,7 @@ void ConfigCheck::checkSyncCommand()
     }
 }
 
-void ConfigCheck::checkSyncCommandRun()
+void ConfigAssessment::checkSyncCommandRun()
 {
     const QString key = QStringLiteral("syncCommandRun");
     const quint32 configured = m_settings->value(key, 0).toUInt();

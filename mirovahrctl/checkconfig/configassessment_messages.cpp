@@ -1,8 +1,8 @@
 // The relationship states: group MES.
 
-#include "tools/configcheck.h"
+#include "mirovahrctl/checkconfig/configassessment.h"
 
-#include "tools/sqltext.h"
+#include "mirovahrctl/export/sqlhazards.h"
 
 #include <QSettings>
 
@@ -15,7 +15,7 @@ QString settingsKey(const QString &key)
 
 } // namespace
 
-void ConfigCheck::checkMessages()
+void ConfigAssessment::checkMessages()
 {
     const QStringList keys = Configuration::messageKeys(*m_settings);
     if (keys.isEmpty()) {
@@ -31,7 +31,7 @@ void ConfigCheck::checkMessages()
     checkMessageCollisions(keys);
 }
 
-void ConfigCheck::checkMessageKey(const QString &key)
+void ConfigAssessment::checkMessageKey(const QString &key)
 {
     bool isNumber = false;
     const uint number = key.toUInt(&isNumber, 10);
@@ -48,10 +48,10 @@ void ConfigCheck::checkMessageKey(const QString &key)
     }
 }
 
-void ConfigCheck::checkMessageText(const QString &key)
+void ConfigAssessment::checkMessageText(const QString &key)
 {
     const QString text = m_settings->value(settingsKey(key)).toString();
-    if (!SqlText::breaksStatement(text))
+    if (!SqlHazards::breaksStatement(text))
         return;
     add(Severity::Error, "mes-text-breaks-sql", settingsKey(key),
         QStringLiteral("The text has an apostrophe, a backslash, a digit behind a percent sign or "
@@ -60,7 +60,7 @@ void ConfigCheck::checkMessageText(const QString &key)
         QStringLiteral("Write the text without these characters."));
 }
 
-void ConfigCheck::checkMessageCollisions(const QStringList &keys)
+void ConfigAssessment::checkMessageCollisions(const QStringList &keys)
 {
     QHash<unsigned short, QString> inForce;
     for (const QString &key : keys)

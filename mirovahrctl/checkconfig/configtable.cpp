@@ -1,7 +1,7 @@
-#include "tools/configtable.h"
+#include "mirovahrctl/checkconfig/configtable.h"
 
+#include "mirovahrctl/report/wording.h"
 #include "plugin/configuration.h"
-#include "tools/plaintext.h"
 #include "worker/importfile.h"
 #include "worker/schedule.h"
 
@@ -27,7 +27,7 @@ QString synchronisations(const Configuration &config)
 {
     const quint32 ticks = Schedule::ticksPerSynchronisation(config.syncInterval);
     return QStringLiteral("a synchronisation at the first tick, then every %1, which is %2")
-        .arg(PlainText::counted(ticks, QStringLiteral("tick"), QStringLiteral("ticks")),
+        .arg(Wording::counted(ticks, QStringLiteral("tick"), QStringLiteral("ticks")),
              duration(quint64(ticks) * quint64(tick(config))));
 }
 
@@ -108,7 +108,7 @@ private:
             const unsigned short code = Configuration::messageCode(key);
             add(QStringLiteral("MES/") + key,
                 QStringLiteral("register state %1 is %2")
-                    .arg(QString::number(code), PlainText::quoted(m_config.messages.value(code))));
+                    .arg(QString::number(code), Wording::quoted(m_config.messages.value(code))));
         }
     }
 

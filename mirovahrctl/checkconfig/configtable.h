@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/reportwriter.h"
+#include "mirovahrctl/report/reportwriter.h"
 
 class QSettings;
 struct Configuration;

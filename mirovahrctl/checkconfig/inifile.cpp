@@ -1,4 +1,4 @@
-#include "tools/inifile.h"
+#include "mirovahrctl/checkconfig/inifile.h"
 
 #include <QFile>
 

@@ -1,15 +1,15 @@
-#include "tools/checkdb.h"
+#include "mirovahrctl/checkdb/checkdb.h"
 
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/databaseaccess.h"
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/dbschema.h"
-#include "tools/plaintext.h"
-#include "tools/report.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/site/databaseaccess.h"
+#include "mirovahrctl/site/dbschema.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ DbRules::Account accountOf(const CommandLine &line)
 }
 
 /// False when the content of the tables cannot be looked at.
-bool checkSchema(DbCheck &check, DbRules::Account account)
+bool checkSchema(DbAssessment &check, DbRules::Account account)
 {
     DbSchema schema;
     if (!schema.load(check.database())) {
@@ -45,7 +45,7 @@ bool checkSchema(DbCheck &check, DbRules::Account account)
     return check.breachCount() == breachesBefore;
 }
 
-void checkAll(DbCheck &check, DbRules::Account account)
+void checkAll(DbAssessment &check, DbRules::Account account)
 {
     DbRules::checkServer(check);
     DbRules::checkConnection(check);
@@ -56,13 +56,13 @@ void checkAll(DbCheck &check, DbRules::Account account)
         DbRules::checkContent(check);
 }
 
-QString verdict(const DbCheck &check)
+QString verdict(const DbAssessment &check)
 {
     if (check.isContractBroken()) {
         return QStringLiteral("The plugin cannot work with this database as it should: %1.")
-            .arg(PlainText::counted(check.breachCount(),
-                                    QStringLiteral("thing that it relies on is not so"),
-                                    QStringLiteral("things that it relies on are not so")));
+            .arg(Wording::counted(check.breachCount(),
+                                  QStringLiteral("thing that it relies on is not so"),
+                                  QStringLiteral("things that it relies on are not so")));
     }
     const QString begin = check.isPartlySeen() ? QStringLiteral("As far as this account sees, the")
                                                : QStringLiteral("The");
@@ -78,7 +78,7 @@ QString verdict(const DbCheck &check)
 ExitStatus check(const CommandLine &line, const QSqlDatabase &db, Report &report, Console &console)
 {
     report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
-    DbCheck check(db, report);
+    DbAssessment check(db, report);
     checkAll(check, accountOf(line));
     if (!check.unusable().isEmpty()) {
         return console.fail(

@@ -1,6 +1,6 @@
-#include "tools/dbcheck.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
 
-#include "tools/reportwriter.h"
+#include "mirovahrctl/report/reportwriter.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
@@ -18,13 +18,13 @@ QVariantList valuesOf(const QSqlQuery &query)
 
 } // namespace
 
-DbCheck::DbCheck(const QSqlDatabase &db, ReportWriter &report)
+DbAssessment::DbAssessment(const QSqlDatabase &db, ReportWriter &report)
     : m_db(db)
     , m_report(report)
 {
 }
 
-QVector<QVariantList> DbCheck::rows(const QString &sql)
+QVector<QVariantList> DbAssessment::rows(const QString &sql)
 {
     QVector<QVariantList> rows;
     QSqlQuery query(m_db);
@@ -35,12 +35,12 @@ QVector<QVariantList> DbCheck::rows(const QString &sql)
     return rows;
 }
 
-QVariantList DbCheck::row(const QString &sql)
+QVariantList DbAssessment::row(const QString &sql)
 {
     return rows(sql).value(0);
 }
 
-QSqlError DbCheck::attempt(const QString &sql)
+QSqlError DbAssessment::attempt(const QString &sql)
 {
     QSqlQuery query(m_db);
     query.exec(sql);
@@ -48,27 +48,27 @@ QSqlError DbCheck::attempt(const QString &sql)
     return query.lastError();
 }
 
-void DbCheck::begin(const char *id, const char *heading)
+void DbAssessment::begin(const char *id, const char *heading)
 {
     m_toldInSection = false;
     m_report.section(QString::fromLatin1(id), QString::fromLatin1(heading));
 }
 
-void DbCheck::end(const QString &wellSentence)
+void DbAssessment::end(const QString &wellSentence)
 {
     if (!m_toldInSection)
         m_report.sentence(wellSentence);
 }
 
-void DbCheck::breach(const char *rule, const QString &message, const QString &advice,
-                     const QString &field)
+void DbAssessment::breach(const char *rule, const QString &message, const QString &advice,
+                          const QString &field)
 {
     ++m_breaches;
     tell(Severity::Error, rule, message, advice, field);
 }
 
-void DbCheck::tell(Severity severity, const char *rule, const QString &message,
-                   const QString &advice, const QString &field)
+void DbAssessment::tell(Severity severity, const char *rule, const QString &message,
+                        const QString &advice, const QString &field)
 {
     if (severity != Severity::Note)
         ++m_serious;
@@ -82,7 +82,7 @@ void DbCheck::tell(Severity severity, const char *rule, const QString &message,
     m_report.finding(finding);
 }
 
-void DbCheck::setUnusable(const QString &reason)
+void DbAssessment::setUnusable(const QString &reason)
 {
     if (m_unusable.isEmpty())
         m_unusable = reason;

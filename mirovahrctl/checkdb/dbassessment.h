@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/finding.h"
+#include "mirovahrctl/report/finding.h"
 
 #include <QSqlDatabase>
 #include <QString>
@@ -14,9 +14,9 @@ class ReportWriter;
 ///
 /// A query that must succeed and does not ends the check: unusable() then says why, and whatever
 /// the rules said after it is worth nothing.
-class DbCheck {
+class DbAssessment {
 public:
-    DbCheck(const QSqlDatabase &db, ReportWriter &report);
+    DbAssessment(const QSqlDatabase &db, ReportWriter &report);
 
     QSqlDatabase database() const { return m_db; }
     ReportWriter &report() { return m_report; }

@@ -3,7 +3,7 @@
 #include <QHash>
 #include <QString>
 
-class DbCheck;
+class DbAssessment;
 class DbSchema;
 
 /// The rules of check-db. Each function writes a section of the report.
@@ -16,18 +16,19 @@ enum class Account { OfThePlugin, Another };
 /// Settings of the server by their names, which are in lower case.
 using ServerSettings = QHash<QString, QString>;
 
-void checkServer(DbCheck &check);
-void checkConnection(DbCheck &check);
-void checkTime(DbCheck &check);
-void checkTables(DbCheck &check, const DbSchema &schema);
-void checkColumns(DbCheck &check, const DbSchema &schema);
-void checkKeys(DbCheck &check, const DbSchema &schema);
+void checkServer(DbAssessment &check);
+void checkConnection(DbAssessment &check);
+void checkTime(DbAssessment &check);
+void checkTables(DbAssessment &check, const DbSchema &schema);
+void checkColumns(DbAssessment &check, const DbSchema &schema);
+void checkKeys(DbAssessment &check, const DbSchema &schema);
 /// The settings that decide about tables without a primary key.
-ServerSettings readKeySettings(DbCheck &check);
-void checkKeylessTables(DbCheck &check, const DbSchema &schema, const ServerSettings &settings);
-void checkRoutines(DbCheck &check, Account account);
-void checkRights(DbCheck &check, const DbSchema &schema);
+ServerSettings readKeySettings(DbAssessment &check);
+void checkKeylessTables(DbAssessment &check, const DbSchema &schema,
+                        const ServerSettings &settings);
+void checkRoutines(DbAssessment &check, Account account);
+void checkRights(DbAssessment &check, const DbSchema &schema);
 /// Only for tables that are all there.
-void checkContent(DbCheck &check);
+void checkContent(DbAssessment &check);
 
 } // namespace DbRules

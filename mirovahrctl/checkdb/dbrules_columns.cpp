@@ -1,11 +1,11 @@
 // Columns: they hold what the plugin writes.
 
-#include "tools/columnneeds.h"
-#include "tools/columnrange.h"
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/dbschema.h"
-#include "tools/reportwriter.h"
+#include "mirovahrctl/checkdb/columnneeds.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/site/columnrange.h"
+#include "mirovahrctl/site/dbschema.h"
 
 #include <QDateTime>
 #include <QStringList>
@@ -34,7 +34,8 @@ QString shown(const ColumnRange &range)
         : QStringLiteral("%1 to %2").arg(shown(range.from), shown(range.to));
 }
 
-void wrongKind(DbCheck &check, const QString &field, const DbColumn &column, const QString &kind)
+void wrongKind(DbAssessment &check, const QString &field, const DbColumn &column,
+               const QString &kind)
 {
     check.breach("column-kind",
                  QStringLiteral("The column %1 is %2; the plugin writes %3 into it")
@@ -42,7 +43,7 @@ void wrongKind(DbCheck &check, const QString &field, const DbColumn &column, con
                  QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
 }
 
-void tooNarrow(DbCheck &check, const QString &field, const QString &message)
+void tooNarrow(DbAssessment &check, const QString &field, const QString &message)
 {
     check.tell(Severity::Error, "column-too-narrow",
                message
@@ -82,7 +83,7 @@ QString narrowTime(const QString &field, const DbColumn &column, const ColumnRan
         .arg(field, column.fullType, heldTimes(held, written), meaning);
 }
 
-void checkNumbers(DbCheck &check, const QString &field, const DbColumn &column,
+void checkNumbers(DbAssessment &check, const QString &field, const DbColumn &column,
                   const ColumnRange &written, const QString &meaning, bool isTime)
 {
     const auto held = ColumnRange::of(column);
@@ -95,7 +96,7 @@ void checkNumbers(DbCheck &check, const QString &field, const DbColumn &column,
     }
 }
 
-void checkNull(DbCheck &check, const QString &field, const DbColumn &column)
+void checkNull(DbAssessment &check, const QString &field, const DbColumn &column)
 {
     if (column.nullable)
         return;
@@ -106,7 +107,7 @@ void checkNull(DbCheck &check, const QString &field, const DbColumn &column)
                  QStringLiteral("Allow NULL in the column."), field);
 }
 
-void checkNumber(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Number &need)
+void checkNumber(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Number &need)
 {
     const DbColumn *const column = find(schema, need.table, need.column);
     if (column == nullptr)
@@ -118,7 +119,7 @@ void checkNumber(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Numb
         checkNull(check, field, *column);
 }
 
-void checkReference(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Reference &need)
+void checkReference(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Reference &need)
 {
     const DbColumn *const column = find(schema, need.table, need.column);
     const DbColumn *const owner = find(schema, need.ownerTable, need.ownerColumn);
@@ -136,7 +137,7 @@ bool isText(const DbColumn &column)
         || column.type.endsWith(QLatin1String("text"));
 }
 
-void checkCharset(DbCheck &check, const QString &field, const DbColumn &column)
+void checkCharset(DbAssessment &check, const QString &field, const DbColumn &column)
 {
     if (column.charset.startsWith(QLatin1String("utf8")))
         return;
@@ -148,7 +149,7 @@ void checkCharset(DbCheck &check, const QString &field, const DbColumn &column)
                QStringLiteral("Convert the column to utf8mb4."), field);
 }
 
-void checkText(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Text &need)
+void checkText(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Text &need)
 {
     const DbColumn *const column = find(schema, need.table, need.column);
     if (column == nullptr)
@@ -168,7 +169,7 @@ void checkText(DbCheck &check, const DbSchema &schema, const ColumnNeeds::Text &
     checkCharset(check, field, *column);
 }
 
-void tellWidths(DbCheck &check, const DbSchema &schema)
+void tellWidths(DbAssessment &check, const DbSchema &schema)
 {
     Table table{QStringLiteral("texts"),
                 {{QStringLiteral("column"), QStringLiteral("Text column")},
@@ -187,7 +188,7 @@ void tellWidths(DbCheck &check, const DbSchema &schema)
 
 } // namespace
 
-void DbRules::checkColumns(DbCheck &check, const DbSchema &schema)
+void DbRules::checkColumns(DbAssessment &check, const DbSchema &schema)
 {
     check.begin("columns", "Columns");
     for (const ColumnNeeds::Number &need : ColumnNeeds::kNumbers)

@@ -1,8 +1,8 @@
 // The connection, as its options and the driver make it.
 
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/reportwriter.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/reportwriter.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
@@ -19,7 +19,7 @@ bool isUnicode(const QVariant &charset)
     return charset.toString().startsWith(QLatin1String("utf8"));
 }
 
-void checkCharset(DbCheck &check, const QVariantList &row)
+void checkCharset(DbAssessment &check, const QVariantList &row)
 {
     if (isUnicode(row.value(1)) && isUnicode(row.value(2)) && isUnicode(row.value(3)))
         return;
@@ -30,7 +30,7 @@ void checkCharset(DbCheck &check, const QVariantList &row)
                QStringLiteral("Look for SET NAMES in the server's init_connect."));
 }
 
-void checkSeveralStatements(DbCheck &check)
+void checkSeveralStatements(DbAssessment &check)
 {
     QSqlQuery query(check.database());
     const bool allowed = query.exec(QLatin1String(kTwoStatements)) && query.nextResult();
@@ -59,7 +59,7 @@ bool countsFoundRows(const QString &connectOptions)
     return false;
 }
 
-void checkAffectedRows(DbCheck &check)
+void checkAffectedRows(DbAssessment &check)
 {
     if (!countsFoundRows(check.database().connectOptions()))
         return;
@@ -71,7 +71,7 @@ void checkAffectedRows(DbCheck &check)
 
 } // namespace
 
-void DbRules::checkConnection(DbCheck &check)
+void DbRules::checkConnection(DbAssessment &check)
 {
     const QVariantList row = check.row(QLatin1String(kSelectConnection));
     check.begin("connection", "Connection");

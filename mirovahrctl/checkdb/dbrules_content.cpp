@@ -1,9 +1,9 @@
 // What stands in the tables, as far as the plugin takes it for granted.
 
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/payrollexports.h"
-#include "tools/plaintext.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/site/payrollexports.h"
 
 #include <QStringList>
 
@@ -40,7 +40,7 @@ constexpr int kMostShown = 10;
 constexpr uint kLargestFund = 65535;
 
 /// The first column of all rows.
-QStringList firstColumn(DbCheck &check, const char *sql)
+QStringList firstColumn(DbAssessment &check, const char *sql)
 {
     QStringList values;
     const QVector<QVariantList> rows = check.rows(QLatin1String(sql));
@@ -57,7 +57,7 @@ QString shown(const QStringList &values)
     return text;
 }
 
-void checkVacationFund(DbCheck &check)
+void checkVacationFund(DbAssessment &check)
 {
     const QStringList funds = firstColumn(check, kSelectVacationFunds);
     if (funds.isEmpty()) {
@@ -80,7 +80,7 @@ void checkVacationFund(DbCheck &check)
     }
 }
 
-void checkPayrollExport(DbCheck &check)
+void checkPayrollExport(DbAssessment &check)
 {
     const QStringList exports = payrollExports(check.database());
     if (exports.size() == 1)
@@ -97,7 +97,7 @@ void checkPayrollExport(DbCheck &check)
 }
 
 /// A rule about rows that must not be; \a message has one place for them.
-void checkNone(DbCheck &check, const char *sql, Severity severity, const char *rule,
+void checkNone(DbAssessment &check, const char *sql, Severity severity, const char *rule,
                const char *message, const char *advice, const char *field)
 {
     const QStringList rows = firstColumn(check, sql);
@@ -107,7 +107,7 @@ void checkNone(DbCheck &check, const char *sql, Severity severity, const char *r
                QString::fromLatin1(advice), QString::fromLatin1(field));
 }
 
-void checkBranches(DbCheck &check)
+void checkBranches(DbAssessment &check)
 {
     checkNone(check, kSelectTwiceNumbers, Severity::Warning, "branch-number-twice",
               "Several branches have the same number: %1. People of that cost centre go to any of "
@@ -122,7 +122,7 @@ void checkBranches(DbCheck &check)
               "Leave one group to a calendar in each master group.", "groups.calendarID");
 }
 
-void checkAdministrators(DbCheck &check)
+void checkAdministrators(DbAssessment &check)
 {
     checkNone(check, kSelectLargeAdministrators, Severity::Warning, "admin-id-large",
               "The ids of these administrators do not fit 16 bits: %1. The plugin writes them "
@@ -135,7 +135,7 @@ void checkAdministrators(DbCheck &check)
               "Leave the number to one administrator.", "admins.personalNumber");
 }
 
-void checkPeople(DbCheck &check)
+void checkPeople(DbAssessment &check)
 {
     checkNone(
         check, kSelectStrangePayrollIds, Severity::Warning, "payroll-id-strange",
@@ -146,24 +146,24 @@ void checkPeople(DbCheck &check)
         "people.pamId");
 }
 
-void checkSelectionWidth(DbCheck &check)
+void checkSelectionWidth(DbAssessment &check)
 {
     const qint64 needed = check.row(QLatin1String(kSelectSelectionLength)).value(0).toLongLong();
     const qint64 width = check.row(QLatin1String(kSelectValueLength)).value(0).toLongLong();
     if (needed <= width)
         return;
-    check.tell(Severity::Warning, "selection-width",
-               QStringLiteral("The column vars.value holds %1; the selection of the payroll export "
-                              "would need %2 for everybody who is active")
-                   .arg(PlainText::counted(width, QStringLiteral("character"),
-                                           QStringLiteral("characters")),
-                        QString::number(needed)),
-               QStringLiteral("Make the column a MEDIUMTEXT."), QStringLiteral("vars.value"));
+    check.tell(
+        Severity::Warning, "selection-width",
+        QStringLiteral("The column vars.value holds %1; the selection of the payroll export "
+                       "would need %2 for everybody who is active")
+            .arg(Wording::counted(width, QStringLiteral("character"), QStringLiteral("characters")),
+                 QString::number(needed)),
+        QStringLiteral("Make the column a MEDIUMTEXT."), QStringLiteral("vars.value"));
 }
 
 } // namespace
 
-void DbRules::checkContent(DbCheck &check)
+void DbRules::checkContent(DbAssessment &check)
 {
     check.begin("content", "Content");
     checkVacationFund(check);

@@ -1,9 +1,9 @@
 // Tables without a primary key: servers can be set to refuse them.
 
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/dbschema.h"
-#include "tools/pluginrights.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/site/dbschema.h"
 
 #include <algorithm>
 #include <optional>
@@ -59,7 +59,7 @@ std::optional<Refusal> refusalOfTemporaryTable(const ServerSettings &settings)
     return std::nullopt;
 }
 
-void checkTemporaryTable(DbCheck &check, const ServerSettings &settings)
+void checkTemporaryTable(DbAssessment &check, const ServerSettings &settings)
 {
     const auto refusal = refusalOfTemporaryTable(settings);
     if (!refusal)
@@ -85,7 +85,7 @@ bool hasPrimaryKey(const DbSchema &schema, const QString &table)
     });
 }
 
-void checkWrites(DbCheck &check, const DbSchema &schema, const ServerSettings &settings)
+void checkWrites(DbAssessment &check, const DbSchema &schema, const ServerSettings &settings)
 {
     if (!isOn(settings, "wsrep_on") || isOn(settings, "wsrep_certify_nonpk"))
         return;
@@ -111,7 +111,7 @@ void checkWrites(DbCheck &check, const DbSchema &schema, const ServerSettings &s
 
 } // namespace
 
-DbRules::ServerSettings DbRules::readKeySettings(DbCheck &check)
+DbRules::ServerSettings DbRules::readKeySettings(DbAssessment &check)
 {
     ServerSettings settings;
     const QVector<QVariantList> rows = check.rows(QLatin1String(kSelectSettings));
@@ -120,7 +120,7 @@ DbRules::ServerSettings DbRules::readKeySettings(DbCheck &check)
     return settings;
 }
 
-void DbRules::checkKeylessTables(DbCheck &check, const DbSchema &schema,
+void DbRules::checkKeylessTables(DbAssessment &check, const DbSchema &schema,
                                  const ServerSettings &settings)
 {
     check.begin("keyless-tables", "Tables without a primary key");

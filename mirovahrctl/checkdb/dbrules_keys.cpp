@@ -1,10 +1,10 @@
 // Unique keys: an upsert must hit the row that it means, and no other.
 
 #include "db/tepdbcontract.h"
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/dbschema.h"
-#include "tools/pluginrights.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/site/dbschema.h"
 
 #include <QSet>
 
@@ -34,7 +34,7 @@ QString listed(const Columns &columns)
 /// The keys of one table that the contract names.
 class KeyCheck {
 public:
-    KeyCheck(DbCheck &check, const DbSchema &schema, const TepDbContract::Table &table)
+    KeyCheck(DbAssessment &check, const DbSchema &schema, const TepDbContract::Table &table)
         : m_check(check)
         , m_table(QString::fromLatin1(table.name))
         , m_contract(table)
@@ -141,14 +141,15 @@ private:
                      QStringLiteral("Make it a key that is not unique."), m_table);
     }
 
-    DbCheck &m_check;
+    DbAssessment &m_check;
     const QString m_table;
     const TepDbContract::Table &m_contract;
     const DbSchema &m_schema;
     const QVector<DbKey> m_keys;
 };
 
-void checkAutomaticNumber(DbCheck &check, const DbSchema &schema, const TepDbContract::Table &table)
+void checkAutomaticNumber(DbAssessment &check, const DbSchema &schema,
+                          const TepDbContract::Table &table)
 {
     const QString name = QString::fromLatin1(table.name);
     const DbColumn *const column = schema.column(name, QString::fromLatin1(table.generatedColumn));
@@ -163,7 +164,7 @@ void checkAutomaticNumber(DbCheck &check, const DbSchema &schema, const TepDbCon
 
 } // namespace
 
-void DbRules::checkKeys(DbCheck &check, const DbSchema &schema)
+void DbRules::checkKeys(DbAssessment &check, const DbSchema &schema)
 {
     check.begin("keys", "Unique keys");
     for (const TepDbContract::Table &table : TepDbContract::kTables) {

@@ -1,9 +1,9 @@
 // The rights of the account: enough, and not far more than enough.
 
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/dbschema.h"
-#include "tools/pluginrights.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/site/dbschema.h"
 
 #include <QStringList>
 
@@ -20,8 +20,8 @@ constexpr char kSelectOnDatabases[] = "SELECT PRIVILEGE_TYPE FROM"
                                       " information_schema.SCHEMA_PRIVILEGES WHERE %1"
                                       " ORDER BY TABLE_SCHEMA, PRIVILEGE_TYPE";
 
-void checkRight(DbCheck &check, const DbSchema &schema, const char *right, const QString &table,
-                const QStringList &columns)
+void checkRight(DbAssessment &check, const DbSchema &schema, const char *right,
+                const QString &table, const QStringList &columns)
 {
     QStringList missing;
     for (const QString &name : columns) {
@@ -39,7 +39,8 @@ void checkRight(DbCheck &check, const DbSchema &schema, const char *right, const
                  table);
 }
 
-void checkTable(DbCheck &check, const DbSchema &schema, const PluginRights::TableRights &rights)
+void checkTable(DbAssessment &check, const DbSchema &schema,
+                const PluginRights::TableRights &rights)
 {
     const QString table = QString::fromLatin1(rights.table);
     checkRight(check, schema, "select", table, PluginRights::names(rights.select));
@@ -47,7 +48,7 @@ void checkTable(DbCheck &check, const DbSchema &schema, const PluginRights::Tabl
     checkRight(check, schema, "update", table, PluginRights::names(rights.update));
 }
 
-QStringList granted(DbCheck &check, const char *sql)
+QStringList granted(DbAssessment &check, const char *sql)
 {
     QStringList rights;
     const QVector<QVariantList> rows =
@@ -58,7 +59,7 @@ QStringList granted(DbCheck &check, const char *sql)
     return rights;
 }
 
-void checkExcess(DbCheck &check, const char *sql, const QString &where)
+void checkExcess(DbAssessment &check, const char *sql, const QString &where)
 {
     const QStringList rights = granted(check, sql);
     if (rights.isEmpty())
@@ -74,7 +75,7 @@ void checkExcess(DbCheck &check, const char *sql, const QString &where)
 
 } // namespace
 
-void DbRules::checkRights(DbCheck &check, const DbSchema &schema)
+void DbRules::checkRights(DbAssessment &check, const DbSchema &schema)
 {
     check.begin("rights", "Rights of the account");
     for (const PluginRights::TableRights &rights : PluginRights::kTables)

@@ -1,7 +1,7 @@
 // The four routines: there, allowed, and doing what the plugin takes for granted.
 
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
 
 #include <QDate>
 #include <QSqlError>
@@ -48,7 +48,7 @@ const QStringList kStoppedWrite{QStringLiteral("1792"), QStringLiteral("1290")};
 const QString kAdvice = QStringLiteral("Compare it with reference-db/routines.sql.");
 
 /// What is wrong with a routine that cannot be called.
-void tellFailure(DbCheck &check, const QString &name, const QSqlError &error)
+void tellFailure(DbAssessment &check, const QString &name, const QSqlError &error)
 {
     const QString code = error.nativeErrorCode();
     if (code == kNoSuchFunction || code == kDenied) {
@@ -69,8 +69,8 @@ void tellFailure(DbCheck &check, const QString &name, const QSqlError &error)
     }
 }
 
-void tellWrong(DbCheck &check, const QString &name, const QString &call, const QVariant &result,
-               const QVariant &expected)
+void tellWrong(DbAssessment &check, const QString &name, const QString &call,
+               const QVariant &result, const QVariant &expected)
 {
     const auto shown = [](const QVariant &value) {
         return value.isNull() ? QStringLiteral("NULL") : value.toString();
@@ -106,7 +106,7 @@ QString moments()
 }
 
 /// False when there is something to tell.
-bool checkTimeFunction(DbCheck &check, const char *name, const char *expected)
+bool checkTimeFunction(DbAssessment &check, const char *name, const char *expected)
 {
     const QString function = QString::fromLatin1(name);
     const QString sql =
@@ -124,7 +124,7 @@ bool checkTimeFunction(DbCheck &check, const char *name, const char *expected)
     return false;
 }
 
-void checkMonthFunction(DbCheck &check)
+void checkMonthFunction(DbAssessment &check)
 {
     const QString function = QStringLiteral("monthFromTimestamp");
     if (!checkTimeFunction(check, "monthFromTimestamp", kMonth))
@@ -143,7 +143,7 @@ void checkMonthFunction(DbCheck &check)
                function);
 }
 
-void checkGroupFunction(DbCheck &check)
+void checkGroupFunction(DbAssessment &check)
 {
     const QString function = QStringLiteral("getCurrentGid");
     const QSqlError error = check.attempt(QLatin1String(kSelectGidOfNobody));
@@ -167,7 +167,7 @@ void checkGroupFunction(DbCheck &check)
     }
 }
 
-void callProcedure(DbCheck &check)
+void callProcedure(DbAssessment &check)
 {
     const QSqlError error = check.attempt(QLatin1String(kCallProcedure));
     if (error.isValid() && !kStoppedWrite.contains(error.nativeErrorCode()))
@@ -175,7 +175,7 @@ void callProcedure(DbCheck &check)
 }
 
 /// For an account that may not call what writes.
-void lookForProcedure(DbCheck &check)
+void lookForProcedure(DbAssessment &check)
 {
     const QString name = QStringLiteral("updateTermsSync");
     const QVector<QVariantList> routines = check.rows(QLatin1String(kSelectRoutines));
@@ -188,7 +188,7 @@ void lookForProcedure(DbCheck &check)
 
 } // namespace
 
-void DbRules::checkRoutines(DbCheck &check, Account account)
+void DbRules::checkRoutines(DbAssessment &check, Account account)
 {
     check.begin("routines", "Routines");
     checkTimeFunction(check, "midnightFromTs", kMidnight);

@@ -1,9 +1,9 @@
 // The server: what it is, its SQL mode, whether it takes writes.
 
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/reportwriter.h"
-#include "tools/serverversion.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/site/serverversion.h"
 
 #include <QStringList>
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr char kSelectServer[] = "SELECT VERSION(), @@SESSION.sql_mode, @@GLOBAL.read_only";
 
-void checkVersion(DbCheck &check, const ServerVersion &version)
+void checkVersion(DbAssessment &check, const ServerVersion &version)
 {
     if (!version.reservesGroups())
         return;
@@ -23,7 +23,7 @@ void checkVersion(DbCheck &check, const ServerVersion &version)
                  QStringLiteral("Use MariaDB, or MySQL up to 5.7."));
 }
 
-void checkWritable(DbCheck &check, const QString &readOnly)
+void checkWritable(DbAssessment &check, const QString &readOnly)
 {
     if (readOnly == QLatin1String("0") || readOnly == QLatin1String("OFF"))
         return;
@@ -32,7 +32,7 @@ void checkWritable(DbCheck &check, const QString &readOnly)
                  QStringLiteral("Name the server that takes writes; a replica does not."));
 }
 
-void checkFatalModes(DbCheck &check, const QStringList &modes)
+void checkFatalModes(DbAssessment &check, const QStringList &modes)
 {
     const QString advice =
         QStringLiteral("Take the mode out of the server's sql_mode, or out of that of the "
@@ -53,7 +53,7 @@ void checkFatalModes(DbCheck &check, const QStringList &modes)
     }
 }
 
-void checkOtherModes(DbCheck &check, const QStringList &modes)
+void checkOtherModes(DbAssessment &check, const QStringList &modes)
 {
     if (!modes.contains(QLatin1String("STRICT_TRANS_TABLES"))
         && !modes.contains(QLatin1String("STRICT_ALL_TABLES"))) {
@@ -74,7 +74,7 @@ void checkOtherModes(DbCheck &check, const QStringList &modes)
 
 } // namespace
 
-void DbRules::checkServer(DbCheck &check)
+void DbRules::checkServer(DbAssessment &check)
 {
     const QVariantList row = check.row(QLatin1String(kSelectServer));
     const ServerVersion version = ServerVersion::parse(row.value(0).toString());

@@ -1,10 +1,10 @@
 // Tables and columns: there, and filled by the server where the plugin leaves them out.
 
 #include "db/tepdbcontract.h"
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/dbschema.h"
-#include "tools/pluginrights.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/site/dbschema.h"
 
 #include <QSqlError>
 
@@ -18,7 +18,7 @@ const QString kCreateAdvice = QStringLiteral(
 /// the plugin use.
 class NameCheck {
 public:
-    NameCheck(DbCheck &check, const DbSchema &schema)
+    NameCheck(DbAssessment &check, const DbSchema &schema)
         : m_check(check)
         , m_schema(schema)
     {
@@ -69,12 +69,12 @@ private:
             kCreateAdvice, field);
     }
 
-    DbCheck &m_check;
+    DbAssessment &m_check;
     const DbSchema &m_schema;
     QStringList m_missingElsewhere;
 };
 
-void tellMissingElsewhere(DbCheck &check, const QStringList &names)
+void tellMissingElsewhere(DbAssessment &check, const QStringList &names)
 {
     if (names.isEmpty())
         return;
@@ -86,7 +86,7 @@ void tellMissingElsewhere(DbCheck &check, const QStringList &names)
 }
 
 /// Columns that the site added and that keep every insert from succeeding.
-void checkLeftOutColumns(DbCheck &check, const DbSchema &schema,
+void checkLeftOutColumns(DbAssessment &check, const DbSchema &schema,
                          const PluginRights::TableRights &rights)
 {
     const QString table = QString::fromLatin1(rights.table);
@@ -108,7 +108,7 @@ void checkLeftOutColumns(DbCheck &check, const DbSchema &schema,
     }
 }
 
-void checkInserts(DbCheck &check, const DbSchema &schema)
+void checkInserts(DbAssessment &check, const DbSchema &schema)
 {
     for (const PluginRights::TableRights &rights : PluginRights::kTables) {
         if (PluginRights::insertsInto(QString::fromLatin1(rights.table)))
@@ -116,13 +116,13 @@ void checkInserts(DbCheck &check, const DbSchema &schema)
     }
 }
 
-bool seesAllColumns(DbCheck &check, const QString &table)
+bool seesAllColumns(DbAssessment &check, const QString &table)
 {
     return !check.attempt(QStringLiteral("SELECT * FROM `%1` LIMIT 0").arg(table)).isValid();
 }
 
 /// The server hides the columns that an account has no right to, and the keys on them.
-void noteHiddenColumns(DbCheck &check, const DbSchema &schema)
+void noteHiddenColumns(DbAssessment &check, const DbSchema &schema)
 {
     QStringList tables;
     for (const PluginRights::TableRights &rights : PluginRights::kTables) {
@@ -144,7 +144,7 @@ void noteHiddenColumns(DbCheck &check, const DbSchema &schema)
                               "mirovahrctl, and --other-account."));
 }
 
-void checkStatusOfNewPeople(DbCheck &check, const DbSchema &schema)
+void checkStatusOfNewPeople(DbAssessment &check, const DbSchema &schema)
 {
     const DbColumn *const status =
         schema.column(QStringLiteral("people"), QStringLiteral("status"));
@@ -157,7 +157,7 @@ void checkStatusOfNewPeople(DbCheck &check, const DbSchema &schema)
                  QStringLiteral("people.status"));
 }
 
-void checkUndoing(DbCheck &check, const DbSchema &schema)
+void checkUndoing(DbAssessment &check, const DbSchema &schema)
 {
     const QString table = QStringLiteral("admins_people");
     if (!schema.hasTable(table) || schema.isTransactional(table))
@@ -172,7 +172,7 @@ void checkUndoing(DbCheck &check, const DbSchema &schema)
 
 } // namespace
 
-void DbRules::checkTables(DbCheck &check, const DbSchema &schema)
+void DbRules::checkTables(DbAssessment &check, const DbSchema &schema)
 {
     check.begin("tables", "Tables");
     NameCheck names(check, schema);

@@ -1,10 +1,10 @@
 // Time: the plugin and the server's functions must mean the same by a midnight.
 
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/midnights.h"
-#include "tools/plaintext.h"
-#include "tools/reportwriter.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/site/midnights.h"
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -18,13 +18,13 @@ constexpr char kSelectZone[] = "SELECT @@SESSION.time_zone, @@system_time_zone, 
 constexpr qint64 kClockTolerance = 60;
 
 /// Invalid when there is none.
-QDate dayThatDiffers(DbCheck &check)
+QDate dayThatDiffers(DbAssessment &check)
 {
     const QVector<QDate> days = Midnights::daysToCompare(QDate::currentDate());
     return Midnights::differing(days, check.row(Midnights::query(days)));
 }
 
-void checkMidnights(DbCheck &check, const QString &serverZone, const QString &ownZone)
+void checkMidnights(DbAssessment &check, const QString &serverZone, const QString &ownZone)
 {
     const QDate day = dayThatDiffers(check);
     if (!day.isValid())
@@ -39,23 +39,23 @@ void checkMidnights(DbCheck &check, const QString &serverZone, const QString &ow
                                 "such as +01:00 knows no daylight saving."));
 }
 
-void checkClock(DbCheck &check, qint64 serverNow)
+void checkClock(DbAssessment &check, qint64 serverNow)
 {
     const qint64 ahead = serverNow - QDateTime::currentSecsSinceEpoch();
     if (qAbs(ahead) <= kClockTolerance)
         return;
-    check.tell(Severity::Warning, "clock",
-               QStringLiteral("The server's clock is %1 %2 this machine's")
-                   .arg(PlainText::counted(qAbs(ahead), QStringLiteral("second"),
-                                           QStringLiteral("seconds")),
-                        ahead > 0 ? QStringLiteral("ahead of") : QStringLiteral("behind")),
-               QStringLiteral("Let both follow the same time server: the plugin compares times of "
-                              "the one with times of the other."));
+    check.tell(
+        Severity::Warning, "clock",
+        QStringLiteral("The server's clock is %1 %2 this machine's")
+            .arg(Wording::counted(qAbs(ahead), QStringLiteral("second"), QStringLiteral("seconds")),
+                 ahead > 0 ? QStringLiteral("ahead of") : QStringLiteral("behind")),
+        QStringLiteral("Let both follow the same time server: the plugin compares times of "
+                       "the one with times of the other."));
 }
 
 } // namespace
 
-void DbRules::checkTime(DbCheck &check)
+void DbRules::checkTime(DbAssessment &check)
 {
     const QVariantList row = check.row(QLatin1String(kSelectZone));
     const QString setting = row.value(0).toString();

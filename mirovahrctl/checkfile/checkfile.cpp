@@ -1,15 +1,15 @@
-#include "tools/checkfile.h"
+#include "mirovahrctl/checkfile/checkfile.h"
 
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/databaseaccess.h"
-#include "tools/exportcheck.h"
-#include "tools/plaintext.h"
-#include "tools/progress.h"
-#include "tools/rejectsfile.h"
-#include "tools/report.h"
+#include "mirovahrctl/export/exportscan.h"
+#include "mirovahrctl/export/rejectsfile.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/progress.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/site/databaseaccess.h"
 #include "worker/importfile.h"
 
 #include <QFile>
@@ -35,11 +35,11 @@ private:
     std::optional<ExitStatus> readWidths();
     bool isExport(const QString &path) const;
     std::optional<ExitStatus> openExport();
-    bool check(ExportCheck &check);
+    bool check(ExportScan &check);
     void report(const CheckedLine &line);
     void report(const Finding &finding);
-    void conclude(const ExportCheck &check);
-    ExitStatus commit(const ExportCheck::Counts &counts);
+    void conclude(const ExportScan &check);
+    ExitStatus commit(const ExportScan::Counts &counts);
     ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
@@ -49,7 +49,7 @@ private:
     RejectsFile m_rejects;
     const bool m_wantsRejects;
     Report m_report;
-    TextWidths m_widths;
+    ColumnWidths m_widths;
     QMap<QString, qint64> m_countByRule;
 };
 
@@ -64,7 +64,7 @@ Table ruleTable(const QMap<QString, qint64> &countByRule)
     return table;
 }
 
-QString verdict(const ExportCheck::Counts &counts, ExitStatus status)
+QString verdict(const ExportScan::Counts &counts, ExitStatus status)
 {
     if (status == ExitStatus::Fine)
         return QStringLiteral("The export is fine.");
@@ -73,7 +73,7 @@ QString verdict(const ExportCheck::Counts &counts, ExitStatus status)
                               "should be.");
     return QStringLiteral("%1 of the export %2 not arrive as %3 should; the plugin drops %4 of "
                           "them.")
-        .arg(PlainText::counted(counts.rejected, QStringLiteral("line"), QStringLiteral("lines")),
+        .arg(Wording::counted(counts.rejected, QStringLiteral("line"), QStringLiteral("lines")),
              counts.rejected == 1 ? QStringLiteral("does") : QStringLiteral("do"),
              counts.rejected == 1 ? QStringLiteral("it") : QStringLiteral("they"),
              QString::number(counts.dropped));
@@ -93,7 +93,7 @@ ExitStatus CheckFileRun::run()
 {
     if (const auto end = prepare())
         return *end;
-    ExportCheck exportCheck(m_file, m_widths);
+    ExportScan exportCheck(m_file, m_widths);
     m_report.begin(m_line.subcommand(), QStringLiteral("HR export %1").arg(m_path));
     if (!check(exportCheck)) {
         return fail(ExitStatus::Usage,
@@ -153,13 +153,13 @@ std::optional<ExitStatus> CheckFileRun::readWidths()
     const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
     if (!database)
         return fail(ExitStatus::NoDatabase, error);
-    m_widths = readTextWidths(database->handle(), error);
+    m_widths = readColumnWidths(database->handle(), error);
     if (m_widths.isEmpty())
         return fail(ExitStatus::ContractBroken, error);
     return std::nullopt;
 }
 
-bool CheckFileRun::check(ExportCheck &check)
+bool CheckFileRun::check(ExportScan &check)
 {
     Progress progress(m_console, QStringLiteral("Checking the export"));
     check.setProgressListener(
@@ -183,7 +183,7 @@ void CheckFileRun::report(const Finding &finding)
     m_report.finding(finding);
 }
 
-void CheckFileRun::conclude(const ExportCheck &check)
+void CheckFileRun::conclude(const ExportScan &check)
 {
     const QVector<Finding> findings = check.fileFindings();
     for (const Finding &finding : findings)
@@ -191,7 +191,7 @@ void CheckFileRun::conclude(const ExportCheck &check)
     m_report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
     if (!m_countByRule.isEmpty())
         m_report.table(ruleTable(m_countByRule));
-    const ExportCheck::Counts &counts = check.counts();
+    const ExportScan::Counts &counts = check.counts();
     m_report.fact(QStringLiteral("lines"), QStringLiteral("Lines"), counts.lines);
     m_report.fact(QStringLiteral("records"), QStringLiteral("Read as people"), counts.records);
     m_report.fact(QStringLiteral("dropped"), QStringLiteral("Dropped by the plugin"),
@@ -200,7 +200,7 @@ void CheckFileRun::conclude(const ExportCheck &check)
                   counts.rejected);
 }
 
-ExitStatus CheckFileRun::commit(const ExportCheck::Counts &counts)
+ExitStatus CheckFileRun::commit(const ExportScan::Counts &counts)
 {
     if (m_wantsRejects && !m_rejects.commit()) {
         return fail(ExitStatus::Usage,

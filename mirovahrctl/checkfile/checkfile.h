@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/exitstatus.h"
+#include "mirovahrctl/report/exitstatus.h"
 
 #include <QStringList>
 

@@ -1,21 +1,21 @@
-#include "tools/explain.h"
+#include "mirovahrctl/explain/explain.h"
 
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
+#include "mirovahrctl/explain/peoplelist.h"
+#include "mirovahrctl/explain/peoplesearch.h"
+#include "mirovahrctl/explain/personexplanation.h"
+#include "mirovahrctl/explain/personid.h"
+#include "mirovahrctl/explain/personlines.h"
+#include "mirovahrctl/pluginside/forceflag.h"
+#include "mirovahrctl/pluginside/pluginview.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/site/databaseaccess.h"
+#include "mirovahrctl/site/midnights.h"
+#include "mirovahrctl/site/sqlsession.h"
 #include "plugin/configuration.h"
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/databaseaccess.h"
-#include "tools/forceflag.h"
-#include "tools/midnights.h"
-#include "tools/peoplelist.h"
-#include "tools/peoplesearch.h"
-#include "tools/personexplanation.h"
-#include "tools/pluginview.h"
-#include "tools/report.h"
-#include "tools/soughtlines.h"
-#include "tools/soughtperson.h"
-#include "tools/sqlsession.h"
 
 #include <QFileInfo>
 #include <QSettings>
@@ -57,11 +57,11 @@ private:
     const CommandLine &m_line;
     Console &m_console;
     Report m_report;
-    std::optional<SoughtPerson> m_person;
+    std::optional<PersonId> m_person;
     std::optional<PeopleSearch> m_search; ///< when there is no person yet
     ExplainedSource m_source;
     Configuration m_configuration;
-    std::optional<SoughtLines> m_lines;
+    std::optional<PersonLines> m_lines;
 };
 
 ExitStatus ExplainRun::run()
@@ -93,7 +93,7 @@ std::optional<ExitStatus> ExplainRun::prepare()
 std::optional<ExitStatus> ExplainRun::readPerson()
 {
     const QString text = m_line.argument(0);
-    m_person = SoughtPerson::parse(text);
+    m_person = PersonId::parse(text);
     if (!m_person)
         m_search = PeopleSearch::parse(text);
     if (m_person || m_search)
@@ -197,7 +197,7 @@ std::optional<ExitStatus> ExplainRun::readExport(const QSqlDatabase &site)
     if (!hasExport())
         return std::nullopt;
     QString error;
-    const TextWidths widths = readTextWidths(site, error);
+    const ColumnWidths widths = readColumnWidths(site, error);
     if (widths.isEmpty())
         return fail(ExitStatus::ContractBroken, error);
     m_lines.emplace(*m_person);

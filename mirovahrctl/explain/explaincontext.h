@@ -1,9 +1,9 @@
 #pragma once
 
+#include "mirovahrctl/explain/personstate.h"
+#include "mirovahrctl/pluginside/pluginview.h"
+#include "mirovahrctl/program/report.h"
 #include "plugin/configuration.h"
-#include "tools/personstate.h"
-#include "tools/pluginview.h"
-#include "tools/report.h"
 
 /// What the explanation of one person has in hand.
 struct ExplainContext {

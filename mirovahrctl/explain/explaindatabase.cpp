@@ -1,8 +1,8 @@
-#include "tools/explaindatabase.h"
+#include "mirovahrctl/explain/explaindatabase.h"
 
-#include "tools/explaincontext.h"
-#include "tools/explaintext.h"
-#include "tools/rowfields.h"
+#include "mirovahrctl/explain/explaincontext.h"
+#include "mirovahrctl/explain/phrases.h"
+#include "mirovahrctl/explain/rowfields.h"
 
 namespace {
 
@@ -38,12 +38,12 @@ void tellRow(ExplainContext &context)
                  row.active ? QStringLiteral("active") : QStringLiteral("not active")));
     QString history = row.created == 0
         ? QStringLiteral("It is not known when the row was created.")
-        : QStringLiteral("The row was created on %1.").arg(ExplainText::day(row.created));
+        : QStringLiteral("The row was created on %1.").arg(Phrases::day(row.created));
     if (row.edited != 0) {
         history += QStringLiteral(" %1 changed it last, on %2.")
                        .arg(row.editedByPlugin ? QStringLiteral("The plugin")
                                                : QStringLiteral("An administrator"),
-                            ExplainText::day(row.edited));
+                            Phrases::day(row.edited));
     }
     context.report.sentence(history);
 }
@@ -70,17 +70,17 @@ void tellRecognition(ExplainContext &context)
     const auto &known = context.person.known();
     const bool seesRow = row && row->active;
     if (known && !seesRow) {
-        ExplainText::tell(context.report, Severity::Warning, "payroll-id-strange",
-                          QStringLiteral("An active row with another pid has the payroll id %1. "
-                                         "The plugin takes it for this person, but writes by pid: "
-                                         "it changes nobody, or somebody else.")
-                              .arg(known->getPamId()),
-                          QStringLiteral("Set pid and pamId of that row right."));
+        Phrases::tell(context.report, Severity::Warning, "payroll-id-strange",
+                      QStringLiteral("An active row with another pid has the payroll id %1. "
+                                     "The plugin takes it for this person, but writes by pid: "
+                                     "it changes nobody, or somebody else.")
+                          .arg(known->getPamId()),
+                      QStringLiteral("Set pid and pamId of that row right."));
     } else if (seesRow && !known) {
-        ExplainText::tell(context.report, Severity::Warning, "payroll-id-strange",
-                          QStringLiteral("The payroll id of the row makes another pid: the plugin "
-                                         "does not recognise the person in it."),
-                          QStringLiteral("Set pamId of the row right."));
+        Phrases::tell(context.report, Severity::Warning, "payroll-id-strange",
+                      QStringLiteral("The payroll id of the row makes another pid: the plugin "
+                                     "does not recognise the person in it."),
+                      QStringLiteral("Set pamId of the row right."));
     } else if (row && !row->active) {
         context.report.sentence(
             QStringLiteral("The plugin sees active people only: to it, nobody is there."));

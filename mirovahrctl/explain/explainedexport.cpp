@@ -1,10 +1,10 @@
-#include "tools/explainedexport.h"
+#include "mirovahrctl/explain/explainedexport.h"
 
+#include "mirovahrctl/gatestate/gatecopies.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
+#include "mirovahrctl/gatestate/gateoptions.h"
+#include "mirovahrctl/gatestate/gaterecord.h"
 #include "plugin/configuration.h"
-#include "tools/gatecopies.h"
-#include "tools/gatefolder.h"
-#include "tools/gateoptions.h"
-#include "tools/gaterecord.h"
 #include "worker/importfile.h"
 
 #include <QDir>

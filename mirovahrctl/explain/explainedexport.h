@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/gatestatus.h"
+#include "mirovahrctl/gatestate/gatestatus.h"
 
 #include <QFile>
 #include <QString>

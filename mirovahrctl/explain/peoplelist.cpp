@@ -1,9 +1,9 @@
-#include "tools/peoplelist.h"
+#include "mirovahrctl/explain/peoplelist.h"
 
-#include "tools/explaintext.h"
-#include "tools/peoplesearch.h"
-#include "tools/plaintext.h"
-#include "tools/report.h"
+#include "mirovahrctl/explain/peoplesearch.h"
+#include "mirovahrctl/explain/phrases.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/wording.h"
 
 namespace {
 
@@ -19,12 +19,12 @@ QVariantList row(const FoundPerson &found)
 
 void reportNobody(const PeopleSearch &search, Report &report)
 {
-    ExplainText::tell(report, Severity::Warning, "nobody-found",
-                      QStringLiteral("Nobody in the export or in the database has this name, "
-                                     "personal number or pid: %1.")
-                          .arg(PlainText::quoted(search.text())),
-                      QStringLiteral("Check the spelling, and whether HR's export has ever named "
-                                     "the person."));
+    Phrases::tell(report, Severity::Warning, "nobody-found",
+                  QStringLiteral("Nobody in the export or in the database has this name, "
+                                 "personal number or pid: %1.")
+                      .arg(Wording::quoted(search.text())),
+                  QStringLiteral("Check the spelling, and whether HR's export has ever named "
+                                 "the person."));
 }
 
 void reportPeople(const PeopleSearch &search, Report &report)
@@ -43,11 +43,11 @@ void reportPeople(const PeopleSearch &search, Report &report)
         report.sentence(
             QStringLiteral("There are more; these are the first %1.").arg(PeopleSearch::kMost));
     }
-    ExplainText::tell(report, Severity::Warning, "person-ambiguous",
-                      QStringLiteral("This does not name one person that can be explained."),
-                      QStringLiteral("Name one by the first column of the table; who has nothing "
-                                     "there stands in a line without numbers, which the plugin "
-                                     "drops."));
+    Phrases::tell(report, Severity::Warning, "person-ambiguous",
+                  QStringLiteral("This does not name one person that can be explained."),
+                  QStringLiteral("Name one by the first column of the table; who has nothing "
+                                 "there stands in a line without numbers, which the plugin "
+                                 "drops."));
 }
 
 } // namespace
@@ -64,12 +64,12 @@ QString listPeople(const PeopleSearch &search, Report &report)
         report.sentence(
             QStringLiteral("%1 of the export cannot be read so far as to say whom they are about, "
                            "and the plugin drops them: see check-file.")
-                .arg(PlainText::counted(search.unreadableLines(), QStringLiteral("line"),
-                                        QStringLiteral("lines"))));
+                .arg(Wording::counted(search.unreadableLines(), QStringLiteral("line"),
+                                      QStringLiteral("lines"))));
     }
     report.fact(QStringLiteral("matches"), QStringLiteral("People found"), count);
     if (count == 0)
-        return QStringLiteral("Nobody is known as %1.").arg(PlainText::quoted(search.text()));
+        return QStringLiteral("Nobody is known as %1.").arg(Wording::quoted(search.text()));
     return QStringLiteral("%1 may be meant: name one of them.")
-        .arg(PlainText::counted(count, QStringLiteral("person"), QStringLiteral("people")));
+        .arg(Wording::counted(count, QStringLiteral("person"), QStringLiteral("people")));
 }

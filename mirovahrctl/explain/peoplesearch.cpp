@@ -1,8 +1,8 @@
-#include "tools/peoplesearch.h"
+#include "mirovahrctl/explain/peoplesearch.h"
 
-#include "tools/personname.h"
-#include "tools/progress.h"
-#include "tools/sqlsession.h"
+#include "mirovahrctl/export/personname.h"
+#include "mirovahrctl/program/progress.h"
+#include "mirovahrctl/site/sqlsession.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
 #include "worker/mirovaronrecord.h"
@@ -21,7 +21,7 @@ constexpr char kWithNumber[] = " WHERE pid = %1 OR SUBSTRING_INDEX(pamId, '.', 1
 /// Personal number and relationship of a payroll id, when they make the pid.
 void readPayrollId(const QString &payrollId, FoundPerson &found)
 {
-    const auto person = SoughtPerson::parse(payrollId);
+    const auto person = PersonId::parse(payrollId);
     if (!person || person->personalNumber() == 0 || person->pid() != found.pid)
         return;
     found.osobniCislo = person->personalNumber();
@@ -35,11 +35,11 @@ auto order(const FoundPerson &person)
 
 } // namespace
 
-std::optional<SoughtPerson> FoundPerson::person() const
+std::optional<PersonId> FoundPerson::person() const
 {
     if (osobniCislo != 0 && poradoveCisloPP != 0)
-        return SoughtPerson::ofPayrollId(osobniCislo, poradoveCisloPP);
-    return pid != 0 ? std::make_optional(SoughtPerson::ofPid(pid)) : std::nullopt;
+        return PersonId::ofPayrollId(osobniCislo, poradoveCisloPP);
+    return pid != 0 ? std::make_optional(PersonId::ofPid(pid)) : std::nullopt;
 }
 
 std::optional<PeopleSearch> PeopleSearch::parse(const QString &text)

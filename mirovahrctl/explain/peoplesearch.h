@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/soughtperson.h"
+#include "mirovahrctl/explain/personid.h"
 
 #include <QString>
 #include <QStringList>
@@ -23,7 +23,7 @@ struct FoundPerson {
     std::optional<bool> active; ///< the row of `people`; nothing: there is none
 
     /// How to ask for this very person. Nothing when no line and no row has a number.
-    std::optional<SoughtPerson> person() const;
+    std::optional<PersonId> person() const;
 };
 
 /// Looks in the export and in the database for the people whom a name or a number may mean. A

@@ -1,9 +1,9 @@
-#include "tools/personexplanation.h"
+#include "mirovahrctl/explain/personexplanation.h"
 
-#include "tools/explaindatabase.h"
-#include "tools/explaintext.h"
-#include "tools/personname.h"
-#include "tools/plaintext.h"
+#include "mirovahrctl/explain/explaindatabase.h"
+#include "mirovahrctl/explain/phrases.h"
+#include "mirovahrctl/export/personname.h"
+#include "mirovahrctl/report/wording.h"
 
 #include <algorithm>
 
@@ -11,7 +11,7 @@ namespace {
 
 QString lineCount(qint64 count)
 {
-    return PlainText::counted(count, QStringLiteral("line"), QStringLiteral("lines"));
+    return Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"));
 }
 
 /// What the verdict says of each word for the person.
@@ -71,7 +71,7 @@ QVariantList lineRow(qint64 number, const RecordOutcome &outcome)
 
 } // namespace
 
-PersonExplanation::PersonExplanation(const SoughtPerson &person, const ExplainedSource &source,
+PersonExplanation::PersonExplanation(const PersonId &person, const ExplainedSource &source,
                                      const Configuration &configuration, PluginView &view,
                                      Report &report)
     : m_person(person)
@@ -80,7 +80,7 @@ PersonExplanation::PersonExplanation(const SoughtPerson &person, const Explained
 {
 }
 
-QString PersonExplanation::explain(const SoughtLines *lines)
+QString PersonExplanation::explain(const PersonLines *lines)
 {
     m_hasExport = lines != nullptr;
     explainConfiguration();
@@ -116,18 +116,18 @@ void PersonExplanation::explainConfiguration()
                              "plugin with its defaults.")
                   .arg(m_source.configurationPath));
     if (!configuration.enabled) {
-        ExplainText::tell(report, Severity::Warning, "disabled",
-                          QStringLiteral("The plugin is disabled: nobody arrives. What follows "
-                                         "holds for when it is enabled."),
-                          QStringLiteral("Set enabled to 1 and start the attendance server "
-                                         "again."));
+        Phrases::tell(report, Severity::Warning, "disabled",
+                      QStringLiteral("The plugin is disabled: nobody arrives. What follows "
+                                     "holds for when it is enabled."),
+                      QStringLiteral("Set enabled to 1 and start the attendance server "
+                                     "again."));
     }
     if (configuration.testMode) {
-        ExplainText::tell(report, Severity::Warning, "test-mode",
-                          QStringLiteral("Test mode is on: the rows of people are not written, "
-                                         "only what hangs on them."),
-                          QStringLiteral("Set testMode to 0 and start the attendance server "
-                                         "again."));
+        Phrases::tell(report, Severity::Warning, "test-mode",
+                      QStringLiteral("Test mode is on: the rows of people are not written, "
+                                     "only what hangs on them."),
+                      QStringLiteral("Set testMode to 0 and start the attendance server "
+                                     "again."));
     }
 }
 
@@ -158,16 +158,16 @@ void PersonExplanation::explainGate()
     report.sentence(
         QStringLiteral("What follows is from the file that the gate%1 admitted last%2.")
             .arg(file.isGateOfCommand() ? QStringLiteral(" of syncCommand") : QString(),
-                 admitted ? QStringLiteral(", on ") + ExplainText::day(*admitted) : QString()));
+                 admitted ? QStringLiteral(", on ") + Phrases::day(*admitted) : QString()));
     if (status && status->refused) {
-        ExplainText::tell(report, Severity::Warning, "gate-refused",
-                          QStringLiteral("The gate has refused a file since then: %1.")
-                              .arg(status->reasons.join(QStringLiteral("; "))),
-                          QStringLiteral("See whether the person stands otherwise in that file."));
+        Phrases::tell(report, Severity::Warning, "gate-refused",
+                      QStringLiteral("The gate has refused a file since then: %1.")
+                          .arg(status->reasons.join(QStringLiteral("; "))),
+                      QStringLiteral("See whether the person stands otherwise in that file."));
     }
 }
 
-void PersonExplanation::explainExport(const SoughtLines &lines)
+void PersonExplanation::explainExport(const PersonLines &lines)
 {
     Report &report = m_context.report;
     if (m_context.configuration.syncCommandRun >= 1
@@ -181,26 +181,25 @@ void PersonExplanation::explainExport(const SoughtLines &lines)
     for (const CheckedLine &line : lines.lines())
         explainLine(line);
     if (lines.more() > 0) {
-        ExplainText::tell(report, Severity::Warning, "lines-not-explained",
-                          QStringLiteral("%1 more about the same person are not looked at here: "
-                                         "the facts are those of the first %2.")
-                              .arg(lineCount(lines.more()), lineCount(SoughtLines::kMost)),
-                          QStringLiteral("Have HR export each employment relationship once."));
+        Phrases::tell(report, Severity::Warning, "lines-not-explained",
+                      QStringLiteral("%1 more about the same person are not looked at here: "
+                                     "the facts are those of the first %2.")
+                          .arg(lineCount(lines.more()), lineCount(PersonLines::kMost)),
+                      QStringLiteral("Have HR export each employment relationship once."));
     }
     explainOthers(lines);
 }
 
-void PersonExplanation::explainNotFound(const SoughtLines &lines)
+void PersonExplanation::explainNotFound(const PersonLines &lines)
 {
     const auto &row = m_context.person.row();
     const bool hasLeft = row && (!row->active || row->isOver());
-    ExplainText::tell(m_context.report, hasLeft ? Severity::Note : Severity::Warning,
-                      "not-in-export",
-                      QStringLiteral("None of the %1 of %2 is about %3.")
-                          .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()),
-                      hasLeft ? QStringLiteral("Nothing is wrong, unless the person still works: "
-                                               "in the database the person has left.")
-                              : QStringLiteral("Ask HR why the export does not name the person."));
+    Phrases::tell(m_context.report, hasLeft ? Severity::Note : Severity::Warning, "not-in-export",
+                  QStringLiteral("None of the %1 of %2 is about %3.")
+                      .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()),
+                  hasLeft ? QStringLiteral("Nothing is wrong, unless the person still works: "
+                                           "in the database the person has left.")
+                          : QStringLiteral("Ask HR why the export does not name the person."));
     if (lines.nameless() > 0) {
         m_context.report.sentence(
             QStringLiteral("%1 cannot be read so far as to say whom they are about, and the plugin "
@@ -209,7 +208,7 @@ void PersonExplanation::explainNotFound(const SoughtLines &lines)
     }
 }
 
-void PersonExplanation::explainOthers(const SoughtLines &lines)
+void PersonExplanation::explainOthers(const PersonLines &lines)
 {
     if (lines.others().isEmpty())
         return;
@@ -235,10 +234,10 @@ void PersonExplanation::explainLine(const CheckedLine &line)
 void PersonExplanation::explainAbsence()
 {
     if (!m_context.person.row()) {
-        ExplainText::tell(m_context.report, Severity::Warning, "not-in-database",
-                          QStringLiteral("The person is not in the database either."),
-                          QStringLiteral("Check the number, and whether HR's export has ever named "
-                                         "the person."));
+        Phrases::tell(m_context.report, Severity::Warning, "not-in-database",
+                      QStringLiteral("The person is not in the database either."),
+                      QStringLiteral("Check the number, and whether HR's export has ever named "
+                                     "the person."));
     } else if (m_hasExport) {
         m_context.report.sentence(QStringLiteral("The plugin leaves people alone whom the export "
                                                  "does not name: it never ends or removes them."));
@@ -332,13 +331,12 @@ void PersonExplanation::writeRecalculation()
     const qint64 before = m_context.person.lastCalculationBefore();
     const qint64 after = m_context.person.lastCalculation();
     if (after > before && before != 0) {
-        ExplainText::tell(
-            report, Severity::Note, "calculation-forward",
-            QStringLiteral("The last calculation moves from %1 forward to %2. Days in "
-                           "between that are not calculated stay so.")
-                .arg(ExplainText::day(before), ExplainText::day(after)),
-            QStringLiteral("Calculate the person's attendance again by hand if there "
-                           "are such days."));
+        Phrases::tell(report, Severity::Note, "calculation-forward",
+                      QStringLiteral("The last calculation moves from %1 forward to %2. Days in "
+                                     "between that are not calculated stay so.")
+                          .arg(Phrases::day(before), Phrases::day(after)),
+                      QStringLiteral("Calculate the person's attendance again by hand if there "
+                                     "are such days."));
     }
     report.fact(QStringLiteral("lastCalculation"), QStringLiteral("Last calculation is set"),
                 after == before      ? QStringLiteral("kept")

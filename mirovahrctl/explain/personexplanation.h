@@ -1,10 +1,10 @@
 #pragma once
 
-#include "tools/explaincontext.h"
-#include "tools/explainedexport.h"
-#include "tools/recordexplanation.h"
-#include "tools/soughtlines.h"
-#include "tools/soughtperson.h"
+#include "mirovahrctl/explain/explaincontext.h"
+#include "mirovahrctl/explain/explainedexport.h"
+#include "mirovahrctl/explain/personid.h"
+#include "mirovahrctl/explain/personlines.h"
+#include "mirovahrctl/explain/recordexplanation.h"
 
 #include <QString>
 
@@ -20,20 +20,20 @@ struct ExplainedSource {
 class PersonExplanation {
 public:
     /// \a source must live longer than this object.
-    PersonExplanation(const SoughtPerson &person, const ExplainedSource &source,
+    PersonExplanation(const PersonId &person, const ExplainedSource &source,
                       const Configuration &configuration, PluginView &view, Report &report);
 
     /// \a lines: what the export says of the person; null when there is no export. Returns the
     /// verdict in one sentence.
-    QString explain(const SoughtLines *lines);
+    QString explain(const PersonLines *lines);
 
 private:
     void explainConfiguration();
     void explainAbsentExport();
     void explainGate();
-    void explainExport(const SoughtLines &lines);
-    void explainNotFound(const SoughtLines &lines);
-    void explainOthers(const SoughtLines &lines);
+    void explainExport(const PersonLines &lines);
+    void explainNotFound(const PersonLines &lines);
+    void explainOthers(const PersonLines &lines);
     void explainLine(const CheckedLine &line);
     void explainAbsence();
     void explainRecords(const QVector<CheckedLine> &lines);
@@ -44,7 +44,7 @@ private:
     QString verdict() const;
     QString verdictWithoutRecord() const;
 
-    const SoughtPerson m_person;
+    const PersonId m_person;
     const ExplainedSource &m_source;
     ExplainContext m_context;
     bool m_hasExport = false;

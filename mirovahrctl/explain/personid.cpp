@@ -1,11 +1,11 @@
-#include "tools/soughtperson.h"
+#include "mirovahrctl/explain/personid.h"
 
 #include "worker/exportline.h"
 #include "worker/mirovaronrecord.h"
 
 #include <QRegularExpression>
 
-std::optional<SoughtPerson> SoughtPerson::parse(const QString &text)
+std::optional<PersonId> PersonId::parse(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral("\\A(?:pid ?(\\d+)|(\\d+)\\.(\\d+))\\z"));
     const QRegularExpressionMatch match = form.match(text);
@@ -19,32 +19,32 @@ std::optional<SoughtPerson> SoughtPerson::parse(const QString &text)
     return std::nullopt;
 }
 
-SoughtPerson SoughtPerson::ofPayrollId(quint32 osobniCislo, quint32 poradoveCisloPP)
+PersonId PersonId::ofPayrollId(quint32 osobniCislo, quint32 poradoveCisloPP)
 {
     MirovaRonRecord record;
     record.osobniCislo = osobniCislo;
     record.poradoveCisloPP = poradoveCisloPP;
-    SoughtPerson person;
+    PersonId person;
     person.m_osobniCislo = osobniCislo;
     person.m_poradoveCisloPP = poradoveCisloPP;
     person.m_pid = record.getPid();
     return person;
 }
 
-SoughtPerson SoughtPerson::ofPid(quint32 pid)
+PersonId PersonId::ofPid(quint32 pid)
 {
-    SoughtPerson person;
+    PersonId person;
     person.m_pid = pid;
     return person;
 }
 
-QString SoughtPerson::name() const
+QString PersonId::name() const
 {
     return m_osobniCislo != 0 ? QStringLiteral("%1.%2").arg(m_osobniCislo).arg(m_poradoveCisloPP)
                               : QStringLiteral("pid %1").arg(m_pid);
 }
 
-bool SoughtPerson::matches(const MirovaRonRecord &record) const
+bool PersonId::matches(const MirovaRonRecord &record) const
 {
     // Also with the pid 0, which many can have: the plugin takes all of them for one person.
     return record.getPid() == m_pid;

@@ -8,13 +8,13 @@
 class MirovaRonRecord;
 
 /// Whom somebody asks for: by the payroll id, such as "1234.1", or by the pid.
-class SoughtPerson {
+class PersonId {
 public:
     /// Nothing when the text is neither a payroll id nor a pid such as "pid 12341".
-    static std::optional<SoughtPerson> parse(const QString &text);
+    static std::optional<PersonId> parse(const QString &text);
     /// By the payroll id, of which both numbers must be above 0.
-    static SoughtPerson ofPayrollId(quint32 osobniCislo, quint32 poradoveCisloPP);
-    static SoughtPerson ofPid(quint32 pid);
+    static PersonId ofPayrollId(quint32 osobniCislo, quint32 poradoveCisloPP);
+    static PersonId ofPid(quint32 pid);
 
     /// "1234.1" or "pid 12341".
     QString name() const;

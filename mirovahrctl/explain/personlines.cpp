@@ -1,6 +1,6 @@
-#include "tools/soughtlines.h"
+#include "mirovahrctl/explain/personlines.h"
 
-#include "tools/progress.h"
+#include "mirovahrctl/program/progress.h"
 #include "worker/exportline.h"
 
 #include <QFile>
@@ -22,15 +22,15 @@ std::optional<MirovaRonRecord> namedBy(const CheckedLine &line)
 
 } // namespace
 
-SoughtLines::SoughtLines(const SoughtPerson &person)
+PersonLines::PersonLines(const PersonId &person)
     : m_person(person)
 {
 }
 
-bool SoughtLines::find(QFile &file, const TextWidths &widths, Console &console)
+bool PersonLines::find(QFile &file, const ColumnWidths &widths, Console &console)
 {
     Progress progress(console, QStringLiteral("Reading the export"));
-    ExportCheck check(file, widths);
+    ExportScan check(file, widths);
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
     const bool read = check.run([this](const CheckedLine &line) { look(line); });
@@ -39,7 +39,7 @@ bool SoughtLines::find(QFile &file, const TextWidths &widths, Console &console)
     return read;
 }
 
-void SoughtLines::look(const CheckedLine &line)
+void PersonLines::look(const CheckedLine &line)
 {
     const auto named = line.record ? line.record : namedBy(line);
     if (!named)
@@ -50,7 +50,7 @@ void SoughtLines::look(const CheckedLine &line)
         note(*named, line.number);
 }
 
-void SoughtLines::keep(const CheckedLine &line)
+void PersonLines::keep(const CheckedLine &line)
 {
     if (m_lines.size() < kMost)
         m_lines.append(line);
@@ -58,7 +58,7 @@ void SoughtLines::keep(const CheckedLine &line)
         ++m_more;
 }
 
-void SoughtLines::note(const MirovaRonRecord &record, qint64 line)
+void PersonLines::note(const MirovaRonRecord &record, qint64 line)
 {
     if (m_others.size() < kMost)
         m_others += QStringLiteral("%1 (line %2)").arg(record.getPamId()).arg(line);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "tools/exportcheck.h"
-#include "tools/linecheck.h"
-#include "tools/soughtperson.h"
-#include "tools/textwidths.h"
+#include "mirovahrctl/explain/personid.h"
+#include "mirovahrctl/export/exportscan.h"
+#include "mirovahrctl/export/linecheck.h"
+#include "mirovahrctl/site/columnwidths.h"
 
 #include <QStringList>
 #include <QVector>
@@ -14,16 +14,16 @@ class Console;
 class QFile;
 
 /// What an export says of one person.
-class SoughtLines {
+class PersonLines {
 public:
     /// The most lines of the person, and the most other relationships, that are kept.
     static constexpr int kMost = 100;
 
-    explicit SoughtLines(const SoughtPerson &person);
+    explicit PersonLines(const PersonId &person);
 
     /// Goes over the export. False when it cannot be read to its end; errorString() then says why,
     /// a part of a sentence without its full stop.
-    bool find(QFile &file, const TextWidths &widths, Console &console);
+    bool find(QFile &file, const ColumnWidths &widths, Console &console);
     QString errorString() const { return m_error; }
 
     /// The lines that the plugin takes for the person's, or drops although the first two fields
@@ -43,7 +43,7 @@ private:
     void keep(const CheckedLine &line);
     void note(const MirovaRonRecord &record, qint64 line);
 
-    const SoughtPerson m_person;
+    const PersonId m_person;
     QVector<CheckedLine> m_lines;
     QStringList m_others;
     qint64 m_more = 0;

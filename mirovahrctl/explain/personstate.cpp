@@ -1,7 +1,7 @@
-#include "tools/personstate.h"
+#include "mirovahrctl/explain/personstate.h"
 
-#include "tools/payrollexports.h"
-#include "tools/pluginview.h"
+#include "mirovahrctl/pluginside/pluginview.h"
+#include "mirovahrctl/site/payrollexports.h"
 #include "worker/recordcodes.h"
 #include "worker/recorddates.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/personrow.h"
+#include "mirovahrctl/site/personrow.h"
 #include "worker/mirovaronrecord.h"
 
 #include <QDate>

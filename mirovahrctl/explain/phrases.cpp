@@ -1,11 +1,11 @@
-#include "tools/explaintext.h"
+#include "mirovahrctl/explain/phrases.h"
 
-#include "tools/report.h"
+#include "mirovahrctl/program/report.h"
 
 #include <QDateTime>
 #include <QStringList>
 
-namespace ExplainText {
+namespace Phrases {
 
 QString day(const QDate &date)
 {
@@ -43,4 +43,4 @@ void tell(Report &report, Severity severity, const char *rule, const QString &me
     report.finding(finding);
 }
 
-} // namespace ExplainText
+} // namespace Phrases

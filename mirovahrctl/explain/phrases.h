@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/finding.h"
+#include "mirovahrctl/report/finding.h"
 
 #include <QDate>
 #include <QString>
@@ -9,7 +9,7 @@
 class Report;
 
 /// Words for the explanation of a person.
-namespace ExplainText {
+namespace Phrases {
 
 /// "2024-03-01"; "none" for an invalid date.
 QString day(const QDate &date);
@@ -26,4 +26,4 @@ QString days(qint64 hundredths);
 void tell(Report &report, Severity severity, const char *rule, const QString &message,
           const QString &advice);
 
-} // namespace ExplainText
+} // namespace Phrases

@@ -1,9 +1,9 @@
 // The order of the steps, and whether the person works.
 
-#include "tools/recordexplanation.h"
+#include "mirovahrctl/explain/recordexplanation.h"
 
-#include "tools/explaincontext.h"
-#include "tools/explaintext.h"
+#include "mirovahrctl/explain/explaincontext.h"
+#include "mirovahrctl/explain/phrases.h"
 #include "worker/recordcodes.h"
 
 namespace {
@@ -74,13 +74,13 @@ void RecordExplanation::explainState()
                 .arg(QString::number(m_record.stavPracovnihoPomeru),
                      m_record.datumVystupu.isValid()
                          ? QStringLiteral("the last day, %1, is not over")
-                               .arg(ExplainText::day(m_record.datumVystupu))
+                               .arg(Phrases::day(m_record.datumVystupu))
                          : QStringLiteral("there is no last day")));
         return;
     }
     say(isOver(m_record, today)
             ? QStringLiteral("No: the last day, %1, is over.")
-                  .arg(ExplainText::day(m_record.datumVystupu))
+                  .arg(Phrases::day(m_record.datumVystupu))
             : QStringLiteral("No: the employment state %1 means that it has ended, as every state "
                              "from 4 on.")
                   .arg(m_record.stavPracovnihoPomeru));
@@ -104,7 +104,7 @@ void RecordExplanation::say(const QString &sentence)
 
 void RecordExplanation::warn(const char *rule, const QString &message, const QString &advice)
 {
-    ExplainText::tell(m_context.report, Severity::Warning, rule, message, advice);
+    Phrases::tell(m_context.report, Severity::Warning, rule, message, advice);
 }
 
 bool RecordExplanation::isTypeOfSupervisors() const

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/linecheck.h"
-#include "tools/personstate.h"
-#include "tools/recordoutcome.h"
+#include "mirovahrctl/explain/personstate.h"
+#include "mirovahrctl/explain/recordoutcome.h"
+#include "mirovahrctl/export/linecheck.h"
 
 struct ExplainContext;
 

@@ -2,9 +2,9 @@
 
 #include "db/branchesrepository.h"
 #include "db/groupsplanrepo.h"
-#include "tools/explaincontext.h"
-#include "tools/explaintext.h"
-#include "tools/recordexplanation.h"
+#include "mirovahrctl/explain/explaincontext.h"
+#include "mirovahrctl/explain/phrases.h"
+#include "mirovahrctl/explain/recordexplanation.h"
 #include "worker/recordcomparison.h"
 #include "worker/recorddates.h"
 
@@ -104,11 +104,11 @@ void RecordExplanation::explainNewMember(quint32 bid)
     branches.setDB(m_context.view.database());
     say(QStringLiteral("The person joins it at the end of the synchronisation, and stays in every "
                        "other branch."));
-    say(ExplainText::list(
+    say(Phrases::list(
             QStringLiteral("With it comes terminal"), QStringLiteral("With it come the terminals"),
             texts(branches.getTids4Branch(number)), QStringLiteral("No terminal comes with it"))
         + QLatin1Char('.'));
-    say(ExplainText::list(
+    say(Phrases::list(
             QStringLiteral("It has the administrator"), QStringLiteral("It has the administrators"),
             texts(branches.getAids4Branch(number)), QStringLiteral("It has no administrators"))
         + QLatin1Char('.'));
@@ -161,10 +161,10 @@ void RecordExplanation::explainPlan(quint32 gid)
         return;
     m_person.recalculate(since);
     m_outcome.recalculation.add(since, QStringLiteral("calendar"));
-    say(since.isValid() ? QStringLiteral("Attendance is calculated again from %1 on.")
-                              .arg(ExplainText::day(since))
-                        : QStringLiteral("All attendance is calculated again, because the start of "
-                                         "the calendar is no date."));
+    say(since.isValid()
+            ? QStringLiteral("Attendance is calculated again from %1 on.").arg(Phrases::day(since))
+            : QStringLiteral("All attendance is calculated again, because the start of "
+                             "the calendar is no date."));
 }
 
 void RecordExplanation::explainWaiting(bool isPlaced)

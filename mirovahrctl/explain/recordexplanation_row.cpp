@@ -1,12 +1,12 @@
 // The row of `people`: created, updated, or left alone.
 
-#include "tools/explaincontext.h"
-#include "tools/explaintext.h"
-#include "tools/payrollexports.h"
-#include "tools/plaintext.h"
-#include "tools/recordexplanation.h"
-#include "tools/rowfields.h"
-#include "tools/sqltext.h"
+#include "mirovahrctl/explain/explaincontext.h"
+#include "mirovahrctl/explain/phrases.h"
+#include "mirovahrctl/explain/recordexplanation.h"
+#include "mirovahrctl/explain/rowfields.h"
+#include "mirovahrctl/export/sqlhazards.h"
+#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/site/payrollexports.h"
 #include "worker/exportline.h"
 #include "worker/recordcodes.h"
 #include "worker/recordcomparison.h"
@@ -80,11 +80,11 @@ void RecordExplanation::explainLeaver()
         say(QStringLiteral("The person has left. The plugin does not see the row, so it leaves the "
                            "row alone."));
     } else {
-        ExplainText::tell(m_context.report, Severity::Note, "left-already",
-                          QStringLiteral("The person has left and has no row. The plugin never "
-                                         "creates a row for somebody who has left."),
-                          QStringLiteral("Nothing is wrong, unless the person still works: then "
-                                         "HR's export is wrong."));
+        Phrases::tell(m_context.report, Severity::Note, "left-already",
+                      QStringLiteral("The person has left and has no row. The plugin never "
+                                     "creates a row for somebody who has left."),
+                      QStringLiteral("Nothing is wrong, unless the person still works: then "
+                                     "HR's export is wrong."));
     }
 }
 
@@ -97,7 +97,7 @@ void RecordExplanation::explainHarmfulText(const QString &stateText)
         warn("state-breaks-statement",
              QStringLiteral("The text of the relationship state, %1, makes the statement fail or "
                             "write something else.")
-                 .arg(PlainText::quoted(stateText)),
+                 .arg(Wording::quoted(stateText)),
              QStringLiteral("Change the text in the group MES of the configuration, or rsText of "
                             "the row."));
     }
@@ -106,7 +106,7 @@ void RecordExplanation::explainHarmfulText(const QString &stateText)
 void RecordExplanation::explainUpdate()
 {
     const MirovaRonRecord updated = m_context.view.worker().updateRs(m_record, *m_person.known());
-    m_isHarmful = hasHarmfulText(m_line) || SqlText::breaksStatement(updated.rsText);
+    m_isHarmful = hasHarmfulText(m_line) || SqlHazards::breaksStatement(updated.rsText);
     explainRelationshipState();
     explainComparison(updated);
     explainWriting(updated,
@@ -195,23 +195,23 @@ void RecordExplanation::explainStateBegin(const QDate &day)
     if (before <= m_person.lastCalculation()) {
         say(QStringLiteral("The last calculation is set to the day before %1, where the "
                            "relationship state begins.")
-                .arg(ExplainText::day(day)));
+                .arg(Phrases::day(day)));
         return;
     }
     m_outcome.recalculation.add(day, QStringLiteral("state"));
     say(QStringLiteral("Attendance is calculated again from %1 on, where the relationship state "
                        "begins.")
-            .arg(ExplainText::day(day)));
+            .arg(Phrases::day(day)));
 }
 
 void RecordExplanation::explainTerminalsOfPerson()
 {
     const QStringList tids = firstColumn(
         m_context.view.sql().rows(QString(QLatin1String(kSelectTerminals)).arg(m_person.uid())));
-    say(ExplainText::list(QStringLiteral("The change is queued for terminal"),
-                          QStringLiteral("The change is queued for the terminals"), tids,
-                          QStringLiteral("No active terminal that handles people holds this "
-                                         "person: none is told"))
+    say(Phrases::list(QStringLiteral("The change is queued for terminal"),
+                      QStringLiteral("The change is queued for the terminals"), tids,
+                      QStringLiteral("No active terminal that handles people holds this "
+                                     "person: none is told"))
         + QLatin1Char('.'));
 }
 
@@ -228,7 +228,7 @@ void RecordExplanation::explainCreation()
 void RecordExplanation::explainAddition()
 {
     const QString stateText = m_context.view.worker().updateRs(m_record, MirovaRonRecord()).rsText;
-    m_isHarmful = hasHarmfulText(m_line) || SqlText::breaksStatement(stateText);
+    m_isHarmful = hasHarmfulText(m_line) || SqlHazards::breaksStatement(stateText);
     m_mayNotAdd = m_person.isAddedAs(m_record);
     m_outcome.person = m_isHarmful ? QStringLiteral("uncertain")
         : m_person.exists()        ? QStringLiteral("merged")
@@ -313,14 +313,14 @@ void RecordExplanation::explainPayrollSettings()
 
 void RecordExplanation::explainKeptSettings(ushort settings)
 {
-    ExplainText::tell(m_context.report, Severity::Note, "payroll-settings-kept",
-                      QStringLiteral("The person has these settings already, which the plugin "
-                                     "takes for a failure. The log says: "
-                                     "MHRWorker::doSyncRecord(%1) - dbAddPersonIntoPam(%2, %3) "
-                                     "FAILED!")
-                          .arg(m_record.getString(false), QString::number(m_record.getPid()),
-                               QString::number(settings)),
-                      QStringLiteral("Nothing is wrong with that."));
+    Phrases::tell(m_context.report, Severity::Note, "payroll-settings-kept",
+                  QStringLiteral("The person has these settings already, which the plugin "
+                                 "takes for a failure. The log says: "
+                                 "MHRWorker::doSyncRecord(%1) - dbAddPersonIntoPam(%2, %3) "
+                                 "FAILED!")
+                      .arg(m_record.getString(false), QString::number(m_record.getPid()),
+                           QString::number(settings)),
+                  QStringLiteral("Nothing is wrong with that."));
 }
 
 void RecordExplanation::explainTestMode(const char *operation, const char *what)

@@ -1,8 +1,8 @@
 // The vacation balance and the supervisor.
 
-#include "tools/explaincontext.h"
-#include "tools/explaintext.h"
-#include "tools/recordexplanation.h"
+#include "mirovahrctl/explain/explaincontext.h"
+#include "mirovahrctl/explain/phrases.h"
+#include "mirovahrctl/explain/recordexplanation.h"
 #include "worker/vacationbalance.h"
 
 void RecordExplanation::explainBalance()
@@ -44,19 +44,18 @@ void RecordExplanation::explainCorrection()
              QStringLiteral("The fund holds %1, and no correction leads from there to %2 days. The "
                             "balance stays, and the log says: MHRWorker::doSyncRecord() - "
                             "funds_move type (type=3, valeu=%3) not writed for uid %4 (pid: %5)")
-                 .arg(ExplainText::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
+                 .arg(Phrases::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
                       QString::number(move), QString::number(m_person.uid()),
                       QString::number(m_person.pid())),
              QStringLiteral("One of the two balances is wrong."));
     } else if (move == 0) {
         m_outcome.balance = QStringLiteral("equal");
-        say(QStringLiteral("No: the fund holds %1, as the export says.")
-                .arg(ExplainText::days(held)));
+        say(QStringLiteral("No: the fund holds %1, as the export says.").arg(Phrases::days(held)));
     } else {
         m_outcome.balance = QStringLiteral("corrected");
         m_person.correctBalance(m_line.number);
         say(QStringLiteral("Yes: the fund holds %1, and the correction of today is %2.")
-                .arg(ExplainText::days(held), ExplainText::days(move)));
+                .arg(Phrases::days(held), Phrases::days(move)));
     }
 }
 

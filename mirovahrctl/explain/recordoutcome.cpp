@@ -1,4 +1,4 @@
-#include "tools/recordoutcome.h"
+#include "mirovahrctl/explain/recordoutcome.h"
 
 #include <algorithm>
 

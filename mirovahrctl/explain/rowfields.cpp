@@ -1,4 +1,4 @@
-#include "tools/rowfields.h"
+#include "mirovahrctl/explain/rowfields.h"
 
 #include "worker/recordcomparison.h"
 

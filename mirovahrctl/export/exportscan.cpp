@@ -1,6 +1,6 @@
-#include "tools/exportcheck.h"
+#include "mirovahrctl/export/exportscan.h"
 
-#include "tools/personname.h"
+#include "mirovahrctl/export/personname.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
 
@@ -47,7 +47,7 @@ Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 p
 
 } // namespace
 
-ExportCheck::ExportCheck(QFile &file, const TextWidths &widths)
+ExportScan::ExportScan(QFile &file, const ColumnWidths &widths)
     : m_file(file)
     , m_lineCheck(widths)
     , m_size(file.size())
@@ -55,12 +55,12 @@ ExportCheck::ExportCheck(QFile &file, const TextWidths &widths)
 {
 }
 
-bool ExportCheck::run(const LineListener &listener)
+bool ExportScan::run(const LineListener &listener)
 {
     return notePids() && rewind() && checkLines(listener) && lookAtEnd();
 }
 
-QVector<Finding> ExportCheck::fileFindings() const
+QVector<Finding> ExportScan::fileFindings() const
 {
     CheckedLine file;
     if (m_counts.records == 0) {
@@ -84,7 +84,7 @@ QVector<Finding> ExportCheck::fileFindings() const
     return file.findings;
 }
 
-bool ExportCheck::notePids()
+bool ExportScan::notePids()
 {
     BoundedLineReader reader(m_file);
     while (reader.next()) {
@@ -96,7 +96,7 @@ bool ExportCheck::notePids()
 
 /// Takes the two numbers only. A line that is dropped for another reason is noted, too; that does
 /// no harm.
-void ExportCheck::notePid(const BoundedLineReader &reader)
+void ExportScan::notePid(const BoundedLineReader &reader)
 {
     const QString identity = ExportLine::decode(identityOf(reader).constData());
     const ExportLine::Parts parts = ExportLine::split(identity, ExportLine::kSeparator);
@@ -109,12 +109,12 @@ void ExportCheck::notePid(const BoundedLineReader &reader)
         m_pids.note(record.getPid());
 }
 
-bool ExportCheck::rewind()
+bool ExportScan::rewind()
 {
     return m_file.seek(0) || fail(m_file.errorString());
 }
 
-bool ExportCheck::checkLines(const LineListener &listener)
+bool ExportScan::checkLines(const LineListener &listener)
 {
     BoundedLineReader reader(m_file);
     qint64 checked = 0;
@@ -134,13 +134,13 @@ bool ExportCheck::checkLines(const LineListener &listener)
 }
 
 /// The reader tells of a line that is too long only by leaving out its number.
-void ExportCheck::reportTooLong(qint64 from, qint64 to, const LineListener &listener)
+void ExportScan::reportTooLong(qint64 from, qint64 to, const LineListener &listener)
 {
     for (qint64 number = from; number < to; ++number)
         report(LineCheck::tooLong(number), listener);
 }
 
-void ExportCheck::checkRepetition(CheckedLine &line)
+void ExportScan::checkRepetition(CheckedLine &line)
 {
     // People with pid 0 have a finding of their own.
     if (!line.record || line.record->getPid() == 0)
@@ -154,7 +154,7 @@ void ExportCheck::checkRepetition(CheckedLine &line)
     finding.subject = personName(record);
 }
 
-void ExportCheck::report(const CheckedLine &line, const LineListener &listener)
+void ExportScan::report(const CheckedLine &line, const LineListener &listener)
 {
     if (line.isBlank && line.findings.isEmpty())
         return;
@@ -164,13 +164,13 @@ void ExportCheck::report(const CheckedLine &line, const LineListener &listener)
     listener(line);
 }
 
-void ExportCheck::tellProgress(qint64 done) const
+void ExportScan::tellProgress(qint64 done) const
 {
     if (m_progress)
         m_progress(done, 2 * m_size);
 }
 
-bool ExportCheck::lookAtEnd()
+bool ExportScan::lookAtEnd()
 {
     char last = '\n';
     m_endsWithLineFeed =
@@ -178,7 +178,7 @@ bool ExportCheck::lookAtEnd()
     return m_file.error() == QFileDevice::NoError || fail(m_file.errorString());
 }
 
-bool ExportCheck::fail(const QString &reason)
+bool ExportScan::fail(const QString &reason)
 {
     m_error = reason;
     return false;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/linecheck.h"
-#include "tools/repeatedpids.h"
+#include "mirovahrctl/export/linecheck.h"
+#include "mirovahrctl/export/repeatedpids.h"
 
 #include <functional>
 
@@ -10,7 +10,7 @@ class QFile;
 
 /// Goes over a whole export and tells of each line what the plugin makes of it. The memory that it
 /// takes does not depend on the length of the export.
-class ExportCheck {
+class ExportScan {
 public:
     struct Counts {
         qint64 lines = 0; ///< with blank ones
@@ -24,7 +24,7 @@ public:
     using ProgressListener = std::function<void(qint64 done, qint64 total)>;
 
     /// The file must be open and at its beginning.
-    ExportCheck(QFile &file, const TextWidths &widths);
+    ExportScan(QFile &file, const ColumnWidths &widths);
 
     void setProgressListener(const ProgressListener &listener) { m_progress = listener; }
 

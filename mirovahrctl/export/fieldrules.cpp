@@ -1,7 +1,7 @@
-#include "tools/fieldrules.h"
+#include "mirovahrctl/export/fieldrules.h"
 
-#include "tools/plaintext.h"
-#include "tools/sqltext.h"
+#include "mirovahrctl/export/sqlhazards.h"
+#include "mirovahrctl/report/wording.h"
 #include "worker/exportline.h"
 #include "worker/recorddates.h"
 #include "worker/vacationbalance.h"
@@ -72,7 +72,7 @@ bool isKept(const QDate &day)
 } // namespace
 
 FieldRules::FieldRules(const ExportLine::Parts &parts, const MirovaRonRecord &record,
-                       const TextWidths &widths, CheckedLine &line)
+                       const ColumnWidths &widths, CheckedLine &line)
     : m_parts(parts)
     , m_record(record)
     , m_widths(widths)
@@ -149,29 +149,29 @@ void FieldRules::checkText(int field, const char *column)
             QStringLiteral("The text %1 has an apostrophe. It goes into the statement as it is, "
                            "and the statement fails, or does something else: the person is not "
                            "written.")
-                .arg(PlainText::quoted(text)),
+                .arg(Wording::quoted(text)),
             QStringLiteral("Write the text without ', or with the character \u2019."));
     }
     if (text.contains(QLatin1Char('\\'))) {
         add(field, Severity::Error, "backslash-in-text",
             QStringLiteral("The text %1 has a backslash. It goes into the statement as it is: the "
                            "text arrives changed, or the statement fails.")
-                .arg(PlainText::quoted(text)),
+                .arg(Wording::quoted(text)),
             QStringLiteral("Write the text without \\."));
     }
-    if (SqlText::hasPlaceholder(text)) {
+    if (SqlHazards::hasPlaceholder(text)) {
         add(field, Severity::Error, "placeholder-in-text",
             QStringLiteral("The text %1 has a digit behind a percent sign. The plugin puts another "
                            "value there: wrong data is written, or the statement fails.")
-                .arg(PlainText::quoted(text)),
+                .arg(Wording::quoted(text)),
             QStringLiteral("Write the text without %."));
     }
-    if (SqlText::hasWideCharacter(text)) {
+    if (SqlHazards::hasWideCharacter(text)) {
         add(field, Severity::Error, "wide-character",
             QStringLiteral("The text %1 has a character above U+FFFF, such as an emoji. The "
                            "connection to the database cannot carry it: the person is not written, "
                            "or the text is cut there.")
-                .arg(PlainText::quoted(text)),
+                .arg(Wording::quoted(text)),
             QStringLiteral("Write the text without it."));
     }
     checkWidth(field, column);
@@ -219,7 +219,7 @@ void FieldRules::checkDate(int field, const QDate &date)
     } else if (!date.isValid()) {
         add(field, Severity::Warning, "bad-date",
             QStringLiteral("%1 is no date to the plugin: %2")
-                .arg(PlainText::quoted(text), consequence(field)),
+                .arg(Wording::quoted(text), consequence(field)),
             dateAdvice(text));
     } else if (field != KalendarPlatnostOd && !isKept(date)) {
         add(field, Severity::Warning, "date-out-of-range",
@@ -249,7 +249,7 @@ void FieldRules::checkCode(int field, ushort code)
         return;
     add(field, Severity::Warning, "code-wraps",
         QStringLiteral("Codes go up to 65535; %1 reads as %2.")
-            .arg(PlainText::quoted(text(field)), QString::number(code)),
+            .arg(Wording::quoted(text(field)), QString::number(code)),
         QStringLiteral("The code cannot be right."));
 }
 
@@ -267,7 +267,7 @@ void FieldRules::checkBalance()
     } else if (!VacationBalance::correction(m_record.dovolenaZustatek, 0, hundredths)) {
         add(DovolenaZustatek, Severity::Warning, "balance-out-of-range",
             QStringLiteral("%1 days are no balance that can be kept: the balance is not changed.")
-                .arg(PlainText::quoted(text)),
+                .arg(Wording::quoted(text)),
             QStringLiteral("The balance cannot be right."));
     }
 }
@@ -286,7 +286,7 @@ QString FieldRules::notANumber(int field) const
     if (text.isEmpty())
         return QStringLiteral("The field is empty.");
     return isNumber ? QStringLiteral("The number is 0.")
-                    : QStringLiteral("%1 is no number to the plugin.").arg(PlainText::quoted(text));
+                    : QStringLiteral("%1 is no number to the plugin.").arg(Wording::quoted(text));
 }
 
 void FieldRules::add(int field, Severity severity, const char *rule, const QString &message,

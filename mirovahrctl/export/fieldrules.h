@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/linecheck.h"
+#include "mirovahrctl/export/linecheck.h"
 
 /// The rules for the fields of one line that has all of them.
 class FieldRules {
@@ -8,7 +8,7 @@ public:
     /// \a record is what the plugin makes of the parts; findings go to the line. All four must
     /// outlive the object.
     FieldRules(const ExportLine::Parts &parts, const MirovaRonRecord &record,
-               const TextWidths &widths, CheckedLine &line);
+               const ColumnWidths &widths, CheckedLine &line);
 
     void check();
 
@@ -31,6 +31,6 @@ private:
 
     const ExportLine::Parts &m_parts;
     const MirovaRonRecord &m_record;
-    const TextWidths &m_widths;
+    const ColumnWidths &m_widths;
     CheckedLine &m_line;
 };

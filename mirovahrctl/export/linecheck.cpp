@@ -1,8 +1,8 @@
-#include "tools/linecheck.h"
+#include "mirovahrctl/export/linecheck.h"
 
-#include "tools/fieldrules.h"
-#include "tools/personname.h"
-#include "tools/plaintext.h"
+#include "mirovahrctl/export/fieldrules.h"
+#include "mirovahrctl/export/personname.h"
+#include "mirovahrctl/report/wording.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
 
@@ -101,7 +101,7 @@ Finding &CheckedLine::add(Severity severity, const char *rule, const QString &me
     return findings.last();
 }
 
-LineCheck::LineCheck(const TextWidths &widths)
+LineCheck::LineCheck(const ColumnWidths &widths)
     : m_fieldNames(ExportLine::fieldNames())
     , m_widths(widths)
 {
@@ -144,12 +144,12 @@ void LineCheck::checkText(const QString &text, CheckedLine &line) const
         checkParts(parts, line);
         return;
     }
-    line.add(Severity::Error, "field-count",
-             QStringLiteral("The line has %1 instead of %2.")
-                 .arg(PlainText::counted(parts.size(), QStringLiteral("field"),
-                                         QStringLiteral("fields")),
-                      QString::number(m_fieldNames.size())),
-             fieldCountAdvice(parts, m_fieldNames.size()));
+    line.add(
+        Severity::Error, "field-count",
+        QStringLiteral("The line has %1 instead of %2.")
+            .arg(Wording::counted(parts.size(), QStringLiteral("field"), QStringLiteral("fields")),
+                 QString::number(m_fieldNames.size())),
+        fieldCountAdvice(parts, m_fieldNames.size()));
 }
 
 void LineCheck::checkParts(const ExportLine::Parts &parts, CheckedLine &line) const

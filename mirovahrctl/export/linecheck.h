@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/finding.h"
-#include "tools/textwidths.h"
+#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/site/columnwidths.h"
 #include "worker/exportline.h"
 #include "worker/mirovaronrecord.h"
 
@@ -34,11 +34,11 @@ struct CheckedLine {
 };
 
 /// Looks at the lines of an export one by one. What it takes to see two lines side by side is in
-/// ExportCheck.
+/// ExportScan.
 class LineCheck {
 public:
-    /// \a widths: how long a text may be; see TextWidths.
-    explicit LineCheck(const TextWidths &widths);
+    /// \a widths: how long a text may be; see ColumnWidths.
+    explicit LineCheck(const ColumnWidths &widths);
 
     /// Looks at the reader's current line.
     CheckedLine check(const BoundedLineReader &reader) const;
@@ -51,5 +51,5 @@ private:
     void checkParts(const ExportLine::Parts &parts, CheckedLine &line) const;
 
     const QStringList m_fieldNames;
-    const TextWidths m_widths;
+    const ColumnWidths m_widths;
 };

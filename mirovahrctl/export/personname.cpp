@@ -1,4 +1,4 @@
-#include "tools/personname.h"
+#include "mirovahrctl/export/personname.h"
 
 #include "worker/mirovaronrecord.h"
 

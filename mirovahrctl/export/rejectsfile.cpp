@@ -1,4 +1,4 @@
-#include "tools/rejectsfile.h"
+#include "mirovahrctl/export/rejectsfile.h"
 
 RejectsFile::RejectsFile(const QString &path, const QString &exportName)
     : m_file(path)

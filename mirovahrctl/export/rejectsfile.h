@@ -1,14 +1,14 @@
 #pragma once
 
-#include "tools/outputfile.h"
-#include "tools/rejectstext.h"
+#include "mirovahrctl/export/rejectswriter.h"
+#include "mirovahrctl/program/outputfile.h"
 
 #include <QString>
 
 struct CheckedLine;
 
 /// The file of check-file for the lines that do not reach the database as they should: see
-/// RejectsText.
+/// RejectsWriter.
 class RejectsFile {
 public:
     /// \a exportName is what HR calls the export.
@@ -26,5 +26,5 @@ public:
 
 private:
     OutputFile m_file;
-    RejectsText m_text;
+    RejectsWriter m_text;
 };

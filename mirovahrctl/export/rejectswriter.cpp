@@ -1,19 +1,19 @@
-#include "tools/rejectstext.h"
+#include "mirovahrctl/export/rejectswriter.h"
 
-#include "tools/linecheck.h"
-#include "tools/moment.h"
-#include "tools/plaintext.h"
+#include "mirovahrctl/export/linecheck.h"
+#include "mirovahrctl/report/moment.h"
+#include "mirovahrctl/report/wording.h"
 
 #include <QDateTime>
 #include <QIODevice>
 
-RejectsText::RejectsText(QIODevice &device, const QString &exportName)
+RejectsWriter::RejectsWriter(QIODevice &device, const QString &exportName)
     : m_device(device)
     , m_exportName(exportName)
 {
 }
 
-void RejectsText::begin()
+void RejectsWriter::begin()
 {
     comment(QStringLiteral("Lines of the export %1 that do not arrive in the attendance system as "
                            "they should.")
@@ -22,7 +22,7 @@ void RejectsText::begin()
                 .arg(Moment::text(QDateTime::currentDateTime())));
 }
 
-void RejectsText::add(const CheckedLine &line)
+void RejectsWriter::add(const CheckedLine &line)
 {
     ++m_count;
     m_device.write("\n");
@@ -38,14 +38,14 @@ void RejectsText::add(const CheckedLine &line)
         m_device.write(line.raw + '\n');
 }
 
-void RejectsText::end()
+void RejectsWriter::end()
 {
     m_device.write("\n");
     comment(QStringLiteral("%1.").arg(
-        PlainText::counted(m_count, QStringLiteral("line"), QStringLiteral("lines"))));
+        Wording::counted(m_count, QStringLiteral("line"), QStringLiteral("lines"))));
 }
 
-void RejectsText::comment(const QString &text)
+void RejectsWriter::comment(const QString &text)
 {
-    m_device.write((QStringLiteral("# ") + PlainText::visible(text) + QLatin1Char('\n')).toUtf8());
+    m_device.write((QStringLiteral("# ") + Wording::visible(text) + QLatin1Char('\n')).toUtf8());
 }

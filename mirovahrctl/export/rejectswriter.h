@@ -8,10 +8,10 @@ struct CheckedLine;
 /// The lines of an export that do not reach the database as they should, each with its reasons: a
 /// text to send to HR. The lines are byte for byte those of the export; what stands around them
 /// begins with "#". Whoever owns the device looks whether writing failed.
-class RejectsText {
+class RejectsWriter {
 public:
     /// \a exportName is what HR calls the export.
-    RejectsText(QIODevice &device, const QString &exportName);
+    RejectsWriter(QIODevice &device, const QString &exportName);
 
     void begin();
     void add(const CheckedLine &line);

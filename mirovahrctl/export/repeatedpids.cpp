@@ -1,4 +1,4 @@
-#include "tools/repeatedpids.h"
+#include "mirovahrctl/export/repeatedpids.h"
 
 #include "worker/mirovaronrecord.h"
 

@@ -1,8 +1,8 @@
-#include "tools/sqltext.h"
+#include "mirovahrctl/export/sqlhazards.h"
 
 #include <algorithm>
 
-namespace SqlText {
+namespace SqlHazards {
 
 bool hasPlaceholder(const QString &text)
 {
@@ -26,4 +26,4 @@ bool breaksStatement(const QString &text)
         || hasPlaceholder(text) || hasWideCharacter(text);
 }
 
-} // namespace SqlText
+} // namespace SqlHazards

@@ -3,7 +3,7 @@
 #include <QString>
 
 /// What a text does to the plugin's SQL statements, which take texts as they are.
-namespace SqlText {
+namespace SqlHazards {
 
 /// True when the text has a mark such as "%1": the plugin takes it for a place of its statement
 /// that is still to be filled in.
@@ -17,4 +17,4 @@ bool hasWideCharacter(const QString &text);
 /// backslash, a placeholder or a wide character.
 bool breaksStatement(const QString &text);
 
-} // namespace SqlText
+} // namespace SqlHazards

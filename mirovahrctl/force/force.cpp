@@ -1,15 +1,15 @@
-#include "tools/force.h"
+#include "mirovahrctl/force/force.h"
 
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
+#include "mirovahrctl/pluginside/forceflag.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/site/databaseaccess.h"
 #include "plugin/configuration.h"
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/databaseaccess.h"
-#include "tools/finding.h"
-#include "tools/forceflag.h"
-#include "tools/plaintext.h"
-#include "tools/report.h"
 #include "worker/importfile.h"
 #include "worker/schedule.h"
 
@@ -113,7 +113,7 @@ void ForceRun::reportPlugin()
     m_report.sentence(
         QStringLiteral("The plugin sees the flag at its next tick, within %1 when it "
                        "is not busy.")
-            .arg(PlainText::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"))));
+            .arg(Wording::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"))));
     if (!config.enabled) {
         tell(
             Severity::Warning, "disabled",

@@ -1,8 +1,8 @@
-#include "tools/gate.h"
+#include "mirovahrctl/gate/gate.h"
 
-#include "tools/commandline.h"
-#include "tools/gateoptions.h"
-#include "tools/gaterun.h"
+#include "mirovahrctl/gate/gaterun.h"
+#include "mirovahrctl/gatestate/gateoptions.h"
+#include "mirovahrctl/program/commandline.h"
 
 namespace {
 

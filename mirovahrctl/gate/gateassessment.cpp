@@ -1,8 +1,8 @@
-#include "tools/gatejudgement.h"
+#include "mirovahrctl/gate/gateassessment.h"
 
-#include "tools/plaintext.h"
+#include "mirovahrctl/report/wording.h"
 
-namespace GateJudgement {
+namespace GateAssessment {
 
 namespace {
 
@@ -21,7 +21,7 @@ QString share(qint64 part, qint64 whole, const QString &one, const QString &many
 {
     const double percent = whole > 0 ? double(part) * 100 / double(whole) : 0;
     return QStringLiteral("%1 (%2 %)")
-        .arg(PlainText::counted(part, one, many), QString::number(percent, 'f', 1));
+        .arg(Wording::counted(part, one, many), QString::number(percent, 'f', 1));
 }
 
 QString people(qint64 part, qint64 whole)
@@ -162,8 +162,8 @@ GateReason justWritten(qint64 settleSeconds)
 {
     return {finding(Severity::Error, "just-written",
                     QStringLiteral("The file was changed within the last %1.")
-                        .arg(PlainText::counted(settleSeconds, QStringLiteral("second"),
-                                                QStringLiteral("seconds"))),
+                        .arg(Wording::counted(settleSeconds, QStringLiteral("second"),
+                                              QStringLiteral("seconds"))),
                     QStringLiteral("It may not be whole yet; the next run takes it.")),
             false};
 }
@@ -175,4 +175,4 @@ GateReason busy()
             false};
 }
 
-} // namespace GateJudgement
+} // namespace GateAssessment

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "tools/exportcheck.h"
-#include "tools/finding.h"
-#include "tools/gatecomparison.h"
-#include "tools/gatelimits.h"
+#include "mirovahrctl/export/exportscan.h"
+#include "mirovahrctl/gate/gatecomparison.h"
+#include "mirovahrctl/gatestate/gatelimits.h"
+#include "mirovahrctl/report/finding.h"
 
 #include <QVector>
 
@@ -15,7 +15,7 @@ struct GateReason {
 
 /// What is known of a file that was read to its end.
 struct GateFacts {
-    ExportCheck::Counts counts;
+    ExportScan::Counts counts;
     bool endsOpen = false; ///< without a final line feed
     bool isLastLineBroken = false;
     bool hasBaseline = false; ///< there is an admitted file, with which it was compared
@@ -23,7 +23,7 @@ struct GateFacts {
 };
 
 /// What the gate has against a file, apart from how it was read. Pure functions.
-namespace GateJudgement {
+namespace GateAssessment {
 
 /// Everything that is against the file; nothing when it may pass.
 QVector<GateReason> judge(const GateFacts &facts, const GateLimits &limits, bool mayEndOpen);
@@ -34,4 +34,4 @@ GateReason changedMeanwhile();
 GateReason justWritten(qint64 settleSeconds);
 GateReason busy();
 
-} // namespace GateJudgement
+} // namespace GateAssessment

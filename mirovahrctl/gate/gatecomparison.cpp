@@ -1,4 +1,4 @@
-#include "tools/gatecomparison.h"
+#include "mirovahrctl/gate/gatecomparison.h"
 
 #include "worker/mirovaronrecord.h"
 #include "worker/recordcodes.h"

@@ -1,8 +1,8 @@
-#include "tools/gateexamination.h"
+#include "mirovahrctl/gate/gateexamination.h"
 
-#include "tools/gatefolder.h"
-#include "tools/progress.h"
-#include "tools/rejectstext.h"
+#include "mirovahrctl/export/rejectswriter.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
+#include "mirovahrctl/program/progress.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
 
@@ -39,7 +39,7 @@ GateExamination::GateExamination(GateFolder &folder, Console &console)
 {
 }
 
-bool GateExamination::run(const QString &copy, const QString &lastAdmitted, RejectsText &rejects)
+bool GateExamination::run(const QString &copy, const QString &lastAdmitted, RejectsWriter &rejects)
 {
     QFile newFile;
     QFile oldFile;
@@ -98,9 +98,9 @@ bool GateExamination::readOld(QFile &file, GateComparison &comparison)
     return !reader.hasFailed() || failReading(kLastAdmitted, reader.errorString());
 }
 
-bool GateExamination::readNew(QFile &file, GateComparison &comparison, RejectsText &rejects)
+bool GateExamination::readNew(QFile &file, GateComparison &comparison, RejectsWriter &rejects)
 {
-    ExportCheck check(file, TextWidths());
+    ExportScan check(file, ColumnWidths());
     Progress progress(m_console, QStringLiteral("Checking HR's file"));
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });

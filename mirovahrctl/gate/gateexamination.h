@@ -1,13 +1,13 @@
 #pragma once
 
-#include "tools/gatejudgement.h"
+#include "mirovahrctl/gate/gateassessment.h"
 
 #include <QString>
 
 class Console;
 class GateFolder;
 class QFile;
-class RejectsText;
+class RejectsWriter;
 
 /// Reads the gate's copy of HR's file to its end, as check-file does, and beside it the last
 /// admitted file.
@@ -17,7 +17,7 @@ public:
 
     /// Both files lie in the folder; the second need not be there. False when one cannot be read;
     /// errorString() then says why, a sentence without its full stop.
-    bool run(const QString &copy, const QString &lastAdmitted, RejectsText &rejects);
+    bool run(const QString &copy, const QString &lastAdmitted, RejectsWriter &rejects);
 
     const GateFacts &facts() const { return m_facts; }
     /// Whether the two files are the same, byte for byte.
@@ -29,7 +29,7 @@ private:
                    QFile &oldFile);
     bool compareContents(QFile &newFile, QFile &oldFile);
     bool readOld(QFile &file, GateComparison &comparison);
-    bool readNew(QFile &file, GateComparison &comparison, RejectsText &rejects);
+    bool readNew(QFile &file, GateComparison &comparison, RejectsWriter &rejects);
     bool failReading(const QString &what, const QString &reason);
 
     GateFolder &m_folder;

@@ -1,4 +1,4 @@
-#include "tools/gatepublication.h"
+#include "mirovahrctl/gate/gatepublication.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/gatefile.h"
-#include "tools/gatefolder.h"
+#include "mirovahrctl/gatestate/gatefile.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
-#include "tools/gatereport.h"
+#include "mirovahrctl/gate/gatereport.h"
 
-#include "tools/plaintext.h"
-#include "tools/report.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/wording.h"
 
 namespace {
 
@@ -65,7 +65,7 @@ Finding rejectedLines(qint64 count, const QString &path)
     return finding(
         Severity::Note, "rejected-lines",
         QStringLiteral("%1 of the file %2 not arrive as %3 should.")
-            .arg(PlainText::counted(count, QStringLiteral("line"), QStringLiteral("lines")),
+            .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines")),
                  one ? QStringLiteral("does") : QStringLiteral("do"),
                  one ? QStringLiteral("it") : QStringLiteral("they")),
         QStringLiteral("Send HR the file %1.").arg(path));
@@ -151,6 +151,6 @@ QString GateReport::verdict() const
     if (!isAdmitted)
         return QStringLiteral("The file was refused. Nothing was published.");
     return QStringLiteral("The file was admitted and published: %1.")
-        .arg(PlainText::counted(facts->counts.records, QStringLiteral("person"),
-                                QStringLiteral("people")));
+        .arg(Wording::counted(facts->counts.records, QStringLiteral("person"),
+                              QStringLiteral("people")));
 }

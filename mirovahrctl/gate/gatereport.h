@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/exitstatus.h"
-#include "tools/gateexamination.h"
+#include "mirovahrctl/gate/gateexamination.h"
+#include "mirovahrctl/report/exitstatus.h"
 
 #include <QString>
 #include <QVector>

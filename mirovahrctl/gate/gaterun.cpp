@@ -1,12 +1,12 @@
-#include "tools/gaterun.h"
+#include "mirovahrctl/gate/gaterun.h"
 
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/gatecopies.h"
-#include "tools/gateoptions.h"
-#include "tools/gatereport.h"
-#include "tools/rejectstext.h"
-#include "tools/report.h"
+#include "mirovahrctl/export/rejectswriter.h"
+#include "mirovahrctl/gate/gatereport.h"
+#include "mirovahrctl/gatestate/gatecopies.h"
+#include "mirovahrctl/gatestate/gateoptions.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
 
 #include <QFileInfo>
 
@@ -83,7 +83,7 @@ std::optional<ExitStatus> GateRun::lock()
         m_isLocked = true;
         return std::nullopt;
     case GateFolder::Lock::Busy:
-        return tell(false, {GateJudgement::busy()});
+        return tell(false, {GateAssessment::busy()});
     case GateFolder::Lock::Failed:
         return fail(m_folder.errorString());
     }
@@ -102,7 +102,7 @@ std::optional<ExitStatus> GateRun::takeFile()
     if (!m_copy.finish())
         return fail(m_copy.errorString());
     if (m_source.hasChanged())
-        return refuse({GateJudgement::changedMeanwhile()});
+        return refuse({GateAssessment::changedMeanwhile()});
     return std::nullopt;
 }
 
@@ -112,20 +112,20 @@ std::optional<ExitStatus> GateRun::openSource()
     case GateSource::Outcome::Done:
         break;
     case GateSource::Outcome::Missing:
-        return refuse({GateJudgement::missing(m_options.from)});
+        return refuse({GateAssessment::missing(m_options.from)});
     case GateSource::Outcome::Failed:
         return fail(m_source.errorString());
     }
     if (m_source.isTooLong())
-        return refuse({GateJudgement::tooLong()});
+        return refuse({GateAssessment::tooLong()});
     if (m_options.settleSeconds > 0 && m_source.age() < m_options.settleSeconds)
-        return refuse({GateJudgement::justWritten(m_options.settleSeconds)});
+        return refuse({GateAssessment::justWritten(m_options.settleSeconds)});
     return std::nullopt;
 }
 
 std::optional<ExitStatus> GateRun::examine()
 {
-    RejectsText rejects(m_rejects.device(), QFileInfo(m_options.from).fileName());
+    RejectsWriter rejects(m_rejects.device(), QFileInfo(m_options.from).fileName());
     if (!m_rejects.create())
         return fail(m_rejects.errorString());
     rejects.begin();
@@ -143,7 +143,7 @@ ExitStatus GateRun::decide()
     // What was let through once is let through again: with --accept, too.
     const QVector<GateReason> reasons = m_examination.isUnchanged()
         ? QVector<GateReason>()
-        : GateJudgement::judge(m_examination.facts(), m_options.limits, m_options.mayEndOpen);
+        : GateAssessment::judge(m_examination.facts(), m_options.limits, m_options.mayEndOpen);
     if (!reasons.isEmpty() && !(m_options.accept && mayAllBeOverridden(reasons)))
         return refuse(reasons);
     const ExitStatus status = admit(messages(reasons));

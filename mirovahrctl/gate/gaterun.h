@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tools/exitstatus.h"
-#include "tools/gateexamination.h"
-#include "tools/gatefile.h"
-#include "tools/gatefolder.h"
-#include "tools/gatepublication.h"
-#include "tools/gaterecord.h"
-#include "tools/gatesource.h"
+#include "mirovahrctl/gate/gateexamination.h"
+#include "mirovahrctl/gate/gatepublication.h"
+#include "mirovahrctl/gate/gatesource.h"
+#include "mirovahrctl/gatestate/gatefile.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
+#include "mirovahrctl/gatestate/gaterecord.h"
+#include "mirovahrctl/report/exitstatus.h"
 
 #include <QStringList>
 #include <QVector>

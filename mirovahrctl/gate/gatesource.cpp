@@ -1,4 +1,4 @@
-#include "tools/gatesource.h"
+#include "mirovahrctl/gate/gatesource.h"
 
 #include "worker/boundedlinereader.h"
 

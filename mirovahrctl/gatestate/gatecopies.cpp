@@ -1,6 +1,6 @@
-#include "tools/gatecopies.h"
+#include "mirovahrctl/gatestate/gatecopies.h"
 
-#include "tools/gatefolder.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
 
 #include <QRegularExpression>
 

@@ -1,6 +1,6 @@
-#include "tools/gatefile.h"
+#include "mirovahrctl/gatestate/gatefile.h"
 
-#include "tools/gatefolder.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
 
 #include <QRandomGenerator>
 

@@ -1,6 +1,6 @@
-#include "tools/gatefolder.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
 
-#include "tools/gatefile.h"
+#include "mirovahrctl/gatestate/gatefile.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
-#include "tools/gateoptions.h"
+#include "mirovahrctl/gatestate/gateoptions.h"
 
-#include "tools/commandline.h"
-#include "tools/console.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/exitstatus.h"
-#include "tools/gatelimits.h"
+#include "mirovahrctl/gatestate/gatelimits.h"
+#include "mirovahrctl/report/exitstatus.h"
 
 #include <QString>
 

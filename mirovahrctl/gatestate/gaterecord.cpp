@@ -1,8 +1,8 @@
-#include "tools/gaterecord.h"
+#include "mirovahrctl/gatestate/gaterecord.h"
 
-#include "tools/gatefile.h"
-#include "tools/gatefolder.h"
-#include "tools/moment.h"
+#include "mirovahrctl/gatestate/gatefile.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
+#include "mirovahrctl/report/moment.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

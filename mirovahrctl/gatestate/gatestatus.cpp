@@ -1,4 +1,4 @@
-#include "tools/gatestatus.h"
+#include "mirovahrctl/gatestate/gatestatus.h"
 
 #include <QDateTime>
 #include <QFile>

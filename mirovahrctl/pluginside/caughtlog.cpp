@@ -1,4 +1,4 @@
-#include "tools/caughtlog.h"
+#include "mirovahrctl/pluginside/caughtlog.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "tools/forceflag.h"
+#include "mirovahrctl/pluginside/forceflag.h"
 
 #include "db/tepdbsettings.h"
-#include "tools/caughtlog.h"
+#include "mirovahrctl/pluginside/caughtlog.h"
 #include "worker/schedule.h"
 
 ForceFlag::ForceFlag(const QSqlDatabase &db)

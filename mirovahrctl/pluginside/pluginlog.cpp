@@ -1,4 +1,4 @@
-#include "tools/pluginlog.h"
+#include "mirovahrctl/pluginside/pluginlog.h"
 
 #include <utility>
 

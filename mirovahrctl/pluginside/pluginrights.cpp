@@ -1,4 +1,4 @@
-#include "tools/pluginrights.h"
+#include "mirovahrctl/pluginside/pluginrights.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "tools/pluginview.h"
+#include "mirovahrctl/pluginside/pluginview.h"
 
+#include "mirovahrctl/site/databaseaccess.h"
 #include "plugin/workersetup.h"
-#include "tools/databaseaccess.h"
 
 #include <QSqlQuery>
 #include <QStringList>

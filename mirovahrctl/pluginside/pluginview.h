@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/caughtlog.h"
-#include "tools/sqlsession.h"
+#include "mirovahrctl/pluginside/caughtlog.h"
+#include "mirovahrctl/site/sqlsession.h"
 #include "worker/mhrworker.h"
 
 #include <QSqlDatabase>

@@ -1,15 +1,15 @@
-#include "tools/preview.h"
+#include "mirovahrctl/preview/preview.h"
 
 #include "cli/databaseoptions.h"
+#include "mirovahrctl/preview/previewreport.h"
+#include "mirovahrctl/preview/previewserver.h"
+#include "mirovahrctl/preview/previewsql.h"
+#include "mirovahrctl/preview/previewwork.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/outputfile.h"
+#include "mirovahrctl/program/report.h"
 #include "plugin/configuration.h"
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/outputfile.h"
-#include "tools/previewreport.h"
-#include "tools/previewserver.h"
-#include "tools/previewsql.h"
-#include "tools/previewwork.h"
-#include "tools/report.h"
 
 #include <QFileInfo>
 #include <QSettings>

@@ -1,6 +1,6 @@
-#include "tools/previewcopy.h"
+#include "mirovahrctl/preview/previewcopy.h"
 
-#include "tools/previewschema.h"
+#include "mirovahrctl/preview/previewschema.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/sqlsession.h"
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <QSqlDatabase>
 #include <QString>

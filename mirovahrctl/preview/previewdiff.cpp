@@ -1,6 +1,6 @@
-#include "tools/previewdiff.h"
+#include "mirovahrctl/preview/previewdiff.h"
 
-#include "tools/previewcopy.h"
+#include "mirovahrctl/preview/previewcopy.h"
 
 #include <QMap>
 

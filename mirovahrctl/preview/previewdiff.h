@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/previewschema.h"
-#include "tools/sqlsession.h"
+#include "mirovahrctl/preview/previewschema.h"
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <QHash>
 #include <QSqlDatabase>

@@ -1,6 +1,6 @@
-#include "tools/previewmoments.h"
+#include "mirovahrctl/preview/previewmoments.h"
 
-#include "tools/previewdiff.h"
+#include "mirovahrctl/preview/previewdiff.h"
 
 #include <algorithm>
 #include <iterator>

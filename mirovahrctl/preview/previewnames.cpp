@@ -1,4 +1,4 @@
-#include "tools/previewnames.h"
+#include "mirovahrctl/preview/previewnames.h"
 
 namespace {
 

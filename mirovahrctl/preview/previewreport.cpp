@@ -1,9 +1,9 @@
-#include "tools/previewreport.h"
+#include "mirovahrctl/preview/previewreport.h"
 
+#include "mirovahrctl/preview/previewwork.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/wording.h"
 #include "plugin/configuration.h"
-#include "tools/plaintext.h"
-#include "tools/previewwork.h"
-#include "tools/report.h"
 
 #include <QDate>
 #include <QRegularExpression>
@@ -34,7 +34,7 @@ QString release(const QString &version)
 
 QString rows(int count)
 {
-    return PlainText::counted(count, QStringLiteral("row"), QStringLiteral("rows"));
+    return Wording::counted(count, QStringLiteral("row"), QStringLiteral("rows"));
 }
 
 } // namespace
@@ -184,7 +184,7 @@ QString PreviewReport::verdict() const
     if (warnings > 0) {
         text +=
             QStringLiteral(" The plugin would complain %1.")
-                .arg(PlainText::counted(warnings, QStringLiteral("time"), QStringLiteral("times")));
+                .arg(Wording::counted(warnings, QStringLiteral("time"), QStringLiteral("times")));
     }
     return text;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/exitstatus.h"
-#include "tools/finding.h"
-#include "tools/previewwords.h"
+#include "mirovahrctl/preview/previewwords.h"
+#include "mirovahrctl/report/exitstatus.h"
+#include "mirovahrctl/report/finding.h"
 
 #include <QMap>
 #include <QString>

@@ -1,7 +1,7 @@
-#include "tools/previewrun.h"
+#include "mirovahrctl/preview/previewrun.h"
 
+#include "mirovahrctl/pluginside/forceflag.h"
 #include "plugin/workersetup.h"
-#include "tools/forceflag.h"
 #include "worker/mhrworker.h"
 
 #include <QDateTime>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "mirovahrctl/pluginside/pluginlog.h"
+#include "mirovahrctl/preview/syncfailure.h"
 #include "plugin/configuration.h"
-#include "tools/pluginlog.h"
-#include "tools/syncfailure.h"
 
 #include <QSqlDatabase>
 #include <QString>

@@ -1,6 +1,6 @@
-#include "tools/previewschema.h"
+#include "mirovahrctl/preview/previewschema.h"
 
-#include "tools/sqlsession.h"
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <algorithm>
 #include <iterator>

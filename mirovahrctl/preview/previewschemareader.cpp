@@ -1,8 +1,8 @@
-#include "tools/previewschemareader.h"
+#include "mirovahrctl/preview/previewschemareader.h"
 
 #include "db/tepdbcontract.h"
-#include "tools/pluginrights.h"
-#include "tools/sqlsession.h"
+#include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <QRegularExpression>
 

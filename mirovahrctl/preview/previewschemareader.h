@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/previewrefusal.h"
-#include "tools/previewschema.h"
+#include "mirovahrctl/preview/previewrefusal.h"
+#include "mirovahrctl/preview/previewschema.h"
 
 #include <QHash>
 #include <QSet>

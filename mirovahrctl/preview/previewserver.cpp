@@ -1,6 +1,6 @@
-#include "tools/previewserver.h"
+#include "mirovahrctl/preview/previewserver.h"
 
-#include "tools/previewschema.h"
+#include "mirovahrctl/preview/previewschema.h"
 
 #include <QSqlError>
 

@@ -1,8 +1,8 @@
-#include "tools/previewsql.h"
+#include "mirovahrctl/preview/previewsql.h"
 
-#include "tools/moment.h"
-#include "tools/previewdiff.h"
-#include "tools/previewmoments.h"
+#include "mirovahrctl/preview/previewdiff.h"
+#include "mirovahrctl/preview/previewmoments.h"
+#include "mirovahrctl/report/moment.h"
 
 #include <QDateTime>
 #include <QIODevice>

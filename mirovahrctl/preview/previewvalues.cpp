@@ -1,10 +1,10 @@
-#include "tools/previewvalues.h"
+#include "mirovahrctl/preview/previewvalues.h"
 
-#include "tools/moment.h"
-#include "tools/previewcolumns.h"
-#include "tools/previewdiff.h"
-#include "tools/previewmoments.h"
-#include "tools/previewnames.h"
+#include "mirovahrctl/preview/previewcolumns.h"
+#include "mirovahrctl/preview/previewdiff.h"
+#include "mirovahrctl/preview/previewmoments.h"
+#include "mirovahrctl/preview/previewnames.h"
+#include "mirovahrctl/report/moment.h"
 
 #include <QDateTime>
 #include <QStringList>

@@ -1,8 +1,8 @@
-#include "tools/previewwords.h"
+#include "mirovahrctl/preview/previewwords.h"
 
-#include "tools/previewcolumns.h"
-#include "tools/previewdiff.h"
-#include "tools/previewnames.h"
+#include "mirovahrctl/preview/previewcolumns.h"
+#include "mirovahrctl/preview/previewdiff.h"
+#include "mirovahrctl/preview/previewnames.h"
 
 #include <QRegularExpression>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/previewvalues.h"
+#include "mirovahrctl/preview/previewvalues.h"
 
 #include <QString>
 #include <QVector>

@@ -1,14 +1,14 @@
-#include "tools/previewwork.h"
+#include "mirovahrctl/preview/previewwork.h"
 
 #include "cli/database.h"
-#include "tools/databaseaccess.h"
-#include "tools/midnights.h"
-#include "tools/previewcopy.h"
-#include "tools/previewrun.h"
-#include "tools/previewschemareader.h"
-#include "tools/previewserver.h"
-#include "tools/progress.h"
-#include "tools/sqlsession.h"
+#include "mirovahrctl/preview/previewcopy.h"
+#include "mirovahrctl/preview/previewrun.h"
+#include "mirovahrctl/preview/previewschemareader.h"
+#include "mirovahrctl/preview/previewserver.h"
+#include "mirovahrctl/program/progress.h"
+#include "mirovahrctl/site/databaseaccess.h"
+#include "mirovahrctl/site/midnights.h"
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <QIODevice>
 

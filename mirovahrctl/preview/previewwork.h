@@ -1,12 +1,12 @@
 #pragma once
 
+#include "mirovahrctl/preview/previewdiff.h"
+#include "mirovahrctl/preview/previewmoments.h"
+#include "mirovahrctl/preview/previewnames.h"
+#include "mirovahrctl/preview/previewrefusal.h"
+#include "mirovahrctl/preview/previewschema.h"
+#include "mirovahrctl/report/finding.h"
 #include "plugin/configuration.h"
-#include "tools/finding.h"
-#include "tools/previewdiff.h"
-#include "tools/previewmoments.h"
-#include "tools/previewnames.h"
-#include "tools/previewrefusal.h"
-#include "tools/previewschema.h"
 
 #include <QString>
 #include <QVector>

@@ -1,4 +1,4 @@
-#include "tools/syncfailure.h"
+#include "mirovahrctl/preview/syncfailure.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/previewrefusal.h"
+#include "mirovahrctl/preview/previewrefusal.h"
 
 #include <QString>
 

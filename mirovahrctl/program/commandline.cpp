@@ -1,8 +1,8 @@
-#include "tools/commandline.h"
+#include "mirovahrctl/program/commandline.h"
 
 #include "cli/databaseoptions.h"
 #include "cli/standardoptions.h"
-#include "tools/console.h"
+#include "mirovahrctl/program/console.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "tools/console.h"
+#include "mirovahrctl/program/console.h"
 
-#include "tools/jsonreport.h"
-#include "tools/plaintext.h"
+#include "mirovahrctl/report/jsonreport.h"
+#include "mirovahrctl/report/wording.h"
 
 #include <QIODevice>
 
@@ -32,7 +32,7 @@ void Console::print(const QString &text)
 
 ExitStatus Console::fail(ExitStatus status, const QString &sentence)
 {
-    const QString reason = PlainText::sentence(sentence);
+    const QString reason = Wording::sentence(sentence);
     complain(reason);
     if (m_json)
         m_json->fail(m_subcommand, status, reason);
@@ -41,7 +41,7 @@ ExitStatus Console::fail(ExitStatus status, const QString &sentence)
 
 void Console::warn(const QString &sentence)
 {
-    complain(QStringLiteral("Warning: ") + PlainText::sentence(sentence));
+    complain(QStringLiteral("Warning: ") + Wording::sentence(sentence));
 }
 
 void Console::complain(const QString &sentence)

@@ -1,4 +1,4 @@
-#include "tools/outputfile.h"
+#include "mirovahrctl/program/outputfile.h"
 
 #include <sys/stat.h>
 

@@ -1,6 +1,6 @@
-#include "tools/progress.h"
+#include "mirovahrctl/program/progress.h"
 
-#include "tools/console.h"
+#include "mirovahrctl/program/console.h"
 
 #include <QIODevice>
 

@@ -1,11 +1,11 @@
-#include "tools/report.h"
+#include "mirovahrctl/program/report.h"
 
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/finding.h"
-#include "tools/htmlreport.h"
-#include "tools/jsonreport.h"
-#include "tools/textreport.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/htmlreport.h"
+#include "mirovahrctl/report/jsonreport.h"
+#include "mirovahrctl/report/textreport.h"
 
 Report::Report(const CommandLine &line, Console &console)
     : m_console(console)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/outputfile.h"
-#include "tools/reportwriter.h"
+#include "mirovahrctl/program/outputfile.h"
+#include "mirovahrctl/report/reportwriter.h"
 
 #include <memory>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "tools/exitstatus.h"
+#include "mirovahrctl/report/exitstatus.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "tools/finding.h"
+#include "mirovahrctl/report/finding.h"
 
 QString severityWord(Severity severity)
 {

@@ -1,8 +1,8 @@
-#include "tools/htmlreport.h"
+#include "mirovahrctl/report/htmlreport.h"
 
-#include "tools/finding.h"
-#include "tools/moment.h"
-#include "tools/plaintext.h"
+#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/moment.h"
+#include "mirovahrctl/report/wording.h"
 
 #include <QDateTime>
 #include <QIODevice>
@@ -62,7 +62,7 @@ footer { margin-top: 2rem; color: #50596a; font-size: .85rem; }
 
 QString html(const QString &text)
 {
-    return PlainText::visible(text).toHtmlEscaped();
+    return Wording::visible(text).toHtmlEscaped();
 }
 
 QString cell(const QString &label, const QString &content)
@@ -102,7 +102,7 @@ QString tableRow(const Table &table, const QVariantList &row)
 {
     QString text = QStringLiteral("<tr>");
     for (int i = 0; i < table.columns.size(); ++i)
-        text += cell(table.columns.at(i).heading, html(PlainText::plain(row.at(i))));
+        text += cell(table.columns.at(i).heading, html(Wording::plain(row.at(i))));
     return text + QStringLiteral("</tr>\n");
 }
 
@@ -159,7 +159,7 @@ void HtmlReport::finding(const Finding &finding)
 void HtmlReport::fact(const QString &, const QString &label, const QVariant &value)
 {
     m_facts += QStringLiteral("<div><dt>%1:</dt><dd>%2</dd></div>\n")
-                   .arg(html(label), html(PlainText::plain(value)));
+                   .arg(html(label), html(Wording::plain(value)));
 }
 
 void HtmlReport::end(ExitStatus status, const QString &verdict)
@@ -208,7 +208,7 @@ void HtmlReport::leaveOutRest()
     if (m_leftOut == 0)
         return;
     m_sections += QStringLiteral("<p>This page ends here: %1 not shown.</p>\n")
-                      .arg(PlainText::counted(m_leftOut, QStringLiteral("finding more is"),
-                                              QStringLiteral("findings more are")));
+                      .arg(Wording::counted(m_leftOut, QStringLiteral("finding more is"),
+                                            QStringLiteral("findings more are")));
     m_leftOut = 0;
 }

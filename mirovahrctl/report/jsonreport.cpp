@@ -1,6 +1,6 @@
-#include "tools/jsonreport.h"
+#include "mirovahrctl/report/jsonreport.h"
 
-#include "tools/finding.h"
+#include "mirovahrctl/report/finding.h"
 
 #include <QIODevice>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "tools/moment.h"
+#include "mirovahrctl/report/moment.h"
 
 #include <QDateTime>
 

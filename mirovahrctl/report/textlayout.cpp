@@ -1,4 +1,4 @@
-#include "tools/textlayout.h"
+#include "mirovahrctl/report/textlayout.h"
 
 #include <algorithm>
 #include <numeric>

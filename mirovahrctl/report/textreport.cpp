@@ -1,8 +1,8 @@
-#include "tools/textreport.h"
+#include "mirovahrctl/report/textreport.h"
 
-#include "tools/finding.h"
-#include "tools/plaintext.h"
-#include "tools/textlayout.h"
+#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/textlayout.h"
+#include "mirovahrctl/report/wording.h"
 
 #include <QIODevice>
 #include <QStringList>
@@ -19,10 +19,10 @@ QString findingHead(const Finding &finding)
     if (finding.line > 0)
         place << QStringLiteral("line %1").arg(finding.line);
     if (!finding.field.isEmpty())
-        place << PlainText::visible(finding.field);
+        place << Wording::visible(finding.field);
     QString head = place.join(QStringLiteral(", "));
     if (!finding.subject.isEmpty())
-        head += QStringLiteral(" (%1)").arg(PlainText::visible(finding.subject));
+        head += QStringLiteral(" (%1)").arg(Wording::visible(finding.subject));
     if (!head.isEmpty())
         head = head.trimmed() + QStringLiteral(": ");
     return head + severityWord(finding.severity) + QStringLiteral(": ");
@@ -32,7 +32,7 @@ QStringList cellTexts(const QVariantList &row)
 {
     QStringList texts;
     for (const QVariant &cell : row)
-        texts << PlainText::visible(PlainText::plain(cell));
+        texts << Wording::visible(Wording::plain(cell));
     return texts;
 }
 
@@ -65,7 +65,7 @@ void TextReport::section(const QString &, const QString &title)
 
 void TextReport::sentence(const QString &text)
 {
-    paragraph(PlainText::visible(text), 0);
+    paragraph(Wording::visible(text), 0);
 }
 
 void TextReport::table(const Table &table)
@@ -81,19 +81,19 @@ void TextReport::table(const Table &table)
 void TextReport::finding(const Finding &finding)
 {
     paragraph(QStringLiteral("%1%2 [%3]")
-                  .arg(findingHead(finding), PlainText::visible(finding.message), finding.rule),
+                  .arg(findingHead(finding), Wording::visible(finding.message), finding.rule),
               kIndent / 2);
     if (!finding.advice.isEmpty()) {
         const QString indent(kIndent, QLatin1Char(' '));
         paragraph(indent + (finding.forHr ? QStringLiteral("Tell HR: ") : QString())
-                      + PlainText::visible(finding.advice),
+                      + Wording::visible(finding.advice),
                   kIndent);
     }
 }
 
 void TextReport::fact(const QString &, const QString &label, const QVariant &value)
 {
-    paragraph(QStringLiteral("%1: %2").arg(label, PlainText::visible(PlainText::plain(value))),
+    paragraph(QStringLiteral("%1: %2").arg(label, Wording::visible(Wording::plain(value))),
               kIndent);
 }
 
@@ -105,7 +105,7 @@ void TextReport::end(ExitStatus, const QString &verdict)
 
 void TextReport::heading(const QString &text, QChar underline)
 {
-    const QStringList lines = TextLayout::wrapped(PlainText::visible(text), m_columns);
+    const QStringList lines = TextLayout::wrapped(Wording::visible(text), m_columns);
     int width = 0;
     for (const QString &part : lines) {
         line(part);

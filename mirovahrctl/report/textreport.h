@@ -1,7 +1,6 @@
 #pragma once
 
-#include "tools/console.h"
-#include "tools/reportwriter.h"
+#include "mirovahrctl/report/reportwriter.h"
 
 class QIODevice;
 
@@ -9,10 +8,11 @@ class QIODevice;
 /// its advice below it.
 class TextReport : public ReportWriter {
 public:
-    explicit TextReport(QIODevice &out, int columns = Console::kColumns);
+    /// \a columns: how wide a line may be, in characters.
+    TextReport(QIODevice &out, int columns);
 
     void begin(const QString &subcommand, const QString &title) override;
-    void section(const QString &id, const QString &heading) override;
+    void section(const QString &id, const QString &title) override;
     void sentence(const QString &text) override;
     void table(const Table &table) override;
     void finding(const Finding &finding) override;

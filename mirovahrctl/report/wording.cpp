@@ -1,6 +1,6 @@
-#include "tools/plaintext.h"
+#include "mirovahrctl/report/wording.h"
 
-namespace PlainText {
+namespace Wording {
 
 namespace {
 
@@ -58,4 +58,4 @@ QString counted(qint64 count, const QString &one, const QString &many)
     return QStringLiteral("%1 %2").arg(QString::number(count), count == 1 ? one : many);
 }
 
-} // namespace PlainText
+} // namespace Wording

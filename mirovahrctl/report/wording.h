@@ -4,7 +4,7 @@
 #include <QVariant>
 
 /// Texts from files and databases, made fit to be shown.
-namespace PlainText {
+namespace Wording {
 
 /// The text with every control character as a visible escape such as "\x1b": what an export
 /// contains must not steer a terminal or break a line.
@@ -22,4 +22,4 @@ QString sentence(const QString &text);
 /// "1 line", "2 lines".
 QString counted(qint64 count, const QString &one, const QString &many);
 
-} // namespace PlainText
+} // namespace Wording

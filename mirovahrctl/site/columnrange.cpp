@@ -1,6 +1,6 @@
-#include "tools/columnrange.h"
+#include "mirovahrctl/site/columnrange.h"
 
-#include "tools/dbschema.h"
+#include "mirovahrctl/site/dbschema.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "tools/textwidths.h"
+#include "mirovahrctl/site/columnwidths.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
@@ -12,7 +12,7 @@ constexpr char kSelectWidths[] =
 
 } // namespace
 
-TextWidths readTextWidths(const QSqlDatabase &database, QString &error)
+ColumnWidths readColumnWidths(const QSqlDatabase &database, QString &error)
 {
     QSqlQuery query(database);
     if (!query.exec(QLatin1String(kSelectWidths))) {
@@ -20,7 +20,7 @@ TextWidths readTextWidths(const QSqlDatabase &database, QString &error)
                     .arg(query.lastError().text());
         return {};
     }
-    TextWidths widths;
+    ColumnWidths widths;
     while (query.next())
         widths.insert(query.value(0).toString(), query.value(1).toInt());
     if (widths.isEmpty()) {

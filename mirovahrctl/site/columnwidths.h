@@ -7,8 +7,8 @@ class QSqlDatabase;
 
 /// How many characters the text columns of `people` hold, by column name. Empty: not known, and
 /// then no text is too long.
-using TextWidths = QHash<QString, int>;
+using ColumnWidths = QHash<QString, int>;
 
 /// Asks the database's information schema. Empty when that fails or there is no such table; `error`
 /// then says why, a sentence without its full stop.
-TextWidths readTextWidths(const QSqlDatabase &database, QString &error);
+ColumnWidths readColumnWidths(const QSqlDatabase &database, QString &error);

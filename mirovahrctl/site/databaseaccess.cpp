@@ -1,4 +1,4 @@
-#include "tools/databaseaccess.h"
+#include "mirovahrctl/site/databaseaccess.h"
 
 #include "cli/database.h"
 

@@ -1,4 +1,4 @@
-#include "tools/dbschema.h"
+#include "mirovahrctl/site/dbschema.h"
 
 #include <QSqlDatabase>
 #include <QSqlError>

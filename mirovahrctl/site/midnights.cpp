@@ -1,6 +1,6 @@
-#include "tools/midnights.h"
+#include "mirovahrctl/site/midnights.h"
 
-#include "tools/sqlsession.h"
+#include "mirovahrctl/site/sqlsession.h"
 #include "worker/recorddates.h"
 
 #include <QDateTime>

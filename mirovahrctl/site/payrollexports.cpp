@@ -1,4 +1,4 @@
-#include "tools/payrollexports.h"
+#include "mirovahrctl/site/payrollexports.h"
 
 #include "db/tepdbsettings.h"
 

@@ -1,6 +1,6 @@
-#include "tools/personrow.h"
+#include "mirovahrctl/site/personrow.h"
 
-#include "tools/sqlsession.h"
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <QDateTime>
 

@@ -1,4 +1,4 @@
-#include "tools/serverversion.h"
+#include "mirovahrctl/site/serverversion.h"
 
 ServerVersion ServerVersion::parse(const QString &text)
 {

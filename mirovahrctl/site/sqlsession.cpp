@@ -1,4 +1,4 @@
-#include "tools/sqlsession.h"
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <QSqlError>
 #include <QSqlQuery>

@@ -1,8 +1,8 @@
-#include "tools/nagios.h"
+#include "mirovahrctl/status/nagios.h"
 
-#include "tools/plaintext.h"
-#include "tools/statusdata.h"
-#include "tools/statusjudgement.h"
+#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/status/statusassessment.h"
+#include "mirovahrctl/status/statusdata.h"
 
 #include <QStringList>
 
@@ -15,7 +15,7 @@ QString limit(const std::optional<qint64> &limit)
     return limit ? QString::number(*limit) : QString();
 }
 
-QString performance(const StatusData &data, const StatusJudgement &judgement,
+QString performance(const StatusData &data, const StatusAssessment &judgement,
                     const AgeLimits &limits)
 {
     QStringList values;
@@ -31,20 +31,20 @@ QString performance(const StatusData &data, const StatusJudgement &judgement,
     return values.join(QLatin1Char(' '));
 }
 
-QString summary(const StatusData &data, const StatusJudgement &judgement)
+QString summary(const StatusData &data, const StatusAssessment &judgement)
 {
     const QString age = judgement.age
         ? QStringLiteral("last %1 %2 ago")
-              .arg(judgement.ageOf, StatusJudgement::span(*judgement.age))
+              .arg(judgement.ageOf, StatusAssessment::span(*judgement.age))
         : QStringLiteral("no %1 yet").arg(judgement.ageOf);
     return QStringLiteral("%1, %2, %3 in the terminal queue")
         .arg(age,
-             PlainText::counted(data.activePeople, QStringLiteral("active person"),
-                                QStringLiteral("active people")),
-             PlainText::counted(data.queued, QStringLiteral("entry"), QStringLiteral("entries")));
+             Wording::counted(data.activePeople, QStringLiteral("active person"),
+                              QStringLiteral("active people")),
+             Wording::counted(data.queued, QStringLiteral("entry"), QStringLiteral("entries")));
 }
 
-QString complaints(const StatusJudgement &judgement)
+QString complaints(const StatusAssessment &judgement)
 {
     QStringList messages;
     for (const Finding &finding : judgement.findings)
@@ -65,10 +65,10 @@ QString Nagios::line(Level level, const QString &text)
     QString fit = text.simplified();
     fit.replace(QLatin1Char('|'), QLatin1Char('/'));
     return QStringLiteral("MIROVAHR %1 - %2")
-        .arg(QLatin1String(kWords[static_cast<int>(level)]), PlainText::visible(fit));
+        .arg(QLatin1String(kWords[static_cast<int>(level)]), Wording::visible(fit));
 }
 
-Nagios::Level Nagios::level(const StatusJudgement &judgement)
+Nagios::Level Nagios::level(const StatusAssessment &judgement)
 {
     Level level = Level::Ok;
     for (const Finding &finding : judgement.findings) {
@@ -79,7 +79,7 @@ Nagios::Level Nagios::level(const StatusJudgement &judgement)
     return level;
 }
 
-QString Nagios::statusLine(const StatusData &data, const StatusJudgement &judgement,
+QString Nagios::statusLine(const StatusData &data, const StatusAssessment &judgement,
                            const AgeLimits &limits)
 {
     const QString text =

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tools/exitstatus.h"
+#include "mirovahrctl/report/exitstatus.h"
 
 #include <QString>
 
 struct AgeLimits;
 struct StatusData;
-struct StatusJudgement;
+struct StatusAssessment;
 
 /// The answer to a monitoring system in the convention of Nagios and its kin: one line, and an exit
 /// status of the convention's own.
@@ -21,10 +21,10 @@ ExitStatus exitStatus(Level level);
 /// "MIROVAHR CRITICAL - " and a text, made fit for the line.
 QString line(Level level, const QString &text);
 
-Level level(const StatusJudgement &judgement);
+Level level(const StatusAssessment &judgement);
 
 /// The whole line of a status, with its performance data.
-QString statusLine(const StatusData &data, const StatusJudgement &judgement,
+QString statusLine(const StatusData &data, const StatusAssessment &judgement,
                    const AgeLimits &limits);
 
 } // namespace Nagios

@@ -1,16 +1,16 @@
-#include "tools/status.h"
+#include "mirovahrctl/status/status.h"
 
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/databaseaccess.h"
-#include "tools/gatestatus.h"
-#include "tools/moment.h"
-#include "tools/nagios.h"
-#include "tools/report.h"
-#include "tools/statusdata.h"
-#include "tools/statusjudgement.h"
+#include "mirovahrctl/gatestate/gatestatus.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/moment.h"
+#include "mirovahrctl/site/databaseaccess.h"
+#include "mirovahrctl/status/nagios.h"
+#include "mirovahrctl/status/statusassessment.h"
+#include "mirovahrctl/status/statusdata.h"
 
 #include <QDateTime>
 
@@ -42,7 +42,7 @@ private:
     std::optional<ExitStatus> readLimit(const char *option, std::optional<qint64> &limit);
     std::optional<ExitStatus> readGate();
     ExitStatus answer(const StatusData &data);
-    ExitStatus report(const StatusData &data, const StatusJudgement &judgement);
+    ExitStatus report(const StatusData &data, const StatusAssessment &judgement);
     ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
@@ -154,7 +154,7 @@ std::optional<ExitStatus> StatusRun::readGate()
 
 ExitStatus StatusRun::answer(const StatusData &data)
 {
-    const StatusJudgement judgement = StatusJudgement::of(
+    const StatusAssessment judgement = StatusAssessment::of(
         data, m_gate ? &*m_gate : nullptr, m_limits, QDateTime::currentSecsSinceEpoch());
     if (!m_line.isSet("nagios"))
         return report(data, judgement);
@@ -162,7 +162,7 @@ ExitStatus StatusRun::answer(const StatusData &data)
     return Nagios::exitStatus(Nagios::level(judgement));
 }
 
-ExitStatus StatusRun::report(const StatusData &data, const StatusJudgement &judgement)
+ExitStatus StatusRun::report(const StatusData &data, const StatusAssessment &judgement)
 {
     Report report(m_line, m_console);
     report.begin(m_line.subcommand(), QStringLiteral("Status of the plugin"));

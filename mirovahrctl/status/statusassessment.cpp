@@ -1,8 +1,8 @@
-#include "tools/statusjudgement.h"
+#include "mirovahrctl/status/statusassessment.h"
 
-#include "tools/gatestatus.h"
-#include "tools/plaintext.h"
-#include "tools/statusdata.h"
+#include "mirovahrctl/gatestate/gatestatus.h"
+#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/status/statusdata.h"
 
 namespace {
 
@@ -15,7 +15,8 @@ struct Unit {
 constexpr Unit kUnits[] = {
     {86400, "day", "days"}, {3600, "hour", "hours"}, {60, "minute", "minutes"}};
 
-void findAge(StatusJudgement &judgement, const StatusData &data, const GateStatus *gate, qint64 now)
+void findAge(StatusAssessment &judgement, const StatusData &data, const GateStatus *gate,
+             qint64 now)
 {
     if (gate != nullptr && gate->admittedTime) {
         judgement.age = qMax(qint64(0), now - *gate->admittedTime);
@@ -42,14 +43,14 @@ bool isBeyond(const std::optional<qint64> &age, const std::optional<qint64> &lim
     return limit && (!age || *age >= *limit);
 }
 
-void judgeAge(StatusJudgement &judgement, const AgeLimits &limits)
+void judgeAge(StatusAssessment &judgement, const AgeLimits &limits)
 {
     const bool critical = isBeyond(judgement.age, limits.critical);
     if (!critical && !isBeyond(judgement.age, limits.warning))
         return;
     const QString message = judgement.age
         ? QStringLiteral("The last %1 is %2 old.")
-              .arg(judgement.ageOf, StatusJudgement::span(*judgement.age))
+              .arg(judgement.ageOf, StatusAssessment::span(*judgement.age))
         : QStringLiteral("There is no %1 yet.").arg(judgement.ageOf);
     judgement.findings +=
         finding(critical ? Severity::Error : Severity::Warning, "too-old", message,
@@ -57,7 +58,7 @@ void judgeAge(StatusJudgement &judgement, const AgeLimits &limits)
                                "what HR delivers."));
 }
 
-void judgeGate(StatusJudgement &judgement, const GateStatus &gate)
+void judgeGate(StatusAssessment &judgement, const GateStatus &gate)
 {
     if (!gate.refused)
         return;
@@ -65,16 +66,16 @@ void judgeGate(StatusJudgement &judgement, const GateStatus &gate)
     if (!gate.reasons.isEmpty())
         message += QStringLiteral(": ") + gate.reasons.join(QStringLiteral("; "));
     judgement.findings +=
-        finding(Severity::Warning, "gate-refused", PlainText::sentence(message),
+        finding(Severity::Warning, "gate-refused", Wording::sentence(message),
                 QStringLiteral("Until a file is admitted nothing new reaches the plugin."));
 }
 
 } // namespace
 
-StatusJudgement StatusJudgement::of(const StatusData &data, const GateStatus *gate,
-                                    const AgeLimits &limits, qint64 now)
+StatusAssessment StatusAssessment::of(const StatusData &data, const GateStatus *gate,
+                                      const AgeLimits &limits, qint64 now)
 {
-    StatusJudgement judgement;
+    StatusAssessment judgement;
     findAge(judgement, data, gate, now);
     judgeAge(judgement, limits);
     if (gate != nullptr)
@@ -82,13 +83,13 @@ StatusJudgement StatusJudgement::of(const StatusData &data, const GateStatus *ga
     return judgement;
 }
 
-QString StatusJudgement::span(qint64 seconds)
+QString StatusAssessment::span(qint64 seconds)
 {
     for (const Unit &unit : kUnits) {
         if (seconds >= 2 * unit.seconds) {
-            return PlainText::counted(seconds / unit.seconds, QString::fromLatin1(unit.one),
-                                      QString::fromLatin1(unit.many));
+            return Wording::counted(seconds / unit.seconds, QString::fromLatin1(unit.one),
+                                    QString::fromLatin1(unit.many));
         }
     }
-    return PlainText::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"));
+    return Wording::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/finding.h"
+#include "mirovahrctl/report/finding.h"
 
 #include <QString>
 #include <QVector>
@@ -17,7 +17,7 @@ struct AgeLimits {
 };
 
 /// What is to be said about a status: the age of the newest news, and what is wrong.
-struct StatusJudgement {
+struct StatusAssessment {
     /// Seconds since the last file was admitted where the gate's status says when, else since the
     /// plugin's last trace in the database. Nothing when there was neither.
     std::optional<qint64> age;
@@ -25,8 +25,8 @@ struct StatusJudgement {
     QVector<Finding> findings; ///< an error is worse than a warning
 
     /// \a now by this machine's clock, for the gate's times. \a gate may be null.
-    static StatusJudgement of(const StatusData &data, const GateStatus *gate,
-                              const AgeLimits &limits, qint64 now);
+    static StatusAssessment of(const StatusData &data, const GateStatus *gate,
+                               const AgeLimits &limits, qint64 now);
 
     /// "12 seconds", "3 hours".
     static QString span(qint64 seconds);

@@ -1,6 +1,6 @@
-#include "tools/statusdata.h"
+#include "mirovahrctl/status/statusdata.h"
 
-#include "tools/forceflag.h"
+#include "mirovahrctl/pluginside/forceflag.h"
 
 #include <QSqlError>
 #include <QSqlQuery>

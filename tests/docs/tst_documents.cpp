@@ -1,8 +1,8 @@
 #include "cli/connectionfile.h"
+#include "mirovahrctl/subcommand.h"
 #include "plugin/configuration.h"
 #include "tests/docs/markdown.h"
 #include "tests/docs/sourcetexts.h"
-#include "tools/subcommand.h"
 #include "worker/importfile.h"
 #include "worker/schedule.h"
 

@@ -1,5 +1,5 @@
 #include "tests/docs/markdown.h"
-#include "tests/host/programrun.h"
+#include "tests/support/programrun.h"
 
 #include <QRegularExpression>
 #include <QtTest>

@@ -1,6 +1,6 @@
 #include "tests/plugin/hostapplication.h"
 
-#include "tests/cycle/inthreadof.h"
+#include "tests/worker/tick/inthreadof.h"
 
 #include <QEvent>
 #include <QTimer>

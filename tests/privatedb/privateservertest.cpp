@@ -1,4 +1,4 @@
-#include "tests/reference-db/privateservertest.h"
+#include "tests/privatedb/privateservertest.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
-#include "tests/host/descendants.h"
-#include "tests/reference-db/privateservertest.h"
+#include "tests/privatedb/privateservertest.h"
+#include "tests/support/descendants.h"
 
 #include <QDir>
 #include <QFile>

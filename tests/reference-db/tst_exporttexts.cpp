@@ -1,5 +1,5 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/sync/synctest.h"
+#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 namespace {
 

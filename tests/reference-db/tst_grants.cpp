@@ -4,8 +4,8 @@
 #include "db/termsyncrepository.h"
 #include "tests/support/accountrights.h"
 #include "tests/support/logcapture.h"
-#include "tests/sync/sampleexport.h"
-#include "tests/sync/synctest.h"
+#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/host/programrun.h"
+#include "tests/support/programrun.h"
 
 #include <QtTest>
 

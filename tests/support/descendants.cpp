@@ -1,4 +1,4 @@
-#include "tests/host/descendants.h"
+#include "tests/support/descendants.h"
 
 #include <QtGlobal>
 

@@ -1,5 +1,5 @@
-#include "tests/host/programrun.h"
 #include "tests/support/exportfile.h"
+#include "tests/support/programrun.h"
 #include "tests/support/testdatabase.h"
 
 #include <QFile>

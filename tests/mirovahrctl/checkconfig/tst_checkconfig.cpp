@@ -1,5 +1,5 @@
-#include "tests/tools/manual.h"
-#include "tests/tools/toolrun.h"
+#include "tests/mirovahrctl/program/manual.h"
+#include "tests/mirovahrctl/program/toolrun.h"
 
 #include <QFile>
 #include <QSet>

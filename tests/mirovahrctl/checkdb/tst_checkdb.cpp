@@ -1,6 +1,6 @@
+#include "mirovahrctl/checkdb/columnneeds.h"
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/testdatabase.h"
-#include "tests/tools/toolrun.h"
-#include "tools/columnneeds.h"
 #include "worker/relationshipstate.h"
 
 #include <QJsonDocument>

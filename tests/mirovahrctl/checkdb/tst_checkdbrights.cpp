@@ -1,6 +1,6 @@
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/accountrights.h"
 #include "tests/support/testdatabase.h"
-#include "tests/tools/toolrun.h"
 
 #include <QSqlError>
 #include <QSqlQuery>

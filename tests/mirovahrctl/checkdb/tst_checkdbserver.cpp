@@ -1,12 +1,12 @@
 #include "db/termsyncrepository.h"
+#include "mirovahrctl/checkdb/dbassessment.h"
+#include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/site/dbschema.h"
+#include "mirovahrctl/site/serverversion.h"
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
-#include "tests/tools/toolrun.h"
-#include "tools/dbcheck.h"
-#include "tools/dbrules.h"
-#include "tools/dbschema.h"
-#include "tools/reportwriter.h"
-#include "tools/serverversion.h"
 
 #include <QSqlDriver>
 #include <QSqlQuery>
@@ -121,7 +121,7 @@ void TestCheckDbServer::aConnectionThatIsNotUnicodeIsTold()
     const QSqlDatabase db = m_db.openPluginConnection();
     QVERIFY(QSqlQuery(db).exec(statement));
     FindingList report;
-    DbCheck check(db, report);
+    DbAssessment check(db, report);
     DbRules::checkConnection(check);
     QCOMPARE(report.findings.size(), 1);
     QCOMPARE(report.findings.first().rule, QString("connection-charset"));
@@ -135,7 +135,7 @@ void TestCheckDbServer::aConnectionThatTakesOneStatementAtATimeIsTold()
     const QSqlDatabase db = m_db.openPluginConnection();
     QVERIFY(refuseSeveralStatements(db));
     FindingList report;
-    DbCheck check(db, report);
+    DbAssessment check(db, report);
     DbRules::checkConnection(check);
     QCOMPARE(report.findings.size(), 1);
     QCOMPARE(report.findings.first().rule, QString("several-statements"));
@@ -149,7 +149,7 @@ void TestCheckDbServer::aConnectionThatTakesOneStatementAtATimeIsTold()
 void TestCheckDbServer::anOrdinaryConnectionIsFine()
 {
     FindingList report;
-    DbCheck check(m_db.openPluginConnection(), report);
+    DbAssessment check(m_db.openPluginConnection(), report);
     DbRules::checkConnection(check);
     QCOMPARE(report.findings.size(), 0);
     QCOMPARE(check.unusable(), QString());
@@ -162,7 +162,7 @@ void TestCheckDbServer::aConnectionThatIsLostEndsTheCheck()
     QVERIFY(query.exec("SELECT CONNECTION_ID()") && query.next());
     m_db.run("KILL " + query.value(0).toString());
     FindingList report;
-    DbCheck check(db, report);
+    DbAssessment check(db, report);
     DbRules::checkServer(check);
     QVERIFY(!check.unusable().isEmpty());
 }
@@ -205,7 +205,7 @@ void TestCheckDbServer::theTemporaryTableFailsWhereCheckDbSaysSo()
         m_db.run("SET GLOBAL " + setting);
     const QSqlDatabase db = m_db.openPluginConnection();
     FindingList report;
-    DbCheck check(db, report);
+    DbAssessment check(db, report);
     DbRules::checkKeylessTables(check, DbSchema(), DbRules::readKeySettings(check));
     QCOMPARE(check.unusable(), QString());
     QCOMPARE(report.findings.size(), error.isEmpty() ? 0 : 1);
@@ -274,7 +274,7 @@ void TestCheckDbServer::clustersThatWantPrimaryKeysAreReported()
     QVERIFY2(schema.load(db), qPrintable(schema.errorText()));
     m_db.reset();
     FindingList report;
-    DbCheck check(db, report);
+    DbAssessment check(db, report);
     DbRules::checkKeylessTables(check, schema, settings);
     QCOMPARE(report.messages(), message);
     QVERIFY(!check.isContractBroken());
@@ -287,7 +287,7 @@ void TestCheckDbServer::anAccountThatDoesNotSeeAllColumnsOnlyNotesThatAKeyIsWant
     QVERIFY2(schema.load(db), qPrintable(schema.errorText()));
     for (const bool seesAll : {true, false}) {
         FindingList report;
-        DbCheck check(db, report);
+        DbAssessment check(db, report);
         if (!seesAll)
             check.setPartlySeen();
         DbRules::checkKeylessTables(check, schema,

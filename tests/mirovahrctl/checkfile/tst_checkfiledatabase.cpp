@@ -1,7 +1,7 @@
+#include "mirovahrctl/export/sqlhazards.h"
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
-#include "tests/tools/toolrun.h"
-#include "tools/sqltext.h"
 #include "worker/mhrworker.h"
 
 #include <QRandomGenerator>
@@ -186,7 +186,7 @@ void TestCheckFileDatabase::aTextArrivesAsItIsUnlessItIsFlagged()
                 .toString();
         // Before these two a backslash stays what it is, if nothing else is wrong.
         const bool spared = text.contains("\\%") || text.contains("\\_");
-        if (!SqlText::breaksStatement(text))
+        if (!SqlHazards::breaksStatement(text))
             QCOMPARE(written, text);
         else if (!spared)
             QVERIFY2(written != text, qPrintable(text));

@@ -1,4 +1,4 @@
-#include "tests/tools/explainedsite.h"
+#include "tests/mirovahrctl/explain/explainedsite.h"
 
 #include <QFile>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
-#include "tests/tools/toolrun.h"
 
 #include <QByteArray>
 #include <QHash>

@@ -1,4 +1,4 @@
-#include "tests/tools/observedperson.h"
+#include "tests/mirovahrctl/explain/observedperson.h"
 
 #include <QDateTime>
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/sync/synctest.h"
-#include "tests/tools/explainedsite.h"
-#include "tools/soughtperson.h"
+#include "mirovahrctl/explain/personid.h"
+#include "tests/mirovahrctl/explain/explainedsite.h"
+#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/synchronisation/synctest.h"
 #include "worker/mirovaronrecord.h"
 #include "worker/recorddates.h"
 
@@ -155,7 +155,7 @@ void TestExplain::whomSomebodyAsksFor()
     QFETCH(QString, text);
     QFETCH(QString, name);
     QFETCH(quint32, pid);
-    const auto person = SoughtPerson::parse(text);
+    const auto person = PersonId::parse(text);
     QCOMPARE(person.has_value(), !name.isEmpty());
     if (!person)
         return;
@@ -168,13 +168,13 @@ void TestExplain::somebodyElseWithTheSamePidIsThePersonToThePlugin()
     MirovaRonRecord record;
     record.osobniCislo = 123;
     record.poradoveCisloPP = 41;
-    QVERIFY(SoughtPerson::parse("1234.1")->matches(record));
-    QVERIFY(SoughtPerson::parse("pid 12341")->matches(record));
-    QVERIFY(!SoughtPerson::parse("1234.2")->matches(record));
+    QVERIFY(PersonId::parse("1234.1")->matches(record));
+    QVERIFY(PersonId::parse("pid 12341")->matches(record));
+    QVERIFY(!PersonId::parse("1234.2")->matches(record));
     // Numbers that do not fit make the pid 0.
     record.osobniCislo = 4294967295u;
-    QVERIFY(SoughtPerson::parse("4294967294.41")->matches(record));
-    QVERIFY(!SoughtPerson::parse("1234.1")->matches(record));
+    QVERIFY(PersonId::parse("4294967294.41")->matches(record));
+    QVERIFY(!PersonId::parse("1234.1")->matches(record));
 }
 
 void TestExplain::aPersonWhoArrivesIsFine()

@@ -1,7 +1,7 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/tools/explainedsite.h"
-#include "tests/tools/gatesite.h"
-#include "tools/gateoptions.h"
+#include "mirovahrctl/gatestate/gateoptions.h"
+#include "tests/mirovahrctl/explain/explainedsite.h"
+#include "tests/mirovahrctl/gate/gatesite.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/tools/browser.h"
-#include "tests/tools/explainedsite.h"
-#include "tests/tools/pagepicture.h"
+#include "tests/mirovahrctl/explain/explainedsite.h"
+#include "tests/mirovahrctl/report/browser.h"
+#include "tests/mirovahrctl/report/pagepicture.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QtTest>
 

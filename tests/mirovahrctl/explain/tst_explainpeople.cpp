@@ -1,7 +1,7 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/tools/explainedsite.h"
-#include "tools/peoplesearch.h"
-#include "tools/personname.h"
+#include "mirovahrctl/explain/peoplesearch.h"
+#include "mirovahrctl/export/personname.h"
+#include "tests/mirovahrctl/explain/explainedsite.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QtTest>
 

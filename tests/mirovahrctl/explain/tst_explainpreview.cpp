@@ -1,7 +1,7 @@
-#include "tests/sync/middayzone.h"
-#include "tests/tools/previewbench.h"
-#include "tests/tools/randomsite.h"
-#include "tests/tools/toolrun.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
+#include "tests/mirovahrctl/preview/randomsite.h"
+#include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/worker/synchronisation/middayzone.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

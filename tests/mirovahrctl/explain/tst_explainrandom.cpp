@@ -1,8 +1,8 @@
-#include "tests/sync/middayzone.h"
-#include "tests/tools/observedperson.h"
-#include "tests/tools/previewbench.h"
-#include "tests/tools/randomsite.h"
-#include "tests/tools/toolrun.h"
+#include "tests/mirovahrctl/explain/observedperson.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
+#include "tests/mirovahrctl/preview/randomsite.h"
+#include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/worker/synchronisation/middayzone.h"
 #include "worker/exportline.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/sync/synctest.h"
-#include "tests/tools/explainedsite.h"
-#include "tests/tools/observedperson.h"
+#include "tests/mirovahrctl/explain/explainedsite.h"
+#include "tests/mirovahrctl/explain/observedperson.h"
+#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 #include <QJsonObject>
 #include <QRegularExpression>

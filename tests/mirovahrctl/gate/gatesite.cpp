@@ -1,4 +1,4 @@
-#include "tests/tools/gatesite.h"
+#include "tests/mirovahrctl/gate/gatesite.h"
 
 #include <QFile>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
-#include "tests/tools/toolrun.h"
 
 #include <QByteArray>
 #include <QDir>

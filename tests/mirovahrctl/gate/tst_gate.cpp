@@ -1,6 +1,6 @@
-#include "tests/tools/gatesite.h"
-#include "tests/tools/manual.h"
-#include "tools/gatesource.h"
+#include "mirovahrctl/gate/gatesource.h"
+#include "tests/mirovahrctl/gate/gatesite.h"
+#include "tests/mirovahrctl/program/manual.h"
 
 #include <QSet>
 #include <QtTest>

@@ -1,6 +1,6 @@
-#include "tests/tools/faultyrun.h"
-#include "tests/tools/gatesite.h"
-#include "tools/gatestatus.h"
+#include "mirovahrctl/gatestate/gatestatus.h"
+#include "tests/mirovahrctl/gate/gatesite.h"
+#include "tests/mirovahrctl/program/faultyrun.h"
 
 #include <QRegularExpression>
 #include <QtTest>

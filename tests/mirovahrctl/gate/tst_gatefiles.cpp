@@ -1,10 +1,10 @@
+#include "mirovahrctl/gate/gatesource.h"
+#include "mirovahrctl/gatestate/gatecopies.h"
+#include "mirovahrctl/gatestate/gatefile.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
+#include "mirovahrctl/gatestate/gatestatus.h"
+#include "tests/mirovahrctl/gate/gatesite.h"
 #include "tests/support/localzone.h"
-#include "tests/tools/gatesite.h"
-#include "tools/gatecopies.h"
-#include "tools/gatefile.h"
-#include "tools/gatefolder.h"
-#include "tools/gatesource.h"
-#include "tools/gatestatus.h"
 
 #include <QBuffer>
 #include <QtTest>

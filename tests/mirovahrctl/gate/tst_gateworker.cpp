@@ -1,5 +1,5 @@
-#include "tests/cycle/cycletest.h"
-#include "tests/tools/gatesite.h"
+#include "tests/mirovahrctl/gate/gatesite.h"
+#include "tests/worker/tick/cycletest.h"
 
 #include <QtTest>
 

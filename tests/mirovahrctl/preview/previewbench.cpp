@@ -1,10 +1,10 @@
-#include "tests/tools/previewbench.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
 
+#include "mirovahrctl/preview/previewsql.h"
+#include "mirovahrctl/preview/previewwork.h"
+#include "mirovahrctl/program/console.h"
 #include "plugin/configuration.h"
-#include "tests/host/programrun.h"
-#include "tools/console.h"
-#include "tools/previewsql.h"
-#include "tools/previewwork.h"
+#include "tests/support/programrun.h"
 
 #include <QBuffer>
 #include <QSettings>

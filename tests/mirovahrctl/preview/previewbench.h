@@ -1,13 +1,13 @@
 #pragma once
 
 #include "cli/databaseoptions.h"
+#include "mirovahrctl/preview/previewrefusal.h"
+#include "mirovahrctl/preview/previewschema.h"
+#include "mirovahrctl/preview/previewserver.h"
+#include "mirovahrctl/preview/previewwords.h"
+#include "mirovahrctl/report/finding.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
-#include "tools/finding.h"
-#include "tools/previewrefusal.h"
-#include "tools/previewschema.h"
-#include "tools/previewserver.h"
-#include "tools/previewwords.h"
 
 #include <QHash>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "tests/tools/randomsite.h"
+#include "tests/mirovahrctl/preview/randomsite.h"
 
 #include "tests/support/testdatabase.h"
 

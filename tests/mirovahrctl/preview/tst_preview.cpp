@@ -1,10 +1,10 @@
-#include "tests/host/descendants.h"
-#include "tests/host/programrun.h"
-#include "tests/reference-db/privateservertest.h"
-#include "tests/sync/sampleexport.h"
-#include "tests/tools/browser.h"
-#include "tests/tools/previewbench.h"
-#include "tests/tools/toolrun.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
+#include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/mirovahrctl/report/browser.h"
+#include "tests/privatedb/privateservertest.h"
+#include "tests/support/descendants.h"
+#include "tests/support/programrun.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QDir>
 #include <QtTest>

@@ -1,6 +1,6 @@
-#include "tests/sync/middayzone.h"
-#include "tests/tools/previewbench.h"
-#include "tests/tools/randomsite.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
+#include "tests/mirovahrctl/preview/randomsite.h"
+#include "tests/worker/synchronisation/middayzone.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

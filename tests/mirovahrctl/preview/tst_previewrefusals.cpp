@@ -1,6 +1,6 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/tools/previewbench.h"
-#include "tools/previewrun.h"
+#include "mirovahrctl/preview/previewrun.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QtTest>
 

@@ -1,8 +1,8 @@
+#include "mirovahrctl/preview/previewvalues.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/support/localzone.h"
-#include "tests/sync/middayzone.h"
-#include "tests/sync/sampleexport.h"
-#include "tests/tools/previewbench.h"
-#include "tools/previewvalues.h"
+#include "tests/worker/synchronisation/middayzone.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QCoreApplication>
 #include <QtTest>

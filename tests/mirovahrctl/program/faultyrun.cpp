@@ -1,4 +1,4 @@
-#include "tests/tools/faultyrun.h"
+#include "tests/mirovahrctl/program/faultyrun.h"
 
 namespace FaultyRun {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/host/programrun.h"
+#include "tests/support/programrun.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "tests/tools/manual.h"
+#include "tests/mirovahrctl/program/manual.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
-#include "tests/tools/toolrun.h"
+#include "tests/mirovahrctl/program/toolrun.h"
 
-#include "tools/console.h"
-#include "tools/subcommand.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/subcommand.h"
 
 #include <QBuffer>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
-#include "tests/host/programrun.h"
-#include "tests/tools/toolrun.h"
-#include "tools/subcommand.h"
+#include "mirovahrctl/subcommand.h"
+#include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/support/programrun.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
-#include "tests/tools/toolrun.h"
 
 #include <QFile>
 #include <QFileInfo>

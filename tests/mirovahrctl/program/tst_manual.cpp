@@ -1,9 +1,9 @@
-#include "tests/host/programrun.h"
-#include "tests/tools/manual.h"
-#include "tests/tools/toolrun.h"
-#include "tools/subcommand.h"
+#include "mirovahrctl/subcommand.h"
+#include "tests/mirovahrctl/program/manual.h"
+#include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/support/programrun.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
@@ -29,11 +29,11 @@ QSet<QString> rulesInSources()
         "(?:Severity::\\w+,|\\bwarn\\()\\s*(?:[^,;]*\\?\\s*\"([a-z0-9-]+)\"\\s*:\\s*)?"
         "\"([a-z0-9-]+)\",");
     QSet<QString> rules;
-    const QDir folder(MIROVAHR_TOOLS_DIR);
-    for (const QFileInfo &info : folder.entryInfoList({"*.cpp"})) {
-        QFile file(info.filePath());
+    QDirIterator sources(MIROVAHR_CTL_DIR, {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        QFile file(sources.next());
         if (!file.open(QIODevice::ReadOnly))
-            qFatal("%s cannot be read", qPrintable(info.filePath()));
+            qFatal("%s cannot be read", qPrintable(file.fileName()));
         auto matches = rule.globalMatch(QString::fromUtf8(file.readAll()));
         while (matches.hasNext()) {
             const QRegularExpressionMatch match = matches.next();

@@ -1,7 +1,7 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/tools/previewbench.h"
-#include "tests/tools/toolrun.h"
-#include "tools/outputfile.h"
+#include "mirovahrctl/program/outputfile.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
+#include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QDir>
 #include <QtTest>

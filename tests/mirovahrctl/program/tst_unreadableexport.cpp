@@ -1,6 +1,6 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/tools/faultyrun.h"
-#include "tests/tools/previewbench.h"
+#include "tests/mirovahrctl/preview/previewbench.h"
+#include "tests/mirovahrctl/program/faultyrun.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QFileInfo>
 #include <QtTest>

@@ -1,6 +1,6 @@
-#include "tests/tools/browser.h"
+#include "tests/mirovahrctl/report/browser.h"
 
-#include "tests/host/programrun.h"
+#include "tests/support/programrun.h"
 
 #include <QFile>
 #include <QStandardPaths>

@@ -1,4 +1,4 @@
-#include "tests/tools/pagepicture.h"
+#include "tests/mirovahrctl/report/pagepicture.h"
 
 namespace PagePicture {
 

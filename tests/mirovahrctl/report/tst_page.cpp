@@ -1,7 +1,7 @@
+#include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/mirovahrctl/report/browser.h"
+#include "tests/mirovahrctl/report/pagepicture.h"
 #include "tests/support/exportfile.h"
-#include "tests/tools/browser.h"
-#include "tests/tools/pagepicture.h"
-#include "tests/tools/toolrun.h"
 
 #include <QTemporaryDir>
 #include <QtTest>

@@ -1,12 +1,12 @@
-#include "tools/commandline.h"
-#include "tools/console.h"
-#include "tools/finding.h"
-#include "tools/htmlreport.h"
-#include "tools/jsonreport.h"
-#include "tools/plaintext.h"
-#include "tools/report.h"
-#include "tools/textlayout.h"
-#include "tools/textreport.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/htmlreport.h"
+#include "mirovahrctl/report/jsonreport.h"
+#include "mirovahrctl/report/textlayout.h"
+#include "mirovahrctl/report/textreport.h"
+#include "mirovahrctl/report/wording.h"
 
 #include <QBuffer>
 #include <QJsonArray>
@@ -35,11 +35,12 @@ Table table()
             {{12341, "Nováková"}, {QVariant(), "<b>&\"x\""}}};
 }
 
-template <typename Writer> QByteArray written(const std::function<void(ReportWriter &)> &write)
+template <typename Writer, typename... Arguments>
+QByteArray written(const std::function<void(ReportWriter &)> &write, Arguments... arguments)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    Writer writer(buffer);
+    Writer writer(buffer, arguments...);
     writer.begin("preview", "A <title>");
     write(writer);
     writer.end(ExitStatus::Findings, "Done & dusted.");
@@ -94,7 +95,7 @@ private Q_SLOTS:
 
 void TestReports::theTextForm()
 {
-    QCOMPARE(QString::fromUtf8(written<TextReport>(everything)),
+    QCOMPARE(QString::fromUtf8(written<TextReport>(everything, 100)),
              QString("A <title>\n"
                      "=========\n"
                      "\n"
@@ -213,7 +214,7 @@ void TestReports::aFlagIsAWordForPeopleOnly()
         report.fact("yes", "Yes", true);
         report.fact("no", "No", false);
     };
-    const QByteArray text = written<TextReport>(flags);
+    const QByteArray text = written<TextReport>(flags, 100);
     QVERIFY(text.contains("On\n---\nyes\nno\nYes: yes\nNo: no\n"));
     const QByteArray page = written<HtmlReport>(flags);
     QVERIFY(page.contains("<dt>Yes:</dt><dd>yes</dd>"));
@@ -355,20 +356,20 @@ void TestReports::textIsMadeVisible()
 {
     QFETCH(QString, text);
     QFETCH(QString, visible);
-    QCOMPARE(PlainText::visible(text), visible);
+    QCOMPARE(Wording::visible(text), visible);
 }
 
 void TestReports::longTextIsCutWhenQuoted()
 {
-    QCOMPARE(PlainText::quoted(QString(60, 'x')), '"' + QString(60, 'x') + '"');
-    QCOMPARE(PlainText::quoted(QString(61, 'x')), '"' + QString(60, 'x') + "\"…");
+    QCOMPARE(Wording::quoted(QString(60, 'x')), '"' + QString(60, 'x') + '"');
+    QCOMPARE(Wording::quoted(QString(61, 'x')), '"' + QString(60, 'x') + "\"…");
 }
 
 void TestReports::countsAgreeWithTheirNoun()
 {
-    QCOMPARE(PlainText::counted(0, "line", "lines"), QString("0 lines"));
-    QCOMPARE(PlainText::counted(1, "line", "lines"), QString("1 line"));
-    QCOMPARE(PlainText::counted(2, "line", "lines"), QString("2 lines"));
+    QCOMPARE(Wording::counted(0, "line", "lines"), QString("0 lines"));
+    QCOMPARE(Wording::counted(1, "line", "lines"), QString("1 line"));
+    QCOMPARE(Wording::counted(2, "line", "lines"), QString("2 lines"));
 }
 
 QTEST_GUILESS_MAIN(TestReports)

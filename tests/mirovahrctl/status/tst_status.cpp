@@ -1,10 +1,10 @@
+#include "mirovahrctl/gatestate/gatestatus.h"
+#include "mirovahrctl/status/statusassessment.h"
+#include "mirovahrctl/status/statusdata.h"
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/accountrights.h"
 #include "tests/support/localzone.h"
 #include "tests/support/testdatabase.h"
-#include "tests/tools/toolrun.h"
-#include "tools/gatestatus.h"
-#include "tools/statusdata.h"
-#include "tools/statusjudgement.h"
 
 #include <QDateTime>
 #include <QTemporaryDir>
@@ -345,8 +345,8 @@ void TestStatus::theGatesTimeCountsWhereItIsKnown()
     GateStatus gate;
     if (known)
         gate.admittedTime = kNow - 1000 - 5 * 3600;
-    const StatusJudgement judgement =
-        StatusJudgement::of(data, &gate, {3600, std::nullopt}, kNow - 1000);
+    const StatusAssessment judgement =
+        StatusAssessment::of(data, &gate, {3600, std::nullopt}, kNow - 1000);
     QCOMPARE(judgement.findings.size(), 1);
     QCOMPARE(judgement.findings.first().message, message);
 }
@@ -498,7 +498,7 @@ void TestStatus::spansAreRoundedDown()
 {
     QFETCH(qint64, seconds);
     QFETCH(QString, text);
-    QCOMPARE(StatusJudgement::span(seconds), text);
+    QCOMPARE(StatusAssessment::span(seconds), text);
 }
 
 int main(int argc, char **argv)

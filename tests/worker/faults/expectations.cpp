@@ -1,4 +1,4 @@
-#include "tests/faults/expectations.h"
+#include "tests/worker/faults/expectations.h"
 
 #include <QMap>
 

@@ -1,7 +1,7 @@
-#include "tests/faults/faultcycle.h"
+#include "tests/worker/faults/faultcycle.h"
 
-#include "tests/sync/middayzone.h"
-#include "tests/sync/sampleexport.h"
+#include "tests/worker/synchronisation/middayzone.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QRegularExpression>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "tests/faults/mysqlproxy.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
-#include "tests/sync/statechanges.h"
+#include "tests/worker/faults/mysqlproxy.h"
+#include "tests/worker/synchronisation/statechanges.h"
 
 #include <QStringList>
 #include <QVector>

@@ -1,4 +1,4 @@
-#include "tests/faults/mysqlproxy.h"
+#include "tests/worker/faults/mysqlproxy.h"
 
 #include <QFile>
 #include <QRegularExpression>

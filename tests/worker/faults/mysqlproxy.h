@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/faults/mysqlwire.h"
+#include "tests/worker/faults/mysqlwire.h"
 
 #include <QByteArray>
 #include <QString>

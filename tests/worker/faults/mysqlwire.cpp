@@ -1,4 +1,4 @@
-#include "tests/faults/mysqlwire.h"
+#include "tests/worker/faults/mysqlwire.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
-#include "tests/faults/servingprocess.h"
+#include "tests/worker/faults/servingprocess.h"
 
-#include "tests/faults/servingworker.h"
+#include "tests/worker/faults/servingworker.h"
 
 #include <QCoreApplication>
 #include <QFile>

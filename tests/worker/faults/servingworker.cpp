@@ -1,6 +1,6 @@
-#include "tests/faults/servingworker.h"
+#include "tests/worker/faults/servingworker.h"
 
-#include "tests/cycle/inthreadof.h"
+#include "tests/worker/tick/inthreadof.h"
 #include "worker/mhrworker.h"
 
 #include <QTimer>

@@ -1,10 +1,10 @@
-#include "tests/faults/expectations.h"
-#include "tests/faults/faultcycle.h"
-#include "tests/faults/servingprocess.h"
-#include "tests/faults/servingworker.h"
-#include "tests/host/programrun.h"
 #include "tests/support/logcapture.h"
-#include "tests/sync/synctest.h"
+#include "tests/support/programrun.h"
+#include "tests/worker/faults/expectations.h"
+#include "tests/worker/faults/faultcycle.h"
+#include "tests/worker/faults/servingprocess.h"
+#include "tests/worker/faults/servingworker.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 #include <QScopeGuard>
 #include <QSet>

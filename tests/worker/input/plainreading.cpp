@@ -1,4 +1,4 @@
-#include "tests/input/plainreading.h"
+#include "tests/worker/input/plainreading.h"
 
 #include <QDateTime>
 #include <QRegularExpression>

@@ -1,9 +1,9 @@
 // A line or a file without an end costs the worker neither memory nor time. A program of its own:
 // it looks at the most memory that the program has ever held.
 
-#include "tests/input/workerreading.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"
+#include "tests/worker/input/workerreading.h"
 #include "worker/mhrworker.h"
 
 #include <QFile>

@@ -1,8 +1,8 @@
 // What may stand in the place of the export, and what may happen to it while it is read.
 
-#include "tests/cycle/loghook.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"
+#include "tests/worker/tick/loghook.h"
 #include "worker/mhrworker.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 // Lines as other systems and broken transfers leave them, one kind at a time.
 
-#include "tests/input/workerreading.h"
 #include "tests/support/exportfile.h"
+#include "tests/worker/input/workerreading.h"
 
 #include <QtTest>
 

@@ -2,10 +2,10 @@
 //
 // MIROVAHR_INPUT_SEED=N makes other exports, MIROVAHR_INPUT_FILES=N more of them.
 
-#include "tests/input/parttexts.h"
-#include "tests/input/plainreading.h"
-#include "tests/input/workerreading.h"
 #include "tests/support/exportfile.h"
+#include "tests/worker/input/parttexts.h"
+#include "tests/worker/input/plainreading.h"
+#include "tests/worker/input/workerreading.h"
 #include "worker/exportline.h"
 
 #include <QRandomGenerator>

@@ -1,7 +1,7 @@
-#include "tests/input/workerreading.h"
+#include "tests/worker/input/workerreading.h"
 
-#include "tests/input/plainreading.h"
 #include "tests/support/logcapture.h"
+#include "tests/worker/input/plainreading.h"
 #include "worker/mhrworker.h"
 
 #include <sys/mman.h>

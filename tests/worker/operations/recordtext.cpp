@@ -1,4 +1,4 @@
-#include "tests/worker/recordtext.h"
+#include "tests/worker/operations/recordtext.h"
 
 #include <QStringList>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "tests/worker/samplerecord.h"
+#include "tests/worker/operations/samplerecord.h"
 
 MirovaRonRecord fullRecord()
 {

@@ -1,5 +1,5 @@
 #include "tests/support/logcapture.h"
-#include "tests/worker/workertest.h"
+#include "tests/worker/operations/workertest.h"
 
 #include <QtTest>
 

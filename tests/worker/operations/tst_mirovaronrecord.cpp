@@ -1,5 +1,5 @@
-#include "tests/worker/recordtext.h"
-#include "tests/worker/samplerecord.h"
+#include "tests/worker/operations/recordtext.h"
+#include "tests/worker/operations/samplerecord.h"
 #include "worker/mirovaronrecord.h"
 
 #include <QRandomGenerator>

@@ -1,6 +1,6 @@
 #include "tests/support/localzone.h"
-#include "tests/worker/recordtext.h"
-#include "tests/worker/samplerecord.h"
+#include "tests/worker/operations/recordtext.h"
+#include "tests/worker/operations/samplerecord.h"
 #include "worker/mhrworker.h"
 #include "worker/mirovaronrecord.h"
 #include "worker/recordcodes.h"

@@ -1,4 +1,4 @@
-#include "tests/worker/workertest.h"
+#include "tests/worker/operations/workertest.h"
 
 #include <QtTest>
 

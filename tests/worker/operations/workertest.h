@@ -3,7 +3,7 @@
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
 #include "tests/support/trace.h"
-#include "tests/worker/samplerecord.h"
+#include "tests/worker/operations/samplerecord.h"
 #include "worker/mhrworker.h"
 
 #include <QObject>

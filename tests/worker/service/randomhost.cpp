@@ -1,4 +1,4 @@
-#include "tests/service/randomhost.h"
+#include "tests/worker/service/randomhost.h"
 
 #include "plugin/interfaces/serverinterface.h"
 

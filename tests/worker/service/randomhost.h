@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/service/threadmessages.h"
+#include "tests/worker/service/threadmessages.h"
 
 #include <QCoreApplication>
 #include <QPluginLoader>

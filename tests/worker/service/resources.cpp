@@ -1,4 +1,4 @@
-#include "tests/service/resources.h"
+#include "tests/worker/service/resources.h"
 
 #include "tests/support/testdatabase.h"
 

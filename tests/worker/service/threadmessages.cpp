@@ -1,4 +1,4 @@
-#include "tests/service/threadmessages.h"
+#include "tests/worker/service/threadmessages.h"
 
 #include <QMap>
 #include <QThread>

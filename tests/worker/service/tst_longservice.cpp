@@ -2,11 +2,11 @@
 #include "tests/plugin/hostapplication.h"
 #include "tests/plugin/loadedplugin.h"
 #include "tests/plugin/pluginini.h"
-#include "tests/service/environmentnumber.h"
-#include "tests/service/resources.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
-#include "tests/sync/sampleexport.h"
+#include "tests/worker/service/environmentnumber.h"
+#include "tests/worker/service/resources.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 #include <QPluginLoader>
 #include <QtTest>

@@ -1,9 +1,9 @@
 #include "tests/plugin/loadedplugin.h"
 #include "tests/plugin/pluginini.h"
-#include "tests/service/environmentnumber.h"
-#include "tests/service/randomhost.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
+#include "tests/worker/service/environmentnumber.h"
+#include "tests/worker/service/randomhost.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "tests/sync/middayzone.h"
+#include "tests/worker/synchronisation/middayzone.h"
 
 #include <QDateTime>
 #include <QLocale>

@@ -1,4 +1,4 @@
-#include "tests/sync/movableclock.h"
+#include "tests/worker/synchronisation/movableclock.h"
 
 #include <QDateTime>
 

@@ -1,4 +1,4 @@
-#include "tests/sync/sampleexport.h"
+#include "tests/worker/synchronisation/sampleexport.h"
 
 namespace {
 

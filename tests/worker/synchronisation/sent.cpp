@@ -1,6 +1,6 @@
-#include "tests/sync/sent.h"
+#include "tests/worker/synchronisation/sent.h"
 
-#include "tests/sync/middayzone.h"
+#include "tests/worker/synchronisation/middayzone.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/sync/statechanges.h"
+#include "tests/worker/synchronisation/statechanges.h"
 
 #include <QDateTime>
 

@@ -1,4 +1,4 @@
-#include "tests/sync/synctest.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 #include <QSqlDatabase>
 

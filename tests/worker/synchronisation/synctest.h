@@ -4,7 +4,7 @@
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
 #include "tests/support/trace.h"
-#include "tests/sync/middayzone.h"
+#include "tests/worker/synchronisation/middayzone.h"
 #include "worker/mhrworker.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/sync/sent.h"
-#include "tests/sync/statechanges.h"
-#include "tests/sync/synctest.h"
+#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/synchronisation/sent.h"
+#include "tests/worker/synchronisation/statechanges.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 #include <QRegularExpression>
 

@@ -1,6 +1,6 @@
 #include "tests/support/localzone.h"
-#include "tests/sync/sent.h"
-#include "tests/sync/synctest.h"
+#include "tests/worker/synchronisation/sent.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 namespace {
 

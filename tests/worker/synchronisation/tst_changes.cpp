@@ -1,6 +1,6 @@
-#include "tests/sync/sampleexport.h"
-#include "tests/sync/sent.h"
-#include "tests/sync/synctest.h"
+#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/synchronisation/sent.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 #include <optional>
 

@@ -1,7 +1,7 @@
 #include "tests/support/localzone.h"
-#include "tests/sync/movableclock.h"
-#include "tests/sync/sampleexport.h"
-#include "tests/sync/synctest.h"
+#include "tests/worker/synchronisation/movableclock.h"
+#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 #include <QDateTime>
 #include <QRegularExpression>

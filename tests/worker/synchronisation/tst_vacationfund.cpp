@@ -1,5 +1,5 @@
-#include "tests/sync/sent.h"
-#include "tests/sync/synctest.h"
+#include "tests/worker/synchronisation/sent.h"
+#include "tests/worker/synchronisation/synctest.h"
 
 #include <QDateTime>
 

@@ -1,4 +1,4 @@
-#include "tests/cycle/commandgate.h"
+#include "tests/worker/tick/commandgate.h"
 
 #include <QFile>
 

@@ -1,4 +1,4 @@
-#include "tests/cycle/cycletest.h"
+#include "tests/worker/tick/cycletest.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "tests/cycle/inthreadof.h"
+#include "tests/worker/tick/inthreadof.h"
 
 #include <QObject>
 

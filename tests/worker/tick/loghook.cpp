@@ -1,4 +1,4 @@
-#include "tests/cycle/loghook.h"
+#include "tests/worker/tick/loghook.h"
 
 #include <mutex>
 #include <utility>

@@ -1,5 +1,5 @@
-#include "tests/cycle/cycletest.h"
-#include "tests/cycle/loghook.h"
+#include "tests/worker/tick/cycletest.h"
+#include "tests/worker/tick/loghook.h"
 
 #include <QtTest>
 

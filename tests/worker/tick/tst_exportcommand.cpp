@@ -1,5 +1,5 @@
-#include "tests/cycle/commandgate.h"
-#include "tests/cycle/cycletest.h"
+#include "tests/worker/tick/commandgate.h"
+#include "tests/worker/tick/cycletest.h"
 
 #include <QFile>
 #include <QTextCodec>

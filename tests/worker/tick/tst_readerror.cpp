@@ -1,7 +1,7 @@
 // An export that cannot be read to its end, as on a network mount that fails in the middle.
 
-#include "tests/cycle/cycletest.h"
-#include "tests/cycle/loghook.h"
+#include "tests/worker/tick/cycletest.h"
+#include "tests/worker/tick/loghook.h"
 
 #include <QDir>
 #include <QFileInfo>

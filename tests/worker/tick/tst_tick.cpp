@@ -1,6 +1,6 @@
 #include "db/branchesrepository.h"
-#include "tests/cycle/cycletest.h"
-#include "tests/cycle/loghook.h"
+#include "tests/worker/tick/cycletest.h"
+#include "tests/worker/tick/loghook.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
 #include "db/branchesrepository.h"
 #include "db/groupsplanrepo.h"
-#include "tests/cycle/cycletest.h"
+#include "tests/worker/tick/cycletest.h"
 
 #include <QMetaEnum>
 #include <QMetaMethod>

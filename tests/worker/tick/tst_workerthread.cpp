@@ -1,8 +1,8 @@
-#include "tests/cycle/commandgate.h"
-#include "tests/cycle/inthreadof.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
+#include "tests/worker/tick/commandgate.h"
+#include "tests/worker/tick/inthreadof.h"
 #include "worker/mhrworker.h"
 
 #include <QThread>
