@@ -1,17 +1,28 @@
 #include "mirovahrctl/subcommand.h"
 
 #include "cli/standardoptions.h"
-#include "mirovahrctl/checkconfig/checkconfig.h"
-#include "mirovahrctl/checkdb/checkdb.h"
-#include "mirovahrctl/checkfile/checkfile.h"
-#include "mirovahrctl/explain/explain.h"
-#include "mirovahrctl/force/force.h"
-#include "mirovahrctl/gate/gate.h"
-#include "mirovahrctl/preview/preview.h"
 #include "mirovahrctl/program/console.h"
-#include "mirovahrctl/status/status.h"
 
 #include <algorithm>
+
+// The entry points of the subcommands, each defined in the folder of its name.
+
+/// Reports what the INI file puts in force, and what is wrong with it.
+ExitStatus runCheckConfig(const QStringList &arguments, Console &console);
+/// Reports whether the attendance database is what the plugin relies on.
+ExitStatus runCheckDb(const QStringList &arguments, Console &console);
+/// Reports which lines of an export the plugin would drop or misread.
+ExitStatus runCheckFile(const QStringList &arguments, Console &console);
+/// Reports what the plugin makes of one person, step by step.
+ExitStatus runExplain(const QStringList &arguments, Console &console);
+/// Sets or clears the flag that forces a synchronisation.
+ExitStatus runForce(const QStringList &arguments, Console &console);
+/// Publishes HR's file for the plugin, or refuses it.
+ExitStatus runGate(const QStringList &arguments, Console &console);
+/// Reports what a synchronisation would change, by running it on a copy of the database.
+ExitStatus runPreview(const QStringList &arguments, Console &console);
+/// Reports what the database and the gate know of the plugin's work.
+ExitStatus runStatus(const QStringList &arguments, Console &console);
 
 namespace {
 

@@ -1,5 +1,3 @@
-#include "mirovahrctl/checkconfig/checkconfig.h"
-
 #include "mirovahrctl/checkconfig/configassessment.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"

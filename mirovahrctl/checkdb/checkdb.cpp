@@ -1,5 +1,3 @@
-#include "mirovahrctl/checkdb/checkdb.h"
-
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
 #include "mirovahrctl/checkdb/dbassessment.h"

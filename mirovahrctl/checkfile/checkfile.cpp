@@ -1,5 +1,3 @@
-#include "mirovahrctl/checkfile/checkfile.h"
-
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
 #include "mirovahrctl/export/exportscan.h"

@@ -1,5 +1,3 @@
-#include "mirovahrctl/explain/explain.h"
-
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
 #include "mirovahrctl/explain/peoplelist.h"

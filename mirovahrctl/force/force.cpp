@@ -1,5 +1,3 @@
-#include "mirovahrctl/force/force.h"
-
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
 #include "mirovahrctl/pluginside/forceflag.h"

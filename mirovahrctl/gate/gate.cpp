@@ -1,5 +1,3 @@
-#include "mirovahrctl/gate/gate.h"
-
 #include "mirovahrctl/gate/gaterun.h"
 #include "mirovahrctl/gatestate/gateoptions.h"
 #include "mirovahrctl/program/commandline.h"

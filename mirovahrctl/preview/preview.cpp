@@ -1,5 +1,3 @@
-#include "mirovahrctl/preview/preview.h"
-
 #include "cli/databaseoptions.h"
 #include "mirovahrctl/preview/previewreport.h"
 #include "mirovahrctl/preview/previewserver.h"

@@ -1,5 +1,3 @@
-#include "mirovahrctl/status/status.h"
-
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
 #include "mirovahrctl/gatestate/gatestatus.h"
