@@ -6,6 +6,21 @@
 class DbAssessment;
 class DbSchema;
 
+/// What a database server is, by what its VERSION() returns.
+struct ServerVersion {
+    bool isMariaDb = false;
+    int major = 0;
+    QString text; ///< as the server gives it, such as "10.11.6-MariaDB-0+deb12u1"
+
+    static ServerVersion parse(const QString &text);
+
+    /// "MariaDB 10.11.6-MariaDB-0+deb12u1", "MySQL 8.0.35".
+    QString name() const;
+
+    /// Whether a table can be called `groups` only in quotes: in MySQL from 8 on.
+    bool reservesGroups() const { return !isMariaDb && major >= 8; }
+};
+
 /// The rules of check-db. Each function writes a section of the report.
 namespace DbRules {
 

@@ -3,7 +3,6 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
-#include "mirovahrctl/site/serverversion.h"
 
 #include <QStringList>
 
@@ -73,6 +72,21 @@ void checkOtherModes(DbAssessment &check, const QStringList &modes)
 }
 
 } // namespace
+
+ServerVersion ServerVersion::parse(const QString &text)
+{
+    ServerVersion version;
+    version.isMariaDb = text.contains(QLatin1String("MariaDB"), Qt::CaseInsensitive);
+    version.major = text.section(QLatin1Char('.'), 0, 0).toInt();
+    version.text = text;
+    return version;
+}
+
+QString ServerVersion::name() const
+{
+    return QStringLiteral("%1 %2").arg(
+        isMariaDb ? QLatin1String("MariaDB") : QLatin1String("MySQL"), text);
+}
 
 void DbRules::checkServer(DbAssessment &check)
 {

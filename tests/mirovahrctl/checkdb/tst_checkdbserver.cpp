@@ -3,7 +3,6 @@
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/site/dbschema.h"
-#include "mirovahrctl/site/serverversion.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
