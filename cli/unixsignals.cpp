@@ -1,4 +1,4 @@
-#include "yavhost/unixsignals.h"
+#include "cli/unixsignals.h"
 
 #include <QSocketNotifier>
 
@@ -12,9 +12,11 @@ namespace {
 
 // Where the handler writes the number of each signal; -1 while nobody reads.
 volatile std::sig_atomic_t g_pipeEnd = -1;
+volatile std::sig_atomic_t g_last = 0;
 
-void writeToPipe(int signalNumber)
+void noteSignal(int signalNumber)
 {
+    g_last = signalNumber;
     const int savedErrno = errno;
     const auto number = static_cast<unsigned char>(signalNumber);
     // A full pipe means that many signals wait already: this one may be lost.
@@ -26,19 +28,17 @@ void writeToPipe(int signalNumber)
 
 UnixSignals::UnixSignals(std::initializer_list<int> signalNumbers)
 {
-    if (pipe2(m_pipe.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
-        qFatal("yavhost: no pipe for signals");
-    }
+    if (pipe2(m_pipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+        qFatal("No pipe for signals");
     auto *notifier = new QSocketNotifier(m_pipe[0], QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &UnixSignals::readOne);
 
     g_pipeEnd = m_pipe[1];
     struct sigaction action = {};
-    action.sa_handler = writeToPipe;
+    action.sa_handler = noteSignal;
     action.sa_flags = SA_RESTART;
-    for (const int signalNumber : signalNumbers) {
+    for (const int signalNumber : signalNumbers)
         sigaction(signalNumber, &action, nullptr);
-    }
 }
 
 UnixSignals::~UnixSignals()
@@ -48,10 +48,14 @@ UnixSignals::~UnixSignals()
     close(m_pipe[1]);
 }
 
+int UnixSignals::last() const
+{
+    return g_last;
+}
+
 void UnixSignals::readOne()
 {
     unsigned char number = 0;
-    if (read(m_pipe[0], &number, sizeof number) == sizeof number) {
+    if (read(m_pipe[0], &number, sizeof number) == sizeof number)
         Q_EMIT received(number);
-    }
 }

@@ -17,6 +17,10 @@ public:
     explicit UnixSignals(std::initializer_list<int> signalNumbers);
     ~UnixSignals() override;
 
+    /// The number of the signal that came last; 0 when none has come. Known at once, whether the
+    /// thread runs an event loop or not.
+    int last() const;
+
 Q_SIGNALS:
     /// The signal of this number came.
     void received(int signalNumber);

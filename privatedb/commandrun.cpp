@@ -5,29 +5,14 @@
 #include "privatedb/privatemariadb.h"
 
 #include <QEventLoop>
-#include <QSocketNotifier>
 
 #include <csignal>
 #include <cstdio>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace {
 
-constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
 constexpr int kCommandNotStarted = 127;
 constexpr int kEndedBySignal = 128;
-
-int g_pipe[2];
-volatile std::sig_atomic_t g_signal = 0;
-
-void noteSignal(int number)
-{
-    g_signal = number;
-    const char byte = 0;
-    [[maybe_unused]] const ssize_t written = ::write(g_pipe[1], &byte, 1);
-}
 
 QProcessEnvironment commandEnvironment(const PrivateMariaDb &server)
 {
@@ -42,34 +27,19 @@ QProcessEnvironment commandEnvironment(const PrivateMariaDb &server)
 } // namespace
 
 CommandRun::CommandRun()
+    : m_signals{SIGINT, SIGTERM, SIGHUP}
 {
-    if (::pipe2(g_pipe, O_CLOEXEC | O_NONBLOCK) != 0)
-        qFatal("No pipe for signals");
-    m_notifier = new QSocketNotifier(g_pipe[0], QSocketNotifier::Read, this);
-    connect(m_notifier, &QSocketNotifier::activated, this, &CommandRun::passSignalOn);
-    struct sigaction action = {};
-    action.sa_handler = noteSignal;
-    for (const int number : kSignals)
-        ::sigaction(number, &action, nullptr);
-}
-
-CommandRun::~CommandRun()
-{
-    for (const int number : kSignals)
-        ::signal(number, SIG_DFL);
-    delete m_notifier;
-    ::close(g_pipe[0]);
-    ::close(g_pipe[1]);
+    connect(&m_signals, &UnixSignals::received, this, &CommandRun::passSignalOn);
 }
 
 bool CommandRun::interrupted() const
 {
-    return g_signal != 0;
+    return m_signals.last() != 0;
 }
 
 int CommandRun::interruptedStatus() const
 {
-    return kEndedBySignal + g_signal;
+    return kEndedBySignal + m_signals.last();
 }
 
 int CommandRun::run(const QStringList &command, const PrivateMariaDb &server)
@@ -97,8 +67,6 @@ int CommandRun::run(const QStringList &command, const PrivateMariaDb &server)
 
 void CommandRun::passSignalOn()
 {
-    char bytes[16];
-    while (::read(g_pipe[0], bytes, sizeof bytes) > 0) { }
     if (m_process)
         m_process->terminate();
 }

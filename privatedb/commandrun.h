@@ -1,11 +1,12 @@
 #pragma once
 
+#include "cli/unixsignals.h"
+
 #include <QObject>
 #include <QStringList>
 
 class BoundProcess;
 class PrivateMariaDb;
-class QSocketNotifier;
 
 /// Runs one command in the environment of a private server and carries SIGINT, SIGTERM and SIGHUP
 /// on to it, so that the caller can clean up once the command is gone. One instance per program.
@@ -17,7 +18,6 @@ class CommandRun : public QObject {
 public:
     /// Catches the signals from here on.
     CommandRun();
-    ~CommandRun() override;
 
     /// True once one of the signals has arrived.
     bool interrupted() const;
@@ -28,10 +28,9 @@ public:
     /// when it could not be started.
     int run(const QStringList &command, const PrivateMariaDb &server);
 
-private Q_SLOTS:
+private:
     void passSignalOn();
 
-private:
+    UnixSignals m_signals;
     BoundProcess *m_process = nullptr;
-    QSocketNotifier *m_notifier;
 };

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "cli/database.h"
+#include "cli/unixsignals.h"
 #include "yavhost/exitstatus.h"
 #include "yavhost/hostoptions.h"
 #include "yavhost/logprinter.h"
 #include "yavhost/serverplugin.h"
 #include "yavhost/synchronizationwatch.h"
-#include "yavhost/unixsignals.h"
 
 #include <QString>
 
