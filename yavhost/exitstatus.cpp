@@ -1,7 +1,5 @@
 #include "yavhost/exitstatus.h"
 
-#include <QStringList>
-
 namespace {
 
 constexpr ExitStatus kAll[] = {ExitStatus::Success,    ExitStatus::NoPlugin,   ExitStatus::Usage,
@@ -35,11 +33,8 @@ QString exitStatusSentence(ExitStatus status)
 
 QString exitStatusHelp()
 {
-    QStringList lines{QStringLiteral("Exit status:")};
-    for (const ExitStatus status : kAll) {
-        lines << QStringLiteral("  %1  %2")
-                     .arg(static_cast<int>(status))
-                     .arg(exitStatusSentence(status));
-    }
-    return lines.join(QLatin1Char('\n'));
+    QMap<int, QString> sentences;
+    for (const ExitStatus status : kAll)
+        sentences.insert(static_cast<int>(status), exitStatusSentence(status));
+    return CommonStatus::help(sentences);
 }

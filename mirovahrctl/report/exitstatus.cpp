@@ -1,7 +1,5 @@
 #include "mirovahrctl/report/exitstatus.h"
 
-#include <QStringList>
-
 namespace {
 
 struct Description {
@@ -10,6 +8,7 @@ struct Description {
     const char *sentence;
 };
 
+/// In the order of their numbers.
 constexpr Description kDescriptions[] = {
     {ExitStatus::Fine, "fine", "Nothing to object to"},
     {ExitStatus::Findings, "findings", "There are findings: somebody should look at them"},
@@ -22,30 +21,19 @@ constexpr Description kDescriptions[] = {
      "A guard refused what was asked for; nothing was changed"},
 };
 
-const Description &descriptionOf(ExitStatus status)
-{
-    return kDescriptions[static_cast<int>(status)];
-}
-
 } // namespace
-
-QString exitStatusSentence(ExitStatus status)
-{
-    return QString::fromLatin1(descriptionOf(status).sentence);
-}
 
 QString exitStatusWord(ExitStatus status)
 {
-    return QString::fromLatin1(descriptionOf(status).word);
+    return QString::fromLatin1(kDescriptions[static_cast<int>(status)].word);
 }
 
 QString exitStatusHelp()
 {
-    QStringList lines{QStringLiteral("Exit status:")};
+    QMap<int, QString> sentences;
     for (const Description &description : kDescriptions) {
-        lines << QStringLiteral("  %1  %2")
-                     .arg(static_cast<int>(description.status))
-                     .arg(QString::fromLatin1(description.sentence));
+        sentences.insert(static_cast<int>(description.status),
+                         QString::fromLatin1(description.sentence));
     }
-    return lines.join(QLatin1Char('\n'));
+    return CommonStatus::help(sentences);
 }

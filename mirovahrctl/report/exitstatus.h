@@ -16,12 +16,9 @@ enum class ExitStatus {
     GuardTripped = 5, ///< a guard refused what was asked for; nothing was changed
 };
 
-/// What the status means: a sentence without its full stop.
-QString exitStatusSentence(ExitStatus status);
-
 /// A stable word for scripts: "fine", "findings", "usage", "no-database", "contract-broken" or
 /// "guard-tripped".
 QString exitStatusWord(ExitStatus status);
 
-/// The part of the help texts that lists every status.
+/// The part of the help texts that lists every status with its meaning.
 QString exitStatusHelp();

@@ -23,5 +23,9 @@ struct Finding {
     bool dropped = false; ///< the plugin leaves this line out
 };
 
+/// A finding about the whole, without a line, field or subject.
+Finding makeFinding(Severity severity, const char *rule, const QString &message,
+                    const QString &advice = QString());
+
 /// "note", "warning" or "error".
 QString severityWord(Severity severity);
