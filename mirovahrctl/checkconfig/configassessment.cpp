@@ -268,11 +268,7 @@ qint64 ConfigAssessment::lineOf(const QString &key) const
 void ConfigAssessment::add(Severity severity, const char *rule, const QString &key,
                            const QString &message, const QString &advice)
 {
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
-    finding.advice = advice;
+    Finding finding = makeFinding(severity, rule, message, advice);
     finding.line = lineOf(key);
     finding.field = key;
     m_findings.append(finding);

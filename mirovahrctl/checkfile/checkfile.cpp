@@ -1,9 +1,10 @@
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
 #include "mirovahrctl/export/exportscan.h"
-#include "mirovahrctl/export/rejectsfile.h"
+#include "mirovahrctl/export/rejectswriter.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/program/progress.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/wording.h"
@@ -38,13 +39,15 @@ private:
     void report(const Finding &finding);
     void conclude(const ExportScan &check);
     ExitStatus commit(const ExportScan::Counts &counts);
+    ExitStatus failRejects();
     ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
     Console &m_console;
     const QString m_path;
     QFile m_file;
-    RejectsFile m_rejects;
+    OutputFile m_rejectsFile;
+    RejectsWriter m_rejects;
     const bool m_wantsRejects;
     Report m_report;
     ColumnWidths m_widths;
@@ -81,7 +84,8 @@ CheckFileRun::CheckFileRun(const CommandLine &line, Console &console)
     : m_line(line)
     , m_console(console)
     , m_path(line.argument(0))
-    , m_rejects(line.value("rejects"), QFileInfo(m_path).fileName())
+    , m_rejectsFile(line.value("rejects"))
+    , m_rejects(m_rejectsFile, QFileInfo(m_path).fileName())
     , m_wantsRejects(line.isSet("rejects"))
     , m_report(line, console)
 {
@@ -106,15 +110,15 @@ std::optional<ExitStatus> CheckFileRun::prepare()
 {
     if (const auto end = openExport())
         return end;
-    if (isExport(m_rejects.path()) || isExport(m_line.pagePath())) {
+    if (isExport(m_rejectsFile.fileName()) || isExport(m_line.pagePath())) {
         return fail(ExitStatus::Usage,
                     QStringLiteral("The result would be written over the export; name another "
                                    "file"));
     }
-    if (m_wantsRejects && !m_rejects.open()) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("'%1' cannot be written: %2")
-                        .arg(m_rejects.path(), m_rejects.errorString()));
+    if (m_wantsRejects) {
+        if (!m_rejectsFile.open(QIODevice::WriteOnly))
+            return failRejects();
+        m_rejects.begin();
     }
     if (const auto end = readWidths())
         return end;
@@ -200,13 +204,20 @@ void CheckFileRun::conclude(const ExportScan &check)
 
 ExitStatus CheckFileRun::commit(const ExportScan::Counts &counts)
 {
-    if (m_wantsRejects && !m_rejects.commit()) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("'%1' cannot be written: %2")
-                        .arg(m_rejects.path(), m_rejects.errorString()));
+    if (m_wantsRejects) {
+        m_rejects.end();
+        if (!m_rejectsFile.commit())
+            return failRejects();
     }
     const ExitStatus status = m_report.findingsStatus();
     return m_report.conclude(status, verdict(counts, status));
+}
+
+ExitStatus CheckFileRun::failRejects()
+{
+    return fail(ExitStatus::Usage,
+                QStringLiteral("'%1' cannot be written: %2")
+                    .arg(m_rejectsFile.fileName(), m_rejectsFile.errorString()));
 }
 
 ExitStatus CheckFileRun::fail(ExitStatus status, const QString &sentence)

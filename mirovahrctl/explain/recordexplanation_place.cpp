@@ -229,7 +229,7 @@ void RecordExplanation::requestRecalculation(bool moves, bool isCorrected)
 
 QString RecordExplanation::placingLog()
 {
-    const CaughtLog log;
+    const PluginLog log;
     m_context.view.worker().doSyncBranchAndCalendar(m_record);
-    return log.complaints();
+    return log.problems();
 }

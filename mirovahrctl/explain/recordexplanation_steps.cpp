@@ -118,9 +118,9 @@ void RecordExplanation::explainUnknownAdministrator()
                           .arg(m_record.nadrizenyOsobniCislo);
     if (!m_mayNotAdd) {
         // Without an administrator it does nothing but warn.
-        const CaughtLog log;
+        const PluginLog log;
         m_context.view.worker().processNadOsCis(m_record);
-        message += QStringLiteral(" The log says: ") + log.complaints();
+        message += QStringLiteral(" The log says: ") + log.problems();
     }
     warn("supervisor-unknown", message,
          QStringLiteral("Give the supervisor an administrator's account with this personal "

@@ -90,11 +90,7 @@ bool CheckedLine::isRejected() const
 Finding &CheckedLine::add(Severity severity, const char *rule, const QString &message,
                           const QString &advice)
 {
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
-    finding.advice = advice;
+    Finding finding = makeFinding(severity, rule, message, advice);
     finding.forHr = true;
     finding.line = number;
     findings.append(finding);

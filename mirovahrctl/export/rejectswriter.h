@@ -5,16 +5,19 @@
 class QIODevice;
 struct CheckedLine;
 
-/// The lines of an export that do not reach the database as they should, each with its reasons: a
-/// text to send to HR. The lines are byte for byte those of the export; what stands around them
-/// begins with "#". Whoever owns the device looks whether writing failed.
+/// Writes the lines of an export that do not reach the database as they should, each below its
+/// reasons: a text to send to HR. The lines are byte for byte those of the export; every other line
+/// begins with "#". The owner of the device checks whether writing failed.
 class RejectsWriter {
 public:
     /// \a exportName is what HR calls the export.
     RejectsWriter(QIODevice &device, const QString &exportName);
 
+    /// Writes the heading.
     void begin();
+    /// Writes one rejected line, with its errors above it.
     void add(const CheckedLine &line);
+    /// Writes how many lines there were.
     void end();
 
 private:

@@ -39,7 +39,6 @@ private:
     void reportFlag(bool wasSet, bool isSet);
     void reportPlugin();
     void reportExport(const Configuration &config);
-    void tell(Severity severity, const char *rule, const QString &message, const QString &advice);
     ExitStatus fail(const QString &sentence);
     QString verdict(bool isSet) const;
 
@@ -77,12 +76,13 @@ void ForceRun::reportFlag(bool wasSet, bool isSet)
                                          "it, or is just synchronising."));
     }
     if (m_on != isSet) {
-        tell(Severity::Warning, "changed-meanwhile",
-             m_on ? QStringLiteral("The flag was written and is gone again: a synchronisation that "
-                                   "had begun before has just ended and taken it back.")
-                  : QStringLiteral("The flag was taken back and is set again: somebody else has "
-                                   "just set it."),
-             QStringLiteral("Try again."));
+        m_report.finding(makeFinding(
+            Severity::Warning, "changed-meanwhile",
+            m_on ? QStringLiteral("The flag was written and is gone again: a synchronisation that "
+                                  "had begun before has just ended and taken it back.")
+                 : QStringLiteral("The flag was taken back and is set again: somebody else has "
+                                  "just set it."),
+            QStringLiteral("Try again.")));
     }
 }
 
@@ -113,15 +113,16 @@ void ForceRun::reportPlugin()
                        "is not busy.")
             .arg(Wording::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"))));
     if (!config.enabled) {
-        tell(
+        m_report.finding(makeFinding(
             Severity::Warning, "disabled",
             QStringLiteral("The configuration says that the plugin is disabled: it does not tick."),
-            QStringLiteral("Set enabled to 1 and start the attendance server again."));
+            QStringLiteral("Set enabled to 1 and start the attendance server again.")));
     }
     if (config.testMode) {
-        tell(Severity::Warning, "test-mode",
-             QStringLiteral("Test mode is on: people are only logged, not written."),
-             QStringLiteral("Set testMode to 0 and start the attendance server again."));
+        m_report.finding(makeFinding(
+            Severity::Warning, "test-mode",
+            QStringLiteral("Test mode is on: people are only logged, not written."),
+            QStringLiteral("Set testMode to 0 and start the attendance server again.")));
     }
     if (isHere)
         reportExport(config);
@@ -133,23 +134,13 @@ void ForceRun::reportExport(const Configuration &config)
     if (config.syncCommandRun >= 1 && !config.syncCommand.isEmpty()) {
         m_report.sentence(QStringLiteral("It runs the export command first."));
     } else if (!QFileInfo(path).isFile()) {
-        tell(Severity::Warning, "no-export",
-             QStringLiteral("There is no export %1 now. Unless HR leaves one before that tick, "
-                            "nothing is synchronised, and the flag is taken back all the same.")
-                 .arg(path),
-             QStringLiteral("Put the export there and set the flag again."));
+        m_report.finding(makeFinding(
+            Severity::Warning, "no-export",
+            QStringLiteral("There is no export %1 now. Unless HR leaves one before that tick, "
+                           "nothing is synchronised, and the flag is taken back all the same.")
+                .arg(path),
+            QStringLiteral("Put the export there and set the flag again.")));
     }
-}
-
-void ForceRun::tell(Severity severity, const char *rule, const QString &message,
-                    const QString &advice)
-{
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
-    finding.advice = advice;
-    m_report.finding(finding);
 }
 
 ExitStatus ForceRun::fail(const QString &sentence)

@@ -6,16 +6,6 @@ namespace GateAssessment {
 
 namespace {
 
-Finding finding(Severity severity, const char *rule, const QString &message, const QString &advice)
-{
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
-    finding.advice = advice;
-    return finding;
-}
-
 /// "60 people (12.5 %)"
 QString share(qint64 part, qint64 whole, const QString &one, const QString &many)
 {
@@ -38,24 +28,24 @@ QString allowance(const GateLimit &limit)
 
 GateReason empty()
 {
-    return {finding(Severity::Error, "empty", QStringLiteral("There is nobody in the file."),
-                    QStringLiteral("Ask HR whether the export went wrong.")),
+    return {makeFinding(Severity::Error, "empty", QStringLiteral("There is nobody in the file."),
+                        QStringLiteral("Ask HR whether the export went wrong.")),
             false};
 }
 
 GateReason truncated(const QString &message)
 {
-    return {finding(Severity::Error, "truncated", message,
-                    QStringLiteral("Ask HR for the whole file.")),
+    return {makeFinding(Severity::Error, "truncated", message,
+                        QStringLiteral("Ask HR for the whole file.")),
             true};
 }
 
 GateReason noBaseline()
 {
-    return {finding(Severity::Error, "no-baseline",
-                    QStringLiteral("There is no admitted file to compare with."),
-                    QStringLiteral("Look at the file with check-file and preview, and admit it "
-                                   "once with --accept.")),
+    return {makeFinding(Severity::Error, "no-baseline",
+                        QStringLiteral("There is no admitted file to compare with."),
+                        QStringLiteral("Look at the file with check-file and preview, and admit it "
+                                       "once with --accept.")),
             true};
 }
 
@@ -69,33 +59,34 @@ GateReason linesLost(const GateComparison::Result &changes, const GateLimit &lim
     const qint64 lost = changes.lostLines();
     const QString lines =
         share(lost, changes.oldLines, QStringLiteral("line"), QStringLiteral("lines"));
-    return {finding(Severity::Error, "lines-lost",
-                    lines + QStringLiteral(" with people ")
-                        + (lost == 1 ? QStringLiteral("is") : QStringLiteral("are"))
-                        + QStringLiteral(" gone since the last admitted file") + allowance(limit),
-                    askHr()),
+    return {makeFinding(Severity::Error, "lines-lost",
+                        lines + QStringLiteral(" with people ")
+                            + (lost == 1 ? QStringLiteral("is") : QStringLiteral("are"))
+                            + QStringLiteral(" gone since the last admitted file")
+                            + allowance(limit),
+                        askHr()),
             true};
 }
 
 GateReason peopleLeaving(const GateComparison::Result &changes, const GateLimit &limit)
 {
     const int count = changes.leaving.size();
-    return {finding(Severity::Error, "people-leaving",
-                    people(count, changes.working)
-                        + (count == 1 ? QStringLiteral(" leaves") : QStringLiteral(" leave"))
-                        + allowance(limit),
-                    askHr()),
+    return {makeFinding(Severity::Error, "people-leaving",
+                        people(count, changes.working)
+                            + (count == 1 ? QStringLiteral(" leaves") : QStringLiteral(" leave"))
+                            + allowance(limit),
+                        askHr()),
             true};
 }
 
 GateReason peopleMoving(const GateComparison::Result &changes, const GateLimit &limit)
 {
     const int count = changes.moving.size();
-    return {finding(Severity::Error, "people-moving",
-                    people(count, changes.working)
-                        + (count == 1 ? QStringLiteral(" gets") : QStringLiteral(" get"))
-                        + QStringLiteral(" another cost centre") + allowance(limit),
-                    askHr()),
+    return {makeFinding(Severity::Error, "people-moving",
+                        people(count, changes.working)
+                            + (count == 1 ? QStringLiteral(" gets") : QStringLiteral(" get"))
+                            + QStringLiteral(" another cost centre") + allowance(limit),
+                        askHr()),
             true};
 }
 
@@ -135,43 +126,45 @@ QVector<GateReason> judge(const GateFacts &facts, const GateLimits &limits, bool
 
 GateReason missing(const QString &path)
 {
-    return {finding(Severity::Error, "missing", QStringLiteral("There is no file '%1'.").arg(path),
-                    QStringLiteral("Ask HR whether the export has run.")),
+    return {makeFinding(Severity::Error, "missing",
+                        QStringLiteral("There is no file '%1'.").arg(path),
+                        QStringLiteral("Ask HR whether the export has run.")),
             false};
 }
 
 GateReason tooLong()
 {
-    return {
-        finding(Severity::Error, "file-too-long",
+    return {makeFinding(
+                Severity::Error, "file-too-long",
                 QStringLiteral("The file is longer than 1 GiB, and the plugin reads no further."),
                 QStringLiteral("Ask HR whether the export went wrong.")),
-        false};
+            false};
 }
 
 GateReason changedMeanwhile()
 {
-    return {finding(Severity::Error, "changed-meanwhile",
-                    QStringLiteral("The file was changed while it was read."),
-                    QStringLiteral("HR's export should write under another name and rename the "
-                                   "file when it is whole.")),
+    return {makeFinding(Severity::Error, "changed-meanwhile",
+                        QStringLiteral("The file was changed while it was read."),
+                        QStringLiteral("HR's export should write under another name and rename the "
+                                       "file when it is whole.")),
             false};
 }
 
 GateReason justWritten(qint64 settleSeconds)
 {
-    return {finding(Severity::Error, "just-written",
-                    QStringLiteral("The file was changed within the last %1.")
-                        .arg(Wording::counted(settleSeconds, QStringLiteral("second"),
-                                              QStringLiteral("seconds"))),
-                    QStringLiteral("It may not be whole yet; the next run takes it.")),
+    return {makeFinding(Severity::Error, "just-written",
+                        QStringLiteral("The file was changed within the last %1.")
+                            .arg(Wording::counted(settleSeconds, QStringLiteral("second"),
+                                                  QStringLiteral("seconds"))),
+                        QStringLiteral("It may not be whole yet; the next run takes it.")),
             false};
 }
 
 GateReason busy()
 {
-    return {finding(Severity::Error, "busy", QStringLiteral("Another gate works with this folder."),
-                    QStringLiteral("Wait for its end.")),
+    return {makeFinding(Severity::Error, "busy",
+                        QStringLiteral("Another gate works with this folder."),
+                        QStringLiteral("Wait for its end.")),
             false};
 }
 

@@ -8,17 +8,6 @@ namespace {
 /// As many changes of one kind are shown.
 constexpr int kMostShown = 20;
 
-Finding finding(Severity severity, const char *rule, const QString &message,
-                const QString &advice = QString())
-{
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
-    finding.advice = advice;
-    return finding;
-}
-
 /// What stands above a list of changes.
 void tellShown(Report &report, const QString &what, int count)
 {
@@ -62,7 +51,7 @@ void tellMoving(Report &report, const QVector<GateComparison::Change> &changes)
 Finding rejectedLines(qint64 count, const QString &path)
 {
     const bool one = count == 1;
-    return finding(
+    return makeFinding(
         Severity::Note, "rejected-lines",
         QStringLiteral("%1 of the file %2 not arrive as %3 should.")
             .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines")),
@@ -117,16 +106,18 @@ QVector<Finding> GateReport::notes() const
 {
     QVector<Finding> notes;
     if (isUnchanged) {
-        notes << finding(Severity::Note, "unchanged",
-                         QStringLiteral("The file is the last admitted one. It is published again, "
-                                        "so that the plugin goes on with what waits."));
+        notes << makeFinding(
+            Severity::Note, "unchanged",
+            QStringLiteral("The file is the last admitted one. It is published again, "
+                           "so that the plugin goes on with what waits."));
     }
     if (wasTaken) {
-        notes << finding(Severity::Note, "unread",
-                         QStringLiteral("An earlier file lay in its place, which the plugin has "
-                                        "not read or does not remove. ")
-                             + (isAdmitted ? QStringLiteral("It was replaced.")
-                                           : QStringLiteral("It stays there.")));
+        notes << makeFinding(
+            Severity::Note, "unread",
+            QStringLiteral("An earlier file lay in its place, which the plugin has "
+                           "not read or does not remove. ")
+                + (isAdmitted ? QStringLiteral("It was replaced.")
+                              : QStringLiteral("It stays there.")));
     }
     if (facts != nullptr && facts->counts.rejected > 0)
         notes << rejectedLines(facts->counts.rejected, rejects);

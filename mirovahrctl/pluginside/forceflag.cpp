@@ -1,7 +1,7 @@
 #include "mirovahrctl/pluginside/forceflag.h"
 
 #include "db/tepdbsettings.h"
-#include "mirovahrctl/pluginside/caughtlog.h"
+#include "mirovahrctl/pluginside/pluginlog.h"
 #include "worker/schedule.h"
 
 ForceFlag::ForceFlag(const QSqlDatabase &db)
@@ -11,16 +11,16 @@ ForceFlag::ForceFlag(const QSqlDatabase &db)
 
 std::optional<bool> ForceFlag::isSet()
 {
-    const CaughtLog log;
+    const PluginLog log;
     const bool on = TepDbSettings(m_db).variableGet(Schedule::kForceSyncKey, QVariant()).toBool();
-    m_error = log.complaints();
+    m_error = log.problems();
     return m_error.isEmpty() ? std::make_optional(on) : std::nullopt;
 }
 
 bool ForceFlag::set(bool on)
 {
-    const CaughtLog log;
+    const PluginLog log;
     const bool done = TepDbSettings(m_db).variableSet(Schedule::kForceSyncKey, on ? 1 : 0);
-    m_error = log.complaints();
+    m_error = log.problems();
     return done;
 }

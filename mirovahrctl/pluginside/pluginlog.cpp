@@ -8,6 +8,14 @@ PluginLog *currentLog = nullptr;
 
 } // namespace
 
+PluginLog::PluginLog()
+    : PluginLog([this](QtMsgType type, const QString &text) {
+        if (type == QtWarningMsg || type == QtCriticalMsg)
+            m_problems += text;
+    })
+{
+}
+
 PluginLog::PluginLog(Listener listener)
     : m_listener(std::move(listener))
     , m_outer(currentLog)
@@ -20,6 +28,11 @@ PluginLog::~PluginLog()
 {
     qInstallMessageHandler(m_outerHandler);
     currentLog = m_outer;
+}
+
+QString PluginLog::problems() const
+{
+    return m_problems.join(QStringLiteral("; "));
 }
 
 void PluginLog::handle(QtMsgType type, const QMessageLogContext &, const QString &text)

@@ -59,7 +59,7 @@ bool PluginView::load()
 
 QString PluginView::errorText() const
 {
-    QStringList errors{m_error, m_log.complaints(), m_sql ? m_sql->errorText() : QString()};
+    QStringList errors{m_error, m_log.problems(), m_sql ? m_sql->errorText() : QString()};
     errors.removeAll(QString());
     return errors.join(QStringLiteral("; "));
 }

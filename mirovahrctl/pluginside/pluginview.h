@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mirovahrctl/pluginside/caughtlog.h"
+#include "mirovahrctl/pluginside/pluginlog.h"
 #include "mirovahrctl/site/sqlsession.h"
 #include "worker/mhrworker.h"
 
@@ -41,7 +41,7 @@ private:
     bool connect(const QSqlDatabase &site);
     bool load();
 
-    const CaughtLog m_log;
+    const PluginLog m_log;
     std::unique_ptr<MHRWorker> m_worker;
     QSqlDatabase m_database;
     std::optional<SqlSession> m_sql;

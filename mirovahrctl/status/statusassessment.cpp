@@ -28,16 +28,6 @@ void findAge(StatusAssessment &judgement, const StatusData &data, const GateStat
         judgement.age = qMax(qint64(0), data.now - *trace);
 }
 
-Finding finding(Severity severity, const char *rule, const QString &message, const QString &advice)
-{
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
-    finding.advice = advice;
-    return finding;
-}
-
 bool isBeyond(const std::optional<qint64> &age, const std::optional<qint64> &limit)
 {
     return limit && (!age || *age >= *limit);
@@ -53,9 +43,9 @@ void judgeAge(StatusAssessment &judgement, const AgeLimits &limits)
               .arg(judgement.ageOf, StatusAssessment::span(*judgement.age))
         : QStringLiteral("There is no %1 yet.").arg(judgement.ageOf);
     judgement.findings +=
-        finding(critical ? Severity::Error : Severity::Warning, "too-old", message,
-                QStringLiteral("Look at the log of the attendance server and at "
-                               "what HR delivers."));
+        makeFinding(critical ? Severity::Error : Severity::Warning, "too-old", message,
+                    QStringLiteral("Look at the log of the attendance server and at "
+                                   "what HR delivers."));
 }
 
 void judgeGate(StatusAssessment &judgement, const GateStatus &gate)
@@ -66,8 +56,8 @@ void judgeGate(StatusAssessment &judgement, const GateStatus &gate)
     if (!gate.reasons.isEmpty())
         message += QStringLiteral(": ") + gate.reasons.join(QStringLiteral("; "));
     judgement.findings +=
-        finding(Severity::Warning, "gate-refused", Wording::sentence(message),
-                QStringLiteral("Until a file is admitted nothing new reaches the plugin."));
+        makeFinding(Severity::Warning, "gate-refused", Wording::sentence(message),
+                    QStringLiteral("Until a file is admitted nothing new reaches the plugin."));
 }
 
 } // namespace
