@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <csignal>
 
 namespace {
@@ -37,6 +38,8 @@ private Q_SLOTS:
 
     void thePluginItselfDoesWhatWasPredicted();
     void theExportStaysAndNoCommandIsRun();
+    void aMissingExportCommandIsWarnedOfAsByThePlugin();
+    void theReportNamesItsConfiguration();
     void thePageShowsTheDifferences();
     void whatTheConfigurationHoldsBackIsTold();
     void theCopyIsGoneAfterASignal_data();
@@ -150,6 +153,41 @@ void TestPreview::theExportStaysAndNoCommandIsRun()
     QVERIFY(!QFileInfo::exists(path("written")));
     QVERIFY(preview.output().contains("It was not run: this is the preview of the file as it is."));
     QVERIFY(preview.output().contains("The plugin would remove the export after reading it."));
+}
+
+void TestPreview::aMissingExportCommandIsWarnedOfAsByThePlugin()
+{
+    m_bench.writeIni("syncCommandRun=1");
+    m_bench.site().run("REPLACE INTO vars VALUES ('YAV.MHRWorker.forceSync', '1')");
+    QCOMPARE(m_bench.synchroniseSite(), QString());
+    const QString warning = "MHRWorker::runCommand() - NO command, aborted!";
+    QVERIFY(m_bench.siteLog().contains("W " + warning));
+
+    m_bench.site().reset();
+    const ToolRun tool = runTool(arguments({"--json"}));
+    COMPARE_EXIT(tool, ExitStatus::Findings);
+    const QVector<QJsonObject> warnings = tool.findingsOf("plugin-warning");
+    QVERIFY2(std::any_of(warnings.begin(), warnings.end(),
+                         [&warning](const QJsonObject &finding) {
+                             return finding.value("message") == warning;
+                         }),
+             tool.report().constData());
+    QVERIFY(!tool.out.contains("The plugin would run its export command first."));
+}
+
+void TestPreview::theReportNamesItsConfiguration()
+{
+    const ToolRun named = runTool(arguments());
+    QVERIFY2(named.out.contains("The configuration is that of " + m_bench.iniPath() + "."),
+             named.report().constData());
+
+    QStringList withoutIni = arguments();
+    const int option = withoutIni.indexOf("--config");
+    withoutIni.erase(withoutIni.begin() + option, withoutIni.begin() + option + 2);
+    const ToolRun defaults = runTool(withoutIni);
+    QVERIFY2(defaults.out.contains("There is no file /etc/yav/MirovaHR.ini here: this holds for a "
+                                   "plugin with its defaults."),
+             defaults.report().constData());
 }
 
 void TestPreview::thePageShowsTheDifferences()
