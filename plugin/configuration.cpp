@@ -1,5 +1,7 @@
 #include "plugin/configuration.h"
 
+#include "worker/schedule.h"
+
 #include <QSettings>
 
 namespace {
@@ -20,6 +22,11 @@ QHash<unsigned short, QString> readMessages(QSettings &settings)
 }
 
 } // namespace
+
+bool Configuration::runsCommand(bool forced) const
+{
+    return Schedule::isCommandDue(syncCommandRun, forced) && !syncCommand.isEmpty();
+}
 
 std::unique_ptr<QSettings> Configuration::open(const QString &path)
 {

@@ -25,6 +25,9 @@ struct Configuration {
     unsigned int departmentId = 1; ///< `departmentId`: `people.did`, 0 for none
     QHash<unsigned short, QString> messages; ///< group `MES`: register state code to text
 
+    /// Whether a synchronisation runs the export command. Without a command it only warns.
+    bool runsCommand(bool forced) const;
+
     /// Where the plugin finds its INI file.
     static inline const QLatin1String kPath{"/etc/yav/MirovaHR.ini"};
 

@@ -46,7 +46,7 @@ void MHRWorker::synchronise()
                m_force ? "YES" : "NO");
     }
 
-    if (m_syncCommandRun >= 2 || (m_syncCommandRun == 1 && m_force))
+    if (Schedule::isCommandDue(m_syncCommandRun, m_force))
         runCommand();
     loadAndParseData();
     reconcileRecords();

@@ -20,4 +20,9 @@ quint32 ticksPerSynchronisation(quint32 configured)
     return qMax(configured, 1U);
 }
 
+bool isCommandDue(quint8 condition, bool forced)
+{
+    return condition >= 2 || (condition == 1 && forced);
+}
+
 } // namespace Schedule

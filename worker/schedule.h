@@ -18,4 +18,8 @@ int timerInterval(quint32 tickPeriod);
 /// Every how many ticks a regular synchronisation runs, for a configured number: 0 counts as 1.
 quint32 ticksPerSynchronisation(quint32 configured);
 
+/// Whether a synchronisation runs the export command. \a condition: 0 never, 1 when it is forced,
+/// more always.
+bool isCommandDue(quint8 condition, bool forced);
+
 } // namespace Schedule

@@ -13,10 +13,8 @@
 #include "mirovahrctl/site/databaseaccess.h"
 #include "mirovahrctl/site/midnights.h"
 #include "mirovahrctl/site/sqlsession.h"
-#include "plugin/configuration.h"
 
 #include <QFileInfo>
-#include <QSettings>
 
 namespace {
 
@@ -42,7 +40,6 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> readPerson();
-    std::optional<ExitStatus> readConfiguration();
     std::optional<ExitStatus> openExport();
     ExitStatus answer(const QSqlDatabase &site);
     std::optional<ExitStatus> search(const QSqlDatabase &site);
@@ -58,7 +55,6 @@ private:
     std::optional<PersonId> m_person;
     std::optional<PeopleSearch> m_search; ///< when there is no person yet
     ExplainedSource m_source;
-    Configuration m_configuration;
     std::optional<PersonLines> m_lines;
 };
 
@@ -83,7 +79,7 @@ std::optional<ExitStatus> ExplainRun::prepare()
 {
     if (const auto end = readPerson())
         return end;
-    if (const auto end = readConfiguration())
+    if (const auto end = m_source.configuration.read(m_line, m_console))
         return end;
     return openExport();
 }
@@ -102,25 +98,11 @@ std::optional<ExitStatus> ExplainRun::readPerson()
                     .arg(text));
 }
 
-std::optional<ExitStatus> ExplainRun::readConfiguration()
-{
-    const bool isNamed = m_line.isSet("config");
-    m_source.configurationPath = isNamed ? m_line.value("config") : QString(Configuration::kPath);
-    const QFileInfo info(m_source.configurationPath);
-    m_source.hasConfiguration = info.isFile();
-    if (isNamed && !info.isFile())
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("There is no file '%1'").arg(info.filePath()));
-    if (info.isFile() && !info.isReadable())
-        return fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be read").arg(info.filePath()));
-    m_configuration = Configuration::read(*Configuration::open(m_source.configurationPath));
-    return std::nullopt;
-}
-
 std::optional<ExitStatus> ExplainRun::openExport()
 {
     ExplainedExport &file = m_source.file;
-    if (!file.open(m_line.argument(1), m_line.value("gate-folder"), m_configuration))
+    if (!file.open(m_line.argument(1), m_line.value("gate-folder"),
+                   m_source.configuration.values()))
         return fail(ExitStatus::Usage, file.errorString());
     if (hasExport() && QFileInfo(m_line.pagePath()) == QFileInfo(file.path())) {
         return fail(ExitStatus::Usage,
@@ -171,7 +153,7 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
         return fail(view.isConnected() ? ExitStatus::ContractBroken : ExitStatus::NoDatabase,
                     QStringLiteral("The database cannot be used: %1").arg(view.errorText()));
     };
-    if (!view.open(site, m_configuration))
+    if (!view.open(site, m_source.configuration.values()))
         return failView();
     ForceFlag flag(view.database());
     const auto forced = flag.isSet();
@@ -183,7 +165,7 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
     if (const auto end = m_report.open())
         return *end;
     m_report.begin(m_line.subcommand(), QStringLiteral("What became of %1").arg(m_person->name()));
-    PersonExplanation explanation(*m_person, m_source, m_configuration, view, m_report);
+    PersonExplanation explanation(*m_person, m_source, view, m_report);
     const QString verdict = explanation.explain(m_lines ? &*m_lines : nullptr);
     if (!view.errorText().isEmpty())
         return failView();

@@ -72,11 +72,11 @@ QVariantList lineRow(qint64 number, const RecordOutcome &outcome)
 } // namespace
 
 PersonExplanation::PersonExplanation(const PersonId &person, const ExplainedSource &source,
-                                     const Configuration &configuration, PluginView &view,
-                                     Report &report)
+                                     PluginView &view, Report &report)
     : m_person(person)
     , m_source(source)
-    , m_context{configuration, view, report, PersonState(view, person.pid(), source.isForced)}
+    , m_context{source.configuration.values(), view, report,
+                PersonState(view, person.pid(), source.isForced)}
 {
 }
 
@@ -109,12 +109,7 @@ void PersonExplanation::explainConfiguration()
     Report &report = m_context.report;
     const Configuration &configuration = m_context.configuration;
     report.section(QStringLiteral("configuration"), QStringLiteral("Configuration"));
-    report.sentence(
-        m_source.hasConfiguration
-            ? QStringLiteral("The configuration is that of %1.").arg(m_source.configurationPath)
-            : QStringLiteral("There is no file %1 here: what follows holds for a "
-                             "plugin with its defaults.")
-                  .arg(m_source.configurationPath));
+    report.sentence(m_source.configuration.origin());
     if (!configuration.enabled) {
         Phrases::tell(report, Severity::Warning, "disabled",
                       QStringLiteral("The plugin is disabled: nobody arrives. What follows "
@@ -170,11 +165,7 @@ void PersonExplanation::explainGate()
 void PersonExplanation::explainExport(const PersonLines &lines)
 {
     Report &report = m_context.report;
-    if (m_context.configuration.syncCommandRun >= 1
-        && !m_context.configuration.syncCommand.isEmpty()) {
-        report.sentence(QStringLiteral("The plugin runs its export command first, and may then "
-                                       "find another file than this."));
-    }
+    explainCommand();
     m_isFound = !lines.lines().isEmpty();
     if (!m_isFound)
         explainNotFound(lines);
@@ -188,6 +179,20 @@ void PersonExplanation::explainExport(const PersonLines &lines)
                       QStringLiteral("Have HR export each employment relationship once."));
     }
     explainOthers(lines);
+}
+
+/// The command may write another export than the one that is explained.
+void PersonExplanation::explainCommand()
+{
+    const Configuration &configuration = m_context.configuration;
+    if (configuration.runsCommand(m_source.isForced)) {
+        m_context.report.sentence(QStringLiteral(
+            "The plugin runs its export command first, and may then find another file than this."));
+    } else if (configuration.runsCommand(true)) {
+        m_context.report.sentence(QStringLiteral(
+            "A forced synchronisation runs the export command first, and may then find another "
+            "file than this."));
+    }
 }
 
 void PersonExplanation::explainNotFound(const PersonLines &lines)

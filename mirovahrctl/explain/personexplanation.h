@@ -5,13 +5,13 @@
 #include "mirovahrctl/explain/personid.h"
 #include "mirovahrctl/explain/personlines.h"
 #include "mirovahrctl/explain/recordexplanation.h"
+#include "mirovahrctl/pluginside/pluginconfiguration.h"
 
 #include <QString>
 
 /// Where the explanation of a person comes from, apart from the database.
 struct ExplainedSource {
-    QString configurationPath;
-    bool hasConfiguration = false; ///< there is such a file
+    PluginConfiguration configuration;
     ExplainedExport file; ///< the export
     bool isForced = false; ///< the next synchronisation is a forced one
 };
@@ -20,8 +20,8 @@ struct ExplainedSource {
 class PersonExplanation {
 public:
     /// \a source must live longer than this object.
-    PersonExplanation(const PersonId &person, const ExplainedSource &source,
-                      const Configuration &configuration, PluginView &view, Report &report);
+    PersonExplanation(const PersonId &person, const ExplainedSource &source, PluginView &view,
+                      Report &report);
 
     /// \a lines: what the export says of the person; null when there is no export. Returns the
     /// verdict in one sentence.
@@ -32,6 +32,7 @@ private:
     void explainAbsentExport();
     void explainGate();
     void explainExport(const PersonLines &lines);
+    void explainCommand();
     void explainNotFound(const PersonLines &lines);
     void explainOthers(const PersonLines &lines);
     void explainLine(const CheckedLine &line);

@@ -131,7 +131,7 @@ void ForceRun::reportPlugin()
 void ForceRun::reportExport(const Configuration &config)
 {
     const QString path = ImportFile::path(config.importFile);
-    if (config.syncCommandRun >= 1 && !config.syncCommand.isEmpty()) {
+    if (config.runsCommand(true)) {
         m_report.sentence(QStringLiteral("It runs the export command first."));
     } else if (!QFileInfo(path).isFile()) {
         m_report.finding(makeFinding(

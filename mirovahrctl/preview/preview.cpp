@@ -1,4 +1,5 @@
 #include "cli/databaseoptions.h"
+#include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/preview/previewreport.h"
 #include "mirovahrctl/preview/previewserver.h"
 #include "mirovahrctl/preview/previewsql.h"
@@ -7,10 +8,8 @@
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/program/report.h"
-#include "plugin/configuration.h"
 
 #include <QFileInfo>
-#include <QSettings>
 
 namespace {
 
@@ -38,7 +37,6 @@ public:
 
 private:
     std::optional<ExitStatus> prepare();
-    std::optional<ExitStatus> readConfiguration();
     std::optional<ExitStatus> openOutput(OutputFile &file);
     bool isExport(const QString &path) const;
     std::optional<ExitStatus> commit();
@@ -54,7 +52,7 @@ private:
     const QString m_export;
     OutputFile m_sql;
     OutputFile m_log;
-    Configuration m_configuration;
+    PluginConfiguration m_configuration;
 };
 
 ExitStatus PreviewCommand::run(const DatabaseOptions &site)
@@ -66,7 +64,7 @@ ExitStatus PreviewCommand::run(const DatabaseOptions &site)
     if (const auto refused = work.copy(site))
         return fail(*refused);
     if (const auto refused =
-            work.synchronise(m_configuration, m_export, m_log.isOpen() ? &m_log : nullptr))
+            work.synchronise(m_configuration.values(), m_export, m_log.isOpen() ? &m_log : nullptr))
         return fail(*refused);
     if (m_sql.isOpen())
         PreviewSql(work.schema(), work.moments()).write(work.changes(), m_sql);
@@ -90,26 +88,13 @@ std::optional<ExitStatus> PreviewCommand::prepare()
                     QStringLiteral("The result would be written over the export; name another "
                                    "file"));
     }
-    if (const auto end = readConfiguration())
+    if (const auto end = m_configuration.read(m_line, m_console))
         return end;
     for (OutputFile *const file : {&m_sql, &m_log}) {
         if (const auto end = openOutput(*file))
             return end;
     }
     return m_report.open();
-}
-
-std::optional<ExitStatus> PreviewCommand::readConfiguration()
-{
-    const bool isNamed = m_line.isSet("config");
-    const QString path = isNamed ? m_line.value("config") : QString(Configuration::kPath);
-    const QFileInfo info(path);
-    if (isNamed && !info.isFile())
-        return fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(path));
-    if (info.isFile() && !info.isReadable())
-        return fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be read").arg(path));
-    m_configuration = Configuration::read(*Configuration::open(path));
-    return std::nullopt;
 }
 
 std::optional<ExitStatus> PreviewCommand::openOutput(OutputFile &file)

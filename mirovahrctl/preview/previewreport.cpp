@@ -1,9 +1,9 @@
 #include "mirovahrctl/preview/previewreport.h"
 
+#include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/preview/previewwork.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/wording.h"
-#include "plugin/configuration.h"
 
 #include <QDate>
 #include <QRegularExpression>
@@ -39,7 +39,8 @@ QString rows(int count)
 
 } // namespace
 
-PreviewReport::PreviewReport(PreviewWork &work, const Configuration &configuration, Report &report)
+PreviewReport::PreviewReport(PreviewWork &work, const PluginConfiguration &configuration,
+                             Report &report)
     : m_work(work)
     , m_configuration(configuration)
     , m_report(report)
@@ -94,13 +95,13 @@ void PreviewReport::writeWarnings()
 
 void PreviewReport::warnOfConfiguration()
 {
-    if (!m_configuration.enabled) {
+    if (!m_configuration.values().enabled) {
         tell(Severity::Warning, "disabled",
              QStringLiteral("The configuration says that the plugin is disabled: it would not "
                             "synchronise at all."),
              QStringLiteral("Set enabled to 1 and start the attendance server again."));
     }
-    if (m_configuration.testMode) {
+    if (m_configuration.values().testMode) {
         tell(Severity::Warning, "test-mode",
              QStringLiteral("Test mode is on: people are only logged, not written."),
              QStringLiteral("Set testMode to 0 and start the attendance server again."));
@@ -142,6 +143,7 @@ void PreviewReport::noteCopy()
 void PreviewReport::writeLimits()
 {
     m_report.section(QStringLiteral("limits"), QStringLiteral("What is left out"));
+    m_report.sentence(m_configuration.origin());
     m_report.sentence(QStringLiteral(
         "This is the forced synchronisation of a plugin that was just started. What a running one "
         "remembers is not known here: the last record of each person, who waits for a branch, "
@@ -152,12 +154,12 @@ void PreviewReport::writeLimits()
                        "What others write in the meantime is not in it, and moments of writing "
                        "are shown as \"now\".")
             .arg(QDate::currentDate().toString(Qt::ISODate)));
-    if (m_configuration.syncCommandRun >= 1) {
+    if (m_configuration.values().runsCommand(true)) {
         m_report.sentence(
             QStringLiteral("The plugin would run its export command first. It was not run: this is "
                            "the preview of the file as it is."));
     }
-    if (m_configuration.deleteFile) {
+    if (m_configuration.values().deleteFile) {
         m_report.sentence(QStringLiteral("The plugin would remove the export after reading it. It "
                                          "was not removed."));
     }

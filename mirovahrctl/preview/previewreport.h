@@ -11,12 +11,12 @@
 
 class PreviewWork;
 class Report;
-struct Configuration;
+class PluginConfiguration;
 
 /// Tells what a preview has found out.
 class PreviewReport {
 public:
-    PreviewReport(PreviewWork &work, const Configuration &configuration, Report &report);
+    PreviewReport(PreviewWork &work, const PluginConfiguration &configuration, Report &report);
 
     /// All of it but the verdict.
     void write();
@@ -33,7 +33,7 @@ private:
     void tell(Severity severity, const char *rule, const QString &message, const QString &advice);
 
     PreviewWork &m_work;
-    const Configuration &m_configuration;
+    const PluginConfiguration &m_configuration;
     Report &m_report;
     QMap<PreviewKind, QVector<PreviewLine>> m_lines;
     QMap<PreviewKind, int> m_rows; ///< rows with a line of that kind

@@ -45,8 +45,9 @@ PreviewRun::PreviewRun(const Configuration &configuration, const QString &export
 {
     m_configuration.importFile = QFileInfo(exportFile).absoluteFilePath();
     m_configuration.deleteFile = false;
-    m_configuration.syncCommand.clear();
-    m_configuration.syncCommandRun = 0;
+    // Without a command the plugin only warns, and the preview shows that.
+    if (m_configuration.runsCommand(true))
+        m_configuration.syncCommandRun = 0;
 }
 
 bool PreviewRun::run(const QSqlDatabase &copy, const PluginLog::Listener &log,

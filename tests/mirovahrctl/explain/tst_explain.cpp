@@ -972,6 +972,11 @@ void TestExplain::theConfigurationIsThatOfTheFile()
     QCOMPARE(ExplainedSite::sentences(run, "configuration"),
              QStringList("The configuration is that of " + m_site.configurationPath() + "."));
     QCOMPARE(ExplainedSite::sentences(run, "export").first(),
+             QString("A forced synchronisation runs the export command first, and may then find "
+                     "another file than this."));
+
+    m_site.configure("syncCommandRun=2\nsyncCommand=\"/bin/true\"\n");
+    QCOMPARE(ExplainedSite::sentences(explain(SampleExport::jana()), "export").first(),
              QString("The plugin runs its export command first, and may then find another file "
                      "than this."));
 }
@@ -980,9 +985,10 @@ void TestExplain::withoutAConfigurationThePluginHasItsDefaults()
 {
     const ToolRun run = runTool(QStringList{"explain", "1234.1", "--json"} + m_site.connection());
     COMPARE_EXIT(run, ExitStatus::Fine);
-    QCOMPARE(ExplainedSite::sentences(run, "configuration"),
-             QStringList("There is no file /etc/yav/MirovaHR.ini here: what follows holds for a "
-                         "plugin with its defaults."));
+    QCOMPARE(
+        ExplainedSite::sentences(run, "configuration"),
+        QStringList("There is no file /etc/yav/MirovaHR.ini here: this holds for a plugin with "
+                    "its defaults."));
     QCOMPARE(ExplainedSite::sentences(run, "export"),
              QStringList({"There is no export /tmp/ron.data: the plugin removes it after it has "
                           "read it.",

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "mirovahrctl/report/exitstatus.h"
+#include "plugin/configuration.h"
+
+#include <QString>
+
+#include <optional>
+
+class CommandLine;
+class Console;
+
+/// The plugin's INI file, as a subcommand with the option --config reads it.
+class PluginConfiguration {
+public:
+    /// Reads the file of --config, or else the plugin's own, which may be missing. Has a status
+    /// when the subcommand must end with it: the file cannot be used, which was said on the
+    /// console.
+    std::optional<ExitStatus> read(const CommandLine &line, Console &console);
+
+    /// What is in force: the defaults without a file.
+    const Configuration &values() const { return m_values; }
+
+    /// Where the values come from: a whole sentence for the report.
+    QString origin() const;
+
+private:
+    QString m_path;
+    bool m_exists = false;
+    Configuration m_values;
+};
