@@ -72,6 +72,7 @@ QVector<ExportRow> FaultCycle::lines() const
 
 void FaultCycle::begin()
 {
+    QVERIFY2(m_proxy->waitUntilIdle(), "A client of the run before is still connected.");
     ++m_newNumber;
     m_db.run("BEGIN");
     for (const QString &table : kWritten) {

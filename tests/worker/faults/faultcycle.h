@@ -31,7 +31,8 @@ public:
     /// The attendance server's connection, which leads through the proxy.
     QSqlDatabase serverConnection() const { return m_server; }
 
-    /// Puts the tables, the export and the force flag as they are at the beginning.
+    /// Puts the tables, the export and the force flag as they are at the beginning, when the clients
+    /// of the run before are gone.
     void begin();
     /// Puts the same export there once more and forces a synchronisation.
     void repeat();

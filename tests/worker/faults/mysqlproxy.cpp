@@ -75,6 +75,11 @@ QString MySqlProxy::socketPath() const
     return m_folder.filePath("proxy.sock");
 }
 
+bool MySqlProxy::waitUntilIdle()
+{
+    return waitUntil([this] { return !m_serving; });
+}
+
 void MySqlProxy::restartCount()
 {
     disturb(0, {});
@@ -152,8 +157,17 @@ void MySqlProxy::run()
         MySqlWire client(::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC));
         if (!client.isConnected())
             return;
+        setServing(true);
         serve(client);
+        setServing(false);
     }
+}
+
+void MySqlProxy::setServing(bool serving)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_serving = serving;
+    m_changed.notify_all();
 }
 
 void MySqlProxy::serve(MySqlWire &client)
@@ -274,9 +288,6 @@ int MySqlProxy::arrive(const Command &command, Disturbance &disturbance)
 void MySqlProxy::leave(int index, bool carriedOut, int error)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    // The count may have begun anew meanwhile.
-    if (index >= m_commands.size())
-        return;
     m_commands[index].carriedOut = carriedOut;
     m_commands[index].error = error;
     m_over = m_over || index + 1 == m_disturbed;

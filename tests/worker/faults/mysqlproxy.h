@@ -57,10 +57,13 @@ public:
 
     QString socketPath() const;
 
-    /// Counts from 1 again.
+    /// Waits until the last commands of clients that are gone have been passed on: a process that
+    /// is killed leaves them in its socket, as a closing one leaves its QUIT.
+    bool waitUntilIdle();
+    /// Counts from 1 again. To be called while the proxy is idle.
     void restartCount();
     /// Counts from 1 again, and disturbs the command of this number, once. It is held when it
-    /// arrives, until release().
+    /// arrives, until release(). To be called while the proxy is idle.
     void disturb(int number, const Disturbance &disturbance);
     bool waitForArrival();
     void release();
@@ -80,6 +83,7 @@ private:
 
     void listen();
     void run();
+    void setServing(bool serving);
     void serve(MySqlWire &client);
     bool logIn(MySqlWire &client, MySqlWire &server);
     bool passCommand(const MySqlPacket &request, MySqlWire &client, MySqlWire &server);
@@ -108,6 +112,7 @@ private:
     bool m_released = false;
     bool m_over = false;
     bool m_resumed = false;
+    bool m_serving = false;
 
     std::thread m_thread;
 };
