@@ -25,7 +25,7 @@ QStringList probe(const QStringList &arguments)
 {
     QProcess process;
     process.start(DATADIRPROBE, arguments);
-    if (!process.waitForFinished(-1) || process.exitCode() != 0)
+    if (!process.waitForFinished(kPatienceMs) || process.exitCode() != 0)
         return {process.errorString() + process.readAllStandardError()};
     return QString::fromUtf8(process.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
 }
@@ -45,7 +45,7 @@ QStringList probeWithOwnLogs(const QString &application, const QString &folder)
                           << "mount -n -t tmpfs logs /var/log || exit\n"
                              "MIROVAHR_KEEP_RIGHTS=1 \"$1\" \"$2\" logs; stat -c '%F' \"$3\""
                           << "sh" << DATADIRPROBE << application << folder);
-    if (!process.waitForFinished(-1) || process.exitCode() != 0)
+    if (!process.waitForFinished(kPatienceMs) || process.exitCode() != 0)
         return {process.errorString() + process.readAllStandardError()};
     return QString::fromUtf8(process.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
 }

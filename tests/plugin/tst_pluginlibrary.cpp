@@ -50,7 +50,7 @@ QByteArray TestPluginLibrary::output(const QString &program, const QStringList &
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
-    if (process.waitForFinished(-1) && process.exitCode() == 0)
+    if (process.waitForFinished(kPatienceMs) && process.exitCode() == 0)
         return process.readAllStandardOutput();
     return program.toUtf8() + " failed: " + process.readAllStandardError();
 }

@@ -1,24 +1,22 @@
 #include "tests/privatedb/privateservertest.h"
 #include "tests/support/descendants.h"
+#include "tests/support/patience.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <cerrno>
 #include <csignal>
 #include <cstring>
 
-#include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
 namespace {
-
-constexpr int kPatienceMs = 60000;
 
 /// A bare connection to a server's socket, to see the server go.
 class Peer {
@@ -40,16 +38,11 @@ public:
     bool waitUntilGone() const
     {
         char bytes[256];
-        pollfd poll = {m_socket, POLLIN, 0};
-        for (;;) {
-            const int ready = ::poll(&poll, 1, kPatienceMs);
-            if (ready < 0 && errno == EINTR) // the end of a child
-                continue;
-            if (ready != 1)
-                return false;
+        while (waitUntilReadable(m_socket)) {
             if (::read(m_socket, bytes, sizeof bytes) <= 0) // past the greeting: the end
                 return true;
         }
+        return false;
     }
 
 private:
@@ -442,7 +435,7 @@ void TestPrivateMariaDb::serverCommandAndFolderGoWithAKilledProgram()
     QVERIFY(server.waitUntilGone());
     // The command holds its output open for as long as it lives.
     QVERIFY(program.waitForFinished(kPatienceMs));
-    descendants.waitForEnd();
+    QVERIFY(descendants.waitForEnd());
     QCOMPARE(entries(m_temp->path()), QStringList());
 }
 
@@ -456,11 +449,14 @@ void TestPrivateMariaDb::aProgramThatIsKilledWhileItStartsLeavesNothingBehind()
         return !folders.isEmpty()
             && !entries(m_temp->filePath(folders.first() + "/data")).isEmpty();
     };
-    while (!isMade())
+    const QDeadlineTimer deadline(kPatienceMs);
+    while (!isMade()) {
         QVERIFY(!program.waitForFinished(1));
+        QVERIFY2(!deadline.hasExpired(), "The program creates no data folder.");
+    }
     QCOMPARE(::kill(pid_t(program.processId()), SIGKILL), 0);
     QVERIFY(program.waitForFinished(kPatienceMs));
-    descendants.waitForEnd();
+    QVERIFY(descendants.waitForEnd());
     QCOMPARE(entries(m_temp->path()), QStringList());
 }
 
@@ -472,7 +468,7 @@ void TestPrivateMariaDb::aKilledProgramLeavesAFolderThatIsToBeKept()
     QVERIFY(program.waitForReadyRead(kPatienceMs));
     QCOMPARE(::kill(pid_t(program.processId()), SIGKILL), 0);
     QVERIFY(program.waitForFinished(kPatienceMs));
-    descendants.waitForEnd();
+    QVERIFY(descendants.waitForEnd());
     QCOMPARE(entries(m_temp->path()).size(), 1);
 }
 

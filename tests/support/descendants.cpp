@@ -1,5 +1,7 @@
 #include "tests/support/descendants.h"
 
+#include "tests/support/patience.h"
+
 #include <QtGlobal>
 
 #include <unistd.h>
@@ -15,9 +17,9 @@ Descendants::~Descendants()
     ::close(m_pipe[0]);
 }
 
-void Descendants::waitForEnd()
+bool Descendants::waitForEnd()
 {
     ::close(m_pipe[1]);
-    char byte = 0;
-    while (::read(m_pipe[0], &byte, 1) > 0) { }
+    // Nobody writes: the pipe becomes readable when the last process that inherited it is gone.
+    return waitUntilReadable(m_pipe[0]);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Tells when every process that was started since is gone.
+/// Waits until every process that was started since its construction is gone.
 class Descendants {
 public:
     Descendants();
@@ -8,7 +8,8 @@ public:
     Descendants(const Descendants &) = delete;
     Descendants &operator=(const Descendants &) = delete;
 
-    void waitForEnd();
+    /// False when one of them lives on.
+    bool waitForEnd();
 
 private:
     int m_pipe[2];

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/patience.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -34,8 +36,6 @@ QStringList linesAt(int debugLevel, const QVector<LogLine> &lines);
 /// must happen in another thread.
 class LogCapture {
 public:
-    static constexpr int kPatienceMs = 30000;
-
     LogCapture();
     ~LogCapture();
     LogCapture(const LogCapture &) = delete;

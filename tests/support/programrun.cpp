@@ -1,5 +1,7 @@
 #include "tests/support/programrun.h"
 
+#include "tests/support/patience.h"
+
 #include <QEventLoop>
 #include <QProcessEnvironment>
 #include <QTimer>
@@ -19,7 +21,8 @@ ProgramRun::~ProgramRun()
 {
     if (isRunning()) {
         m_process.kill();
-        m_process.waitForFinished(-1);
+        if (!m_process.waitForFinished(kPatienceMs))
+            qFatal("A killed program does not end.");
     }
 }
 

@@ -7,12 +7,9 @@
 #include <functional>
 
 /// One run of a program by a test. What the program prints is kept; a program that still runs when
-/// the object goes is killed.
+/// the object goes is killed. The wait functions give up after kPatienceMs.
 class ProgramRun {
 public:
-    /// What the tests grant a program that must print something or end.
-    static constexpr int kPatienceMs = 60000;
-
     ProgramRun();
     ~ProgramRun();
     ProgramRun(const ProgramRun &) = delete;

@@ -3,6 +3,7 @@
 #include "tests/mirovahrctl/report/browser.h"
 #include "tests/privatedb/privateservertest.h"
 #include "tests/support/descendants.h"
+#include "tests/support/patience.h"
 #include "tests/support/programrun.h"
 #include "tests/worker/synchronisation/sampleexport.h"
 
@@ -74,7 +75,7 @@ void TestPreview::init()
     // The site's server takes a moment to notice that a preview was killed.
     const QString sessions =
         "SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE USER = 'mirovahrctl'";
-    while (m_bench.site().value(sessions).toInt() > 0) { }
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench.site().value(sessions).toInt(), 0, kPatienceMs);
     m_bench.site().reset();
     m_bench.writeIni();
     m_bench.writeExport({SampleExport::jana().with(&ExportRow::prijmeni, "Malá"),
@@ -246,7 +247,7 @@ void TestPreview::theCopyIsGoneAfterASignal()
     const QString waiting = "SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE USER = "
                             "'mirovahrctl' AND INFO LIKE 'SELECT % FROM `people`' AND STATE LIKE "
                             "'Waiting for table%'";
-    while (m_bench.site().value(waiting).toInt() == 0) { }
+    QTRY_VERIFY_WITH_TIMEOUT(m_bench.site().value(waiting).toInt() > 0, kPatienceMs);
     const QStringList folders = leftBehind();
     QCOMPARE(folders.size(), 1);
     const TemporaryTable table(m_temporary.filePath(folders.first() + "/s"), "table");
@@ -254,7 +255,7 @@ void TestPreview::theCopyIsGoneAfterASignal()
     preview.sendSignal(signal);
     QVERIFY(preview.waitForEnd());
     COMPARE_STATUS(preview, 128 + signal);
-    descendants.waitForEnd();
+    QVERIFY(descendants.waitForEnd());
 }
 
 void TestPreview::aSynchronisationThatDoesNotTakePlaceIsNoResult()

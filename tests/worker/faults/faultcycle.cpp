@@ -70,9 +70,10 @@ QVector<ExportRow> FaultCycle::lines() const
     };
 }
 
-void FaultCycle::begin()
+bool FaultCycle::begin()
 {
-    QVERIFY2(m_proxy->waitUntilIdle(), "A client of the run before is still connected.");
+    if (!m_proxy->waitUntilIdle())
+        return false;
     ++m_newNumber;
     m_db.run("BEGIN");
     for (const QString &table : kWritten) {
@@ -82,6 +83,7 @@ void FaultCycle::begin()
     m_db.run("COMMIT");
     m_changes->start();
     repeat();
+    return true;
 }
 
 void FaultCycle::repeat()

@@ -31,9 +31,9 @@ public:
     /// The attendance server's connection, which leads through the proxy.
     QSqlDatabase serverConnection() const { return m_server; }
 
-    /// Puts the tables, the export and the force flag as they are at the beginning, when the clients
-    /// of the run before are gone.
-    void begin();
+    /// Restores the tables, the export and the force flag to their initial state, once the clients
+    /// of the previous run are gone. False when one stays connected.
+    bool begin();
     /// Puts the same export there once more and forces a synchronisation.
     void repeat();
 

@@ -1,5 +1,7 @@
 #include "tests/worker/faults/mysqlproxy.h"
 
+#include "tests/support/patience.h"
+
 #include <QFile>
 #include <QRegularExpression>
 
@@ -11,7 +13,9 @@
 
 namespace {
 
-constexpr std::chrono::seconds kPatience(60);
+constexpr std::chrono::milliseconds kPatience(kPatienceMs);
+/// How long the proxy holds a command: longer than a test waits for anything in the meantime.
+constexpr std::chrono::milliseconds kHolding(3 * kPatienceMs);
 
 // Bits of what a server offers in its greeting.
 constexpr quint16 kCompression = 0x0020;
@@ -67,6 +71,8 @@ MySqlProxy::~MySqlProxy()
     release();
     resume();
     ::shutdown(m_listener, SHUT_RDWR);
+    if (!waitUntilIdle())
+        qFatal("A client is still connected to the proxy.");
     m_thread.join();
 }
 
@@ -280,7 +286,7 @@ int MySqlProxy::arrive(const Command &command, Disturbance &disturbance)
         disturbance = m_disturbance;
         m_arrived = true;
         m_changed.notify_all();
-        m_changed.wait(lock, [this] { return m_released; });
+        holdUntil(m_released, lock);
     }
     return m_commands.size() - 1;
 }
@@ -298,7 +304,13 @@ void MySqlProxy::holdUntilResumed(int index)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     if (index + 1 == m_disturbed)
-        m_changed.wait(lock, [this] { return m_resumed; });
+        holdUntil(m_resumed, lock);
+}
+
+void MySqlProxy::holdUntil(const bool &freed, std::unique_lock<std::mutex> &lock)
+{
+    if (!m_changed.wait_for(lock, kHolding, [&freed] { return freed; }))
+        qFatal("The test leaves the disturbed command at the proxy.");
 }
 
 bool MySqlProxy::waitUntil(const std::function<bool()> &reached)

@@ -96,6 +96,7 @@ private:
     int arrive(const Command &command, Disturbance &disturbance);
     void leave(int index, bool carriedOut, int error);
     void holdUntilResumed(int index);
+    void holdUntil(const bool &freed, std::unique_lock<std::mutex> &lock);
     bool waitUntil(const std::function<bool()> &reached);
 
     const QByteArray m_serverSocket;

@@ -1,5 +1,6 @@
 #include "tests/worker/faults/servingworker.h"
 
+#include "tests/support/patience.h"
 #include "tests/worker/tick/inthreadof.h"
 #include "worker/mhrworker.h"
 
@@ -27,6 +28,7 @@ ServingWorker::ServingWorker(const QSqlDatabase &database, const QString &export
 ServingWorker::~ServingWorker()
 {
     m_thread.quit();
-    m_thread.wait();
+    if (!m_thread.wait(kPatienceMs))
+        qFatal("The worker's thread does not end.");
     QSqlDatabase::removeDatabase(m_connectionName);
 }

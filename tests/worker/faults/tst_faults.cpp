@@ -1,4 +1,5 @@
 #include "tests/support/logcapture.h"
+#include "tests/support/patience.h"
 #include "tests/support/programrun.h"
 #include "tests/worker/faults/expectations.h"
 #include "tests/worker/faults/faultcycle.h"
@@ -10,10 +11,10 @@
 #include <QSet>
 #include <QSqlQuery>
 
+#include <chrono>
 #include <csignal>
 #include <functional>
 #include <future>
-#include <thread>
 
 namespace {
 
@@ -24,6 +25,8 @@ constexpr int kLockWaitTimeout = 1205;
 constexpr int kDeadlock = 1213;
 constexpr char kDeadlockText[] =
     "Deadlock found when trying to get lock; try restarting transaction";
+
+constexpr char kStillConnected[] = "A client of the previous run is still connected.";
 
 const QString kTick = "MHRWorker::checkSync(): #";
 
@@ -93,6 +96,12 @@ QString selectForUpdate(const QStringList &key)
 {
     return "SELECT 1 FROM admins_people WHERE aid = " + key.at(0) + " AND uid = " + key.at(1)
         + " FOR UPDATE";
+}
+
+/// Waits for it.
+bool isReady(const std::future<void> &future)
+{
+    return future.wait_for(std::chrono::milliseconds(kPatienceMs)) == std::future_status::ready;
 }
 
 bool waitForNextTick(const LogCapture &log)
@@ -232,7 +241,7 @@ void TestFaults::initTestCase()
 void TestFaults::learnCycle()
 {
     const LogCapture log;
-    m_cycle.begin();
+    QVERIFY2(m_cycle.begin(), kStillConnected);
     m_cycle.proxy().restartCount();
     const ServingWorker worker(m_cycle.serverConnection(), m_cycle.exportPath());
     // The proxy has the end of the first tick before it has the second tick.
@@ -247,7 +256,7 @@ void TestFaults::learnCycle()
 
 void TestFaults::learnCycleOfProcess()
 {
-    m_cycle.begin();
+    QVERIFY2(m_cycle.begin(), kStillConnected);
     m_cycle.proxy().restartCount();
     ProgramRun process;
     startProcess(process);
@@ -297,7 +306,7 @@ TestFaults::Run TestFaults::disturb(const Disturbance &disturbance,
     const auto go = [&] {
         QFETCH(int, number);
         const LogCapture log;
-        m_cycle.begin();
+        QVERIFY2(m_cycle.begin(), kStillConnected);
         m_cycle.proxy().disturb(number, disturbance);
         const ServingWorker worker(m_cycle.serverConnection(), m_cycle.exportPath());
         QVERIFY(passFault(log, whileHeld, afterwards));
@@ -533,13 +542,17 @@ void TestFaults::meetInDeadlock(const QStringList &key, std::promise<void> &kept
 void TestFaults::aDeadlockWithAnotherConnectionIsSurvived()
 {
     QFETCH(int, number);
-    std::thread other;
     std::promise<void> kept;
+    std::future<void> other;
     const auto begin = [&] {
-        other = std::thread([&, key = keyOfHeldInsert()] { meetInDeadlock(key, kept); });
-        kept.get_future().wait();
+        other = std::async(std::launch::async,
+                           [&, key = keyOfHeldInsert()] { meetInDeadlock(key, kept); });
+        QVERIFY(isReady(kept.get_future()));
     };
-    const Run run = disturb(of(Way::Forward), begin, [&](const LogCapture &) { other.join(); });
+    const auto end = [&](const LogCapture &) {
+        QVERIFY(isReady(other));
+    };
+    const Run run = disturb(of(Way::Forward), begin, end);
     QCOMPARE(run.commands.value(number - 1).error, kDeadlock);
     checkLogOfRefusal(run, kDeadlockText);
     checkState(run, m_commands);
@@ -551,7 +564,7 @@ void TestFaults::anotherProcessTakesOverFromOneThatWasKilled()
 {
     QFETCH(int, number);
     Run run;
-    m_cycle.begin();
+    QVERIFY2(m_cycle.begin(), kStillConnected);
     m_cycle.proxy().disturb(number, of(Way::CutBefore));
     ProgramRun killed;
     startProcess(killed);

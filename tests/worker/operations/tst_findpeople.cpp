@@ -155,7 +155,7 @@ void TestFindPeople::workersOfOtherThreadsShareTheKnownUids()
         uid = withoutDatabase.getUidByPid(581);
     }));
     thread->start();
-    QVERIFY(thread->wait());
+    QVERIFY(thread->wait(kPatienceMs));
     QCOMPARE(uid, 58U);
 }
 

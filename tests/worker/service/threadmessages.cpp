@@ -1,5 +1,7 @@
 #include "tests/worker/service/threadmessages.h"
 
+#include "tests/support/patience.h"
+
 #include <QMap>
 #include <QThread>
 
@@ -9,7 +11,8 @@
 
 namespace {
 
-constexpr std::chrono::seconds kPatience(120);
+/// A tick of many people takes its time under a race detector.
+constexpr std::chrono::milliseconds kPatience(2 * kPatienceMs);
 
 std::mutex g_mutex;
 std::condition_variable g_arrival;

@@ -189,10 +189,12 @@ void TestLongService::force()
 Resources TestLongService::settled()
 {
     const int threads = m_threads + (m_loader ? 1 : 0);
-    const bool atRest = QTest::qWaitFor([&] {
-        const Resources resources = Resources::now(m_db);
-        return resources.connections == kConnections && resources.threads == threads;
-    });
+    const bool atRest = QTest::qWaitFor(
+        [&] {
+            const Resources resources = Resources::now(m_db);
+            return resources.connections == kConnections && resources.threads == threads;
+        },
+        kPatienceMs);
     const Resources resources = Resources::now(m_db);
     if (!atRest)
         qFatal("Something is left: %s", qPrintable(resources.text()));

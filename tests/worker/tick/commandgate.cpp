@@ -1,8 +1,11 @@
 #include "tests/worker/tick/commandgate.h"
 
+#include "tests/support/patience.h"
+
 #include <QFile>
 
 #include <fcntl.h>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,11 +14,17 @@ CommandGate::CommandGate()
 {
     if (::mkfifo(m_path.constData(), 0600) != 0)
         qFatal("%s could not be made", m_path.constData());
+    // With this end open, the command's own opening of the pipe does not wait.
+    m_handle = ::open(m_path.constData(), O_RDWR | O_CLOEXEC);
+    m_watch = ::inotify_init1(IN_CLOEXEC);
+    if (m_handle < 0 || ::inotify_add_watch(m_watch, m_path.constData(), IN_OPEN) < 0)
+        qFatal("%s could not be watched", m_path.constData());
 }
 
 CommandGate::~CommandGate()
 {
     open();
+    ::close(m_watch);
 }
 
 QString CommandGate::command() const
@@ -26,10 +35,8 @@ QString CommandGate::command() const
 
 void CommandGate::waitForCommand()
 {
-    // Waits for the reader.
-    m_handle = ::open(m_path.constData(), O_WRONLY | O_CLOEXEC);
-    if (m_handle < 0)
-        qFatal("%s could not be opened", m_path.constData());
+    if (!waitUntilReadable(m_watch))
+        qFatal("The command does not run.");
 }
 
 void CommandGate::open()

@@ -19,5 +19,6 @@ public:
 private:
     QTemporaryDir m_dir;
     QByteArray m_path;
-    int m_handle = -1;
+    int m_handle = -1; ///< the gate's end of the pipe
+    int m_watch = -1; ///< reports that the command opens the other end
 };

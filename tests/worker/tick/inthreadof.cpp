@@ -1,7 +1,10 @@
 #include "tests/worker/tick/inthreadof.h"
 
+#include "tests/support/patience.h"
+
 #include <QObject>
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 
@@ -29,5 +32,8 @@ void runInThreadOf(QObject *object, const std::function<void()> &task)
     g_task = &task;
     QMetaObject::invokeMethod(
         object, [] { runTask(); }, Qt::QueuedConnection);
-    g_done.wait(lock, [] { return g_task == nullptr; });
+    if (!g_done.wait_for(lock, std::chrono::milliseconds(kPatienceMs),
+                         [] { return g_task == nullptr; })) {
+        qFatal("The object's thread does not run the task.");
+    }
 }

@@ -58,8 +58,12 @@ private:
     {
         char buffer[4096];
         ssize_t count = 0;
-        while ((count = ::read(end, buffer, sizeof(buffer))) > 0)
+        do {
+            if (!waitUntilReadable(end))
+                qFatal("The channel stays open.");
+            count = ::read(end, buffer, sizeof(buffer));
             m_count += count;
+        } while (count > 0);
         ::close(end);
     }
 

@@ -189,7 +189,7 @@ void TestTick::anIdleTickSendsOneSelectOnOneConnection()
     tick(1);
     m_db.clearStatements();
     tick(1);
-    QTRY_COMPARE(connectsAndQuits(), QStringList({"Connect", "Quit"}));
+    QTRY_COMPARE_WITH_TIMEOUT(connectsAndQuits(), QStringList({"Connect", "Quit"}), kPatienceMs);
     QCOMPARE(m_db.statements(), QStringList(kReadForce));
 }
 

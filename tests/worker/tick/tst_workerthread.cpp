@@ -36,7 +36,8 @@ public:
     void end()
     {
         m_thread.quit();
-        m_thread.wait();
+        if (!m_thread.wait(kPatienceMs))
+            qFatal("The worker's thread does not end.");
     }
 
     /// In the worker's thread, after all that was queued there.

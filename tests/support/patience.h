@@ -1,0 +1,8 @@
+#pragma once
+
+/// How long a test waits for what must happen, in milliseconds, before it fails.
+constexpr int kPatienceMs = 60000;
+
+/// Waits until \a descriptor has something to read or its other end is closed. False when neither
+/// happens in kPatienceMs.
+bool waitUntilReadable(int descriptor);
