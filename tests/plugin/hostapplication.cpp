@@ -1,6 +1,6 @@
 #include "tests/plugin/hostapplication.h"
 
-#include "tests/worker/tick/inthreadof.h"
+#include "tests/worker/support/inthreadof.h"
 
 #include <QEvent>
 #include <QTimer>

@@ -1,7 +1,7 @@
 #include "plugin/interfaces/serverinterface.h"
 #include "tests/plugin/pluginini.h"
 #include "tests/plugin/plugintest.h"
-#include "tests/worker/tick/commandgate.h"
+#include "tests/worker/support/commandgate.h"
 
 #include <QFile>
 #include <QPluginLoader>

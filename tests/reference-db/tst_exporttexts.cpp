@@ -1,5 +1,5 @@
-#include "tests/worker/synchronisation/sampleexport.h"
-#include "tests/worker/synchronisation/synctest.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/workertest.h"
 
 namespace {
 
@@ -22,7 +22,7 @@ int syntaxErrors(const QStringList &log)
 
 /// What the texts of an export line can do to the database, as docs/security.md tells: they go into
 /// the plugin's statements as they are, and the account is what limits them.
-class TestExportTexts : public SyncTest {
+class TestExportTexts : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -126,5 +126,7 @@ void TestExportTexts::whatTheAccountMayNotDoTheTextMayNotDo()
     QVERIFY(!QFile::exists("/tmp/from-the-database"));
 }
 
-SYNC_TEST_MAIN(TestExportTexts)
+QTEST_GUILESS_MAIN(TestExportTexts)
 #include "tst_exporttexts.moc"
+
+#include <QtTest>

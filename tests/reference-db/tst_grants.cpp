@@ -4,8 +4,8 @@
 #include "db/termsyncrepository.h"
 #include "tests/support/accountrights.h"
 #include "tests/support/logcapture.h"
-#include "tests/worker/synchronisation/sampleexport.h"
-#include "tests/worker/synchronisation/synctest.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/workertest.h"
 
 namespace {
 
@@ -65,7 +65,7 @@ QStringList useTheRepositories(const QSqlDatabase &db)
 } // namespace
 
 /// The accounts of reference-db/grants.sql: enough, and nothing to spare.
-class TestGrants : public SyncTest {
+class TestGrants : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -236,5 +236,7 @@ void TestGrants::loadingTwiceChangesNothing()
     QVERIFY(m_db.openPluginConnection().isOpen()); // neither locked nor without its password
 }
 
-SYNC_TEST_MAIN(TestGrants)
+QTEST_GUILESS_MAIN(TestGrants)
 #include "tst_grants.moc"
+
+#include <QtTest>

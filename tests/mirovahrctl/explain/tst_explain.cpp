@@ -1,7 +1,7 @@
 #include "mirovahrctl/explain/personid.h"
 #include "tests/mirovahrctl/explain/explainedsite.h"
-#include "tests/worker/synchronisation/sampleexport.h"
-#include "tests/worker/synchronisation/synctest.h"
+#include "tests/worker/support/middayzone.h"
+#include "tests/worker/support/sampleexport.h"
 #include "worker/mirovaronrecord.h"
 #include "worker/recorddates.h"
 
@@ -25,6 +25,9 @@ QString previousMonth()
 /// explain: what it says of one person, sentence by sentence.
 class TestExplain : public QObject {
     Q_OBJECT
+
+public:
+    static void initMain() { settleProgram(); }
 
 private Q_SLOTS:
     void initTestCase();
@@ -1132,5 +1135,5 @@ void TestExplain::aDatabaseWithoutATableBreaksTheContract()
     QVERIFY2(run.failure().startsWith("The database "), run.report().constData());
 }
 
-SYNC_TEST_MAIN(TestExplain)
+QTEST_GUILESS_MAIN(TestExplain)
 #include "tst_explain.moc"

@@ -1,7 +1,7 @@
 #include "mirovahrctl/gatestate/gateoptions.h"
 #include "tests/mirovahrctl/explain/explainedsite.h"
 #include "tests/mirovahrctl/gate/gatesite.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
 #include "tests/mirovahrctl/explain/explainedsite.h"
 #include "tests/mirovahrctl/report/browser.h"
 #include "tests/mirovahrctl/report/pagepicture.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
 #include "mirovahrctl/explain/peoplesearch.h"
 #include "mirovahrctl/export/personname.h"
 #include "tests/mirovahrctl/explain/explainedsite.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QtTest>
 

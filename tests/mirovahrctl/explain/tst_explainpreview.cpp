@@ -1,7 +1,7 @@
 #include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/mirovahrctl/preview/randomsite.h"
 #include "tests/mirovahrctl/program/toolrun.h"
-#include "tests/worker/synchronisation/middayzone.h"
+#include "tests/worker/support/middayzone.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

@@ -1,14 +1,15 @@
 #include "tests/mirovahrctl/explain/explainedsite.h"
 #include "tests/mirovahrctl/explain/observedperson.h"
-#include "tests/worker/synchronisation/sampleexport.h"
-#include "tests/worker/synchronisation/synctest.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QSqlDatabase>
+#include <QtTest>
 
 /// explain, held against what the worker then does with the same export and database.
-class TestExplainWorker : public SyncTest {
+class TestExplainWorker : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -40,7 +41,7 @@ ToolRun TestExplainWorker::explain(const QVector<ExportRow> &lines, const QByteA
     const QString person = lines.last().osobniCislo + "." + lines.last().poradoveCisloPP;
     const ToolRun run = m_site.explain(person);
     newWorker(3);
-    m_export.write(lines);
+    m_export->write(lines);
     return run;
 }
 
@@ -357,5 +358,5 @@ void TestExplainWorker::severalLinesAreHandledInTurn()
     compareWarnings(run, trace.log);
 }
 
-SYNC_TEST_MAIN(TestExplainWorker)
+QTEST_GUILESS_MAIN(TestExplainWorker)
 #include "tst_explainworker.moc"

@@ -1,10 +1,10 @@
 #include "tests/mirovahrctl/gate/gatesite.h"
-#include "tests/worker/tick/cycletest.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QtTest>
 
 /// The gate as the export command of the worker, from HR's file to the database.
-class TestGateWorker : public CycleTest {
+class TestGateWorker : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -112,10 +112,10 @@ void TestGateWorker::theSameFileArrivesOnceMore()
     tick();
     // An unchanged line is left alone, a forced synchronisation writes it.
     QCOMPARE(people("pid = 10011 AND phone = 'lost'"), 1);
-    setForce("1");
+    force();
     tick();
     QCOMPARE(people("pid = 10011 AND phone = '555123456'"), 1);
-    QCOMPARE(force(), QString("0"));
+    QCOMPARE(forceFlag(), QString("0"));
 }
 
 void TestGateWorker::statusTellsOfTheGate()

@@ -5,7 +5,7 @@
 #include "tests/support/descendants.h"
 #include "tests/support/patience.h"
 #include "tests/support/programrun.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QDir>
 #include <QtTest>

@@ -1,6 +1,6 @@
 #include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/mirovahrctl/preview/randomsite.h"
-#include "tests/worker/synchronisation/middayzone.h"
+#include "tests/worker/support/middayzone.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

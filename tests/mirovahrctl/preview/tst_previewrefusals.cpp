@@ -1,6 +1,6 @@
 #include "mirovahrctl/preview/previewrun.h"
 #include "tests/mirovahrctl/preview/previewbench.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QtTest>
 

@@ -1,8 +1,8 @@
 #include "mirovahrctl/preview/previewvalues.h"
 #include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/support/localzone.h"
-#include "tests/worker/synchronisation/middayzone.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/middayzone.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QCoreApplication>
 #include <QtTest>

@@ -1,7 +1,7 @@
 #include "mirovahrctl/program/outputfile.h"
 #include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/mirovahrctl/program/toolrun.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QDir>
 #include <QtTest>

@@ -1,7 +1,7 @@
 #include "tests/worker/faults/faultcycle.h"
 
-#include "tests/worker/synchronisation/middayzone.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/middayzone.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QRegularExpression>
 

@@ -3,7 +3,7 @@
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
 #include "tests/worker/faults/mysqlproxy.h"
-#include "tests/worker/synchronisation/statechanges.h"
+#include "tests/worker/support/statechanges.h"
 
 #include <QStringList>
 #include <QVector>

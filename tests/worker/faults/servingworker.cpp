@@ -1,7 +1,7 @@
 #include "tests/worker/faults/servingworker.h"
 
 #include "tests/support/patience.h"
-#include "tests/worker/tick/inthreadof.h"
+#include "tests/worker/support/inthreadof.h"
 #include "worker/mhrworker.h"
 
 #include <QTimer>

@@ -5,11 +5,12 @@
 #include "tests/worker/faults/faultcycle.h"
 #include "tests/worker/faults/servingprocess.h"
 #include "tests/worker/faults/servingworker.h"
-#include "tests/worker/synchronisation/synctest.h"
+#include "tests/worker/support/middayzone.h"
 
 #include <QScopeGuard>
 #include <QSet>
 #include <QSqlQuery>
+#include <QtTest>
 
 #include <chrono>
 #include <csignal>

@@ -2,7 +2,7 @@
 
 #include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"
-#include "tests/worker/tick/loghook.h"
+#include "tests/worker/support/loghook.h"
 #include "worker/mhrworker.h"
 
 #include <QDir>

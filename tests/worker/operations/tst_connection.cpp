@@ -1,5 +1,8 @@
 #include "tests/support/logcapture.h"
-#include "tests/worker/operations/workertest.h"
+#include "tests/worker/operations/samplerecord.h"
+#include "tests/worker/operations/workerconnection.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QtTest>
 
@@ -8,6 +11,11 @@
 /// The worker's connection: opened, closed and lost.
 class TestConnection : public WorkerTest {
     Q_OBJECT
+public:
+    TestConnection()
+        : WorkerTest(Tables::Empty)
+    {
+    }
 
 private Q_SLOTS:
     void openingAndClosingAreLoggedAlikeFromDebugLevel2On_data();
@@ -40,9 +48,9 @@ void TestConnection::openingAndClosingAreLoggedAlikeFromDebugLevel2On_data()
 
 void TestConnection::openingAndClosingAreLoggedAlikeFromDebugLevel2On()
 {
-    QFETCH(int, level);
-    setDebugLevel(level);
-    const QStringList expected = linesAt(level, {{2, "D MHRWorker::dbCheckOpen()"}});
+    QFETCH(int, debugLevel);
+    setDebugLevel(debugLevel);
+    const QStringList expected = linesAt(debugLevel, {{2, "D MHRWorker::dbCheckOpen()"}});
     QCOMPARE(observe([this] { QVERIFY(m_worker->dbCheckOpen()); }).log, expected);
     QCOMPARE(observe([this] { m_worker->dbClose(); }).log, expected);
     QCOMPARE(observe([this] { m_worker->dbClose(); }).log, expected);
@@ -63,9 +71,9 @@ void TestConnection::aClosedConnectionIsOpenedAgain()
 {
     const Trace trace = observe([this] {
         m_worker->dbClose();
-        QVERIFY(!connection().isOpen());
+        QVERIFY(!workerConnection().isOpen());
         QVERIFY(m_worker->dbCheckOpen());
-        QVERIFY(connection().isOpen());
+        QVERIFY(workerConnection().isOpen());
         QCOMPARE(connectCount(), 1);
     });
     QCOMPARE(trace.log, QStringList());
@@ -77,7 +85,7 @@ void TestConnection::closingTwiceIsHarmless()
     const Trace trace = observe([this] {
         m_worker->dbClose();
         m_worker->dbClose();
-        QVERIFY(!connection().isOpen());
+        QVERIFY(!workerConnection().isOpen());
     });
     QCOMPARE(trace.log, QStringList());
 }
@@ -89,21 +97,17 @@ void TestConnection::aServerThatIsDownIsCritical_data()
 
 void TestConnection::aServerThatIsDownIsCritical()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     const QString error =
         "Can't connect to local server through socket '" + m_db.server().socketPath() + "' (2)";
     m_worker->dbClose();
     m_db.stopServer();
-    setDebugLevel(level);
-    QStringList lines;
-    {
-        const LogCapture log;
-        QVERIFY(!m_worker->dbCheckOpen());
-        lines = log.lines();
-    }
+    setDebugLevel(debugLevel);
+    m_log->clear();
+    QVERIFY(!m_worker->dbCheckOpen());
     m_db.startServer();
-    QCOMPARE(lines,
-             linesAt(level,
+    QCOMPARE(m_log->lines(),
+             linesAt(debugLevel,
                      {{2, "D MHRWorker::dbCheckOpen()"},
                       {0,
                        "C MHRWorker::dbCheckOpen() - SQL ERROR: " + error
@@ -114,21 +118,18 @@ void TestConnection::openingWorksAgainOnceTheServerIsBack()
 {
     m_worker->dbClose();
     m_db.stopServer();
-    {
-        const LogCapture log;
-        QVERIFY(!m_worker->dbCheckOpen());
-        QVERIFY(!m_worker->dbCheckOpen());
-        QCOMPARE(log.lines().size(), 2);
-    }
+    m_log->clear();
+    QVERIFY(!m_worker->dbCheckOpen());
+    QVERIFY(!m_worker->dbCheckOpen());
+    QCOMPARE(m_log->lines().size(), 2);
     m_db.startServer();
+    m_db.clearStatements();
+    QVERIFY(m_worker->dbCheckOpen());
+    QVERIFY(m_worker->dbCheckOpen());
+    QVERIFY(m_worker->dbLoadPeople());
     // The error of the failed attempts is not reported again.
-    const Trace trace = observe([this] {
-        QVERIFY(m_worker->dbCheckOpen());
-        QVERIFY(m_worker->dbCheckOpen());
-        QVERIFY(m_worker->dbLoadPeople());
-    });
-    QCOMPARE(trace.log, QStringList());
-    QCOMPARE(trace.statements.size(), 1);
+    QCOMPARE(m_log->lines().size(), 2);
+    QCOMPARE(m_db.statements().size(), 1);
 }
 
 void TestConnection::aLostConnectionFailsUntilItIsClosed()
@@ -153,12 +154,12 @@ void TestConnection::aLostConnectionFailsUntilItIsClosed()
     QCOMPARE(lost.statements, QStringList());
     QCOMPARE(lost.log,
              QStringList({
-                 "C MHRWorker::dbLoadPeople() - SQL ERROR [2006]: " + goneText(),
-                 "C MHRWorker::dbGetUidByPid() - SQL ERROR [2006]: " + goneText(),
-                 "C MHRWorker::dbCheckPerson() - SQL ERROR [2006]: " + goneText(),
-                 "C MHRWorker::dbAddPerson(1234.2) - SQL ERROR: " + goneText(),
-                 "C MHRWorker::dbUpdatePerson(1234.2) - SQL ERROR: " + goneText(),
-                 "C TepDbSettings::variableGetMultiple - SQL ERROR: " + goneText(),
+                 "C MHRWorker::dbLoadPeople() - SQL ERROR " + SqlErrors::gone(),
+                 "C MHRWorker::dbGetUidByPid() - SQL ERROR " + SqlErrors::gone(),
+                 "C MHRWorker::dbCheckPerson() - SQL ERROR " + SqlErrors::gone(),
+                 "C MHRWorker::dbAddPerson(1234.2) - SQL ERROR: " + SqlErrors::goneText(),
+                 "C MHRWorker::dbUpdatePerson(1234.2) - SQL ERROR: " + SqlErrors::goneText(),
+                 "C TepDbSettings::variableGetMultiple - SQL ERROR: " + SqlErrors::goneText(),
                  "W MHRWorker::addTermSyncPerson(1) - uid NOT selected from DB!",
              }));
 
@@ -173,10 +174,10 @@ void TestConnection::aLostConnectionFailsUntilItIsClosed()
 
 void TestConnection::aClosedConnectionFailsEveryOperation()
 {
-    // A statement on a closed connection fails without leaving an error: only its result tells.
+    // A statement on a closed connection fails without leaving an error: only the result shows it.
     const MirovaRonRecord record = fullRecord();
-    m_worker->dbClose();
     Trace trace = observe([this, &record] {
+        m_worker->dbClose();
         QVERIFY(!m_worker->dbLoadPeople());
         QCOMPARE(m_worker->dbGetUidByPid(1), 0U);
         QVERIFY(!m_worker->dbCheckPerson(record));

@@ -1,4 +1,6 @@
-#include "tests/worker/operations/workertest.h"
+#include "tests/worker/operations/samplerecord.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QThread>
 #include <QtTest>
@@ -9,6 +11,11 @@
 /// the program, so every test has persons of its own.
 class TestFindPeople : public WorkerTest {
     Q_OBJECT
+public:
+    TestFindPeople()
+        : WorkerTest(Tables::Empty)
+    {
+    }
 
 private Q_SLOTS:
     void aUidIsOneStatement_data();
@@ -43,13 +50,13 @@ void TestFindPeople::aUidIsOneStatement_data()
 
 void TestFindPeople::aUidIsOneStatement()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson(41, 11);
     insertPerson(42, 111);
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QCOMPARE(m_worker->dbGetUidByPid(111), 42U); });
     QCOMPARE(trace.statements, QStringList("SELECT uid FROM people WHERE pid = 111 LIMIT 1"));
-    QCOMPARE(trace.log, linesAt(level, {{2, "D MHRWorker::dbGetUidByPid(111)"}}));
+    QCOMPARE(trace.log, linesAt(debugLevel, {{2, "D MHRWorker::dbGetUidByPid(111)"}}));
 }
 
 void TestFindPeople::anUnknownPidHasUid0()
@@ -67,17 +74,16 @@ void TestFindPeople::aFailedLookUpGivesUid0_data()
 
 void TestFindPeople::aFailedLookUpGivesUid0()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson(42, 111);
     m_db.hideTable("people");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QCOMPARE(m_worker->dbGetUidByPid(111), 0U); });
-    QCOMPARE(trace.log,
-             linesAt(level,
-                     {{2, "D MHRWorker::dbGetUidByPid(111)"},
-                      {0,
-                       "C MHRWorker::dbGetUidByPid() - SQL ERROR [" + missingCode()
-                           + "]: " + missingText("people")}}));
+    QCOMPARE(
+        trace.log,
+        linesAt(debugLevel,
+                {{2, "D MHRWorker::dbGetUidByPid(111)"},
+                 {0, "C MHRWorker::dbGetUidByPid() - SQL ERROR " + SqlErrors::missing("people")}}));
 }
 
 void TestFindPeople::aKnownUidIsLookedUpOnce()
@@ -166,19 +172,19 @@ void TestFindPeople::aPersonIsFoundByItsPid_data()
 
 void TestFindPeople::aPersonIsFoundByItsPid()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson(42, 12342);
     m_db.run("UPDATE people SET status = 0, pamId = '9.9'");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     MirovaRonRecord record = fullRecord();
     Trace trace = observe([this, &record] { QVERIFY(m_worker->dbCheckPerson(record)); });
     QCOMPARE(trace.statements, QStringList("SELECT COUNT(*) FROM people WHERE pid = 12342"));
-    QCOMPARE(trace.log, linesAt(level, {{2, "D MHRWorker::dbCheckPerson(1234.2)"}}));
+    QCOMPARE(trace.log, linesAt(debugLevel, {{2, "D MHRWorker::dbCheckPerson(1234.2)"}}));
 
     record.poradoveCisloPP = 3;
     trace = observe([this, &record] { QVERIFY(!m_worker->dbCheckPerson(record)); });
     QCOMPARE(trace.statements, QStringList("SELECT COUNT(*) FROM people WHERE pid = 12343"));
-    QCOMPARE(trace.log, linesAt(level, {{2, "D MHRWorker::dbCheckPerson(1234.3)"}}));
+    QCOMPARE(trace.log, linesAt(debugLevel, {{2, "D MHRWorker::dbCheckPerson(1234.3)"}}));
 }
 
 void TestFindPeople::aFailedCheckFindsNobody_data()
@@ -188,17 +194,16 @@ void TestFindPeople::aFailedCheckFindsNobody_data()
 
 void TestFindPeople::aFailedCheckFindsNobody()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson(42, 12342);
     m_db.hideTable("people");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(!m_worker->dbCheckPerson(fullRecord())); });
-    QCOMPARE(trace.log,
-             linesAt(level,
-                     {{2, "D MHRWorker::dbCheckPerson(1234.2)"},
-                      {0,
-                       "C MHRWorker::dbCheckPerson() - SQL ERROR [" + missingCode()
-                           + "]: " + missingText("people")}}));
+    QCOMPARE(
+        trace.log,
+        linesAt(debugLevel,
+                {{2, "D MHRWorker::dbCheckPerson(1234.2)"},
+                 {0, "C MHRWorker::dbCheckPerson() - SQL ERROR " + SqlErrors::missing("people")}}));
 }
 
 QTEST_GUILESS_MAIN(TestFindPeople)

@@ -1,4 +1,6 @@
-#include "tests/worker/operations/workertest.h"
+#include "tests/worker/operations/samplerecord.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QtTest>
 
@@ -16,6 +18,13 @@ const QString kSelectPeople =
 /// person when there is none.
 class TestLoadPeople : public WorkerTest {
     Q_OBJECT
+public:
+    TestLoadPeople()
+        : WorkerTest(Tables::Empty)
+    {
+    }
+
+    static void initMain() { settleInSlovakia(); }
 
 private Q_SLOTS:
     void loadingIsOneStatement_data();
@@ -118,12 +127,12 @@ void TestLoadPeople::loadingIsOneStatement_data()
 
 void TestLoadPeople::loadingIsOneStatement()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson(42, "1234.2");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { load(); });
     QCOMPARE(trace.statements, QStringList(kSelectPeople));
-    QCOMPARE(trace.log, linesAt(level, {{2, "D MHRWorker::dbLoadPeople()"}}));
+    QCOMPARE(trace.log, linesAt(debugLevel, {{2, "D MHRWorker::dbLoadPeople()"}}));
 }
 
 void TestLoadPeople::anEmptyTableLoads()
@@ -139,18 +148,18 @@ void TestLoadPeople::aFailureKeepsThePeopleOfBefore_data()
 
 void TestLoadPeople::aFailureKeepsThePeopleOfBefore()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson(42, "1234.2");
     load();
     m_db.hideTable("branches");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(!m_worker->dbLoadPeople()); });
-    QCOMPARE(trace.log,
-             linesAt(level,
-                     {{2, "D MHRWorker::dbLoadPeople()"},
-                      {0,
-                       "C MHRWorker::dbLoadPeople() - SQL ERROR [" + missingCode()
-                           + "]: " + missingText("branches")}}));
+    QCOMPARE(
+        trace.log,
+        linesAt(
+            debugLevel,
+            {{2, "D MHRWorker::dbLoadPeople()"},
+             {0, "C MHRWorker::dbLoadPeople() - SQL ERROR " + SqlErrors::missing("branches")}}));
     m_db.restoreTable("branches");
     QVERIFY(isKnown(fullRecord()));
 }

@@ -1,4 +1,5 @@
-#include "tests/worker/operations/workertest.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QtTest>
 
@@ -25,6 +26,11 @@ QString setStatement(const QString &key, const QString &value)
 /// The payroll export: which persons it selects, and the settings that a person is bound to.
 class TestPayroll : public WorkerTest {
     Q_OBJECT
+public:
+    TestPayroll()
+        : WorkerTest(Tables::Empty)
+    {
+    }
 
 private Q_SLOTS:
     void aPersonIsAppendedToTheSelection_data();
@@ -163,15 +169,15 @@ void TestPayroll::selectingIsLoggedFromDebugLevel2On_data()
 
 void TestPayroll::selectingIsLoggedFromDebugLevel2On()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     setVariable("exportPam.3.active", "1");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] {
         QVERIFY(m_worker->addPersonIntoPam(12342));
         QVERIFY(!m_worker->addPersonIntoPam(0));
     });
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{2, "D MHRWorker::addPersonIntoPam(12342)"},
                       {2, "D MHRWorker::addPersonIntoPam(0)"}}));
 }
@@ -255,9 +261,9 @@ void TestPayroll::aFailureToReadTheExportsSelectsNobody()
     m_db.hideTable("vars");
     const Trace trace = observe([this] { QVERIFY(!m_worker->addPersonIntoPam(12342)); });
     QCOMPARE(trace.statements, QStringList(kFindExport));
-    QCOMPARE(
-        trace.log,
-        QStringList("C TepDbSettings::variableGetMultiple - SQL ERROR: " + missingText("vars")));
+    QCOMPARE(trace.log,
+             QStringList("C TepDbSettings::variableGetMultiple - SQL ERROR: "
+                         + SqlErrors::missingText("vars")));
 }
 
 void TestPayroll::aFailureToWriteTheSelectionIsReported()
@@ -281,17 +287,17 @@ void TestPayroll::aPersonIsBoundToPayrollSettings_data()
 
 void TestPayroll::aPersonIsBoundToPayrollSettings()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson();
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(m_worker->dbAddPersonIntoPam(12342, 2)); });
     QCOMPARE(trace.statements,
              QStringList({"SELECT uid FROM people WHERE pid=12342",
                           "INSERT INTO people_pam (uid, id) VALUES(42, 2) ON DUPLICATE KEY UPDATE "
                           "id=VALUES(id)"}));
-    QCOMPARE(
-        trace.log,
-        linesAt(level, {{1, "D MHRWorker::dbAddPersonIntoPam(pid: 12342, pamSettingsID: 2)"}}));
+    QCOMPARE(trace.log,
+             linesAt(debugLevel,
+                     {{1, "D MHRWorker::dbAddPersonIntoPam(pid: 12342, pamSettingsID: 2)"}}));
     QCOMPARE(m_db.dump("people_pam"), QString("uid=42 id=2"));
 }
 
@@ -334,11 +340,11 @@ void TestPayroll::anUnknownPersonIsNotBound_data()
 
 void TestPayroll::anUnknownPersonIsNotBound()
 {
-    QFETCH(int, level);
-    setDebugLevel(level);
+    QFETCH(int, debugLevel);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(!m_worker->dbAddPersonIntoPam(12342, 2)); });
     QCOMPARE(trace.statements, QStringList("SELECT uid FROM people WHERE pid=12342"));
-    QCOMPARE(trace.log, linesAt(level, notFoundLines()));
+    QCOMPARE(trace.log, linesAt(debugLevel, notFoundLines()));
 }
 
 void TestPayroll::aPersonOfUid0IsNotBound()
@@ -358,13 +364,13 @@ void TestPayroll::aFailedLookUpBindsNobody_data()
 
 void TestPayroll::aFailedLookUpBindsNobody()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson();
     m_db.hideTable("people");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(!m_worker->dbAddPersonIntoPam(12342, 2)); });
     QCOMPARE(trace.statements, QStringList("SELECT uid FROM people WHERE pid=12342"));
-    QCOMPARE(trace.log, linesAt(level, notFoundLines()));
+    QCOMPARE(trace.log, linesAt(debugLevel, notFoundLines()));
 }
 
 void TestPayroll::aFailureToBindIsCritical_data()
@@ -374,18 +380,18 @@ void TestPayroll::aFailureToBindIsCritical_data()
 
 void TestPayroll::aFailureToBindIsCritical()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson();
     m_db.refuse("INSERT", "people_pam");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(!m_worker->dbAddPersonIntoPam(12342, 2)); });
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{1, "D MHRWorker::dbAddPersonIntoPam(pid: 12342, pamSettingsID: 2)"},
                       {0,
                        "C MHRWorker::dbAddPersonIntoPam(pid: 12342, pamSettingsID: 2) - SQL "
                        "ERROR: "
-                           + refusedText()}}));
+                           + SqlErrors::refusedText()}}));
     QCOMPARE(m_db.dump("people_pam"), QString());
 }
 
@@ -396,14 +402,14 @@ void TestPayroll::testModeBindsNobody_data()
 
 void TestPayroll::testModeBindsNobody()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson();
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     m_worker->setTestMode(true);
     const Trace trace = observe([this] { QVERIFY(m_worker->dbAddPersonIntoPam(12342, 2)); });
     QCOMPARE(trace.statements, QStringList());
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{1, "D MHRWorker::dbAddPersonIntoPam(pid: 12342, pamSettingsID: 2)"},
                       {1,
                        "W MHRWorker::dbAddPersonIntoPam(pid: 12342, pamSettingsID: 2) - "

@@ -1,4 +1,5 @@
-#include "tests/worker/operations/workertest.h"
+#include "tests/worker/operations/workerconnection.h"
+#include "tests/worker/support/workertest.h"
 #include "worker/peoplecache.h"
 
 #include <QSqlQuery>
@@ -9,6 +10,11 @@
 /// Whom the cache finds, whoever was expected.
 class TestPeopleCache : public WorkerTest {
     Q_OBJECT
+public:
+    TestPeopleCache()
+        : WorkerTest(Tables::Empty)
+    {
+    }
 
 private Q_SLOTS:
     void init();
@@ -40,7 +46,7 @@ private:
 void TestPeopleCache::init()
 {
     m_people.clear();
-    setUp();
+    WorkerTest::init();
     m_db.run("INSERT INTO people (uid, pid, pamId, surname, status) VALUES"
              " (1, 11, '100.1', 'Anna', 1), (2, 12, '200.1', 'Eva before', 1),"
              " (3, 13, '300.1', 'Jana', 1), (4, 14, '200.1', 'Eva', 1)");
@@ -58,7 +64,7 @@ void TestPeopleCache::addExpectations()
 
 void TestPeopleCache::load(const Pids &expected)
 {
-    QSqlQuery query(connection());
+    QSqlQuery query(workerConnection());
     QVERIFY(query.exec(PeopleCache::kSelect));
     m_people.load(query, expected);
 }

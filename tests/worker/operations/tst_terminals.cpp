@@ -1,4 +1,6 @@
-#include "tests/worker/operations/workertest.h"
+#include "tests/worker/operations/workerconnection.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QtTest>
 
@@ -22,6 +24,11 @@ QString queueStatement(const QString &type, const QString &ref)
 /// Queueing a person for the terminals.
 class TestTerminals : public WorkerTest {
     Q_OBJECT
+public:
+    TestTerminals()
+        : WorkerTest(Tables::Empty)
+    {
+    }
 
 private Q_SLOTS:
     void init();
@@ -55,7 +62,7 @@ private:
 
 void TestTerminals::init()
 {
-    setUp();
+    WorkerTest::init();
     m_db.run("INSERT INTO people (uid, pid) VALUES (41, 1111), (42, 12342)");
     m_db.run("INSERT INTO term (tid, status, flags, syn) VALUES (1, 1, 2, 0), (2, 1, 259, 1), "
              "(3, 0, 2, 0), (4, 2, 2, 0), (5, 1, 65, 0), (6, 1, 2, 0)");
@@ -103,10 +110,10 @@ void TestTerminals::queueingIsLoggedFromDebugLevel2On_data()
 
 void TestTerminals::queueingIsLoggedFromDebugLevel2On()
 {
-    QFETCH(int, level);
-    setDebugLevel(level);
+    QFETCH(int, debugLevel);
+    setDebugLevel(debugLevel);
     QCOMPARE(queue('I', "people_term").log,
-             linesAt(level, {{2, "D MHRWorker::addTermSyncPerson(12342, I, people_term)"}}));
+             linesAt(debugLevel, {{2, "D MHRWorker::addTermSyncPerson(12342, I, people_term)"}}));
 }
 
 void TestTerminals::theProcedureIsCalledForAPersonWithoutTerminals()
@@ -132,13 +139,13 @@ void TestTerminals::anUnknownPersonIsWarnedOf_data()
 
 void TestTerminals::anUnknownPersonIsWarnedOf()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     m_db.run("DELETE FROM people WHERE uid = 42");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = queue();
     QCOMPARE(trace.statements, QStringList(kSelectUid));
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{2, "D MHRWorker::addTermSyncPerson(12342, U, people)"},
                       {0, "W MHRWorker::addTermSyncPerson(12342) - uid NOT selected from DB!"}}));
 }
@@ -168,15 +175,15 @@ void TestTerminals::aFailureToQueueIsCriticalAndEndsIt_data()
 
 void TestTerminals::aFailureToQueueIsCriticalAndEndsIt()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     m_db.refuse("INSERT", "term_sync");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = queue();
     QCOMPARE(trace.statements, QStringList({kSelectUid, queueStatement("U", "people")}));
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{2, "D MHRWorker::addTermSyncPerson(12342, U, people)"},
-                      {0, "C MHRWorker::addTermSyncPerson() ERROR: " + refusedText()}}));
+                      {0, "C MHRWorker::addTermSyncPerson() ERROR: " + SqlErrors::refusedText()}}));
 }
 
 void TestTerminals::aQuoteInTheTableNameFails()
@@ -196,13 +203,13 @@ void TestTerminals::aFailedCallIsCriticalAndLeavesTheQueue_data()
 
 void TestTerminals::aFailedCallIsCriticalAndLeavesTheQueue()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     m_db.run("DROP PROCEDURE updateTermsSync");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = queue();
     QCOMPARE(trace.statements, QStringList({kSelectUid, queueStatement("U", "people"), kCall}));
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{2, "D MHRWorker::addTermSyncPerson(12342, U, people)"},
                       {0,
                        "C MHRWorker::addTermSyncPerson() - updateTermsSync() ERROR: "
@@ -216,7 +223,7 @@ void TestTerminals::aFailureInsideTheProcedureIsCritical()
     m_db.refuse("UPDATE", "term");
     QCOMPARE(queue().log,
              QStringList("C MHRWorker::addTermSyncPerson() - updateTermsSync() ERROR: "
-                         + refusedText()));
+                         + SqlErrors::refusedText()));
     QCOMPARE(m_db.rows("SELECT tid FROM term_sync"), TableRows({{"1"}, {"2"}}));
 }
 
@@ -240,7 +247,7 @@ void TestTerminals::aCallLeavesTheConnectionUsable()
     QCOMPARE(queue().log, QStringList());
     const Trace next = observe([this] { QCOMPARE(m_worker->dbGetUidByPid(12342), 42U); });
     QCOMPARE(next.log, QStringList());
-    QSqlDatabase db = connection();
+    QSqlDatabase db = workerConnection();
     QVERIFY(db.transaction());
     QVERIFY(db.rollback());
 }

@@ -1,4 +1,7 @@
-#include "tests/worker/operations/workertest.h"
+#include "tests/worker/operations/samplerecord.h"
+#include "tests/worker/operations/workerconnection.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QtTest>
 
@@ -42,6 +45,13 @@ const QString kSyntaxError = "You have an error in your SQL syntax;";
 /// Adding and updating persons.
 class TestWritePeople : public WorkerTest {
     Q_OBJECT
+public:
+    TestWritePeople()
+        : WorkerTest(Tables::Empty)
+    {
+    }
+
+    static void initMain() { settleInSlovakia(); }
 
 private Q_SLOTS:
     void init();
@@ -97,7 +107,7 @@ private:
 
 void TestWritePeople::init()
 {
-    setUp();
+    WorkerTest::init();
     m_db.run("INSERT INTO branches (bid, number) VALUES (5, 120)");
     QVERIFY(m_worker->dbLoadBranches());
 }
@@ -138,12 +148,12 @@ void TestWritePeople::aNewPersonLogsItsSteps_data()
 
 void TestWritePeople::aNewPersonLogsItsSteps()
 {
-    QFETCH(int, level);
-    setDebugLevel(level);
+    QFETCH(int, debugLevel);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(m_worker->dbAddPerson(fullRecord())); });
     // There is no payroll export to put the person into.
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{1, "D MHRWorker::dbAddPerson(1234.2)"},
                       {2, "D MHRWorker::addPersonIntoPam(12342)"},
                       {0, "W MHRWorker::dbAddPerson(1234.2) - addPersonIntoPam() FAILED!"}}));
@@ -285,14 +295,14 @@ void TestWritePeople::aQuoteInANameFails_data()
 
 void TestWritePeople::aQuoteInANameFails()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     MirovaRonRecord record = fullRecord();
     record.jmeno = "D'Arc";
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this, &record] { QVERIFY(!m_worker->dbAddPerson(record)); });
     QCOMPARE(trace.statements,
              QStringList(insertStatement(QString(kFullValues).replace("Jana", "D'Arc"))));
-    QCOMPARE(trace.log.size(), level == 0 ? 1 : 2);
+    QCOMPARE(trace.log.size(), debugLevel == 0 ? 1 : 2);
     QVERIFY2(trace.log.last().startsWith("C MHRWorker::dbAddPerson(1234.2) - SQL ERROR: "
                                          + kSyntaxError),
              qPrintable(trace.log.last()));
@@ -306,15 +316,17 @@ void TestWritePeople::aFailureToAddIsCritical_data()
 
 void TestWritePeople::aFailureToAddIsCritical()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     m_db.refuse("INSERT", "people");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(!m_worker->dbAddPerson(fullRecord())); });
     QCOMPARE(trace.statements, QStringList(insertStatement(kFullValues)));
-    QCOMPARE(trace.log,
-             linesAt(level,
-                     {{1, "D MHRWorker::dbAddPerson(1234.2)"},
-                      {0, "C MHRWorker::dbAddPerson(1234.2) - SQL ERROR: " + refusedText()}}));
+    QCOMPARE(
+        trace.log,
+        linesAt(
+            debugLevel,
+            {{1, "D MHRWorker::dbAddPerson(1234.2)"},
+             {0, "C MHRWorker::dbAddPerson(1234.2) - SQL ERROR: " + SqlErrors::refusedText()}}));
 }
 
 // The values are filled in one after the other, each into the lowest placeholder that the text
@@ -392,13 +404,13 @@ void TestWritePeople::testModeAddsNobody_data()
 
 void TestWritePeople::testModeAddsNobody()
 {
-    QFETCH(int, level);
-    setDebugLevel(level);
+    QFETCH(int, debugLevel);
+    setDebugLevel(debugLevel);
     m_worker->setTestMode(true);
     const Trace trace = observe([this] { QVERIFY(m_worker->dbAddPerson(fullRecord())); });
     QCOMPARE(trace.statements, QStringList());
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{1, "D MHRWorker::dbAddPerson(1234.2)"},
                       {1,
                        "W MHRWorker::dbAddPerson(1234.2) - Testing mode is active, "
@@ -433,12 +445,12 @@ void TestWritePeople::anUpdateLogsItsSteps_data()
 
 void TestWritePeople::anUpdateLogsItsSteps()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson();
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace = observe([this] { QVERIFY(m_worker->dbUpdatePerson(fullRecord(), false)); });
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{1, "D MHRWorker::dbUpdatePerson(1234.2)"},
                       {2, "D MHRWorker::addTermSyncPerson(12342, U, people)"}}));
 }
@@ -585,17 +597,19 @@ void TestWritePeople::aFailureToUpdateIsCritical_data()
 
 void TestWritePeople::aFailureToUpdateIsCritical()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson();
     m_db.refuse("UPDATE", "people");
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     const Trace trace =
         observe([this] { QVERIFY(!m_worker->dbUpdatePerson(fullRecord(), false)); });
     QCOMPARE(trace.statements, QStringList(kFullUpdate));
-    QCOMPARE(trace.log,
-             linesAt(level,
-                     {{1, "D MHRWorker::dbUpdatePerson(1234.2)"},
-                      {0, "C MHRWorker::dbUpdatePerson(1234.2) - SQL ERROR: " + refusedText()}}));
+    QCOMPARE(
+        trace.log,
+        linesAt(
+            debugLevel,
+            {{1, "D MHRWorker::dbUpdatePerson(1234.2)"},
+             {0, "C MHRWorker::dbUpdatePerson(1234.2) - SQL ERROR: " + SqlErrors::refusedText()}}));
 }
 
 void TestWritePeople::aQuoteInAnUpdateFails()
@@ -638,15 +652,15 @@ void TestWritePeople::testModeUpdatesNobody_data()
 
 void TestWritePeople::testModeUpdatesNobody()
 {
-    QFETCH(int, level);
+    QFETCH(int, debugLevel);
     insertPerson();
     const QString row = personRow();
-    setDebugLevel(level);
+    setDebugLevel(debugLevel);
     m_worker->setTestMode(true);
     const Trace trace = observe([this] { QVERIFY(m_worker->dbUpdatePerson(fullRecord(), true)); });
     QCOMPARE(trace.statements, QStringList());
     QCOMPARE(trace.log,
-             linesAt(level,
+             linesAt(debugLevel,
                      {{1, "D MHRWorker::dbUpdatePerson(1234.2)"},
                       {1,
                        "W MHRWorker::dbUpdatePerson(1234.2) - Testing mode is active, "

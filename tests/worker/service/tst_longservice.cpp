@@ -6,7 +6,7 @@
 #include "tests/support/testdatabase.h"
 #include "tests/worker/service/environmentnumber.h"
 #include "tests/worker/service/resources.h"
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QPluginLoader>
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "tests/worker/tick/commandgate.h"
+#include "tests/worker/support/commandgate.h"
 
 #include "tests/support/patience.h"
 

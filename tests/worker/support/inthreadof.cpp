@@ -1,4 +1,4 @@
-#include "tests/worker/tick/inthreadof.h"
+#include "tests/worker/support/inthreadof.h"
 
 #include "tests/support/patience.h"
 

@@ -1,4 +1,4 @@
-#include "tests/worker/tick/loghook.h"
+#include "tests/worker/support/loghook.h"
 
 #include <mutex>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "tests/worker/synchronisation/middayzone.h"
+#include "tests/worker/support/middayzone.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -17,6 +17,13 @@ int middayOffset(const QDateTime &utc)
     return hour < 12 ? -3 - hour : 25 - hour;
 }
 
+void settle(const QByteArray &zone, const QByteArray &locale)
+{
+    qputenv("TZ", zone);
+    qputenv("LC_ALL", locale);
+    tzset();
+}
+
 } // namespace
 
 QByteArray middayZone()
@@ -24,6 +31,16 @@ QByteArray middayZone()
     // The sign of `TZ` counts hours west. Daylight saving time adds an hour.
     const int west = -middayOffset(QDateTime::currentDateTimeUtc());
     return "STD" + QByteArray::number(west) + "DST,M3.5.0,M10.5.0/3";
+}
+
+void settleProgram()
+{
+    settle(middayZone(), "C.UTF-8");
+}
+
+void settleInSlovakia()
+{
+    settle("Europe/Bratislava", "sk_SK.UTF-8");
 }
 
 qint64 localMidnight(const QDate &date)

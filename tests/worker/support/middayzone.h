@@ -10,6 +10,11 @@
 /// nor the turn of a month pass, and a day of the current month lies behind it.
 QByteArray middayZone();
 
+/// Puts the program into that zone and the C locale. Before anything of Qt is used.
+void settleProgram();
+/// Puts the program into the zone and the locale of Slovakia. Before anything of Qt is used.
+void settleInSlovakia();
+
 /// Unix seconds of a date's midnight in the local zone, as the C library counts them.
 qint64 localMidnight(const QDate &date);
 

@@ -1,4 +1,4 @@
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/worker/synchronisation/statechanges.h"
+#include "tests/worker/support/statechanges.h"
 
 #include <QDateTime>
 

@@ -1,44 +1,83 @@
-#include "tests/worker/operations/workertest.h"
+#include "tests/worker/support/workertest.h"
 
-#include "tests/support/verifysql.h"
-
+#include <QSqlDatabase>
 #include <QtTest>
-
-#include <ctime>
 
 namespace {
 
-const QString kHostConnection = "host";
-const QString kWorkerConnection = "YAV.tepdb.MirovaHR";
+constexpr uint kSamplePids[] = {10011, 10021, 10031, 12341, 12351, 12361, 12371, 20012};
 
 } // namespace
 
-void WorkerTest::initMain()
-{
-    qputenv("TZ", "Europe/Bratislava");
-    qputenv("LC_ALL", "sk_SK.UTF-8");
-    tzset();
-}
-
 void WorkerTest::initTestCase()
 {
-    QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
+    // What was committed survives killServer().
+    QVERIFY2(m_db.start({"--innodb-flush-log-at-trx-commit=2"}), qPrintable(m_db.errorString()));
+    if (m_tables == Tables::Sample)
+        learnUids();
 }
 
-void WorkerTest::setUp()
+/// The uids of the sample are the same in every test, so that none of them depends on which ran
+/// before it.
+void WorkerTest::learnUids()
 {
-    m_db.resetEmpty();
-    m_worker = std::make_unique<MHRWorker>();
-    m_worker->setTepDb(m_db.pluginConnection(kHostConnection));
-    m_worker->init();
-    QVERIFY(m_worker->dbCheckOpen());
+    WorkerTest::init();
+    for (const uint pid : kSamplePids)
+        m_worker->getUidByPid(pid);
+    WorkerTest::cleanup();
+}
+
+void WorkerTest::init()
+{
+    if (m_tables == Tables::Empty)
+        m_db.resetEmpty();
+    else
+        m_db.reset();
+    m_log = std::make_unique<LogCapture>();
+    m_export = std::make_unique<ExportFile>();
+    newWorker();
 }
 
 void WorkerTest::cleanup()
 {
+    dropWorker();
+    m_export.reset();
+    m_log.reset();
+}
+
+void WorkerTest::dropWorker()
+{
     m_worker.reset();
-    QSqlDatabase::removeDatabase(kWorkerConnection);
-    QSqlDatabase::removeDatabase(kHostConnection);
+    QSqlDatabase::removeDatabase(QStringLiteral("YAV.tepdb.MirovaHR"));
+}
+
+MHRWorker &WorkerTest::makeWorker(int debugLevel)
+{
+    dropWorker();
+    m_worker = std::make_unique<MHRWorker>();
+    setDebugLevel(debugLevel);
+    m_worker->setImportFile(m_export->path());
+    m_worker->setTepDb(m_db.pluginConnection());
+    return *m_worker;
+}
+
+MHRWorker &WorkerTest::startWorker(int debugLevel)
+{
+    makeWorker(debugLevel);
+    m_worker->setDeleteFileAfterImport(true);
+    m_worker->start();
+    m_log->clear();
+    return *m_worker;
+}
+
+MHRWorker &WorkerTest::newWorker(int debugLevel)
+{
+    makeWorker(debugLevel);
+    m_worker->setSyncInterval(1);
+    m_worker->init();
+    m_worker->dbCheckOpen();
+    m_log->clear();
+    return *m_worker;
 }
 
 void WorkerTest::setDebugLevel(int level)
@@ -46,47 +85,57 @@ void WorkerTest::setDebugLevel(int level)
     m_worker->setDebugLevel(static_cast<unsigned char>(level));
 }
 
-Trace WorkerTest::observe(const std::function<void()> &work) const
-{
-    m_db.clearStatements();
-    QStringList lines;
-    {
-        const LogCapture log;
-        work();
-        lines = log.lines();
-    }
-    return {lines, m_db.statements()};
-}
-
-QSqlDatabase WorkerTest::connection()
-{
-    return QSqlDatabase::database(kWorkerConnection, false);
-}
-
-void WorkerTest::freezeTime()
-{
-    QSqlQuery query(connection());
-    VERIFY_SQL(query, query.exec(QString("SET timestamp = %1").arg(kFrozenTime)));
-}
-
 void WorkerTest::addDebugLevels()
 {
-    QTest::addColumn<int>("level");
+    QTest::addColumn<int>("debugLevel");
     for (int level = 0; level <= 4; ++level)
         QTest::addRow("debug level %d", level) << level;
 }
 
-QString WorkerTest::missingText(const QString &table)
+Trace WorkerTest::observe(const std::function<void()> &work)
 {
-    return "Table 'tepdb." + table + "' doesn't exist QMYSQL: Unable to execute query";
+    m_worker->dbCheckOpen();
+    m_log->clear();
+    m_db.clearStatements();
+    work();
+    return {m_log->lines(), m_db.statements()};
 }
 
-QString WorkerTest::refusedText()
+QStringList WorkerTest::tick()
 {
-    return "refused by the test QMYSQL: Unable to execute query";
+    m_log->clear();
+    m_worker->checkSync();
+    return m_log->lines();
 }
 
-QString WorkerTest::goneText()
+void WorkerTest::tick(int times)
 {
-    return "Server has gone away QMYSQL: Unable to execute query";
+    for (int i = 0; i < times; ++i)
+        m_worker->checkSync();
+}
+
+Trace WorkerTest::synchronise()
+{
+    return observe([this] { m_worker->checkSync(); });
+}
+
+Trace WorkerTest::synchronise(const QVector<ExportRow> &lines)
+{
+    m_export->write(lines);
+    return synchronise();
+}
+
+void WorkerTest::force(const QString &value)
+{
+    m_db.run("REPLACE INTO vars (name, value) VALUES ('YAV.MHRWorker.forceSync', '" + value + "')");
+}
+
+QString WorkerTest::forceFlag()
+{
+    return m_db.value("SELECT value FROM vars WHERE name = 'YAV.MHRWorker.forceSync'").toString();
+}
+
+int WorkerTest::uidOf(uint pid)
+{
+    return m_db.value(QStringLiteral("SELECT uid FROM people WHERE pid = %1").arg(pid)).toInt();
 }

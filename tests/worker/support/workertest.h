@@ -1,61 +1,87 @@
 #pragma once
 
+#include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
 #include "tests/support/trace.h"
-#include "tests/worker/operations/samplerecord.h"
+#include "tests/worker/support/middayzone.h"
 #include "worker/mhrworker.h"
 
 #include <QObject>
-#include <QSqlDatabase>
 #include <QStringList>
+#include <QVector>
 
 #include <functional>
 #include <memory>
 
-/// What the test programs of the worker's database operations share: a server of their own with
-/// empty tables for every test function, and a worker with its connection open. The worker lives in
-/// the test's thread and does only what it is told to.
+/// What the test programs of the worker share: a server of their own, an export file, the captured
+/// log, and a worker. The worker lives in the test's thread, where no event loop runs: it ticks
+/// only by tick() and synchronise().
 class WorkerTest : public QObject {
     Q_OBJECT
 public:
-    /// Dates are those of Bratislava, in the log as in Slovakia.
-    static void initMain();
+    /// What a test function finds in the database.
+    enum class Tables { Sample, Empty };
+
+    explicit WorkerTest(Tables tables = Tables::Sample)
+        : m_tables(tables)
+    {
+    }
+
+    /// QtTest calls it before anything of Qt is used.
+    static void initMain() { settleProgram(); }
 
 protected:
-    static constexpr qint64 kFrozenTime = 1700000000;
+    // Each of the first three replaces an earlier worker and its connection.
 
-    /// Empty tables and a new worker. A test program that needs more before each test function has
-    /// an init() of its own, which begins with this.
-    void setUp();
+    /// A worker that knows its database and its export, and is not set up.
+    MHRWorker &makeWorker(int debugLevel = 2);
+    /// As above, started as the plugin starts it. It removes the export. The log is empty then.
+    MHRWorker &startWorker(int debugLevel = 2);
+    /// A worker that is set up, with its connection open, and has no timer. It synchronises at
+    /// every tick. The log is empty then. init() makes one.
+    MHRWorker &newWorker(int debugLevel = 0);
+    void dropWorker();
 
     void setDebugLevel(int level);
-
-    /// Runs a piece of work.
-    Trace observe(const std::function<void()> &work) const;
-
-    /// The worker's own connection.
-    static QSqlDatabase connection();
-    /// From now on UNIX_TIMESTAMP() gives kFrozenTime to the worker.
-    void freezeTime();
-
-    /// Rows "debug level 0" to "debug level 4" with the column `level`.
+    /// Rows "debug level 0" to "debug level 4" with the column `debugLevel`.
     static void addDebugLevels();
 
-    /// How the log shows that a statement failed because a table is not there: the code, and the
-    /// text.
-    static QString missingCode() { return QStringLiteral("1146"); }
-    static QString missingText(const QString &table);
-    /// How the log shows that a statement failed because TestDatabase::refuse() refused it.
-    static QString refusedText();
-    /// How the log shows that the server is gone.
-    static QString goneText();
+    /// Runs a piece of work with the worker's connection open.
+    Trace observe(const std::function<void()> &work);
+    /// One tick; the lines that it logged.
+    QStringList tick();
+    void tick(int times);
+    /// One tick, with the worker's connection open beforehand and the export as it is.
+    Trace synchronise();
+    /// Writes the export first.
+    Trace synchronise(const QVector<ExportRow> &lines);
 
-    mutable TestDatabase m_db;
+    /// Sets the flag of the forced synchronisation in `vars`.
+    void force(const QString &value = QStringLiteral("1"));
+    QString forceFlag();
+
+    /// A personal number that no other test of the program uses: the uid of a person is looked up
+    /// only once in the life of a program.
+    int newPersonalNumber() { return m_nextPersonalNumber++; }
+    /// The uid of a person in the table; 0 when there is none.
+    int uidOf(uint pid);
+
+    TestDatabase m_db;
+    std::unique_ptr<LogCapture> m_log; ///< of one test function
+    std::unique_ptr<ExportFile> m_export; ///< of one test function, not yet written
     std::unique_ptr<MHRWorker> m_worker;
+
+protected Q_SLOTS:
+    void init();
+    void cleanup();
 
 private Q_SLOTS:
     void initTestCase();
-    void init() { setUp(); }
-    void cleanup();
+
+private:
+    void learnUids();
+
+    const Tables m_tables;
+    int m_nextPersonalNumber = 5001;
 };

@@ -1,6 +1,6 @@
 #include "tests/worker/synchronisation/sent.h"
 
-#include "tests/worker/synchronisation/middayzone.h"
+#include "tests/worker/support/middayzone.h"
 
 namespace {
 

@@ -1,9 +1,10 @@
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/statechanges.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/statechanges.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 #include <QRegularExpression>
+#include <QtTest>
 
 using namespace SampleExport;
 
@@ -82,7 +83,7 @@ QString notThere(const QString &table)
 
 /// Exports and databases that are not as they should be: what gets through, what the log says, and
 /// that everything else is as if nothing had happened.
-class TestBadInput : public SyncTest {
+class TestBadInput : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void aQuoteInANameKeepsThatPersonOut();
@@ -148,7 +149,7 @@ void TestBadInput::aQuoteInTheNameOfAKnownPersonKeepsTheRowAsItWas()
 
 void TestBadInput::brokenLinesLeaveTheOthersAlone()
 {
-    m_export.write(QStringList{
+    m_export->write(QStringList{
         "",
         "not a line",
         jana().text() + "|", // 19 fields
@@ -359,7 +360,7 @@ void TestBadInput::aTableThatVanishesStopsNothing()
                                           .with(&ExportRow::kalendarPlatnostOd, QDate(2025, 3, 1))
                                           .with(&ExportRow::nadrizenyOsobniCislo, 1002),
                                       newcomer(number.toInt())};
-    m_export.write(lines);
+    m_export->write(lines);
     const Trace trace = observe([&] {
         m_worker->loadAndParseData();
         m_worker->dbLoadPeople();
@@ -379,7 +380,7 @@ void TestBadInput::aTableThatVanishesStopsNothing()
 
 void TestBadInput::aServerThatIsLostInTheMiddleStopsNothing()
 {
-    m_export.write({tomas(), peter().with(&ExportRow::telefon, "0905999999")});
+    m_export->write({tomas(), peter().with(&ExportRow::telefon, "0905999999")});
     m_worker->dbCheckOpen();
     const LogCapture log;
     m_worker->loadAndParseData();
@@ -409,7 +410,7 @@ void TestBadInput::aServerThatIsLostInTheMiddleStopsNothing()
 void TestBadInput::aServerThatIsAwayDropsTheTick()
 {
     synchronise({tomas()});
-    m_export.write({tomas().with(&ExportRow::telefon, "1")});
+    m_export->write({tomas().with(&ExportRow::telefon, "1")});
     m_db.stopServer();
     {
         const LogCapture log;
@@ -423,5 +424,5 @@ void TestBadInput::aServerThatIsAwayDropsTheTick()
     QCOMPARE(m_db.value("SELECT phone FROM people WHERE uid = 8").toString(), QString("1"));
 }
 
-SYNC_TEST_MAIN(TestBadInput)
+QTEST_GUILESS_MAIN(TestBadInput)
 #include "tst_badinput.moc"

@@ -1,8 +1,11 @@
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
+#include "tests/worker/synchronisation/refusecolumn.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 #include <QRegularExpression>
+#include <QtTest>
 
 using namespace SampleExport;
 
@@ -27,7 +30,7 @@ QString notWritten(const QString &value)
 } // namespace
 
 /// When the driver corrects a vacation balance, by how much, and when it tries again.
-class TestBalance : public SyncTest {
+class TestBalance : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void aChangedBalanceIsCorrectedAndRecalculated();
@@ -294,12 +297,14 @@ void TestBalance::aBalanceThatCannotBeLoadedIsReported()
 {
     QFETCH(int, debugLevel);
     newWorker(debugLevel);
-    refuseColumn("funds_move", "value", "type = 2");
+    refuseColumn(m_db, "funds_move", "value", "type = 2");
     const Trace trace = synchronise({jana().with(&ExportRow::dovolenaZustatek, "5")});
     QCOMPARE(trace.log.filter("loadFundStatusAndMove3"),
              linesAt(debugLevel,
                      {{2, "D MHRWorker::loadFundStatusAndMove3(pid: 12341)"},
-                      {0, "C MHRWorker::loadFundStatusAndMove3() - SQL 1 ERROR " + refusedColumn()},
+                      {0,
+                       "C MHRWorker::loadFundStatusAndMove3() - SQL 1 ERROR "
+                           + SqlErrors::refusedColumn()},
                       {1, "I MHRWorker::loadFundStatusAndMove3(pid: 12341): 0, load OK: NO"},
                       {0,
                        "W MHRWorker::doSyncRecord() - loadFundStatusAndMove3(): not loaded "
@@ -313,7 +318,7 @@ void TestBalance::aBalanceThatCannotBeLoadedAsksForNoRecalculation()
     synchronise({tomas()});
     m_db.run("INSERT INTO funds_move (type, day, month, value, fid, uid) "
              "VALUES (2, UNIX_TIMESTAMP('2025-01-01'), 202501, 100, 2, 8)");
-    refuseColumn("funds_move", "value");
+    refuseColumn(m_db, "funds_move", "value");
     const Trace trace = synchronise({tomasWith("5")});
     QCOMPARE(trace.log.size(), 2);
     QCOMPARE(trace.statements, Sent::begin() << Sent::fundChecks(20012, 8) << Sent::balance(20012));
@@ -332,12 +337,12 @@ void TestBalance::aCorrectionThatCannotBeWrittenIsReported()
                       {1, "I MHRWorker::loadFundStatusAndMove3(pid: 20012): 0, load OK: YES"},
                       {1, "D MHRWorker::writeFundMove3(uid: 8, value: 500)"},
                       {0,
-                       "C MHRWorker::writeFundMove3() - SQL ERROR " + refused()
+                       "C MHRWorker::writeFundMove3() - SQL ERROR " + SqlErrors::refused()
                            + "\n SQL: " + Sent::correction(8, 500)},
                       {0, notWritten("500")}}));
     // And nothing is recalculated.
     QCOMPARE(trace.statements.last(), Sent::correction(8, 500));
 }
 
-SYNC_TEST_MAIN(TestBalance)
+QTEST_GUILESS_MAIN(TestBalance)
 #include "tst_balance.moc"

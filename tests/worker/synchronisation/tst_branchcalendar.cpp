@@ -1,6 +1,7 @@
 #include "tests/support/localzone.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 namespace {
 
@@ -40,7 +41,7 @@ QString described(uint branch, uint calendar, const QString &since)
 } // namespace
 
 /// Branch, calendar group and recalculation: the operations one by one.
-class TestBranchCalendar : public SyncTest {
+class TestBranchCalendar : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void branchesAreLoaded_data() { addDebugLevels(); }
@@ -402,9 +403,9 @@ void TestBranchCalendar::aRecalculationThatFailsDoesNotUndoThePlan()
     bool placed = false;
     const Trace trace = place(jana(2, QDate(2024, 5, 6)), placed);
     QVERIFY(placed);
-    QCOMPARE(
-        trace.log,
-        QStringList("C MHRWorker::dbChangeLastCalc() [UPDATE atten] - SQL ERROR " + refused()));
+    QCOMPARE(trace.log,
+             QStringList("C MHRWorker::dbChangeLastCalc() [UPDATE atten] - SQL ERROR "
+                         + SqlErrors::refused()));
     QCOMPARE(m_db.value("SELECT gid FROM groups_plan WHERE uid = 4 AND since = 202405").toInt(),
              12);
 }
@@ -461,20 +462,23 @@ void TestBranchCalendar::aFailedLookupIsReported()
     if (operation == "membership") {
         m_db.hideTable("brape");
         trace = observe([&] { result = m_worker->dbCheckPersonInBranch(12341, 1) ? 1 : 0; });
-        lines = {{2, "D MHRWorker::dbCheckPersonInBranch(12341, 1)"},
-                 {0, "C MHRWorker::dbCheckPersonInBranch() - SQL ERROR " + missingTable("brape")}};
+        lines = {
+            {2, "D MHRWorker::dbCheckPersonInBranch(12341, 1)"},
+            {0, "C MHRWorker::dbCheckPersonInBranch() - SQL ERROR " + SqlErrors::missing("brape")}};
     } else if (operation == "group") {
         m_db.hideTable("mastergroups");
         trace = observe([&] { result = m_worker->dbGetGroupIdByCalendar(1, 3); });
-        lines = {
-            {2, "D MHRWorker::getGroupIdByCalendar(B: 1, C: 3)"},
-            {0, "C MHRWorker::getGroupIdByCalendar() - SQL ERROR " + missingTable("mastergroups")}};
+        lines = {{2, "D MHRWorker::getGroupIdByCalendar(B: 1, C: 3)"},
+                 {0,
+                  "C MHRWorker::getGroupIdByCalendar() - SQL ERROR "
+                      + SqlErrors::missing("mastergroups")}};
     } else {
         m_db.hideTable("groups_plan");
         trace = observe([&] { result = m_worker->dbCheckGroupsPlan(13, 4, 202301) ? 1 : 0; });
         lines = {
             {2, "D MHRWorker::dbCheckGroupsPlan(13, 4, 202301)"},
-            {0, "C MHRWorker::dbCheckGroupsPlan() - SQL ERROR " + missingTable("groups_plan")}};
+            {0,
+             "C MHRWorker::dbCheckGroupsPlan() - SQL ERROR " + SqlErrors::missing("groups_plan")}};
     }
     QCOMPARE(result, 0U);
     QCOMPARE(trace.log, linesAt(debugLevel, lines));
@@ -670,5 +674,7 @@ void TestBranchCalendar::theTextOfARecalculationHasTheDateInShort()
     QTEST(trace.log, "log");
 }
 
-SYNC_TEST_MAIN(TestBranchCalendar)
+QTEST_GUILESS_MAIN(TestBranchCalendar)
 #include "tst_branchcalendar.moc"
+
+#include <QtTest>

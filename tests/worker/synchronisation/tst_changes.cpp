@@ -1,6 +1,6 @@
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 #include <optional>
 
@@ -40,7 +40,7 @@ Sent::PersonValues ofTomas(const QDate &rsBegin, const QDate &rsEnd, const QStri
 } // namespace
 
 /// What the driver takes for a change of a person that the database knows, and what it remembers.
-class TestChanges : public SyncTest {
+class TestChanges : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void whoIsSeenForTheFirstTimeIsWritten();
@@ -91,7 +91,7 @@ private:
 
 std::optional<MirovaRonRecord> TestChanges::knownAfter(const ExportRow &line, uint pid)
 {
-    m_export.write({line});
+    m_export->write({line});
     std::optional<MirovaRonRecord> known;
     observe([&] {
         m_worker->loadAndParseData();
@@ -509,5 +509,7 @@ void TestChanges::stopAndStartKeepWhatTheWorkerKnows()
     QCOMPARE(synchronise().statements, Sent::begin() << Sent::fundChecks(20012, 8));
 }
 
-SYNC_TEST_MAIN(TestChanges)
+QTEST_GUILESS_MAIN(TestChanges)
 #include "tst_changes.moc"
+
+#include <QtTest>

@@ -1,11 +1,12 @@
 #include "tests/support/localzone.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/movableclock.h"
-#include "tests/worker/synchronisation/sampleexport.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QSqlQuery>
+#include <QtTest>
 
 #include <ctime>
 
@@ -51,7 +52,7 @@ bool updatesPerson(const Trace &trace)
 /// What lands in the tables at the turns of time: of day, month and year, at the leap day and when
 /// clocks change. The program and the server's connections live in Bratislava and share a clock,
 /// which the test moves.
-class TestClock : public SyncTest {
+class TestClock : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void cleanup();
@@ -106,7 +107,7 @@ void TestClock::cleanup()
     MovableClock::run();
     m_db.run("SET GLOBAL time_zone = 'SYSTEM'");
     m_db.run("SET GLOBAL init_connect = ''");
-    SyncTest::cleanup();
+    WorkerTest::cleanup();
 }
 
 void TestClock::standAt(const QByteArray &moment)

@@ -1,6 +1,6 @@
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 using namespace SampleExport;
 
@@ -38,7 +38,7 @@ QString described(const QString &payrollId)
 } // namespace
 
 /// What the driver does with people that the database does not know.
-class TestCreation : public SyncTest {
+class TestCreation : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void aNewcomerIsCreatedRegisteredAndPlaced();
@@ -350,5 +350,7 @@ void TestCreation::anInactiveRowOfTheSamePidIsTakenUpAgain()
              TableRows({{"Malá", "1", "1", "1"}}));
 }
 
-SYNC_TEST_MAIN(TestCreation)
+QTEST_GUILESS_MAIN(TestCreation)
 #include "tst_creation.moc"
+
+#include <QtTest>

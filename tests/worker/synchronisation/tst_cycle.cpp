@@ -1,12 +1,13 @@
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 using namespace SampleExport;
 
 /// What a synchronisation does around its records: before the first, in which order it takes them,
 /// and after the last.
-class TestCycle : public SyncTest {
+class TestCycle : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void theServersMidnightIsThatOfTheProgram();
@@ -96,7 +97,7 @@ void TestCycle::everyLineOfTheLogHasItsLevel()
          "Prijmeni, TitulZa, Telefon, DatumNastupu, DatumVystupu, Stredisko, StrediskoPopis, "
          "Kalendar, KalendarPlatnostOd, TypPracovnihoPomeru, StavPracovnihoPomeru, EvidencniStav, "
          "DovolenaZustatek, NadrizenyOsobniCislo"},
-        {3, "I MHRWorker::loadAndParseData() - loading data from file: '" + m_export.path() + "'"},
+        {3, "I MHRWorker::loadAndParseData() - loading data from file: '" + m_export->path() + "'"},
         {3,
          "D MHRWorker::parseLine('1234|1|Ing.|Jana|Nováková||555123456|2019-04-01 "
          "00:00:00.000||120|Sklad|3|2023-01-01 00:00:00.000|11|1|0|17.5|0')"},
@@ -190,22 +191,23 @@ void TestCycle::theKnownPeopleAreFreedAtTheEndOfTheCycle()
 void TestCycle::aCycleGoesOnWithoutBranches()
 {
     synchronise({jana(), jan()});
-    m_export.write({jana().with(&ExportRow::strediskoPopis, "a"),
-                    jan().with(&ExportRow::strediskoPopis, "b")});
+    m_export->write({jana().with(&ExportRow::strediskoPopis, "a"),
+                     jan().with(&ExportRow::strediskoPopis, "b")});
     const Trace trace = observe([this] {
         m_worker->loadAndParseData();
         m_worker->dbLoadPeople();
         m_db.hideTable("branches");
         m_worker->doSync();
     });
-    QCOMPARE(trace.log,
-             QStringList({"C MHRWorker::dbLoadBranches() - SQL ERROR " + missingTable("branches"),
-                          "W MHRWorker: Branch '120' NOT FOUND for employee: '1234.1 Nováková Jana "
-                          "(S: 120, K: 3 from 1 Jan 2023) N-V: 1 Apr 2019 - ; ES: 0, RS:  -  '' "
-                          "TPP: 11  DOV: 17.5 NOC: 0'",
-                          "W MHRWorker: Branch '120' NOT FOUND for employee: '1235.1 Szabó Ján (S: "
-                          "120, K: 2 from 1 Jun 2020) N-V: 15 Jun 2020 - ; ES: 0, RS:  -  '' TPP: "
-                          "11  DOV: 0 NOC: 0'"}));
+    QCOMPARE(
+        trace.log,
+        QStringList({"C MHRWorker::dbLoadBranches() - SQL ERROR " + SqlErrors::missing("branches"),
+                     "W MHRWorker: Branch '120' NOT FOUND for employee: '1234.1 Nováková Jana "
+                     "(S: 120, K: 3 from 1 Jan 2023) N-V: 1 Apr 2019 - ; ES: 0, RS:  -  '' "
+                     "TPP: 11  DOV: 17.5 NOC: 0'",
+                     "W MHRWorker: Branch '120' NOT FOUND for employee: '1235.1 Szabó Ján (S: "
+                     "120, K: 2 from 1 Jun 2020) N-V: 15 Jun 2020 - ; ES: 0, RS:  -  '' TPP: "
+                     "11  DOV: 0 NOC: 0'"}));
     QCOMPARE(trace.statements,
              QStringList(Sent::people())
                  << Sent::branches() << Sent::fund() << Sent::fundChecks(12341, 4)
@@ -218,11 +220,11 @@ void TestCycle::aCycleGoesOnWhenTheFundCannotBeLookedUp()
     m_db.hideTable("funds");
     const Trace trace = synchronise({tomas()});
     QCOMPARE(trace.log,
-             QStringList({"D MHRWorker: BEGIN synchronization #1 (force: NO)",
-                          "C MHRWorker::checkDovolenkaFond() - SQL ERROR " + missingTable("funds"),
-                          "I MHRWorker::checkDovolenkaFond(): fid=0",
-                          "D MHRWorker::dbUpdatePerson(2001.2)",
-                          "D MHRWorker: END synchronization #1 (waiting records: 0)"}));
+             QStringList(
+                 {"D MHRWorker: BEGIN synchronization #1 (force: NO)",
+                  "C MHRWorker::checkDovolenkaFond() - SQL ERROR " + SqlErrors::missing("funds"),
+                  "I MHRWorker::checkDovolenkaFond(): fid=0", "D MHRWorker::dbUpdatePerson(2001.2)",
+                  "D MHRWorker: END synchronization #1 (waiting records: 0)"}));
 }
 
 void TestCycle::newMembersJoinTheirBranchesInAscendingOrder()
@@ -320,5 +322,7 @@ void TestCycle::theBranchIdIsNarrowedAtTheCallOnly()
     QCOMPARE(m_db.rows("SELECT bid FROM brape WHERE uid = 8"), joined);
 }
 
-SYNC_TEST_MAIN(TestCycle)
+QTEST_GUILESS_MAIN(TestCycle)
 #include "tst_cycle.moc"
+
+#include <QtTest>

@@ -1,8 +1,9 @@
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 #include <QRegularExpression>
+#include <QtTest>
 
 using namespace SampleExport;
 
@@ -22,7 +23,7 @@ const QString kNotFound =
 
 /// When the driver asks for branch and calendar, who waits for them, and when attendance is
 /// recalculated.
-class TestPlacing : public SyncTest {
+class TestPlacing : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void whoHasNoCostCentreIsNotPlaced();
@@ -58,7 +59,7 @@ int TestPlacing::waiting(const Trace &trace) const
 void TestPlacing::whoHasNoCostCentreIsNotPlaced()
 {
     newWorker(1);
-    m_export.write({jana().with(&ExportRow::stredisko, 0)});
+    m_export->write({jana().with(&ExportRow::stredisko, 0)});
     for (int cycle = 1; cycle <= 2; ++cycle) {
         const Trace trace = synchronise();
         QCOMPARE(trace.statements.filter("FROM brape"), QStringList());
@@ -264,5 +265,5 @@ void TestPlacing::whoseUidIsUnknownMustBeRecalculatedByHand()
     QCOMPARE(trace.statements.last(), Sent::findUid(pid));
 }
 
-SYNC_TEST_MAIN(TestPlacing)
+QTEST_GUILESS_MAIN(TestPlacing)
 #include "tst_placing.moc"

@@ -1,7 +1,9 @@
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 #include <QRegularExpression>
+#include <QtTest>
 
 namespace {
 
@@ -26,7 +28,7 @@ const QString kFailed = "W MHRWorker::processNadOsCis() - (Re)Set Admin People R
 
 /// The supervisor: one administrator gets the requests of a person, all others lose them, in one
 /// transaction.
-class TestSupervisor : public SyncTest {
+class TestSupervisor : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void aSupervisorTakesOver();
@@ -206,8 +208,8 @@ void TestSupervisor::aFailedResetIsRolledBack()
              linesAt(debugLevel,
                      {{2, "D MHRWorker::dbResetAdminPeopleRequest(aid: 2, uid: 4)"},
                       {0,
-                       "C MHRWorker::dbResetAdminPeopleRequest() - SQL ERROR " + refused()
-                           + "\n SQL: " + kReset},
+                       "C MHRWorker::dbResetAdminPeopleRequest() - SQL ERROR "
+                           + SqlErrors::refused() + "\n SQL: " + kReset},
                       {1, "D MHRWorker::dbResetAdminPeopleRequest(aid: 2, uid: 4) - affected: -1"},
                       {0, kFailed}}));
     QCOMPARE(trace.statements,
@@ -228,7 +230,7 @@ void TestSupervisor::aFailedSetLeavesTheFormerSupervisor()
              linesAt(debugLevel,
                      {{1, "D MHRWorker::dbResetAdminPeopleRequest(aid: 2, uid: 4) - affected: 1"},
                       {0,
-                       "C MHRWorker::dbSetAdminPeopleRequest() - SQL ERROR " + refused()
+                       "C MHRWorker::dbSetAdminPeopleRequest() - SQL ERROR " + SqlErrors::refused()
                            + "\n SQL: " + kSet},
                       {1, "D MHRWorker::dbSetAdminPeopleRequest(aid: 2, uid: 4) - affected: -1"},
                       {0, kFailed}}));
@@ -296,5 +298,5 @@ void TestSupervisor::aFailedStatementCountsMinusOne()
                       {1, "D MHRWorker::dbSetAdminPeopleRequest(aid: 2, uid: 4) - affected: -1"}}));
 }
 
-SYNC_TEST_MAIN(TestSupervisor)
+QTEST_GUILESS_MAIN(TestSupervisor)
 #include "tst_supervisor.moc"

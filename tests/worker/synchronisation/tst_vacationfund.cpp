@@ -1,7 +1,10 @@
+#include "tests/worker/support/sqlerrors.h"
+#include "tests/worker/support/workertest.h"
+#include "tests/worker/synchronisation/refusecolumn.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 #include <QDateTime>
+#include <QtTest>
 
 namespace {
 
@@ -18,7 +21,7 @@ QDate firstOfMonth()
 } // namespace
 
 /// The vacation fund: the operations one by one. Tomáš is uid 8, pid 20012; Jana uid 4, pid 12341.
-class TestVacationFund : public SyncTest {
+class TestVacationFund : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void theFundIsFound_data() { addDebugLevels(); }
@@ -382,16 +385,17 @@ void TestVacationFund::openDaysThatCannotBeCountedDoNotForbidACorrection()
     QFETCH(int, debugLevel);
     newWorker(debugLevel);
     addDay(today(), -2); // would forbid it
-    refuseColumn("atten", "date");
+    refuseColumn(m_db, "atten", "date");
     bool allowed = false;
     uint uid = 0;
     const Trace trace = observe([&] { allowed = m_worker->dbCheckAttendance(20012, uid); });
     QVERIFY(allowed);
-    QCOMPARE(trace.log,
-             linesAt(debugLevel,
-                     {{2, "D MHRWorker::dbCheckAttendance(pid: 20012)"},
-                      {0, "C MHRWorker::dbCheckAttendance() - SQL ERROR " + refusedColumn()},
-                      {1, "I MHRWorker::dbCheckAttendance(pid: 20012): OK"}}));
+    QCOMPARE(
+        trace.log,
+        linesAt(debugLevel,
+                {{2, "D MHRWorker::dbCheckAttendance(pid: 20012)"},
+                 {0, "C MHRWorker::dbCheckAttendance() - SQL ERROR " + SqlErrors::refusedColumn()},
+                 {1, "I MHRWorker::dbCheckAttendance(pid: 20012): OK"}}));
 }
 
 void TestVacationFund::withoutMovesTheBalanceIsZero()
@@ -499,7 +503,7 @@ void TestVacationFund::aSumThatFailsIsReported()
     findFund();
     addMove(8, 2, QDate(2025, 1, 1), 2500);
     addMove(8, 3, firstOfMonth(), 30);
-    refuseColumn("funds_move", "value", "type = 2");
+    refuseColumn(m_db, "funds_move", "value", "type = 2");
     bool ok = true;
     int balance = -1;
     const Trace trace = observe([&] { balance = m_worker->loadFundStatusAndMove3(20012, ok); });
@@ -508,7 +512,9 @@ void TestVacationFund::aSumThatFailsIsReported()
     QCOMPARE(trace.log,
              linesAt(debugLevel,
                      {{2, "D MHRWorker::loadFundStatusAndMove3(pid: 20012)"},
-                      {0, "C MHRWorker::loadFundStatusAndMove3() - SQL 1 ERROR " + refusedColumn()},
+                      {0,
+                       "C MHRWorker::loadFundStatusAndMove3() - SQL 1 ERROR "
+                           + SqlErrors::refusedColumn()},
                       {1, "I MHRWorker::loadFundStatusAndMove3(pid: 20012): 30, load OK: NO"}}));
     QCOMPARE(trace.statements, Sent::balance(20012));
 }
@@ -520,7 +526,7 @@ void TestVacationFund::aSumOfCorrectionsThatFailsIsReported()
     findFund();
     addMove(8, 2, QDate(2025, 1, 1), 2500);
     addMove(8, 3, firstOfMonth(), 30);
-    refuseColumn("funds_move", "value", "type = 3");
+    refuseColumn(m_db, "funds_move", "value", "type = 3");
     bool ok = true;
     int balance = -1;
     const Trace trace = observe([&] { balance = m_worker->loadFundStatusAndMove3(20012, ok); });
@@ -529,7 +535,9 @@ void TestVacationFund::aSumOfCorrectionsThatFailsIsReported()
     QCOMPARE(trace.log,
              linesAt(debugLevel,
                      {{2, "D MHRWorker::loadFundStatusAndMove3(pid: 20012)"},
-                      {0, "C MHRWorker::loadFundStatusAndMove3() - SQL 2 ERROR " + refusedColumn()},
+                      {0,
+                       "C MHRWorker::loadFundStatusAndMove3() - SQL 2 ERROR "
+                           + SqlErrors::refusedColumn()},
                       {1, "I MHRWorker::loadFundStatusAndMove3(pid: 20012): 2500, load OK: NO"}}));
 }
 
@@ -591,5 +599,5 @@ void TestVacationFund::aCorrectionThatCannotBeWrittenIsReported()
                            + Sent::correction(8, 100)}}));
 }
 
-SYNC_TEST_MAIN(TestVacationFund)
+QTEST_GUILESS_MAIN(TestVacationFund)
 #include "tst_vacationfund.moc"

@@ -1,7 +1,7 @@
-#include "tests/worker/synchronisation/sampleexport.h"
+#include "tests/worker/support/sampleexport.h"
+#include "tests/worker/support/statechanges.h"
+#include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
-#include "tests/worker/synchronisation/statechanges.h"
-#include "tests/worker/synchronisation/synctest.h"
 
 using namespace SampleExport;
 
@@ -92,7 +92,7 @@ QVector<ExportRow> ordinaryExport()
 
 /// Whole exports against the whole sample data: what one synchronisation changes, row by row, and
 /// that the next one with the same file changes nothing.
-class TestWholeState : public SyncTest {
+class TestWholeState : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
     void anOrdinaryExportChangesWhatItSays();
@@ -468,5 +468,7 @@ void TestWholeState::aNumberOfItsOwnInEveryRowChangesNothing()
     QCOMPARE(changesOfTwoCycles().join('\n'), usual.join('\n'));
 }
 
-SYNC_TEST_MAIN(TestWholeState)
+QTEST_GUILESS_MAIN(TestWholeState)
 #include "tst_wholestate.moc"
+
+#include <QtTest>

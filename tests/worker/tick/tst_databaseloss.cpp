@@ -1,9 +1,9 @@
-#include "tests/worker/tick/cycletest.h"
-#include "tests/worker/tick/loghook.h"
+#include "tests/worker/support/loghook.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QtTest>
 
-class TestDatabaseLoss : public CycleTest {
+class TestDatabaseLoss : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -70,7 +70,7 @@ void TestDatabaseLoss::aServerRestartBetweenTicksGoesUnnoticed()
     tick();
     m_db.killServer();
     m_db.startServer();
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     const QStringList lines = tick();
     QCOMPARE(lines.filter(QRegularExpression("^[WC] ")), QStringList());
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
@@ -79,8 +79,8 @@ void TestDatabaseLoss::aServerRestartBetweenTicksGoesUnnoticed()
 void TestDatabaseLoss::aServerLostBeforePeopleAreLoadedEndsTheSynchronisation()
 {
     startWorker(1).setSyncInterval(1);
-    setForce("1");
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    force();
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     {
         const LogHook hook("MHRWorker: BEGIN synchronization #1 (force: YES)",
                            [this] { m_db.killServer(); });
@@ -94,10 +94,10 @@ void TestDatabaseLoss::aServerLostBeforePeopleAreLoadedEndsTheSynchronisation()
         QVERIFY(lines.at(4).startsWith("C variableSet ERROR: \""));
     }
     m_db.startServer();
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 8888)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 8888)});
     // The flag could not be reset, so this one is forced as well.
     QVERIFY(tick().contains("D MHRWorker: BEGIN synchronization #2 (force: YES)"));
-    QCOMPARE(force(), QString("0"));
+    QCOMPARE(forceFlag(), QString("0"));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 0);
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 88881").toInt(), 1);
 }
@@ -107,7 +107,7 @@ void TestDatabaseLoss::aServerLostWhileWritingFailsTheWritesAndTheNextTickWorks(
     startWorker(1).setSyncInterval(1);
     const ExportRow first = ExportRow().with(&ExportRow::osobniCislo, 7777);
     const ExportRow second = ExportRow().with(&ExportRow::osobniCislo, 8888);
-    m_file->write({first, second});
+    m_export->write({first, second});
     {
         const LogHook hook("MHRWorker::dbAddPerson(8888.1)", [this] { m_db.killServer(); });
         const QStringList lines = tick();
@@ -118,8 +118,8 @@ void TestDatabaseLoss::aServerLostWhileWritingFailsTheWritesAndTheNextTickWorks(
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 88881").toInt(), 0);
 
-    setForce("1");
-    m_file->write({first, second});
+    force();
+    m_export->write({first, second});
     const QStringList lines = tick();
     QCOMPARE(lines.filter(QRegularExpression("^[WC] ")), QStringList());
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 88881").toInt(), 1);
@@ -137,21 +137,21 @@ void TestDatabaseLoss::aMissingSettingsTableLeavesRegularTicksWorking()
     tick();
     QCOMPARE(tick(), QStringList(error));
     m_db.restoreTable("vars");
-    setForce("1");
+    force();
     tick();
     QCOMPARE(tick(), QStringList());
-    QCOMPARE(force(), QString("0"));
+    QCOMPARE(forceFlag(), QString("0"));
 }
 
 void TestDatabaseLoss::aMissingPeopleTableIsForgottenByTheNextTick()
 {
     startWorker(1).setSyncInterval(1);
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     m_db.hideTable("people");
     QVERIFY(tick().contains("C MHRWorker: load people from TEPDB failed - synchronization "
                             "terminated!"));
     m_db.restoreTable("people");
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     QCOMPARE(tick().filter(QRegularExpression("^[WC] ")), QStringList());
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
 }

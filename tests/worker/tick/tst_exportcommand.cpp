@@ -1,5 +1,5 @@
-#include "tests/worker/tick/commandgate.h"
-#include "tests/worker/tick/cycletest.h"
+#include "tests/worker/support/commandgate.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QFile>
 #include <QTextCodec>
@@ -75,7 +75,7 @@ private:
 
 } // namespace
 
-class TestExportCommand : public CycleTest {
+class TestExportCommand : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -121,7 +121,7 @@ void TestExportCommand::theRunConditionDecides()
     MHRWorker &worker = startWorker();
     worker.setSyncCommand("/bin/true");
     worker.setSyncCommandRunCondition(static_cast<unsigned char>(condition));
-    setForce(forced ? "1" : "0");
+    force(forced ? "1" : "0");
     QCOMPARE(tick().contains("D MHRWorker::runCommand(): '/bin/true'"), runs);
     // No command where nothing is synchronised.
     QVERIFY(!tick().contains("D MHRWorker::runCommand(): '/bin/true'"));
@@ -132,7 +132,7 @@ void TestExportCommand::theFileThatTheCommandWritesIsReadInTheSameTick()
     ExportFile source;
     source.write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     MHRWorker &worker = startWorker();
-    worker.setSyncCommand("/bin/cp " + source.path() + ' ' + m_file->path());
+    worker.setSyncCommand("/bin/cp " + source.path() + ' ' + m_export->path());
     worker.setSyncCommandRunCondition(2);
     tick();
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
@@ -190,7 +190,7 @@ void TestExportCommand::theCommandLineIsLoggedOnlyWhenVerbose()
     QFETCH(int, debugLevel);
     QFETCH(QString, command);
     QFETCH(QStringList, expected);
-    MHRWorker &worker = startWorker(static_cast<unsigned char>(debugLevel));
+    MHRWorker &worker = startWorker(debugLevel);
     worker.setSyncCommand(command);
     worker.runCommand();
     QCOMPARE(m_log->lines(), expected);
@@ -214,7 +214,7 @@ void TestExportCommand::theCommandLineIsLoggedInTheLocal8BitEncoding()
 void TestExportCommand::theCommandLineIsSplitWithoutAShell()
 {
     MHRWorker &worker = startWorker(0);
-    const QString target = m_file->path();
+    const QString target = m_export->path();
     const QString other = target + " two $HOME";
     worker.setSyncCommand("/usr/bin/touch  \"" + other + "\"   " + target + ';');
     worker.runCommand();
@@ -237,7 +237,7 @@ void TestExportCommand::aFailingCommandDoesNotKeepTheFileFromBeingRead()
     MHRWorker &worker = startWorker(0);
     worker.setSyncCommand(command);
     worker.setSyncCommandRunCondition(2);
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     tick();
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 1);
 }
@@ -247,7 +247,7 @@ void TestExportCommand::theCommandHasTheStandardChannelsOfTheProcess()
     MHRWorker &worker = startWorker(0);
     worker.setSyncCommand("/bin/echo from the command");
 
-    QFile output(m_file->path());
+    QFile output(m_export->path());
     QVERIFY(output.open(QIODevice::ReadWrite));
     const int standardOutput = ::dup(STDOUT_FILENO);
     ::dup2(output.handle(), STDOUT_FILENO);
@@ -275,11 +275,11 @@ void TestExportCommand::whatIsNoProgramCannotStart()
     QFETCH(QByteArray, content);
     QFETCH(bool, executable);
     const QString command = writeScript(
-        m_file->path(), content, executable ? kExecutable : QFile::ReadOwner | QFile::WriteOwner);
+        m_export->path(), content, executable ? kExecutable : QFile::ReadOwner | QFile::WriteOwner);
     MHRWorker &worker = startWorker(0);
     worker.setSyncCommand(command);
     worker.setSyncCommandRunCondition(2);
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     QCOMPARE(
         tick(),
         QStringList("W MHRWorker::runCommand() - command: '" + command + "' exit with code: -2"));
@@ -288,8 +288,8 @@ void TestExportCommand::whatIsNoProgramCannotStart()
 
 void TestExportCommand::aScriptGetsItsArgumentsAsTheyAreQuoted()
 {
-    const QString output = m_file->path() + ".arguments";
-    const QString script = writeScript(m_file->path(),
+    const QString output = m_export->path() + ".arguments";
+    const QString script = writeScript(m_export->path(),
                                        "#!/bin/sh\nfor a in \"$@\"; do echo \"[$a]\"; done > '"
                                            + output.toUtf8() + "'\nexit 3\n",
                                        kExecutable);
@@ -332,7 +332,7 @@ void TestExportCommand::aCommandMayPrintMegabytes()
     MHRWorker &worker = startWorker(0);
     worker.setSyncCommand(command);
     worker.setSyncCommandRunCondition(2);
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     // Pipes that are much smaller, as those to a log daemon.
     CountedChannel standardOutput(STDOUT_FILENO);
     CountedChannel standardError(STDERR_FILENO);

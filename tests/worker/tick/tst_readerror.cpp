@@ -1,7 +1,7 @@
 // An export that cannot be read to its end, as on a network mount that fails in the middle.
 
-#include "tests/worker/tick/cycletest.h"
-#include "tests/worker/tick/loghook.h"
+#include "tests/worker/support/loghook.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -41,7 +41,7 @@ void breakOpenFile(const QString &path)
 
 } // namespace
 
-class TestReadError : public CycleTest {
+class TestReadError : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -74,14 +74,14 @@ void TestReadError::writeExport(int first)
         person(first + 1).with(&ExportRow::nadrizenyOsobniCislo, 1001).text().toUtf8();
     const QByteArray lastLine = person(first + 2).text().toUtf8() + '\n';
     const QByteArray blank(kBlockSize - firstLine.size() - cutLine.size() + 1, '\n');
-    m_file->writeBytes(firstLine + blank + cutLine + '\n' + lastLine);
+    m_export->writeBytes(firstLine + blank + cutLine + '\n' + lastLine);
 }
 
 /// One tick, in which reading the file fails after its first block.
 QStringList TestReadError::tickWithError(int first)
 {
     const LogHook hook("MHRWorker::parseLine('" + person(first).text() + "')",
-                       [this] { breakOpenFile(m_file->path()); });
+                       [this] { breakOpenFile(m_export->path()); });
     return tick();
 }
 
@@ -107,7 +107,7 @@ void TestReadError::completeLinesAreUsedAndACutOneIsNot()
     QCOMPARE(log.filter("parseLine("),
              QStringList("D MHRWorker::parseLine('" + person(6001).text() + "')"));
     QCOMPARE(log.filter(QRegularExpression("^[WC] .*loadAndParseData")),
-             QStringList("W MHRWorker::loadAndParseData() - file '" + m_file->path()
+             QStringList("W MHRWorker::loadAndParseData() - file '" + m_export->path()
                          + "' NOT removed!"));
 }
 
@@ -119,12 +119,12 @@ void TestReadError::theFileIsKeptAndReadAgain()
     startWorker(3).setDeleteFileAfterImport(deletes);
     m_worker->setSyncInterval(1);
     tickWithError(first);
-    QVERIFY(m_file->exists());
+    QVERIFY(m_export->exists());
 
     const QStringList log = tick();
     QCOMPARE(peopleFrom(first).size(), 3);
     QCOMPARE(log.filter("NOT removed!"), QStringList());
-    QCOMPARE(m_file->exists(), !deletes);
+    QCOMPARE(m_export->exists(), !deletes);
 }
 
 void TestReadError::theWarningComesAtEveryDebugLevel_data()
@@ -137,7 +137,7 @@ void TestReadError::theWarningComesAtEveryDebugLevel_data()
 void TestReadError::theWarningComesAtEveryDebugLevel()
 {
     QFETCH(int, debugLevel);
-    startWorker(static_cast<unsigned char>(debugLevel));
+    startWorker(debugLevel);
     m_worker->setImportFile(kUnreadableFile);
     m_worker->setDeleteFileAfterImport(false);
     QCOMPARE(tick().filter(QRegularExpression("^[WC] ")),

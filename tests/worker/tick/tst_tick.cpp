@@ -1,6 +1,6 @@
 #include "db/branchesrepository.h"
-#include "tests/worker/tick/cycletest.h"
-#include "tests/worker/tick/loghook.h"
+#include "tests/worker/support/loghook.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QtTest>
 
@@ -18,7 +18,7 @@ const QStringList kResetForce = {
 
 } // namespace
 
-class TestTick : public CycleTest {
+class TestTick : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -104,8 +104,8 @@ void TestTick::theFirstTickSynchronises()
 {
     QFETCH(int, debugLevel);
     QFETCH(QStringList, expected);
-    startWorker(static_cast<unsigned char>(debugLevel));
-    QCOMPARE(tick(), expected.replaceInStrings("%1", m_file->path()));
+    startWorker(debugLevel);
+    QCOMPARE(tick(), expected.replaceInStrings("%1", m_export->path()));
 }
 
 void TestTick::anIdleTickLogsItsNumberOnlyWhenVerbose_data()
@@ -124,7 +124,7 @@ void TestTick::anIdleTickLogsItsNumberOnlyWhenVerbose()
 {
     QFETCH(int, debugLevel);
     QFETCH(QStringList, expected);
-    startWorker(static_cast<unsigned char>(debugLevel));
+    startWorker(debugLevel);
     tick();
     QCOMPARE(tick(), expected);
 }
@@ -157,9 +157,9 @@ void TestTick::theStepsOfASynchronisationComeInTheirOrder()
     MHRWorker &worker = startWorker();
     worker.setSyncCommand("/bin/true");
     worker.setSyncCommandRunCondition(2);
-    setForce("1");
+    force();
     // A person whom the database has as the export does: nothing is to be written.
-    m_file->write({ExportRow().with(&ExportRow::nadrizenyOsobniCislo, 0)});
+    m_export->write({ExportRow().with(&ExportRow::nadrizenyOsobniCislo, 0)});
     QStringList lines = tick();
     const auto ofLaterSteps = [](const QString &line) {
         static const QStringList steps = {"checkSync",    ": BEGIN",  "runCommand", "loadAndParse",
@@ -196,9 +196,9 @@ void TestTick::anIdleTickSendsOneSelectOnOneConnection()
 void TestTick::aSynchronisationWithoutRecordsSendsOneSelect()
 {
     startWorker();
-    m_file->write(QStringList{"no record"});
+    m_export->write(QStringList{"no record"});
     tick();
-    QVERIFY(!m_file->exists());
+    QVERIFY(!m_export->exists());
     QCOMPARE(m_db.statements(), QStringList(kReadForce));
 }
 
@@ -218,19 +218,19 @@ void TestTick::theForceFlagIsReadAsATruthValue()
     QFETCH(bool, forced);
     startWorker(1);
     tick(1);
-    setForce(value);
+    force(value);
     m_db.clearStatements();
     const QStringList lines = tick();
     if (!forced) {
         QCOMPARE(lines, QStringList());
-        QCOMPARE(force(), value);
+        QCOMPARE(forceFlag(), value);
         QCOMPARE(m_db.statements(), QStringList(kReadForce));
         return;
     }
     QCOMPARE(lines,
              QStringList({"D MHRWorker: BEGIN synchronization #2 (force: YES)",
                           "D MHRWorker: END synchronization #2 (waiting records: 0)"}));
-    QCOMPARE(force(), QString("0"));
+    QCOMPARE(forceFlag(), QString("0"));
     QCOMPARE(tick(), QStringList());
 }
 
@@ -238,21 +238,21 @@ void TestTick::aForcedTickWithoutRecordsLoadsNoPeopleAndStillResetsTheFlag()
 {
     startWorker();
     tick(1);
-    setForce("1");
+    force();
     m_db.clearStatements();
     tick();
     QCOMPARE(m_db.statements(), QStringList(kReadForce) + kResetForce);
-    QCOMPARE(force(), QString("0"));
+    QCOMPARE(forceFlag(), QString("0"));
 }
 
 void TestTick::aForcedFirstTickIsLoggedAsForced()
 {
     startWorker(1);
-    setForce("1");
+    force();
     QCOMPARE(tick(),
              QStringList({"D MHRWorker: BEGIN synchronization #1 (force: YES)",
                           "D MHRWorker: END synchronization #1 (waiting records: 0)"}));
-    QCOMPARE(force(), QString("0"));
+    QCOMPARE(forceFlag(), QString("0"));
 }
 
 void TestTick::onlyAForcedTickWritesTheFlag()
@@ -268,19 +268,19 @@ void TestTick::onlyAForcedTickWritesTheFlag()
 void TestTick::theFlagIsResetAfterTheEndOfTheSynchronisation()
 {
     startWorker(1);
-    setForce("1");
+    force();
     QString atTheEnd;
     const LogHook hook("MHRWorker: END synchronization #1 (waiting records: 0)",
-                       [this, &atTheEnd] { atTheEnd = force(); });
+                       [this, &atTheEnd] { atTheEnd = forceFlag(); });
     tick();
     QCOMPARE(atTheEnd, QString("1"));
-    QCOMPARE(force(), QString("0"));
+    QCOMPARE(forceFlag(), QString("0"));
 }
 
 void TestTick::aFlagThatCannotBeResetForcesTheNextTickToo()
 {
     startWorker(1);
-    setForce("1");
+    force();
     m_db.refuse("UPDATE", "vars", "read only");
     const QString failure =
         "C variableSet ERROR: \"read only QMYSQL3: Unable to execute statement\"";
@@ -299,7 +299,7 @@ void TestTick::aTickDuringASynchronisationIsDropped()
 {
     startWorker();
     // A member is added to a branch in the middle of a synchronisation.
-    m_file->write({ExportRow().with(&ExportRow::stredisko, 130)});
+    m_export->write({ExportRow().with(&ExportRow::stredisko, 130)});
     connect(m_worker->findChild<BranchesRepository *>(),
             &BranchesRepository::sigAddedPeopleToBranch, m_worker.get(), &MHRWorker::checkSync);
     QStringList lines = tick();
@@ -322,8 +322,8 @@ void TestTick::aTickDuringASynchronisationIsDropped()
 void TestTick::failingToLoadPeopleEndsTheSynchronisation()
 {
     startWorker(1);
-    setForce("1");
-    m_file->write({ExportRow()});
+    force();
+    m_export->write({ExportRow()});
     m_db.hideTable("people");
     m_db.clearStatements();
     QCOMPARE(tick(),
@@ -343,7 +343,7 @@ void TestTick::failingToLoadPeopleEndsTheSynchronisation()
 void TestTick::recordsOfAFailedSynchronisationAreDiscarded()
 {
     startWorker().setSyncInterval(1);
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 7777)});
     m_db.hideTable("people");
     tick();
     m_db.restoreTable("people");
@@ -352,7 +352,7 @@ void TestTick::recordsOfAFailedSynchronisationAreDiscarded()
     QCOMPARE(m_db.statements(), QStringList(kReadForce));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 77771").toInt(), 0);
 
-    m_file->write({ExportRow().with(&ExportRow::osobniCislo, 8888)});
+    m_export->write({ExportRow().with(&ExportRow::osobniCislo, 8888)});
     const QStringList lines = tick();
     QVERIFY(lines.contains("D MHRWorker::doSync() - stack count: 1"));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people WHERE pid = 88881").toInt(), 1);
@@ -364,13 +364,13 @@ void TestTick::waitingRecordsStayUntilACycleHasRecords()
     const QVector<ExportRow> ofAnUnknownBranch = {ExportRow().with(&ExportRow::stredisko, 999)};
     const QString end = "D MHRWorker: END synchronization #%1 (waiting records: %2)";
 
-    m_file->write(ofAnUnknownBranch);
+    m_export->write(ofAnUnknownBranch);
     QCOMPARE(tick().last(), end.arg(1).arg(1));
 
     m_db.run("INSERT INTO branches (bid, number) VALUES (9, 999)");
     QCOMPARE(tick().last(), end.arg(2).arg(1));
 
-    m_file->write(ofAnUnknownBranch);
+    m_export->write(ofAnUnknownBranch);
     QCOMPARE(tick().last(), end.arg(3).arg(0));
     QCOMPARE(m_db.value("SELECT uid FROM brape WHERE bid = 9").toInt(), 4);
 }

@@ -1,6 +1,6 @@
 #include "db/branchesrepository.h"
 #include "db/groupsplanrepo.h"
-#include "tests/worker/tick/cycletest.h"
+#include "tests/worker/support/workertest.h"
 
 #include <QMetaEnum>
 #include <QMetaMethod>
@@ -20,10 +20,12 @@ ExportRow person(int personalNumber, int calendar)
 
 } // namespace
 
-class TestWorkerSetup : public CycleTest {
+class TestWorkerSetup : public WorkerTest {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
+
     void theSlotsAreFourInTheirOrder();
     void thereAreNoSignals();
     void withoutSettingsTheTickIsAMinute();
@@ -56,6 +58,12 @@ private:
     void moveToOtherDatabase();
     void leaveOtherDatabase();
 };
+
+void TestWorkerSetup::init()
+{
+    WorkerTest::init();
+    dropWorker();
+}
 
 /// Of the worker's timers, the oldest first.
 QVector<int> TestWorkerSetup::periods() const
@@ -104,19 +112,19 @@ void TestWorkerSetup::withoutSettingsEverythingHasItsDefault()
 {
     m_worker = std::make_unique<MHRWorker>();
     m_worker->setTepDb(m_db.pluginConnection());
-    m_worker->setImportFile(m_file->path());
+    m_worker->setImportFile(m_export->path());
     m_worker->setSyncCommand("/nowhere/at/all");
     m_worker->start();
-    m_file->write({person(4321, 0).with(&ExportRow::evidencniStav, 7)});
+    m_export->write({person(4321, 0).with(&ExportRow::evidencniStav, 7)});
     // No debug lines, no command, the export stays, no state of that code.
     QCOMPARE(tick(), QStringList());
-    QVERIFY(m_file->exists());
+    QVERIFY(m_export->exists());
     QCOMPARE(m_db.rows("SELECT did, rsText FROM people WHERE pid = 43211"), TableRows({{"1", ""}}));
 
     // Sixty ticks to the next synchronisation.
-    m_file->write({person(4321, 0).with(&ExportRow::jmeno, "Eva")});
+    m_export->write({person(4321, 0).with(&ExportRow::jmeno, "Eva")});
     const QString firstName = "SELECT name FROM people WHERE pid = 43211";
-    CycleTest::tick(58);
+    WorkerTest::tick(58);
     QCOMPARE(m_db.value(firstName).toString(), QString("Jana"));
     tick();
     QCOMPARE(m_db.value(firstName).toString(), QString("Eva"));
@@ -177,7 +185,7 @@ void TestWorkerSetup::theConnectionIsNamedAfterTheDatabase()
 {
     QFETCH(int, debugLevel);
     QFETCH(QStringList, expected);
-    makeWorker(static_cast<unsigned char>(debugLevel));
+    makeWorker(debugLevel);
     QCOMPARE(m_log->lines(), expected);
     QVERIFY(QSqlDatabase::contains("YAV.tepdb.MirovaHR"));
 }
@@ -199,9 +207,11 @@ void TestWorkerSetup::theConnectionIsClonedAndNotYetOpened()
 void TestWorkerSetup::anExistingConnectionIsTakenUpAndOpened()
 {
     QSqlDatabase existing = m_db.pluginConnection("YAV.tepdb.MirovaHR");
-    MHRWorker &worker = makeWorker();
+    m_worker = std::make_unique<MHRWorker>();
+    m_worker->setDebugLevel(2);
+    m_worker->setTepDb(m_db.pluginConnection());
     QVERIFY(existing.isOpen());
-    worker.start();
+    m_worker->start();
     m_db.clearStatements();
     tick();
     // On the connection as it was, which is then closed.
@@ -246,7 +256,7 @@ void TestWorkerSetup::aNewDatabaseReachesTheSettingsAndTheBranches()
     moveToOtherDatabase();
     QCOMPARE(m_log->lines(), QStringList("D MHRWorker::setTepDb(YAV.other.MirovaHR)"));
 
-    m_file->write({person(4322, 0)});
+    m_export->write({person(4322, 0)});
     QVERIFY(tick().contains("D MHRWorker: BEGIN synchronization #2 (force: YES)"));
     QCOMPARE(m_db.value("SELECT value FROM other.vars WHERE name = 'YAV.MHRWorker.forceSync'"),
              QVariant("0"));
@@ -258,13 +268,13 @@ void TestWorkerSetup::aNewDatabaseReachesTheCalendarGroupsWithTheNextStart()
 {
     startWorker(1);
     moveToOtherDatabase();
-    m_file->write({person(4323, 3)});
+    m_export->write({person(4323, 3)});
     QCOMPARE(tick().filter("into [groups_plan]!").size(), 1);
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM other.groups_plan").toInt(), 0);
 
     m_worker->start();
     m_db.run("UPDATE other.vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
-    m_file->write({person(4323, 3)});
+    m_export->write({person(4323, 3)});
     tick();
     QCOMPARE(m_db.value("SELECT gid FROM other.groups_plan").toInt(), 88);
     leaveOtherDatabase();
@@ -306,7 +316,7 @@ void TestWorkerSetup::startLogsAndStopLogsTheTextOfInit()
     QFETCH(int, debugLevel);
     QFETCH(QStringList, started);
     QFETCH(QStringList, stopped);
-    makeWorker(static_cast<unsigned char>(debugLevel));
+    makeWorker(debugLevel);
     m_log->clear();
     m_worker->start();
     QCOMPARE(m_log->lines(), started);
@@ -341,9 +351,9 @@ void TestWorkerSetup::everyStartSetsUpOneMoreTimer()
              QStringList({"D MHRWorker::start()", "D MHRWorker::init()", "D MHRWorker::init()",
                           "D MHRWorker::init()", "D MHRWorker::start()", "D MHRWorker::init()"}));
     // The settings of the newest start serve the tick.
-    setForce("1");
+    force();
     tick();
-    QCOMPARE(force(), QString("0"));
+    QCOMPARE(forceFlag(), QString("0"));
 }
 
 void TestWorkerSetup::initCreatesEverythingAndSucceeds()
@@ -369,7 +379,7 @@ void TestWorkerSetup::theRepositoriesLogAtTheLevelOfTheWorker()
 void TestWorkerSetup::anAssignmentToAGroupUpdatesTheGroupsOfTheMonths()
 {
     startWorker(2);
-    m_file->write({ExportRow().with(&ExportRow::kalendarPlatnostOd, QDate(2024, 3, 1))});
+    m_export->write({ExportRow().with(&ExportRow::kalendarPlatnostOd, QDate(2024, 3, 1))});
     QVERIFY(tick().contains("D GroupsPlanRepo::updateGroupsMonth(4, 202403)"));
 }
 

@@ -1,8 +1,8 @@
 #include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
-#include "tests/worker/tick/commandgate.h"
-#include "tests/worker/tick/inthreadof.h"
+#include "tests/worker/support/commandgate.h"
+#include "tests/worker/support/inthreadof.h"
 #include "worker/mhrworker.h"
 
 #include <QThread>
