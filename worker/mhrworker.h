@@ -275,14 +275,14 @@ private:
     bool isAsLastSeen(const MirovaRonRecord &record) const;
 
     struct Reconciliation;
-    void checkFunds(Reconciliation &work);
+    void checkFund(Reconciliation &work);
     void noteFundRetry(const Reconciliation &work);
-    void compareWithLast(const MirovaRonRecord &rec, Reconciliation &work) const;
     bool reconcile(const MirovaRonRecord &rec, Reconciliation &work);
-    bool createPerson(const MirovaRonRecord &rec);
+    bool createPerson(const MirovaRonRecord &rec, const Reconciliation &work);
     bool updateKnownPerson(const MirovaRonRecord &rec, MirovaRonRecord &known,
                            Reconciliation &work);
     bool correctVacation(const MirovaRonRecord &rec, const Reconciliation &work);
+    void assignSupervisor(const MirovaRonRecord &rec, bool isNew, const Reconciliation &work);
     void placeOrWait(const MirovaRonRecord &rec, const Reconciliation &work);
     void requestRecalculation(const MirovaRonRecord &rec);
     void flushBranchMembers();

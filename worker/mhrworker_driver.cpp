@@ -4,8 +4,8 @@
 
 #include "db/branchesrepository.h"
 #include "worker/recordcodes.h"
-#include "worker/recordcomparison.h"
 #include "worker/recorddates.h"
+#include "worker/recorddecisions.h"
 #include "worker/vacationbalance.h"
 
 #include <QDebug>
@@ -17,13 +17,8 @@ struct MHRWorker::Reconciliation {
     quint32 pid = 0;
     quint32 uid = 0; ///< known once the attendance is checked
     bool active = false;
-    bool fundsWritable = false; ///< today's balance correction may be written
-    bool fundRetry = false; ///< the last cycle could not correct the balance
-    bool checkFunds = false;
-    bool changed = false;
-    bool esChanged = false;
-    bool tppChanged = false;
-    bool supervisorChanged = false;
+    RecordDecisions::FundState fund;
+    RecordDecisions::Differences differences;
     bool lastCalcNeeded = false;
 };
 
@@ -63,14 +58,17 @@ void MHRWorker::doSyncRecord(const MirovaRonRecord &rec)
     // record.
     const QDate today = rec.datumVystupu.isValid() ? QDate::currentDate() : QDate();
     work.active = RecordCodes::isActive(rec, today);
-    checkFunds(work);
-    compareWithLast(rec, work);
+    checkFund(work);
+    const auto last = m_lastRecords.constFind(work.pid);
+    work.differences = RecordDecisions::differences(
+        rec, last == m_lastRecords.constEnd() ? nullptr : &*last, work.fund, m_force);
     noteFundRetry(work);
 
-    const bool written = (work.changed || m_force) && reconcile(rec, work);
+    const bool changed = work.differences.changed;
+    const bool written = (changed || m_force) && reconcile(rec, work);
     // A changed record is remembered even when writing it failed: an unchanged line does not try
     // again, only a changed line or a forced synchronisation does. The behaviour is fixed.
-    if (written || work.changed || !work.active)
+    if (written || changed || !work.active)
         m_lastRecords[work.pid] = rec;
 
     if (work.active)
@@ -79,57 +77,42 @@ void MHRWorker::doSyncRecord(const MirovaRonRecord &rec)
         requestRecalculation(rec);
 }
 
-void MHRWorker::checkFunds(Reconciliation &work)
+void MHRWorker::checkFund(Reconciliation &work)
 {
-    if (m_vacationFundId == 0)
+    work.fund.exists = m_vacationFundId != 0;
+    if (!work.fund.exists)
         return;
     // Both checks always run: the second also looks up the uid.
-    const bool moveAllowed = dbCheckFundMove(work.pid);
-    const bool attendanceAllows = dbCheckAttendance(work.pid, work.uid);
-    work.fundsWritable = moveAllowed && attendanceAllows;
-    work.checkFunds = work.fundsWritable;
-    work.fundRetry = work.fundsWritable && m_fundRetry.contains(work.pid);
+    work.fund.moveAllowed = dbCheckFundMove(work.pid);
+    work.fund.attendanceAllows = dbCheckAttendance(work.pid, work.uid);
+    work.fund.retry = work.fund.isWritable() && m_fundRetry.contains(work.pid);
 }
 
 void MHRWorker::noteFundRetry(const Reconciliation &work)
 {
-    if (m_vacationFundId == 0)
+    if (!work.fund.exists)
         return;
-    if (work.fundsWritable)
+    if (work.fund.isWritable())
         m_fundRetry.remove(work.pid);
     else
         m_fundRetry.insert(work.pid);
 }
 
-void MHRWorker::compareWithLast(const MirovaRonRecord &rec, Reconciliation &work) const
-{
-    const auto last = m_lastRecords.constFind(work.pid);
-    if (last == m_lastRecords.constEnd()) {
-        work.changed = true;
-        work.esChanged = true;
-        work.tppChanged = true;
-        work.supervisorChanged = rec.nadrizenyOsobniCislo != 0;
-        return;
-    }
-
-    work.esChanged = rec.evidencniStav != last->evidencniStav;
-    work.tppChanged = rec.typPracovnihoPomeru != last->typPracovnihoPomeru;
-    work.supervisorChanged =
-        rec.nadrizenyOsobniCislo != 0 && rec.nadrizenyOsobniCislo != last->nadrizenyOsobniCislo;
-    if (!m_force && !work.fundRetry && rec.dovolenaZustatek == last->dovolenaZustatek)
-        work.checkFunds = false;
-    work.changed = work.checkFunds || rec != *last;
-}
-
 bool MHRWorker::reconcile(const MirovaRonRecord &rec, Reconciliation &work)
 {
-    if (MirovaRonRecord *known = m_people.find(work.pid))
+    MirovaRonRecord *known = m_people.find(work.pid);
+    switch (RecordDecisions::personStep(known != nullptr, work.active)) {
+    case RecordDecisions::PersonStep::Update:
         return updateKnownPerson(rec, *known, work);
-    // A person who has already left is never created.
-    return work.active && createPerson(rec);
+    case RecordDecisions::PersonStep::Create:
+        return createPerson(rec, work);
+    case RecordDecisions::PersonStep::LeaveOut:
+        break;
+    }
+    return false;
 }
 
-bool MHRWorker::createPerson(const MirovaRonRecord &rec)
+bool MHRWorker::createPerson(const MirovaRonRecord &rec, const Reconciliation &work)
 {
     if (!dbAddPerson(updateRs(rec, MirovaRonRecord())))
         return false;
@@ -139,35 +122,34 @@ bool MHRWorker::createPerson(const MirovaRonRecord &rec)
         qWarning("MHRWorker::doSyncRecord(%s) - dbAddPersonIntoPam(%u, %u) FAILED!",
                  qUtf8Printable(rec.getString(false)), rec.getPid(), payrollId);
     }
-    if (rec.nadrizenyOsobniCislo != 0 && employmentTypeFromTPP(rec.typPracovnihoPomeru) == 1)
-        processNadOsCis(rec);
+    assignSupervisor(rec, true, work);
     return true;
 }
 
 bool MHRWorker::updateKnownPerson(const MirovaRonRecord &rec, MirovaRonRecord &known,
                                   Reconciliation &work)
 {
-    work.lastCalcNeeded =
-        RecordComparison::isComplete(known) && RecordComparison::movesElsewhere(rec, known);
+    using namespace RecordDecisions;
+    work.lastCalcNeeded = movesElsewhere(rec, known);
 
     const MirovaRonRecord updated = updateRs(rec, known);
-    const bool sameRow = RecordComparison::rowFields(updated) == RecordComparison::rowFields(known);
-    const bool written = !(sameRow && !work.esChanged && !work.tppChanged)
-        && dbUpdatePerson(updated, work.esChanged);
+    const bool written = rowStep(updated, known, work.differences) != RowStep::Keep
+        && dbUpdatePerson(updated, work.differences.registerState);
 
-    if (work.checkFunds && correctVacation(rec, work))
+    if (work.differences.balance == BalanceStep::Compare && correctVacation(rec, work))
         work.lastCalcNeeded = true;
-    if (work.lastCalcNeeded) {
-        known.kalendar = rec.kalendar;
-        known.kalendarPlatnostOd = rec.kalendarPlatnostOd;
-        known.stredisko = rec.stredisko;
-        known.strediskoPopis = rec.strediskoPopis;
-        known.dovolenaZustatek = rec.dovolenaZustatek;
-    }
+    if (work.lastCalcNeeded)
+        adopt(rec, known);
 
-    if (work.supervisorChanged && employmentTypeFromTPP(rec.typPracovnihoPomeru) == 1)
-        processNadOsCis(rec);
+    assignSupervisor(rec, false, work);
     return written;
+}
+
+void MHRWorker::assignSupervisor(const MirovaRonRecord &rec, bool isNew, const Reconciliation &work)
+{
+    using namespace RecordDecisions;
+    if (supervisorStep(rec, isNew, work.differences) == SupervisorStep::Assign)
+        processNadOsCis(rec);
 }
 
 bool MHRWorker::correctVacation(const MirovaRonRecord &rec, const Reconciliation &work)
@@ -196,7 +178,7 @@ void MHRWorker::placeOrWait(const MirovaRonRecord &rec, const Reconciliation &wo
     // A record waits until an equal one arrives. When the line changes meanwhile, the old one
     // stays: the changed one is placed on its own account.
     const bool waiting = m_waiting.contains(work.pid, rec);
-    if (rec.stredisko == 0 || !(m_force || work.changed || waiting))
+    if (!RecordDecisions::isPlaced(rec, m_force || work.differences.changed, waiting))
         return;
     const bool placed = doSyncBranchAndCalendar(rec);
     if (!placed && !waiting)

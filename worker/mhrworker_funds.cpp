@@ -5,6 +5,7 @@
 #include "db/placeholders.h"
 #include "worker/recorddates.h"
 #include "worker/sqlreport.h"
+#include "worker/vacationbalance.h"
 
 #include <QDateTime>
 #include <QDebug>
@@ -41,9 +42,6 @@ const QLatin1String kSumOfCorrections(
 const QLatin1String
     kWriteMove("INSERT INTO funds_move (type, day, month, value, fid, uid) VALUES(3, %1, "
                "monthFromTimestamp(%1), %2, %3, %4) ON DUPLICATE KEY UPDATE value=VALUES(value)");
-
-/// Seconds for which a calculation of attendance counts as running.
-constexpr qint64 kCalculationAge = 899;
 
 qint64 nextSum(QSqlQuery &query)
 {
@@ -111,8 +109,8 @@ bool MHRWorker::isCalculated(quint32 pid, quint32 &uid)
     uid = query.value(0).toUInt();
     const qint64 calc = query.value(1).toLongLong();
     const uint uncalculatedDays = query.value(2).toUInt();
-    const bool settled = calc == 0 || QDateTime::currentSecsSinceEpoch() - kCalculationAge > calc;
-    return settled && uncalculatedDays == 0;
+    return !VacationBalance::isCalculating(calc, QDateTime::currentSecsSinceEpoch())
+        && uncalculatedDays == 0;
 }
 
 bool MHRWorker::hasOpenDays(quint32 uid)

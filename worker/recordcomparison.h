@@ -4,8 +4,7 @@
 
 #include <tuple>
 
-/// How a record of the export is compared with the database's view of the same person. Pure
-/// functions.
+/// How a record of the export is compared with the database's view of the same person.
 namespace RecordComparison {
 
 /// The fields that a row of `people` holds. The description of the cost centre, the start of the
@@ -16,13 +15,5 @@ inline auto rowFields(const MirovaRonRecord &r)
                     r.telefon, r.datumNastupu, r.datumVystupu, r.kalendar, r.stredisko, r.rsFrom,
                     r.rsTo, r.rsText);
 }
-
-/// True when the database's view of a person can be compared: both numbers and any name are there.
-bool isComplete(const MirovaRonRecord &known);
-
-/// True when the record has another calendar, start of the calendar or cost centre than the
-/// database's view. That view has no start of the calendar, so the first look at a record that has
-/// one always finds a difference.
-bool movesElsewhere(const MirovaRonRecord &rec, const MirovaRonRecord &known);
 
 } // namespace RecordComparison

@@ -3,7 +3,19 @@
 #include <cmath>
 #include <limits>
 
+namespace {
+
+/// Seconds for which a calculation of attendance counts as running.
+constexpr qint64 kCalculationAge = 899;
+
+} // namespace
+
 namespace VacationBalance {
+
+bool isCalculating(qint64 calc, qint64 now)
+{
+    return calc != 0 && now - kCalculationAge <= calc;
+}
 
 bool correction(double days, qint64 current, qint32 &value)
 {

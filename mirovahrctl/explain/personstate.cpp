@@ -4,6 +4,7 @@
 #include "mirovahrctl/site/payrollexports.h"
 #include "worker/recordcodes.h"
 #include "worker/recorddates.h"
+#include "worker/vacationbalance.h"
 
 #include <QDateTime>
 #include <QVariant>
@@ -25,9 +26,6 @@ constexpr char kCountOpenDays[] =
 constexpr char kCountDaysToMark[] =
     "SELECT COUNT(*) FROM atten WHERE uid = %1 AND `lock` = 0 AND man = 0 AND `date` >= %2 AND ok "
     "<> -1";
-
-/// Seconds for which a calculation of attendance counts as running.
-constexpr qint64 kCalculationAge = 899;
 
 /// What merging a record into a row writes, apart from the moment.
 QStringList mergedColumns(const MirovaRonRecord &record)
@@ -88,9 +86,8 @@ bool PersonState::isCalculated()
     // Who has just been created has no attendance.
     if (!m_row)
         return m_isCreated;
-    const bool isSettled =
-        m_calc == 0 || QDateTime::currentSecsSinceEpoch() - kCalculationAge > m_calc;
-    return isSettled && !hasOpenDays();
+    return !VacationBalance::isCalculating(m_calc, QDateTime::currentSecsSinceEpoch())
+        && !hasOpenDays();
 }
 
 bool PersonState::hasOpenDays()

@@ -5,7 +5,7 @@
 #include "mirovahrctl/explain/explaincontext.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
-#include "worker/recordcomparison.h"
+#include "worker/recorddecisions.h"
 #include "worker/recorddates.h"
 
 namespace {
@@ -185,8 +185,7 @@ void RecordExplanation::explainRecalculation()
 {
     section("recalculation", "Is attendance calculated again?");
     const auto &known = m_person.known();
-    const bool moves = known && RecordComparison::isComplete(*known)
-        && RecordComparison::movesElsewhere(m_record, *known);
+    const bool moves = known && RecordDecisions::movesElsewhere(m_record, *known);
     const bool isCorrected = m_outcome.balance == QLatin1String("corrected");
     if (moves || isCorrected) {
         m_person.take(m_record);
