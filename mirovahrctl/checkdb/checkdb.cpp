@@ -12,20 +12,20 @@
 namespace {
 
 constexpr char kDescription[] =
-    "Tells whether the attendance database is what the plugin relies on: the server, the\n"
-    "connection, tables, columns, keys and routines, the rights of the account, and some\n"
-    "of what stands in the tables. Nothing is written: the server itself refuses it.\n\n"
+    "Checks whether the attendance database meets the plugin's requirements: the server,\n"
+    "the connection, tables, columns, keys and routines, the rights of the account, and\n"
+    "some of the data. Writes nothing: the server itself refuses it.\n\n"
     "Check twice. First connect as the plugin does: with its account, its connect options\n"
-    "and its time zone (TZ). That account sees only the columns that it has a right to: a\n"
-    "column without a default value that the site added, which refuses every new row, shows\n"
-    "only in a second look, with an account that reads whole tables and --other-account.";
+    "and its time zone (TZ). That account sees only the columns on which it has rights. A\n"
+    "column without a default value that the site added makes every new row fail; only a\n"
+    "second check finds it, with an account that reads whole tables and --other-account.";
 
 DbRules::Account accountOf(const CommandLine &line)
 {
     return line.isSet("other-account") ? DbRules::Account::Another : DbRules::Account::OfThePlugin;
 }
 
-/// False when the content of the tables cannot be looked at.
+/// False when the tables are not complete enough for their data to be checked.
 bool checkSchema(DbAssessment &check, DbRules::Account account)
 {
     DbSchema schema;
@@ -33,14 +33,14 @@ bool checkSchema(DbAssessment &check, DbRules::Account account)
         check.setUnusable(schema.errorText());
         return false;
     }
-    const int breachesBefore = check.breachCount();
+    const int violationsBefore = check.violationCount();
     DbRules::checkTables(check, schema);
     DbRules::checkColumns(check, schema);
     DbRules::checkKeys(check, schema);
     DbRules::checkKeylessTables(check, schema, DbRules::readKeySettings(check));
     if (account == DbRules::Account::OfThePlugin)
         DbRules::checkRights(check, schema);
-    return check.breachCount() == breachesBefore;
+    return check.violationCount() == violationsBefore;
 }
 
 void checkAll(DbAssessment &check, DbRules::Account account)
@@ -57,15 +57,15 @@ void checkAll(DbAssessment &check, DbRules::Account account)
 QString verdict(const DbAssessment &check)
 {
     if (check.isContractBroken()) {
-        return QStringLiteral("The plugin cannot work with this database as it should: %1.")
-            .arg(Wording::counted(check.breachCount(),
-                                  QStringLiteral("thing that it relies on is not so"),
-                                  QStringLiteral("things that it relies on are not so")));
+        return QStringLiteral("The plugin cannot work properly with this database: %1.")
+            .arg(Wording::counted(check.violationCount(), QStringLiteral("requirement is violated"),
+                                  QStringLiteral("requirements are violated")));
     }
-    const QString begin = check.isPartlySeen() ? QStringLiteral("As far as this account sees, the")
-                                               : QStringLiteral("The");
+    const QString begin = check.isPartlySeen()
+        ? QStringLiteral("As far as this account can see, the")
+        : QStringLiteral("The");
     if (check.seriousCount() == 0)
-        return QStringLiteral("%1 database is what the plugin relies on.").arg(begin);
+        return QStringLiteral("%1 database meets the plugin's requirements.").arg(begin);
     return QStringLiteral("%1 plugin can work with this database; %2 to look at.")
         .arg(begin,
              check.seriousCount() == 1
@@ -93,7 +93,7 @@ ExitStatus check(const CommandLine &line, const QSqlDatabase &db, Report &report
 ExitStatus runCheckDb(const QStringList &arguments, Console &console)
 {
     CommandLine line("check-db", kDescription);
-    line.addFlag("other-account", "The account is not the plugin's: do not judge its rights.");
+    line.addFlag("other-account", "The account is not the plugin's: do not check its rights.");
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
     if (const auto end = line.parse(arguments, console))

@@ -1,20 +1,20 @@
 #pragma once
 
-/// What the plugin writes, column by column: the range of the numbers, the length of the texts.
+/// What the plugin writes to each column: the range of numbers, the length of texts.
 namespace ColumnNeeds {
 
-/// A column that takes numbers.
+/// A column for numbers.
 struct Number {
     const char *table;
     const char *column;
-    double from; ///< the least number that is written
-    double to; ///< the greatest
+    double from; ///< the smallest number that is written
+    double to; ///< the largest
     const char *meaning; ///< what they are
-    bool null = false; ///< also takes NULL
+    bool null = false; ///< the plugin also writes NULL
     bool isTime = false; ///< seconds since 1970
 };
 
-/// A column that takes the ids which another column holds.
+/// A column for ids that another column holds.
 struct Reference {
     const char *table;
     const char *column;
@@ -22,11 +22,11 @@ struct Reference {
     const char *ownerColumn;
 };
 
-/// A column that takes texts. Those of HR have no longest one: check-file looks at them.
+/// A column for texts. HR's texts have no maximum length: check-file checks them.
 struct Text {
     const char *table;
     const char *column;
-    int length; ///< characters of the longest text that is not HR's; 0: all are HR's
+    int length; ///< characters of the longest text that is not from HR; 0: all are from HR
 };
 
 constexpr double kUnsigned32 = 4294967295.0;

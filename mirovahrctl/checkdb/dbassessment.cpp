@@ -18,9 +18,9 @@ QVariantList valuesOf(const QSqlQuery &query)
 
 } // namespace
 
-DbAssessment::DbAssessment(const QSqlDatabase &db, ReportWriter &report)
+DbAssessment::DbAssessment(const QSqlDatabase &db, ReportWriter &writer)
     : m_db(db)
-    , m_report(report)
+    , m_writer(writer)
 {
 }
 
@@ -50,36 +50,32 @@ QSqlError DbAssessment::attempt(const QString &sql)
 
 void DbAssessment::begin(const char *id, const char *heading)
 {
-    m_toldInSection = false;
-    m_report.section(QString::fromLatin1(id), QString::fromLatin1(heading));
+    m_hasFindings = false;
+    m_writer.section(QString::fromLatin1(id), QString::fromLatin1(heading));
 }
 
-void DbAssessment::end(const QString &wellSentence)
+void DbAssessment::end(const QString &sentenceWithoutFindings)
 {
-    if (!m_toldInSection)
-        m_report.sentence(wellSentence);
+    if (!m_hasFindings)
+        m_writer.sentence(sentenceWithoutFindings);
 }
 
-void DbAssessment::breach(const char *rule, const QString &message, const QString &advice,
-                          const QString &field)
+void DbAssessment::reportViolation(const char *rule, const QString &message, const QString &advice,
+                                   const QString &field)
 {
-    ++m_breaches;
-    tell(Severity::Error, rule, message, advice, field);
+    ++m_violations;
+    report(Severity::Error, rule, message, advice, field);
 }
 
-void DbAssessment::tell(Severity severity, const char *rule, const QString &message,
-                        const QString &advice, const QString &field)
+void DbAssessment::report(Severity severity, const char *rule, const QString &message,
+                          const QString &advice, const QString &field)
 {
     if (severity != Severity::Note)
         ++m_serious;
-    m_toldInSection = true;
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message + QLatin1Char('.');
-    finding.advice = advice;
+    m_hasFindings = true;
+    Finding finding = makeFinding(severity, rule, message + QLatin1Char('.'), advice);
     finding.field = field;
-    m_report.finding(finding);
+    m_writer.finding(finding);
 }
 
 void DbAssessment::setUnusable(const QString &reason)

@@ -10,16 +10,17 @@
 class QSqlError;
 class ReportWriter;
 
-/// What the rules of check-db have in common: the connection, how they ask and how they tell.
+/// What the rules of check-db share: the connection, queries, and the report.
 ///
-/// A query that must succeed and does not ends the check: unusable() then says why, and whatever
-/// the rules said after it is worth nothing.
+/// When a query fails that must succeed, the check is void: unusable() then says why, and what the
+/// rules report afterwards is worth nothing.
 class DbAssessment {
 public:
-    DbAssessment(const QSqlDatabase &db, ReportWriter &report);
+    DbAssessment(const QSqlDatabase &db, ReportWriter &writer);
 
+    /// The connection that is checked.
     QSqlDatabase database() const { return m_db; }
-    ReportWriter &report() { return m_report; }
+    ReportWriter &writer() { return m_writer; }
 
     /// Every row of a query that must succeed.
     QVector<QVariantList> rows(const QString &sql);
@@ -29,24 +30,26 @@ public:
     /// succeeds.
     QSqlError attempt(const QString &sql);
 
-    /// Begins a section of the report.
+    /// Begins a section of the report. \a id: its stable name for scripts.
     void begin(const char *id, const char *heading);
-    /// Ends it: with this sentence, when nothing was told in it.
-    void end(const QString &wellSentence);
+    /// Ends it, with this sentence if it has no findings.
+    void end(const QString &sentenceWithoutFindings);
 
-    /// The plugin relies on something that is not so. \a message: sentences, the last one without
-    /// its full stop.
-    void breach(const char *rule, const QString &message, const QString &advice,
+    /// Reports an error that keeps the plugin from working properly: a requirement is not met.
+    /// \a message: sentences, the last one without its full stop.
+    void reportViolation(const char *rule, const QString &message, const QString &advice,
+                         const QString &field = QString());
+    /// Reports a finding that violates no requirement. \a message as above.
+    void report(Severity severity, const char *rule, const QString &message, const QString &advice,
                 const QString &field = QString());
-    void tell(Severity severity, const char *rule, const QString &message, const QString &advice,
-              const QString &field = QString());
 
-    /// The account does not see everything that decides whether the plugin can work.
+    /// The account cannot see everything that decides whether the plugin can work.
     void setPartlySeen() { m_partlySeen = true; }
     bool isPartlySeen() const { return m_partlySeen; }
 
-    bool isContractBroken() const { return m_breaches > 0; }
-    int breachCount() const { return m_breaches; }
+    /// Whether a requirement is violated.
+    bool isContractBroken() const { return m_violations > 0; }
+    int violationCount() const { return m_violations; }
     /// How many warnings and errors there were.
     int seriousCount() const { return m_serious; }
     /// Why the check could not be finished, a sentence without its full stop; empty when it could.
@@ -55,10 +58,10 @@ public:
 
 private:
     const QSqlDatabase m_db;
-    ReportWriter &m_report;
-    int m_breaches = 0;
+    ReportWriter &m_writer;
+    int m_violations = 0;
     int m_serious = 0;
-    bool m_toldInSection = false;
+    bool m_hasFindings = false;
     bool m_partlySeen = false;
     QString m_unusable;
 };

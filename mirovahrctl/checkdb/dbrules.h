@@ -24,11 +24,10 @@ struct ServerVersion {
 /// The rules of check-db. Each function writes a section of the report.
 namespace DbRules {
 
-/// Whose account the connection uses. Another one than the plugin's may look, but its rights say
-/// nothing about the plugin.
+/// Whose account the connection uses. The rights of another account say nothing about the plugin.
 enum class Account { OfThePlugin, Another };
 
-/// Settings of the server by their names, which are in lower case.
+/// Settings of the server by name; names are in lower case.
 using ServerSettings = QHash<QString, QString>;
 
 void checkServer(DbAssessment &check);
@@ -37,13 +36,13 @@ void checkTime(DbAssessment &check);
 void checkTables(DbAssessment &check, const DbSchema &schema);
 void checkColumns(DbAssessment &check, const DbSchema &schema);
 void checkKeys(DbAssessment &check, const DbSchema &schema);
-/// The settings that decide about tables without a primary key.
+/// Reads the settings that decide whether tables without a primary key work.
 ServerSettings readKeySettings(DbAssessment &check);
 void checkKeylessTables(DbAssessment &check, const DbSchema &schema,
                         const ServerSettings &settings);
 void checkRoutines(DbAssessment &check, Account account);
 void checkRights(DbAssessment &check, const DbSchema &schema);
-/// Only for tables that are all there.
+/// For a database that has all tables and columns.
 void checkContent(DbAssessment &check);
 
 } // namespace DbRules

@@ -1,4 +1,4 @@
-// Columns: they hold what the plugin writes.
+// Columns: they can hold what the plugin writes.
 
 #include "mirovahrctl/checkdb/columnneeds.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
@@ -34,22 +34,24 @@ QString shown(const ColumnRange &range)
         : QStringLiteral("%1 to %2").arg(shown(range.from), shown(range.to));
 }
 
-void wrongKind(DbAssessment &check, const QString &field, const DbColumn &column,
-               const QString &kind)
+void reportWrongKind(DbAssessment &check, const QString &field, const DbColumn &column,
+                     const QString &kind)
 {
-    check.breach("column-kind",
-                 QStringLiteral("The column %1 is %2; the plugin writes %3 into it")
-                     .arg(field, column.fullType, kind),
-                 QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
+    check.reportViolation("column-kind",
+                          QStringLiteral("The column %1 is %2; the plugin writes %3 into it")
+                              .arg(field, column.fullType, kind),
+                          QStringLiteral("Give the column the type of reference-db/schema.sql."),
+                          field);
 }
 
-void tooNarrow(DbAssessment &check, const QString &field, const QString &message)
+void reportTooNarrow(DbAssessment &check, const QString &field, const QString &message)
 {
-    check.tell(Severity::Error, "column-too-narrow",
-               message
-                   + QStringLiteral(". What does not fit is refused, or changed where no strict "
-                                    "SQL mode is on"),
-               QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
+    check.report(
+        Severity::Error, "column-too-narrow",
+        message
+            + QStringLiteral(
+                ". Values that do not fit are refused, or altered where no strict SQL mode is on"),
+        QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
 }
 
 QString narrowNumber(const QString &field, const DbColumn &column, const ColumnRange &written,
@@ -64,7 +66,7 @@ QString day(double seconds)
     return QDateTime::fromSecsSinceEpoch(qint64(seconds)).date().toString(Qt::ISODate);
 }
 
-/// The times that the column holds, named by the side on which they end too early.
+/// The times that the column can hold, in words that name the bound that is too narrow.
 QString heldTimes(const ColumnRange &held, const ColumnRange &written)
 {
     const bool startsLate = held.from > written.from;
@@ -88,11 +90,11 @@ void checkNumbers(DbAssessment &check, const QString &field, const DbColumn &col
 {
     const auto held = ColumnRange::of(column);
     if (!held) {
-        wrongKind(check, field, column, QStringLiteral("numbers"));
+        reportWrongKind(check, field, column, QStringLiteral("numbers"));
     } else if (!held->holds(written)) {
-        tooNarrow(check, field,
-                  isTime ? narrowTime(field, column, *held, written, meaning)
-                         : narrowNumber(field, column, written, meaning));
+        reportTooNarrow(check, field,
+                        isTime ? narrowTime(field, column, *held, written, meaning)
+                               : narrowNumber(field, column, written, meaning));
     }
 }
 
@@ -100,11 +102,11 @@ void checkNull(DbAssessment &check, const QString &field, const DbColumn &column
 {
     if (column.nullable)
         return;
-    check.breach("column-not-null",
-                 QStringLiteral("The column %1 takes no NULL, which the plugin writes for what HR "
-                                "leaves open")
-                     .arg(field),
-                 QStringLiteral("Allow NULL in the column."), field);
+    check.reportViolation("column-not-null",
+                          QStringLiteral("The column %1 does not allow NULL, which the plugin "
+                                         "writes where HR leaves a value open")
+                              .arg(field),
+                          QStringLiteral("Allow NULL in the column."), field);
 }
 
 void checkNumber(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Number &need)
@@ -141,12 +143,12 @@ void checkCharset(DbAssessment &check, const QString &field, const DbColumn &col
 {
     if (column.charset.startsWith(QLatin1String("utf8")))
         return;
-    check.tell(Severity::Warning, "column-charset",
-               QStringLiteral("The column %1 has the character set %2: letters that it does not "
-                              "know are refused, or stored as question marks where no strict SQL "
-                              "mode is on")
-                   .arg(field, column.charset),
-               QStringLiteral("Convert the column to utf8mb4."), field);
+    check.report(
+        Severity::Warning, "column-charset",
+        QStringLiteral("The column %1 has the character set %2: letters that it lacks are refused, "
+                       "or stored as question marks where no strict SQL mode is on")
+            .arg(field, column.charset),
+        QStringLiteral("Convert the column to utf8mb4."), field);
 }
 
 void checkText(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Text &need)
@@ -156,11 +158,11 @@ void checkText(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::T
         return;
     const QString field = fieldName(need.table, need.column);
     if (!isText(*column)) {
-        wrongKind(check, field, *column, QStringLiteral("texts"));
+        reportWrongKind(check, field, *column, QStringLiteral("texts"));
         return;
     }
     if (column->length < need.length) {
-        tooNarrow(
+        reportTooNarrow(
             check, field,
             QStringLiteral("The column %1 is %2; the plugin writes up to %3 characters into it")
                 .arg(field, column->fullType)
@@ -169,7 +171,7 @@ void checkText(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::T
     checkCharset(check, field, *column);
 }
 
-void tellWidths(DbAssessment &check, const DbSchema &schema)
+void reportWidths(DbAssessment &check, const DbSchema &schema)
 {
     Table table{QStringLiteral("texts"),
                 {{QStringLiteral("column"), QStringLiteral("Text column")},
@@ -183,7 +185,7 @@ void tellWidths(DbAssessment &check, const DbSchema &schema)
                 {fieldName(need.table, need.column), column->length, column->charset});
         }
     }
-    check.report().table(table);
+    check.writer().table(table);
 }
 
 } // namespace
@@ -197,6 +199,6 @@ void DbRules::checkColumns(DbAssessment &check, const DbSchema &schema)
         checkReference(check, schema, need);
     for (const ColumnNeeds::Text &need : ColumnNeeds::kTexts)
         checkText(check, schema, need);
-    check.end(QStringLiteral("The columns hold what the plugin writes."));
-    tellWidths(check, schema);
+    check.end(QStringLiteral("The columns can hold what the plugin writes."));
+    reportWidths(check, schema);
 }

@@ -1,4 +1,4 @@
-// The connection, as its options and the driver make it.
+// The connection as its options and the driver establish it.
 
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -23,30 +23,33 @@ void checkCharset(DbAssessment &check, const QVariantList &row)
 {
     if (isUnicode(row.value(1)) && isUnicode(row.value(2)) && isUnicode(row.value(3)))
         return;
-    check.tell(Severity::Error, "connection-charset",
-               QStringLiteral("The connection's character set is not UTF-8 (client %1, connection "
-                              "%2, results %3): letters with accents arrive wrong")
-                   .arg(row.value(1).toString(), row.value(2).toString(), row.value(3).toString()),
-               QStringLiteral("Look for SET NAMES in the server's init_connect."));
+    check.report(
+        Severity::Error, "connection-charset",
+        QStringLiteral("The connection's character set is not UTF-8 (client %1, connection %2, "
+                       "results %3): accented letters are stored wrongly")
+            .arg(row.value(1).toString(), row.value(2).toString(), row.value(3).toString()),
+        QStringLiteral("Check the server's init_connect for SET NAMES."));
 }
 
 void checkSeveralStatements(DbAssessment &check)
 {
     QSqlQuery query(check.database());
     const bool allowed = query.exec(QLatin1String(kTwoStatements)) && query.nextResult();
-    check.report().fact(QStringLiteral("severalStatements"),
+    check.writer().fact(QStringLiteral("severalStatements"),
                         QStringLiteral("Several statements in one text allowed"), allowed);
     if (allowed)
         return;
-    check.tell(Severity::Warning, "several-statements",
-               QStringLiteral("The connection refuses several statements in one text. The plugin "
-                              "does without, but where the attendance server uses the same "
-                              "classes, a changed time zone does not reach the terminals"),
-               QStringLiteral("Look for a proxy between here and the server that takes the "
-                              "statements apart."));
+    check.report(
+        Severity::Warning, "several-statements",
+        QStringLiteral("The connection refuses several statements in one text. The plugin does not "
+                       "need them, but where the attendance server uses the same classes, a "
+                       "changed time zone does not reach the terminals"),
+        QStringLiteral(
+            "Check for a proxy between this machine and the server that splits the statements."));
 }
 
-/// Whether the driver's options make an update count the rows that it found, not those it changed.
+/// Whether the options make the driver report the rows that an update matched instead of those that
+/// it changed.
 bool countsFoundRows(const QString &connectOptions)
 {
     const QStringList options = connectOptions.split(QLatin1Char(';'));
@@ -63,10 +66,11 @@ void checkAffectedRows(DbAssessment &check)
 {
     if (!countsFoundRows(check.database().connectOptions()))
         return;
-    check.breach("found-rows",
-                 QStringLiteral("The connect options have CLIENT_FOUND_ROWS: the plugin then takes "
-                                "rows that it left as they were for rows that it changed"),
-                 QStringLiteral("Leave the option out, here and in the attendance server."));
+    check.reportViolation(
+        "found-rows",
+        QStringLiteral("The connect options contain CLIENT_FOUND_ROWS: the plugin then counts rows "
+                       "that it left unchanged as changed"),
+        QStringLiteral("Leave the option out, here and in the attendance server."));
 }
 
 } // namespace
@@ -75,10 +79,10 @@ void DbRules::checkConnection(DbAssessment &check)
 {
     const QVariantList row = check.row(QLatin1String(kSelectConnection));
     check.begin("connection", "Connection");
-    check.report().fact(QStringLiteral("account"), QStringLiteral("Account"), row.value(0));
-    check.report().fact(QStringLiteral("charset"), QStringLiteral("Character set"), row.value(1));
+    check.writer().fact(QStringLiteral("account"), QStringLiteral("Account"), row.value(0));
+    check.writer().fact(QStringLiteral("charset"), QStringLiteral("Character set"), row.value(1));
     checkCharset(check, row);
     checkSeveralStatements(check);
     checkAffectedRows(check);
-    check.end(QStringLiteral("The connection does what the plugin expects of it."));
+    check.end(QStringLiteral("The connection works as the plugin requires."));
 }

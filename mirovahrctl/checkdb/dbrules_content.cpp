@@ -1,4 +1,4 @@
-// What stands in the tables, as far as the plugin takes it for granted.
+// The data in the tables, as far as the plugin depends on it.
 
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -11,21 +11,21 @@ namespace {
 
 constexpr char kSelectVacationFunds[] = "SELECT fid FROM funds WHERE iid = 3 AND unit = 2"
                                         " ORDER BY fid";
-constexpr char kSelectTwiceNumbers[] = "SELECT number FROM branches WHERE number IS NOT NULL"
-                                       " GROUP BY number HAVING COUNT(*) > 1 ORDER BY number";
+constexpr char kSelectDuplicateNumbers[] = "SELECT number FROM branches WHERE number IS NOT NULL"
+                                           " GROUP BY number HAVING COUNT(*) > 1 ORDER BY number";
 constexpr char kSelectLargeBranches[] = "SELECT bid FROM branches WHERE number IS NOT NULL"
                                         " AND bid > 65535 ORDER BY bid";
 constexpr char kSelectLargeAdministrators[] =
     "SELECT aid FROM admins WHERE aid > 65535 ORDER BY aid";
-constexpr char kSelectTwiceCalendars[] =
+constexpr char kSelectDuplicateCalendars[] =
     "SELECT CONCAT(calendarID, ' of master group ', parent) FROM `groups`"
     " WHERE parent IS NOT NULL GROUP BY parent, calendarID HAVING COUNT(*) > 1"
     " ORDER BY parent, calendarID";
-constexpr char kSelectTwiceSupervisors[] =
+constexpr char kSelectDuplicateSupervisors[] =
     "SELECT personalNumber FROM admins WHERE personalNumber > 0"
     " GROUP BY personalNumber HAVING COUNT(*) > 1 ORDER BY personalNumber";
-/// The plugin knows an active person by the number in pamId, and writes by pid.
-constexpr char kSelectStrangePayrollIds[] =
+/// The plugin looks an active person up by pamId, and writes by pid.
+constexpr char kSelectDisagreeingPayrollIds[] =
     "SELECT CONCAT(pid, ' (', pamId, ')') FROM people WHERE status"
     " AND pid <> CASE WHEN INSTR(pamId, '.') > 0 THEN CONCAT(SUBSTRING_INDEX(pamId, '.', 1) + 0,"
     " SUBSTRING_INDEX(SUBSTRING_INDEX(pamId, '.', 2), '.', -1) + 0) ELSE CONCAT(pamId + 0, '0') END"
@@ -61,22 +61,23 @@ void checkVacationFund(DbAssessment &check)
 {
     const QStringList funds = firstColumn(check, kSelectVacationFunds);
     if (funds.isEmpty()) {
-        check.tell(Severity::Warning, "vacation-fund-none",
-                   QStringLiteral("There is no vacation fund (a row of funds with iid 3 and unit "
-                                  "2): balances of vacation are not brought in step"),
-                   QStringLiteral("Fine when they shall not be."), QStringLiteral("funds"));
+        check.report(Severity::Warning, "vacation-fund-none",
+                     QStringLiteral("There is no vacation fund (a row of funds with iid 3 and unit "
+                                    "2): vacation balances are not synchronised"),
+                     QStringLiteral("Ignore this if they should not be."), QStringLiteral("funds"));
     } else if (funds.size() > 1) {
-        check.tell(Severity::Warning, "vacation-fund-several",
-                   QStringLiteral("There are several vacation funds (iid 3, unit 2): %1. The "
-                                  "plugin takes the first that the server happens to return")
-                       .arg(shown(funds)),
-                   QStringLiteral("Leave one."), QStringLiteral("funds"));
+        check.report(Severity::Warning, "vacation-fund-several",
+                     QStringLiteral("There are several vacation funds (iid 3, unit 2): %1. The "
+                                    "plugin uses the first that the server happens to return")
+                         .arg(shown(funds)),
+                     QStringLiteral("Keep only one."), QStringLiteral("funds"));
     } else if (funds.constFirst().toUInt() > kLargestFund) {
-        check.tell(Severity::Error, "vacation-fund-number",
-                   QStringLiteral("The vacation fund has the number %1; the plugin keeps 16 bits "
-                                  "of it and would write to another fund")
-                       .arg(funds.constFirst()),
-                   QStringLiteral("Give the fund a number up to 65535."), QStringLiteral("funds"));
+        check.report(Severity::Error, "vacation-fund-number",
+                     QStringLiteral("The vacation fund has the number %1; the plugin keeps 16 bits "
+                                    "of it and would write to another fund")
+                         .arg(funds.constFirst()),
+                     QStringLiteral("Give the fund a number up to 65535."),
+                     QStringLiteral("funds"));
     }
 }
 
@@ -88,62 +89,62 @@ void checkPayrollExport(DbAssessment &check)
     const QString found = exports.isEmpty()
         ? QStringLiteral("There is no payroll export")
         : QStringLiteral("There are several payroll exports: ") + shown(exports);
-    check.tell(
+    check.report(
         Severity::Warning, exports.isEmpty() ? "payroll-export-none" : "payroll-export-several",
         found
             + QStringLiteral(". The plugin adds new people to one only when there is exactly "
                              "one key exportPam.N.active in vars, whatever its value"),
-        QStringLiteral("Fine when nobody shall be added."), QStringLiteral("vars"));
+        QStringLiteral("Ignore this if nobody should be added."), QStringLiteral("vars"));
 }
 
-/// A rule about rows that must not be; \a message has one place for them.
+/// A rule about rows that must not exist. \a message has one placeholder for them.
 void checkNone(DbAssessment &check, const char *sql, Severity severity, const char *rule,
                const char *message, const char *advice, const char *field)
 {
     const QStringList rows = firstColumn(check, sql);
     if (rows.isEmpty())
         return;
-    check.tell(severity, rule, QString::fromLatin1(message).arg(shown(rows)),
-               QString::fromLatin1(advice), QString::fromLatin1(field));
+    check.report(severity, rule, QString::fromLatin1(message).arg(shown(rows)),
+                 QString::fromLatin1(advice), QString::fromLatin1(field));
 }
 
 void checkBranches(DbAssessment &check)
 {
-    checkNone(check, kSelectTwiceNumbers, Severity::Warning, "branch-number-twice",
-              "Several branches have the same number: %1. People of that cost centre go to any of "
-              "them",
-              "Leave the number to one branch.", "branches.number");
+    checkNone(check, kSelectDuplicateNumbers, Severity::Warning, "branch-number-twice",
+              "Several branches have the same number: %1. People of that cost centre are placed in "
+              "any of them",
+              "Give the number to one branch only.", "branches.number");
     checkNone(check, kSelectLargeBranches, Severity::Error, "branch-id-large",
-              "The ids of these branches do not fit 16 bits: %1. Members are added to another "
-              "branch, or to none",
+              "The ids of these branches exceed 16 bits: %1. Members are added to another branch, "
+              "or to none",
               "Give the branches ids up to 65535.", "branches.bid");
-    checkNone(check, kSelectTwiceCalendars, Severity::Warning, "calendar-twice",
-              "Several calendar groups stand for the same calendar: %1. People get any of them",
-              "Leave one group to a calendar in each master group.", "groups.calendarID");
+    checkNone(
+        check, kSelectDuplicateCalendars, Severity::Warning, "calendar-twice",
+        "Several calendar groups have the same calendar: %1. People are placed in any of them",
+        "Keep one group for each calendar in a master group.", "groups.calendarID");
 }
 
 void checkAdministrators(DbAssessment &check)
 {
     checkNone(check, kSelectLargeAdministrators, Severity::Warning, "admin-id-large",
-              "The ids of these administrators do not fit 16 bits: %1. The plugin writes them "
-              "whole, but the components of the attendance server that use its repository classes "
-              "keep 16 bits: people go to another administrator, or to none",
+              "The ids of these administrators exceed 16 bits: %1. The plugin writes them "
+              "correctly, but other components of the attendance server that use its repository "
+              "classes keep only 16 bits: people are assigned to another administrator, or to none",
               "Give the administrators ids up to 65535.", "admins.aid");
-    checkNone(check, kSelectTwiceSupervisors, Severity::Warning, "supervisor-twice",
+    checkNone(check, kSelectDuplicateSupervisors, Severity::Warning, "supervisor-twice",
               "Several administrators have the same personal number: %1. Any of them gets the "
               "requests",
-              "Leave the number to one administrator.", "admins.personalNumber");
+              "Give the number to one administrator only.", "admins.personalNumber");
 }
 
 void checkPeople(DbAssessment &check)
 {
-    checkNone(
-        check, kSelectStrangePayrollIds, Severity::Warning, "payroll-id-strange",
-        "Of these active people pid and pamId do not agree: %1. The plugin looks for a person "
-        "by pamId and writes by pid: it changes nobody, or takes the person for a new one",
-        "pamId is the personal number, a dot and the number of the relationship; pid is the "
-        "two numbers in one.",
-        "people.pamId");
+    checkNone(check, kSelectDisagreeingPayrollIds, Severity::Warning, "payroll-id-strange",
+              "The pid and pamId of these active people disagree: %1. The plugin looks a person up "
+              "by pamId and writes by pid: it changes nobody, or treats the person as new",
+              "pamId is the personal number, a dot and the number of the relationship; pid is the "
+              "digits of both joined.",
+              "people.pamId");
 }
 
 void checkSelectionWidth(DbAssessment &check)
@@ -152,10 +153,10 @@ void checkSelectionWidth(DbAssessment &check)
     const qint64 width = check.row(QLatin1String(kSelectValueLength)).value(0).toLongLong();
     if (needed <= width)
         return;
-    check.tell(
+    check.report(
         Severity::Warning, "selection-width",
-        QStringLiteral("The column vars.value holds %1; the selection of the payroll export "
-                       "would need %2 for everybody who is active")
+        QStringLiteral("The column vars.value holds %1; the selection of the payroll export would "
+                       "need %2 to name every active person")
             .arg(Wording::counted(width, QStringLiteral("character"), QStringLiteral("characters")),
                  QString::number(needed)),
         QStringLiteral("Make the column a MEDIUMTEXT."), QStringLiteral("vars.value"));
@@ -172,5 +173,5 @@ void DbRules::checkContent(DbAssessment &check)
     checkBranches(check);
     checkAdministrators(check);
     checkPeople(check);
-    check.end(QStringLiteral("What stands in the tables raises no doubt."));
+    check.end(QStringLiteral("The data meets the plugin's requirements."));
 }

@@ -1,4 +1,4 @@
-// Tables without a primary key: servers can be set to refuse them.
+// Tables without a primary key: servers can be configured to refuse them.
 
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -41,7 +41,8 @@ QString temporaryEngine(const ServerSettings &settings)
     return own.isEmpty() ? settings.value(QStringLiteral("default_storage_engine")) : own;
 }
 
-/// What keeps a temporary table without a primary key from being made.
+/// The setting that prevents creating a temporary table without a primary key; nothing if none
+/// does.
 std::optional<Refusal> refusalOfTemporaryTable(const ServerSettings &settings)
 {
     const QString chosen = temporaryEngine(settings);
@@ -55,7 +56,7 @@ std::optional<Refusal> refusalOfTemporaryTable(const ServerSettings &settings)
                        QStringLiteral("Turn it off, or set default_tmp_storage_engine to Aria.")};
     if (isOn(settings, "wsrep_on") && has(settings, "wsrep_mode", "REQUIRED_PRIMARY_KEY"))
         return Refusal{QStringLiteral("wsrep_mode = REQUIRED_PRIMARY_KEY"), 4165,
-                       QStringLiteral("Take the mode out of wsrep_mode.")};
+                       QStringLiteral("Remove the mode from wsrep_mode.")};
     return std::nullopt;
 }
 
@@ -64,16 +65,16 @@ void checkTemporaryTable(DbAssessment &check, const ServerSettings &settings)
     const auto refusal = refusalOfTemporaryTable(settings);
     if (!refusal)
         return;
-    check.tell(Severity::Warning, "temporary-table-refused",
-               QStringLiteral("The server has %1: CREATE TEMPORARY TABLE tmptbl_updateTermsSyncTZ "
-                              "fails with error %2. The plugin does without, but where the "
-                              "attendance server uses the same classes, a changed time zone does "
-                              "not reach the terminals")
-                   .arg(refusal->setting, QString::number(refusal->error)),
-               refusal->remedy);
+    check.report(Severity::Warning, "temporary-table-refused",
+                 QStringLiteral(
+                     "The server has %1: CREATE TEMPORARY TABLE tmptbl_updateTermsSyncTZ fails "
+                     "with error %2. The plugin does not need it, but where the attendance server "
+                     "uses the same classes, a changed time zone does not reach the terminals")
+                     .arg(refusal->setting, QString::number(refusal->error)),
+                 refusal->remedy);
 }
 
-/// Whether the table has a primary key, or a unique one on columns that take no NULL.
+/// Whether the table has a primary key, or a unique key on NOT NULL columns.
 bool hasPrimaryKey(const DbSchema &schema, const QString &table)
 {
     const QVector<DbKey> keys = schema.uniqueKeys(table);
@@ -98,15 +99,15 @@ void checkWrites(DbAssessment &check, const DbSchema &schema, const ServerSettin
     }
     if (tables.isEmpty())
         return;
-    // A key on a column that the account does not see is hidden, too.
+    // Keys on columns that the account cannot see are hidden as well.
     const Severity severity = check.isPartlySeen() ? Severity::Note : Severity::Error;
-    check.tell(severity, "primary-key-wanted",
-               QStringLiteral("The server has wsrep_certify_nonPK = OFF, and this account sees no "
-                              "primary key on these tables: %1. Without one, every write of the "
-                              "plugin to them fails with error 1213 (deadlock)")
-                   .arg(tables.join(QStringLiteral(", "))),
-               QStringLiteral("Add a column id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY "
-                              "KEY."));
+    check.report(severity, "primary-key-wanted",
+                 QStringLiteral("The server has wsrep_certify_nonPK = OFF, and this account sees "
+                                "no primary key on these tables: %1. Without one, each of the "
+                                "plugin's writes to them fails with error 1213 (deadlock)")
+                     .arg(tables.join(QStringLiteral(", "))),
+                 QStringLiteral("Add a column id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY "
+                                "KEY."));
 }
 
 } // namespace
@@ -126,5 +127,5 @@ void DbRules::checkKeylessTables(DbAssessment &check, const DbSchema &schema,
     check.begin("keyless-tables", "Tables without a primary key");
     checkTemporaryTable(check, settings);
     checkWrites(check, schema, settings);
-    check.end(QStringLiteral("The server takes them where they are used."));
+    check.end(QStringLiteral("The server accepts them where they are used."));
 }

@@ -1,4 +1,4 @@
-// Unique keys: an upsert must hit the row that it means, and no other.
+// Unique keys: an upsert must update the row that it means, and no other.
 
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
@@ -80,29 +80,30 @@ private:
     void missingUpsertKey(const Columns &columns)
     {
         const QString message =
-            QStringLiteral("The table %1 has no unique key on exactly %2: %3 makes a second row "
-                           "where it should change the first")
+            QStringLiteral("The table %1 has no unique key on exactly %2: %3 inserts a second row "
+                           "instead of updating the first")
                 .arg(m_table, listed(columns),
                      PluginRights::insertsInto(m_table)
                          ? QStringLiteral("the plugin")
                          : QStringLiteral("another component of the attendance server"));
-        const QString advice = QStringLiteral("Remove the double rows and add the key.");
+        const QString advice = QStringLiteral("Remove the duplicate rows and add the key.");
         if (PluginRights::insertsInto(m_table))
-            m_check.breach("key-missing", message, advice, m_table);
+            m_check.reportViolation("key-missing", message, advice, m_table);
         else
-            m_check.tell(Severity::Warning, "key-missing-elsewhere", message, advice, m_table);
+            m_check.report(Severity::Warning, "key-missing-elsewhere", message, advice, m_table);
     }
 
     void missingIdentity(const Columns &columns)
     {
-        m_check.tell(Severity::Warning, "identity-missing",
-                     QStringLiteral("The table %1 has no unique key on %2: of two rows with the "
-                                    "same value any may be taken")
-                         .arg(m_table, listed(columns)),
-                     QStringLiteral("Remove the double rows and add the key."), m_table);
+        m_check.report(Severity::Warning, "identity-missing",
+                       QStringLiteral("The table %1 has no unique key on %2: of two rows with the "
+                                      "same value, either may be used")
+                           .arg(m_table, listed(columns)),
+                       QStringLiteral("Remove the duplicate rows and add the key."), m_table);
     }
 
-    /// Whether the key is one of the contract, or on more columns: then nothing hits it alone.
+    /// Whether the key is one of the contract's, or has more columns: then no upsert collides in it
+    /// alone.
     bool isHarmless(const Columns &columns) const
     {
         return std::any_of(std::begin(m_contract.keys), std::end(m_contract.keys),
@@ -112,8 +113,8 @@ private:
                            });
     }
 
-    /// Whether every new row has a value of its own in the key: then no upsert hits it.
-    bool isNeverHit(const Columns &columns) const
+    /// Whether every new row gets a unique value in the key: then no upsert collides in it.
+    bool neverCollides(const Columns &columns) const
     {
         return std::any_of(columns.cbegin(), columns.cend(), [this](const QString &name) {
             const DbColumn *const column = m_schema.column(m_table, name);
@@ -126,19 +127,19 @@ private:
     {
         for (const DbKey &key : m_keys) {
             const Columns columns = toSet(key.columns);
-            if (!isHarmless(columns) && !isNeverHit(columns))
+            if (!isHarmless(columns) && !neverCollides(columns))
                 furtherKey(key.name, columns);
         }
     }
 
     void furtherKey(const QString &name, const Columns &columns)
     {
-        m_check.tell(Severity::Error, "key-unexpected",
-                     QStringLiteral("The table %1 has a unique key %2 on %3: what the plugin "
-                                    "writes for a new row can hit another row by it and change "
-                                    "that one instead")
-                         .arg(m_table, name, listed(columns)),
-                     QStringLiteral("Make it a key that is not unique."), m_table);
+        m_check.report(
+            Severity::Error, "key-unexpected",
+            QStringLiteral("The table %1 has a unique key %2 on %3: a row that the plugin inserts "
+                           "can collide with another row in it and change that one instead")
+                .arg(m_table, name, listed(columns)),
+            QStringLiteral("Make the key non-unique."), m_table);
     }
 
     DbAssessment &m_check;
@@ -155,11 +156,12 @@ void checkAutomaticNumber(DbAssessment &check, const DbSchema &schema,
     const DbColumn *const column = schema.column(name, QString::fromLatin1(table.generatedColumn));
     if (column == nullptr || column->automaticNumber || !PluginRights::insertsInto(name))
         return;
-    check.breach("not-automatic",
-                 QStringLiteral("The column %1.%2 is not AUTO_INCREMENT: the plugin leaves its "
-                                "value to the server")
-                     .arg(name, column->name),
-                 QStringLiteral("Make it AUTO_INCREMENT."), name + QLatin1Char('.') + column->name);
+    check.reportViolation(
+        "not-automatic",
+        QStringLiteral("The column %1.%2 is not AUTO_INCREMENT: the plugin leaves its "
+                       "value to the server")
+            .arg(name, column->name),
+        QStringLiteral("Make it AUTO_INCREMENT."), name + QLatin1Char('.') + column->name);
 }
 
 } // namespace
@@ -173,5 +175,5 @@ void DbRules::checkKeys(DbAssessment &check, const DbSchema &schema)
         KeyCheck(check, schema, table).run();
         checkAutomaticNumber(check, schema, table);
     }
-    check.end(QStringLiteral("The unique keys are as they must be."));
+    check.end(QStringLiteral("The unique keys are as the plugin requires."));
 }

@@ -32,11 +32,11 @@ void checkRight(DbAssessment &check, const DbSchema &schema, const char *right,
     if (missing.isEmpty())
         return;
     const QString verb = QString::fromLatin1(right).toUpper();
-    check.breach("right-missing",
-                 QStringLiteral("The account lacks %1 on %2 of the table %3")
-                     .arg(verb, missing.join(QStringLiteral(", ")), table),
-                 QStringLiteral("Load reference-db/grants.sql, with the account's name in it."),
-                 table);
+    check.reportViolation(
+        "right-missing",
+        QStringLiteral("The account lacks %1 on %2 of the table %3")
+            .arg(verb, missing.join(QStringLiteral(", ")), table),
+        QStringLiteral("Load reference-db/grants.sql, with the account's name in it."), table);
 }
 
 void checkTable(DbAssessment &check, const DbSchema &schema,
@@ -64,13 +64,14 @@ void checkExcess(DbAssessment &check, const char *sql, const QString &where)
     const QStringList rights = granted(check, sql);
     if (rights.isEmpty())
         return;
-    check.tell(Severity::Warning, "right-excess",
-               QStringLiteral("The account may do more than the plugin needs, on %1: %2. Texts of "
-                              "the export go into the plugin's statements as they are, so whoever "
-                              "writes the export can do all that the account may do")
-                   .arg(where, rights.join(QStringLiteral(", "))),
-               QStringLiteral("Run the plugin with an account of reference-db/grants.sql; "
-                              "docs/security.md explains."));
+    check.report(
+        Severity::Warning, "right-excess",
+        QStringLiteral("The account has rights on %1 that the plugin does not need: %2. Texts of "
+                       "the export go into the plugin's statements unescaped, so whoever writes "
+                       "the export can do whatever the account may do")
+            .arg(where, rights.join(QStringLiteral(", "))),
+        QStringLiteral(
+            "Run the plugin with an account as in reference-db/grants.sql; see docs/security.md."));
 }
 
 } // namespace
@@ -82,5 +83,5 @@ void DbRules::checkRights(DbAssessment &check, const DbSchema &schema)
         checkTable(check, schema, rights);
     checkExcess(check, kSelectOnServer, QStringLiteral("the whole server"));
     checkExcess(check, kSelectOnDatabases, QStringLiteral("whole databases"));
-    check.end(QStringLiteral("The account may do what the plugin needs, and hardly more."));
+    check.end(QStringLiteral("The account has the rights that the plugin needs, and hardly more."));
 }

@@ -1,4 +1,4 @@
-// The server: what it is, its SQL mode, whether it takes writes.
+// The server: its version, its SQL mode, whether it accepts writes.
 
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -14,41 +14,42 @@ void checkVersion(DbAssessment &check, const ServerVersion &version)
 {
     if (!version.reservesGroups())
         return;
-    check.breach("groups-reserved",
-                 QStringLiteral("The server is %1. There \"groups\" is a reserved word, and the "
-                                "plugin's statement that looks up a calendar group, which writes "
-                                "it bare, fails for everybody")
-                     .arg(version.name()),
-                 QStringLiteral("Use MariaDB, or MySQL up to 5.7."));
+    check.reportViolation(
+        "groups-reserved",
+        QStringLiteral(
+            "The server is %1. There \"groups\" is a reserved word, and the plugin's statement "
+            "that looks up a calendar group, which does not quote it, fails for everybody")
+            .arg(version.name()),
+        QStringLiteral("Use MariaDB, or MySQL up to 5.7."));
 }
 
 void checkWritable(DbAssessment &check, const QString &readOnly)
 {
     if (readOnly == QLatin1String("0") || readOnly == QLatin1String("OFF"))
         return;
-    check.breach("server-read-only",
-                 QStringLiteral("The server is read-only: every write of the plugin fails"),
-                 QStringLiteral("Name the server that takes writes; a replica does not."));
+    check.reportViolation(
+        "server-read-only",
+        QStringLiteral("The server is read-only: every write of the plugin fails"),
+        QStringLiteral("Use the server that accepts writes, not a replica."));
 }
 
 void checkFatalModes(DbAssessment &check, const QStringList &modes)
 {
-    const QString advice =
-        QStringLiteral("Take the mode out of the server's sql_mode, or out of that of the "
-                       "plugin's connections.");
+    const QString advice = QStringLiteral(
+        "Remove the mode from the server's sql_mode, or from that of the plugin's connections.");
     if (modes.contains(QLatin1String("ONLY_FULL_GROUP_BY"))) {
-        check.breach("sql-mode-group-by",
-                     QStringLiteral("The SQL mode ONLY_FULL_GROUP_BY is on: the statements that "
-                                    "keep groups_month in step and that queue a time zone for the "
-                                    "terminals fail"),
-                     advice);
+        check.reportViolation(
+            "sql-mode-group-by",
+            QStringLiteral("The SQL mode ONLY_FULL_GROUP_BY is on: the statements that rebuild "
+                           "groups_month and queue a time zone for the terminals fail"),
+            advice);
     }
     if (modes.contains(QLatin1String("EMPTY_STRING_IS_NULL"))) {
-        check.breach("sql-mode-empty-null",
-                     QStringLiteral("The SQL mode EMPTY_STRING_IS_NULL is on: people without a "
-                                    "title or telephone cannot be written to columns that take no "
-                                    "NULL"),
-                     advice);
+        check.reportViolation(
+            "sql-mode-empty-null",
+            QStringLiteral("The SQL mode EMPTY_STRING_IS_NULL is on: people without a title or "
+                           "telephone cannot be written to columns that do not allow NULL"),
+            advice);
     }
 }
 
@@ -56,18 +57,19 @@ void checkOtherModes(DbAssessment &check, const QStringList &modes)
 {
     if (!modes.contains(QLatin1String("STRICT_TRANS_TABLES"))
         && !modes.contains(QLatin1String("STRICT_ALL_TABLES"))) {
-        check.tell(Severity::Warning, "sql-mode-not-strict",
-                   QStringLiteral("No strict SQL mode is on: a text that is longer than its column "
-                                  "is cut and a number that does not fit is changed, and no log "
-                                  "tells"),
-                   QStringLiteral("Add STRICT_TRANS_TABLES to the server's sql_mode."));
+        check.report(
+            Severity::Warning, "sql-mode-not-strict",
+            QStringLiteral("No strict SQL mode is on: texts longer than their column are cut and "
+                           "numbers that do not fit are altered without any message"),
+            QStringLiteral("Add STRICT_TRANS_TABLES to the server's sql_mode."));
     }
     if (modes.contains(QLatin1String("NO_BACKSLASH_ESCAPES"))) {
-        check.tell(Severity::Note, "sql-mode-backslash",
-                   QStringLiteral("The SQL mode NO_BACKSLASH_ESCAPES is on: a backslash in a text "
-                                  "of the export is stored as it is. Without the mode it changes "
-                                  "the character after it"),
-                   {});
+        check.report(
+            Severity::Note, "sql-mode-backslash",
+            QStringLiteral(
+                "The SQL mode NO_BACKSLASH_ESCAPES is on: a backslash in a text of the export is "
+                "stored literally. Without the mode it escapes the next character"),
+            {});
     }
 }
 
@@ -94,11 +96,11 @@ void DbRules::checkServer(DbAssessment &check)
     const ServerVersion version = ServerVersion::parse(row.value(0).toString());
     const QString modes = row.value(1).toString();
     check.begin("server", "Server");
-    check.report().fact(QStringLiteral("server"), QStringLiteral("Server"), version.name());
-    check.report().fact(QStringLiteral("sqlMode"), QStringLiteral("SQL mode"), modes);
+    check.writer().fact(QStringLiteral("server"), QStringLiteral("Server"), version.name());
+    check.writer().fact(QStringLiteral("sqlMode"), QStringLiteral("SQL mode"), modes);
     checkVersion(check, version);
     checkWritable(check, row.value(2).toString());
     checkFatalModes(check, modes.split(QLatin1Char(',')));
     checkOtherModes(check, modes.split(QLatin1Char(',')));
-    check.end(QStringLiteral("The server and its SQL mode suit the plugin."));
+    check.end(QStringLiteral("The server and its SQL mode are suitable for the plugin."));
 }

@@ -1,4 +1,4 @@
-// Tables and columns: there, and filled by the server where the plugin leaves them out.
+// Tables and columns: they exist, and the server fills those that the plugin leaves out.
 
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
@@ -10,12 +10,11 @@
 
 namespace {
 
-const QString kCreateAdvice = QStringLiteral(
-    "See the definition in reference-db/schema.sql; to the account, what it has no right to is not "
-    "there.");
+const QString kCreateAdvice = QStringLiteral("See the definition in reference-db/schema.sql. An "
+                                             "account cannot see what it has no rights on.");
 
-/// Looks for everything that the contract names, and keeps apart what only other components than
-/// the plugin use.
+/// Looks for everything that the contract names, and lists separately what only other components
+/// use.
 class NameCheck {
 public:
     NameCheck(DbAssessment &check, const DbSchema &schema)
@@ -42,9 +41,10 @@ private:
             m_missingElsewhere += table;
             return;
         }
-        m_check.breach(
+        m_check.reportViolation(
             "table-missing",
-            QStringLiteral("There is no table %1, or the account has no right to it").arg(table),
+            QStringLiteral("The table %1 does not exist, or the account has no rights on it")
+                .arg(table),
             kCreateAdvice, table);
     }
 
@@ -63,9 +63,10 @@ private:
             m_missingElsewhere += field;
             return;
         }
-        m_check.breach(
+        m_check.reportViolation(
             "column-missing",
-            QStringLiteral("There is no column %1, or the account has no right to it").arg(field),
+            QStringLiteral("The column %1 does not exist, or the account has no rights on it")
+                .arg(field),
             kCreateAdvice, field);
     }
 
@@ -74,18 +75,18 @@ private:
     QStringList m_missingElsewhere;
 };
 
-void tellMissingElsewhere(DbAssessment &check, const QStringList &names)
+void reportMissingElsewhere(DbAssessment &check, const QStringList &names)
 {
     if (names.isEmpty())
         return;
-    check.tell(Severity::Note, "missing-elsewhere",
-               QStringLiteral("Not there, or hidden from this account: %1. The plugin does not "
-                              "use them; other components of the attendance server may")
-                   .arg(names.join(QStringLiteral(", "))),
-               {});
+    check.report(Severity::Note, "missing-elsewhere",
+                 QStringLiteral("Missing, or hidden from this account: %1. The plugin does not use "
+                                "them; other components of the attendance server may")
+                     .arg(names.join(QStringLiteral(", "))),
+                 {});
 }
 
-/// Columns that the site added and that keep every insert from succeeding.
+/// Columns that the site added and that make every insert fail.
 void checkLeftOutColumns(DbAssessment &check, const DbSchema &schema,
                          const PluginRights::TableRights &rights)
 {
@@ -98,13 +99,14 @@ void checkLeftOutColumns(DbAssessment &check, const DbSchema &schema,
             inserted.contains(column.name, Qt::CaseInsensitive) && !sometimes.contains(column.name);
         if (always || column.nullable || column.filledByServer)
             continue;
-        check.breach("column-without-default",
-                     QStringLiteral("The column %1.%2 has no default value and takes no NULL: a "
-                                    "new row, which the plugin makes without it, is refused in "
-                                    "strict SQL modes")
-                         .arg(table, column.name),
-                     QStringLiteral("Give the column a default value."),
-                     table + QLatin1Char('.') + column.name);
+        check.reportViolation(
+            "column-without-default",
+            QStringLiteral(
+                "The column %1.%2 has no default value and does not allow NULL: in strict SQL "
+                "modes the plugin's new rows, which leave it out, are refused")
+                .arg(table, column.name),
+            QStringLiteral("Give the column a default value."),
+            table + QLatin1Char('.') + column.name);
     }
 }
 
@@ -121,7 +123,7 @@ bool seesAllColumns(DbAssessment &check, const QString &table)
     return !check.attempt(QStringLiteral("SELECT * FROM `%1` LIMIT 0").arg(table)).isValid();
 }
 
-/// The server hides the columns that an account has no right to, and the keys on them.
+/// The server hides columns on which an account has no rights, and the keys on them.
 void noteHiddenColumns(DbAssessment &check, const DbSchema &schema)
 {
     QStringList tables;
@@ -134,14 +136,15 @@ void noteHiddenColumns(DbAssessment &check, const DbSchema &schema)
     if (tables.isEmpty())
         return;
     check.setPartlySeen();
-    check.tell(Severity::Note, "columns-hidden",
-               QStringLiteral("The rights of this account are on single columns of these tables, "
-                              "and it sees no others: %1. Whether the site added a column there "
-                              "that has no default value, so that every new row is refused, or "
-                              "a unique key on hidden columns, this look cannot tell")
-                   .arg(tables.join(QStringLiteral(", "))),
-               QStringLiteral("Check once more with an account that reads whole tables, such as "
-                              "mirovahrctl, and --other-account."));
+    check.report(
+        Severity::Note, "columns-hidden",
+        QStringLiteral(
+            "This account has rights on single columns of these tables and sees no others: %1. "
+            "This check cannot find a column that the site added there without a default value, "
+            "which makes every new row fail, nor a unique key on hidden columns")
+            .arg(tables.join(QStringLiteral(", "))),
+        QStringLiteral("Check again with an account that reads whole tables, such as mirovahrctl, "
+                       "and --other-account."));
 }
 
 void checkStatusOfNewPeople(DbAssessment &check, const DbSchema &schema)
@@ -150,24 +153,24 @@ void checkStatusOfNewPeople(DbAssessment &check, const DbSchema &schema)
         schema.column(QStringLiteral("people"), QStringLiteral("status"));
     if (status == nullptr || status->defaultValue == QLatin1String("1"))
         return;
-    check.breach("status-default",
-                 QStringLiteral("The default of people.status is not 1: people whom the plugin "
-                                "creates are inactive until their line of the export changes"),
-                 QStringLiteral("Make 1 the default of the column."),
-                 QStringLiteral("people.status"));
+    check.reportViolation(
+        "status-default",
+        QStringLiteral("The default of people.status is not 1: people whom the plugin "
+                       "creates are inactive until their line of the export changes"),
+        QStringLiteral("Make 1 the default of the column."), QStringLiteral("people.status"));
 }
 
-void checkUndoing(DbAssessment &check, const DbSchema &schema)
+void checkTransactions(DbAssessment &check, const DbSchema &schema)
 {
     const QString table = QStringLiteral("admins_people");
     if (!schema.hasTable(table) || schema.isTransactional(table))
         return;
-    check.tell(
+    check.report(
         Severity::Warning, "not-transactional",
-        QStringLiteral("The table %1 takes no part in transactions: when a supervisor cannot "
-                       "be set, the former one has lost the person's requests all the same")
+        QStringLiteral("The table %1 does not support transactions: if a supervisor cannot be set, "
+                       "the previous one loses the person's requests all the same")
             .arg(table),
-        QStringLiteral("Use an engine with transactions, such as InnoDB."), table);
+        QStringLiteral("Use a transactional engine, such as InnoDB."), table);
 }
 
 } // namespace
@@ -178,10 +181,10 @@ void DbRules::checkTables(DbAssessment &check, const DbSchema &schema)
     NameCheck names(check, schema);
     for (const TepDbContract::Table &table : TepDbContract::kTables)
         names.checkTable(table);
-    tellMissingElsewhere(check, names.missingElsewhere());
+    reportMissingElsewhere(check, names.missingElsewhere());
     checkInserts(check, schema);
     noteHiddenColumns(check, schema);
     checkStatusOfNewPeople(check, schema);
-    checkUndoing(check, schema);
-    check.end(QStringLiteral("All tables and columns are there, and new rows can be made."));
+    checkTransactions(check, schema);
+    check.end(QStringLiteral("All tables and columns exist, and new rows can be inserted."));
 }

@@ -1,4 +1,4 @@
-// Time: the plugin and the server's functions must mean the same by a midnight.
+// Time: the plugin and the server must agree on when a day begins.
 
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -17,7 +17,7 @@ constexpr char kSelectZone[] = "SELECT @@SESSION.time_zone, @@system_time_zone, 
 /// clock.
 constexpr qint64 kClockTolerance = 60;
 
-/// Invalid when there is none.
+/// The first day that begins at different moments; invalid when there is none.
 QDate dayThatDiffers(DbAssessment &check)
 {
     const QVector<QDate> days = Midnights::daysToCompare(QDate::currentDate());
@@ -29,14 +29,15 @@ void checkMidnights(DbAssessment &check, const QString &serverZone, const QStrin
     const QDate day = dayThatDiffers(check);
     if (!day.isValid())
         return;
-    check.breach("time-zone",
-                 QStringLiteral("The server (time zone %1) and this program (%2) disagree about "
-                                "when days begin, such as %3. Days of attendance and of vacation "
-                                "would be missed, or be there twice")
-                     .arg(serverZone, ownZone, day.toString(Qt::ISODate)),
-                 QStringLiteral("Run this check with the TZ of the attendance server. When it "
-                                "still complains, give both the same zone, by name: an offset "
-                                "such as +01:00 knows no daylight saving."));
+    check.reportViolation(
+        "time-zone",
+        QStringLiteral(
+            "The server (time zone %1) and this program (%2) disagree about when days begin, such "
+            "as %3. Days of attendance and vacation would be missed or duplicated")
+            .arg(serverZone, ownZone, day.toString(Qt::ISODate)),
+        QStringLiteral(
+            "Run this check with the TZ of the attendance server. If the error remains, give both "
+            "the same zone by name: an offset such as +01:00 has no daylight saving time."));
 }
 
 void checkClock(DbAssessment &check, qint64 serverNow)
@@ -44,13 +45,13 @@ void checkClock(DbAssessment &check, qint64 serverNow)
     const qint64 ahead = serverNow - QDateTime::currentSecsSinceEpoch();
     if (qAbs(ahead) <= kClockTolerance)
         return;
-    check.tell(
+    check.report(
         Severity::Warning, "clock",
         QStringLiteral("The server's clock is %1 %2 this machine's")
             .arg(Wording::counted(qAbs(ahead), QStringLiteral("second"), QStringLiteral("seconds")),
                  ahead > 0 ? QStringLiteral("ahead of") : QStringLiteral("behind")),
-        QStringLiteral("Let both follow the same time server: the plugin compares times of "
-                       "the one with times of the other."));
+        QStringLiteral(
+            "Synchronise both with the same time server: the plugin compares times of the two."));
 }
 
 } // namespace
@@ -63,9 +64,9 @@ void DbRules::checkTime(DbAssessment &check)
         setting == QLatin1String("SYSTEM") ? row.value(1).toString() : setting;
     const QString ownZone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
     check.begin("time", "Time");
-    check.report().fact(QStringLiteral("serverTimeZone"), QStringLiteral("Server's time zone"),
+    check.writer().fact(QStringLiteral("serverTimeZone"), QStringLiteral("Server's time zone"),
                         serverZone);
-    check.report().fact(QStringLiteral("timeZone"), QStringLiteral("Time zone of this program"),
+    check.writer().fact(QStringLiteral("timeZone"), QStringLiteral("Time zone of this program"),
                         ownZone);
     checkMidnights(check, serverZone, ownZone);
     checkClock(check, row.value(2).toLongLong());

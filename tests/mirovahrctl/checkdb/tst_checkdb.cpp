@@ -32,7 +32,7 @@ QString replaceProcedure(const QString &arguments, const QString &body)
         .arg(arguments, body);
 }
 
-/// The message, with what depends on today replaced: the moments with which times are tried.
+/// The message, with the moments that depend on today replaced by "#".
 QString steady(QString message, const QString &rule, const QString &field)
 {
     const bool dependsOnToday =
@@ -42,7 +42,7 @@ QString steady(QString message, const QString &rule, const QString &field)
 
 } // namespace
 
-/// check-db on databases that are not as they should be, each in one way.
+/// check-db on databases that each violate one requirement.
 class TestCheckDb : public QObject {
     Q_OBJECT
 
@@ -51,35 +51,35 @@ private Q_SLOTS:
     void init();
 
     void theReferenceDatabaseIsFine();
-    void theReportForPeopleNamesWhatWasLookedAt();
+    void theTextReportNamesWhatWasChecked();
 
-    void whatThePluginReliesOnIsMissed_data();
-    void whatThePluginReliesOnIsMissed();
-    void whatIsDoubtfulIsTold_data();
-    void whatIsDoubtfulIsTold();
+    void violationsAreReported_data();
+    void violationsAreReported();
+    void warningsAreReported_data();
+    void warningsAreReported();
     void aBrokenDatabaseIsReportedInFull();
 
     void theSiteMayHaveMore_data();
     void theSiteMayHaveMore();
     void everyRowMayHaveANumberOfItsOwn();
-    void aBackslashThatIsOneIsNoted();
+    void aLiteralBackslashIsNoted();
 
-    void everyTableIsLookedFor_data();
-    void everyTableIsLookedFor();
-    void everyColumnIsLookedFor_data();
-    void everyColumnIsLookedFor();
-    void everyKeyIsLookedFor_data();
-    void everyKeyIsLookedFor();
+    void everyTableIsRequired_data();
+    void everyTableIsRequired();
+    void everyColumnIsRequired_data();
+    void everyColumnIsRequired();
+    void everyKeyIsRequired_data();
+    void everyKeyIsRequired();
     void theLengthsOfTheProgramsOwnTextsAreRight();
 
-    void anotherClockIsTold();
-    void countingFoundRowsIsMissed_data();
-    void countingFoundRowsIsMissed();
+    void aDifferentClockIsReported();
+    void countingFoundRowsIsAViolation_data();
+    void countingFoundRowsIsAViolation();
 
     void nothingIsWritten();
     void aProcedureThatWritesForEverybodyIsStopped();
 
-    void aServerThatIsNotThereIsNoDatabase();
+    void anUnreachableServerIsNoDatabase();
     void withoutAServerTheUsageIsWrong();
     void theHelpSaysHowToConnect();
 
@@ -95,7 +95,7 @@ private:
 void TestCheckDb::initTestCase()
 {
     QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
-    // What the account may not see would be hidden from the rules.
+    // The rules cannot find what is hidden from the account.
     const TableRows tables = m_db.rows("SHOW TABLES");
     for (const QStringList &table : tables)
         m_db.run(QStringLiteral("GRANT SELECT ON `%1` TO yav@localhost").arg(table.first()));
@@ -139,7 +139,7 @@ void TestCheckDb::theReferenceDatabaseIsFine()
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.findings(), QJsonArray());
     QCOMPARE(run.json().value("verdict").toString(),
-             QString("The database is what the plugin relies on."));
+             QString("The database meets the plugin's requirements."));
     const QJsonObject facts = run.json().value("facts").toObject();
     QCOMPARE(facts.value("server").toString(),
              QString("MariaDB ") + m_db.value("SELECT VERSION()").toString());
@@ -148,7 +148,7 @@ void TestCheckDb::theReferenceDatabaseIsFine()
     QCOMPARE(facts.value("timeZone").toString(), QString(kZone));
 }
 
-void TestCheckDb::theReportForPeopleNamesWhatWasLookedAt()
+void TestCheckDb::theTextReportNamesWhatWasChecked()
 {
     const ToolRun run = runTool(QStringList{"check-db"} + connection());
     COMPARE_EXIT(run, ExitStatus::Fine);
@@ -156,18 +156,19 @@ void TestCheckDb::theReportForPeopleNamesWhatWasLookedAt()
         run.out.startsWith("Database tepdb\n==============\n\nServer\n------\nServer: MariaDB "),
         run.report().constData());
     for (const char *line :
-         {"The server and its SQL mode suit the plugin.",
-          "The connection does what the plugin expects of it.",
+         {"The server and its SQL mode are suitable for the plugin.",
+          "The connection works as the plugin requires.",
           "The server and this program agree about time.",
-          "All tables and columns are there, and new rows can be made.",
-          "The columns hold what the plugin writes.", "people.surname     80          utf8mb4",
-          "The unique keys are as they must be.", "The server takes them where they are used.",
-          "The account may do what the plugin needs, and hardly more.",
-          "The routines do what the plugin relies on.",
-          "What stands in the tables raises no doubt."}) {
+          "All tables and columns exist, and new rows can be inserted.",
+          "The columns can hold what the plugin writes.", "people.surname     80          utf8mb4",
+          "The unique keys are as the plugin requires.",
+          "The server accepts them where they are used.",
+          "The account has the rights that the plugin needs, and hardly more.",
+          "The routines work as the plugin requires.",
+          "The data meets the plugin's requirements."}) {
         QVERIFY2(run.out.contains(QString::fromUtf8(line) + '\n'), line);
     }
-    QVERIFY(run.out.endsWith("\n\nThe database is what the plugin relies on.\n"));
+    QVERIFY(run.out.endsWith("\n\nThe database meets the plugin's requirements.\n"));
 }
 
 void TestCheckDb::compareOnlyFinding(const ToolRun &run, ExitStatus status)
@@ -182,7 +183,7 @@ void TestCheckDb::compareOnlyFinding(const ToolRun &run, ExitStatus status)
     QCOMPARE(finding.value("field").toString(), field);
 }
 
-void TestCheckDb::whatThePluginReliesOnIsMissed_data()
+void TestCheckDb::violationsAreReported_data()
 {
     QTest::addColumn<QString>("change");
     QTest::addColumn<QString>("rule");
@@ -193,14 +194,14 @@ void TestCheckDb::whatThePluginReliesOnIsMissed_data()
         << "SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,ONLY_FULL_GROUP_BY'"
         << "sql-mode-group-by"
         << ""
-        << "The SQL mode ONLY_FULL_GROUP_BY is on: the statements that keep groups_month in step "
-           "and that queue a time zone for the terminals fail";
+        << "The SQL mode ONLY_FULL_GROUP_BY is on: the statements that rebuild groups_month and "
+           "queue a time zone for the terminals fail";
     QTest::newRow("empty texts are NULL")
         << "SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,EMPTY_STRING_IS_NULL'"
         << "sql-mode-empty-null"
         << ""
         << "The SQL mode EMPTY_STRING_IS_NULL is on: people without a title or telephone cannot be "
-           "written to columns that take no NULL";
+           "written to columns that do not allow NULL";
     QTest::newRow("a server that takes no writes")
         << "SET GLOBAL read_only = 1"
         << "server-read-only"
@@ -212,38 +213,36 @@ void TestCheckDb::whatThePluginReliesOnIsMissed_data()
         << "time-zone"
         << ""
         << "The server (time zone +05:30) and this program (Europe/Bratislava) disagree about when "
-           "days begin, such as #. Days of attendance and of vacation would be missed, or be there "
-           "twice";
+           "days begin, such as #. Days of attendance and vacation would be missed or duplicated";
     QTest::newRow("a zone without daylight saving")
         << "SET GLOBAL time_zone = '+01:00'"
         << "time-zone"
         << ""
         << "The server (time zone +01:00) and this program (Europe/Bratislava) disagree about when "
-           "days begin, such as #. Days of attendance and of vacation would be missed, or be there "
-           "twice";
+           "days begin, such as #. Days of attendance and vacation would be missed or duplicated";
 
     QTest::newRow("no table")
         << "DROP TABLE mastergroups"
         << "table-missing"
         << "mastergroups"
-        << "There is no table mastergroups, or the account has no right to it";
+        << "The table mastergroups does not exist, or the account has no rights on it";
     QTest::newRow("no column")
         << "ALTER TABLE people DROP COLUMN phone"
         << "column-missing"
         << "people.phone"
-        << "There is no column people.phone, or the account has no right to it";
+        << "The column people.phone does not exist, or the account has no rights on it";
     QTest::newRow("a column that must be filled")
         << "ALTER TABLE people ADD card VARCHAR(20) NOT NULL"
         << "column-without-default"
         << "people.card"
-        << "The column people.card has no default value and takes no NULL: a new row, which the "
-           "plugin makes without it, is refused in strict SQL modes";
+        << "The column people.card has no default value and does not allow NULL: in strict SQL "
+           "modes the plugin's new rows, which leave it out, are refused";
     QTest::newRow("a column that one of two inserts leaves out")
         << "ALTER TABLE admins_people MODIFY request TINYINT UNSIGNED NOT NULL"
         << "column-without-default"
         << "admins_people.request"
-        << "The column admins_people.request has no default value and takes no NULL: a new row, "
-           "which the plugin makes without it, is refused in strict SQL modes";
+        << "The column admins_people.request has no default value and does not allow NULL: in "
+           "strict SQL modes the plugin's new rows, which leave it out, are refused";
     QTest::newRow("new people are inactive")
         << "ALTER TABLE people ALTER status SET DEFAULT 0"
         << "status-default"
@@ -265,25 +264,26 @@ void TestCheckDb::whatThePluginReliesOnIsMissed_data()
         << "ALTER TABLE people MODIFY did INT UNSIGNED NOT NULL DEFAULT 0"
         << "column-not-null"
         << "people.did"
-        << "The column people.did takes no NULL, which the plugin writes for what HR leaves open";
+        << "The column people.did does not allow NULL, which the plugin writes where HR leaves a "
+           "value open";
 
     QTest::newRow("no key") << "ALTER TABLE brape DROP PRIMARY KEY"
                             << "key-missing"
                             << "brape"
                             << "The table brape has no unique key on exactly bid, uid: the plugin "
-                               "makes a second row where it should change the first";
+                               "inserts a second row instead of updating the first";
     QTest::newRow("a key that is not unique")
         << "ALTER TABLE people DROP KEY pid, ADD KEY (pid)"
         << "key-missing"
         << "people"
-        << "The table people has no unique key on exactly pid: the plugin makes a second row where "
-           "it should change the first";
+        << "The table people has no unique key on exactly pid: the plugin inserts a second row "
+           "instead of updating the first";
     QTest::newRow("a key on more")
         << "ALTER TABLE people_pam DROP PRIMARY KEY, ADD PRIMARY KEY (uid, id)"
         << "key-missing"
         << "people_pam"
-        << "The table people_pam has no unique key on exactly uid: the plugin makes a second row "
-           "where it should change the first";
+        << "The table people_pam has no unique key on exactly uid: the plugin inserts a second row "
+           "instead of updating the first";
     QTest::newRow("numbers that are not automatic")
         << "ALTER TABLE people MODIFY uid INT UNSIGNED NOT NULL DEFAULT 0"
         << "not-automatic"
@@ -294,20 +294,22 @@ void TestCheckDb::whatThePluginReliesOnIsMissed_data()
         << "DROP FUNCTION getCurrentGid"
         << "routine-missing"
         << "getCurrentGid"
-        << "There is no routine getCurrentGid, or the account may not call it";
+        << "The routine getCurrentGid does not exist, or the account may not call it";
     QTest::newRow("no procedure")
         << "DROP PROCEDURE updateTermsSync"
         << "routine-missing"
         << "updateTermsSync"
-        << "There is no routine updateTermsSync, or the account may not call it";
+        << "The routine updateTermsSync does not exist, or the account may not call it";
     QTest::newRow("a function with another argument")
         << replaceFunction("midnightFromTs", "t BIGINT, u BIGINT", "t") << "routine-arguments"
         << "midnightFromTs"
-        << "The routine midnightFromTs takes another number of arguments than the plugin gives it";
+        << "The routine midnightFromTs takes a different number of arguments from what the plugin "
+           "passes";
     QTest::newRow("a procedure with another argument")
         << replaceProcedure("u INT", "DO 1") << "routine-arguments"
         << "updateTermsSync"
-        << "The routine updateTermsSync takes another number of arguments than the plugin gives it";
+        << "The routine updateTermsSync takes a different number of arguments from what the plugin "
+           "passes";
     QTest::newRow("a function that fails")
         << replaceFunction("monthFromTimestamp", "t BIGINT", "(SELECT nothing FROM nowhere)")
         << "routine-fails"
@@ -322,60 +324,57 @@ void TestCheckDb::whatThePluginReliesOnIsMissed_data()
     QTest::newRow("midnights of another zone")
         << replaceFunction("midnightFromTs", "t BIGINT", "t - t % 86400") << "routine-wrong"
         << "midnightFromTs"
-        << "The function midnightFromTs does not do what the plugin relies on: midnightFromTs(#) "
-           "gives #, not #";
+        << "The function midnightFromTs returns a wrong result: midnightFromTs(#) gives #, not #";
     QTest::newRow("no midnights") << replaceFunction("midnightFromTs", "t BIGINT", "NULL")
                                   << "routine-wrong"
                                   << "midnightFromTs"
-                                  << "The function midnightFromTs does not do what the plugin "
-                                     "relies on: midnightFromTs(#) gives NULL, not #";
+                                  << "The function midnightFromTs returns a wrong result: "
+                                     "midnightFromTs(#) gives NULL, not #";
     QTest::newRow("midnights of days of 24 hours")
         << replaceFunction("midnightFromTs", "t BIGINT", "t - TIME_TO_SEC(TIME(FROM_UNIXTIME(t)))")
         << "routine-wrong"
         << "midnightFromTs"
-        << "The function midnightFromTs does not do what the plugin relies on: midnightFromTs(#) "
-           "gives #, not #";
-    QTest::newRow("months counted from 0")
-        << replaceFunction("monthFromTimestamp", "t BIGINT",
-                           "EXTRACT(YEAR_MONTH FROM FROM_UNIXTIME(t)) - 1")
-        << "routine-wrong"
-        << "monthFromTimestamp"
-        << "The function monthFromTimestamp does not do what the plugin relies on: "
-           "monthFromTimestamp(#) gives #, not #";
+        << "The function midnightFromTs returns a wrong result: midnightFromTs(#) gives #, not #";
+    QTest::newRow("months counted from 0") << replaceFunction(
+        "monthFromTimestamp", "t BIGINT", "EXTRACT(YEAR_MONTH FROM FROM_UNIXTIME(t)) - 1")
+                                           << "routine-wrong"
+                                           << "monthFromTimestamp"
+                                           << "The function monthFromTimestamp returns a wrong "
+                                              "result: monthFromTimestamp(#) gives #, not #";
     QTest::newRow("the group of another month")
         << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
                            "COALESCE((SELECT gid FROM groups_plan WHERE uid = u"
                            " ORDER BY since DESC LIMIT 1), d)")
         << "routine-wrong"
         << "getCurrentGid"
-        << "The function getCurrentGid does not do what the plugin relies on: getCurrentGid(4, "
-           "201904, 7) gives 13, not 11";
+        << "The function getCurrentGid returns a wrong result: getCurrentGid(4, 201904, 7) gives "
+           "13, not 11";
     QTest::newRow("no default group")
         << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
                            "(SELECT gid FROM groups_plan WHERE uid = u AND since <= m"
                            " ORDER BY since DESC LIMIT 1)")
         << "routine-wrong"
         << "getCurrentGid"
-        << "The function getCurrentGid does not do what the plugin relies on: getCurrentGid(0, "
-           "202401, 7) gives NULL, not 7";
+        << "The function getCurrentGid returns a wrong result: getCurrentGid(0, 202401, 7) gives "
+           "NULL, not 7";
     QTest::newRow("a group for nobody")
         << replaceFunction("getCurrentGid", "u INT, m INT, d INT",
                            "COALESCE((SELECT gid FROM groups_plan WHERE uid = u AND since <= m"
                            " ORDER BY since DESC LIMIT 1), d, 0)")
         << "routine-wrong"
         << "getCurrentGid"
-        << "The function getCurrentGid does not do what the plugin relies on: getCurrentGid(0, "
-           "202401, NULL) gives 0, not NULL";
+        << "The function getCurrentGid returns a wrong result: getCurrentGid(0, 202401, NULL) "
+           "gives 0, not NULL";
 }
 
-void TestCheckDb::whatThePluginReliesOnIsMissed()
+void TestCheckDb::violationsAreReported()
 {
     QFETCH(QString, change);
     apply(change);
     compareOnlyFinding(check(), ExitStatus::ContractBroken);
 }
 
-void TestCheckDb::whatIsDoubtfulIsTold_data()
+void TestCheckDb::warningsAreReported_data()
 {
     QTest::addColumn<QString>("change");
     QTest::addColumn<QString>("rule");
@@ -386,84 +385,84 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << "SET GLOBAL sql_mode = ''"
         << "sql-mode-not-strict"
         << ""
-        << "No strict SQL mode is on: a text that is longer than its column is cut and a number "
-           "that does not fit is changed, and no log tells";
+        << "No strict SQL mode is on: texts longer than their column are cut and numbers that do "
+           "not fit are altered without any message";
     QTest::newRow("dates to 2038")
         << "ALTER TABLE people MODIFY `end` INT NULL"
         << "column-too-narrow"
         << "people.end"
         << "The column people.end is int(11), which holds only times from 1901-12-13 to "
-           "2038-01-19; the plugin writes the last day of the employment into it. What does not "
-           "fit is refused, or changed where no strict SQL mode is on";
+           "2038-01-19; the plugin writes the last day of the employment into it. Values that do "
+           "not fit are refused, or altered where no strict SQL mode is on";
     QTest::newRow("no negative dates")
         << "ALTER TABLE people MODIFY lastCalc BIGINT UNSIGNED NOT NULL DEFAULT 0"
         << "column-too-narrow"
         << "people.lastCalc"
         << "The column people.lastCalc is bigint(20) unsigned, which holds only times from "
            "1970-01-01 on; the plugin writes the day from which attendance is calculated again "
-           "into it. What does not fit is refused, or changed where no strict SQL mode is on";
+           "into it. Values that do not fit are refused, or altered where no strict SQL mode is on";
     QTest::newRow("no negative days")
         << "ALTER TABLE atten MODIFY ok TINYINT UNSIGNED NOT NULL DEFAULT 1"
         << "column-too-narrow"
         << "atten.ok"
         << "The column atten.ok is tinyint(3) unsigned; the plugin writes -1 into it (the mark of "
-           "a day that is to be calculated again). What does not fit is refused, or changed where "
-           "no strict SQL mode is on";
+           "a day that is to be calculated again). Values that do not fit are refused, or altered "
+           "where no strict SQL mode is on";
     QTest::newRow("small moves")
         << "ALTER TABLE funds_move MODIFY value DECIMAL(7, 2) NOT NULL"
         << "column-too-narrow"
         << "funds_move.value"
         << "The column funds_move.value is decimal(7,2); the plugin writes -2147483648 to "
-           "2147483647 into it (hundredths of a day). What does not fit is refused, or changed "
-           "where no strict SQL mode is on";
+           "2147483647 into it (hundredths of a day). Values that do not fit are refused, or "
+           "altered where no strict SQL mode is on";
     QTest::newRow("inexact pids")
         << "ALTER TABLE people MODIFY pid FLOAT NOT NULL"
         << "column-too-narrow"
         << "people.pid"
         << "The column people.pid is float; the plugin writes 0 to 4294967295 into it (a personal "
-           "number and the number of the relationship). What does not fit is refused, or changed "
-           "where no strict SQL mode is on";
+           "number and the number of the relationship). Values that do not fit are refused, or "
+           "altered where no strict SQL mode is on";
     QTest::newRow("fewer ids than people have")
         << "ALTER TABLE brape MODIFY uid SMALLINT UNSIGNED NOT NULL"
         << "column-too-narrow"
         << "brape.uid"
         << "The column brape.uid is smallint(5) unsigned; the plugin writes 0 to 4294967295 into "
-           "it (what people.uid holds). What does not fit is refused, or changed where no strict "
-           "SQL mode is on";
+           "it (what people.uid holds). Values that do not fit are refused, or altered where no "
+           "strict SQL mode is on";
     QTest::newRow("short texts")
         << "ALTER TABLE people MODIFY rsText VARCHAR(28) NOT NULL DEFAULT ''"
         << "column-too-narrow"
         << "people.rsText"
         << "The column people.rsText is varchar(28); the plugin writes up to 29 characters into "
-           "it. What does not fit is refused, or changed where no strict SQL mode is on";
+           "it. Values that do not fit are refused, or altered where no strict SQL mode is on";
     QTest::newRow("another character set")
         << "ALTER TABLE people MODIFY surname VARCHAR(80) CHARACTER SET latin2 NOT NULL DEFAULT ''"
         << "column-charset"
         << "people.surname"
-        << "The column people.surname has the character set latin2: letters that it does not know "
-           "are refused, or stored as question marks where no strict SQL mode is on";
+        << "The column people.surname has the character set latin2: letters that it lacks are "
+           "refused, or stored as question marks where no strict SQL mode is on";
     QTest::newRow("no transactions")
         << "ALTER TABLE admins_people ENGINE = Aria TRANSACTIONAL = 0"
         << "not-transactional"
         << "admins_people"
-        << "The table admins_people takes no part in transactions: when a supervisor cannot be "
-           "set, the former one has lost the person's requests all the same";
+        << "The table admins_people does not support transactions: if a supervisor cannot be set, "
+           "the previous one loses the person's requests all the same";
 
     QTest::newRow("a primary key is forced")
         << "SET GLOBAL innodb_force_primary_key = 1"
         << "temporary-table-refused"
         << ""
         << "The server has innodb_force_primary_key = ON: CREATE TEMPORARY TABLE "
-           "tmptbl_updateTermsSyncTZ fails with error 1173. The plugin does without, but where the "
-           "attendance server uses the same classes, a changed time zone does not reach the "
+           "tmptbl_updateTermsSyncTZ fails with error 1173. The plugin does not need it, but where "
+           "the attendance server uses the same classes, a changed time zone does not reach the "
            "terminals";
     QTest::newRow("an engine is forced")
         << "SET GLOBAL enforce_storage_engine = MyISAM"
         << "temporary-table-refused"
         << ""
         << "The server has enforce_storage_engine = MyISAM: CREATE TEMPORARY TABLE "
-           "tmptbl_updateTermsSyncTZ fails with error 1290. The plugin does without, but where the "
-           "attendance server uses the same classes, a changed time zone does not reach the "
+           "tmptbl_updateTermsSyncTZ fails with error 1290. The plugin does not need it, but where "
+           "the attendance server uses the same classes, a changed time zone does not reach the "
            "terminals";
 
     QTest::newRow("no key of another component")
@@ -471,19 +470,19 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << "key-missing-elsewhere"
         << "bas"
         << "The table bas has no unique key on exactly attrid, bid, secid: another component of "
-           "the attendance server makes a second row where it should change the first";
+           "the attendance server inserts a second row instead of updating the first";
     QTest::newRow("groups that are there twice")
         << "ALTER TABLE `groups` MODIFY gid INT UNSIGNED NOT NULL, DROP PRIMARY KEY"
         << "identity-missing"
         << "groups"
-        << "The table groups has no unique key on gid: of two rows with the same value any may be "
-           "taken";
+        << "The table groups has no unique key on gid: of two rows with the same value, either may "
+           "be used";
     QTest::newRow("a further key")
         << "ALTER TABLE brape ADD UNIQUE KEY one_branch (uid, since)"
         << "key-unexpected"
         << "brape"
-        << "The table brape has a unique key one_branch on since, uid: what the plugin writes for "
-           "a new row can hit another row by it and change that one instead";
+        << "The table brape has a unique key one_branch on since, uid: a row that the plugin "
+           "inserts can collide with another row in it and change that one instead";
 
     QTest::newRow("a further key whose column is the same in every new row")
         << "ALTER TABLE people_term ADD place INT NOT NULL DEFAULT 0\n"
@@ -491,20 +490,20 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
            "ALTER TABLE people_term ADD UNIQUE KEY one_place (place)"
         << "key-unexpected"
         << "people_term"
-        << "The table people_term has a unique key one_place on place: what the plugin writes for "
-           "a new row can hit another row by it and change that one instead";
+        << "The table people_term has a unique key one_place on place: a row that the plugin "
+           "inserts can collide with another row in it and change that one instead";
 
     QTest::newRow("no vacation fund") << "DELETE FROM funds WHERE iid = 3 AND unit = 2"
                                       << "vacation-fund-none"
                                       << "funds"
                                       << "There is no vacation fund (a row of funds with iid 3 and "
-                                         "unit 2): balances of vacation are not brought in step";
+                                         "unit 2): vacation balances are not synchronised";
     QTest::newRow("two vacation funds")
         << "INSERT INTO funds (fid, iid, unit) VALUES (9, 3, 2)"
         << "vacation-fund-several"
         << "funds"
-        << "There are several vacation funds (iid 3, unit 2): 2, 9. The plugin takes the first "
-           "that the server happens to return";
+        << "There are several vacation funds (iid 3, unit 2): 2, 9. The plugin uses the first that "
+           "the server happens to return";
     QTest::newRow("a vacation fund with a large number")
         << "UPDATE funds SET fid = 65536 WHERE iid = 3 AND unit = 2"
         << "vacation-fund-number"
@@ -516,9 +515,9 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
                            "EXTRACT(YEAR_MONTH FROM FROM_UNIXTIME(t))")
         << "routine-late-days"
         << "monthFromTimestamp"
-        << "The function monthFromTimestamp fails for days that the server does not know "
-           "(Truncated incorrect unixtime value: '#'). One such day of attendance, such as one "
-           "with a mistyped year, keeps all months of that person from being filled";
+        << "The function monthFromTimestamp fails for days beyond the server's range (Truncated "
+           "incorrect unixtime value: '#'). A single such day of attendance, for example with a "
+           "mistyped year, keeps every month of that person from being filled";
     QTest::newRow("no payroll export")
         << "DELETE FROM vars WHERE name = 'exportPam.1.active'"
         << "payroll-export-none"
@@ -537,32 +536,32 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << "selection-width"
         << "vars.value"
         << "The column vars.value holds 41 characters; the selection of the payroll export would "
-           "need 42 for everybody who is active";
+           "need 42 to name every active person";
     QTest::newRow("two branches of a cost centre")
         << "UPDATE branches SET number = 120 WHERE bid = 3"
         << "branch-number-twice"
         << "branches.number"
-        << "Several branches have the same number: 120. People of that cost centre go to any of "
-           "them";
+        << "Several branches have the same number: 120. People of that cost centre are placed in "
+           "any of them";
     QTest::newRow("a branch with a large id")
         << kWideBranchIds + "UPDATE branches SET bid = 70000 WHERE bid = 3"
         << "branch-id-large"
         << "branches.bid"
-        << "The ids of these branches do not fit 16 bits: 70000. Members are added to another "
-           "branch, or to none";
+        << "The ids of these branches exceed 16 bits: 70000. Members are added to another branch, "
+           "or to none";
     QTest::newRow("two groups of a calendar")
         << "INSERT INTO `groups` (gid, parent, calendarID) VALUES (14, 1, 2)"
         << "calendar-twice"
         << "groups.calendarID"
-        << "Several calendar groups stand for the same calendar: 2 of master group 1. People get "
-           "any of them";
+        << "Several calendar groups have the same calendar: 2 of master group 1. People are placed "
+           "in any of them";
     QTest::newRow("administrators with large ids")
         << kWideAdminIds + "UPDATE admins SET aid = aid + 65533 WHERE aid > 1"
         << "admin-id-large"
         << "admins.aid"
-        << "The ids of these administrators do not fit 16 bits: 65536, 65537. The plugin writes "
-           "them whole, but the components of the attendance server that use its repository "
-           "classes keep 16 bits: people go to another administrator, or to none";
+        << "The ids of these administrators exceed 16 bits: 65536, 65537. The plugin writes them "
+           "correctly, but other components of the attendance server that use its repository "
+           "classes keep only 16 bits: people are assigned to another administrator, or to none";
     QTest::newRow("two supervisors of a number")
         << "UPDATE admins SET personalNumber = 1001 WHERE aid = 4"
         << "supervisor-twice"
@@ -573,19 +572,17 @@ void TestCheckDb::whatIsDoubtfulIsTold_data()
         << "UPDATE people SET pamId = '1234.2' WHERE pid = 12341"
         << "payroll-id-strange"
         << "people.pamId"
-        << "Of these active people pid and pamId do not agree: 12341 (1234.2). The plugin looks "
-           "for a person by pamId and writes by pid: it changes nobody, or takes the person for a "
-           "new one";
+        << "The pid and pamId of these active people disagree: 12341 (1234.2). The plugin looks a "
+           "person up by pamId and writes by pid: it changes nobody, or treats the person as new";
     QTest::newRow("a payroll id without relationship")
         << "UPDATE people SET pamId = '12341' WHERE pid = 12341"
         << "payroll-id-strange"
         << "people.pamId"
-        << "Of these active people pid and pamId do not agree: 12341 (12341). The plugin looks for "
-           "a person by pamId and writes by pid: it changes nobody, or takes the person for a new "
-           "one";
+        << "The pid and pamId of these active people disagree: 12341 (12341). The plugin looks a "
+           "person up by pamId and writes by pid: it changes nobody, or treats the person as new";
 }
 
-void TestCheckDb::whatIsDoubtfulIsTold()
+void TestCheckDb::warningsAreReported()
 {
     QFETCH(QString, change);
     apply(change);
@@ -601,9 +598,10 @@ void TestCheckDb::aBrokenDatabaseIsReportedInFull()
     COMPARE_EXIT(run, ExitStatus::ContractBroken);
     QCOMPARE(run.rules(), QStringList({"column-too-narrow", "routine-fails", "table-missing"}));
     QCOMPARE(run.json().value("result").toString(), QString("contract-broken"));
-    QCOMPARE(run.json().value("verdict").toString(),
-             QString("The plugin cannot work with this database as it should: 2 things that it"
-                     " relies on are not so."));
+    QCOMPARE(
+        run.json().value("verdict").toString(),
+        QString(
+            "The plugin cannot work properly with this database: 2 requirements are violated."));
 }
 
 void TestCheckDb::theSiteMayHaveMore_data()
@@ -696,7 +694,7 @@ void TestCheckDb::everyRowMayHaveANumberOfItsOwn()
     QCOMPARE(run.findings(), QJsonArray());
 }
 
-void TestCheckDb::aBackslashThatIsOneIsNoted()
+void TestCheckDb::aLiteralBackslashIsNoted()
 {
     m_db.run("SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,NO_BACKSLASH_ESCAPES'");
     const ToolRun run = check();
@@ -704,10 +702,10 @@ void TestCheckDb::aBackslashThatIsOneIsNoted()
     QCOMPARE(run.rules(), QStringList("sql-mode-backslash"));
     QCOMPARE(run.findings().first().toObject().value("message").toString(),
              QString("The SQL mode NO_BACKSLASH_ESCAPES is on: a backslash in a text of the export "
-                     "is stored as it is. Without the mode it changes the character after it."));
+                     "is stored literally. Without the mode it escapes the next character."));
 }
 
-void TestCheckDb::everyTableIsLookedFor_data()
+void TestCheckDb::everyTableIsRequired_data()
 {
     QTest::addColumn<QString>("table");
     const TableRows tables = m_db.rows("SHOW TABLES");
@@ -716,7 +714,7 @@ void TestCheckDb::everyTableIsLookedFor_data()
         QTest::newRow(qPrintable(table.first())) << table.first();
 }
 
-void TestCheckDb::everyTableIsLookedFor()
+void TestCheckDb::everyTableIsRequired()
 {
     QFETCH(QString, table);
     m_db.hideTable(table);
@@ -731,14 +729,14 @@ void TestCheckDb::everyTableIsLookedFor()
     QVERIFY2(finding.value("message").toString().contains(' ' + table), run.report().constData());
 }
 
-void TestCheckDb::everyColumnIsLookedFor_data()
+void TestCheckDb::everyColumnIsRequired_data()
 {
     QTest::addColumn<int>("position");
     for (int position = 1; position <= 24; ++position)
         QTest::addRow("column %d of every table", position) << position;
 }
 
-void TestCheckDb::everyColumnIsLookedFor()
+void TestCheckDb::everyColumnIsRequired()
 {
     QFETCH(int, position);
     const TableRows columns = m_db.rows(
@@ -763,7 +761,7 @@ void TestCheckDb::everyColumnIsLookedFor()
     }
 }
 
-void TestCheckDb::everyKeyIsLookedFor_data()
+void TestCheckDb::everyKeyIsRequired_data()
 {
     QTest::addColumn<QString>("table");
     QTest::addColumn<QString>("key");
@@ -783,7 +781,7 @@ void TestCheckDb::everyKeyIsLookedFor_data()
                              << "identity-missing";
 }
 
-void TestCheckDb::everyKeyIsLookedFor()
+void TestCheckDb::everyKeyIsRequired()
 {
     QFETCH(QString, table);
     QFETCH(QString, key);
@@ -807,7 +805,7 @@ void TestCheckDb::theLengthsOfTheProgramsOwnTextsAreRight()
     QCOMPARE(QString("exportPam.4294967295.selPeople").size(), 30);
 }
 
-void TestCheckDb::anotherClockIsTold()
+void TestCheckDb::aDifferentClockIsReported()
 {
     m_db.run("SET GLOBAL init_connect = 'SET timestamp = 1700000000'");
     const ToolRun run = check();
@@ -820,7 +818,7 @@ void TestCheckDb::anotherClockIsTold()
              qPrintable(message));
 }
 
-void TestCheckDb::countingFoundRowsIsMissed_data()
+void TestCheckDb::countingFoundRowsIsAViolation_data()
 {
     QTest::addColumn<QString>("options");
     QTest::addColumn<bool>("counts");
@@ -831,7 +829,7 @@ void TestCheckDb::countingFoundRowsIsMissed_data()
     QTest::newRow("another option") << "CLIENT_IGNORE_SPACE=1" << false;
 }
 
-void TestCheckDb::countingFoundRowsIsMissed()
+void TestCheckDb::countingFoundRowsIsAViolation()
 {
     QFETCH(QString, options);
     QFETCH(bool, counts);
@@ -866,7 +864,7 @@ void TestCheckDb::aProcedureThatWritesForEverybodyIsStopped()
     QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
 }
 
-void TestCheckDb::aServerThatIsNotThereIsNoDatabase()
+void TestCheckDb::anUnreachableServerIsNoDatabase()
 {
     const ToolRun run =
         runTool({"check-db", "--socket", "/nowhere/s", "--database", "tepdb", "--user", "yav"});

@@ -13,9 +13,9 @@ namespace {
 const char kPlugin[] = "yav";
 const char kTool[] = "mirovahrctl";
 const QString kFirstLook =
-    "As far as this account sees, the database is what the plugin relies on.";
+    "As far as this account can see, the database meets the plugin's requirements.";
 
-/// Of all findings, or of those of one severity.
+/// The rules of all findings, or of those of one severity.
 QString messages(const ToolRun &run, const QString &severity = QString())
 {
     QStringList messages;
@@ -30,8 +30,8 @@ QString messages(const ToolRun &run, const QString &severity = QString())
 
 } // namespace
 
-/// check-db and the accounts of reference-db/grants.sql: what an account lacks, what it has too
-/// much, and what the account of mirovahrctl needs.
+/// check-db and the accounts of reference-db/grants.sql: missing rights, excess rights, and the
+/// rights that the account of mirovahrctl needs.
 class TestCheckDbRights : public QObject {
     Q_OBJECT
 
@@ -40,16 +40,16 @@ private Q_SLOTS:
     void cleanup();
 
     void theAccountOfThePluginIsFine();
-    void whatOneAccountDoesNotSeeTheSecondLookFinds_data();
-    void whatOneAccountDoesNotSeeTheSecondLookFinds();
+    void theSecondCheckFindsWhatThePluginsAccountCannotSee_data();
+    void theSecondCheckFindsWhatThePluginsAccountCannotSee();
     void anAccountThatReadsWholeTablesSeesAllColumns();
     void everyRightThatThePluginLacksIsFound_data();
     void everyRightThatThePluginLacksIsFound();
     void aMissingRightIsNamed();
     void rightsOfARoleCount();
-    void tooManyRightsAreTold_data();
-    void tooManyRightsAreTold();
-    void rightsOnSomeTablesAreNotTooMany();
+    void excessRightsAreReported_data();
+    void excessRightsAreReported();
+    void rightsOnSomeTablesAreNotExcessive();
 
     void theAccountOfTheToolIsFine();
     void everyRightOfTheToolIsNeeded_data();
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void theToolSeesTheTextsOfTheRoutines();
     void theToolCannotWrite_data();
     void theToolCannotWrite();
-    void anotherAccountIsNotJudged();
+    void theRightsOfAnotherAccountAreNotChecked();
     void aTableThatCannotBeReadEndsTheCheck();
 
 private:
@@ -95,21 +95,22 @@ void TestCheckDbRights::theAccountOfThePluginIsFine()
     const ToolRun run = check(kPlugin);
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.json().value("verdict").toString(), kFirstLook);
-    QCOMPARE(messages(run),
-             QString("Not there, or hidden from this account: branches.name, branches.address, "
-                     "branches.note, branches.wh1b, branches.wh1e, branches.wh2b, branches.wh2e, "
-                     "branches.wh3b, branches.wh3e, branches.wh4b, branches.wh4e, branches.wh5b, "
-                     "branches.wh5e, branches.wh6b, branches.wh6e, branches.wh7b, branches.wh7e, "
-                     "sections, sec_branch, bas, term_sync.ref_col2, term_sync.ref_id2, inters, "
-                     "inters_term, pzt. The plugin does not use them; other components of the "
-                     "attendance server may.\n"
-                     "The rights of this account are on single columns of these tables, and it "
-                     "sees no others: people, people_pam, funds_move, term_sync. Whether the site "
-                     "added a column there that has no default value, so that every new row is "
-                     "refused, or a unique key on hidden columns, this look cannot tell."));
+    QCOMPARE(
+        messages(run),
+        QString(
+            "Missing, or hidden from this account: branches.name, branches.address, branches.note, "
+            "branches.wh1b, branches.wh1e, branches.wh2b, branches.wh2e, branches.wh3b, "
+            "branches.wh3e, branches.wh4b, branches.wh4e, branches.wh5b, branches.wh5e, "
+            "branches.wh6b, branches.wh6e, branches.wh7b, branches.wh7e, sections, sec_branch, "
+            "bas, term_sync.ref_col2, term_sync.ref_id2, inters, inters_term, pzt. The plugin does "
+            "not use them; other components of the attendance server may.\n"
+            "This account has rights on single columns of these tables and sees no others: people, "
+            "people_pam, funds_move, term_sync. This check cannot find a column that the site "
+            "added there without a default value, which makes every new row fail, nor a unique key "
+            "on hidden columns."));
 }
 
-void TestCheckDbRights::whatOneAccountDoesNotSeeTheSecondLookFinds_data()
+void TestCheckDbRights::theSecondCheckFindsWhatThePluginsAccountCannotSee_data()
 {
     QTest::addColumn<QString>("change");
     QTest::addColumn<QString>("rule");
@@ -122,7 +123,7 @@ void TestCheckDbRights::whatOneAccountDoesNotSeeTheSecondLookFinds_data()
                                           << "key-unexpected" << ExitStatus::Findings;
 }
 
-void TestCheckDbRights::whatOneAccountDoesNotSeeTheSecondLookFinds()
+void TestCheckDbRights::theSecondCheckFindsWhatThePluginsAccountCannotSee()
 {
     QFETCH(QString, change);
     QFETCH(QString, rule);
@@ -147,7 +148,7 @@ void TestCheckDbRights::anAccountThatReadsWholeTablesSeesAllColumns()
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(messages(run), QString());
     QCOMPARE(run.json().value("verdict").toString(),
-             QString("The database is what the plugin relies on."));
+             QString("The database meets the plugin's requirements."));
 
     m_db.run("ALTER TABLE brape ADD place INT NOT NULL DEFAULT 0");
     m_db.run("REVOKE SELECT ON brape FROM yav@localhost");
@@ -158,8 +159,8 @@ void TestCheckDbRights::anAccountThatReadsWholeTablesSeesAllColumns()
     COMPARE_EXIT(run, ExitStatus::Findings);
     QVERIFY(messages(run).contains("sees no others: brape. "));
     QCOMPARE(run.json().value("verdict").toString(),
-             QString("As far as this account sees, the plugin can work with this database; there "
-                     "is one thing to look at."));
+             QString("As far as this account can see, the plugin can work with this database; "
+                     "there is one thing to look at."));
 }
 
 void TestCheckDbRights::everyRightThatThePluginLacksIsFound_data()
@@ -178,7 +179,7 @@ void TestCheckDbRights::everyRightThatThePluginLacksIsFound()
     const QString column = privilege.section('`', 1, 1);
     const QString errors = messages(run, "error");
     QVERIFY2(errors.contains(name, Qt::CaseInsensitive), run.report().constData());
-    QVERIFY2(errors.contains(column) || errors.contains("There is no table " + name),
+    QVERIFY2(errors.contains(column) || errors.contains("The table " + name + " does not exist"),
              run.report().constData());
 }
 
@@ -206,23 +207,23 @@ void TestCheckDbRights::rightsOfARoleCount()
     COMPARE_EXIT(run, ExitStatus::Fine);
 }
 
-void TestCheckDbRights::tooManyRightsAreTold_data()
+void TestCheckDbRights::excessRightsAreReported_data()
 {
     QTest::addColumn<QString>("grant");
     QTest::addColumn<QString>("message");
-    QTest::newRow("on the server") << "GRANT FILE, RELOAD ON *.* TO yav@localhost"
-                                   << "The account may do more than the plugin needs, on the whole "
-                                      "server: RELOAD, FILE. Texts of the export go into the "
-                                      "plugin's statements as they are, so whoever writes the "
-                                      "export can do all that the account may do";
+    QTest::newRow("on the server")
+        << "GRANT FILE, RELOAD ON *.* TO yav@localhost"
+        << "The account has rights on the whole server that the plugin does not need: RELOAD, "
+           "FILE. Texts of the export go into the plugin's statements unescaped, so whoever writes "
+           "the export can do whatever the account may do";
     QTest::newRow("on the database")
         << "GRANT DELETE, DROP ON tepdb.* TO yav@localhost"
-        << "The account may do more than the plugin needs, on whole databases: DELETE, DROP. Texts "
-           "of the export go into the plugin's statements as they are, so whoever writes the "
-           "export can do all that the account may do";
+        << "The account has rights on whole databases that the plugin does not need: DELETE, DROP. "
+           "Texts of the export go into the plugin's statements unescaped, so whoever writes the "
+           "export can do whatever the account may do";
 }
 
-void TestCheckDbRights::tooManyRightsAreTold()
+void TestCheckDbRights::excessRightsAreReported()
 {
     QFETCH(QString, grant);
     QFETCH(QString, message);
@@ -235,7 +236,7 @@ void TestCheckDbRights::tooManyRightsAreTold()
     QCOMPARE(findings.first().value("severity").toString(), QString("warning"));
 }
 
-void TestCheckDbRights::rightsOnSomeTablesAreNotTooMany()
+void TestCheckDbRights::rightsOnSomeTablesAreNotExcessive()
 {
     m_db.run("GRANT DELETE ON term_sync TO yav@localhost");
     const ToolRun run = check(kPlugin);
@@ -272,7 +273,7 @@ void TestCheckDbRights::theToolSeesTheTextsOfTheRoutines()
     m_db.run("REVOKE SELECT ON mysql.proc FROM mirovahrctl@localhost");
     const ToolRun run = checkWithTool();
     COMPARE_EXIT(run, ExitStatus::Fine);
-    QCOMPARE(messages(run), QString("This account does not see the routine updateTermsSync."));
+    QCOMPARE(messages(run), QString("This account cannot see the routine updateTermsSync."));
 }
 
 void TestCheckDbRights::theToolCannotWrite_data()
@@ -315,7 +316,7 @@ void TestCheckDbRights::theToolCannotWrite()
              qPrintable(query.lastError().text()));
 }
 
-void TestCheckDbRights::anotherAccountIsNotJudged()
+void TestCheckDbRights::theRightsOfAnotherAccountAreNotChecked()
 {
     m_db.run("REVOKE UPDATE (did) ON people FROM yav@localhost");
     m_db.run("GRANT DROP ON tepdb.* TO yav@localhost");

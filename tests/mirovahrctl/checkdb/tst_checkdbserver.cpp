@@ -39,7 +39,7 @@ public:
     QVector<Finding> findings;
 };
 
-/// Tells the server to take one statement in a text only, as a proxy would.
+/// Makes the server accept one statement in a text only, as a proxy would.
 bool refuseSeveralStatements(const QSqlDatabase &db)
 {
     constexpr int kMultiStatementsOff = 1;
@@ -64,21 +64,21 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
 
-    void aConnectionThatIsNotUnicodeIsTold_data();
-    void aConnectionThatIsNotUnicodeIsTold();
-    void aConnectionThatTakesOneStatementAtATimeIsTold();
+    void aConnectionThatIsNotUnicodeIsReported_data();
+    void aConnectionThatIsNotUnicodeIsReported();
+    void aConnectionThatTakesOneStatementAtATimeIsReported();
     void anOrdinaryConnectionIsFine();
     void aConnectionThatIsLostEndsTheCheck();
 
     void theTemporaryTableFailsWhereCheckDbSaysSo_data();
     void theTemporaryTableFailsWhereCheckDbSaysSo();
-    void clustersThatWantPrimaryKeysAreReported_data();
-    void clustersThatWantPrimaryKeysAreReported();
-    void anAccountThatDoesNotSeeAllColumnsOnlyNotesThatAKeyIsWanted();
+    void clustersThatRequirePrimaryKeysAreReported_data();
+    void clustersThatRequirePrimaryKeysAreReported();
+    void anAccountThatCannotSeeAllColumnsOnlyNotesAMissingKey();
 
-    void aServerThatReservesGroupsIsOfNoUse();
-    void versionsAreTakenApart_data();
-    void versionsAreTakenApart();
+    void aServerThatReservesGroupsIsAViolation();
+    void versionsAreParsed_data();
+    void versionsAreParsed();
 
 private:
     TestDatabase m_db;
@@ -99,21 +99,21 @@ void TestCheckDbServer::cleanup()
         m_db.run(QString("SET GLOBAL ") + setting);
 }
 
-void TestCheckDbServer::aConnectionThatIsNotUnicodeIsTold_data()
+void TestCheckDbServer::aConnectionThatIsNotUnicodeIsReported_data()
 {
     QTest::addColumn<QString>("statement");
     QTest::addColumn<QString>("message");
-    QTest::newRow("all of it") << "SET NAMES latin2"
-                               << "The connection's character set is not UTF-8 (client latin2, "
-                                  "connection latin2, results latin2): letters with accents arrive "
-                                  "wrong";
-    QTest::newRow("what is read") << "SET character_set_results = latin1"
-                                  << "The connection's character set is not UTF-8 (client utf8mb3, "
-                                     "connection utf8mb3, results latin1): letters with accents "
-                                     "arrive wrong";
+    QTest::newRow("all of it")
+        << "SET NAMES latin2"
+        << "The connection's character set is not UTF-8 (client latin2, connection latin2, results "
+           "latin2): accented letters are stored wrongly";
+    QTest::newRow("what is read")
+        << "SET character_set_results = latin1"
+        << "The connection's character set is not UTF-8 (client utf8mb3, connection utf8mb3, "
+           "results latin1): accented letters are stored wrongly";
 }
 
-void TestCheckDbServer::aConnectionThatIsNotUnicodeIsTold()
+void TestCheckDbServer::aConnectionThatIsNotUnicodeIsReported()
 {
     QFETCH(QString, statement);
     QFETCH(QString, message);
@@ -129,7 +129,7 @@ void TestCheckDbServer::aConnectionThatIsNotUnicodeIsTold()
     QVERIFY(!check.isContractBroken());
 }
 
-void TestCheckDbServer::aConnectionThatTakesOneStatementAtATimeIsTold()
+void TestCheckDbServer::aConnectionThatTakesOneStatementAtATimeIsReported()
 {
     const QSqlDatabase db = m_db.openPluginConnection();
     QVERIFY(refuseSeveralStatements(db));
@@ -139,8 +139,8 @@ void TestCheckDbServer::aConnectionThatTakesOneStatementAtATimeIsTold()
     QCOMPARE(report.findings.size(), 1);
     QCOMPARE(report.findings.first().rule, QString("several-statements"));
     QCOMPARE(report.findings.first().message,
-             QString("The connection refuses several statements in one text. The plugin does "
-                     "without, but where the attendance server uses the same classes, a changed "
+             QString("The connection refuses several statements in one text. The plugin does not "
+                     "need them, but where the attendance server uses the same classes, a changed "
                      "time zone does not reach the terminals."));
     QVERIFY(!check.isContractBroken());
 }
@@ -221,7 +221,7 @@ void TestCheckDbServer::theTemporaryTableFailsWhereCheckDbSaysSo()
                                + error + " QMYSQL: Unable to execute next query"));
 }
 
-void TestCheckDbServer::clustersThatWantPrimaryKeysAreReported_data()
+void TestCheckDbServer::clustersThatRequirePrimaryKeysAreReported_data()
 {
     QTest::addColumn<DbRules::ServerSettings>("settings");
     QTest::addColumn<QString>("change");
@@ -232,15 +232,14 @@ void TestCheckDbServer::clustersThatWantPrimaryKeysAreReported_data()
         return settings;
     };
     const QString noChange = "DO 1";
-    const QString queue =
-        "The server has wsrep_certify_nonPK = OFF, and this account sees no primary key on these "
-        "tables: %1. Without one, every write of the plugin to them fails with error 1213 "
-        "(deadlock).";
+    const QString queue = "The server has wsrep_certify_nonPK = OFF, and this account sees no "
+                          "primary key on these tables: %1. Without one, each of the plugin's "
+                          "writes to them fails with error 1213 (deadlock).";
     QTest::newRow("a cluster") << cluster << noChange << "";
     QTest::newRow("wanted of tables that are made")
         << with(cluster, "wsrep_mode", "STRICT_REPLICATION,REQUIRED_PRIMARY_KEY") << noChange
         << "The server has wsrep_mode = REQUIRED_PRIMARY_KEY: CREATE TEMPORARY TABLE "
-           "tmptbl_updateTermsSyncTZ fails with error 4165. The plugin does without, but where "
+           "tmptbl_updateTermsSyncTZ fails with error 4165. The plugin does not need it, but where "
            "the attendance server uses the same classes, a changed time zone does not reach the "
            "terminals.";
     QTest::newRow("other modes") << with(cluster, "wsrep_mode", "STRICT_REPLICATION") << noChange
@@ -262,7 +261,7 @@ void TestCheckDbServer::clustersThatWantPrimaryKeysAreReported_data()
         << noChange << "";
 }
 
-void TestCheckDbServer::clustersThatWantPrimaryKeysAreReported()
+void TestCheckDbServer::clustersThatRequirePrimaryKeysAreReported()
 {
     QFETCH(DbRules::ServerSettings, settings);
     QFETCH(QString, change);
@@ -279,7 +278,7 @@ void TestCheckDbServer::clustersThatWantPrimaryKeysAreReported()
     QVERIFY(!check.isContractBroken());
 }
 
-void TestCheckDbServer::anAccountThatDoesNotSeeAllColumnsOnlyNotesThatAKeyIsWanted()
+void TestCheckDbServer::anAccountThatCannotSeeAllColumnsOnlyNotesAMissingKey()
 {
     const QSqlDatabase db = m_db.openPluginConnection();
     DbSchema schema;
@@ -296,7 +295,7 @@ void TestCheckDbServer::anAccountThatDoesNotSeeAllColumnsOnlyNotesThatAKeyIsWant
     }
 }
 
-void TestCheckDbServer::aServerThatReservesGroupsIsOfNoUse()
+void TestCheckDbServer::aServerThatReservesGroupsIsAViolation()
 {
     TestDatabase other;
     QVERIFY2(other.start({"--version=8.0.35"}), qPrintable(other.errorString()));
@@ -307,12 +306,12 @@ void TestCheckDbServer::aServerThatReservesGroupsIsOfNoUse()
     const QJsonObject finding = run.findingsOf("groups-reserved").value(0);
     QCOMPARE(finding.value("message").toString(),
              QString("The server is MySQL 8.0.35. There \"groups\" is a reserved word, and the "
-                     "plugin's statement that looks up a calendar group, which writes it bare, "
+                     "plugin's statement that looks up a calendar group, which does not quote it, "
                      "fails for everybody."));
     QCOMPARE(finding.value("advice").toString(), QString("Use MariaDB, or MySQL up to 5.7."));
 }
 
-void TestCheckDbServer::versionsAreTakenApart_data()
+void TestCheckDbServer::versionsAreParsed_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("name");
@@ -329,7 +328,7 @@ void TestCheckDbServer::versionsAreTakenApart_data()
                              << "MySQL " << false;
 }
 
-void TestCheckDbServer::versionsAreTakenApart()
+void TestCheckDbServer::versionsAreParsed()
 {
     QFETCH(QString, text);
     QFETCH(QString, name);
