@@ -18,10 +18,10 @@
 namespace {
 
 constexpr char kDescription[] =
-    "Reads an HR export exactly as the plugin does, and changes nothing. Tells of every\n"
-    "line that the plugin would drop and every field that it would misread, of people\n"
-    "who stand there twice or have the same number, and of texts that break a statement.\n"
-    "With a database also of texts that are longer than its columns.";
+    "Reads an HR export exactly as the plugin does, and changes nothing. Reports every line\n"
+    "that the plugin would drop, every field that it would misread, people who appear twice\n"
+    "or have the same number, and texts that break a statement. With a database it also\n"
+    "reports texts that are longer than its columns.";
 
 class CheckFileRun {
 public:
@@ -70,10 +70,9 @@ QString verdict(const ExportScan::Counts &counts, ExitStatus status)
     if (status == ExitStatus::Fine)
         return QStringLiteral("The export is fine.");
     if (counts.rejected == 0)
-        return QStringLiteral("Everybody in the export arrives, but not everything is as it "
-                              "should be.");
-    return QStringLiteral("%1 of the export %2 not arrive as %3 should; the plugin drops %4 of "
-                          "them.")
+        return QStringLiteral("Everybody in the export arrives, but there are findings.");
+    return QStringLiteral(
+               "%1 of the export %2 not arrive as %3 should; the plugin drops %4 of them.")
         .arg(Wording::counted(counts.rejected, QStringLiteral("line"), QStringLiteral("lines")),
              counts.rejected == 1 ? QStringLiteral("does") : QStringLiteral("do"),
              counts.rejected == 1 ? QStringLiteral("it") : QStringLiteral("they"),
@@ -112,8 +111,7 @@ std::optional<ExitStatus> CheckFileRun::prepare()
         return end;
     if (isExport(m_rejectsFile.fileName()) || isExport(m_line.pagePath())) {
         return fail(ExitStatus::Usage,
-                    QStringLiteral("The result would be written over the export; name another "
-                                   "file"));
+                    QStringLiteral("The result would overwrite the export; name another file"));
     }
     if (m_wantsRejects) {
         if (!m_rejectsFile.open(QIODevice::WriteOnly))

@@ -1,6 +1,5 @@
 #include "cli/database.h"
 #include "cli/databaseoptions.h"
-#include "mirovahrctl/explain/peoplelist.h"
 #include "mirovahrctl/explain/peoplesearch.h"
 #include "mirovahrctl/explain/personexplanation.h"
 #include "mirovahrctl/explain/personid.h"
@@ -19,11 +18,11 @@
 namespace {
 
 constexpr char kDescription[] =
-    "Tells why a person did not arrive, or arrived so: what the plugin makes of the\n"
+    "Explains why a person did not arrive, or not as expected: how the plugin reads the\n"
     "person's line in the export, what the database holds, and what each step of a\n"
-    "synchronisation does with the two, in the order in which the plugin decides.\n"
-    "PERSON is a payroll id such as 1234.1, a personal number, a pid, or a name in any\n"
-    "spelling, such as novakova; when that may be several people, they are listed.\n"
+    "synchronisation does with the two, in the order of the plugin's decisions.\n"
+    "PERSON is a payroll id such as 1234.1, a personal number, a pid, or a name, such as\n"
+    "novakova, whose capitals and accents do not matter. Several matches are listed.\n"
     "Changes nothing.";
 
 class ExplainRun {
@@ -92,10 +91,10 @@ std::optional<ExitStatus> ExplainRun::readPerson()
         m_search = PeopleSearch::parse(text);
     if (m_person || m_search)
         return std::nullopt;
-    return fail(ExitStatus::Usage,
-                QStringLiteral("'%1' is neither a payroll id such as 1234.1, nor a number, nor a "
-                               "name")
-                    .arg(text));
+    return fail(
+        ExitStatus::Usage,
+        QStringLiteral("'%1' is neither a payroll id such as 1234.1, nor a number, nor a name")
+            .arg(text));
 }
 
 std::optional<ExitStatus> ExplainRun::openExport()
@@ -106,8 +105,7 @@ std::optional<ExitStatus> ExplainRun::openExport()
         return fail(ExitStatus::Usage, file.errorString());
     if (hasExport() && QFileInfo(m_line.pagePath()) == QFileInfo(file.path())) {
         return fail(ExitStatus::Usage,
-                    QStringLiteral("The result would be written over the export; name another "
-                                   "file"));
+                    QStringLiteral("The result would overwrite the export; name another file"));
     }
     return std::nullopt;
 }
@@ -142,7 +140,7 @@ std::optional<ExitStatus> ExplainRun::search(const QSqlDatabase &site)
     if (const auto end = m_report.open())
         return end;
     m_report.begin(m_line.subcommand(), QStringLiteral("Who is %1?").arg(m_search->text()));
-    const QString verdict = listPeople(*m_search, m_report);
+    const QString verdict = m_search->reportPeople(m_report);
     return m_report.conclude(m_report.findingsStatus(), verdict);
 }
 
@@ -164,7 +162,7 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
     m_source.isForced = *forced;
     if (const auto end = m_report.open())
         return *end;
-    m_report.begin(m_line.subcommand(), QStringLiteral("What became of %1").arg(m_person->name()));
+    m_report.begin(m_line.subcommand(), QStringLiteral("What happens to %1").arg(m_person->name()));
     PersonExplanation explanation(*m_person, m_source, view, m_report);
     const QString verdict = explanation.explain(m_lines ? &*m_lines : nullptr);
     if (!view.errorText().isEmpty())
@@ -204,11 +202,11 @@ ExitStatus runExplain(const QStringList &arguments, Console &console)
 {
     CommandLine line("explain", kDescription);
     line.addArgument("person", "A payroll id such as 1234.1, a personal number, a pid, or a name.");
-    line.addOptionalArgument("file", "The export; importFile of the INI file when left out.");
+    line.addOptionalArgument("file", "The export; importFile of the INI file by default.");
     line.addOption("gate-folder", "folder",
-                   "The gate's own folder, whose last admitted file is the export when importFile "
-                   "is gone; that of the gate in syncCommand when left out.");
-    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini when left out.");
+                   "The gate's own folder, whose last admitted file is used when importFile is "
+                   "gone; by default that of the gate in syncCommand.");
+    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini by default.");
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     if (const auto end = line.parse(arguments, console))

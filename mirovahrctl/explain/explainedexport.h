@@ -9,7 +9,7 @@
 
 struct Configuration;
 
-/// The export that explain looks at: the one that is named, else the one that the plugin reads.
+/// The export that explain reads: the one that is named, or else the one that the plugin reads.
 /// When that is gone, because the plugin removes it after reading it, the one that the gate
 /// admitted last.
 class ExplainedExport {
@@ -32,11 +32,12 @@ public:
 
     /// Whether the gate's folder was found in the configuration.
     bool isGateOfCommand() const { return m_isGateOfCommand; }
-    /// Why the gate of the configuration is of no use here; empty when it is, or there is none.
+    /// Why the gate of the configuration cannot be used; empty when it can, or there is none.
     QString gateError() const { return m_gateError; }
-    /// What the gate says of its last run, as far as that can be read.
+    /// The status of the gate's last run, as far as it can be read.
     const std::optional<GateStatus> &gateStatus() const { return m_gateStatus; }
 
+    /// Why open() failed.
     QString errorString() const { return m_error; }
 
 private:

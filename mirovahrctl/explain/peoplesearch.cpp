@@ -60,7 +60,7 @@ bool PeopleSearch::searchExport(QFile &file, Console &console)
     Progress progress(console, QStringLiteral("Searching the export"));
     BoundedLineReader reader(file);
     while (reader.next()) {
-        look(ExportLine::decode(reader.line()), reader.lineNumber());
+        examine(ExportLine::decode(reader.line()), reader.lineNumber());
         progress.update(file.pos(), file.size());
     }
     m_error = reader.errorString();
@@ -69,7 +69,7 @@ bool PeopleSearch::searchExport(QFile &file, Console &console)
     return m_error.isEmpty();
 }
 
-void PeopleSearch::look(const QString &line, qint64 number)
+void PeopleSearch::examine(const QString &line, qint64 number)
 {
     const ExportLine::Parts parts = ExportLine::split(line, ExportLine::kSeparator);
     MirovaRonRecord record;
@@ -102,12 +102,12 @@ void PeopleSearch::searchDatabase(SqlSession &site)
     if (m_number != 0)
         select += QString(QLatin1String(kWithNumber)).arg(m_number);
     site.forEachRow(select, [this](const QStringList &row) {
-        lookAtRow(row);
+        examineRow(row);
         return true;
     });
 }
 
-void PeopleSearch::lookAtRow(const QStringList &row)
+void PeopleSearch::examineRow(const QStringList &row)
 {
     FoundPerson found;
     found.pid = row.at(0).toUInt();

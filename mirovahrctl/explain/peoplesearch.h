@@ -11,6 +11,7 @@
 class Console;
 class MirovaRonRecord;
 class QFile;
+class Report;
 class SqlSession;
 
 /// Somebody whom a PeopleSearch has found.
@@ -22,39 +23,41 @@ struct FoundPerson {
     qint64 line = 0; ///< the first line of the export that names the person; 0: none
     std::optional<bool> active; ///< the row of `people`; nothing: there is none
 
-    /// How to ask for this very person. Nothing when no line and no row has a number.
+    /// The id that names exactly this person; nothing when no line and no row has a number.
     std::optional<PersonId> person() const;
 };
 
-/// Looks in the export and in the database for the people whom a name or a number may mean. A
-/// number is a personal number or a pid. A name is one or more words, each of which is a word of
-/// the person's name or title; capital letters and accents do not matter.
+/// Searches the export and the database for the people whom a name or a number may mean. A number
+/// is a personal number or a pid. A name is one or more words, each of which is a word of the
+/// person's name or title; capital letters and accents do not matter.
 class PeopleSearch {
 public:
-    /// The most people that are kept.
+    /// Maximum number of people that are kept.
     static constexpr int kMost = 100;
 
-    /// Nothing when the text is neither a number above 0 nor has a letter.
+    /// Nothing when the text is neither a number above 0 nor contains a letter.
     static std::optional<PeopleSearch> parse(const QString &text);
 
     /// False when the export cannot be read to its end; errorString() then says why, a part of a
     /// sentence without its full stop. The file is at its beginning afterwards.
     bool searchExport(QFile &file, Console &console);
     QString errorString() const { return m_error; }
+    /// Errors are those of the session.
     void searchDatabase(SqlSession &site);
 
-    /// As it was asked for.
+    /// The text that was searched for.
     QString text() const { return m_text; }
-    /// In the order of their numbers.
+    /// Sorted by personal number and relationship number.
     QVector<FoundPerson> people() const;
-    /// There are more than are kept.
+    /// Whether more people match than are kept.
     bool hasMore() const { return m_hasMore; }
-    /// Lines of the export that cannot be read so far as to say whether they match.
-    qint64 unreadableLines() const { return m_unreadableLines; }
+    /// Lists the people, for a search that has not found exactly one. Returns the verdict in one
+    /// sentence.
+    QString reportPeople(Report &report) const;
 
 private:
-    void look(const QString &line, qint64 number);
-    void lookAtRow(const QStringList &row);
+    void examine(const QString &line, qint64 number);
+    void examineRow(const QStringList &row);
     bool matches(const FoundPerson &person) const;
     void add(const FoundPerson &person);
 
@@ -63,6 +66,6 @@ private:
     QStringList m_words;
     QVector<FoundPerson> m_people;
     bool m_hasMore = false;
-    qint64 m_unreadableLines = 0;
+    qint64 m_unreadableLines = 0; ///< of the export: too broken to say whether they match
     QString m_error;
 };

@@ -1,8 +1,10 @@
-#include "mirovahrctl/explain/peoplelist.h"
+// Reports whom a search has found.
 
 #include "mirovahrctl/explain/peoplesearch.h"
+
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/wording.h"
 
 namespace {
@@ -19,15 +21,15 @@ QVariantList row(const FoundPerson &found)
 
 void reportNobody(const PeopleSearch &search, Report &report)
 {
-    Phrases::tell(report, Severity::Warning, "nobody-found",
-                  QStringLiteral("Nobody in the export or in the database has this name, "
-                                 "personal number or pid: %1.")
-                      .arg(Wording::quoted(search.text())),
-                  QStringLiteral("Check the spelling, and whether HR's export has ever named "
-                                 "the person."));
+    report.finding(makeFinding(
+        Severity::Warning, "nobody-found",
+        QStringLiteral(
+            "Nobody in the export or in the database has this name, personal number or pid: %1.")
+            .arg(Wording::quoted(search.text())),
+        QStringLiteral("Check the spelling, and whether HR has ever exported the person.")));
 }
 
-void reportPeople(const PeopleSearch &search, Report &report)
+void reportTable(const PeopleSearch &search, Report &report)
 {
     Table table{QStringLiteral("people"),
                 {{QStringLiteral("person"), QStringLiteral("Person")},
@@ -43,33 +45,32 @@ void reportPeople(const PeopleSearch &search, Report &report)
         report.sentence(
             QStringLiteral("There are more; these are the first %1.").arg(PeopleSearch::kMost));
     }
-    Phrases::tell(report, Severity::Warning, "person-ambiguous",
-                  QStringLiteral("This does not name one person that can be explained."),
-                  QStringLiteral("Name one by the first column of the table; who has nothing "
-                                 "there stands in a line without numbers, which the plugin "
-                                 "drops."));
+    report.finding(
+        makeFinding(Severity::Warning, "person-ambiguous",
+                    QStringLiteral("The search does not name exactly one person."),
+                    QStringLiteral("Name one by the first column of the table. Where it is empty, "
+                                   "the line has no numbers, and the plugin drops it.")));
 }
 
 } // namespace
 
-QString listPeople(const PeopleSearch &search, Report &report)
+QString PeopleSearch::reportPeople(Report &report) const
 {
-    const int count = search.people().size();
+    const int count = m_people.size();
     report.section(QStringLiteral("people"), QStringLiteral("People"));
     if (count == 0)
-        reportNobody(search, report);
+        reportNobody(*this, report);
     else
-        reportPeople(search, report);
-    if (search.unreadableLines() > 0) {
-        report.sentence(
-            QStringLiteral("%1 of the export cannot be read so far as to say whom they are about, "
-                           "and the plugin drops them: see check-file.")
-                .arg(Wording::counted(search.unreadableLines(), QStringLiteral("line"),
-                                      QStringLiteral("lines"))));
+        reportTable(*this, report);
+    if (m_unreadableLines > 0) {
+        report.sentence(QStringLiteral("%1 of the export are too broken to tell whom they are "
+                                       "about, and the plugin drops them: see check-file.")
+                            .arg(Wording::counted(m_unreadableLines, QStringLiteral("line"),
+                                                  QStringLiteral("lines"))));
     }
     report.fact(QStringLiteral("matches"), QStringLiteral("People found"), count);
     if (count == 0)
-        return QStringLiteral("Nobody is known as %1.").arg(Wording::quoted(search.text()));
-    return QStringLiteral("%1 may be meant: name one of them.")
+        return QStringLiteral("Nobody is known as %1.").arg(Wording::quoted(m_text));
+    return QStringLiteral("%1 match: name one of them.")
         .arg(Wording::counted(count, QStringLiteral("person"), QStringLiteral("people")));
 }

@@ -1,8 +1,8 @@
 #include "mirovahrctl/explain/personexplanation.h"
 
-#include "mirovahrctl/explain/explaindatabase.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/export/personname.h"
+#include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/wording.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ QString lineCount(qint64 count)
     return Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"));
 }
 
-/// What the verdict says of each word for the person.
+/// The verdict for each outcome of the person.
 struct PersonVerdict {
     const char *person;
     const char *sentence;
@@ -25,9 +25,10 @@ constexpr PersonVerdict kVerdicts[] = {
     {"merged", "A synchronisation brings the row of %1 up to date and makes it active."},
     {"updated", "A synchronisation writes the row of %1."},
     {"unchanged", "A synchronisation leaves the row of %1 alone."},
-    {"never-created", "%1 has left and is not in the database: the plugin never creates the row."},
-    {"uncertain", "A text in the line of %1 keeps the row from being written as it should."},
-    {"missed", "The plugin takes somebody for %1, but finds no row to write."},
+    {"never-created",
+     "%1 has left and is not in the database: the plugin never creates a row for leavers."},
+    {"uncertain", "A text in the line of %1 prevents the row from being written correctly."},
+    {"missed", "The plugin recognises somebody as %1, but finds no row to write."},
     {"test-mode", "Test mode is on: the plugin does not write the row of %1."},
 };
 
@@ -48,7 +49,7 @@ constexpr WordFact kWordFacts[] = {
     {"calendar", "Calendar group", &RecordOutcome::calendar},
 };
 
-/// A table of what becomes of each line, in the words of the facts.
+/// A table of the outcome of each line, in the words of the facts.
 Table lineTable()
 {
     Table table{QStringLiteral("lines"), {{QStringLiteral("line"), QStringLiteral("Line")}}, {}};
@@ -94,7 +95,7 @@ QString PersonExplanation::explain(const PersonLines *lines)
         m_context.report.sentence(QStringLiteral("The next synchronisation is a forced one: the "
                                                  "plugin handles every line, changed or not."));
     }
-    explainDatabase(m_context);
+    explainDatabase();
     if (!m_isFound)
         explainAbsence();
     else
@@ -111,18 +112,20 @@ void PersonExplanation::explainConfiguration()
     report.section(QStringLiteral("configuration"), QStringLiteral("Configuration"));
     report.sentence(m_source.configuration.origin());
     if (!configuration.enabled) {
-        Phrases::tell(report, Severity::Warning, "disabled",
-                      QStringLiteral("The plugin is disabled: nobody arrives. What follows "
-                                     "holds for when it is enabled."),
-                      QStringLiteral("Set enabled to 1 and start the attendance server "
-                                     "again."));
+        report.finding(
+            makeFinding(Severity::Warning, "disabled",
+                        QStringLiteral("The plugin is disabled: nobody is synchronised. What "
+                                       "follows applies once it is enabled."),
+                        QStringLiteral("Set enabled to 1 and start the attendance server "
+                                       "again.")));
     }
     if (configuration.testMode) {
-        Phrases::tell(report, Severity::Warning, "test-mode",
-                      QStringLiteral("Test mode is on: the rows of people are not written, "
-                                     "only what hangs on them."),
-                      QStringLiteral("Set testMode to 0 and start the attendance server "
-                                     "again."));
+        report.finding(makeFinding(
+            Severity::Warning, "test-mode",
+            QStringLiteral(
+                "Test mode is on: rows of people are not written, only what depends on them."),
+            QStringLiteral("Set testMode to 0 and start the attendance server "
+                           "again.")));
     }
 }
 
@@ -141,7 +144,7 @@ void PersonExplanation::explainAbsentExport()
     }
     if (!file.gateError().isEmpty())
         m_context.report.sentence(file.gateError() + QLatin1Char('.'));
-    m_context.report.sentence(QStringLiteral("What follows is from the database only."));
+    m_context.report.sentence(QStringLiteral("What follows uses the database only."));
 }
 
 void PersonExplanation::explainGate()
@@ -151,14 +154,15 @@ void PersonExplanation::explainGate()
     const auto &status = file.gateStatus();
     const auto admitted = status ? status->admittedTime : std::nullopt;
     report.sentence(
-        QStringLiteral("What follows is from the file that the gate%1 admitted last%2.")
+        QStringLiteral("What follows uses the file that the gate%1 admitted last%2.")
             .arg(file.isGateOfCommand() ? QStringLiteral(" of syncCommand") : QString(),
                  admitted ? QStringLiteral(", on ") + Phrases::day(*admitted) : QString()));
     if (status && status->refused) {
-        Phrases::tell(report, Severity::Warning, "gate-refused",
-                      QStringLiteral("The gate has refused a file since then: %1.")
-                          .arg(status->reasons.join(QStringLiteral("; "))),
-                      QStringLiteral("See whether the person stands otherwise in that file."));
+        report.finding(makeFinding(
+            Severity::Warning, "gate-refused",
+            QStringLiteral("The gate has refused a newer file: %1.")
+                .arg(status->reasons.join(QStringLiteral("; "))),
+            QStringLiteral("Check whether that file has another line for the person.")));
     }
 }
 
@@ -172,11 +176,12 @@ void PersonExplanation::explainExport(const PersonLines &lines)
     for (const CheckedLine &line : lines.lines())
         explainLine(line);
     if (lines.more() > 0) {
-        Phrases::tell(report, Severity::Warning, "lines-not-explained",
-                      QStringLiteral("%1 more about the same person are not looked at here: "
-                                     "the facts are those of the first %2.")
-                          .arg(lineCount(lines.more()), lineCount(PersonLines::kMost)),
-                      QStringLiteral("Have HR export each employment relationship once."));
+        report.finding(
+            makeFinding(Severity::Warning, "lines-not-explained",
+                        QStringLiteral("%1 more about the same person are not explained: the facts "
+                                       "are those of the first %2.")
+                            .arg(lineCount(lines.more()), lineCount(PersonLines::kMost)),
+                        QStringLiteral("Ask HR to export each employment relationship once.")));
     }
     explainOthers(lines);
 }
@@ -199,17 +204,17 @@ void PersonExplanation::explainNotFound(const PersonLines &lines)
 {
     const auto &row = m_context.person.row();
     const bool hasLeft = row && (!row->active || row->isOver());
-    Phrases::tell(m_context.report, hasLeft ? Severity::Note : Severity::Warning, "not-in-export",
-                  QStringLiteral("None of the %1 of %2 is about %3.")
-                      .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()),
-                  hasLeft ? QStringLiteral("Nothing is wrong, unless the person still works: "
-                                           "in the database the person has left.")
-                          : QStringLiteral("Ask HR why the export does not name the person."));
+    m_context.report.finding(
+        makeFinding(hasLeft ? Severity::Note : Severity::Warning, "not-in-export",
+                    QStringLiteral("None of the %1 of %2 is about %3.")
+                        .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()),
+                    hasLeft ? QStringLiteral("This is fine unless the person still works: "
+                                             "according to the database the person has left.")
+                            : QStringLiteral("Ask HR why the person is missing from the export.")));
     if (lines.nameless() > 0) {
-        m_context.report.sentence(
-            QStringLiteral("%1 cannot be read so far as to say whom they are about, and the plugin "
-                           "drops them: see check-file.")
-                .arg(lineCount(lines.nameless())));
+        m_context.report.sentence(QStringLiteral("%1 are too broken to tell whom they are about, "
+                                                 "and the plugin drops them: see check-file.")
+                                      .arg(lineCount(lines.nameless())));
     }
 }
 
@@ -217,7 +222,7 @@ void PersonExplanation::explainOthers(const PersonLines &lines)
 {
     if (lines.others().isEmpty())
         return;
-    m_context.report.sentence(QStringLiteral("Personal number %1 also stands there as %2.")
+    m_context.report.sentence(QStringLiteral("Personal number %1 also appears as %2.")
                                   .arg(QString::number(m_person.personalNumber()),
                                        lines.others().join(QStringLiteral(", "))));
 }
@@ -239,15 +244,16 @@ void PersonExplanation::explainLine(const CheckedLine &line)
 void PersonExplanation::explainAbsence()
 {
     if (!m_context.person.row()) {
-        Phrases::tell(m_context.report, Severity::Warning, "not-in-database",
-                      QStringLiteral("The person is not in the database either."),
-                      QStringLiteral("Check the number, and whether HR's export has ever named "
-                                     "the person."));
+        m_context.report.finding(makeFinding(
+            Severity::Warning, "not-in-database",
+            QStringLiteral("The person is not in the database either."),
+            QStringLiteral("Check the number, and whether HR has ever exported the person.")));
     } else if (m_hasExport) {
-        m_context.report.sentence(QStringLiteral("The plugin leaves people alone whom the export "
-                                                 "does not name: it never ends or removes them."));
+        m_context.report.sentence(
+            QStringLiteral("The plugin leaves people alone who are missing from the export: it "
+                           "never ends or removes them."));
     }
-    explainRowOnly(m_context);
+    explainRowOnly();
 }
 
 void PersonExplanation::explainRecords(const QVector<CheckedLine> &lines)
@@ -263,12 +269,12 @@ void PersonExplanation::explainRecords(const QVector<CheckedLine> &lines)
         m_lineNumbers += line.number;
     }
     if (m_outcomes.isEmpty())
-        explainRowOnly(m_context);
+        explainRowOnly();
     else
         m_outcome = outcomeOfAll();
 }
 
-/// What an earlier line has set and a later one has set back is as before.
+/// A value that an earlier line has set and a later one has set back counts as kept.
 RecordOutcome PersonExplanation::outcomeOfAll()
 {
     RecordOutcome all = RecordOutcome::combined(m_outcomes);
@@ -285,17 +291,17 @@ void PersonExplanation::explainMemory()
 {
     Report &report = m_context.report;
     report.section(QStringLiteral("memory"), QStringLiteral("What only the running plugin knows"));
-    report.sentence(QStringLiteral(
-        "This is what a plugin does that sees the export for the first time since it was started. "
-        "Later it leaves alone whose line is the same as at the synchronisation before, unless the "
-        "synchronisation is forced, the record waits for its branch, or the balance could not be "
-        "corrected."));
-    report.sentence(QStringLiteral(
-        "Which lines it has seen stands nowhere but in its memory. If it has seen this very line "
-        "and something failed, nothing happens until the line changes; mirovahrctl force makes it "
-        "take every line anew."));
-    report.sentence(QStringLiteral("Whether a statement fails, for lack of rights or otherwise, is "
-                                   "not tried out here: see preview and check-db."));
+    report.sentence(
+        QStringLiteral("This is what a plugin does with its first export after it was started. "
+                       "Later it skips people whose line has not changed since the previous "
+                       "synchronisation, unless the synchronisation is forced, the record waits "
+                       "for its branch, or the balance could not be corrected."));
+    report.sentence(
+        QStringLiteral("Only its memory knows which lines it has seen. If it has seen this very "
+                       "line and a step failed, nothing happens until the line changes; "
+                       "mirovahrctl force makes it handle every line again."));
+    report.sentence(QStringLiteral("Statements that fail, for lack of rights or otherwise, are not "
+                                   "predicted here: see preview and check-db."));
 }
 
 void PersonExplanation::writeFacts()
@@ -336,12 +342,12 @@ void PersonExplanation::writeRecalculation()
     const qint64 before = m_context.person.lastCalculationBefore();
     const qint64 after = m_context.person.lastCalculation();
     if (after > before && before != 0) {
-        Phrases::tell(report, Severity::Note, "calculation-forward",
-                      QStringLiteral("The last calculation moves from %1 forward to %2. Days in "
-                                     "between that are not calculated stay so.")
-                          .arg(Phrases::day(before), Phrases::day(after)),
-                      QStringLiteral("Calculate the person's attendance again by hand if there "
-                                     "are such days."));
+        report.finding(makeFinding(
+            Severity::Note, "calculation-forward",
+            QStringLiteral("The last calculation moves forward from %1 to %2. Days in between that "
+                           "are not calculated yet stay uncalculated.")
+                .arg(Phrases::day(before), Phrases::day(after)),
+            QStringLiteral("Recalculate the person's attendance by hand if there are such days.")));
     }
     report.fact(QStringLiteral("lastCalculation"), QStringLiteral("Last calculation is set"),
                 after == before      ? QStringLiteral("kept")
@@ -360,7 +366,7 @@ QString PersonExplanation::verdict() const
             sentence = QString::fromLatin1(candidate.sentence).arg(name);
     }
     if (m_context.report.findingsStatus() == ExitStatus::Findings)
-        sentence += QStringLiteral(" Not everything is as it should be.");
+        sentence += QStringLiteral(" There are findings.");
     return sentence;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "mirovahrctl/explain/explaincontext.h"
 #include "mirovahrctl/explain/explainedexport.h"
 #include "mirovahrctl/explain/personid.h"
 #include "mirovahrctl/explain/personlines.h"
@@ -9,22 +8,22 @@
 
 #include <QString>
 
-/// Where the explanation of a person comes from, apart from the database.
+/// What a person's explanation is based on, besides the database.
 struct ExplainedSource {
     PluginConfiguration configuration;
     ExplainedExport file; ///< the export
     bool isForced = false; ///< the next synchronisation is a forced one
 };
 
-/// Why a person did not arrive, or arrived so: the whole report but for its frame.
+/// Why a person did not arrive, or not as expected: the whole report but its frame.
 class PersonExplanation {
 public:
     /// \a source must live longer than this object.
     PersonExplanation(const PersonId &person, const ExplainedSource &source, PluginView &view,
                       Report &report);
 
-    /// \a lines: what the export says of the person; null when there is no export. Returns the
-    /// verdict in one sentence.
+    /// \a lines: the person's lines; null when there is no export. Returns the verdict in one
+    /// sentence.
     QString explain(const PersonLines *lines);
 
 private:
@@ -36,6 +35,9 @@ private:
     void explainNotFound(const PersonLines &lines);
     void explainOthers(const PersonLines &lines);
     void explainLine(const CheckedLine &line);
+    void explainDatabase();
+    /// The person's row as the plugin reads it, for when there is no line to compare it with.
+    void explainRowOnly();
     void explainAbsence();
     void explainRecords(const QVector<CheckedLine> &lines);
     void explainMemory();

@@ -1,12 +1,14 @@
-#include "mirovahrctl/explain/explaindatabase.h"
+// What the database holds of the person, and whether the plugin recognises the person there.
 
-#include "mirovahrctl/explain/explaincontext.h"
+#include "mirovahrctl/explain/personexplanation.h"
+
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/rowfields.h"
+#include "mirovahrctl/report/finding.h"
 
 namespace {
 
-/// What else the database holds of a person: what it is, and a query for it.
+/// Something else that the database holds of a person, and the query for it.
 struct Holding {
     const char *name;
     const char *select;
@@ -19,7 +21,7 @@ constexpr Holding kHoldings[] = {
     {"Calendar groups and their first months",
      "SELECT GROUP_CONCAT(CONCAT(gid, ' from ', since) ORDER BY since SEPARATOR ', ')"
      " FROM groups_plan WHERE uid = %1"},
-    {"Administrators who get the requests",
+    {"Administrators who receive the requests",
      "SELECT GROUP_CONCAT(CONCAT(aid, IFNULL(CONCAT(' (personal number ', personalNumber, ')'),"
      " '')) ORDER BY aid SEPARATOR ', ')"
      " FROM admins_people JOIN admins USING(aid) WHERE request AND uid = %1"},
@@ -29,7 +31,7 @@ constexpr Holding kHoldings[] = {
      "SELECT GROUP_CONCAT(id ORDER BY id SEPARATOR ', ') FROM people_pam WHERE uid = %1"},
 };
 
-void tellRow(ExplainContext &context)
+void reportRow(ExplainContext &context)
 {
     const PersonRow &row = *context.person.row();
     context.report.sentence(
@@ -48,7 +50,7 @@ void tellRow(ExplainContext &context)
     context.report.sentence(history);
 }
 
-void tellHoldings(ExplainContext &context)
+void reportHoldings(ExplainContext &context)
 {
     Table table{QStringLiteral("held"),
                 {{QStringLiteral("what"), QStringLiteral("What")},
@@ -63,49 +65,51 @@ void tellHoldings(ExplainContext &context)
     context.report.table(table);
 }
 
-/// How the plugin finds the row again: by the payroll id of the active ones.
-void tellRecognition(ExplainContext &context)
+/// The plugin looks a person up by the payroll id of the active rows.
+void reportRecognition(ExplainContext &context)
 {
     const auto &row = context.person.row();
     const auto &known = context.person.known();
     const bool seesRow = row && row->active;
     if (known && !seesRow) {
-        Phrases::tell(context.report, Severity::Warning, "payroll-id-strange",
-                      QStringLiteral("An active row with another pid has the payroll id %1. "
-                                     "The plugin takes it for this person, but writes by pid: "
-                                     "it changes nobody, or somebody else.")
-                          .arg(known->getPamId()),
-                      QStringLiteral("Set pid and pamId of that row right."));
+        context.report.finding(makeFinding(
+            Severity::Warning, "payroll-id-strange",
+            QStringLiteral(
+                "An active row with another pid has the payroll id %1. The plugin recognises it as "
+                "this person, but writes by pid: it changes nobody, or somebody else.")
+                .arg(known->getPamId()),
+            QStringLiteral("Correct pid and pamId of that row.")));
     } else if (seesRow && !known) {
-        Phrases::tell(context.report, Severity::Warning, "payroll-id-strange",
-                      QStringLiteral("The payroll id of the row makes another pid: the plugin "
-                                     "does not recognise the person in it."),
-                      QStringLiteral("Set pamId of the row right."));
+        context.report.finding(
+            makeFinding(Severity::Warning, "payroll-id-strange",
+                        QStringLiteral("The payroll id of the row belongs to another pid: the "
+                                       "plugin does not recognise the person in it."),
+                        QStringLiteral("Correct pamId of the row.")));
     } else if (row && !row->active) {
         context.report.sentence(
-            QStringLiteral("The plugin sees active people only: to it, nobody is there."));
+            QStringLiteral("The plugin sees active people only, so it does not see this row."));
     }
 }
 
 } // namespace
 
-void explainDatabase(ExplainContext &context)
+void PersonExplanation::explainDatabase()
 {
-    context.report.section(QStringLiteral("database"), QStringLiteral("Database"));
-    const bool hasRow = context.person.row().has_value();
+    m_context.report.section(QStringLiteral("database"), QStringLiteral("Database"));
+    const bool hasRow = m_context.person.row().has_value();
     if (hasRow)
-        tellRow(context);
+        reportRow(m_context);
     else
-        context.report.sentence(
-            QStringLiteral("The database has nobody with the pid %1.").arg(context.person.pid()));
-    tellRecognition(context);
+        m_context.report.sentence(
+            QStringLiteral("The database has nobody with the pid %1.").arg(m_context.person.pid()));
+    reportRecognition(m_context);
     if (hasRow)
-        tellHoldings(context);
+        reportHoldings(m_context);
 }
 
-void explainRowOnly(ExplainContext &context)
+void PersonExplanation::explainRowOnly()
 {
-    const auto &known = context.person.known();
+    const auto &known = m_context.person.known();
     if (!known)
         return;
     Table table{QStringLiteral("fields"),
@@ -115,5 +119,5 @@ void explainRowOnly(ExplainContext &context)
     const QVector<RowField> fields = compareRowFields(*known, *known);
     for (const RowField &field : fields)
         table.rows.append({field.name, field.held});
-    context.report.table(table);
+    m_context.report.table(table);
 }

@@ -46,6 +46,6 @@ QString PersonId::name() const
 
 bool PersonId::matches(const MirovaRonRecord &record) const
 {
-    // Also with the pid 0, which many can have: the plugin takes all of them for one person.
+    // Also for pid 0, which many can have: the plugin treats all of them as one person.
     return record.getPid() == m_pid;
 }

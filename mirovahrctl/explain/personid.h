@@ -7,26 +7,26 @@
 
 class MirovaRonRecord;
 
-/// Whom somebody asks for: by the payroll id, such as "1234.1", or by the pid.
+/// A person to explain, named by the payroll id, such as "1234.1", or by the pid.
 class PersonId {
 public:
     /// Nothing when the text is neither a payroll id nor a pid such as "pid 12341".
     static std::optional<PersonId> parse(const QString &text);
-    /// By the payroll id, of which both numbers must be above 0.
+    /// From the two numbers of a payroll id, both above 0.
     static PersonId ofPayrollId(quint32 osobniCislo, quint32 poradoveCisloPP);
     static PersonId ofPid(quint32 pid);
 
     /// "1234.1" or "pid 12341".
     QString name() const;
 
-    /// What the plugin knows the person by; 0 when personal number and relationship do not fit.
+    /// The plugin's key of the person; 0 when the joined numbers exceed 32 bits.
     quint32 pid() const { return m_pid; }
 
-    /// 0 when it is not known.
+    /// 0 when only the pid is known.
     quint32 personalNumber() const { return m_osobniCislo; }
 
-    /// True when the plugin takes the record for this person: also for somebody else with the same
-    /// pid.
+    /// Whether the plugin treats the record as this person's: also that of another person with the
+    /// same pid.
     bool matches(const MirovaRonRecord &record) const;
 
 private:

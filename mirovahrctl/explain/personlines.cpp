@@ -7,7 +7,8 @@
 
 namespace {
 
-/// Whom the first two fields of a line name, dropped or not; nothing when they name nobody.
+/// The person whom the first two fields of a line name, dropped or not; nothing when they name
+/// nobody.
 std::optional<MirovaRonRecord> namedBy(const CheckedLine &line)
 {
     const QString text = ExportLine::decode(line.raw.constData());
@@ -33,13 +34,13 @@ bool PersonLines::find(QFile &file, const ColumnWidths &widths, Console &console
     ExportScan check(file, widths);
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
-    const bool read = check.run([this](const CheckedLine &line) { look(line); });
+    const bool read = check.run([this](const CheckedLine &line) { examine(line); });
     m_count = check.counts().lines;
     m_error = check.errorString();
     return read;
 }
 
-void PersonLines::look(const CheckedLine &line)
+void PersonLines::examine(const CheckedLine &line)
 {
     const auto named = line.record ? line.record : namedBy(line);
     if (!named)

@@ -17,8 +17,8 @@ constexpr char kSelectAdministrators[] = "SELECT aid FROM admins_people WHERE re
 
 constexpr char kSelectPlan[] = "SELECT gid FROM groups_plan WHERE uid = %1 AND since = %2";
 
-/// The days that the plugin waits for, when those from a moment on have been marked as not
-/// calculated.
+/// The days that keep the plugin from correcting the balance, once the days from a moment on are
+/// marked as not calculated.
 constexpr char kCountOpenDays[] =
     "SELECT COUNT(*) FROM atten WHERE uid = %1 AND `lock` = 0 AND (ok = -1 OR (man = 0 AND `date` "
     ">= %2) OR (ok < 0 AND `date` >= midnightFromTs(UNIX_TIMESTAMP())))";
@@ -83,7 +83,7 @@ bool PersonState::isCalculated()
         uint uid = 0;
         return m_view.worker().dbCheckAttendance(m_pid, uid);
     }
-    // Who has just been created has no attendance.
+    // Somebody who has just been created has no attendance.
     if (!m_row)
         return m_isCreated;
     return !VacationBalance::isCalculating(m_calc, QDateTime::currentSecsSinceEpoch())
@@ -100,7 +100,7 @@ bool PersonState::hasOpenDays()
 
 void PersonState::add(const MirovaRonRecord &record)
 {
-    // Creating a row leaves open when it was edited, so that the first merging changes that.
+    // Creating a row does not set `edited`, so the first merging always changes the row.
     if (exists())
         m_added = record;
     else

@@ -12,13 +12,13 @@
 
 class PluginView;
 
-/// What the plugin meets of one person (pid) while one synchronisation goes through the records of
-/// an export: the database as it was when the synchronisation began, and what earlier records of
-/// the same person have changed in it and in the plugin's memory. The plugin is one that has seen
-/// nobody since it was started.
+/// The state of one person (pid) while a synchronisation handles the records of an export: the
+/// database as it was when the synchronisation began, and what earlier records of the same person
+/// have changed in it and in the plugin's memory. The plugin has handled nobody since it was
+/// started.
 class PersonState {
 public:
-    /// What the plugin finds out about a record before it decides.
+    /// What the plugin determines about a record before it decides.
     struct Comparison {
         bool correctedToday = false; ///< today's correction of the balance exists
         bool attendanceCalculated = false; ///< so that the balance may be corrected
@@ -33,33 +33,34 @@ public:
     PersonState(PluginView &view, quint32 pid, bool isForced);
 
     quint32 pid() const { return m_pid; }
-    /// The next synchronisation is a forced one.
+    /// Whether the next synchronisation is a forced one.
     bool isForced() const { return m_isForced; }
     /// The row of `people` with this pid, as it was.
     const std::optional<PersonRow> &row() const { return m_row; }
-    /// Whom the plugin recognises as this person, as it keeps it in memory.
+    /// The row that the plugin recognises as this person, as it keeps it in memory.
     const std::optional<MirovaRonRecord> &known() const { return m_known; }
-    /// There is a row by now.
+    /// Whether there is a row by now.
     bool exists() const { return m_row || m_isCreated; }
     /// 0 when there was no row when the synchronisation began.
     quint32 uid() const { return m_row ? m_row->uid : 0; }
-    /// The record before; nothing for the first one.
+    /// The previous record; nothing before the first one.
     const std::optional<MirovaRonRecord> &last() const { return m_last; }
 
-    /// Compares a record with what the plugin remembers, and lets it remember how that went. To be
-    /// called once for each record, first of all.
+    /// Compares a record with what the plugin remembers, and records the result. To be called once
+    /// for each record, before anything else.
     Comparison compare(const MirovaRonRecord &record);
-    /// The record has been handled.
+    /// To be called when the record has been handled.
     void remember(const MirovaRonRecord &record) { m_last = record; }
 
     /// The record is written as a new person, or merged into the row.
     void add(const MirovaRonRecord &record);
-    /// An earlier record has created the row, or was merged into it.
+    /// Whether an earlier record has created the row, or was merged into it.
     bool isAdded() const { return m_isCreated || m_added; }
     /// Whether merging this record writes what an earlier one has just written. Within the same
-    /// second that changes nothing, which the plugin takes for a failure.
+    /// second that changes no row, which the plugin treats as a failure.
     bool isAddedAs(const MirovaRonRecord &record) const;
-    /// What the plugin keeps of a known person whose attendance is to be calculated again.
+    /// Takes over what the plugin keeps of a known person whose attendance is to be calculated
+    /// again.
     void take(const MirovaRonRecord &record);
 
     /// Whether the person is in the selection of the only payroll export, whose key this is.
@@ -68,6 +69,7 @@ public:
     /// The settings of the payroll export (`people_pam.id`); 0 for none.
     uint payrollSettings();
     void setPayrollSettings(uint settings) { m_payrollSettings = settings; }
+    /// Whether they differ from those in the database.
     bool hasOtherPayrollSettings();
 
     /// The line whose record has corrected the balance; 0 for none.
@@ -77,11 +79,13 @@ public:
     /// The administrators (aid) who get the person's requests.
     QSet<quint32> administrators();
     void setAdministrator(quint32 aid) { m_administrators = QSet<quint32>{aid}; }
+    /// Whether they differ from those in the database.
     bool hasOtherAdministrators();
 
     /// Whether the group is planned from that month (yyyyMM) on.
     bool isPlanned(quint32 gid, uint month);
     void plan(quint32 gid, uint month) { m_plan.insert(month, gid); }
+    /// Whether the plan differs from the one in the database.
     bool hasOtherPlan();
 
     /// The row is written with the last calculation on the day before this one.
@@ -91,9 +95,10 @@ public:
     /// The last calculation (Unix time) as it was, and as it is now.
     qint64 lastCalculationBefore() const { return m_row ? m_row->lastCalc : 0; }
     qint64 lastCalculation() const { return m_lastCalc; }
-    /// Days of attendance that are not yet to be calculated and will be.
+    /// The number of days of attendance that recalculate() newly marks as not calculated.
     int recalculatedDays();
 
+    /// Whether the record waits for its branch or calendar group.
     bool waits(const MirovaRonRecord &record) const { return m_waiting.contains(record); }
     void setWaiting(const MirovaRonRecord &record, bool waits);
 
@@ -113,7 +118,7 @@ private:
     bool m_isCreated = false;
     bool m_isSelected = false;
     std::optional<uint> m_payrollSettings;
-    bool m_fundRetry = false; ///< the record before could not correct the balance
+    bool m_fundRetry = false; ///< the previous record could not correct the balance
     qint64 m_correctingLine = 0;
     std::optional<QSet<quint32>> m_administrators;
     QMap<uint, quint32> m_plan; ///< month to gid, as earlier records have planned

@@ -1,7 +1,5 @@
 #include "mirovahrctl/explain/phrases.h"
 
-#include "mirovahrctl/program/report.h"
-
 #include <QDateTime>
 #include <QStringList>
 
@@ -30,17 +28,6 @@ QString list(const QString &one, const QString &many, const QStringList &ids, co
 QString days(qint64 hundredths)
 {
     return QStringLiteral("%1 days").arg(double(hundredths) / 100, 0, 'f', 2);
-}
-
-void tell(Report &report, Severity severity, const char *rule, const QString &message,
-          const QString &advice)
-{
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
-    finding.advice = advice;
-    report.finding(finding);
 }
 
 } // namespace Phrases

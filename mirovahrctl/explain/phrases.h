@@ -1,14 +1,10 @@
 #pragma once
 
-#include "mirovahrctl/report/finding.h"
-
 #include <QDate>
 #include <QString>
-#include <QVector>
+#include <QStringList>
 
-class Report;
-
-/// Words for the explanation of a person.
+/// Wording that the explanation of a person uses in several places.
 namespace Phrases {
 
 /// "2024-03-01"; "none" for an invalid date.
@@ -22,8 +18,5 @@ QString list(const QString &one, const QString &many, const QStringList &ids, co
 
 /// "17.50 days" for hundredths of a day.
 QString days(qint64 hundredths);
-
-void tell(Report &report, Severity severity, const char *rule, const QString &message,
-          const QString &advice);
 
 } // namespace Phrases

@@ -2,8 +2,8 @@
 
 #include "mirovahrctl/explain/recordexplanation.h"
 
-#include "mirovahrctl/explain/explaincontext.h"
 #include "mirovahrctl/explain/phrases.h"
+#include "mirovahrctl/report/finding.h"
 #include "worker/recordcodes.h"
 
 namespace {
@@ -57,8 +57,7 @@ void RecordExplanation::explainSteps()
 void RecordExplanation::explainRepetition()
 {
     section("repetition", "The same again");
-    say(QStringLiteral("The line is the same as the one before, so the plugin leaves the person "
-                       "alone."));
+    say(QStringLiteral("The line equals the previous one, so the plugin leaves the person alone."));
     m_outcome.person =
         m_person.exists() ? QStringLiteral("unchanged") : QStringLiteral("never-created");
     if (m_active && m_person.waits(m_record))
@@ -104,7 +103,7 @@ void RecordExplanation::say(const QString &sentence)
 
 void RecordExplanation::warn(const char *rule, const QString &message, const QString &advice)
 {
-    Phrases::tell(m_context.report, Severity::Warning, rule, message, advice);
+    m_context.report.finding(makeFinding(Severity::Warning, rule, message, advice));
 }
 
 bool RecordExplanation::isTypeOfSupervisors() const

@@ -3,15 +3,24 @@
 #include "mirovahrctl/explain/personstate.h"
 #include "mirovahrctl/explain/recordoutcome.h"
 #include "mirovahrctl/export/linecheck.h"
+#include "mirovahrctl/pluginside/pluginview.h"
+#include "mirovahrctl/program/report.h"
+#include "plugin/configuration.h"
 
-struct ExplainContext;
+/// What the steps of one person's explanation share.
+struct ExplainContext {
+    const Configuration &configuration;
+    PluginView &view;
+    Report &report;
+    PersonState person;
+};
 
-/// What the plugin does with one record of the export and why, in the order in which it decides.
-/// The plugin's own functions are asked, of which only those that read are called. What the record
-/// changes is noted in the person's state, for the records that follow.
+/// What the plugin does with one record of the export and why, in the order of its decisions. Calls
+/// only those functions of the plugin that read. What the record changes is noted in the person's
+/// state, for the records that follow.
 class RecordExplanation {
 public:
-    /// With \a numbered sections are told apart by the number of the line.
+    /// With \a numbered the sections carry the number of the line.
     RecordExplanation(ExplainContext &context, const CheckedLine &line, bool numbered);
 
     /// Writes the sections of the report.
@@ -49,10 +58,10 @@ private:
 
     // Branch, calendar and what follows
     void explainPlace();
-    /// Whether the plugin puts the person on the list of new members.
+    /// Returns whether the plugin puts the person on the list of new members.
     bool explainBranch(quint32 bid);
     void explainNewMember(quint32 bid);
-    /// Whether the calendar group is planned afterwards.
+    /// Returns whether the calendar group is planned afterwards.
     bool explainCalendar(quint32 bid);
     void explainPlan(quint32 gid);
     void explainWaiting(bool isPlaced);
@@ -62,10 +71,10 @@ private:
     void section(const char *id, const char *heading);
     void say(const QString &sentence);
     void warn(const char *rule, const QString &message, const QString &advice);
-    /// The plugin's warnings when it looks for branch and calendar; nothing is written when one of
-    /// them is not found.
+    /// The warnings that the plugin logs when it looks up branch and calendar. Only to be called
+    /// when one of them does not exist: then the plugin writes nothing.
     QString placingLog();
-    /// Whether the plugin writes what hangs on the person.
+    /// Whether the plugin handles the record at all.
     bool isHandled() const { return m_found.changed || m_person.isForced(); }
     bool isPerson(const char *word) const { return m_outcome.person == QLatin1String(word); }
     bool isTypeOfSupervisors() const;
@@ -77,7 +86,7 @@ private:
     const bool m_numbered;
     const PersonState::Comparison m_found;
     bool m_active = false;
-    bool m_isHarmful = false; ///< a text may keep the row's statement from doing what it shall
-    bool m_mayNotAdd = false; ///< merging may change nothing, which counts as a failure
+    bool m_isHarmful = false; ///< a text may break the statement that writes the row
+    bool m_mayNotAdd = false; ///< merging may change no row, which the plugin counts as a failure
     RecordOutcome m_outcome = RecordOutcome::none();
 };

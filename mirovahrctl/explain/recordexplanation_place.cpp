@@ -2,7 +2,6 @@
 
 #include "db/branchesrepository.h"
 #include "db/groupsplanrepo.h"
-#include "mirovahrctl/explain/explaincontext.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
 #include "worker/recorddecisions.h"
@@ -12,7 +11,7 @@ namespace {
 
 constexpr char kSelectBranchName[] = "SELECT name FROM branches WHERE bid = %1";
 
-/// Why attendance is calculated again, behind "because".
+/// Why attendance is calculated again: the text follows "because".
 struct Reason {
     const char *cause;
     const char *text;
@@ -22,8 +21,8 @@ constexpr Reason kReasons[] = {
     {"state", "the relationship state begins"},
     {"calendar", "the calendar group is planned from a day on that is over"},
     {"moved",
-     "calendar, its start or the cost centre are not those that the plugin knows (of the "
-     "start it knows nothing at first)"},
+     "calendar, its start or the cost centre differ from what the plugin remembers (it does not "
+     "know the start at first)"},
     {"balance", "the balance is corrected"},
 };
 
@@ -59,7 +58,7 @@ void RecordExplanation::explainPlace()
         warn("branch-unknown",
              QStringLiteral("No branch has the number %1 of the cost centre. The log says: %2")
                  .arg(QString::number(m_record.stredisko), placingLog()),
-             QStringLiteral("Give the branch this number, or have HR put the person elsewhere."));
+             QStringLiteral("Give the branch this number, or ask HR to correct the cost centre."));
         explainWaiting(false);
         return;
     }
@@ -76,7 +75,7 @@ bool RecordExplanation::explainBranch(quint32 bid)
             .arg(QString::number(m_record.stredisko), QString::number(bid), name));
     if (m_context.view.worker().dbCheckPersonInBranch(m_person.pid(), bid)) {
         m_outcome.branch = QStringLiteral("member");
-        say(QStringLiteral("The person is a member already."));
+        say(QStringLiteral("The person is already a member."));
         return false;
     }
     // Without a row the plugin puts nobody on the list, but does not notice.
@@ -87,7 +86,7 @@ bool RecordExplanation::explainBranch(quint32 bid)
 
 void RecordExplanation::explainNewMember(quint32 bid)
 {
-    // Members are added by a number of 16 bits.
+    // The plugin keeps 16 bits of a branch id when it adds members.
     const auto number = static_cast<ushort>(bid);
     if (number != bid) {
         warn("branch-id-large",
@@ -105,8 +104,8 @@ void RecordExplanation::explainNewMember(quint32 bid)
     say(QStringLiteral("The person joins it at the end of the synchronisation, and stays in every "
                        "other branch."));
     say(Phrases::list(
-            QStringLiteral("With it comes terminal"), QStringLiteral("With it come the terminals"),
-            texts(branches.getTids4Branch(number)), QStringLiteral("No terminal comes with it"))
+            QStringLiteral("This adds the terminal"), QStringLiteral("This adds the terminals"),
+            texts(branches.getTids4Branch(number)), QStringLiteral("This adds no terminals"))
         + QLatin1Char('.'));
     say(Phrases::list(
             QStringLiteral("It has the administrator"), QStringLiteral("It has the administrators"),
@@ -127,8 +126,8 @@ bool RecordExplanation::explainCalendar(quint32 bid)
              QStringLiteral("The branch's master group has no group for the calendar %1. The log "
                             "says: %2")
                  .arg(QString::number(m_record.kalendar), placingLog()),
-             QStringLiteral("Make a group for this calendar in the master group of the branch, or "
-                            "have HR correct the calendar."));
+             QStringLiteral("Create a group for this calendar in the master group of the branch, "
+                            "or ask HR to correct the calendar."));
         return false;
     }
     say(QStringLiteral("The calendar %1 is group %2 there.").arg(m_record.kalendar).arg(gid));
@@ -151,7 +150,7 @@ void RecordExplanation::explainPlan(quint32 gid)
     const uint month = GroupsPlanRepo::monthFromDate(since);
     if (m_person.isPlanned(gid, month)) {
         m_outcome.calendar = QStringLiteral("kept");
-        say(QStringLiteral("It is planned from month %1 on already.").arg(month));
+        say(QStringLiteral("It is already planned from month %1 on.").arg(month));
         return;
     }
     m_outcome.calendar = QStringLiteral("planned");
@@ -173,14 +172,13 @@ void RecordExplanation::explainWaiting(bool isPlaced)
     if (isPlaced)
         return;
     say(m_outcome.branch == QLatin1String("member") && m_record.kalendar == 0
-            ? QStringLiteral("There is nothing to be done; the plugin counts the record among the "
-                             "waiting ones all the same.")
-            : QStringLiteral("The record waits: it is tried again as long as this very line "
-                             "arrives."));
+            ? QStringLiteral("Nothing needs to be done, but the plugin counts the record as "
+                             "waiting all the same.")
+            : QStringLiteral("The record waits: the plugin tries it again as long as exactly this "
+                             "line arrives."));
 }
 
-/// The only place that tells from when on attendance is calculated again as a whole: the steps
-/// before it have added their days.
+/// Sums up what the steps before have added.
 void RecordExplanation::explainRecalculation()
 {
     section("recalculation", "Is attendance calculated again?");

@@ -1,10 +1,10 @@
 // The row of `people`: created, updated, or left alone.
 
-#include "mirovahrctl/explain/explaincontext.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
 #include "mirovahrctl/explain/rowfields.h"
 #include "mirovahrctl/export/sqlhazards.h"
+#include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/payrollexports.h"
 #include "worker/exportline.h"
@@ -15,7 +15,7 @@
 
 namespace {
 
-/// The terminals that fetch a change of a person: the active ones that hold the person and handle
+/// The terminals that fetch changes of a person: active ones that hold the person and handle
 /// people.
 constexpr char kSelectTerminals[] = "SELECT tid FROM people_term JOIN term USING(tid)"
                                     " WHERE status = 1 AND uid = %1 AND (flags & 2) ORDER BY tid";
@@ -34,7 +34,7 @@ Table fieldTable(const QVector<RowField> &fields)
     return table;
 }
 
-/// Whether a text of the line may keep its statement from doing what it shall.
+/// Whether a text of the line may break its statement.
 bool hasHarmfulText(const CheckedLine &line)
 {
     static const QStringList fields = ExportLine::fieldNames();
@@ -75,28 +75,29 @@ void RecordExplanation::explainLeaver()
              QStringLiteral("An earlier line has created the person or made the row active. The "
                             "plugin looks people up once in a synchronisation, so it does not "
                             "write that the person has left."),
-             QStringLiteral("Have HR export each employment relationship once."));
+             QStringLiteral("Ask HR to export each employment relationship once."));
     } else if (m_person.exists()) {
-        say(QStringLiteral("The person has left. The plugin does not see the row, so it leaves the "
-                           "row alone."));
+        say(QStringLiteral(
+            "The person has left. The plugin does not see the row and leaves it alone."));
     } else {
-        Phrases::tell(m_context.report, Severity::Note, "left-already",
-                      QStringLiteral("The person has left and has no row. The plugin never "
-                                     "creates a row for somebody who has left."),
-                      QStringLiteral("Nothing is wrong, unless the person still works: then "
-                                     "HR's export is wrong."));
+        m_context.report.finding(makeFinding(
+            Severity::Note, "left-already",
+            QStringLiteral(
+                "The person has left and has no row. The plugin never creates rows for leavers."),
+            QStringLiteral(
+                "This is fine unless the person still works: then HR's export is wrong.")));
     }
 }
 
 void RecordExplanation::explainHarmfulText(const QString &stateText)
 {
     if (hasHarmfulText(m_line)) {
-        say(QStringLiteral("But a text of the line, named above, makes the statement fail or write "
-                           "something else."));
+        say(QStringLiteral("But a text of the line, reported above, breaks the statement: it fails "
+                           "or writes something else."));
     } else if (m_isHarmful) {
         warn("state-breaks-statement",
-             QStringLiteral("The text of the relationship state, %1, makes the statement fail or "
-                            "write something else.")
+             QStringLiteral("The text of the relationship state, %1, breaks the statement: it "
+                            "fails or writes something else.")
                  .arg(Wording::quoted(stateText)),
              QStringLiteral("Change the text in the group MES of the configuration, or rsText of "
                             "the row."));
@@ -118,8 +119,8 @@ void RecordExplanation::explainRelationshipState()
 {
     const ushort code = m_record.evidencniStav;
     if (!m_context.view.worker().isRS(code)) {
-        say(QStringLiteral("The register state %1 is not one of the relationship states of the "
-                           "configuration: a running one ends.")
+        say(QStringLiteral("The register state %1 is not among the relationship states of the "
+                           "configuration: a current one ends.")
                 .arg(code));
         return;
     }
@@ -150,12 +151,12 @@ void RecordExplanation::explainWriting(const MirovaRonRecord &updated, bool same
 {
     if (sameRow && !m_found.esChanged && !m_found.tppChanged) {
         m_outcome.person = QStringLiteral("unchanged");
-        say(QStringLiteral("The row is left alone."));
+        say(QStringLiteral("The row is not written."));
     } else if (m_context.configuration.testMode) {
         explainTestMode("dbUpdatePerson", "update");
     } else if (!m_person.row()) {
         m_outcome.person = QStringLiteral("missed");
-        say(QStringLiteral("The plugin updates the row with the pid %1, and there is none: nothing "
+        say(QStringLiteral("The plugin updates the row with the pid %1, but there is none: nothing "
                            "is written.")
                 .arg(m_person.pid()));
     } else {
@@ -172,15 +173,15 @@ void RecordExplanation::explainWrittenRow(const MirovaRonRecord &updated, bool s
         say(QStringLiteral("The row is updated."));
     } else if (m_person.last()) {
         say(QStringLiteral("The row is written all the same: the employment type or the register "
-                           "state is not that of the line before."));
+                           "state differs from the previous line."));
     } else {
-        say(QStringLiteral("The row is written all the same: the plugin does not know yet with "
-                           "which codes of employment type and register state it was written "
-                           "last."));
+        say(QStringLiteral(
+            "The row is written all the same: the plugin does not know yet which codes of "
+            "employment type and register state it was last written with."));
     }
     if (!m_active) {
-        say(QStringLiteral("It stays active: the plugin never ends people, it only writes their "
-                           "last day."));
+        say(QStringLiteral("It stays active: the plugin never deactivates people, it only writes "
+                           "their last day."));
     }
     if (m_found.esChanged && updated.rsFrom.isValid())
         explainStateBegin(updated.rsFrom);
@@ -208,10 +209,11 @@ void RecordExplanation::explainTerminalsOfPerson()
 {
     const QStringList tids = firstColumn(
         m_context.view.sql().rows(QString(QLatin1String(kSelectTerminals)).arg(m_person.uid())));
-    say(Phrases::list(QStringLiteral("The change is queued for terminal"),
-                      QStringLiteral("The change is queued for the terminals"), tids,
-                      QStringLiteral("No active terminal that handles people holds this "
-                                     "person: none is told"))
+    say(Phrases::list(
+            QStringLiteral("The change is queued for terminal"),
+            QStringLiteral("The change is queued for the terminals"), tids,
+            QStringLiteral(
+                "No active terminal that handles people holds this person, so nothing is queued"))
         + QLatin1Char('.'));
 }
 
@@ -222,7 +224,7 @@ void RecordExplanation::explainCreation()
     else
         explainAddition();
     if (!m_person.exists())
-        say(QStringLiteral("The steps that follow find nobody to write to, and warn."));
+        say(QStringLiteral("The following steps find no row to write to, and warn."));
 }
 
 void RecordExplanation::explainAddition()
@@ -238,8 +240,8 @@ void RecordExplanation::explainAddition()
                            "department becomes 1."));
     } else if (m_person.row()) {
         say(QStringLiteral("The line is merged into the row with the uid %1, which becomes active. "
-                           "Relationship state, calendar and branch of the row stay as they are, "
-                           "the department becomes 1.")
+                           "Relationship state, calendar and branch of the row stay unchanged, the "
+                           "department becomes 1.")
                 .arg(m_person.uid()));
     } else {
         say(QStringLiteral("The person is created."));
@@ -250,7 +252,8 @@ void RecordExplanation::explainAddition()
             .arg(m_record.getPamId()));
     explainPayroll();
     explainPayrollSettings();
-    say(QStringLiteral("The vacation balance of a new person follows at a later synchronisation."));
+    say(QStringLiteral(
+        "The vacation balance of a new person is corrected by a later synchronisation."));
     explainHarmfulText(stateText);
     if (!m_isHarmful)
         m_person.add(m_record);
@@ -261,13 +264,13 @@ void RecordExplanation::explainPayroll()
     const QStringList exports = payrollExports(m_context.view.database());
     if (exports.size() != 1 || m_record.getPid() == 0) {
         warn("no-payroll-export",
-             QStringLiteral("The person joins no payroll export, since %1. The log says: "
+             QStringLiteral("The person joins no payroll export, because %1. The log says: "
                             "MHRWorker::dbAddPerson(%2) - addPersonIntoPam() FAILED!")
                  .arg(exports.size() == 1
                           ? QStringLiteral("the pid is 0")
-                          : QStringLiteral("there is not exactly one, but %1").arg(exports.size()),
+                          : QStringLiteral("there are %1 instead of one").arg(exports.size()),
                       m_record.getPamId()),
-             QStringLiteral("Add the person by hand where it is wanted."));
+             QStringLiteral("Add the person by hand where needed."));
         return;
     }
     const QString id = exports.first().section(QLatin1Char('.'), 1, 1);
@@ -292,7 +295,7 @@ void RecordExplanation::explainPayrollSettings()
                 .arg(type));
         return;
     }
-    say(QStringLiteral("The employment type %1 gives the settings %2 of the payroll export.")
+    say(QStringLiteral("The employment type %1 means the settings %2 of the payroll export.")
             .arg(type)
             .arg(settings));
     const bool isKept = m_person.payrollSettings() == settings;
@@ -301,8 +304,8 @@ void RecordExplanation::explainPayrollSettings()
                                        : QStringLiteral("set");
     if (m_mayNotAdd) {
         say(QStringLiteral("An earlier line has written the same row. Within the same second the "
-                           "statement changes nothing, which the plugin takes for a failure: it "
-                           "then leaves the settings and the supervisor as they are."));
+                           "statement changes nothing, which the plugin treats as a failure: it "
+                           "then leaves the settings and the supervisor unchanged."));
         return;
     }
     if (!m_isHarmful)
@@ -313,20 +316,20 @@ void RecordExplanation::explainPayrollSettings()
 
 void RecordExplanation::explainKeptSettings(ushort settings)
 {
-    Phrases::tell(m_context.report, Severity::Note, "payroll-settings-kept",
-                  QStringLiteral("The person has these settings already, which the plugin "
-                                 "takes for a failure. The log says: "
-                                 "MHRWorker::doSyncRecord(%1) - dbAddPersonIntoPam(%2, %3) "
-                                 "FAILED!")
-                      .arg(m_record.getString(false), QString::number(m_record.getPid()),
-                           QString::number(settings)),
-                  QStringLiteral("Nothing is wrong with that."));
+    m_context.report.finding(makeFinding(
+        Severity::Note, "payroll-settings-kept",
+        QStringLiteral(
+            "The person has these settings already, which the plugin treats as a failure. The log "
+            "says: MHRWorker::doSyncRecord(%1) - dbAddPersonIntoPam(%2, %3) FAILED!")
+            .arg(m_record.getString(false), QString::number(m_record.getPid()),
+                 QString::number(settings)),
+        QStringLiteral("This is harmless.")));
 }
 
 void RecordExplanation::explainTestMode(const char *operation, const char *what)
 {
     m_outcome.person = QStringLiteral("test-mode");
-    say(QStringLiteral("In test mode nothing is written here. From debug level 1 on the log says: "
-                       "MHRWorker::%1(%2) - Testing mode is active, person not really %3!")
+    say(QStringLiteral("In test mode nothing is written here. At debug level 1 and above the log "
+                       "says: MHRWorker::%1(%2) - Testing mode is active, person not really %3!")
             .arg(QLatin1String(operation), m_record.getPamId(), QLatin1String(what)));
 }

@@ -1,6 +1,5 @@
 // The vacation balance and the supervisor.
 
-#include "mirovahrctl/explain/explaincontext.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
 #include "worker/vacationbalance.h"
@@ -14,19 +13,19 @@ void RecordExplanation::explainBalance()
     } else if (m_found.correctedToday) {
         m_outcome.balance = QStringLiteral("later");
         say(m_person.correctingLine() == 0
-                ? QStringLiteral("Not today: today's correction is there already. The plugin looks "
+                ? QStringLiteral("Not today: today's correction exists already. The plugin tries "
                                  "again tomorrow.")
                 : QStringLiteral("Not today: line %1 has corrected it, and the plugin corrects a "
                                  "balance once a day.")
                       .arg(m_person.correctingLine()));
     } else if (!m_found.attendanceCalculated) {
         m_outcome.balance = QStringLiteral("later");
-        say(QStringLiteral("Not now: the person's attendance is just being calculated, or has days "
-                           "that are still to be calculated. The plugin looks again at the next "
-                           "synchronisation that brings the person."));
+        say(QStringLiteral("Not now: the person's attendance is being calculated, or has days that "
+                           "are not calculated yet. The plugin tries again at the next "
+                           "synchronisation that contains the person."));
     } else if (!m_found.checkFunds) {
         m_outcome.balance = QStringLiteral("kept");
-        say(QStringLiteral("No: the balance is that of the line before."));
+        say(QStringLiteral("No: the balance is that of the previous line."));
     } else {
         explainCorrection();
     }
@@ -41,9 +40,9 @@ void RecordExplanation::explainCorrection()
     if (!writable) {
         m_outcome.balance = QStringLiteral("impossible");
         warn("balance-not-written",
-             QStringLiteral("The fund holds %1, and no correction leads from there to %2 days. The "
-                            "balance stays, and the log says: MHRWorker::doSyncRecord() - "
-                            "funds_move type (type=3, valeu=%3) not writed for uid %4 (pid: %5)")
+             QStringLiteral("The fund holds %1, and no valid correction leads from there to %2 "
+                            "days. The balance stays, and the log says: MHRWorker::doSyncRecord() "
+                            "- funds_move type (type=3, valeu=%3) not writed for uid %4 (pid: %5)")
                  .arg(Phrases::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
                       QString::number(move), QString::number(m_person.uid()),
                       QString::number(m_person.pid())),
@@ -61,7 +60,7 @@ void RecordExplanation::explainCorrection()
 
 void RecordExplanation::explainSupervisor()
 {
-    section("supervisor", "Who gets the person's requests?");
+    section("supervisor", "Who receives the person's requests?");
     const quint32 supervisor = m_record.nadrizenyOsobniCislo;
     if (supervisor == 0) {
         say(QStringLiteral("The line names no supervisor: nothing changes."));
@@ -70,7 +69,7 @@ void RecordExplanation::explainSupervisor()
                            "supervisor: nothing changes.")
                 .arg(m_record.typPracovnihoPomeru));
     } else if (m_person.known() && !m_found.supervisorChanged) {
-        say(QStringLiteral("The supervisor is that of the line before: nothing changes."));
+        say(QStringLiteral("The supervisor is that of the previous line: nothing changes."));
     } else {
         explainAdministrator(m_context.view.worker().dbGetAidByOsCis(supervisor));
     }
@@ -85,20 +84,20 @@ void RecordExplanation::explainAdministrator(quint32 aid)
     const quint32 supervisor = m_record.nadrizenyOsobniCislo;
     if (!m_person.exists()) {
         warn("person-missing",
-             QStringLiteral("The database has nobody with the pid %1 who could get a supervisor. "
-                            "The log says: MHRWorker - zamestnanec s osobnym cislom %1 nebol "
-                            "najdeny!")
+             QStringLiteral(
+                 "The database has nobody with the pid %1 who could be given a supervisor. The log "
+                 "says: MHRWorker - zamestnanec s osobnym cislom %1 nebol najdeny!")
                  .arg(m_person.pid()),
              QStringLiteral("See above why the person has no row with this pid."));
     } else if (m_person.administrators() == QSet<quint32>{aid}) {
         m_outcome.supervisor = QStringLiteral("kept");
-        say(QStringLiteral("Administrator %1, who has the personal number %2, as now.")
+        say(QStringLiteral("Administrator %1, who has the personal number %2, as before.")
                 .arg(aid)
                 .arg(supervisor));
     } else if (m_mayNotAdd) {
         m_outcome.supervisor = QStringLiteral("uncertain");
-        say(QStringLiteral("Administrator %1, who has the personal number %2, unless the line "
-                           "comes within the same second as the earlier one.")
+        say(QStringLiteral("Administrator %1, who has the personal number %2, unless the plugin "
+                           "handles the line within the same second as the earlier one.")
                 .arg(aid)
                 .arg(supervisor));
     } else {
@@ -117,12 +116,12 @@ void RecordExplanation::explainUnknownAdministrator()
                                      "supervisor: nothing changes.")
                           .arg(m_record.nadrizenyOsobniCislo);
     if (!m_mayNotAdd) {
-        // Without an administrator it does nothing but warn.
+        // Without an administrator it only warns.
         const PluginLog log;
         m_context.view.worker().processNadOsCis(m_record);
         message += QStringLiteral(" The log says: ") + log.problems();
     }
     warn("supervisor-unknown", message,
-         QStringLiteral("Give the supervisor an administrator's account with this personal "
-                        "number."));
+         QStringLiteral(
+             "Give the supervisor an administrator's account with this personal number."));
 }

@@ -6,7 +6,7 @@ namespace {
 
 using Word = QString RecordOutcome::*;
 
-/// The words of one fact; of several records the earliest in this list counts.
+/// The words of one fact. Of several records, the word that comes first here counts.
 struct Weight {
     Word word;
     QStringList words;
@@ -64,7 +64,7 @@ void addTo(RecordOutcome &sum, const RecordOutcome &outcome)
 
 void Recalculation::add(const QDate &day, const QString &cause)
 {
-    // An invalid date is earlier than every other one, for the plugin as well.
+    // An invalid date compares as earlier than any other one; it does so for the plugin, too.
     from = from ? std::min(*from, day) : day;
     if (!causes.contains(cause))
         causes += cause;

@@ -7,19 +7,18 @@
 
 #include <optional>
 
-/// From when on attendance is calculated again, and why.
+/// From which day attendance is calculated again, and why.
 struct Recalculation {
-    std::optional<QDate> from; ///< nothing: it is not; an invalid date: all of it
+    std::optional<QDate> from; ///< nothing: not at all; an invalid date: all of it
     QStringList causes; ///< state, calendar, moved, balance
 
-    /// Takes up one more cause; the earliest day counts.
+    /// Adds a cause; the earliest day counts.
     void add(const QDate &day, const QString &cause);
     /// "2026-03-01", "all" or "none".
     QString text() const;
 };
 
-/// What becomes of a record, or of a person with all records of an export, in stable words for
-/// scripts.
+/// The outcome of a record, or of all records of one person, in stable words for scripts.
 struct RecordOutcome {
     QString person; ///< created, merged, updated, unchanged, never-created, missed, test-mode,
                     ///< uncertain
@@ -32,8 +31,8 @@ struct RecordOutcome {
     Recalculation recalculation;
     bool waits = false; ///< the record waits for its branch or calendar afterwards
 
-    /// Nothing happens.
+    /// The outcome when nothing happens.
     static RecordOutcome none();
-    /// What the records of one person come to that one synchronisation handles in turn.
+    /// The outcome of several records of one person that one synchronisation handles in turn.
     static RecordOutcome combined(const QVector<RecordOutcome> &outcomes);
 };

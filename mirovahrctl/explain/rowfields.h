@@ -9,11 +9,11 @@ class MirovaRonRecord;
 /// One of the fields that the plugin compares with a row of `people`.
 struct RowField {
     QString name; ///< for people
-    QVariant exported; ///< what the export makes of it: a number or a text, also for a day
-    QVariant held; ///< what the row holds, likewise
+    QVariant exported; ///< the value from the export, a number or a text (also for a day)
+    QVariant held; ///< the value in the row, likewise
     bool differs = false;
 };
 
-/// The fields of the plugin's comparison, in its order. \a updated is the record of the export with
-/// its relationship state, \a known the plugin's view of the row.
+/// The fields that the plugin compares, in its order. \a updated is the record of the export with
+/// its relationship state, \a known the row as the plugin reads it.
 QVector<RowField> compareRowFields(const MirovaRonRecord &updated, const MirovaRonRecord &known);

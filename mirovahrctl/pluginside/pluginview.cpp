@@ -45,7 +45,7 @@ bool PluginView::connect(const QSqlDatabase &site)
     }
     // A worker takes up the connection that an earlier one of this process has left.
     if (!m_database.isValid())
-        m_error = QStringLiteral("The plugin has a connection to another database");
+        m_error = QStringLiteral("The plugin already has a connection to another database");
     return m_database.isValid() && m_worker->dbCheckOpen();
 }
 

@@ -14,12 +14,12 @@
 namespace {
 
 constexpr char kDescription[] =
-    "Tells what a forced synchronisation with an export would change in the attendance\n"
+    "Shows what a forced synchronisation with an export would change in the attendance\n"
     "database, by doing it: copies the tables and routines that the plugin touches into a\n"
-    "private database server, lets the plugin's own code synchronise the copy, and shows\n"
-    "every difference. The site's database is only read, the export stays, and the copy is\n"
-    "gone afterwards. Needs MariaDB's server programs on this machine, and as much room in\n"
-    "the folder for temporary files as the tables take twice.";
+    "private database server, lets the plugin's own code synchronise the copy, and reports\n"
+    "every difference. Only reads the site's database, keeps the export, and removes the\n"
+    "copy afterwards. Needs MariaDB's server programs on this machine, and twice the room of\n"
+    "the tables in the folder for temporary files.";
 
 class PreviewCommand {
 public:
@@ -85,8 +85,7 @@ std::optional<ExitStatus> PreviewCommand::prepare()
         return fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be read").arg(m_export));
     if (isExport(m_line.pagePath()) || isExport(m_sql.fileName()) || isExport(m_log.fileName())) {
         return fail(ExitStatus::Usage,
-                    QStringLiteral("The result would be written over the export; name another "
-                                   "file"));
+                    QStringLiteral("The result would overwrite the export; name another file"));
     }
     if (const auto end = m_configuration.read(m_line, m_console))
         return end;
@@ -134,9 +133,8 @@ ExitStatus runPreview(const QStringList &arguments, Console &console)
 {
     CommandLine line("preview", kDescription);
     line.addArgument("file", "The export.");
-    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini when left out.");
-    line.addOption("sql", "file",
-                   "Also write the differences as SQL statements that would make them.");
+    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini by default.");
+    line.addOption("sql", "file", "Also write the differences as SQL statements.");
     line.addOption("log", "file", "Also write the plugin's whole log of the synchronisation.");
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();

@@ -1,6 +1,6 @@
 #pragma once
 
-/// What people call the columns, and how they read their values.
+/// Readable names of the columns, and how their values are shown.
 namespace PreviewColumns {
 
 enum class Reading {

@@ -4,10 +4,10 @@
 
 namespace {
 
-/// Characters of rows that go into one statement.
+/// Characters of rows in one statement.
 constexpr int kBatch = 256 * 1024;
 
-// A table may come before the one that it refers to, and its rows are what they are.
+// A table may be copied before the one that it refers to, and its rows must not be checked.
 constexpr char kNoChecks[] = "SET SESSION foreign_key_checks = 0, unique_checks = 0, "
                              "check_constraint_checks = 0";
 constexpr char kChecks[] = "SET SESSION foreign_key_checks = 1, unique_checks = 1, "
@@ -28,7 +28,7 @@ QString PreviewCopy::baselineName(const PreviewSchema &schema)
 
 bool PreviewCopy::copyTables(SqlSession &site, const Listener &listener)
 {
-    if (!makeDatabases())
+    if (!createDatabases())
         return false;
     for (const PreviewTable &table : m_schema.tables) {
         if (!copyTable(site, table, listener))
@@ -37,7 +37,7 @@ bool PreviewCopy::copyTables(SqlSession &site, const Listener &listener)
     return true;
 }
 
-bool PreviewCopy::makeDatabases()
+bool PreviewCopy::createDatabases()
 {
     const QString ownName = SqlSession::name(m_schema.name);
     const QString kind =
@@ -48,13 +48,13 @@ bool PreviewCopy::makeDatabases()
     }
     return (m_server.run(QStringLiteral("USE ") + ownName) && m_server.prepareForCopying()
             && m_server.run(QLatin1String(kNoChecks)))
-        || fail(QStringLiteral("The copy cannot be made"), m_server);
+        || fail(QStringLiteral("The copy cannot be created"), m_server);
 }
 
 bool PreviewCopy::copyTable(SqlSession &site, const PreviewTable &table, const Listener &listener)
 {
     if (!m_server.run(table.definition))
-        return fail(QStringLiteral("The table %1 cannot be made in the copy").arg(table.name),
+        return fail(QStringLiteral("The table %1 cannot be created in the copy").arg(table.name),
                     m_server);
     return copyRows(site, table, listener) && keepBaseline(table);
 }
@@ -98,23 +98,23 @@ bool PreviewCopy::keepBaseline(const PreviewTable &table)
                 m_server);
 }
 
-bool PreviewCopy::makePrograms()
+bool PreviewCopy::createPrograms()
 {
     for (const auto *programs : {&m_schema.routines, &m_schema.triggers}) {
         for (const PreviewProgram &program : *programs) {
-            if (!makeProgram(program))
+            if (!createProgram(program))
                 return false;
         }
     }
     return m_server.prepareForCopying() && m_server.run(QLatin1String(kChecks));
 }
 
-bool PreviewCopy::makeProgram(const PreviewProgram &program)
+bool PreviewCopy::createProgram(const PreviewProgram &program)
 {
     return (m_server.run(QStringLiteral("SET SESSION sql_mode = %1, collation_connection = %2")
                              .arg(SqlSession::literal(program.sqlMode), program.collation))
             && m_server.run(program.definition))
-        || fail(QStringLiteral("%1 cannot be made in the copy").arg(program.name), m_server);
+        || fail(QStringLiteral("%1 cannot be created in the copy").arg(program.name), m_server);
 }
 
 bool PreviewCopy::fail(const QString &what, const SqlSession &session)

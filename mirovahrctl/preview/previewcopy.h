@@ -12,32 +12,32 @@ struct PreviewProgram;
 struct PreviewSchema;
 struct PreviewTable;
 
-/// Makes the copy of the site's database on another server: one to work on and one that stays as it
-/// is, to compare with. Operations return false when they failed; errorText() then says why.
+/// Copies the site's database to another server: once to synchronise, and once as the baseline to
+/// compare with. Operations return false when they failed; errorString() then says why.
 class PreviewCopy {
 public:
-    /// How many rows of how many are copied.
+    /// Called with the number of rows that are copied, of how many.
     using Listener = std::function<void(qint64 done, qint64 total)>;
 
     /// \a server: a connection to the other server as its administrator.
     PreviewCopy(const PreviewSchema &schema, const QSqlDatabase &server);
 
-    /// Makes both databases, without routines and triggers, and copies all rows.
+    /// Creates both databases, without routines and triggers, and copies all rows.
     bool copyTables(SqlSession &site, const Listener &listener);
-    /// Makes routines and triggers.
-    bool makePrograms();
+    /// Creates routines and triggers.
+    bool createPrograms();
 
-    /// The database that stays as it is, as SQL names it.
+    /// The quoted name of the baseline database.
     static QString baselineName(const PreviewSchema &schema);
 
-    QString errorText() const { return m_error; }
+    QString errorString() const { return m_error; }
 
 private:
-    bool makeDatabases();
+    bool createDatabases();
     bool copyTable(SqlSession &site, const PreviewTable &table, const Listener &listener);
     bool copyRows(SqlSession &site, const PreviewTable &table, const Listener &listener);
     bool keepBaseline(const PreviewTable &table);
-    bool makeProgram(const PreviewProgram &program);
+    bool createProgram(const PreviewProgram &program);
     bool flush(const PreviewTable &table);
     bool fail(const QString &what, const SqlSession &session);
 

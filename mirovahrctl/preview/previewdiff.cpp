@@ -4,10 +4,13 @@
 
 #include <QMap>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
-// Within a table of the copy: the columns of each unique key, in their order, with whether they can
-// be told apart by them alone.
+// The columns of each unique key of a table of the copy, in order, and what keeps a key from
+// identifying rows: columns that may be NULL, and prefixes.
 constexpr char kKeys[] =
     "SELECT s.INDEX_NAME, s.COLUMN_NAME, c.IS_NULLABLE, s.SUB_PART FROM "
     "information_schema.STATISTICS s JOIN information_schema.COLUMNS c ON c.TABLE_SCHEMA = "
@@ -15,12 +18,12 @@ constexpr char kKeys[] =
     "s.NON_UNIQUE = 0 AND s.TABLE_SCHEMA = DATABASE() AND s.TABLE_NAME = %1 ORDER BY s.INDEX_NAME "
     "<> 'PRIMARY', s.INDEX_NAME, s.SEQ_IN_INDEX";
 
-/// The columns of the best key; none when rows may repeat.
+/// The columns of the primary key, or else of a unique key; none when rows may repeat.
 QStringList keyOf(SqlSession &server, const PreviewTable &table)
 {
     QStringList names;
     QHash<QString, QStringList> columns;
-    QHash<QString, bool> tells;
+    QHash<QString, bool> isUsable;
     const QVector<QStringList> rows =
         server.rows(QString(QLatin1String(kKeys)).arg(SqlSession::literal(table.name)));
     for (const QStringList &row : rows) {
@@ -28,11 +31,11 @@ QStringList keyOf(SqlSession &server, const PreviewTable &table)
         if (!columns.contains(name))
             names += name;
         columns[name] += row.at(1);
-        tells[name] = tells.value(name, true) && row.at(2) == QLatin1String("NO")
+        isUsable[name] = isUsable.value(name, true) && row.at(2) == QLatin1String("NO")
             && row.at(3).isNull() && table.indexOf(row.at(1)) >= 0;
     }
     for (const QString &name : qAsConst(names)) {
-        if (tells.value(name))
+        if (isUsable.value(name))
             return columns.value(name);
     }
     return {};
@@ -46,7 +49,7 @@ QString sameKey(const QStringList &key)
     return conditions.join(QStringLiteral(" AND "));
 }
 
-/// Letter by letter: to the columns themselves, "a" and "A" may be the same.
+/// Compares bytes: by the columns' collations, "a" and "A" may be equal.
 QString sameRow(const PreviewTable &table)
 {
     QStringList conditions;
@@ -63,6 +66,15 @@ QString order(const PreviewTable &table, const QString &owner)
         columns += owner + QLatin1Char('.') + SqlSession::name(column);
     return columns.join(QStringLiteral(", "));
 }
+
+struct Moment {
+    const char *table;
+    const char *column;
+};
+
+/// Columns into which the plugin writes UNIX_TIMESTAMP().
+constexpr Moment kMoments[] = {
+    {"people", "created"}, {"people", "edited"}, {"brape", "since"}, {"term_sync", "created"}};
 
 } // namespace
 
@@ -93,7 +105,7 @@ bool PreviewDiff::read()
     for (PreviewTable &table : m_schema.tables) {
         table.key = keyOf(m_server, table);
         if (table.key.isEmpty())
-            compareAsBags(table);
+            compareWithoutKey(table);
         else
             compareByKey(table);
     }
@@ -128,12 +140,12 @@ void PreviewDiff::compareByKey(const PreviewTable &table)
         });
 }
 
-void PreviewDiff::compareAsBags(const PreviewTable &table)
+void PreviewDiff::compareWithoutKey(const PreviewTable &table)
 {
-    // Such tables are queues and lists of little: all of it is held.
+    // Such tables are queues and short lists: all rows are held in memory.
     struct Bag {
         QStringList row;
-        qint64 surplus = 0; ///< how often it is more there than before
+        qint64 surplus = 0; ///< how many more of it there are than before
     };
     QMap<QString, Bag> bags;
     const auto count = [&](const QString &name, qint64 step) {
@@ -155,4 +167,18 @@ void PreviewDiff::compareAsBags(const PreviewTable &table)
         for (qint64 i = 0; i < bag.surplus; ++i)
             m_changes.append({&table, {}, bag.row});
     }
+}
+
+bool PreviewMoments::isNow(const PreviewChange &change, int column) const
+{
+    if (change.isDelete() || !change.changes(column))
+        return false;
+    const QString &name = change.table->columns.at(column).name;
+    const bool isMoment =
+        std::any_of(std::begin(kMoments), std::end(kMoments), [&](const Moment &moment) {
+            return change.table->name == QLatin1String(moment.table)
+                && name == QLatin1String(moment.column);
+        });
+    const qint64 value = change.after.at(column).toLongLong();
+    return isMoment && value >= m_begin && value <= m_end;
 }

@@ -31,40 +31,40 @@ PreviewNames::PreviewNames(const QSqlDatabase &copy)
 
 QString PreviewNames::personOfUid(const QString &uid)
 {
-    return ask(kPersonOfUid, QStringLiteral("the person with the uid"), uid);
+    return nameOf(kPersonOfUid, QStringLiteral("the person with the uid"), uid);
 }
 
 QString PreviewNames::personOfPid(const QString &pid)
 {
-    return ask(kPersonOfPid, QStringLiteral("the person with the pid"), pid);
+    return nameOf(kPersonOfPid, QStringLiteral("the person with the pid"), pid);
 }
 
 QString PreviewNames::branch(const QString &bid)
 {
-    return ask(kBranch, QStringLiteral("branch"), bid);
+    return nameOf(kBranch, QStringLiteral("branch"), bid);
 }
 
 QString PreviewNames::calendarGroup(const QString &gid)
 {
-    return ask(kCalendarGroup, QStringLiteral("group"), gid);
+    return nameOf(kCalendarGroup, QStringLiteral("group"), gid);
 }
 
 QString PreviewNames::administrator(const QString &aid)
 {
-    return ask(kAdministrator, QStringLiteral("administrator"), aid);
+    return nameOf(kAdministrator, QStringLiteral("administrator"), aid);
 }
 
 QString PreviewNames::terminal(const QString &tid)
 {
-    return ask(kTerminal, QStringLiteral("terminal"), tid);
+    return nameOf(kTerminal, QStringLiteral("terminal"), tid);
 }
 
 QString PreviewNames::fund(const QString &fid)
 {
-    return ask(kFund, QStringLiteral("fund"), fid);
+    return nameOf(kFund, QStringLiteral("fund"), fid);
 }
 
-QString PreviewNames::ask(const char *sql, const QString &kind, const QString &id)
+QString PreviewNames::nameOf(const char *sql, const QString &kind, const QString &id)
 {
     if (id.isEmpty())
         return QString();

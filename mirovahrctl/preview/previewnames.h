@@ -6,7 +6,8 @@
 #include <QSqlDatabase>
 #include <QString>
 
-/// What people call the things whose ids stand in the tables, as the copy has them after the run.
+/// Readable names for the ids in the tables, from the copy after the synchronisation. An id that is
+/// not there gets its kind and number.
 class PreviewNames {
 public:
     /// \a copy: a connection to the copied database.
@@ -21,8 +22,8 @@ public:
     QString fund(const QString &fid);
 
 private:
-    /// The answer to a query with one place for the id; \a kind and the id when there is none.
-    QString ask(const char *sql, const QString &kind, const QString &id);
+    /// The result of a query with a placeholder for the id; \a kind and the id when there is none.
+    QString nameOf(const char *sql, const QString &kind, const QString &id);
 
     SqlSession m_copy;
     QHash<QString, QString> m_known;

@@ -3,6 +3,7 @@
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/preview/previewwork.h"
 #include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/wording.h"
 
 #include <QDate>
@@ -61,7 +62,7 @@ void PreviewReport::collect()
     const PreviewWords words(m_work.names(), m_work.moments());
     for (const PreviewChange &change : m_work.changes()) {
         std::set<PreviewKind> seen;
-        const PreviewWords::Lines lines = words.tell(change);
+        const PreviewWords::Lines lines = words.describe(change);
         for (const PreviewLine &line : lines) {
             m_lines[line.kind] += line;
             seen.insert(line.kind);
@@ -88,23 +89,25 @@ void PreviewReport::writeWarnings()
     for (const Finding &warning : m_work.warnings())
         m_report.finding(warning);
     noteCopy();
-    m_report.sentence(QStringLiteral(
-        "The plugin's warnings are those of its log. Lines that it drops without a word are told "
-        "of by check-file, rights that its account lacks by check-db."));
+    m_report.sentence(
+        QStringLiteral("The plugin's warnings above are those of its log. check-file reports lines "
+                       "that it drops silently; check-db reports rights that its account lacks."));
 }
 
 void PreviewReport::warnOfConfiguration()
 {
     if (!m_configuration.values().enabled) {
-        tell(Severity::Warning, "disabled",
-             QStringLiteral("The configuration says that the plugin is disabled: it would not "
-                            "synchronise at all."),
-             QStringLiteral("Set enabled to 1 and start the attendance server again."));
+        m_report.finding(makeFinding(
+            Severity::Warning, "disabled",
+            QStringLiteral(
+                "The plugin is disabled in the configuration: it would not synchronise at all."),
+            QStringLiteral("Set enabled to 1 and start the attendance server again.")));
     }
     if (m_configuration.values().testMode) {
-        tell(Severity::Warning, "test-mode",
-             QStringLiteral("Test mode is on: people are only logged, not written."),
-             QStringLiteral("Set testMode to 0 and start the attendance server again."));
+        m_report.finding(makeFinding(
+            Severity::Warning, "test-mode",
+            QStringLiteral("Test mode is on: people are only logged, not written."),
+            QStringLiteral("Set testMode to 0 and start the attendance server again.")));
     }
 }
 
@@ -112,31 +115,34 @@ void PreviewReport::noteCopy()
 {
     const PreviewSchema &schema = m_work.schema();
     if (!schema.tablesWithHiddenTriggers.isEmpty()) {
-        tell(Severity::Note, "triggers-hidden",
-             QStringLiteral("This account must not see whether these tables have triggers: %1. "
-                            "What triggers do there is not in the preview.")
-                 .arg(schema.tablesWithHiddenTriggers.join(QStringLiteral(", "))),
-             QStringLiteral("Preview once with an account that has TRIGGER on the database."));
+        m_report.finding(makeFinding(
+            Severity::Note, "triggers-hidden",
+            QStringLiteral("This account is not allowed to see the triggers of these tables: %1. "
+                           "The preview lacks whatever triggers do there.")
+                .arg(schema.tablesWithHiddenTriggers.join(QStringLiteral(", "))),
+            QStringLiteral("Run one preview with an account that has TRIGGER on the database.")));
     }
     if (!schema.tablesOutsideSnapshot.isEmpty()) {
-        tell(Severity::Note, "no-snapshot",
-             QStringLiteral("The engine of these tables knows no snapshot; they were copied one "
-                            "after the other: %1.")
-                 .arg(schema.tablesOutsideSnapshot.join(QStringLiteral(", "))),
-             QStringLiteral("Preview while nobody works with the attendance server."));
+        m_report.finding(makeFinding(
+            Severity::Note, "no-snapshot",
+            QStringLiteral("The engine of these tables does not support snapshots; they were "
+                           "copied one after the other: %1.")
+                .arg(schema.tablesOutsideSnapshot.join(QStringLiteral(", "))),
+            QStringLiteral("Run the preview while nobody works with the attendance server.")));
     }
     if (!schema.namedViews.isEmpty()) {
-        tell(Severity::Note, "view-not-copied",
-             QStringLiteral("Routines or triggers seem to use what is no table and is not copied: "
-                            "%1.")
-                 .arg(schema.namedViews.join(QStringLiteral(", "))),
-             QStringLiteral("Look whether the plugin complains above."));
+        m_report.finding(makeFinding(
+            Severity::Note, "view-not-copied",
+            QStringLiteral("Routines or triggers seem to use views, which are not copied: %1.")
+                .arg(schema.namedViews.join(QStringLiteral(", "))),
+            QStringLiteral("Check whether the plugin's warnings above mention them.")));
     }
     if (release(schema.serverVersion) != release(m_work.copyVersion())) {
-        tell(Severity::Note, "other-server",
-             QStringLiteral("The site's server is version %1, the copy was on version %2.")
-                 .arg(schema.serverVersion, m_work.copyVersion()),
-             QString());
+        m_report.finding(makeFinding(
+            Severity::Note, "other-server",
+            QStringLiteral("The site's server is version %1, the copy was on version %2.")
+                .arg(schema.serverVersion, m_work.copyVersion()),
+            QString()));
     }
 }
 
@@ -145,14 +151,14 @@ void PreviewReport::writeLimits()
     m_report.section(QStringLiteral("limits"), QStringLiteral("What is left out"));
     m_report.sentence(m_configuration.origin());
     m_report.sentence(QStringLiteral(
-        "This is the forced synchronisation of a plugin that was just started. What a running one "
-        "remembers is not known here: the last record of each person, who waits for a branch, "
-        "whose balance is still to be corrected, the uids that it has looked up. Without force it "
-        "leaves alone whose line is as it was."));
+        "This is the forced synchronisation of a plugin that was just started. The memory of a "
+        "running plugin is not known here: the last record of each person, who waits for a branch, "
+        "whose balance is still to be corrected, the uids that it has looked up. An ordinary "
+        "synchronisation skips people whose line has not changed."));
     m_report.sentence(
-        QStringLiteral("It holds for today, %1, and for the database as it was when it was copied. "
-                       "What others write in the meantime is not in it, and moments of writing "
-                       "are shown as \"now\".")
+        QStringLiteral(
+            "It is valid for today, %1, and for the database as it was when it was copied. It "
+            "lacks what others write in the meantime, and shows moments of writing as \"now\".")
             .arg(QDate::currentDate().toString(Qt::ISODate)));
     if (m_configuration.values().runsCommand(true)) {
         m_report.sentence(
@@ -172,7 +178,7 @@ void PreviewReport::writeSummary()
                   m_work.changes().size());
     for (const PreviewKind kind : PreviewWords::kinds())
         m_report.fact(PreviewWords::idOf(kind), PreviewWords::headingOf(kind), m_rows.value(kind));
-    m_report.fact(QStringLiteral("pluginWarnings"), QStringLiteral("Warnings of the plugin"),
+    m_report.fact(QStringLiteral("pluginWarnings"), QStringLiteral("The plugin's warnings"),
                   m_work.warnings().size());
 }
 
@@ -185,19 +191,8 @@ QString PreviewReport::verdict() const
         : QStringLiteral("A synchronisation would change %1.").arg(rows(changes));
     if (warnings > 0) {
         text +=
-            QStringLiteral(" The plugin would complain %1.")
+            QStringLiteral(" The plugin would warn %1.")
                 .arg(Wording::counted(warnings, QStringLiteral("time"), QStringLiteral("times")));
     }
     return text;
-}
-
-void PreviewReport::tell(Severity severity, const char *rule, const QString &message,
-                         const QString &advice)
-{
-    Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
-    finding.message = message;
-    finding.advice = advice;
-    m_report.finding(finding);
 }

@@ -13,12 +13,12 @@ class PreviewWork;
 class Report;
 class PluginConfiguration;
 
-/// Tells what a preview has found out.
+/// Reports the results of a preview.
 class PreviewReport {
 public:
     PreviewReport(PreviewWork &work, const PluginConfiguration &configuration, Report &report);
 
-    /// All of it but the verdict.
+    /// Writes everything but the verdict.
     void write();
     QString verdict() const;
 
@@ -30,7 +30,6 @@ private:
     void writeSummary();
     void warnOfConfiguration();
     void noteCopy();
-    void tell(Severity severity, const char *rule, const QString &message, const QString &advice);
 
     PreviewWork &m_work;
     const PluginConfiguration &m_configuration;

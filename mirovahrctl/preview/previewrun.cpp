@@ -10,10 +10,10 @@
 
 namespace {
 
-/// The one that logs every line that it drops for its number of fields.
+/// The level at which the plugin also logs lines that it drops for their number of fields.
 constexpr unsigned char kHighestDebugLevel = 3;
 
-/// How far the plugin is, by what it logs: first it reads all lines, then it goes through them.
+/// The plugin's progress, by its log: it reads all lines first, then handles them.
 class RunProgress {
 public:
     explicit RunProgress(const PreviewRun::Listener &listener)
@@ -41,7 +41,7 @@ private:
 
 PreviewRun::PreviewRun(const Configuration &configuration, const QString &exportFile)
     : m_configuration(configuration)
-    , m_failure(exportFile)
+    , m_exportFile(exportFile)
 {
     m_configuration.importFile = QFileInfo(exportFile).absoluteFilePath();
     m_configuration.deleteFile = false;
@@ -61,7 +61,8 @@ bool PreviewRun::run(const QSqlDatabase &copy, const PluginLog::Listener &log,
     RunProgress seen(progress);
     const PluginLog caught([&](QtMsgType type, const QString &text) {
         seen.see(type, text);
-        m_failure.see(text);
+        if (!m_refusal)
+            m_refusal = PreviewRefusal::ofLog(text, m_exportFile);
         log(type, text);
     });
     m_begin = QDateTime::currentSecsSinceEpoch();
@@ -82,10 +83,10 @@ bool PreviewRun::synchronise(const QSqlDatabase &copy)
     MHRWorker worker;
     worker.setDebugLevel(kHighestDebugLevel);
     worker.setTepDb(copy);
-    // A worker takes up the connection that an earlier one of this process has left: nobody knows
-    // whose database that is.
+    // A worker reuses a connection that an earlier one of this process has left, which may be to
+    // any database.
     if (QSqlDatabase::connectionNames().size() == before.size()) {
-        m_error = QStringLiteral("The plugin has a connection to another database");
+        m_error = QStringLiteral("The plugin already has a connection to another database");
         return false;
     }
     configureWorker(worker, m_configuration);

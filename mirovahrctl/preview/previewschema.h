@@ -7,10 +7,10 @@
 /// One column of a table that is copied.
 struct PreviewColumn {
     enum class Kind {
-        Number, ///< exact: whole numbers, decimal ones, bits
+        Number, ///< exact: integers, decimals, bits
         Real, ///< binary fractions
         Text,
-        Bytes, ///< the cell holds them in hexadecimal digits
+        Bytes, ///< the cell holds hexadecimal digits
         Other ///< dates, times: texts without a character set
     };
 
@@ -20,10 +20,10 @@ struct PreviewColumn {
     /// The kind for a type such as "int(10) unsigned".
     static Kind kindOf(const QString &type);
 
-    /// What to select so that a cell's text loses nothing. \a owner: the table's name or alias, in
-    /// SQL.
+    /// The SQL expression that selects the value as text without loss. \a owner: the table's name
+    /// or alias, in SQL.
     QString expression(const QString &owner) const;
-    /// A cell's text as SQL writes the value. A null text is NULL.
+    /// The SQL literal for a cell's text. A null text is NULL.
     QString literal(const QString &cell) const;
 };
 
@@ -32,28 +32,28 @@ struct PreviewTable {
     QString name;
     QString definition; ///< CREATE TABLE ...
     QVector<PreviewColumn> columns; ///< without those that the server computes
-    QStringList key; ///< columns that tell the rows apart; empty: rows may repeat
+    QStringList key; ///< columns that identify a row; empty: rows may repeat
     qint64 rowEstimate = 0;
 
     /// Position of a column; -1 when there is none.
     int indexOf(const QString &column) const;
-    /// The columns' names, as SQL writes a list.
+    /// The columns' names as an SQL list.
     QString columnList() const;
-    /// What to select of a row.
+    /// The expressions that select a row.
     QString expressions(const QString &owner) const;
-    /// A row as INSERT takes it: "(1, 'text')".
+    /// A row as in INSERT: "(1, 'text')".
     QString tuple(const QStringList &row) const;
 };
 
 /// A routine or trigger that is copied.
 struct PreviewProgram {
     QString name;
-    QString definition; ///< CREATE ..., without its definer: it becomes the copy's
+    QString definition; ///< CREATE ..., without its definer: that becomes the copy's administrator
     QString sqlMode;
     QString collation;
 };
 
-/// What is copied of the site's database, and what its server does its own way.
+/// What is copied of the site's database, and the server settings that matter.
 struct PreviewSchema {
     QString name;
     QString charset;
@@ -63,7 +63,7 @@ struct PreviewSchema {
     QVector<PreviewProgram> triggers;
     /// Tables that the plugin writes and whose triggers this account is not allowed to see.
     QStringList tablesWithHiddenTriggers;
-    /// Tables whose engine knows no snapshot: they are as they were when their turn came.
+    /// Tables whose engine does not support snapshots: each is as it was when it was copied.
     QStringList tablesOutsideSnapshot;
     /// Views that a routine or trigger seems to name. They are not copied.
     QStringList namedViews;
@@ -71,5 +71,6 @@ struct PreviewSchema {
     QString serverVersion;
     QString timeZone; ///< of its sessions
 
+    /// Rows of all tables, by the server's estimate.
     qint64 rowEstimate() const;
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-// What a server does its own way, and mariadbd takes as an option of the same name.
+// Settings that change results; mariadbd has an option of the same name for each.
 constexpr char kServerVariables[] =
     "SHOW SESSION VARIABLES WHERE Variable_name IN ('sql_mode', 'old_mode', "
     "'auto_increment_increment', 'auto_increment_offset', 'innodb_autoinc_lock_mode', "
@@ -32,7 +32,7 @@ constexpr char kTriggers[] =
     "EVENT_OBJECT_SCHEMA = DATABASE() ORDER BY EVENT_OBJECT_TABLE, ACTION_TIMING, "
     "EVENT_MANIPULATION, ACTION_ORDER";
 
-// On the whole server or database; an account sees its own rights only, an administrator all.
+// On the whole server or database. An account sees only its own rights, an administrator all.
 constexpr char kTriggerRight[] =
     "SELECT COUNT(*) FROM (SELECT GRANTEE FROM information_schema.USER_PRIVILEGES WHERE "
     "PRIVILEGE_TYPE = 'TRIGGER' UNION SELECT GRANTEE FROM information_schema.SCHEMA_PRIVILEGES "
@@ -63,7 +63,7 @@ bool isComputed(const QString &extra)
         || extra.contains(QLatin1String("PERSISTENT"), Qt::CaseInsensitive);
 }
 
-/// Every word of a text that could be a name, in lower case.
+/// All words of a text that can be names, in lower case.
 QSet<QString> words(const QString &text)
 {
     static const QRegularExpression separator(QStringLiteral("[^\\w$]+"),
@@ -96,7 +96,7 @@ PreviewSchemaReader::PreviewSchemaReader(SqlSession &site)
 std::optional<PreviewRefusal> PreviewSchemaReader::read()
 {
     readServer();
-    // Some modes would show definitions in another way than they are copied.
+    // Some SQL modes change how definitions are shown.
     m_site.prepareForCopying();
     readDatabase();
     listTables();
@@ -178,8 +178,8 @@ void PreviewSchemaReader::require(const QHash<QString, Entry> &known, const QStr
     if (!known.contains(key)) {
         const bool isTable = &known == &m_tables;
         refuse(ExitStatus::ContractBroken,
-               QStringLiteral("There is no %1 %2, or this account must not see it: it needs SELECT "
-                              "on %3. check-db tells more")
+               QStringLiteral("There is no %1 %2, or this account is not allowed to see it: it "
+                              "needs SELECT on %3. Run check-db for details")
                    .arg(what, name, isTable ? name : QStringLiteral("mysql.proc")));
         return;
     }
@@ -203,7 +203,7 @@ void PreviewSchemaReader::takeTable(const QString &key)
     const Entry entry = m_tables.value(key);
     if (entry.kind != kBaseTable) {
         refuse(ExitStatus::ContractBroken,
-               QStringLiteral("%1 is no table but a %2, which cannot be copied")
+               QStringLiteral("%1 is not a table but a %2, which cannot be copied")
                    .arg(entry.name, entry.kind.toLower()));
         return;
     }
@@ -252,13 +252,12 @@ void PreviewSchemaReader::requireReferences(const PreviewTable &table)
         const QRegularExpressionMatch match = matches.next();
         if (!match.captured(1).isEmpty() && match.captured(1) != m_schema.name) {
             refuse(ExitStatus::ContractBroken,
-                   QStringLiteral("The table %1 refers to the other database %2, which is not "
-                                  "copied")
+                   QStringLiteral("The table %1 refers to the database %2, which is not copied")
                        .arg(table.name, match.captured(1)));
             return;
         }
         require(m_tables, match.captured(2),
-                QStringLiteral("table, although %1 refers to it,").arg(table.name));
+                QStringLiteral("table that %1 refers to,").arg(table.name));
     }
 }
 
@@ -333,8 +332,8 @@ void PreviewSchemaReader::refuse(ExitStatus status, const QString &sentence)
 
 void PreviewSchemaReader::refuseRead(const QString &what, const QString &missingRight)
 {
-    QString sentence =
-        QStringLiteral("This account must not read %1: it lacks %2").arg(what, missingRight);
+    QString sentence = QStringLiteral("This account is not allowed to read %1: it lacks %2")
+                           .arg(what, missingRight);
     if (m_site.failed())
         sentence += QStringLiteral(" (%1)").arg(m_site.errorText());
     refuse(ExitStatus::NoDatabase, sentence);

@@ -11,15 +11,15 @@
 
 class SqlSession;
 
-/// Finds out what of the site's database a synchronisation touches: the tables and routines of the
-/// plugin; the triggers of those tables; and whatever table or routine a routine or trigger names
-/// in its text, or a table refers to as a foreign key, and so on.
+/// Finds what a synchronisation touches in the site's database: the tables and routines of the
+/// plugin, the triggers of those tables, and recursively every table or routine that a routine or
+/// trigger names in its text or that a foreign key refers to.
 class PreviewSchemaReader {
 public:
-    /// \a site: within the transaction that copies, and not yet prepared for copying.
+    /// \a site: a session in the transaction that copies, not yet prepared for copying.
     explicit PreviewSchemaReader(SqlSession &site);
 
-    /// Has a refusal when the copy would not do what the site's database does.
+    /// Returns a refusal when the copy would not behave like the site's database.
     std::optional<PreviewRefusal> read();
 
     const PreviewSchema &schema() const { return m_schema; }
@@ -59,7 +59,7 @@ private:
     PreviewSchema m_schema;
     QHash<QString, Entry> m_tables; ///< by name in lower case, as the account sees them
     QHash<QString, Entry> m_routines;
-    QHash<QString, QStringList> m_triggers; ///< by table in lower case, in order of their firing
+    QHash<QString, QStringList> m_triggers; ///< by table in lower case, in firing order
     QStringList m_pendingTables; ///< names in lower case, still to be taken
     QStringList m_pendingRoutines;
     QSet<QString> m_required; ///< all that were ever pending

@@ -9,10 +9,10 @@ namespace {
 constexpr char kAdministrator[] = "mirovahrctl.copy";
 constexpr char kAttendance[] = "mirovahrctl.attendance";
 
-/// One row of a table goes into one statement, however long it is.
+/// A row is copied in one statement, however long it is.
 constexpr char kLargestPacket[] = "--max-allowed-packet=256M";
 
-/// A zone by its name is the program's: the server has no names of its own.
+/// The private server has no named zones: an offset is passed on, any other zone is the program's.
 QString timeZoneOption(const QString &siteZone)
 {
     const bool isOffset =
@@ -32,7 +32,7 @@ PreviewServer::~PreviewServer()
 bool PreviewServer::start(const PreviewSchema &schema)
 {
     if (m_server.isRunning()) {
-        // It would go on in a database that is about to be dropped.
+        // It is connected to a database that is about to be dropped.
         attendance().close();
         return true;
     }

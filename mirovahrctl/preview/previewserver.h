@@ -7,27 +7,27 @@
 
 struct PreviewSchema;
 
-/// The database server that holds the copy. Server and copy are gone with this object.
+/// The database server that holds the copy. Both are removed with this object.
 class PreviewServer {
 public:
     PreviewServer() = default;
-    /// Every copy of the connections must be gone before.
+    /// All copies of the connections must be destroyed before.
     ~PreviewServer();
     PreviewServer(const PreviewServer &) = delete;
     PreviewServer &operator=(const PreviewServer &) = delete;
 
-    /// Starts the server with the ways of the site's. False when that fails. A server that runs
-    /// goes on, for the next copy.
+    /// Starts the server with the settings of the site's. False when that fails; errorString() then
+    /// says why. A server that runs already is used again.
     bool start(const PreviewSchema &schema);
 
     /// An open connection of the administrator.
     QSqlDatabase administrator() const;
-    /// An open connection with all rights on the copy, such as an attendance server has. For the
-    /// time when the copy is there.
+    /// An open connection with all rights on the copy, as an attendance server has. Only while the
+    /// copy exists.
     QSqlDatabase attendance() const;
 
     /// Why start() failed, a sentence without its full stop.
-    QString errorText() const { return m_error; }
+    QString errorString() const { return m_error; }
 
 private:
     bool connectToServer();

@@ -1,7 +1,6 @@
 #include "mirovahrctl/preview/previewsql.h"
 
 #include "mirovahrctl/preview/previewdiff.h"
-#include "mirovahrctl/preview/previewmoments.h"
 #include "mirovahrctl/report/moment.h"
 
 #include <QDateTime>
@@ -9,7 +8,7 @@
 
 namespace {
 
-// The values are those of a table: nothing may be changed on the way back into one.
+// The values come from tables: the server must not convert them on their way back.
 constexpr char kBegin[] =
     "SET NAMES utf8mb4;\n"
     "SET @old_time_zone = @@SESSION.time_zone, SESSION time_zone = '+00:00';\n"
@@ -24,7 +23,7 @@ constexpr char kEnd[] = "COMMIT;\n"
                         "SET SESSION sql_mode = @old_sql_mode;\n"
                         "SET SESSION time_zone = @old_time_zone;\n";
 
-/// What finds the row. Where rows may repeat, one of them is as good as another.
+/// The condition that finds the row. Where rows may repeat, any of them will do.
 QString condition(const PreviewChange &change)
 {
     const PreviewTable &table = *change.table;
@@ -48,8 +47,8 @@ QString comment(const PreviewSchema &schema)
                        "-- by a preview of %2.\n")
             .arg(schema.name.simplified(), Moment::text(QDateTime::currentDateTime()));
     if (!schema.triggers.isEmpty()) {
-        text += QStringLiteral("-- What triggers did is among it: they must not do it once more "
-                               "when this is run.\n");
+        text += QStringLiteral("-- The effects of triggers are included: triggers must not fire "
+                               "again when this is run.\n");
     }
     return text;
 }

@@ -8,12 +8,13 @@ class QIODevice;
 struct PreviewChange;
 struct PreviewSchema;
 
-/// Writes the changes as SQL that makes them, all or none: for the site's database as it was, with
-/// moments of writing as "now".
+/// Writes the changes as SQL that makes all of them or none, in the site's database as it was when
+/// it was copied. Moments of writing become "now".
 class PreviewSql {
 public:
     PreviewSql(const PreviewSchema &schema, const PreviewMoments &moments);
 
+    /// \a out must be open for writing.
     void write(const QVector<PreviewChange> &changes, QIODevice &out) const;
 
 private:

@@ -2,7 +2,6 @@
 
 #include "mirovahrctl/preview/previewcolumns.h"
 #include "mirovahrctl/preview/previewdiff.h"
-#include "mirovahrctl/preview/previewmoments.h"
 #include "mirovahrctl/preview/previewnames.h"
 #include "mirovahrctl/report/moment.h"
 

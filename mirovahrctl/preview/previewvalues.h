@@ -6,7 +6,7 @@ class PreviewMoments;
 class PreviewNames;
 struct PreviewChange;
 
-/// Values of columns, as people read them.
+/// The values of columns in readable form.
 class PreviewValues {
 public:
     /// \a names and \a moments must live as long as this object.

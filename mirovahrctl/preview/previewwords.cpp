@@ -36,7 +36,7 @@ const KindWords &wordsOf(PreviewKind kind)
     return kKinds[static_cast<int>(kind)];
 }
 
-/// What people call a column of `people`; empty for one that is not the plugin's.
+/// The readable name of a column of `people`; empty for one that the plugin does not use.
 QString labelOf(const QString &column)
 {
     for (const PreviewColumns::Column &entry : PreviewColumns::kColumns) {
@@ -110,38 +110,38 @@ QString PreviewWords::headingOf(PreviewKind kind)
     return QString::fromLatin1(wordsOf(kind).heading);
 }
 
-PreviewWords::Lines PreviewWords::tell(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describe(const PreviewChange &change) const
 {
-    struct Teller {
+    struct Describer {
         const char *table;
-        Lines (PreviewWords::*tell)(const PreviewChange &) const;
+        Lines (PreviewWords::*describe)(const PreviewChange &) const;
     };
-    static constexpr Teller kTellers[] = {
-        {"people", &PreviewWords::tellPerson},
-        {"atten", &PreviewWords::tellAttendance},
-        {"brape", &PreviewWords::tellBranchMember},
-        {"groups_plan", &PreviewWords::tellPlan},
-        {"groups_month", &PreviewWords::tellMonth},
-        {"funds_move", &PreviewWords::tellMove},
-        {"admins_people", &PreviewWords::tellAdministrator},
-        {"people_pam", &PreviewWords::tellPayrollSettings},
-        {"term", &PreviewWords::tellTerminal},
-        {"people_term", &PreviewWords::tellTerminalPerson},
-        {"term_sync", &PreviewWords::tellQueue},
-        {"vars", &PreviewWords::tellSetting},
+    static constexpr Describer kDescribers[] = {
+        {"people", &PreviewWords::describePerson},
+        {"atten", &PreviewWords::describeAttendance},
+        {"brape", &PreviewWords::describeBranchMember},
+        {"groups_plan", &PreviewWords::describePlan},
+        {"groups_month", &PreviewWords::describeMonth},
+        {"funds_move", &PreviewWords::describeMove},
+        {"admins_people", &PreviewWords::describeAdministrator},
+        {"people_pam", &PreviewWords::describePayrollSettings},
+        {"term", &PreviewWords::describeTerminal},
+        {"people_term", &PreviewWords::describeTerminalPerson},
+        {"term_sync", &PreviewWords::describeQueue},
+        {"vars", &PreviewWords::describeSetting},
     };
-    const auto *const end = std::end(kTellers);
+    const auto *const end = std::end(kDescribers);
     const auto *const found =
-        std::find_if(std::begin(kTellers), end, [&change](const Teller &teller) {
-            return change.table->name == QLatin1String(teller.table);
+        std::find_if(std::begin(kDescribers), end, [&change](const Describer &describer) {
+            return change.table->name == QLatin1String(describer.table);
         });
-    return found == end ? tellPlainly(change) : (this->*found->tell)(change);
+    return found == end ? describePlainly(change) : (this->*found->describe)(change);
 }
 
-PreviewWords::Lines PreviewWords::tellPerson(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describePerson(const PreviewChange &change) const
 {
     if (change.isDelete())
-        return tellPlainly(change);
+        return describePlainly(change);
     const QString who = m_names.personOfUid(change.cell("uid"));
     Lines lines;
     if (change.isInsert())
@@ -160,14 +160,14 @@ PreviewWords::Lines PreviewWords::tellPerson(const PreviewChange &change) const
     return lines;
 }
 
-PreviewWords::Lines PreviewWords::tellAttendance(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeAttendance(const PreviewChange &change) const
 {
     return compare(PreviewKind::Recalculation, person(change),
                    QStringLiteral("attendance of ") + PreviewValues::time(change.cell("date")),
                    change, "ok");
 }
 
-PreviewWords::Lines PreviewWords::tellBranchMember(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeBranchMember(const PreviewChange &change) const
 {
     const QString branch = m_names.branch(change.cell("bid"));
     const QString what = change.isInsert() ? QStringLiteral("joins the branch %1, since")
@@ -176,7 +176,7 @@ PreviewWords::Lines PreviewWords::tellBranchMember(const PreviewChange &change) 
     return compare(PreviewKind::Branches, person(change), what.arg(branch), change, "since");
 }
 
-PreviewWords::Lines PreviewWords::tellPlan(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describePlan(const PreviewChange &change) const
 {
     return compare(
         PreviewKind::Calendars, person(change),
@@ -184,7 +184,7 @@ PreviewWords::Lines PreviewWords::tellPlan(const PreviewChange &change) const
         change, "gid");
 }
 
-PreviewWords::Lines PreviewWords::tellMonth(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeMonth(const PreviewChange &change) const
 {
     return compare(
         PreviewKind::Calendars, person(change),
@@ -192,7 +192,7 @@ PreviewWords::Lines PreviewWords::tellMonth(const PreviewChange &change) const
         change, "gid");
 }
 
-PreviewWords::Lines PreviewWords::tellMove(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeMove(const PreviewChange &change) const
 {
     const QString fund = m_names.fund(change.cell("fid"));
     const QString what = change.cell("type") == QLatin1String("3")
@@ -202,7 +202,7 @@ PreviewWords::Lines PreviewWords::tellMove(const PreviewChange &change) const
                    what.arg(fund, PreviewValues::time(change.cell("day"))), change, "value");
 }
 
-PreviewWords::Lines PreviewWords::tellAdministrator(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeAdministrator(const PreviewChange &change) const
 {
     const QString administrator = m_names.administrator(change.cell("aid"));
     if (change.isInsert() && change.cell("request") == QLatin1String("0")) {
@@ -216,19 +216,19 @@ PreviewWords::Lines PreviewWords::tellAdministrator(const PreviewChange &change)
                    QStringLiteral("requests go to %1").arg(administrator), change, "request");
 }
 
-PreviewWords::Lines PreviewWords::tellPayrollSettings(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describePayrollSettings(const PreviewChange &change) const
 {
     return compare(PreviewKind::Payroll, person(change),
                    QStringLiteral("settings of the payroll export"), change, "id");
 }
 
-PreviewWords::Lines PreviewWords::tellTerminal(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeTerminal(const PreviewChange &change) const
 {
     return compare(PreviewKind::Terminals, m_names.terminal(change.cell("tid")),
                    QStringLiteral("has to fetch"), change, "syn");
 }
 
-PreviewWords::Lines PreviewWords::tellTerminalPerson(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeTerminalPerson(const PreviewChange &change) const
 {
     const QString terminal = m_names.terminal(change.cell("tid"));
     const QString what =
@@ -236,7 +236,7 @@ PreviewWords::Lines PreviewWords::tellTerminalPerson(const PreviewChange &change
     return {{PreviewKind::Terminals, person(change), what.arg(terminal), {}, {}}};
 }
 
-PreviewWords::Lines PreviewWords::tellQueue(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeQueue(const PreviewChange &change) const
 {
     const QString id = change.cell("ref_id");
     const bool isPerson = change.cell("ref_col") == QLatin1String("uid");
@@ -248,16 +248,16 @@ PreviewWords::Lines PreviewWords::tellQueue(const PreviewChange &change) const
     return {{PreviewKind::Terminals, m_names.terminal(change.cell("tid")), verb.arg(what), {}, {}}};
 }
 
-PreviewWords::Lines PreviewWords::tellSetting(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeSetting(const PreviewChange &change) const
 {
     static const QRegularExpression selection(QStringLiteral("^exportPam\\..*\\.selPeople$"));
     const QString name = change.cell("name");
     if (selection.match(name).hasMatch())
-        return tellSelection(change);
+        return describeSelection(change);
     return compare(PreviewKind::Settings, name, QStringLiteral("value"), change, "value");
 }
 
-PreviewWords::Lines PreviewWords::tellSelection(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describeSelection(const PreviewChange &change) const
 {
     const int column = change.table->indexOf(QStringLiteral("value"));
     const QStringList before = entries(change.before.value(column));
@@ -280,10 +280,10 @@ PreviewWords::Lines PreviewWords::tellSelection(const PreviewChange &change) con
                       {},
                       {}});
     }
-    return lines.isEmpty() ? tellPlainly(change) : lines;
+    return lines.isEmpty() ? describePlainly(change) : lines;
 }
 
-PreviewWords::Lines PreviewWords::tellPlainly(const PreviewChange &change) const
+PreviewWords::Lines PreviewWords::describePlainly(const PreviewChange &change) const
 {
     const QString verb = change.isInsert() ? QStringLiteral("new row: %1")
         : change.isDelete()                ? QStringLiteral("removed row: %1")
@@ -309,7 +309,7 @@ PreviewWords::Lines PreviewWords::compare(PreviewKind kind, const QString &who, 
     const int index = change.table->indexOf(QString::fromLatin1(column));
     const bool isUpdate = !change.isInsert() && !change.isDelete();
     if (index < 0 || (isUpdate && !changesOnly(change, index)))
-        return tellPlainly(change);
+        return describePlainly(change);
     return {{kind, who, what, m_values.before(change, index), m_values.after(change, index)}};
 }
 

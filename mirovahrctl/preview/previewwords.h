@@ -9,7 +9,7 @@ class PreviewMoments;
 class PreviewNames;
 struct PreviewChange;
 
-/// What a difference is about: the sections of the report.
+/// The kinds of differences: sections of the report.
 enum class PreviewKind {
     NewPeople,
     ChangedPeople,
@@ -24,16 +24,16 @@ enum class PreviewKind {
     Other,
 };
 
-/// One difference in the words of people.
+/// One difference in readable form.
 struct PreviewLine {
     PreviewKind kind = PreviewKind::Other;
-    QString who; ///< whom or what it is about: "1234.1 Jana Nováková", "terminal 1 (Sklad)"
+    QString who; ///< whom or what it concerns: "1234.1 Jana Nováková", "terminal 1 (Sklad)"
     QString what; ///< what happens, or what differs: "surname"
     QString before;
     QString after;
 };
 
-/// Tells changed rows in the words of people.
+/// Describes changed rows in readable form.
 class PreviewWords {
 public:
     using Lines = QVector<PreviewLine>;
@@ -41,10 +41,10 @@ public:
     /// \a names and \a moments must live as long as this object.
     PreviewWords(PreviewNames &names, const PreviewMoments &moments);
 
-    /// A row in one or more lines.
-    Lines tell(const PreviewChange &change) const;
+    /// Describes a row in one or more lines.
+    Lines describe(const PreviewChange &change) const;
 
-    /// All of them, in the order of the report.
+    /// All kinds, in the order of the report.
     static const QVector<PreviewKind> &kinds();
     /// A stable name for scripts, such as "new-people".
     static QString idOf(PreviewKind kind);
@@ -52,23 +52,23 @@ public:
     static QString headingOf(PreviewKind kind);
 
 private:
-    Lines tellPerson(const PreviewChange &change) const;
-    Lines tellAttendance(const PreviewChange &change) const;
-    Lines tellBranchMember(const PreviewChange &change) const;
-    Lines tellPlan(const PreviewChange &change) const;
-    Lines tellMonth(const PreviewChange &change) const;
-    Lines tellMove(const PreviewChange &change) const;
-    Lines tellAdministrator(const PreviewChange &change) const;
-    Lines tellPayrollSettings(const PreviewChange &change) const;
-    Lines tellTerminal(const PreviewChange &change) const;
-    Lines tellTerminalPerson(const PreviewChange &change) const;
-    Lines tellQueue(const PreviewChange &change) const;
-    Lines tellSetting(const PreviewChange &change) const;
-    Lines tellSelection(const PreviewChange &change) const;
-    /// For what has no words: the columns by their names.
-    Lines tellPlainly(const PreviewChange &change) const;
+    Lines describePerson(const PreviewChange &change) const;
+    Lines describeAttendance(const PreviewChange &change) const;
+    Lines describeBranchMember(const PreviewChange &change) const;
+    Lines describePlan(const PreviewChange &change) const;
+    Lines describeMonth(const PreviewChange &change) const;
+    Lines describeMove(const PreviewChange &change) const;
+    Lines describeAdministrator(const PreviewChange &change) const;
+    Lines describePayrollSettings(const PreviewChange &change) const;
+    Lines describeTerminal(const PreviewChange &change) const;
+    Lines describeTerminalPerson(const PreviewChange &change) const;
+    Lines describeQueue(const PreviewChange &change) const;
+    Lines describeSetting(const PreviewChange &change) const;
+    Lines describeSelection(const PreviewChange &change) const;
+    /// For rows without a description of their own: the columns by name.
+    Lines describePlainly(const PreviewChange &change) const;
 
-    /// One column before and after; the plain words when more than that differs.
+    /// One column before and after; describePlainly() when more columns differ.
     Lines compare(PreviewKind kind, const QString &who, const QString &what,
                   const PreviewChange &change, const char *column) const;
     QString person(const PreviewChange &change) const;

@@ -39,11 +39,12 @@ PreviewRefusal refusal(const QString &sentence)
     return {ExitStatus::NoDatabase, sentence};
 }
 
-/// The copy's server is our own: what keeps the force flag from being set is the site's table.
+/// The copy's server is private, so the site's table is what prevents setting the force flag.
 PreviewRefusal cannotForce(const QString &error)
 {
-    return {ExitStatus::ContractBroken,
-            QStringLiteral("The copy cannot be synchronised: %1. check-db tells more").arg(error)};
+    return {
+        ExitStatus::ContractBroken,
+        QStringLiteral("The copy cannot be synchronised: %1. Run check-db for details").arg(error)};
 }
 
 } // namespace
@@ -85,15 +86,15 @@ std::optional<PreviewRefusal> PreviewWork::copyFrom(SqlSession &site)
     Progress progress(m_console, QStringLiteral("Copying the database"));
     PreviewCopy copy(m_schema, m_server.administrator());
     if (copy.copyTables(site, [&](qint64 done, qint64 total) { progress.update(done, total); })
-        && copy.makePrograms())
+        && copy.createPrograms())
         return std::nullopt;
-    return refusal(copy.errorText());
+    return refusal(copy.errorString());
 }
 
 std::optional<PreviewRefusal> PreviewWork::startServer()
 {
     if (!m_server.start(m_schema))
-        return refusal(m_server.errorText());
+        return refusal(m_server.errorString());
     SqlSession copy(m_server.administrator());
     m_copyVersion = copy.value(QStringLiteral("SELECT VERSION()"));
     return std::nullopt;
@@ -109,7 +110,7 @@ std::optional<PreviewRefusal> PreviewWork::synchronise(const Configuration &conf
                 m_server.attendance(),
                 [&](QtMsgType type, const QString &text) { take(type, text, log); },
                 [&](qint64 done, qint64 total) { progress.update(done, total); }))
-            return cannotForce(run.errorText());
+            return cannotForce(run.errorString());
     }
     if (auto refused = run.refusal())
         return refused;
@@ -122,8 +123,8 @@ std::optional<PreviewRefusal> PreviewWork::compare()
 {
     PreviewDiff diff(m_schema, m_server.administrator());
     if (!diff.read()) {
-        return refusal(QStringLiteral("What has changed in the copy cannot be read: ")
-                       + diff.errorText());
+        return refusal(QStringLiteral("The changes in the copy cannot be read: ")
+                       + diff.errorString());
     }
     m_changes = diff.changes();
     return std::nullopt;
@@ -135,10 +136,7 @@ void PreviewWork::take(QtMsgType type, const QString &text, QIODevice *log)
         log->write(QStringLiteral("%1\t%2\n").arg(levelOf(type), text).toUtf8());
     if (type != QtWarningMsg && type != QtCriticalMsg)
         return;
-    Finding finding;
-    finding.severity = type == QtWarningMsg ? Severity::Warning : Severity::Error;
-    finding.rule =
-        type == QtWarningMsg ? QStringLiteral("plugin-warning") : QStringLiteral("plugin-error");
-    finding.message = text;
-    m_warnings += finding;
+    m_warnings += type == QtWarningMsg
+        ? makeFinding(Severity::Warning, "plugin-warning", text, QString())
+        : makeFinding(Severity::Error, "plugin-error", text, QString());
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "mirovahrctl/preview/previewdiff.h"
-#include "mirovahrctl/preview/previewmoments.h"
 #include "mirovahrctl/preview/previewnames.h"
 #include "mirovahrctl/preview/previewrefusal.h"
 #include "mirovahrctl/preview/previewschema.h"
@@ -20,8 +19,7 @@ class QIODevice;
 class SqlSession;
 struct DatabaseOptions;
 
-/// The work of a preview: copies the site's database, lets the plugin synchronise the copy, and
-/// finds out what has changed.
+/// Copies the site's database, lets the plugin synchronise the copy, and finds the changes.
 class PreviewWork {
 public:
     /// \a server holds the copy and must live longer than this object.
@@ -30,16 +28,17 @@ public:
     PreviewWork(const PreviewWork &) = delete;
     PreviewWork &operator=(const PreviewWork &) = delete;
 
-    /// Copies the database that the options name; the connection to it is closed again then.
+    /// Copies the database that the options name. The connection is closed afterwards.
     std::optional<PreviewRefusal> copy(const DatabaseOptions &options);
     /// Synchronises the copy. The plugin's whole log goes into \a log, one line a message.
     std::optional<PreviewRefusal> synchronise(const Configuration &configuration,
                                               const QString &exportFile, QIODevice *log);
 
     const PreviewSchema &schema() const { return m_schema; }
+    /// The version of the copy's server.
     const QString &copyVersion() const { return m_copyVersion; }
     const QVector<PreviewChange> &changes() const { return m_changes; }
-    /// What the plugin warned of.
+    /// The warnings and errors that the plugin logged.
     const QVector<Finding> &warnings() const { return m_warnings; }
     const PreviewMoments &moments() const { return *m_moments; }
     PreviewNames &names() { return *m_names; }

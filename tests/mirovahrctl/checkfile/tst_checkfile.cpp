@@ -32,7 +32,7 @@ QByteArray goodOf(const QString &personalNumber, const QString &relationship)
 
 } // namespace
 
-/// What check-file says of an export, without a database.
+/// check-file without a database.
 class TestCheckFile : public QObject {
     Q_OBJECT
 
@@ -48,14 +48,14 @@ private Q_SLOTS:
     void notesAloneAreFine();
     void factsCountTheLines();
     void aFindingSaysWhoAndWhere();
-    void theTextTellsEverything();
+    void theTextReportIsComplete();
     void theAdviceFitsTheMistake_data();
     void theAdviceFitsTheMistake();
     void aDuplicateNamesTheFirstLine();
     void aClashNamesTheFirstPerson();
-    void tooManyRepetitionsAreSaidToBeIncomplete();
+    void tooManyRepetitionsAreReportedAsIncomplete();
     void everyLineOfALargeExportIsChecked();
-    void theRejectsHoldTheLinesAsTheyStand();
+    void theRejectsHoldTheLinesUnchanged();
     void theRejectsAreWrittenWithoutRejects();
     void theRejectsAreNoExport();
     void theExportIsNotChanged();
@@ -271,7 +271,7 @@ void TestCheckFile::aRuleTripsOnItsFixtureOnly()
 
 void TestCheckFile::everyRuleOfTheManualHasItsFixtures()
 {
-    // These take a database or a very long export, and have test functions of their own.
+    // These need a database or a very long export, and have test functions of their own.
     const QSet<QString> others{"text-too-long", "repetitions-not-all-found"};
     QVERIFY(!Manual::rules("check-file").isEmpty());
     for (const QString &rule : Manual::rules("check-file")) {
@@ -364,27 +364,26 @@ void TestCheckFile::aFindingSaysWhoAndWhere()
     QVERIFY(!finding.contains("dropped"));
 }
 
-void TestCheckFile::theTextTellsEverything()
+void TestCheckFile::theTextReportIsComplete()
 {
     const ToolRun run = check(line(&ExportRow::datumVystupu, "31.3.2021").chopped(1), {});
     COMPARE_EXIT(run, ExitStatus::Findings);
-    QCOMPARE(
-        run.out.section('\n', 2),
-        QString("\nWhat to look at\n---------------\n"
-                "line 1, DatumVystupu (1234.1 Jana Nováková): warning: \"31.3.2021\" is no "
-                "date to the plugin: the person counts as not leaving. [bad-date]\n"
-                "    Tell HR: Dates look like 2021-03-31 00:00:00.000.\n"
-                "warning: The last line has no line feed at its end. The plugin reads it as "
-                "it stands, but the file may have been cut off. [no-final-line-feed]\n"
-                "    Tell HR: Check whether the export is whole.\n"
-                "\nSummary\n-------\n"
-                "Rule                Findings\n"
-                "------------------  --------\n"
-                "bad-date            1\n"
-                "no-final-line-feed  1\n"
-                "Lines: 1\nRead as people: 1\nDropped by the plugin: 0\n"
-                "Not arriving as they should: 0\n"
-                "\nEverybody in the export arrives, but not everything is as it should be.\n"));
+    QCOMPARE(run.out.section('\n', 2),
+             QString("\nWhat to look at\n---------------\n"
+                     "line 1, DatumVystupu (1234.1 Jana Nováková): warning: \"31.3.2021\" is no "
+                     "date to the plugin: the person counts as not leaving. [bad-date]\n"
+                     "    Tell HR: Dates look like 2021-03-31 00:00:00.000.\n"
+                     "warning: The last line has no line feed at its end. The plugin reads it as "
+                     "it stands, but the file may have been cut off. [no-final-line-feed]\n"
+                     "    Tell HR: Check whether the export is whole.\n"
+                     "\nSummary\n-------\n"
+                     "Rule                Findings\n"
+                     "------------------  --------\n"
+                     "bad-date            1\n"
+                     "no-final-line-feed  1\n"
+                     "Lines: 1\nRead as people: 1\nDropped by the plugin: 0\n"
+                     "Not arriving as they should: 0\n"
+                     "\nEverybody in the export arrives, but there are findings.\n"));
 }
 
 void TestCheckFile::theAdviceFitsTheMistake_data()
@@ -439,7 +438,7 @@ void TestCheckFile::aClashNamesTheFirstPerson()
                      "both for one person, and the last line prevails."));
 }
 
-void TestCheckFile::tooManyRepetitionsAreSaidToBeIncomplete()
+void TestCheckFile::tooManyRepetitionsAreReportedAsIncomplete()
 {
     const auto people = [](int count) {
         QByteArray content;
@@ -472,7 +471,7 @@ void TestCheckFile::everyLineOfALargeExportIsChecked()
     QCOMPARE(found, expected);
 }
 
-void TestCheckFile::theRejectsHoldTheLinesAsTheyStand()
+void TestCheckFile::theRejectsHoldTheLinesUnchanged()
 {
     const QString path = m_dir->filePath("rejects.txt");
     const QByteArray broken("1|Ji\xF8\xED|\"x\\\r");
@@ -599,8 +598,8 @@ void TestCheckFile::theExportIsNotWrittenOver()
         const ToolRun run = runTool({"check-file", m_export->path(), option, path});
         COMPARE_EXIT(run, ExitStatus::Usage);
         QCOMPARE(run.err,
-                 QString("mirovahrctl: check-file: The result would be written over the "
-                         "export; name another file.\n"));
+                 QString("mirovahrctl: check-file: The result would overwrite the export; name "
+                         "another file.\n"));
     }
     QFile file(m_export->path());
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -609,7 +608,7 @@ void TestCheckFile::theExportIsNotWrittenOver()
 
 void TestCheckFile::anUnreadableFileIsBadUsage()
 {
-    // Opens like a file, but gives no byte.
+    // It can be opened like a file, but reading fails.
     const ToolRun run = runTool({"check-file", "/proc/self/mem"});
     COMPARE_EXIT(run, ExitStatus::Usage);
     QVERIFY2(run.err.contains("'/proc/self/mem' cannot be read to its end: "),

@@ -8,8 +8,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// What check-file says of an export with the help of a database, and what it says about SQL texts
-/// compared with what a database does to them.
+/// check-file with a database, and its findings about texts in SQL compared with what a database
+/// does to them.
 class TestCheckFileDatabase : public QObject {
     Q_OBJECT
 
@@ -184,7 +184,7 @@ void TestCheckFileDatabase::aTextArrivesAsItIsUnlessItIsFlagged()
         const QString written =
             m_db.value(QString("SELECT surname FROM people WHERE pid = %1").arg(record.getPid()))
                 .toString();
-        // Before these two a backslash stays what it is, if nothing else is wrong.
+        // Before these two a backslash is kept literally, if nothing else is wrong.
         const bool spared = text.contains("\\%") || text.contains("\\_");
         if (!SqlHazards::breaksStatement(text))
             QCOMPARE(written, text);

@@ -161,7 +161,7 @@ bool hasContent(const QByteArray &line)
 
 } // namespace
 
-/// check-file against the plugin itself, on files that no person would think of.
+/// check-file compared with the plugin itself, on random files.
 class TestCheckFileRandom : public QObject {
     Q_OBJECT
 
@@ -176,7 +176,7 @@ private:
     ExportFile m_export;
 };
 
-/// How many records the worker makes of a file, taken from its log. There is no database behind it.
+/// How many records the worker reads from a file, according to its log. It has no database.
 int TestCheckFileRandom::readByPlugin(const QByteArray &content)
 {
     m_export.writeBytes(content);
@@ -192,7 +192,7 @@ int TestCheckFileRandom::readByPlugin(const QByteArray &content)
     return counts.isEmpty() ? 0 : counts.constFirst().mid(count.size()).toInt();
 }
 
-/// Each line on its own, so that there is no doubt about which one is read.
+/// Each line in a file of its own, so that it is clear which line the worker reads.
 QSet<int> TestCheckFileRandom::droppedByPlugin(const QVector<QByteArray> &lines)
 {
     QSet<int> numbers;
@@ -233,7 +233,7 @@ void TestCheckFileRandom::theLinesFlaggedAsDroppedAreThoseThatThePluginDrops()
         droppedLines += dropped.size();
         readLines += read;
     }
-    // Both kinds came often, or the comparison says little.
+    // Both kinds must be frequent for the comparison to mean something.
     QVERIFY(droppedLines > kFiles);
     QVERIFY(readLines > kFiles);
 }

@@ -17,7 +17,7 @@ class ExplainedSite {
 public:
     explicit ExplainedSite(TestDatabase &database);
 
-    /// Gives the account its password. After the start of the database.
+    /// Sets the account's password. To be called after the database has started.
     void unlockAccount();
 
     ExportFile &exportFile() { return m_export; }

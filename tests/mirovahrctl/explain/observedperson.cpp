@@ -22,7 +22,7 @@ int numberBehind(const QStringList &part, const QString &text)
     return lines.isEmpty() ? -1 : number.match(lines.first().section(text, 1)).captured().toInt();
 }
 
-/// What the plugin has done for a record that it does not leave alone.
+/// What the plugin has done for a record that it handles.
 bool isHandled(const QStringList &part)
 {
     for (const char *text : {"MHRWorker::dbAddPerson(", "MHRWorker::dbUpdatePerson(",

@@ -9,21 +9,22 @@
 #include <QStringList>
 #include <QVector>
 
-/// What one synchronisation does to one person (pid), in the words of explain's facts: found out
-/// from the plugin's log at debug level 3, its statements, and the database before and after.
+/// What one synchronisation does to one person (pid), in the words of explain's facts. It is
+/// derived from the plugin's log at debug level 3, its statements, and the database before and
+/// after.
 class ObservedPerson {
 public:
-    /// Looks at the database before the synchronisation.
+    /// Reads the database before the synchronisation.
     ObservedPerson(TestDatabase &database, quint32 pid);
 
-    /// The parts of a log that belong to the records, in their order. What stands before the first
-    /// record is in the first element.
+    /// The parts of a log that belong to the records, in order. The first element is what precedes
+    /// the first record.
     static QVector<QStringList> parts(const QStringList &log);
 
-    /// Takes up the next record of the person. \a isRepetition: its line is the same as the one
-    /// before, and nothing is forced.
+    /// Adds the next record of the person. \a isRepetition: its line is the same as the one before,
+    /// and nothing is forced.
     void see(const QStringList &part, bool isRepetition);
-    /// Looks at the database after the synchronisation, which has sent these statements.
+    /// Reads the database after the synchronisation, which has sent these statements.
     void finish(const QStringList &statements);
 
     /// The facts of each record: all but those of the recalculation, and whether it waits.
@@ -33,7 +34,7 @@ public:
     QJsonObject facts() const;
 
 private:
-    /// What the database says of the person.
+    /// What the database holds of the person.
     struct State {
         bool exists = false;
         bool isKnown = false; ///< to the plugin

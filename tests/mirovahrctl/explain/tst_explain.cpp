@@ -22,7 +22,7 @@ QString previousMonth()
 
 } // namespace
 
-/// explain: what it says of one person, sentence by sentence.
+/// The explanation of one person, sentence by sentence.
 class TestExplain : public QObject {
     Q_OBJECT
 
@@ -33,8 +33,8 @@ private Q_SLOTS:
     void initTestCase();
     void init();
 
-    void whomSomebodyAsksFor_data();
-    void whomSomebodyAsksFor();
+    void payrollIdsAndPidsAreParsed_data();
+    void payrollIdsAndPidsAreParsed();
     void somebodyElseWithTheSamePidIsThePersonToThePlugin();
 
     void aPersonWhoArrivesIsFine();
@@ -44,8 +44,8 @@ private Q_SLOTS:
 
     void sentences_data();
     void sentences();
-    void testModeIsToldWhereItHolds_data();
-    void testModeIsToldWhereItHolds();
+    void testModeIsReportedWhereItApplies_data();
+    void testModeIsReportedWhereItApplies();
     void findings_data();
     void findings();
     void aTextThatBreaksTheStatementMayBeInAnyField_data();
@@ -53,19 +53,19 @@ private Q_SLOTS:
     void verdicts_data();
     void verdicts();
 
-    void aLineThatIsDroppedIsToldWithItsRule_data();
-    void aLineThatIsDroppedIsToldWithItsRule();
+    void aDroppedLineIsReportedWithItsRule_data();
+    void aDroppedLineIsReportedWithItsRule();
     void linesThatNameNobodyAreCounted();
     void otherRelationshipsAreNamed();
-    void severalLinesAreToldOneByOne();
-    void onlyTheFirstLinesOfOnePersonAreLookedAt();
+    void severalLinesAreExplainedOneByOne();
+    void onlyTheFirstLinesOfOnePersonAreExplained();
     void aLeaverWhoIsNotInTheExportAnyMoreIsFine_data();
     void aLeaverWhoIsNotInTheExportAnyMoreIsFine();
     void aForcedSynchronisationHandlesEqualLinesAgain();
-    void textsLongerThanTheirColumnsAreTold();
+    void textsLongerThanTheirColumnsAreReported();
 
-    void withoutAnExportTheDatabaseIsTold_data();
-    void withoutAnExportTheDatabaseIsTold();
+    void withoutAnExportTheDatabaseIsReported_data();
+    void withoutAnExportTheDatabaseIsReported();
     void theExportMayBeNamed();
     void whatTheDatabaseHolds();
     void theFieldsAreComparedOneByOne();
@@ -118,7 +118,7 @@ void TestExplain::run(const QStringList &changes)
         m_db.run(change);
 }
 
-void TestExplain::whomSomebodyAsksFor_data()
+void TestExplain::payrollIdsAndPidsAreParsed_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("name"); // empty: nobody
@@ -153,7 +153,7 @@ void TestExplain::whomSomebodyAsksFor_data()
                               << "" << 0u;
 }
 
-void TestExplain::whomSomebodyAsksFor()
+void TestExplain::payrollIdsAndPidsAreParsed()
 {
     QFETCH(QString, text);
     QFETCH(QString, name);
@@ -217,7 +217,7 @@ void TestExplain::theTextForPeopleIsPlain()
                 + m_site.connection());
     COMPARE_EXIT(run, ExitStatus::Findings);
     const QString file = m_site.exportFile().path();
-    QVERIFY2(run.out.startsWith("What became of 3301.1\n=====================\n\n"
+    QVERIFY2(run.out.startsWith("What happens to 3301.1\n======================\n\n"
                                 "Configuration\n-------------\n"
                                 "The configuration is that of "
                                 + m_site.configurationPath()
@@ -245,8 +245,7 @@ void TestExplain::theTextForPeopleIsPlain()
                               "Branch: unknown\nCalendar group: none\nRecalculation from: none\n"
                               "Recalculation because of: none\nDays of attendance to mark: 0\n"
                               "Last calculation is set: kept\nWaits afterwards: yes\n\n"
-                              "A synchronisation creates 3301.1. Not everything is as it should "
-                              "be.\n"),
+                              "A synchronisation creates 3301.1. There are findings.\n"),
              run.report().constData());
 }
 
@@ -315,13 +314,13 @@ void TestExplain::sentences_data()
     add("left by the state", jana().with(&R::stavPracovnihoPomeru, 4), "state",
         {"No: the employment state 4 means that it has ended, as every state from 4 on."});
 
-    const QString notARs = "The register state 0 is not one of the relationship states of the "
-                           "configuration: a running one ends.";
+    const QString notARs = "The register state 0 is not among the relationship states of the "
+                           "configuration: a current one ends.";
     const QString terminal = "The change is queued for terminal 1.";
     add("nothing differs", jana(), "row",
         {notARs, "No field differs from the row.",
-         "The row is written all the same: the plugin does not know yet with which codes of "
-         "employment type and register state it was written last.",
+         "The row is written all the same: the plugin does not know yet which codes of employment "
+         "type and register state it was last written with.",
          terminal});
     add("two fields differ", jana().with(&R::prijmeni, "Malá").with(&R::telefon, "7"), "row",
         {notARs, "These fields differ from the row: Surname, Phone.", "The row is updated.",
@@ -331,7 +330,7 @@ void TestExplain::sentences_data()
          terminal});
     add("left", jana().with(&R::datumVystupu, QDate(2025, 1, 31)), "row",
         {notARs, "These fields differ from the row: Last day.", "The row is updated.",
-         "It stays active: the plugin never ends people, it only writes their last day.",
+         "It stays active: the plugin never deactivates people, it only writes their last day.",
          terminal});
     add("a relationship state", jana().with(&R::evidencniStav, 21), "row",
         {"The register state 21 is a relationship state of the configuration: \"materská\".",
@@ -351,18 +350,19 @@ void TestExplain::sentences_data()
          terminal});
     add("no terminal", tomas(), "row",
         {notARs, "No field differs from the row.",
-         "The row is written all the same: the plugin does not know yet with which codes of "
-         "employment type and register state it was written last.",
-         "No active terminal that handles people holds this person: none is told."});
+         "The row is written all the same: the plugin does not know yet which codes of employment "
+         "type and register state it was last written with.",
+         "No active terminal that handles people holds this person, so nothing is queued."});
     add("two terminals", jana(), "row",
         {notARs, "No field differs from the row.",
-         "The row is written all the same: the plugin does not know yet with which codes of "
-         "employment type and register state it was written last.",
+         "The row is written all the same: the plugin does not know yet which codes of employment "
+         "type and register state it was last written with.",
          "The change is queued for the terminals 1 and 7."},
         {"INSERT INTO people_term (tid, uid) VALUES (7, 4), (2, 4), (5, 4)"});
     add("a text that breaks the statement", jana().with(&R::prijmeni, "O'Hara"), "row",
         {notARs, "These fields differ from the row: Surname.", "The row is updated.", terminal,
-         "But a text of the line, named above, makes the statement fail or write something else."});
+         "But a text of the line, reported above, breaks the statement: it fails or writes "
+         "something else."});
 
     const auto ifItFails = [](const QString &person) {
         return "If this fails, the log says why behind \"MHRWorker::dbAddPerson(" + person
@@ -371,23 +371,24 @@ void TestExplain::sentences_data()
     };
     const QString selection = "The person joins the selection of the payroll export 1.";
     const QString later =
-        "The vacation balance of a new person follows at a later synchronisation.";
+        "The vacation balance of a new person is corrected by a later synchronisation.";
     add("new", newcomer(3311), "row",
         {"The person is created.", ifItFails("3311.1"), selection,
-         "The employment type 11 gives the settings 1 of the payroll export.", later});
+         "The employment type 11 means the settings 1 of the payroll export.", later});
     add("new without settings", newcomer(3312).with(&R::typPracovnihoPomeru, 99), "row",
         {"The person is created.", ifItFails("3312.1"), selection,
          "The employment type 99 has no settings of the payroll export.", later});
     add("new with a text that breaks the statement", newcomer(3315).with(&R::jmeno, "E'va"), "row",
         {"The person is created.", ifItFails("3315.1"), selection,
-         "The employment type 11 gives the settings 1 of the payroll export.", later,
-         "But a text of the line, named above, makes the statement fail or write something else.",
-         "The steps that follow find nobody to write to, and warn."});
+         "The employment type 11 means the settings 1 of the payroll export.", later,
+         "But a text of the line, reported above, breaks the statement: it fails or writes "
+         "something else.",
+         "The following steps find no row to write to, and warn."});
     add("comes back", newcomer(1237), "row",
         {"The line is merged into the row with the uid 7, which becomes active. Relationship "
-         "state, calendar and branch of the row stay as they are, the department becomes 1.",
+         "state, calendar and branch of the row stay unchanged, the department becomes 1.",
          ifItFails("1237.1"), selection,
-         "The employment type 11 gives the settings 1 of the payroll export.", later});
+         "The employment type 11 means the settings 1 of the payroll export.", later});
 
     add("the balance is right", jana(), "balance",
         {"No: the fund holds 17.50 days, as the export says."});
@@ -396,12 +397,12 @@ void TestExplain::sentences_data()
     add("no fund", jana(), "balance", {"No: there is no vacation fund."},
         {"DELETE FROM funds WHERE iid = 3"});
     add("corrected today", jana(), "balance",
-        {"Not today: today's correction is there already. The plugin looks again tomorrow."},
+        {"Not today: today's correction exists already. The plugin tries again tomorrow."},
         {"INSERT INTO funds_move (type, day, month, value, fid, uid) VALUES"
          " (3, midnightFromTs(UNIX_TIMESTAMP()), 202503, 5, 2, 4)"});
     const QString notNow =
-        "Not now: the person's attendance is just being calculated, or has days that are still to "
-        "be calculated. The plugin looks again at the next synchronisation that brings the person.";
+        "Not now: the person's attendance is being calculated, or has days that are not calculated "
+        "yet. The plugin tries again at the next synchronisation that contains the person.";
     add("days to calculate", jana(), "balance", {notNow},
         {"UPDATE atten SET ok = -1 WHERE uid = 4 AND man = 1"});
     add("being calculated", jana(), "balance", {notNow},
@@ -413,7 +414,7 @@ void TestExplain::sentences_data()
         {"The employment type 51 is not one for which the plugin sets a supervisor: nothing "
          "changes."});
     add("the supervisor of now", jana().with(&R::nadrizenyOsobniCislo, 1001), "supervisor",
-        {"Administrator 1, who has the personal number 1001, as now."});
+        {"Administrator 1, who has the personal number 1001, as before."});
     add("another supervisor", jana().with(&R::nadrizenyOsobniCislo, 1002), "supervisor",
         {"Administrator 2, who has the personal number 1002, and nobody else."});
     add("the supervisor of now and another one", jana().with(&R::nadrizenyOsobniCislo, 1001),
@@ -423,46 +424,46 @@ void TestExplain::sentences_data()
     add("no cost centre", tomas(), "place",
         {"The line names no cost centre: neither branch nor calendar is set."});
     add("as now", jana(), "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.",
-         "The calendar 3 is group 13 there.", "It is planned from month 202301 on already."});
+        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.",
+         "The calendar 3 is group 13 there.", "It is already planned from month 202301 on."});
     add("another branch",
         jana().with(&R::stredisko, 130).with(&R::kalendarPlatnostOd, QDate(2025, 2, 10)), "place",
         {"The cost centre 130 is branch 2, Predajňa.",
          "The person joins it at the end of the synchronisation, and stays in every other branch.",
-         "With it come the terminals 4 and 5.", "It has the administrator 2.",
+         "This adds the terminals 4 and 5.", "It has the administrator 2.",
          "The calendar 3 is group 23 there.", "It is planned from month 202502 on.",
          "Attendance is calculated again from 2025-02-10 on."});
     add("a calendar from tomorrow on",
         jana().with(&R::kalendar, 1).with(&R::kalendarPlatnostOd, QDate::currentDate().addDays(1)),
         "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.",
+        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.",
          "The calendar 1 is group 11 there.",
          "It is planned from month " + QDate::currentDate().addDays(1).toString("yyyyMM")
              + " on."});
     add("a calendar without a first day", jana().with(&R::kalendarPlatnostOd, ""), "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.",
+        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.",
          "The calendar 3 is group 13 there.", "It is planned from month 0 on.",
          "All attendance is calculated again, because the start of the calendar is no date."});
     add("a branch without terminals and administrators", newcomer(3313).with(&R::kalendar, 0),
         "place",
         {"The cost centre 120 is branch 1, Sklad.",
          "The person joins it at the end of the synchronisation, and stays in every other branch.",
-         "No terminal comes with it.", "It has no administrators.", "The line names no calendar."},
+         "This adds no terminals.", "It has no administrators.", "The line names no calendar."},
         {"DELETE FROM term", "DELETE FROM bradm"});
     add("a member without a calendar", jana().with(&R::kalendar, 0), "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.",
+        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.",
          "The line names no calendar.",
-         "There is nothing to be done; the plugin counts the record among the waiting ones all "
-         "the same."});
-    const QString waits = "The record waits: it is tried again as long as this very line arrives.";
+         "Nothing needs to be done, but the plugin counts the record as waiting all the same."});
+    const QString waits =
+        "The record waits: the plugin tries it again as long as exactly this line arrives.";
     add("an unknown branch", jana().with(&R::stredisko, 999), "place", {waits});
     add("an unknown calendar", jana().with(&R::kalendar, 77), "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is a member already.", waits});
+        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.", waits});
 
     add("a recalculation for the place", jana(), "recalculation",
         {"Yes, from " + previousMonth()
-         + " on, because calendar, its start or the cost centre are not those that the plugin "
-           "knows (of the start it knows nothing at first)."});
+         + " on, because calendar, its start or the cost centre differ from what the plugin "
+           "remembers (it does not know the start at first)."});
     add("a recalculation for the balance", tomas().with(&R::dovolenaZustatek, "1"), "recalculation",
         {"Yes, from " + previousMonth() + " on, because the balance is corrected."});
     add("no recalculation", tomas(), "recalculation", {"No."});
@@ -473,8 +474,8 @@ void TestExplain::sentences_data()
     add("a recalculation of everything", tomas().with(&R::stredisko, 120).with(&R::kalendar, 1),
         "recalculation",
         {"Yes, all of it, because the calendar group is planned from a day on that is over; "
-         "calendar, its start or the cost centre are not those that the plugin knows (of the "
-         "start it knows nothing at first)."});
+         "calendar, its start or the cost centre differ from what the plugin remembers (it does "
+         "not know the start at first)."});
 
     add("who is active", jana(), "database",
         {"The database has the person as uid 4: 1234.1 Jana Nováková, active.",
@@ -492,18 +493,18 @@ void TestExplain::sentences_data()
     add("who is not active", newcomer(1237), "database",
         {"The database has the person as uid 7: 1237.1 Štefan Žiak, not active.",
          "The row was created on 2017-04-24.",
-         "The plugin sees active people only: to it, nobody is there."});
+         "The plugin sees active people only, so it does not see this row."});
     add("who is not there", newcomer(3314), "database",
         {"The database has nobody with the pid 33141."});
     add("what only the plugin knows", jana(), "memory",
-        {"This is what a plugin does that sees the export for the first time since it was "
-         "started. Later it leaves alone whose line is the same as at the synchronisation before, "
-         "unless the synchronisation is forced, the record waits for its branch, or the balance "
-         "could not be corrected.",
-         "Which lines it has seen stands nowhere but in its memory. If it has seen this very line "
-         "and something failed, nothing happens until the line changes; mirovahrctl force makes "
-         "it take every line anew.",
-         "Whether a statement fails, for lack of rights or otherwise, is not tried out here: see "
+        {"This is what a plugin does with its first export after it was started. Later it skips "
+         "people whose line has not changed since the previous synchronisation, unless the "
+         "synchronisation is forced, the record waits for its branch, or the balance could not be "
+         "corrected.",
+         "Only its memory knows which lines it has seen. If it has seen this very line and a step "
+         "failed, nothing happens until the line changes; mirovahrctl force makes it handle every "
+         "line again.",
+         "Statements that fail, for lack of rights or otherwise, are not predicted here: see "
          "preview and check-db."});
 }
 
@@ -519,23 +520,23 @@ void TestExplain::sentences()
     QCOMPARE(ExplainedSite::sentences(run, section).join('\n'), sentences.join('\n'));
 }
 
-void TestExplain::testModeIsToldWhereItHolds_data()
+void TestExplain::testModeIsReportedWhereItApplies_data()
 {
     QTest::addColumn<ExportRow>("line");
     QTest::addColumn<QString>("last");
-    QTest::newRow("known") << SampleExport::jana()
-                           << "In test mode nothing is written here. From debug level 1 on the log "
-                              "says: MHRWorker::dbUpdatePerson(1234.1) - Testing mode is active, "
-                              "person not really update!";
-    QTest::newRow("not active") << SampleExport::newcomer(1237)
-                                << "In test mode nothing is written here. From debug level 1 on "
-                                   "the log says: MHRWorker::dbAddPerson(1237.1) - Testing mode is "
-                                   "active, person not really add!";
+    QTest::newRow("known")
+        << SampleExport::jana()
+        << "In test mode nothing is written here. At debug level 1 and above the log says: "
+           "MHRWorker::dbUpdatePerson(1234.1) - Testing mode is active, person not really update!";
+    QTest::newRow("not active")
+        << SampleExport::newcomer(1237)
+        << "In test mode nothing is written here. At debug level 1 and above the log says: "
+           "MHRWorker::dbAddPerson(1237.1) - Testing mode is active, person not really add!";
     QTest::newRow("new") << SampleExport::newcomer(3316)
-                         << "The steps that follow find nobody to write to, and warn.";
+                         << "The following steps find no row to write to, and warn.";
 }
 
-void TestExplain::testModeIsToldWhereItHolds()
+void TestExplain::testModeIsReportedWhereItApplies()
 {
     QFETCH(ExportRow, line);
     QFETCH(QString, last);
@@ -561,15 +562,14 @@ void TestExplain::findings_data()
             << line << changes << configuration << QString(severity) << QString(rule) << message;
     };
     add("disabled", jana(),
-        "The plugin is disabled: nobody arrives. What follows holds for when it is enabled.", {},
-        "enabled=0\n");
+        "The plugin is disabled: nobody is synchronised. What follows applies once it is enabled.",
+        {}, "enabled=0\n");
     add("test-mode", jana(),
-        "Test mode is on: the rows of people are not written, only what hangs on them.", {},
+        "Test mode is on: rows of people are not written, only what depends on them.", {},
         "testMode=1\n");
     add("left-already", newcomer(3401).with(&R::stavPracovnihoPomeru, 4),
-        "The person has left and has no row. The plugin never creates a row for somebody who has "
-        "left.",
-        {}, {}, "note");
+        "The person has left and has no row. The plugin never creates rows for leavers.", {}, {},
+        "note");
     add("branch-id-large", newcomer(3404).with(&R::stredisko, 150),
         "The id of the branch is above 65535: the person joins branch 1 instead.",
         {"ALTER TABLE branches MODIFY bid INT UNSIGNED NOT NULL",
@@ -580,18 +580,18 @@ void TestExplain::findings_data()
          "INSERT INTO branches (bid, number, name, mgid) VALUES (65536, 150, 'x', 1)"},
         {}, "warning", "a branch without a number of 16 bits");
     add("calculation-forward", jana().with(&R::evidencniStav, 21),
-        "The last calculation moves from 2025-03-31 forward to ", {}, "[MES]\n21=x\n", "note");
+        "The last calculation moves forward from 2025-03-31 to ", {}, "[MES]\n21=x\n", "note");
     add("no-payroll-export", newcomer(3402),
-        "The person joins no payroll export, since there is not exactly one, but 2. The log says: "
+        "The person joins no payroll export, because there are 2 instead of one. The log says: "
         "MHRWorker::dbAddPerson(3402.1) - addPersonIntoPam() FAILED!",
         {"INSERT INTO vars (name, value) VALUES ('exportPam.2.active', '0')"});
     add("payroll-settings-kept", newcomer(1237),
-        "The person has these settings already, which the plugin takes for a failure. The log "
+        "The person has these settings already, which the plugin treats as a failure. The log "
         "says: MHRWorker::doSyncRecord(1237.1 Malá Eva (S: 120, ",
         {"INSERT INTO people_pam (uid, id) VALUES (7, 1)"}, {}, "note");
     add("balance-not-written", jana().with(&R::dovolenaZustatek, "21474836"),
-        "The fund holds -17.50 days, and no correction leads from there to 21474836.00 days. The "
-        "balance stays, and the log says: MHRWorker::doSyncRecord() - funds_move type (type=3, "
+        "The fund holds -17.50 days, and no valid correction leads from there to 21474836.00 days. "
+        "The balance stays, and the log says: MHRWorker::doSyncRecord() - funds_move type (type=3, "
         "valeu=2147483647) not writed for uid 4 (pid: 12341)",
         {"UPDATE funds_move SET value = -value WHERE uid = 4"});
     add("supervisor-unknown", jana().with(&R::nadrizenyOsobniCislo, 4711),
@@ -605,12 +605,12 @@ void TestExplain::findings_data()
         "Group ID NOT found for Branch 120 and calendar 77 [employee: '1234.1 Nováková Jana (S: "
         "120, ");
     add("payroll-id-strange", jana(),
-        "The payroll id of the row makes another pid: the plugin does not recognise the person in "
-        "it.",
+        "The payroll id of the row belongs to another pid: the plugin does not recognise the "
+        "person in it.",
         {"UPDATE people SET pamId = '77.7' WHERE uid = 4"});
     add("payroll-id-strange", newcomer(3403),
-        "An active row with another pid has the payroll id 3403.1. The plugin takes it for this "
-        "person, but writes by pid: it changes nobody, or somebody else.",
+        "An active row with another pid has the payroll id 3403.1. The plugin recognises it as "
+        "this person, but writes by pid: it changes nobody, or somebody else.",
         {"UPDATE people SET pamId = '3403.1' WHERE uid = 4"}, {}, "warning",
         "another row with the payroll id");
     add("quote-in-text", jana().with(&R::prijmeni, "O'Hara"), "The text \"O'Hara\" has an", {}, {},
@@ -677,15 +677,14 @@ void TestExplain::verdicts_data()
         "A synchronisation brings the row of 1237.1 up to date and makes it active.");
     add(jana(), "updated", "A synchronisation writes the row of 1234.1.");
     add(newcomer(3502).with(&R::stavPracovnihoPomeru, 4), "never-created",
-        "3502.1 has left and is not in the database: the plugin never creates the row.");
+        "3502.1 has left and is not in the database: the plugin never creates a row for leavers.");
     add(newcomer(1237).with(&R::stavPracovnihoPomeru, 4), "unchanged",
         "A synchronisation leaves the row of 1237.1 alone.");
     add(newcomer(3503).with(&R::jmeno, "\\"), "uncertain",
-        "A text in the line of 3503.1 keeps the row from being written as it should. Not "
-        "everything is as it should be.");
+        "A text in the line of 3503.1 prevents the row from being written correctly. There are "
+        "findings.");
     add(newcomer(3504), "test-mode",
-        "Test mode is on: the plugin does not write the row of 3504.1. Not everything is as it "
-        "should be.",
+        "Test mode is on: the plugin does not write the row of 3504.1. There are findings.",
         "testMode=1\n");
 }
 
@@ -701,7 +700,7 @@ void TestExplain::verdicts()
     QCOMPARE(ExplainedSite::verdict(run), verdict);
 }
 
-void TestExplain::aLineThatIsDroppedIsToldWithItsRule_data()
+void TestExplain::aDroppedLineIsReportedWithItsRule_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("rule");
@@ -714,7 +713,7 @@ void TestExplain::aLineThatIsDroppedIsToldWithItsRule_data()
                              << "field-count";
 }
 
-void TestExplain::aLineThatIsDroppedIsToldWithItsRule()
+void TestExplain::aDroppedLineIsReportedWithItsRule()
 {
     QFETCH(QString, text);
     QFETCH(QString, rule);
@@ -743,11 +742,11 @@ void TestExplain::linesThatNameNobodyAreCounted()
         ExplainedSite::messages(run),
         QStringList("None of the 5 lines of " + m_site.exportFile().path() + " is about 1234.1."));
     QCOMPARE(ExplainedSite::sentences(run, "export"),
-             QStringList("3 lines cannot be read so far as to say whom they are about, and the "
-                         "plugin drops them: see check-file."));
+             QStringList("3 lines are too broken to tell whom they are about, and the plugin drops "
+                         "them: see check-file."));
     QCOMPARE(ExplainedSite::sentences(run, "database").last(),
-             QString("The plugin leaves people alone whom the export does not name: it never ends "
-                     "or removes them."));
+             QString("The plugin leaves people alone who are missing from the export: it never "
+                     "ends or removes them."));
     QCOMPARE(ExplainedSite::verdict(run),
              QString("1234.1 is in the database, but not in the export."));
 }
@@ -761,15 +760,14 @@ void TestExplain::otherRelationshipsAreNamed()
     const ToolRun run = m_site.explain("1234.3");
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(ExplainedSite::sentences(run, "export"),
-             QStringList("Personal number 1234 also stands there as 1234.1 (line 1), 1234.2 (line "
-                         "3)."));
+             QStringList("Personal number 1234 also appears as 1234.1 (line 1), 1234.2 (line 3)."));
     QCOMPARE(run.findingsOf("not-in-database").size(), 1);
     QCOMPARE(ExplainedSite::verdict(run),
              QString("1234.3 is neither in the export nor in the database."));
     QCOMPARE(ExplainedSite::sentences(m_site.explain("1235.1"), "export"), QStringList());
 }
 
-void TestExplain::severalLinesAreToldOneByOne()
+void TestExplain::severalLinesAreExplainedOneByOne()
 {
     const ExportRow jana = SampleExport::jana();
     ExportRow other = jana;
@@ -791,21 +789,21 @@ void TestExplain::severalLinesAreToldOneByOne()
                           "place-line1", "recalculation-line1", "repetition-line3", "state-line5",
                           "row-line5", "balance-line5", "supervisor-line5", "place-line5",
                           "recalculation-line5", "memory", "summary"}));
-    QCOMPARE(ExplainedSite::sentences(run, "repetition-line3"),
-             QStringList("The line is the same as the one before, so the plugin leaves the person "
-                         "alone."));
+    QCOMPARE(
+        ExplainedSite::sentences(run, "repetition-line3"),
+        QStringList("The line equals the previous one, so the plugin leaves the person alone."));
     QCOMPARE(ExplainedSite::sentences(run, "row-line5").at(2),
              QString("These fields differ from the row: Personal number, Relationship number."));
 }
 
-void TestExplain::onlyTheFirstLinesOfOnePersonAreLookedAt()
+void TestExplain::onlyTheFirstLinesOfOnePersonAreExplained()
 {
     m_site.exportFile().write(QVector<ExportRow>(102, SampleExport::jana()));
     const ToolRun run = m_site.explain("1234.1");
     QCOMPARE(ExplainedSite::sentences(run, "export").size(), 100);
     QCOMPARE(run.findingsOf("lines-not-explained").first().value("message").toString(),
-             QString("2 lines more about the same person are not looked at here: the facts are "
-                     "those of the first 100 lines."));
+             QString("2 lines more about the same person are not explained: the facts are those of "
+                     "the first 100 lines."));
 }
 
 void TestExplain::aLeaverWhoIsNotInTheExportAnyMoreIsFine_data()
@@ -849,7 +847,7 @@ void TestExplain::aForcedSynchronisationHandlesEqualLinesAgain()
                      "changed or not."));
 }
 
-void TestExplain::textsLongerThanTheirColumnsAreTold()
+void TestExplain::textsLongerThanTheirColumnsAreReported()
 {
     m_db.run("ALTER TABLE people MODIFY surname VARCHAR(9) NOT NULL DEFAULT ''");
     const ToolRun fits = explain(SampleExport::jana());
@@ -859,7 +857,7 @@ void TestExplain::textsLongerThanTheirColumnsAreTold()
     QCOMPARE(ExplainedSite::facts(run).value("person").toString(), QString("uncertain"));
 }
 
-void TestExplain::withoutAnExportTheDatabaseIsTold_data()
+void TestExplain::withoutAnExportTheDatabaseIsReported_data()
 {
     QTest::addColumn<QByteArray>("configuration");
     QTest::addColumn<QString>("person");
@@ -878,7 +876,7 @@ void TestExplain::withoutAnExportTheDatabaseIsTold_data()
                              << "There is no export; 77.1 is not in the database.";
 }
 
-void TestExplain::withoutAnExportTheDatabaseIsTold()
+void TestExplain::withoutAnExportTheDatabaseIsReported()
 {
     QFETCH(QByteArray, configuration);
     QFETCH(QString, person);
@@ -890,7 +888,7 @@ void TestExplain::withoutAnExportTheDatabaseIsTold()
     COMPARE_EXIT(run, rules.isEmpty() ? ExitStatus::Fine : ExitStatus::Findings);
     QCOMPARE(ExplainedSite::sentences(run, "export"),
              QStringList({"There is no export " + m_site.exportFile().path() + why + ".",
-                          "What follows is from the database only."}));
+                          "What follows uses the database only."}));
     QCOMPARE(run.rules(), rules);
     QCOMPARE(ExplainedSite::verdict(run), verdict);
     const TableRows fields = ExplainedSite::table(run, "database", "fields", {"field", "database"});
@@ -921,7 +919,7 @@ void TestExplain::whatTheDatabaseHolds()
         ExplainedSite::table(run, "database", "held", {"what", "value"}),
         TableRows({{"Member of branches", "1 Sklad, 2 Predajňa"},
                    {"Calendar groups and their first months", "11 from 201904, 13 from 202301"},
-                   {"Administrators who get the requests", "1 (personal number 1001)"},
+                   {"Administrators who receive the requests", "1 (personal number 1001)"},
                    {"Terminals", "1, 3"},
                    {"Settings of the payroll export", "1"}}));
     const ToolRun nothing = explain(SampleExport::newcomer(1237));
@@ -995,7 +993,7 @@ void TestExplain::withoutAConfigurationThePluginHasItsDefaults()
     QCOMPARE(ExplainedSite::sentences(run, "export"),
              QStringList({"There is no export /tmp/ron.data: the plugin removes it after it has "
                           "read it.",
-                          "What follows is from the database only."}));
+                          "What follows uses the database only."}));
 }
 
 void TestExplain::nothingIsWritten_data()
@@ -1049,8 +1047,7 @@ void TestExplain::whatMakesNoSenseIsWrongUsage_data()
     QTest::newRow("nobody") << QStringList{} << "PERSON is missing; --help explains.";
     QTest::newRow("no person")
         << QStringList{"4294967296"}
-        << "'4294967296' is neither a payroll id such as 1234.1, nor a number, nor a "
-           "name.";
+        << "'4294967296' is neither a payroll id such as 1234.1, nor a number, nor a name.";
     QTest::newRow("an empty name")
         << QStringList{" "}
         << "' ' is neither a payroll id such as 1234.1, nor a number, nor a name.";
@@ -1091,9 +1088,10 @@ void TestExplain::thePageIsNotWrittenOverTheExport()
 {
     const ToolRun run = explain(SampleExport::jana(), {"--html", m_site.exportFile().path()});
     COMPARE_EXIT(run, ExitStatus::Usage);
-    QCOMPARE(run.err,
-             QString("mirovahrctl: explain: The result would be written over the export; "
-                     "name another file.\n"));
+    QCOMPARE(
+        run.err,
+        QString(
+            "mirovahrctl: explain: The result would overwrite the export; name another file.\n"));
 }
 
 void TestExplain::aServerThatIsNotThereIsNoDatabase()
@@ -1111,10 +1109,10 @@ void TestExplain::aServerInAnotherTimeZoneIsRefused()
     const ToolRun run = explain(SampleExport::jana());
     m_db.run("SET GLOBAL time_zone = DEFAULT");
     COMPARE_EXIT(run, ExitStatus::Usage);
-    QCOMPARE(run.err,
-             QString("mirovahrctl: explain: The site's server (time zone -11:30) and this program "
-                     "disagree about when days begin. Run it with the TZ of the attendance "
-                     "server.\n"));
+    QCOMPARE(
+        run.err,
+        QString("mirovahrctl: explain: The site's server (time zone -11:30) and this program "
+                "disagree about when days begin. Run it with the TZ of the attendance server.\n"));
 }
 
 void TestExplain::aDatabaseWithoutATableBreaksTheContract_data()

@@ -5,7 +5,7 @@
 
 #include <QtTest>
 
-/// Which export explain looks at when the plugin has removed its own.
+/// Which export explain uses when the plugin has removed its own.
 class TestExplainExport : public QObject {
     Q_OBJECT
 
@@ -17,10 +17,10 @@ private Q_SLOTS:
     void theGateOfACommandIsFound();
     void theLastAdmittedFileIsUsedWhenThePluginHasRemovedItsOwn_data();
     void theLastAdmittedFileIsUsedWhenThePluginHasRemovedItsOwn();
-    void aGateThatIsOfNoUseIsSaid_data();
-    void aGateThatIsOfNoUseIsSaid();
+    void anUnusableGateIsReported_data();
+    void anUnusableGateIsReported();
     void theExportThatIsThereComesFirst();
-    void aRefusalOfTheGateIsSaid();
+    void aRefusalOfTheGateIsReported();
     void aGateThatHasAdmittedNothingIsNoExport();
     void namesAreSearchedInTheAdmittedFile();
 
@@ -103,7 +103,7 @@ void TestExplainExport::theLastAdmittedFileIsUsedWhenThePluginHasRemovedItsOwn_d
 {
     QTest::addColumn<bool>("isTold");
     QTest::addColumn<QString>("gate");
-    QTest::newRow("the folder is told") << true << "gate";
+    QTest::newRow("the folder is named") << true << "gate";
     QTest::newRow("the folder is that of syncCommand") << false << "gate of syncCommand";
 }
 
@@ -122,14 +122,14 @@ void TestExplainExport::theLastAdmittedFileIsUsedWhenThePluginHasRemovedItsOwn()
              "There is no export " + m_gate->target()
                  + ": the plugin removes it after it has read it.");
     QCOMPARE(sentences.at(1),
-             "What follows is from the file that the " + gate + " admitted last, on "
+             "What follows uses the file that the " + gate + " admitted last, on "
                  + QDate::currentDate().toString(Qt::ISODate) + ".");
     QCOMPARE(sentences.last(),
              "Line 1 of " + m_gate->inState("admitted.data")
                  + " is about 1234.1 Jana Malá, pid 12341.");
 }
 
-void TestExplainExport::aGateThatIsOfNoUseIsSaid_data()
+void TestExplainExport::anUnusableGateIsReported_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("sentence");
@@ -145,7 +145,7 @@ void TestExplainExport::aGateThatIsOfNoUseIsSaid_data()
         << "'/nowhere' cannot be opened as a folder: No such file or directory.";
 }
 
-void TestExplainExport::aGateThatIsOfNoUseIsSaid()
+void TestExplainExport::anUnusableGateIsReported()
 {
     QFETCH(QString, command);
     QFETCH(QString, sentence);
@@ -154,7 +154,7 @@ void TestExplainExport::aGateThatIsOfNoUseIsSaid()
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(ExplainedSite::facts(run).value("exportSource").toString(), QString("none"));
     QCOMPARE(ExplainedSite::sentences(run, "export").mid(1),
-             QStringList({sentence, "What follows is from the database only."}));
+             QStringList({sentence, "What follows uses the database only."}));
 }
 
 void TestExplainExport::theExportThatIsThereComesFirst()
@@ -170,7 +170,7 @@ void TestExplainExport::theExportThatIsThereComesFirst()
                   "Line 1 of " + m_gate->target() + " is about 1234.1 Jana Nováková, pid 12341."}));
 }
 
-void TestExplainExport::aRefusalOfTheGateIsSaid()
+void TestExplainExport::aRefusalOfTheGateIsReported()
 {
     configure(command());
     m_gate->deliver(QByteArray());
@@ -178,9 +178,8 @@ void TestExplainExport::aRefusalOfTheGateIsSaid()
     const ToolRun run = m_site.explain("1234.1");
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(run.rules(), QStringList("gate-refused"));
-    QVERIFY2(
-        ExplainedSite::messages(run).first().startsWith("The gate has refused a file since then: "),
-        run.report().constData());
+    QVERIFY2(ExplainedSite::messages(run).first().startsWith("The gate has refused a newer file: "),
+             run.report().constData());
     QCOMPARE(ExplainedSite::facts(run).value("person").toString(), QString("updated"));
 }
 

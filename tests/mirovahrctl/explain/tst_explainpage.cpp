@@ -58,11 +58,11 @@ void TestExplainPage::theBrowserUnderstandsThePage()
     QVERIFY2(dom.contains("<p class=\"verdict fine\">A synchronisation writes the row of "
                           "1234.1.</p>"),
              qPrintable(dom));
-    QVERIFY(dom.contains("<h1>What became of 1234.1</h1>"));
+    QVERIFY(dom.contains("<h1>What happens to 1234.1</h1>"));
     for (const char *heading :
          {"Configuration", "Export", "Database", "Does the person work?",
           "Is the person created or updated?", "Is the vacation balance corrected?",
-          "Who gets the person's requests?", "Which branch and calendar?",
+          "Who receives the person's requests?", "Which branch and calendar?",
           "Is attendance calculated again?", "What only the running plugin knows"})
         QCOMPARE(dom.count("<h2>" + QString(heading) + "</h2>"), 1);
     QCOMPARE(dom.count("<tr><td data-label=\"Field\">"), 14);
@@ -76,7 +76,7 @@ void TestExplainPage::whatTheExportAndTheDatabaseContainIsNoMarkup()
     QVERIFY(dom.contains("The cost centre 130 is branch 2, &lt;i&gt;Predajňa&lt;/i&gt;."));
     QVERIFY(!dom.contains("<script"));
     QVERIFY(!dom.contains("<i>"));
-    QVERIFY(dom.contains("<title>What became of 1234.1</title>"));
+    QVERIFY(dom.contains("<title>What happens to 1234.1</title>"));
 }
 
 void TestExplainPage::aFindingIsSeenAtOnce()

@@ -5,7 +5,7 @@
 
 #include <QtTest>
 
-/// Whom explain means when somebody asks by a name or a number.
+/// Whom explain finds by a name or a number.
 class TestExplainPeople : public QObject {
     Q_OBJECT
 
@@ -19,8 +19,8 @@ private Q_SLOTS:
     void onePersonIsExplained();
     void severalPeopleAreListed_data();
     void severalPeopleAreListed();
-    void nobodyIsSaid_data();
-    void nobodyIsSaid();
+    void findingNobodyIsReported_data();
+    void findingNobodyIsReported();
     void aLineWithoutNumbersIsListed();
     void linesThatMayHideThePersonAreCounted_data();
     void linesThatMayHideThePersonAreCounted();
@@ -92,25 +92,25 @@ void TestExplainPeople::onePersonIsExplained_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("title");
     QTest::newRow("a name of the export") << "Malá"
-                                          << "What became of 3801.1";
+                                          << "What happens to 3801.1";
     QTest::newRow("another spelling") << "MALA"
-                                      << "What became of 3801.1";
+                                      << "What happens to 3801.1";
     QTest::newRow("two words in any order") << "malá  Eva"
-                                            << "What became of 3801.1";
+                                            << "What happens to 3801.1";
     QTest::newRow("a part of a double name") << "odegard"
-                                             << "What became of 3802.1";
+                                             << "What happens to 3802.1";
     QTest::newRow("a name of the database") << "žiak"
-                                            << "What became of 1237.1";
+                                            << "What happens to 1237.1";
     QTest::newRow("with a title") << "ing. Kováčová"
-                                  << "What became of 1001.1";
+                                  << "What happens to 1001.1";
     QTest::newRow("a personal number") << "3801"
-                                       << "What became of 3801.1";
+                                       << "What happens to 3801.1";
     QTest::newRow("a personal number of the database") << "2001"
-                                                       << "What became of 2001.2";
+                                                       << "What happens to 2001.2";
     QTest::newRow("a pid") << "12342"
-                           << "What became of 1234.2";
+                           << "What happens to 1234.2";
     QTest::newRow("a row with a strange payroll id") << "Szabó"
-                                                     << "What became of pid 12351";
+                                                     << "What happens to pid 12351";
 }
 
 void TestExplainPeople::onePersonIsExplained()
@@ -154,15 +154,15 @@ void TestExplainPeople::severalPeopleAreListed()
     QCOMPARE(people(run), rows);
     QCOMPARE(run.rules(), QStringList("person-ambiguous"));
     QCOMPARE(ExplainedSite::facts(run), QJsonObject({{"matches", 2}}));
-    QCOMPARE(ExplainedSite::verdict(run), QString("2 people may be meant: name one of them."));
-    // Whoever is named then is explained.
+    QCOMPARE(ExplainedSite::verdict(run), QString("2 people match: name one of them."));
+    // Naming one of them explains this person.
     for (const QStringList &row : rows) {
         QCOMPARE(m_site.explain(row.first()).json().value("title").toString(),
-                 "What became of " + row.first());
+                 "What happens to " + row.first());
     }
 }
 
-void TestExplainPeople::nobodyIsSaid_data()
+void TestExplainPeople::findingNobodyIsReported_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("a name") << "Nobodyová";
@@ -171,7 +171,7 @@ void TestExplainPeople::nobodyIsSaid_data()
     QTest::newRow("a number") << "4711";
 }
 
-void TestExplainPeople::nobodyIsSaid()
+void TestExplainPeople::findingNobodyIsReported()
 {
     QFETCH(QString, text);
     const ToolRun run = m_site.explain(text);
@@ -208,8 +208,8 @@ void TestExplainPeople::linesThatMayHideThePersonAreCounted()
                                SampleExport::newcomer(3804).text()});
     QCOMPARE(ExplainedSite::sentences(m_site.explain(text), "people"),
              QStringList(count
-                         + " of the export cannot be read so far as to say whom they are about, "
-                           "and the plugin drops them: see check-file."));
+                         + " of the export are too broken to tell whom they are about, and the "
+                           "plugin drops them: see check-file."));
 }
 
 void TestExplainPeople::onlyTheFirstPeopleAreListed()
@@ -228,9 +228,9 @@ void TestExplainPeople::withoutAnExportTheDatabaseIsSearched()
 {
     m_site.exportFile().remove();
     QCOMPARE(m_site.explain("novakova").json().value("title").toString(),
-             QString("What became of 1234.1"));
+             QString("What happens to 1234.1"));
     QCOMPARE(m_site.explain("1234").json().value("title").toString(),
-             QString("What became of 1234.1"));
+             QString("What happens to 1234.1"));
 }
 
 void TestExplainPeople::aDatabaseWithoutPeopleBreaksTheContract()

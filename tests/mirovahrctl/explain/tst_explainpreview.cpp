@@ -13,7 +13,7 @@
 
 namespace {
 
-/// How many databases are tried, and from which seed on.
+/// How many databases are tested, and the first seed.
 const char kCount[] = "MIROVAHR_EXPLAIN_CASES";
 const char kSeed[] = "MIROVAHR_EXPLAIN_SEED";
 constexpr int kQuickCount = 8;
@@ -25,7 +25,7 @@ int environmentNumber(const char *name, int fallback)
     return isNumber ? value : fallback;
 }
 
-/// The payroll ids that the lines of an export begin with.
+/// The payroll ids at the beginning of an export's lines.
 QSet<QString> payrollIds(const QByteArray &content)
 {
     static const QRegularExpression numbers("^0*([1-9]\\d*)\\|0*([1-9]\\d*)\\|",
@@ -60,7 +60,7 @@ struct Explained {
 
 } // namespace
 
-/// What explain says that changes for a person is what preview shows, and the other way round.
+/// explain and preview predict the same changes for a person.
 class TestExplainPreview : public QObject {
     Q_OBJECT
 
@@ -116,7 +116,7 @@ void TestExplainPreview::bothSayTheSame()
     QVERIFY2(!preview.refusal, qPrintable(preview.refusal ? preview.refusal->sentence : QString()));
     QVector<Explained> people;
     QSet<QString> ids = payrollIds(content);
-    // People whom the export does not name are left alone.
+    // People who are missing from the export are left alone.
     ids += {"1001.1", "1234.1", "1237.1"};
     for (const QString &id : qAsConst(ids))
         people += explain(id);
@@ -215,7 +215,7 @@ void TestExplainPreview::compareFact(const Explained &person, const char *fact,
         m_facts += fact;
 }
 
-/// Nothing changes for anybody who was not explained.
+/// Nothing changes for people who were not explained.
 void TestExplainPreview::compareStrangers(const QVector<Explained> &people,
                                           const QVector<PreviewedRow> &rows)
 {
@@ -238,8 +238,8 @@ void TestExplainPreview::compareStrangers(const QVector<Explained> &people,
     }
 }
 
-/// The plugin's warnings in preview are those that explain foretells, but for those of people whose
-/// row may or may not be written.
+/// The plugin's warnings in preview are those that explain predicts, except for people whose row
+/// may or may not be written.
 void TestExplainPreview::compareWarnings(const QVector<Explained> &people,
                                          const QVector<Finding> &warnings)
 {

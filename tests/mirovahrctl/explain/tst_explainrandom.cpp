@@ -16,7 +16,7 @@
 
 namespace {
 
-/// How many databases are tried, and from which seed on.
+/// How many databases are tested, and the first seed.
 const char kCount[] = "MIROVAHR_EXPLAIN_CASES";
 const char kSeed[] = "MIROVAHR_EXPLAIN_SEED";
 constexpr int kQuickCount = 30;
@@ -48,7 +48,7 @@ QVector<MirovaRonRecord> recordsOf(const QByteArray &content)
     return records;
 }
 
-/// One person of an export, as explained and as it went.
+/// One person of an export: the explanation and the observation.
 struct Person {
     QString payrollId;
     QJsonObject facts;
@@ -74,8 +74,7 @@ int Person::waiting() const
 
 } // namespace
 
-/// The facts of explain for people with several lines in random exports are what the plugin then
-/// does with the same database.
+/// For people with several lines in random exports, the plugin does what the facts of explain say.
 class TestExplainRandom : public QObject {
     Q_OBJECT
 
@@ -197,8 +196,8 @@ void TestExplainRandom::compare(const Person &person)
     }
 }
 
-/// The plugin takes it for a failure when merging a line changes nothing, which depends on the
-/// second in which it happens, and then goes no further.
+/// The plugin treats it as a failure when merging a line changes nothing, which depends on the
+/// second in which it happens, and then skips the remaining steps.
 static bool mayEndEarly(const QString &fact, const QJsonObject &explained)
 {
     return (explained.value("person") == "created" || explained.value("person") == "merged")

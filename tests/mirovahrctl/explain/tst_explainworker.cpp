@@ -8,7 +8,7 @@
 #include <QSqlDatabase>
 #include <QtTest>
 
-/// explain, held against what the worker then does with the same export and database.
+/// explain, compared with what the worker then does with the same export and database.
 class TestExplainWorker : public WorkerTest {
     Q_OBJECT
 
@@ -61,7 +61,7 @@ void TestExplainWorker::configureAs(const QByteArray &configuration)
         m_worker->setMes({{21, "materská dovolenka"}});
 }
 
-/// Every warning of the log was told, and no other.
+/// explain has predicted every warning of the log, and no other.
 void TestExplainWorker::compareWarnings(const ToolRun &run, const QStringList &log)
 {
     const QString messages = ExplainedSite::messages(run).join('\n');
@@ -304,7 +304,7 @@ void TestExplainWorker::severalLinesAreHandledInTurn_data()
     add("new, left, and here again", {eva, left, again}, "person", "created unchanged merged",
         "created");
     add("left and then new", {left, eva}, "person", "never-created created", "created");
-    // Before the first line nobody is there whose attendance could be calculated.
+    // Before the first line there is nobody whose attendance could be calculated.
     add("new and the same again", {eva, eva, eva}, "person", "created merged unchanged", "created");
     add("new and the same again without a vacation fund", {eva, eva}, "person", "created unchanged",
         "created", {"DELETE FROM funds WHERE iid = 3"});

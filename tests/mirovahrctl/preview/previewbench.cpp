@@ -16,7 +16,7 @@ QVector<PreviewLine> linesOf(PreviewWork &work)
     QVector<PreviewLine> lines;
     const PreviewWords words(work.names(), work.moments());
     for (const PreviewChange &change : work.changes())
-        lines += words.tell(change);
+        lines += words.describe(change);
     return lines;
 }
 
@@ -48,7 +48,7 @@ QString sqlOf(const PreviewWork &work)
 
 } // namespace
 
-QStringList PreviewResult::told() const
+QStringList PreviewResult::described() const
 {
     QStringList texts;
     for (const PreviewLine &line : lines) {

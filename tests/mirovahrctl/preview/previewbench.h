@@ -23,7 +23,7 @@ struct PreviewedRow {
     QHash<QString, QString> before; ///< cells by column; empty: the row is new
     QHash<QString, QString> after; ///< empty: the row is gone
 
-    /// A cell of the row that is there.
+    /// A cell of the new row, or of the old one when it is gone.
     QString cell(const char *column) const { return (after.isEmpty() ? before : after)[column]; }
     bool changes(const char *column) const { return before[column] != after[column]; }
 };
@@ -39,12 +39,12 @@ struct PreviewResult {
     QString sql;
 
     /// Lines as "kind | who | what | before -> after".
-    QStringList told() const;
+    QStringList described() const;
     /// Their rules and messages.
     QStringList warned() const;
 };
 
-/// A site's database, a server for copies of it that stays, an export and an INI file.
+/// A site's database, a server that all previews copy it to, an export and an INI file.
 class PreviewBench {
 public:
     /// As TestDatabase::start(); also unlocks the account of mirovahrctl.
@@ -58,7 +58,7 @@ public:
     QString iniPath() const { return m_dir.filePath("MirovaHR.ini"); }
     QString filePath(const QString &name) const { return m_dir.filePath(name); }
 
-    /// How to reach the site: as `mirovahrctl`, or as another account with the same password.
+    /// The connection to the site: as `mirovahrctl`, or as another account with the same password.
     DatabaseOptions options(const QString &user = QStringLiteral("mirovahrctl")) const;
     QStringList arguments(const QString &user = QStringLiteral("mirovahrctl")) const;
 

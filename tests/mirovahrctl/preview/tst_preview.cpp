@@ -42,7 +42,7 @@ private Q_SLOTS:
     void aMissingExportCommandIsWarnedOfAsByThePlugin();
     void theReportNamesItsConfiguration();
     void thePageShowsTheDifferences();
-    void whatTheConfigurationHoldsBackIsTold();
+    void aConfigurationThatPreventsSynchronisationIsReported();
     void theCopyIsGoneAfterASignal_data();
     void theCopyIsGoneAfterASignal();
     void aSynchronisationThatDoesNotTakePlaceIsNoResult();
@@ -72,7 +72,7 @@ void TestPreview::initTestCase()
 
 void TestPreview::init()
 {
-    // The site's server takes a moment to notice that a preview was killed.
+    // The site's server needs a moment to notice that a preview was killed.
     const QString sessions =
         "SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE USER = 'mirovahrctl'";
     QTRY_COMPARE_WITH_TIMEOUT(m_bench.site().value(sessions).toInt(), 0, kPatienceMs);
@@ -202,7 +202,7 @@ void TestPreview::thePageShowsTheDifferences()
     QCOMPARE(facts.value("pluginWarnings").toInt(), 1);
     QCOMPARE(tool.rules().join(' '), QString("plugin-warning triggers-hidden"));
     QCOMPARE(tool.json().value("verdict").toString(),
-             QString("A synchronisation would change %1 rows. The plugin would complain 1 time.")
+             QString("A synchronisation would change %1 rows. The plugin would warn 1 time.")
                  .arg(facts.value("rows").toInt()));
 
     Browser browser;
@@ -217,7 +217,7 @@ void TestPreview::thePageShowsTheDifferences()
     QCOMPARE(phone.pixel(495, 900), qRgb(0xff, 0xff, 0xff));
 }
 
-void TestPreview::whatTheConfigurationHoldsBackIsTold()
+void TestPreview::aConfigurationThatPreventsSynchronisationIsReported()
 {
     m_bench.writeIni("testMode=1\nenabled=0");
     const ToolRun tool = runTool(arguments({"--json"}));
@@ -281,7 +281,7 @@ void TestPreview::aServerProgramThatIsNotInstalledIsNamed()
     QCOMPARE(preview.output(), QString());
 }
 
-/// The server of the copy takes over a zone that is an offset, so that it agrees with the site's.
+/// The copy's server takes over a zone that is an offset, so it agrees with the site's.
 void TestPreview::anOffsetOfTheSiteThatTheProgramDoesNotHaveIsRefused()
 {
     m_bench.site().run("SET GLOBAL time_zone = '-11:30'");
@@ -289,10 +289,10 @@ void TestPreview::anOffsetOfTheSiteThatTheProgramDoesNotHaveIsRefused()
     run(preview);
     m_bench.site().run("SET GLOBAL time_zone = DEFAULT");
     COMPARE_STATUS(preview, 2);
-    QCOMPARE(preview.errors(),
-             QString("mirovahrctl: preview: The site's server (time zone -11:30) and this program "
-                     "disagree about when days begin. Run it with the TZ of the attendance "
-                     "server.\n"));
+    QCOMPARE(
+        preview.errors(),
+        QString("mirovahrctl: preview: The site's server (time zone -11:30) and this program "
+                "disagree about when days begin. Run it with the TZ of the attendance server.\n"));
 }
 
 void TestPreview::whatCannotBeUsedIsRefusedAtOnce_data()
@@ -309,10 +309,10 @@ void TestPreview::whatCannotBeUsedIsRefusedAtOnce_data()
         << "'" + ending + "' cannot be written: No such file or directory.\n";
     QTest::newRow("the SQL over the export")
         << arguments({"--sql", m_bench.exportFile().path()})
-        << "The result would be written over the export; name another file.\n";
+        << "The result would overwrite the export; name another file.\n";
     QTest::newRow("the log over the export")
         << arguments({"--log", m_bench.exportFile().path()})
-        << "The result would be written over the export; name another file.\n";
+        << "The result would overwrite the export; name another file.\n";
 }
 
 void TestPreview::whatCannotBeUsedIsRefusedAtOnce()

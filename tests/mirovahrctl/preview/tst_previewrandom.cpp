@@ -11,11 +11,11 @@
 
 namespace {
 
-/// How many databases are tried, and from which seed on.
+/// How many databases are tested, and the first seed.
 const char kCount[] = "MIROVAHR_PREVIEW_CASES";
 const char kSeed[] = "MIROVAHR_PREVIEW_SEED";
 constexpr int kQuickCount = 6;
-/// One after the other, on what the one before has made of the database.
+/// They run in turn, each on the database as the previous one left it.
 constexpr int kExports = 4;
 
 const char kKept[] = "kept";
@@ -36,7 +36,7 @@ bool isMoment(const QString &table, const QString &column)
 
 } // namespace
 
-/// What preview predicts for random databases and exports is what the worker then does.
+/// For random databases and exports, the worker does what preview has predicted.
 class TestPreviewRandom : public QObject {
     Q_OBJECT
 
@@ -150,7 +150,7 @@ void TestPreviewRandom::tryExport(RandomSite &random)
 
 void TestPreviewRandom::everyKindOfDifferenceWasAmongThem()
 {
-    // Also in a single database, if it has to be.
+    // Also for a single database, to reproduce a failure.
     QVERIFY2(m_kinds.contains("new-people") || m_kinds.contains("changed-people"),
              qPrintable(QStringList(m_kinds.values()).join(' ')));
     if (environmentNumber(kCount, kQuickCount) < kQuickCount)

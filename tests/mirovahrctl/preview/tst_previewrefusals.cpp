@@ -4,7 +4,7 @@
 
 #include <QtTest>
 
-/// Which databases preview refuses to copy, and what it tells of what it cannot see.
+/// Which databases preview refuses to copy, and what it reports about things that it cannot see.
 class TestPreviewRefusals : public QObject {
     Q_OBJECT
 
@@ -28,10 +28,10 @@ private Q_SLOTS:
     void aForceFlagThatCannotBeSet();
     void aCopyThatThePluginCannotOpen();
 
-    void hiddenTriggersAreTold();
+    void hiddenTriggersAreReported();
     void triggersThatTheAccountSeesAreCopied();
-    void tablesWithoutASnapshotAreTold();
-    void viewsThatARoutineNamesAreTold();
+    void tablesWithoutASnapshotAreReported();
+    void viewsThatARoutineNamesAreReported();
     void whatRoutinesAndKeysNameIsCopied();
     void routinesKeepTheirModes();
     void nothingOfTheSiteIsWritten();
@@ -48,7 +48,7 @@ private:
 void TestPreviewRefusals::initTestCase()
 {
     QVERIFY2(m_bench.start(), qPrintable(m_bench.site().errorString()));
-    // The server for the copies starts with the ways that the site's has now.
+    // The copies' server starts with the settings that the site's server has now.
     init();
     accepted();
 }
@@ -80,7 +80,7 @@ PreviewRefusal TestPreviewRefusals::refusalOfRun()
         m_bench.site().openPluginConnection(), [](QtMsgType, const QString &) {},
         [](qint64, qint64) {});
     return done ? run.refusal().value_or(PreviewRefusal{ExitStatus::Fine, "not refused"})
-                : PreviewRefusal{ExitStatus::Fine, run.errorText()};
+                : PreviewRefusal{ExitStatus::Fine, run.errorString()};
 }
 
 PreviewResult TestPreviewRefusals::accepted(const QString &account)
@@ -107,21 +107,21 @@ void TestPreviewRefusals::anAccountThatMustNotSeeTheRoutines()
     m_bench.site().run("REVOKE SELECT ON mysql.proc FROM mirovahrctl@localhost");
     QCOMPARE(refusal().status, ExitStatus::ContractBroken);
     QCOMPARE(refusal().sentence,
-             QString("There is no routine updateTermsSync, or this account must not see it: it "
-                     "needs SELECT on mysql.proc. check-db tells more"));
+             QString("There is no routine updateTermsSync, or this account is not allowed to see "
+                     "it: it needs SELECT on mysql.proc. Run check-db for details"));
     m_bench.site().run("GRANT EXECUTE ON PROCEDURE updateTermsSync TO mirovahrctl@localhost");
     QCOMPARE(refusal().status, ExitStatus::NoDatabase);
     QCOMPARE(refusal().sentence,
-             QString("This account must not read the text of the function midnightFromTs: it lacks "
-                     "SELECT on mysql.proc"));
+             QString("This account is not allowed to read the text of the function midnightFromTs: "
+                     "it lacks SELECT on mysql.proc"));
 }
 
 void TestPreviewRefusals::anAccountThatSeesSingleColumnsOnly()
 {
     const PreviewRefusal refused = refusal("yav");
     QCOMPARE(refused.status, ExitStatus::NoDatabase);
-    QVERIFY2(refused.sentence.startsWith(
-                 "This account must not read the table people: it lacks SELECT on the whole table"),
+    QVERIFY2(refused.sentence.startsWith("This account is not allowed to read the table people: it "
+                                         "lacks SELECT on the whole table"),
              qPrintable(refused.sentence));
 }
 
@@ -138,8 +138,8 @@ void TestPreviewRefusals::aTableThatIsMissingOrHidden()
     m_bench.site().run(sql);
     QCOMPARE(refusal().status, ExitStatus::ContractBroken);
     QCOMPARE(refusal().sentence,
-             QString("There is no table vars, or this account must not see it: it needs SELECT on "
-                     "vars. check-db tells more"));
+             QString("There is no table vars, or this account is not allowed to see it: it needs "
+                     "SELECT on vars. Run check-db for details"));
 }
 
 void TestPreviewRefusals::aRoutineThatIsMissing()
@@ -147,8 +147,8 @@ void TestPreviewRefusals::aRoutineThatIsMissing()
     m_bench.site().run("DROP PROCEDURE updateTermsSync");
     QCOMPARE(refusal().status, ExitStatus::ContractBroken);
     QCOMPARE(refusal().sentence,
-             QString("There is no routine updateTermsSync, or this account must not see it: it "
-                     "needs SELECT on mysql.proc. check-db tells more"));
+             QString("There is no routine updateTermsSync, or this account is not allowed to see "
+                     "it: it needs SELECT on mysql.proc. Run check-db for details"));
 }
 
 void TestPreviewRefusals::aViewInThePlaceOfATable()
@@ -156,7 +156,8 @@ void TestPreviewRefusals::aViewInThePlaceOfATable()
     m_bench.site().hideTable("funds");
     m_bench.site().run("CREATE VIEW funds AS SELECT * FROM funds_hidden");
     QCOMPARE(refusal().status, ExitStatus::ContractBroken);
-    QCOMPARE(refusal().sentence, QString("funds is no table but a view, which cannot be copied"));
+    QCOMPARE(refusal().sentence,
+             QString("funds is not a table but a view, which cannot be copied"));
 }
 
 void TestPreviewRefusals::aForeignKeyToAHiddenTable()
@@ -165,10 +166,10 @@ void TestPreviewRefusals::aForeignKeyToAHiddenTable()
     m_bench.site().run("INSERT INTO departments VALUES (1)");
     m_bench.site().run("ALTER TABLE people ADD FOREIGN KEY (did) REFERENCES departments (did)");
     QCOMPARE(refusal().status, ExitStatus::ContractBroken);
-    QCOMPARE(refusal().sentence,
-             QString("There is no table, although people refers to it, departments, or this "
-                     "account must not see it: it needs SELECT on departments. check-db tells "
-                     "more"));
+    QCOMPARE(
+        refusal().sentence,
+        QString("There is no table that people refers to, departments, or this account is not "
+                "allowed to see it: it needs SELECT on departments. Run check-db for details"));
 }
 
 void TestPreviewRefusals::aForeignKeyToAnotherDatabase()
@@ -183,7 +184,7 @@ void TestPreviewRefusals::aForeignKeyToAnotherDatabase()
     m_bench.site().run("DROP DATABASE other");
     QCOMPARE(refused.status, ExitStatus::ContractBroken);
     QCOMPARE(refused.sentence,
-             QString("The table people refers to the other database other, which is not copied"));
+             QString("The table people refers to the database other, which is not copied"));
 }
 
 void TestPreviewRefusals::anotherTimeZone()
@@ -199,11 +200,11 @@ void TestPreviewRefusals::peopleWhoCannotBeLoaded()
 {
     m_bench.site().run("ALTER TABLE people DROP COLUMN title2");
     QCOMPARE(refusal().status, ExitStatus::ContractBroken);
-    QCOMPARE(refusal().sentence,
-             QString("The plugin cannot load the people of this database and would synchronise "
-                     "nobody. It logs \"MHRWorker::dbLoadPeople() - SQL ERROR [1054]: Unknown "
-                     "column 'p.title2' in 'SELECT' QMYSQL: Unable to execute query\". check-db "
-                     "tells more"));
+    QCOMPARE(
+        refusal().sentence,
+        QString("The plugin cannot load the people of this database and would synchronise nobody. "
+                "It logs \"MHRWorker::dbLoadPeople() - SQL ERROR [1054]: Unknown column 'p.title2' "
+                "in 'SELECT' QMYSQL: Unable to execute query\". Run check-db for details"));
 }
 
 void TestPreviewRefusals::branchesThatCannotBeLoaded()
@@ -211,16 +212,16 @@ void TestPreviewRefusals::branchesThatCannotBeLoaded()
     m_bench.site().hideTable("branches");
     m_bench.site().run("CREATE FUNCTION refuseValue() RETURNS INT BEGIN SIGNAL SQLSTATE '45000' SET"
                        " MESSAGE_TEXT = 'refused by the test'; RETURN 0; END");
-    // Nobody belongs to branch 4, so that the query of the people does not come across its number.
+    // Nobody belongs to branch 4, so the query of the people does not read its number.
     m_bench.site().run("CREATE VIEW branches AS SELECT bid, IF(bid = 4, refuseValue(), number)"
                        " number, mgid FROM branches_hidden");
     const PreviewRefusal refused = refusalOfRun();
     QCOMPARE(refused.status, ExitStatus::ContractBroken);
-    QCOMPARE(refused.sentence,
-             QString("The plugin cannot load the branches of this database and would leave "
-                     "everybody whom it writes without one. It logs \"MHRWorker::dbLoadBranches() "
-                     "- SQL ERROR [1644]: refused by the test QMYSQL: Unable to store result\". "
-                     "check-db tells more"));
+    QCOMPARE(
+        refused.sentence,
+        QString("The plugin cannot load the branches of this database; everybody whom it writes "
+                "would lose the branch. It logs \"MHRWorker::dbLoadBranches() - SQL ERROR [1644]: "
+                "refused by the test QMYSQL: Unable to store result\". Run check-db for details"));
 }
 
 void TestPreviewRefusals::aForceFlagThatCannotBeSet()
@@ -243,7 +244,7 @@ void TestPreviewRefusals::aCopyThatThePluginCannotOpen()
              qPrintable(refused.sentence));
 }
 
-void TestPreviewRefusals::hiddenTriggersAreTold()
+void TestPreviewRefusals::hiddenTriggersAreReported()
 {
     QCOMPARE(accepted().schema.tablesWithHiddenTriggers.join(' '),
              QString("people people_pam atten brape groups_plan groups_month funds_move "
@@ -265,13 +266,13 @@ void TestPreviewRefusals::triggersThatTheAccountSeesAreCopied()
     QCOMPARE(accepted().schema.tablesWithHiddenTriggers, QStringList());
 }
 
-void TestPreviewRefusals::tablesWithoutASnapshotAreTold()
+void TestPreviewRefusals::tablesWithoutASnapshotAreReported()
 {
     m_bench.site().run("ALTER TABLE vars ENGINE=MyISAM");
     QCOMPARE(accepted().schema.tablesOutsideSnapshot, QStringList{"vars"});
 }
 
-void TestPreviewRefusals::viewsThatARoutineNamesAreTold()
+void TestPreviewRefusals::viewsThatARoutineNamesAreReported()
 {
     m_bench.site().run("CREATE VIEW colours AS SELECT * FROM funds");
     m_bench.site().run("DROP FUNCTION getCurrentGid");
@@ -298,7 +299,7 @@ void TestPreviewRefusals::whatRoutinesAndKeysNameIsCopied()
     QVERIFY(tables.contains("my words"));
     QVERIFY(!tables.contains("untouched"));
     QVERIFY(!tables.contains("sections"));
-    QCOMPARE(result.told().filter("my words"),
+    QCOMPARE(result.described().filter("my words"),
              QStringList{"other | my words | new row: word |  -> a"});
 }
 

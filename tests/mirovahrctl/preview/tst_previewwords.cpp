@@ -9,7 +9,7 @@
 
 #include <ctime>
 
-/// What preview tells of each kind of difference.
+/// How preview describes each kind of difference.
 class TestPreviewWords : public QObject {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void whatATriggerDoes();
     void whatThePluginWarnsOf();
     void whatOthersHaveDoneIsNoDifference();
-    void theStatementsSayWhatIsToldAndNothingElse();
+    void theStatementsMakeExactlyTheDescribedChanges();
 
 private:
     /// The lines of a preview with one line of an export.
@@ -53,7 +53,7 @@ QString TestPreviewWords::told(const ExportRow &line, const QString &account)
 {
     m_bench.writeExport({line});
     const PreviewResult result = m_bench.preview(m_bench.options(account));
-    return result.refusal ? result.refusal->sentence : result.told().join('\n');
+    return result.refusal ? result.refusal->sentence : result.described().join('\n');
 }
 
 void TestPreviewWords::anExportWithoutPeopleChangesNothing()
@@ -62,7 +62,7 @@ void TestPreviewWords::anExportWithoutPeopleChangesNothing()
     const PreviewResult result = m_bench.preview();
     QVERIFY(!result.refusal);
     QCOMPARE(result.changes, 0);
-    QCOMPARE(result.told(), QStringList());
+    QCOMPARE(result.described(), QStringList());
 }
 
 void TestPreviewWords::aMomentHasItsOffsetAndADayHasNone()
@@ -248,7 +248,7 @@ void TestPreviewWords::whatOthersHaveDoneIsNoDifference()
              QString("changed-people | 2001.2 Tomáš Baláž | last changed |  -> now"));
 }
 
-void TestPreviewWords::theStatementsSayWhatIsToldAndNothingElse()
+void TestPreviewWords::theStatementsMakeExactlyTheDescribedChanges()
 {
     m_bench.site().run("UPDATE people SET title2 = 'O''Neill\\\\' WHERE uid = 4");
     m_bench.site().run("CREATE TRIGGER t BEFORE UPDATE ON people FOR EACH ROW "
@@ -265,9 +265,8 @@ void TestPreviewWords::theStatementsSayWhatIsToldAndNothingElse()
         "`ref_id2`, `created`, `flags`) VALUES (1, 'U', 'people', 'uid', 4, NULL, NULL, "
         "UNIX_TIMESTAMP(), 2);"};
     QCOMPARE(statements.join('\n'), expected.join('\n'));
-    QVERIFY(
-        sql.contains("-- What triggers did is among it: they must not do it once more when this "
-                     "is run.\n"));
+    QVERIFY(sql.contains("-- The effects of triggers are included: triggers must not fire again "
+                         "when this is run.\n"));
 }
 
 int main(int argc, char **argv)
