@@ -6,8 +6,8 @@
 #include <QThread>
 #include <QTimer>
 
-/// The plainest plugin that starts as the one measured does: an INI file, a connection of its own,
-/// a thread and a timer in it.
+/// The simplest plugin that starts like the measured one: an INI file, a connection of its own, a
+/// thread and a timer in it.
 class PlainPlugin : public QObject, public ServerInterface {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "com.vantor-la.yav.ServerInterface")

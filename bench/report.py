@@ -162,7 +162,7 @@ def instructions_table(measured):
 
 
 def library_table(measured):
-    names = {"plugin": "libmirovahr.so", "qt": "(q) the plainest plugin",
+    names = {"plugin": "libmirovahr.so", "qt": "(q) the simplest plugin",
              "c": "(c) a bare library in C"}
     libraries = measured.facts["library"]
     return table(
@@ -265,7 +265,7 @@ def ratios(measured, folder):
 set terminal svg size 720,{60 + 22 * len(rows)} font "sans-serif,12" background rgb "white"
 set output "{folder / 'ratios.svg'}"
 set encoding utf8
-set title "Wall time of the plugin to the plainest Qt program" noenhanced
+set title "Wall time of the plugin to the simplest Qt program" noenhanced
 set xrange [0:{1.15 * max(ratio for _, ratio in rows)}]
 set yrange [-0.7:{len(rows) - 0.3}]
 set grid xtics

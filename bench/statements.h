@@ -25,7 +25,7 @@ public:
 
     int count() const { return m_steps.size(); }
 
-    /// The plainest tick of a Qt program: connects, sends each, reads every column, disconnects.
+    /// The simplest tick of a Qt program: connects, sends each, reads every column, disconnects.
     void sendByQt(QSqlDatabase db) const;
     /// The same by the bare client.
     void sendByPlainClient(const plain_account &account) const;
