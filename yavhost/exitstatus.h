@@ -16,7 +16,7 @@ enum class ExitStatus {
     Interrupted = 7, ///< a signal came before the first synchronisation was over
 };
 
-/// What to tell the user who meets this status: a sentence without its full stop.
+/// What the status means: a sentence without its full stop.
 QString exitStatusSentence(ExitStatus status);
 
 /// The part of the help text that lists every status.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr char kPasswordVariable[] = "YAVHOST_PASSWORD";
 
-/// No file of its own: the one of mirovahrctl names an account that only reads.
+/// No default file: that of mirovahrctl names an account that only reads.
 DatabaseSources databaseSources()
 {
     return {kPasswordVariable, QString()};
@@ -19,7 +19,7 @@ DatabaseSources databaseSources()
 QString description()
 {
     return QStringLiteral(
-               "Runs a plugin of the attendance server: loads it, hands it a connection to the "
+               "Runs a plugin of the attendance server: loads it, passes it a connection to the "
                "attendance\n"
                "database, starts it and keeps it until a signal comes.\n"
                "\n"
@@ -46,7 +46,7 @@ void describe(QCommandLineParser &parser)
     parser.addPositionalArgument(QStringLiteral("library"),
                                  QStringLiteral("The plugin, libmirovahr.so."));
     parser.addOption({QStringLiteral("version-info"),
-                      QStringLiteral("Print what the plugin says of itself, and end.")});
+                      QStringLiteral("Print the plugin's version information, and end.")});
     parser.addOption(
         {QStringLiteral("once"),
          QStringLiteral(
@@ -59,16 +59,14 @@ void describe(QCommandLineParser &parser)
 
 QString readOptions(const QCommandLineParser &parser, HostOptions &options)
 {
-    if (parser.positionalArguments().size() != 1) {
+    if (parser.positionalArguments().size() != 1)
         return QStringLiteral("Name one library");
-    }
     options.library = parser.positionalArguments().constFirst();
     options.versionInfo = parser.isSet(QStringLiteral("version-info"));
     options.once = parser.isSet(QStringLiteral("once"));
     uint level = options.debugLevel;
-    if (!readNumberOption(parser, QStringLiteral("debug-level"), 255, level)) {
+    if (!readNumberOption(parser, QStringLiteral("debug-level"), 255, level))
         return QStringLiteral("The debug level is a number from 0 to 255");
-    }
     options.debugLevel = static_cast<unsigned char>(level);
     if (options.versionInfo) {
         return {};

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What the command line asks for.
+/// The options of the command line.
 struct HostOptions {
     QString library; ///< path of the plugin
     bool versionInfo = false; ///< print the version information instead of running the plugin
@@ -17,9 +17,9 @@ struct HostOptions {
 
 /// The outcome of reading a command line.
 struct ParsedCommandLine {
-    HostOptions options; ///< of use only when answer and error are empty
-    QString answer; ///< the help text or the version, with a line feed, when it was asked for
-    QString error; ///< what does not make sense, if anything does not
+    HostOptions options; ///< valid only when answer and error are empty
+    QString answer; ///< the help text or the version, with a line feed, if requested
+    QString error; ///< what is wrong with the command line; empty if nothing is
 };
 
 /// Reads the command line, whose first argument is the program's name, and the password from the

@@ -24,15 +24,12 @@ void printWarning(const QString &sentence)
 
 void printFailure(ExitStatus status, const QString &detail)
 {
-    if (status == ExitStatus::Success) {
+    if (status == ExitStatus::Success)
         return;
-    }
     QString sentence = exitStatusSentence(status);
-    if (!detail.isEmpty()) {
+    if (!detail.isEmpty())
         sentence += QStringLiteral(": ") + detail;
-    }
-    if (!sentence.endsWith(QLatin1Char('.'))) {
+    if (!sentence.endsWith(QLatin1Char('.')))
         sentence += QLatin1Char('.');
-    }
     print(stderr, sentence);
 }

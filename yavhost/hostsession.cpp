@@ -36,15 +36,13 @@ LogPrinter::Observer HostSession::observer()
 ExitStatus HostSession::run()
 {
     if (!m_plugin.load()) {
-        m_detail = m_plugin.errorText();
+        m_detail = m_plugin.errorString();
         return ExitStatus::NoPlugin;
     }
-    if (!openDatabase()) {
+    if (!openDatabase())
         return ExitStatus::NoDatabase;
-    }
-    if (!startPlugin()) {
+    if (!startPlugin())
         return ExitStatus::NotStarted;
-    }
     printInfo(QStringLiteral("The plugin is started."));
     const auto status = static_cast<ExitStatus>(QCoreApplication::exec());
     m_plugin.server()->stop();
@@ -54,12 +52,11 @@ ExitStatus HostSession::run()
     return status;
 }
 
-// A server goes on without its database: the plugin opens a connection of its own on every tick.
+// A server runs without its database, too: the plugin opens a connection of its own at every tick.
 bool HostSession::openDatabase()
 {
-    if (m_database.open()) {
+    if (m_database.open())
         return true;
-    }
     if (m_options.once) {
         m_detail = m_database.errorText();
         return false;
@@ -70,7 +67,7 @@ bool HostSession::openDatabase()
 
 bool HostSession::startPlugin()
 {
-    // The end of a synchronisation, for which once waits, is logged from level 1 on.
+    // --once waits for the end of a synchronisation, which is logged from level 1 on.
     const unsigned char leastLevel = m_options.once ? 1 : 0;
     ServerInterface *server = m_plugin.server();
     server->setDebugLevel(std::max(m_options.debugLevel, leastLevel));

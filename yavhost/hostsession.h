@@ -10,8 +10,8 @@
 
 #include <QString>
 
-/// One run of one plugin, as the attendance server does it: load, open the database, set up, start,
-/// keep, stop, unload.
+/// One run of one plugin, in the order of the attendance server: load, open the database, set up,
+/// start, keep running, stop, unload.
 class HostSession {
 public:
     explicit HostSession(const HostOptions &options);

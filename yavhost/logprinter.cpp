@@ -35,7 +35,7 @@ const char *levelName(QtMsgType type)
     Q_UNREACHABLE();
 }
 
-/// Prints the message if it is to be printed. Returns who wants to know of it.
+/// Prints the message if its level is to be printed. Returns the observer to call.
 LogPrinter::Observer print(QtMsgType type, const QString &text)
 {
     const std::lock_guard<std::mutex> lock(g_mutex);
@@ -50,22 +50,19 @@ LogPrinter::Observer print(QtMsgType type, const QString &text)
 void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     const LogPrinter::Observer observer = print(type, text);
-    if (observer) {
+    if (observer)
         observer(text);
-    }
 }
 
-/// The log of the plugin is what this program is for: no rule of the system or of the environment
-/// (QT_LOGGING_RULES) takes anything out of it.
+/// The plugin's log must be complete: rules of the system or of the environment (QT_LOGGING_RULES)
+/// do not apply.
 void letThrough(QLoggingCategory *category)
 {
-    if (g_outerFilter != nullptr) {
+    if (g_outerFilter != nullptr)
         g_outerFilter(category);
-    }
     if (qstrcmp(category->categoryName(), "default") == 0) {
-        for (const QtMsgType type : {QtDebugMsg, QtInfoMsg, QtWarningMsg, QtCriticalMsg}) {
+        for (const QtMsgType type : {QtDebugMsg, QtInfoMsg, QtWarningMsg, QtCriticalMsg})
             category->setEnabled(type, true);
-        }
     }
 }
 

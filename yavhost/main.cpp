@@ -19,17 +19,15 @@ int end(ExitStatus status, const QString &detail)
 
 void printMap(const QMap<QString, QString> &map)
 {
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
         std::printf("%s: %s\n", qUtf8Printable(entry.key()), qUtf8Printable(entry.value()));
-    }
 }
 
 int printVersionInfo(const QString &library)
 {
     ServerPlugin plugin(library);
-    if (!plugin.load()) {
-        return end(ExitStatus::NoPlugin, plugin.errorText());
-    }
+    if (!plugin.load())
+        return end(ExitStatus::NoPlugin, plugin.errorString());
     printMap(plugin.metaData());
     printMap(plugin.versionInfo());
     return end(ExitStatus::Success, {});
@@ -37,9 +35,8 @@ int printVersionInfo(const QString &library)
 
 int runPlugin(const HostOptions &options)
 {
-    if (!Database::isDriverAvailable()) {
+    if (!Database::isDriverAvailable())
         return end(ExitStatus::NoDatabase, Database::missingDriverText());
-    }
     HostSession session(options);
     const ExitStatus status = session.run();
     return end(status, session.detail());
@@ -55,14 +52,11 @@ int main(int argc, char *argv[])
         std::fputs(qUtf8Printable(commandLine.answer), stdout);
         return 0;
     }
-    if (!commandLine.error.isEmpty()) {
+    if (!commandLine.error.isEmpty())
         return end(ExitStatus::Usage, commandLine.error);
-    }
-    if (commandLine.options.versionInfo) {
+    if (commandLine.options.versionInfo)
         return printVersionInfo(commandLine.options.library);
-    }
-    if (!commandLine.options.warning.isEmpty()) {
+    if (!commandLine.options.warning.isEmpty())
         printWarning(commandLine.options.warning);
-    }
     return runPlugin(commandLine.options);
 }

@@ -19,9 +19,8 @@ ServerPlugin::~ServerPlugin()
 bool ServerPlugin::load()
 {
     const QString iid = metaData().value(QStringLiteral("IID"));
-    if (!iid.isEmpty() && iid != QLatin1String(qobject_interface_iid<ServerInterface *>())) {
+    if (!iid.isEmpty() && iid != QLatin1String(qobject_interface_iid<ServerInterface *>()))
         return fail(QStringLiteral("it is a plugin for '%1'").arg(iid));
-    }
     m_server = qobject_cast<ServerInterface *>(m_loader.instance());
     return m_server != nullptr || fail(m_loader.errorString());
 }
@@ -30,9 +29,8 @@ QMap<QString, QString> ServerPlugin::metaData() const
 {
     const QJsonObject data = m_loader.metaData();
     QMap<QString, QString> result;
-    for (const QString &key : {QStringLiteral("IID"), QStringLiteral("className")}) {
+    for (const QString &key : {QStringLiteral("IID"), QStringLiteral("className")})
         result.insert(key, data.value(key).toString());
-    }
     return result;
 }
 
@@ -50,6 +48,6 @@ void ServerPlugin::unload()
 
 bool ServerPlugin::fail(const QString &reason)
 {
-    m_errorText = reason;
+    m_error = reason;
     return false;
 }

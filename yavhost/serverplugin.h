@@ -6,7 +6,7 @@
 
 class ServerInterface;
 
-/// One plugin of the attendance server, known only by the two interfaces of the server.
+/// One plugin of the attendance server, used only through the server's two interfaces.
 class ServerPlugin {
 public:
     explicit ServerPlugin(const QString &library);
@@ -16,22 +16,22 @@ public:
     ServerPlugin &operator=(const ServerPlugin &) = delete;
 
     /// Loads the library and makes the plugin object. False when the library cannot be loaded or is
-    /// no plugin of the server; errorText() then says why.
+    /// no plugin of the server; errorString() then says why.
     bool load();
 
     /// Why load() failed.
-    QString errorText() const { return m_errorText; }
+    QString errorString() const { return m_error; }
 
-    /// What the library says of itself without the plugin object: IID and class name.
+    /// The library's metadata, which needs no plugin object: IID and class name.
     QMap<QString, QString> metaData() const;
 
-    /// What the plugin object says of itself; empty when it does not implement VerInfoInterface.
+    /// The version information of the plugin object; empty without VerInfoInterface.
     QMap<QString, QString> versionInfo();
 
     /// The plugin object; null unless load() succeeded.
     ServerInterface *server() const { return m_server; }
 
-    /// Destroys the plugin object, which waits for the work that it has begun.
+    /// Destroys the plugin object, which first finishes the work that it has begun.
     void unload();
 
 private:
@@ -39,5 +39,5 @@ private:
 
     QPluginLoader m_loader;
     ServerInterface *m_server = nullptr;
-    QString m_errorText;
+    QString m_error;
 };

@@ -6,13 +6,13 @@
 
 namespace {
 
-struct TellingMessage {
+struct DecisiveMessage {
     const char *begin;
     ExitStatus status;
 };
 
 // The end of a synchronisation is a debug message: the plugin's debug level must be 1 at least.
-constexpr TellingMessage kTellingMessages[] = {
+constexpr DecisiveMessage kDecisiveMessages[] = {
     {"MHRWorker: END synchronization #", ExitStatus::Success},
     {"MHRWorker::checkSync() - database not open!", ExitStatus::NoDatabase},
     {"MHRWorker: load people from TEPDB failed - synchronization terminated!",
@@ -24,17 +24,15 @@ constexpr TellingMessage kTellingMessages[] = {
 
 void SynchronizationWatch::inspect(const QString &message)
 {
-    for (const TellingMessage &telling : kTellingMessages) {
-        if (message.startsWith(QLatin1String(telling.begin)) && !m_over.exchange(true)) {
-            tell(static_cast<int>(telling.status));
-        }
+    for (const DecisiveMessage &decisive : kDecisiveMessages) {
+        if (message.startsWith(QLatin1String(decisive.begin)) && !m_over.exchange(true))
+            finish(static_cast<int>(decisive.status));
     }
 }
 
-void SynchronizationWatch::tell(int exitStatus)
+void SynchronizationWatch::finish(int exitStatus)
 {
     Q_EMIT over(exitStatus);
-    if (QThread::currentThread() != thread()) {
+    if (QThread::currentThread() != thread())
         m_stopped.acquire();
-    }
 }

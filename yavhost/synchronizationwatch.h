@@ -6,20 +6,20 @@
 
 #include <atomic>
 
-/// Learns from the plugin's log how its first synchronisation ended. The log is all that a server
-/// sees of a plugin's work.
+/// Finds in the plugin's log how its first synchronisation ended. The log is all that a server sees
+/// of a plugin's work.
 ///
-/// A tick that came meanwhile begins another synchronisation as soon as the plugin's thread gets to
-/// it. So that thread is held where the first one ends, until the plugin was told to stop.
+/// A tick that is due by then would begin another synchronisation at once. So the plugin's thread
+/// is held where the first one ends, until the plugin was asked to stop.
 class SynchronizationWatch : public QObject {
     Q_OBJECT
 
 public:
-    /// To be called with every message; from any thread. The first telling message decides: unless
-    /// it comes in the thread of this object, it holds its thread until letGo().
+    /// To be called with every message, from any thread. The first decisive message counts; unless
+    /// it comes from the thread of this object, its thread is held until letGo().
     void inspect(const QString &message);
 
-    /// To be called once the plugin was told to stop.
+    /// To be called once the plugin was asked to stop.
     void letGo() { m_stopped.release(); }
 
 Q_SIGNALS:
@@ -28,7 +28,7 @@ Q_SIGNALS:
     void over(int exitStatus);
 
 private:
-    void tell(int exitStatus);
+    void finish(int exitStatus);
 
     std::atomic<bool> m_over{false};
     QSemaphore m_stopped;
