@@ -106,13 +106,14 @@ bool BranchesRepository::saveBranch(const BranchRecord &branch)
 {
     if (branch.bid == 0)
         return addBranch(branch) != 0;
-    // On purpose a failed update (-1) counts as saved and one that changed nothing does not.
+    // A failed update (-1) counts as saved, one that changed nothing does not. The behaviour is
+    // fixed.
     return updateBranch(branch) != 0;
 }
 
 bool BranchesRepository::deleteBranch(ushort)
 {
-    // On purpose: branches are never deleted, whoever asks.
+    // Branches are never deleted. The behaviour is fixed.
     return false;
 }
 

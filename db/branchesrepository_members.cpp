@@ -76,7 +76,8 @@ bool BranchesRepository::delSectionsFromBranch(ushort bid, const QString &secids
 {
     if (!beginChange("BranchesRepository::delSectionsFromBranch", bid, secids))
         return false;
-    // Sections whose triples could not be deleted leave the branch all the same.
+    // Sections leave the branch even when their triples could not be deleted. The behaviour is
+    // fixed.
     executes(filled(kDelTriplesOfSections, bid, secids),
              "BranchesRepository::delSectionsFromBranch [bas]");
     return applyChange("BranchesRepository::delSectionsFromBranch [sec_branch]",

@@ -110,7 +110,7 @@ QVector<unsigned int> BranchesRepository::getUids4Branch(ushort bid) const
 QSet<unsigned int> BranchesRepository::getAids4Uid(unsigned int uid) const
 {
     logCall("BranchesRepository::getAids4Uid", uid);
-    // Shares the message of the branch lookup on purpose.
+    // Logs the text of the branch lookup, not one of its own: the text is fixed.
     const QVector<unsigned int> aids =
         selectIds(Placeholders::filled(kAdminsOfPerson, uid), "BranchesRepository::getAids4Branch");
     return QSet<unsigned int>(aids.cbegin(), aids.cend());
@@ -236,7 +236,7 @@ bool BranchesRepository::slotDeletedAdminsFromBranch(ushort bid, const QString &
     logCall("BranchesRepository::slotDeletedAdminsFromBranch", bid, aids);
     const QStringList people = idTexts(getUids4Branch(bid));
     // Unlike deletePeopleFromAdmins(), people lose the administrator here even when they have the
-    // same one through another branch.
+    // same one through another branch. The behaviour is fixed.
     return forEveryId(splitIds(aids), [&](const QString &aid) {
         return deletePeopleFromAdmin(adminId(aid), people);
     });
@@ -266,8 +266,8 @@ bool BranchesRepository::propagatePeople(const char *operation, ushort bid, cons
     const QStringList people = splitIds(uids);
     if (bid == 0 || people.isEmpty())
         return false;
-    // Removals are reported with the texts of additions, too. Administrators follow even when the
-    // terminals failed.
+    // Removals are reported with the texts of additions, too: the texts are fixed. Administrators
+    // follow even when the terminals failed.
     const bool termsFollowed = (this->*toTerms)(bid, people);
     if (!termsFollowed)
         qWarning("BranchesRepository::slotAddedPeopleToBranch() - AddPeopleToTerms() FAILED!");

@@ -2,8 +2,8 @@
 
 /// What the attendance database (TEPDB) must have for the classes here and for the worker: the
 /// tables, columns, unique keys and routines that their SQL names. A site's tables may hold more.
-/// The meaning and units of the columns stand in reference-db/schema.sql, which a test holds
-/// against this header.
+/// reference-db/schema.sql describes the columns' meaning and units; a test compares it with this
+/// header.
 ///
 /// Lists of names are texts, the names separated by one blank.
 namespace TepDbContract {

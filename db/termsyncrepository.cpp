@@ -61,7 +61,7 @@ const QLatin1String
 const QLatin1String
     kMarkTermsForInters("UPDATE `term` SET `syn` = (`syn` | 1 ) WHERE `tid` IN (%1)");
 // Takes every terminal with a status above 0, though only those with status 1 get queue rows. The
-// difference is wanted: do not align the two.
+// behaviour is fixed: do not align the two.
 const QLatin1String kMarkTermsOfTimezone(
     "DROP TEMPORARY TABLE IF EXISTS tmptbl_updateTermsSyncTZ;"
     "CREATE TEMPORARY TABLE tmptbl_updateTermsSyncTZ AS (SELECT DISTINCT t.tid"
@@ -142,7 +142,7 @@ void TermSyncRepository::addTermSyncInter(unsigned int tid, unsigned int iid, QC
 
 void TermSyncRepository::addTermSyncInters(unsigned int tid, const QStringList &iids, QChar type)
 {
-    // Shares the message of the people operation on purpose.
+    // Logs the text of the people operation, not one of its own: the text is fixed.
     queueForTerm(tid, kInters, Placeholders::filled(kQueueIntersForTerm, tid, type, idList(iids)),
                  "TermSyncRepository::addTermSyncPeople() ERROR:");
 }
@@ -188,7 +188,8 @@ void TermSyncRepository::addColorGroupsToTermSync()
     succeeds(kQueueColorGroups,
              "TermSyncRepository::addColorGroupsToTermSync()"
              " - INSERT INTO `term_sync` FAILED! ERROR:");
-    // Alone in the family, this one marks the terminals even when nothing could be queued.
+    // Unlike the others, this one marks the terminals even when nothing could be queued. The
+    // behaviour is fixed.
     succeeds(kMarkTermsForColorGroups,
              "TermSyncRepository::addColorGroupsToTermSync() - Update `term` FAILED! ERROR:");
 }

@@ -17,7 +17,7 @@
 /// statements as they are: the caller vouches that a list holds decimal texts, and that `ref` holds
 /// no quote. An empty list makes the statement fail. Operations that name a terminal queue whether
 /// or not the terminal, or the single person, interval type or time zone, exists: an unknown id
-/// leaves a row that nobody fetches, or that speaks of nothing.
+/// leaves a row that nobody fetches, or that refers to nothing.
 class TermSyncRepository : public QObject {
     Q_OBJECT
 

@@ -1,4 +1,4 @@
--- Remembers how the database is now, so that changes/ can tell what has changed since.
+-- Saves the present state of the database, so that changes/ can show what has changed since.
 -- The terminals have fetched their queue by then.
 UPDATE term SET syn = 0;
 DELETE FROM term_sync;

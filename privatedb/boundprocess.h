@@ -3,14 +3,14 @@
 #include <QProcess>
 
 /// A child process that never outlives the program that started it: the kernel signals it when its
-/// parent is gone, also when the parent was killed and could not clean up.
+/// parent ends, even when the parent is killed and cannot clean up.
 ///
-/// The bond is to the thread that calls start(): that thread must live as long as the child shall.
+/// It is bound to the thread that calls start(): that thread must live as long as the child should.
 class BoundProcess : public QProcess {
     Q_OBJECT
 public:
-    /// Where the child stands in a terminal: with the program (Ctrl-C reaches both), or apart, so
-    /// that the program alone decides when the child ends.
+    /// The child's process group: the program's (Ctrl-C in a terminal reaches both), or its own, so
+    /// that only the program decides when the child ends.
     enum class Group { WithParent, OfItsOwn };
 
     /// \a deathSignal is what the child receives when its parent dies.

@@ -18,13 +18,13 @@ bool makeDataFolder(const ServerFolder &folder, QString &error)
 {
     MariaDbProcess install(folder, BoundProcess::Group::OfItsOwn);
     install.setProcessChannelMode(QProcess::MergedChannels);
-    // It would run programs that it finds below its working folder.
+    // The installer would run programs that it finds below its working folder.
     install.setWorkingDirectory(folder.path());
     install.start(MariaDbPrograms::find(MariaDbPrograms::Program::InstallDb),
                   QStringList{QStringLiteral("--no-defaults"),
                               QStringLiteral("--auth-root-authentication-method=normal"),
                               QStringLiteral("--skip-test-db"),
-                              // Also where the machine cannot look its own name up.
+                              // For machines that cannot resolve their own name.
                               QStringLiteral("--force"),
                               QStringLiteral("--datadir=%1").arg(folder.dataDir())}
                       + ServerOptions::forInstallation());

@@ -5,18 +5,18 @@
 
 #include <sys/types.h>
 
-/// A folder for this user alone that is gone for certain when this program is, also when it was
-/// killed, unless it is to be kept.
+/// A private folder that is removed when this program ends, even when it is killed, unless it is to
+/// be kept.
 ///
-/// A small process of its own waits until this program is gone, and every child that works in the
-/// folder, and then removes it. It notices that by a pipe which they all hold open.
+/// A small guard process waits until this program and every child that works in the folder have
+/// ended, and then removes it. It notices their end by a pipe that all of them hold open.
 class GuardedFolder {
 public:
     enum class AtTheEnd { Removed, Kept };
 
-    /// Makes the folder. \a name ends in XXXXXX, which is replaced.
+    /// Creates the folder. \a name ends in XXXXXX, which is replaced.
     GuardedFolder(const QString &name, AtTheEnd atTheEnd);
-    /// Waits until every child that works in the folder is gone.
+    /// Waits until every child that works in the folder has ended.
     ~GuardedFolder();
     GuardedFolder(const GuardedFolder &) = delete;
     GuardedFolder &operator=(const GuardedFolder &) = delete;
@@ -26,7 +26,7 @@ public:
     QString errorString() const { return m_error; }
     QString path() const { return m_dir.path(); }
 
-    /// To be called in a child between fork and exec: the child works in the folder.
+    /// To be called between fork and exec in a child that works in the folder.
     void belongToThisProcess() const;
 
 private:

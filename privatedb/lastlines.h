@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The end of what a program of MariaDB's has printed, for the reason of a failure.
+/// The last 20 lines of a MariaDB program's output, to explain a failure.
 inline QString lastLines(const QString &text)
 {
     constexpr int count = 20;

@@ -36,7 +36,7 @@ struct Options {
 void describe(QCommandLineParser &parser, const Options &options)
 {
     parser.setApplicationDescription(QStringLiteral(
-        "Runs a command beside a MariaDB server of its own, which is gone afterwards.\n\n"
+        "Runs a command with a private MariaDB server, which is removed afterwards.\n\n"
         "The command finds the server in the environment: MIROVAHR_DB_SOCKET, MIROVAHR_DB_NAME,\n"
         "MIROVAHR_DB_USER and MIROVAHR_DB_PASSWORD_FILE (a file that holds the password).\n"
         "The administrator of the server is root, without a password.\n\n"

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// By these the service manager and the service that this program may be part of are reached.
+/// Variables that lead to the service manager and to the service that this program may belong to.
 constexpr const char *kServiceVariables[] = {"NOTIFY_SOCKET",  "LISTEN_FDS",   "LISTEN_PID",
                                              "LISTEN_FDNAMES", "WATCHDOG_PID", "WATCHDOG_USEC"};
 

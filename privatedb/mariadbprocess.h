@@ -4,10 +4,10 @@
 
 class ServerFolder;
 
-/// One of MariaDB's programs at work for a private server, which never outlives this program.
+/// A process of one of MariaDB's programs for a private server. It never outlives this program.
 ///
-/// It knows nothing of the machine's other servers and of the service manager, has its temporary
-/// files in the server's folder, and writes no core file, which would hold rows of people.
+/// It cannot reach the machine's other servers or the service manager, keeps its temporary files in
+/// the server's folder, and writes no core file, which would contain rows of people.
 class MariaDbProcess : public BoundProcess {
     Q_OBJECT
 public:

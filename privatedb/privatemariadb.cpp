@@ -21,7 +21,8 @@ constexpr int kStartTimeoutMs = 120000;
 constexpr int kStopTimeoutMs = 120000;
 constexpr int kReadyProbeMs = 20;
 
-/// Also when there is no such folder: it can be named then.
+/// The folder for temporary files: TMPDIR even when it does not exist, so that messages can name
+/// it.
 QString folderForTemporaryFiles()
 {
     const QString folder = QDir::tempPath();
@@ -147,7 +148,7 @@ QString PrivateMariaDb::password() const
 QSqlDatabase PrivateMariaDb::addConnection(const QString &connectionName, Account account) const
 {
     QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QMYSQL"), connectionName);
-    // The client library takes "localhost" for the machine's own server: only this option counts.
+    // For the client library "localhost" means the machine's own server: only this option counts.
     database.setConnectOptions(QStringLiteral("UNIX_SOCKET=%1").arg(socketPath()));
     database.setHostName(QStringLiteral("localhost"));
     if (account == Account::Host) {
@@ -156,7 +157,7 @@ QSqlDatabase PrivateMariaDb::addConnection(const QString &connectionName, Accoun
         database.setPassword(password());
     } else {
         database.setUserName(QStringLiteral("root"));
-        // Without any password the client library would take MYSQL_PWD of the environment.
+        // Without a password the client library would use MYSQL_PWD of the environment.
         database.setPassword(QStringLiteral(""));
     }
     return database;

@@ -11,7 +11,7 @@
 
 class MariaDbProcess;
 
-/// A MariaDB server of one's own in a temporary folder, for tests, the demo and tools.
+/// A private MariaDB server in a temporary folder, for tests, the demo and tools.
 ///
 /// It shares processor, memory and disk with the machine's servers, and nothing else. Everything
 /// that it writes lies in its folder (ServerFolder), temporary tables included. It takes no
@@ -47,8 +47,8 @@ public:
     void setDatabaseName(const QString &name) { m_databaseName = name; }
     /// What the first start() grants to Account::Host; everything by default.
     void setHostRights(HostRights rights) { m_hostRights = rights; }
-    /// Leaves the folder behind at the end, for a look at the data and the error log. Before the
-    /// first start().
+    /// Keeps the folder, to examine the data and the error log. To be called before the first
+    /// start().
     void setKeepFiles(bool keep) { m_keepFiles = keep; }
 
     /// Starts the server; true once it answers queries. The first call makes the data folder, the
@@ -56,6 +56,7 @@ public:
     bool start();
     /// Asks the server to shut down and waits until it has. True also when it was not running.
     bool stop();
+    /// stop() and start().
     bool restart();
     /// Ends the server at once (SIGKILL), as a crash would.
     void kill();

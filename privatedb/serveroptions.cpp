@@ -6,8 +6,9 @@
 
 namespace {
 
-/// What keeps a throw-away server small and quick: it need not survive the machine, so it never
-/// waits for the disk. None of it changes how SQL behaves, or what a killed server finds again.
+/// Options that keep a throw-away server small and fast: it need not survive a crash of the
+/// machine, so it never waits for the disk. None of them changes how SQL behaves, or what a killed
+/// server recovers.
 QStringList storage()
 {
     return {QStringLiteral("--debug-no-sync"),
@@ -25,15 +26,15 @@ QStringList storage()
 QStringList place(const ServerFolder &folder)
 {
     return {QStringLiteral("--datadir=%1").arg(folder.dataDir()),
-            // A server that starts removes every temporary table there, whosever it is.
+            // A server that starts removes all temporary tables there, even those of other servers.
             QStringLiteral("--tmpdir=%1").arg(folder.temporaryDir()),
             QStringLiteral("--socket=%1").arg(folder.socketPath()),
             QStringLiteral("--pid-file=%1").arg(folder.pidFile()),
             QStringLiteral("--log-error=%1").arg(folder.errorLogPath())};
 }
 
-/// What keeps statements from the machine, also those of the administrator: a routine that was
-/// copied from a site is run as such.
+/// Options that keep statements away from the machine, even the administrator's: routines that were
+/// copied from a site run as such.
 QStringList confinement(const ServerFolder &folder)
 {
     return {QStringLiteral("--skip-networking"),
@@ -43,10 +44,10 @@ QStringList confinement(const ServerFolder &folder)
             QStringLiteral("--skip-symbolic-links")}; // no table has files in another folder
 }
 
-/// mariadbd refuses to run as root unless it is told to.
+/// mariadbd refuses to run as root without this option.
 ///
-/// In two words, which mariadb-install-db hands on unread: at "--user=root" it would also make root
-/// the owner of a folder of plugins that belongs to the machine's server.
+/// Two words, which mariadb-install-db passes on unread: for "--user=root" it would also make root
+/// the owner of a plugin folder that belongs to the machine's server.
 QStringList account()
 {
     return ::geteuid() == 0 ? QStringList{QStringLiteral("--user"), QStringLiteral("root")}

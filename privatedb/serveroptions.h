@@ -10,7 +10,7 @@ namespace ServerOptions {
 /// For the server that mariadb-install-db starts to fill a data folder.
 QStringList forInstallation();
 
-/// For the server that is used.
+/// For the private server itself.
 QStringList forService(const ServerFolder &folder);
 
 } // namespace ServerOptions

@@ -9,19 +9,19 @@
 --
 --     ALTER USER 'yav'@'localhost' IDENTIFIED BY '...' ACCOUNT UNLOCK;
 --
--- The plugin works on the connection that the attendance server hands it, so `yav` stands for the
--- server's account. An account that exists keeps its password and whatever else it may do: look
--- with SHOW GRANTS. A server that is another machine needs its own host instead of 'localhost'.
+-- The plugin uses the connection that the attendance server passes to it, so `yav` stands for the
+-- server's account. An existing account keeps its password and its other rights: check them with
+-- SHOW GRANTS. A server that is another machine needs its own host instead of 'localhost'.
 
 SET NAMES utf8mb4;
 
 -- The plugin -------------------------------------------------------------------------------------
--- It deletes nothing and creates no tables. Of a column that an upsert inserts, MariaDB wants the
--- right to update it too.
+-- It deletes nothing and creates no tables. For a column that an upsert inserts, MariaDB also
+-- requires the right to update it.
 
 CREATE USER IF NOT EXISTS 'yav'@'localhost' ACCOUNT LOCK;
 
--- MariaDB 10.11 does not ask for SELECT (bid) and UPDATE (status) here; other servers do.
+-- MariaDB 10.11 does not require SELECT (bid) and UPDATE (status) here; other servers do.
 GRANT SELECT (uid, pid, pamId, title, name, surname, title2, phone, begin, `end`, created, edited,
               rsBegin, rsEnd, rsText, type, did, calendarID, bid, status, lastCalc, calc, gid),
       INSERT (pid, pamId, title, name, surname, title2, phone, begin, `end`, created, rsBegin, rsEnd,
@@ -65,11 +65,10 @@ GRANT EXECUTE ON FUNCTION getCurrentGid TO 'yav'@'localhost';
 GRANT EXECUTE ON PROCEDURE updateTermsSync TO 'yav'@'localhost';
 
 -- mirovahrctl ------------------------------------------------------------------------------------
--- It reads, whole tables because `preview` copies them and because `check-db` looks with it for
--- columns that the plugin's account does not see, and never writes. Not with this account but with
--- the plugin's: `force`, which sets a key in vars, and the first look of `check-db`, which judges
--- the rights of the plugin's account. EXECUTE on updateTermsSync is left out on purpose: that routine
--- writes.
+-- It only reads: whole tables, because `preview` copies them and `check-db` uses it to find columns
+-- that the plugin's account cannot see. `force`, which sets a key in vars, and the first run of
+-- `check-db`, which checks the rights of the plugin's account, need the plugin's account instead.
+-- EXECUTE on updateTermsSync is left out on purpose: that routine writes.
 
 CREATE USER IF NOT EXISTS 'mirovahrctl'@'localhost' ACCOUNT LOCK;
 
@@ -102,8 +101,8 @@ GRANT EXECUTE ON FUNCTION midnightFromTs TO 'mirovahrctl'@'localhost';
 GRANT EXECUTE ON FUNCTION monthFromTimestamp TO 'mirovahrctl'@'localhost';
 GRANT EXECUTE ON FUNCTION getCurrentGid TO 'mirovahrctl'@'localhost';
 
--- The texts of the routines, which `preview` copies. MariaDB shows them to nobody else but their
--- makers. TRIGGER, without which nobody sees triggers, is left out on purpose: it is also the right
--- to make them, so to refuse every change of a table. `preview` says that it cannot see them; use
--- another account for it where tables of the plugin have triggers.
+-- The texts of the routines, which `preview` copies. Otherwise MariaDB shows them only to their
+-- definers. TRIGGER, without which nobody sees triggers, is left out on purpose: it also allows
+-- creating triggers, and so blocking every change of a table. `preview` says that it cannot see them;
+-- use another account for it where tables of the plugin have triggers.
 GRANT SELECT ON mysql.proc TO 'mirovahrctl'@'localhost';

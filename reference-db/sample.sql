@@ -1,4 +1,4 @@
--- Attendance database: a small company to try and test with. Load after schema.sql and routines.sql.
+-- Attendance database: a small company for trials and tests. Load after schema.sql and routines.sql.
 -- The same content every time; days are midnights of the session's time zone.
 
 SET NAMES utf8mb4;

@@ -7,10 +7,10 @@
 -- Local time is the time zone of the server's sessions.
 --
 -- Ids of branches and administrators have 16 bits, because operations of the plugin and of the
--- repositories (db/) keep no more: in wider columns they would take 65537 for 1. Here the server
+-- repositories (db/) keep no more: in wider columns they would confuse 65537 with 1. Here the server
 -- refuses such an id. Only `bas` takes 32 bits, as its operations do.
 --
--- term_sync and pzt have no primary key: their rows may repeat. Where the server wants one on every
+-- term_sync and pzt have no primary key: their rows may repeat. Where the server requires one on every
 -- table, add a column `id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY KEY` to both.
 --
 -- Load into an empty database, then routines.sql.
@@ -254,7 +254,7 @@ CREATE TABLE pzt (
 
 -- Settings ---------------------------------------------------------------------------------------
 
--- Two names are the same only when they are spelled the same, blanks at the end included.
+-- Names are equal only when all characters are equal, trailing blanks included.
 CREATE TABLE vars (
     name  VARCHAR(160) COLLATE utf8mb4_nopad_bin NOT NULL,
     value MEDIUMTEXT   NULL,

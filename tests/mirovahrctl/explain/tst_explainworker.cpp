@@ -199,11 +199,11 @@ void TestExplainWorker::whatIsExplainedHappens()
     }
     QCOMPARE(explained, happened);
 
-    QStringList told;
+    QStringList facts;
     for (const char *fact : {"person", "balance", "supervisor", "branch", "calendar"})
-        told += explained.value(fact).toString();
-    told += explained.value("waits").toBool() ? "yes" : "no";
-    QCOMPARE(told.join(' '), words);
+        facts += explained.value(fact).toString();
+    facts += explained.value("waits").toBool() ? "yes" : "no";
+    QCOMPARE(facts.join(' '), words);
 
     compareWarnings(run, trace.log);
 }

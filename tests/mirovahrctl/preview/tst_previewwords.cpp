@@ -33,7 +33,8 @@ private Q_SLOTS:
 
 private:
     /// The lines of a preview with one line of an export.
-    QString told(const ExportRow &line, const QString &account = QStringLiteral("mirovahrctl"));
+    QString described(const ExportRow &line,
+                      const QString &account = QStringLiteral("mirovahrctl"));
 
     PreviewBench m_bench;
 };
@@ -49,7 +50,7 @@ void TestPreviewWords::init()
     m_bench.writeIni();
 }
 
-QString TestPreviewWords::told(const ExportRow &line, const QString &account)
+QString TestPreviewWords::described(const ExportRow &line, const QString &account)
 {
     m_bench.writeExport({line});
     const PreviewResult result = m_bench.preview(m_bench.options(account));
@@ -74,7 +75,7 @@ void TestPreviewWords::aMomentHasItsOffsetAndADayHasNone()
 
 void TestPreviewWords::aNameThatChanges()
 {
-    QCOMPARE(told(SampleExport::jana().with(&ExportRow::prijmeni, "Malá")),
+    QCOMPARE(described(SampleExport::jana().with(&ExportRow::prijmeni, "Malá")),
              QString("changed-people | 1234.1 Jana Malá | surname | Nováková -> Malá\n"
                      "changed-people | 1234.1 Jana Malá | last changed |  -> now\n"
                      "terminals | terminal 1 (Sklad) | has to fetch | nothing -> people\n"
@@ -86,7 +87,7 @@ void TestPreviewWords::aNewPerson()
     const ExportRow line = SampleExport::newcomer(6001)
                                .with(&ExportRow::datumNastupu, QDate(2024, 5, 1))
                                .with(&ExportRow::kalendarPlatnostOd, QDate(2024, 6, 1));
-    QCOMPARE(told(line),
+    QCOMPARE(described(line),
              QString("new-people | 6001.1 Eva Malá | is created |  -> \n"
                      "new-people | 6001.1 Eva Malá | uid |  -> 9\n"
                      "new-people | 6001.1 Eva Malá | pid |  -> 60011\n"
@@ -119,7 +120,7 @@ void TestPreviewWords::aNewPerson()
 void TestPreviewWords::aPersonWhoMoves()
 {
     QCOMPARE(
-        told(SampleExport::peter().with(&ExportRow::stredisko, 120)),
+        described(SampleExport::peter().with(&ExportRow::stredisko, 120)),
         QString("changed-people | 1002.1 Peter Horváth | last changed |  -> now\n"
                 "changed-people | 1002.1 Peter Horváth | home branch | Predajňa -> Sklad\n"
                 "recalculation | 1002.1 Peter Horváth | attendance recalculated from | 2025-04-01 "
@@ -143,7 +144,7 @@ void TestPreviewWords::aPersonWhoMoves()
 void TestPreviewWords::aBalanceThatIsCorrected()
 {
     QCOMPARE(
-        told(SampleExport::maria().with(&ExportRow::dovolenaZustatek, "22.25")),
+        described(SampleExport::maria().with(&ExportRow::dovolenaZustatek, "22.25")),
         QString(
             "changed-people | 1001.1 Mária Kováčová | last changed |  -> now\n"
             "balances | 1001.1 Mária Kováčová | vacation balance corrected on %1 by |  -> +2.25 "
@@ -156,7 +157,7 @@ void TestPreviewWords::aBalanceThatIsCorrected()
 void TestPreviewWords::anotherSupervisor()
 {
     QCOMPARE(
-        told(SampleExport::jan().with(&ExportRow::nadrizenyOsobniCislo, 1002)),
+        described(SampleExport::jan().with(&ExportRow::nadrizenyOsobniCislo, 1002)),
         QString("changed-people | 1235.1 Ján Szabó | last changed |  -> now\n"
                 "supervisors | 1235.1 Ján Szabó | requests go to administrator 1 (1001.1 Mária "
                 "Kováčová) | yes -> no\n"
@@ -169,9 +170,9 @@ void TestPreviewWords::anotherSupervisor()
 void TestPreviewWords::anotherCalendar()
 {
     QCOMPARE(
-        told(SampleExport::jan()
-                 .with(&ExportRow::kalendar, 3)
-                 .with(&ExportRow::kalendarPlatnostOd, QDate(2025, 2, 1))),
+        described(SampleExport::jan()
+                      .with(&ExportRow::kalendar, 3)
+                      .with(&ExportRow::kalendarPlatnostOd, QDate(2025, 2, 1))),
         QString("changed-people | 1235.1 Ján Szabó | last changed |  -> now\n"
                 "changed-people | 1235.1 Ján Szabó | HR's calendar | 2 -> 3\n"
                 "recalculation | 1235.1 Ján Szabó | attendance recalculated from | 2025-04-01 -> "
@@ -193,7 +194,7 @@ void TestPreviewWords::anotherCalendar()
 void TestPreviewWords::theForceFlagIsWrittenBack()
 {
     m_bench.site().run("DELETE FROM vars WHERE name LIKE '%forceSync'");
-    QCOMPARE(told(SampleExport::tomas()),
+    QCOMPARE(described(SampleExport::tomas()),
              QString("changed-people | 2001.2 Tomáš Baláž | last changed |  -> now\n"
                      "settings | YAV.MHRWorker.forceSync | value |  -> 0"));
 }
@@ -207,7 +208,7 @@ void TestPreviewWords::whatATriggerDoes()
                        "DELETE FROM bradm WHERE bid = 2; "
                        "UPDATE brape SET since = UNIX_TIMESTAMP('2024-01-01') WHERE uid = 5; END");
     QCOMPARE(
-        told(SampleExport::jana().with(&ExportRow::datumVystupu, QDate(2026, 1, 31)), "root"),
+        described(SampleExport::jana().with(&ExportRow::datumVystupu, QDate(2026, 1, 31)), "root"),
         QString(
             "changed-people | 1234.1 Jana Nováková | employed until |  -> 2026-01-31\n"
             "changed-people | 1234.1 Jana Nováková | last changed |  -> now\n"
@@ -244,7 +245,7 @@ void TestPreviewWords::whatOthersHaveDoneIsNoDifference()
                        "2), (1, 'U', 'people', 'uid', 4, NULL, NULL, 1, 2)");
     m_bench.site().run("INSERT INTO term_sync SELECT tid, type, ref, ref_col, ref_id, ref_col2, "
                        "ref_id2, UNIX_TIMESTAMP() + 100, flags FROM term_sync");
-    QCOMPARE(told(SampleExport::tomas()),
+    QCOMPARE(described(SampleExport::tomas()),
              QString("changed-people | 2001.2 Tomáš Baláž | last changed |  -> now"));
 }
 
