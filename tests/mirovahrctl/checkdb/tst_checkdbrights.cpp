@@ -12,7 +12,7 @@ namespace {
 
 const char kPlugin[] = "yav";
 const char kTool[] = "mirovahrctl";
-const QString kFirstLook =
+const QString kFirstCheck =
     "As far as this account can see, the database meets the plugin's requirements.";
 
 /// The rules of all findings, or of those of one severity.
@@ -94,7 +94,7 @@ void TestCheckDbRights::theAccountOfThePluginIsFine()
 {
     const ToolRun run = check(kPlugin);
     COMPARE_EXIT(run, ExitStatus::Fine);
-    QCOMPARE(run.json().value("verdict").toString(), kFirstLook);
+    QCOMPARE(run.json().value("verdict").toString(), kFirstCheck);
     QCOMPARE(
         messages(run),
         QString(
@@ -133,7 +133,7 @@ void TestCheckDbRights::theSecondCheckFindsWhatThePluginsAccountCannotSee()
     const ToolRun second = checkWithTool();
     m_db.reset();
     COMPARE_EXIT(first, ExitStatus::Fine);
-    QCOMPARE(first.json().value("verdict").toString(), kFirstLook);
+    QCOMPARE(first.json().value("verdict").toString(), kFirstCheck);
     QCOMPARE(first.findingsOf("columns-hidden").size(), 1);
     COMPARE_EXIT(second, status);
     QCOMPARE(second.rules(), QStringList(rule));
