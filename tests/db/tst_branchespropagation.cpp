@@ -55,7 +55,7 @@ private Q_SLOTS:
     void peopleAreGivenToEveryAdministratorInOneStatement();
     void administratorIdsKeepTheir32BitsInTheTuples();
     void aBranchWithoutAdministratorsSucceedsWithoutAStatement();
-    void givingNobodyToAdministratorsSucceedsWithoutAStatement();
+    void givingNoPeopleToAdministratorsSucceedsWithoutAStatement();
     void aFailureToGivePeopleToAdministratorsIsReported();
     void peopleKeepAnAdministratorTheyHaveThroughAnotherBranch();
     void administratorsAreComparedIn32BitsAndNarrowedForTheRemoval();
@@ -87,9 +87,9 @@ private Q_SLOTS:
     void slotsVisitARepeatedIdAsOftenAsItComes();
     void slotsGoOnAfterAFailure_data();
     void slotsGoOnAfterAFailure();
-    void newTerminalsAndAdministratorsOfAnEmptyBranchGetNobody();
-    void nobodyCannotBeRemoved_data();
-    void nobodyCannotBeRemoved();
+    void newTerminalsAndAdministratorsOfAnEmptyBranchGetNoPeople();
+    void removingNoPersonFails_data();
+    void removingNoPersonFails();
     void slotCallsAreLoggedFromLevel1On();
 
     void additionsPropagateInsideTheCall();
@@ -617,7 +617,7 @@ void TestBranchesPropagation::aBranchWithoutAdministratorsSucceedsWithoutAStatem
     QCOMPARE(m_database.statements(), QStringList("SELECT aid FROM bradm WHERE bid = 4"));
 }
 
-void TestBranchesPropagation::givingNobodyToAdministratorsSucceedsWithoutAStatement()
+void TestBranchesPropagation::givingNoPeopleToAdministratorsSucceedsWithoutAStatement()
 {
     QVERIFY(Repo(*this).AddPeopleToAdmins(2, {"0", "x", ""}));
     QCOMPARE(m_database.statements(), QStringList(kAdminsOf2));
@@ -1031,7 +1031,7 @@ void TestBranchesPropagation::slotsGoOnAfterAFailure()
     QTEST(table == "people_term" ? registered() : handled(), "left");
 }
 
-void TestBranchesPropagation::newTerminalsAndAdministratorsOfAnEmptyBranchGetNobody()
+void TestBranchesPropagation::newTerminalsAndAdministratorsOfAnEmptyBranchGetNoPeople()
 {
     LogCapture log;
     QVERIFY(Repo(*this).slotAddedBranchToTerms(4, "11,12"));
@@ -1044,7 +1044,7 @@ void TestBranchesPropagation::newTerminalsAndAdministratorsOfAnEmptyBranchGetNob
     QCOMPARE(log.lines(), QStringList());
 }
 
-void TestBranchesPropagation::nobodyCannotBeRemoved_data()
+void TestBranchesPropagation::removingNoPersonFails_data()
 {
     QTest::addColumn<Call>("call");
     QTest::addColumn<QString>("statement");
@@ -1056,7 +1056,7 @@ void TestBranchesPropagation::nobodyCannotBeRemoved_data()
         << "DELETE FROM admins_people WHERE aid=31  AND uid IN()";
 }
 
-void TestBranchesPropagation::nobodyCannotBeRemoved()
+void TestBranchesPropagation::removingNoPersonFails()
 {
     QFETCH(Call, call);
     QFETCH(QString, statement);

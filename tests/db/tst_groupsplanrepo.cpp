@@ -48,7 +48,7 @@ private Q_SLOTS:
     void currentGroupIsTheLatestThatHasBegun_data();
     void currentGroupIsTheLatestThatHasBegun();
     void currentGroupOfMonth0IsThatOfTheServersMonth();
-    void currentGroupOfNobodyRunsNoStatement();
+    void currentGroupWithoutAPersonRunsNoStatement();
     void currentGroupFallsBackToThePersonWhenAsked();
     void currentGroupDoesNotFallBackWhenThePlanHasOne();
     void currentGroupIs0WhenThePersonHasNoneEither();
@@ -481,7 +481,7 @@ void TestGroupsPlanRepo::currentGroupOfMonth0IsThatOfTheServersMonth()
     QCOMPARE(repo.getCurrentGid(7, 0, false), 5u);
 }
 
-void TestGroupsPlanRepo::currentGroupOfNobodyRunsNoStatement()
+void TestGroupsPlanRepo::currentGroupWithoutAPersonRunsNoStatement()
 {
     m_database.run("INSERT INTO groups_plan (gid, uid, since) VALUES (3, 0, 202401)");
     QCOMPARE(Repo(*this).getCurrentGid(0, 202403, true), 0u);

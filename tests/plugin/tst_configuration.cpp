@@ -16,8 +16,8 @@ private Q_SLOTS:
     void timerIntervalIsInSeconds();
     void syncIntervalIsInTicks_data();
     void syncIntervalIsInTicks();
-    void testModeWritesNobody_data();
-    void testModeWritesNobody();
+    void testModeWritesNoPerson_data();
+    void testModeWritesNoPerson();
     void importFileIsAPath_data();
     void importFileIsAPath();
     void deleteFileRemovesTheExport_data();
@@ -159,7 +159,7 @@ void TestConfiguration::syncIntervalIsInTicks()
     QCOMPARE(synchronised, expected);
 }
 
-void TestConfiguration::testModeWritesNobody_data()
+void TestConfiguration::testModeWritesNoPerson_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<bool>("on");
@@ -170,7 +170,7 @@ void TestConfiguration::testModeWritesNobody_data()
         QTest::addRow("'%s'", value) << QByteArray("testMode=") + value << true;
 }
 
-void TestConfiguration::testModeWritesNobody()
+void TestConfiguration::testModeWritesNoPerson()
 {
     QFETCH(QByteArray, line);
     QFETCH(bool, on);

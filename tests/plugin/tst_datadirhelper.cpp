@@ -72,8 +72,8 @@ private Q_SLOTS:
     void aFolderIsMadeWithItsParents();
     void anExistingFolderIsLeftAsItIs();
     void aFolderWithoutTheRightToWriteIsReported();
-    void aFolderThatCannotBeMadeIsReportedTwice();
-    void whatNobodyCanMakeIsReported();
+    void aFolderThatCannotBeCreatedIsReportedTwice();
+    void aFolderThatCannotBeCreatedIsReported();
 
 private:
     std::unique_ptr<LogCapture> m_log;
@@ -207,7 +207,7 @@ void TestDataDirHelper::aFolderWithoutTheRightToWriteIsReported()
                           "logsDir logs"}));
 }
 
-void TestDataDirHelper::aFolderThatCannotBeMadeIsReportedTwice()
+void TestDataDirHelper::aFolderThatCannotBeCreatedIsReportedTwice()
 {
     setMode(m_dir->path(), 0555);
     const QString folder = m_dir->filePath("a/b");
@@ -218,7 +218,7 @@ void TestDataDirHelper::aFolderThatCannotBeMadeIsReportedTwice()
     QVERIFY(!QFile::exists(m_dir->filePath("a")));
 }
 
-void TestDataDirHelper::whatNobodyCanMakeIsReported()
+void TestDataDirHelper::aFolderThatCannotBeCreatedIsReported()
 {
     DataDirHelper::validateDir("/proc/nothing");
     QCOMPARE(m_log->lines(),

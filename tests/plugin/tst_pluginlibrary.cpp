@@ -26,7 +26,7 @@ private Q_SLOTS:
     void thePluginAnswersToItsNames_data();
     void thePluginAnswersToItsNames();
     void thereIsOneInstanceInTheProcess();
-    void aDeletedInstanceIsMadeAnew();
+    void aDeletedInstanceIsCreatedAgain();
     void onlyTheEntryPointsOfThePluginLoaderAreExported();
     void installPutsTheLibraryIntoThePluginDirectory();
     void textsThatNoRunReachesAreInTheLibrary_data();
@@ -125,7 +125,7 @@ void TestPluginLibrary::thereIsOneInstanceInTheProcess()
     QVERIFY(first.unload());
 }
 
-void TestPluginLibrary::aDeletedInstanceIsMadeAnew()
+void TestPluginLibrary::aDeletedInstanceIsCreatedAgain()
 {
     using EntryPoint = QObject *(*)();
     QLibrary library(LoadedPlugin::path());

@@ -40,7 +40,7 @@ private Q_SLOTS:
     void beforeStartTheOtherOperationsOnlyLog();
     void aDisabledPluginReportsSuccessAndDoesNothing_data();
     void aDisabledPluginReportsSuccessAndDoesNothing();
-    void aDisabledPluginStaysSo();
+    void aDisabledPluginStaysDisabled();
     void initReportsADisabledPlugin();
     void initIsTheOnlySlotOfItsOwn();
     void theVersionIsTheSameInEveryState();
@@ -249,7 +249,7 @@ void TestPluginLifecycle::aDisabledPluginReportsSuccessAndDoesNothing()
     QVERIFY(HostApplication::instance()->worker() == nullptr);
 }
 
-void TestPluginLifecycle::aDisabledPluginStaysSo()
+void TestPluginLifecycle::aDisabledPluginStaysDisabled()
 {
     PluginIni::write("enabled=false\n");
     ServerInterface *const plugin = load(1);

@@ -108,7 +108,7 @@ private Q_SLOTS:
     void everyPathOfTheServerLiesInItsFolder();
     void theServerHasNoFileOpenElsewhere();
     void nobodyElseMayEnterTheFolder();
-    void aFolderWithBlanksInItsNameWillDo();
+    void aFolderMayHaveBlanksInItsName();
     void aFolderThatTheServerWouldTakeForSeveralIsRefused();
     void aMissingFolderForTemporaryFilesIsNamed();
 
@@ -229,7 +229,7 @@ void TestMachineUntouched::nobodyElseMayEnterTheFolder()
     QCOMPARE(status.st_uid, ::geteuid());
 }
 
-void TestMachineUntouched::aFolderWithBlanksInItsNameWillDo()
+void TestMachineUntouched::aFolderMayHaveBlanksInItsName()
 {
     const QString folder = m_temp->filePath("a 'folder' * of \"mine\"");
     QVERIFY(QDir().mkdir(folder));

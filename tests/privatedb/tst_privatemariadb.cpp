@@ -67,7 +67,7 @@ private Q_SLOTS:
     void aKilledServerComesBackWithItsData();
     void furtherOptionsReachTheServer();
     void aSocketPathThatIsTooLongFailsEarlyAndIsNamed();
-    void aFolderThatCannotBeMadeIsNamed();
+    void aFolderThatCannotBeCreatedIsNamed();
     void aServerThatCannotStartShowsTheEndOfItsLog();
     void aFileWithDelimitersIsLoaded();
     void aLoadErrorShowsTheFileAndTheDatabasesMessage();
@@ -87,7 +87,7 @@ private Q_SLOTS:
     void serverCommandAndFolderGoWithAKilledProgram();
     void aProgramThatIsKilledWhileItStartsLeavesNothingBehind();
     void aKilledProgramLeavesAFolderThatIsToBeKept();
-    void aMachineThatCannotLookItsNameUpWillDo();
+    void aMachineNeedNotResolveItsOwnName();
     void aMissingDriverNamesThePackage();
 
 private:
@@ -240,7 +240,7 @@ void TestPrivateMariaDb::aSocketPathThatIsTooLongFailsEarlyAndIsNamed()
     QCOMPARE(entries(longFolder), QStringList());
 }
 
-void TestPrivateMariaDb::aFolderThatCannotBeMadeIsNamed()
+void TestPrivateMariaDb::aFolderThatCannotBeCreatedIsNamed()
 {
     PrivateMariaDb server;
     server.setBaseDir(m_temp->filePath("missing"));
@@ -472,7 +472,7 @@ void TestPrivateMariaDb::aKilledProgramLeavesAFolderThatIsToBeKept()
     QCOMPARE(entries(m_temp->path()).size(), 1);
 }
 
-void TestPrivateMariaDb::aMachineThatCannotLookItsNameUpWillDo()
+void TestPrivateMariaDb::aMachineNeedNotResolveItsOwnName()
 {
     // In a private view, where the machine's files only seem to be gone.
     QProcess program;

@@ -27,7 +27,7 @@ class TestExportTexts : public WorkerTest {
 
 private Q_SLOTS:
     void anApostropheMakesTheStatementFail();
-    void nobodyElseSuffersFromIt();
+    void otherPeopleAreUnaffected();
     void aBackslashAtTheEndMakesTheStatementFail();
     void aBackslashInTheMiddleIsLost();
     void twoTextsReachEachOtherWithoutAnApostrophe();
@@ -53,7 +53,7 @@ void TestExportTexts::anApostropheMakesTheStatementFail()
     QCOMPARE(surname(12341), QString("Nováková"));
 }
 
-void TestExportTexts::nobodyElseSuffersFromIt()
+void TestExportTexts::otherPeopleAreUnaffected()
 {
     synchronise(
         {jana("D'Arc"), SampleExport::maria().with(&ExportRow::prijmeni, QStringLiteral("Malá"))});

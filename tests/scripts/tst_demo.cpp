@@ -14,7 +14,7 @@ class TestDemo : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void theDemoEndsByItself();
-    void brokenLinesAndAnUnknownBranchAreWarnedOf();
+    void brokenLinesAndAnUnknownBranchCauseWarnings();
     void theFirstSynchronisationShowsEveryKindOfChange_data();
     void theFirstSynchronisationShowsEveryKindOfChange();
     void theSecondSynchronisationShowsWhatHrChanged_data();
@@ -52,7 +52,7 @@ void TestDemo::theDemoEndsByItself()
     QVERIFY(m_second.contains("| YAV.MHRWorker.forceSync | 0     |\n"));
 }
 
-void TestDemo::brokenLinesAndAnUnknownBranchAreWarnedOf()
+void TestDemo::brokenLinesAndAnUnknownBranchCauseWarnings()
 {
     for (const char *text : {"parts count (17) <> fields count(18) - line skipped!",
                              "parts count (19) <> fields count(18) - line skipped!",

@@ -26,7 +26,7 @@ private Q_SLOTS:
     void wrongUsageEndsWithTheSameStatus_data();
     void wrongUsageEndsWithTheSameStatus();
 
-    void aBuildTellsHowFarItIs();
+    void aBuildShowsItsProgress();
     void aBuildThatFailsShowsWhatItPrinted();
 
 private:
@@ -127,7 +127,7 @@ static void build(ProgramRun &run, const QString &command)
     run.run("bash", {"-c", line.arg(command)});
 }
 
-void TestPrograms::aBuildTellsHowFarItIs()
+void TestPrograms::aBuildShowsItsProgress()
 {
     ProgramRun run;
     build(run, R"(for step in {1..40}; do echo "[$step/40] Building"; done)");

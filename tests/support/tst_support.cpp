@@ -19,7 +19,7 @@ private Q_SLOTS:
     void resetKeepsOpenConnectionsUsable();
     void anEmptyDatabaseHasEveryTableAndNoRow();
     void statementsAreThoseOfTheHostAccountInTheirOrder();
-    void preparedStatementsAreToldFromDirectOnes();
+    void preparedStatementsAreDistinguishedFromDirectOnes();
     void aFailedExecutionIsLoggedAsWell();
     void theServerLogsATextWithoutItsTrailingSemicolon();
     void aTextOfSeveralStatementsIsLoggedWhole();
@@ -99,7 +99,7 @@ void TestSupport::statementsAreThoseOfTheHostAccountInTheirOrder()
     QCOMPARE(m_db.statements(), QStringList());
 }
 
-void TestSupport::preparedStatementsAreToldFromDirectOnes()
+void TestSupport::preparedStatementsAreDistinguishedFromDirectOnes()
 {
     QSqlDatabase database = m_db.openPluginConnection();
     m_db.clearStatements();

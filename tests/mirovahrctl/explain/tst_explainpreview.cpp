@@ -68,7 +68,7 @@ private Q_SLOTS:
     void initTestCase();
     void bothSayTheSame_data();
     void bothSayTheSame();
-    void everyKindOfChangeWasAmongThem();
+    void everyKindOfChangeOccurred();
 
 private:
     Explained explain(const QString &payrollId);
@@ -267,7 +267,7 @@ void TestExplainPreview::compareWarnings(const QVector<Explained> &people,
         QVERIFY2(logged.contains(text) || isOfUncertain(text), qPrintable(text));
 }
 
-void TestExplainPreview::everyKindOfChangeWasAmongThem()
+void TestExplainPreview::everyKindOfChangeOccurred()
 {
     if (environmentNumber(kCount, kQuickCount) < kQuickCount)
         return;

@@ -82,7 +82,7 @@ private Q_SLOTS:
     void initTestCase();
     void theFactsAreWhatHappens_data();
     void theFactsAreWhatHappens();
-    void everyWordWasAmongThem();
+    void everyWordOccurred();
 
 private:
     using People = std::map<quint32, Person>;
@@ -218,7 +218,7 @@ void TestExplainRandom::compareFact(const QString &fact, const QJsonObject &expl
     m_words += fact + ' ' + word;
 }
 
-void TestExplainRandom::everyWordWasAmongThem()
+void TestExplainRandom::everyWordOccurred()
 {
     if (environmentNumber(kCount, kQuickCount) < kQuickCount)
         return;

@@ -16,22 +16,22 @@ private Q_SLOTS:
 
     void theFlagIsSetAndConfirmed();
     void theFlagIsTakenBackAndConfirmed();
-    void aFlagThatIsSetAlreadyIsSaid();
+    void aFlagThatIsAlreadySetIsReported();
     void thePluginObeysTheFlag();
     void onlyTheFlagIsWritten();
 
     void theTickPeriodIsTheConfiguredOne_data();
     void theTickPeriodIsTheConfiguredOne();
-    void aConfigurationThatKeepsThePluginFromActingIsTold_data();
-    void aConfigurationThatKeepsThePluginFromActingIsTold();
+    void aConfigurationThatKeepsThePluginFromActingIsReported_data();
+    void aConfigurationThatKeepsThePluginFromActingIsReported();
     void withoutConfigurationThePluginHasItsDefaults();
-    void aMissingExportIsTold();
-    void anExportCommandMakesUpForAMissingExport();
+    void aMissingExportIsReported();
+    void anExportCommandExcusesAMissingExport();
 
-    void aFlagThatIsTakenBackAtOnceIsTold();
-    void aFlagThatIsSetAgainAtOnceIsTold();
-    void anAccountThatMayNotWriteIsTold();
-    void aDatabaseWithoutSettingsIsTold();
+    void aFlagThatIsResetAtOnceIsReported();
+    void aFlagThatIsSetAgainAtOnceIsReported();
+    void anAccountThatMayNotWriteIsReported();
+    void aDatabaseWithoutSettingsIsReported();
     void aServerThatIsNotThereIsNoDatabase();
     void theTextForPeopleIsPlain();
 
@@ -129,7 +129,7 @@ void TestForce::theFlagIsTakenBackAndConfirmed()
              QString("No forced synchronisation is pending."));
 }
 
-void TestForce::aFlagThatIsSetAlreadyIsSaid()
+void TestForce::aFlagThatIsAlreadySetIsReported()
 {
     COMPARE_EXIT(force(), ExitStatus::Fine);
     const ToolRun run = force();
@@ -183,7 +183,7 @@ void TestForce::theTickPeriodIsTheConfiguredOne()
                  + " when it is not busy.");
 }
 
-void TestForce::aConfigurationThatKeepsThePluginFromActingIsTold_data()
+void TestForce::aConfigurationThatKeepsThePluginFromActingIsReported_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("rule");
@@ -195,7 +195,7 @@ void TestForce::aConfigurationThatKeepsThePluginFromActingIsTold_data()
                                << "Test mode is on: people are only logged, not written.";
 }
 
-void TestForce::aConfigurationThatKeepsThePluginFromActingIsTold()
+void TestForce::aConfigurationThatKeepsThePluginFromActingIsReported()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, rule);
@@ -219,7 +219,7 @@ void TestForce::withoutConfigurationThePluginHasItsDefaults()
                  .arg(m_ini));
 }
 
-void TestForce::aMissingExportIsTold()
+void TestForce::aMissingExportIsReported()
 {
     m_export.remove();
     const ToolRun run = force();
@@ -231,7 +231,7 @@ void TestForce::aMissingExportIsTold()
                              .arg(m_export.path())));
 }
 
-void TestForce::anExportCommandMakesUpForAMissingExport()
+void TestForce::anExportCommandExcusesAMissingExport()
 {
     m_export.remove();
     configure("syncCommand=\"/usr/bin/export\"\nsyncCommandRun=1\n");
@@ -240,7 +240,7 @@ void TestForce::anExportCommandMakesUpForAMissingExport()
     QCOMPARE(sentences(run).last(), QString("It runs the export command first."));
 }
 
-void TestForce::aFlagThatIsTakenBackAtOnceIsTold()
+void TestForce::aFlagThatIsResetAtOnceIsReported()
 {
     m_db.run("CREATE TRIGGER meanwhile BEFORE UPDATE ON vars FOR EACH ROW SET NEW.value = '0'");
     const ToolRun run = force();
@@ -252,7 +252,7 @@ void TestForce::aFlagThatIsTakenBackAtOnceIsTold()
              QString("No forced synchronisation is pending."));
 }
 
-void TestForce::aFlagThatIsSetAgainAtOnceIsTold()
+void TestForce::aFlagThatIsSetAgainAtOnceIsReported()
 {
     m_db.run("CREATE TRIGGER meanwhile BEFORE UPDATE ON vars FOR EACH ROW SET NEW.value = '1'");
     const ToolRun run = force({"--clear"});
@@ -262,7 +262,7 @@ void TestForce::aFlagThatIsSetAgainAtOnceIsTold()
                          "it."));
 }
 
-void TestForce::anAccountThatMayNotWriteIsTold()
+void TestForce::anAccountThatMayNotWriteIsReported()
 {
     m_db.run("REVOKE INSERT (value) ON vars FROM yav@localhost");
     const ToolRun run = force();
@@ -275,7 +275,7 @@ void TestForce::anAccountThatMayNotWriteIsTold()
     QCOMPARE(flag(), QString("0"));
 }
 
-void TestForce::aDatabaseWithoutSettingsIsTold()
+void TestForce::aDatabaseWithoutSettingsIsReported()
 {
     m_db.run("DROP TABLE vars");
     const ToolRun run = force();

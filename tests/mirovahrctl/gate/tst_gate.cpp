@@ -41,13 +41,13 @@ private Q_SLOTS:
     void theDefaultLimitsHoldToThePoint();
     void aLimitHoldsToThePoint_data();
     void aLimitHoldsToThePoint();
-    void whoLeaves_data();
-    void whoLeaves();
-    void whoMoves_data();
-    void whoMoves();
+    void leavingPeopleAreRecognised_data();
+    void leavingPeopleAreRecognised();
+    void movingPeopleAreRecognised_data();
+    void movingPeopleAreRecognised();
     void theLastLineOfARelationshipCounts();
     void aDroppedLineIsALineLost();
-    void severalReasonsAreAllTold();
+    void everyReasonIsReported();
 
     void anEmptyFileIsRefused_data();
     void anEmptyFileIsRefused();
@@ -204,7 +204,7 @@ void TestGate::aLimitHoldsToThePoint()
     compare(m_site->run(options), reasons);
 }
 
-void TestGate::whoLeaves_data()
+void TestGate::leavingPeopleAreRecognised_data()
 {
     QTest::addColumn<ExportRow>("before");
     QTest::addColumn<ExportRow>("after"); // without a personal number: no such line
@@ -240,7 +240,7 @@ void TestGate::whoLeaves_data()
         << Row() << Row().with(&Row::nadrizenyOsobniCislo, "7") << false;
 }
 
-void TestGate::whoLeaves()
+void TestGate::leavingPeopleAreRecognised()
 {
     QFETCH(ExportRow, before);
     QFETCH(ExportRow, after);
@@ -256,7 +256,7 @@ void TestGate::whoLeaves()
     QCOMPARE(run.json()["facts"].toObject()["leaving"].toInt(), leaves ? 1 : 0);
 }
 
-void TestGate::whoMoves_data()
+void TestGate::movingPeopleAreRecognised_data()
 {
     QTest::addColumn<ExportRow>("before");
     QTest::addColumn<ExportRow>("after");
@@ -279,7 +279,7 @@ void TestGate::whoMoves_data()
     QTest::newRow("who comes back") << left(Row()) << other << false;
 }
 
-void TestGate::whoMoves()
+void TestGate::movingPeopleAreRecognised()
 {
     QFETCH(ExportRow, before);
     QFETCH(ExportRow, after);
@@ -313,7 +313,7 @@ void TestGate::aDroppedLineIsALineLost()
     compare(m_site->run(options + QStringList("10")), {});
 }
 
-void TestGate::severalReasonsAreAllTold()
+void TestGate::everyReasonIsReported()
 {
     m_site->admit(GatePeople::some(100));
     m_site->deliver(GatePeople::file(changed(60, 30, &Row::stredisko, "130")).chopped(1));

@@ -105,10 +105,10 @@ class TestGateFaults : public QObject {
 private Q_SLOTS:
     void aGateThatIsKilledLeavesAWholeFile_data() { addScenarios({0, 1, 2, 3, 4}); }
     void aGateThatIsKilledLeavesAWholeFile();
-    void aCallThatFailsIsTold_data() { addScenarios({0, 2, 3}); }
-    void aCallThatFailsIsTold();
-    void aFullDiskIsTold_data() { addScenarios({0, 2}); }
-    void aFullDiskIsTold();
+    void aFailedCallIsReported_data() { addScenarios({0, 2, 3}); }
+    void aFailedCallIsReported();
+    void aFullDiskIsReported_data() { addScenarios({0, 2}); }
+    void aFullDiskIsReported();
     void theFileIsOnTheDiskBeforeItIsSeen();
     void aFileThatIsWrittenMeanwhileIsRefused();
 
@@ -227,13 +227,13 @@ void TestGateFaults::compareError(const ProgramRun &run, const GateSite &site,
              QString(isNew ? "The file was published nevertheless." : "Nothing was published."));
 }
 
-void TestGateFaults::aCallThatFailsIsTold()
+void TestGateFaults::aFailedCallIsReported()
 {
     QFETCH(int, number);
     failAtEveryCall(kScenarios[number], {"all", 0, EIO, false});
 }
 
-void TestGateFaults::aFullDiskIsTold()
+void TestGateFaults::aFullDiskIsReported()
 {
     QFETCH(int, number);
     failAtEveryCall(kScenarios[number], {"space", 0, ENOSPC, true});

@@ -138,8 +138,8 @@ private Q_SLOTS:
 
     void theFolderIsMadePrivate();
     void theFolderHasANameOfItsOwnByDefault();
-    void aFolderOfNoUseIsAFailure_data();
-    void aFolderOfNoUseIsAFailure();
+    void anUnusableFolderIsAFailure_data();
+    void anUnusableFolderIsAFailure();
     void anUntrustworthyFolderIsAFailure_data();
     void anUntrustworthyFolderIsAFailure();
     void aFolderOfAnotherUserIsAFailure();
@@ -156,7 +156,7 @@ private Q_SLOTS:
 
     void aFileThatIsWrittenMeanwhileHasChanged_data();
     void aFileThatIsWrittenMeanwhileHasChanged();
-    void aPipeInThePlaceOfHrsFileDoesNotHoldUp();
+    void aPipeInPlaceOfTheHrFileDoesNotBlockTheGate();
 
 private:
     QScopedPointer<GateSite> m_site;
@@ -550,7 +550,7 @@ void TestGateFiles::theFolderHasANameOfItsOwnByDefault()
     QVERIFY(QFile::exists(m_site->target() + ".gate/rejects.txt"));
 }
 
-void TestGateFiles::aFolderOfNoUseIsAFailure_data()
+void TestGateFiles::anUnusableFolderIsAFailure_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("path"); // in the site's folder
@@ -570,7 +570,7 @@ void TestGateFiles::aFolderOfNoUseIsAFailure_data()
                                                << "no/rejects.txt" << noFolder;
 }
 
-void TestGateFiles::aFolderOfNoUseIsAFailure()
+void TestGateFiles::anUnusableFolderIsAFailure()
 {
     QFETCH(QString, option);
     QFETCH(QString, path);
@@ -822,7 +822,7 @@ void TestGateFiles::aFileThatIsWrittenMeanwhileHasChanged()
     QVERIFY(!source.hasReadError());
 }
 
-void TestGateFiles::aPipeInThePlaceOfHrsFileDoesNotHoldUp()
+void TestGateFiles::aPipeInPlaceOfTheHrFileDoesNotBlockTheGate()
 {
     m_site->admit(GatePeople::some(1));
     QVERIFY(QFile::remove(m_site->hrFile()));

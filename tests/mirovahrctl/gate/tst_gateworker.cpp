@@ -13,7 +13,7 @@ private Q_SLOTS:
     void afterARefusalTheWorkerGoesOn();
     void aRefusalDoesNotTakeBackWhatWasAdmitted();
     void theSameFileArrivesOnceMore();
-    void statusTellsOfTheGate();
+    void statusReportsTheGate();
 
 private:
     /// A worker that runs the gate of this site before every synchronisation.
@@ -118,7 +118,7 @@ void TestGateWorker::theSameFileArrivesOnceMore()
     QCOMPARE(forceFlag(), QString("0"));
 }
 
-void TestGateWorker::statusTellsOfTheGate()
+void TestGateWorker::statusReportsTheGate()
 {
     m_db.run(QString("ALTER USER mirovahrctl@localhost IDENTIFIED BY '%1' ACCOUNT UNLOCK")
                  .arg(m_db.server().password()));

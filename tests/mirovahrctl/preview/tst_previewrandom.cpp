@@ -44,7 +44,7 @@ private Q_SLOTS:
     void initTestCase();
     void thePredictionIsWhatHappens_data();
     void thePredictionIsWhatHappens();
-    void everyKindOfDifferenceWasAmongThem();
+    void everyKindOfDifferenceOccurred();
 
 private:
     /// The whole content of a database, with moments since the begin of the test as "now".
@@ -148,7 +148,7 @@ void TestPreviewRandom::tryExport(RandomSite &random)
         m_kinds += PreviewWords::idOf(line.kind);
 }
 
-void TestPreviewRandom::everyKindOfDifferenceWasAmongThem()
+void TestPreviewRandom::everyKindOfDifferenceOccurred()
 {
     // Also for a single database, to reproduce a failure.
     QVERIFY2(m_kinds.contains("new-people") || m_kinds.contains("changed-people"),

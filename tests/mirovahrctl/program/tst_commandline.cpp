@@ -24,9 +24,9 @@ private Q_SLOTS:
     void everySubcommandExplainsItself();
     void everySubcommandRefusesAnOptionThatIsNone_data();
     void everySubcommandRefusesAnOptionThatIsNone();
-    void wrongUsageIsToldInJson_data();
-    void wrongUsageIsToldInJson();
-    void anUnknownSubcommandIsToldInJson();
+    void wrongUsageIsReportedInJson_data();
+    void wrongUsageIsReportedInJson();
+    void anUnknownSubcommandIsReportedInJson();
     void noSubcommandTakesAPasswordOnItsCommandLine_data();
     void noSubcommandTakesAPasswordOnItsCommandLine();
     void theProgramEndsWithTheStatus();
@@ -163,12 +163,12 @@ void TestCommandLine::everySubcommandRefusesAnOptionThatIsNone()
     QCOMPARE(run.out, QString());
 }
 
-void TestCommandLine::wrongUsageIsToldInJson_data()
+void TestCommandLine::wrongUsageIsReportedInJson_data()
 {
     addSubcommands();
 }
 
-void TestCommandLine::wrongUsageIsToldInJson()
+void TestCommandLine::wrongUsageIsReportedInJson()
 {
     QFETCH(QString, name);
     const ToolRun run = runTool({name, "--json", "--no-such-option"});
@@ -180,7 +180,7 @@ void TestCommandLine::wrongUsageIsToldInJson()
     QCOMPARE(run.json()["subcommand"].toString(), name);
 }
 
-void TestCommandLine::anUnknownSubcommandIsToldInJson()
+void TestCommandLine::anUnknownSubcommandIsReportedInJson()
 {
     for (const QStringList &arguments : {QStringList{"chek-file", "--json"}, {"--json"}}) {
         const ToolRun run = runTool(arguments);

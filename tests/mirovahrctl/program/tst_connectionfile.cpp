@@ -35,13 +35,13 @@ private Q_SLOTS:
     void aPasswordInThePrivateFileIsTaken_data();
     void aPasswordInThePrivateFileIsTaken();
     void aPasswordThatEverybodyCanReadIsNotUsed();
-    void aPasswordFileIsLookedForBesideTheFileThatNamesIt();
+    void aPasswordFileIsRelativeToTheFileThatNamesIt();
     void thePasswordOfTheCommandLineCountsMoreThanTheFile();
     void thePasswordOfTheEnvironmentCountsMoreThanTheFile();
     void anotherUserDoesNotGetThePasswordOfTheFile();
 
-    void aFileOfNoUseIsAFailure_data();
-    void aFileOfNoUseIsAFailure();
+    void anUnusableFileIsAFailure_data();
+    void anUnusableFileIsAFailure();
     void aNamedFileThatDoesNotExistIsAFailure();
     void whatIsMissingMayStandInTheFile_data();
     void whatIsMissingMayStandInTheFile();
@@ -187,7 +187,7 @@ void TestConnectionFile::aPasswordThatEverybodyCanReadIsNotUsed()
     QVERIFY2(run.err.contains("(using password: NO)"), run.report().constData());
 }
 
-void TestConnectionFile::aPasswordFileIsLookedForBesideTheFileThatNamesIt()
+void TestConnectionFile::aPasswordFileIsRelativeToTheFileThatNamesIt()
 {
     QVERIFY(QFile::copy(m_db.server().passwordFile(), m_folder->filePath("secret")));
     write(named(), lines().mid(0, 3) + QStringList{"password-file = secret"});
@@ -219,7 +219,7 @@ void TestConnectionFile::anotherUserDoesNotGetThePasswordOfTheFile()
     QVERIFY2(run.err.contains("'yav'@'localhost' (using password: NO)"), run.report().constData());
 }
 
-void TestConnectionFile::aFileOfNoUseIsAFailure_data()
+void TestConnectionFile::anUnusableFileIsAFailure_data()
 {
     QTest::addColumn<QString>("lines");
     QTest::addColumn<QString>("reason");
@@ -247,7 +247,7 @@ void TestConnectionFile::aFileOfNoUseIsAFailure_data()
         << "the key 'host' stands in no group; write [client] above it";
 }
 
-void TestConnectionFile::aFileOfNoUseIsAFailure()
+void TestConnectionFile::anUnusableFileIsAFailure()
 {
     QFETCH(QString, lines);
     QFETCH(QString, reason);

@@ -28,7 +28,7 @@ private Q_SLOTS:
     void theTextForPeopleIsPlain();
     void everythingIsCounted();
     void whatNeverHappenedIsLeftOut();
-    void aChangeByAnAdministratorIsNoTrace();
+    void aChangeByAnAdministratorIsNotCaptured();
     void correctionsOfTodayAreCounted();
     void nothingIsWritten();
 
@@ -39,13 +39,13 @@ private Q_SLOTS:
 
     void theGateIsReported();
     void everyTimeIsOfTheLocalZone();
-    void aRefusedFileIsTold();
+    void aRefusedFileIsReported();
     void theGatesTimeCountsWhereItIsKnown_data();
     void theGatesTimeCountsWhereItIsKnown();
     void aStatusFileIsReadTolerantly_data();
     void aStatusFileIsReadTolerantly();
-    void aStatusFileThatCannotBeReadIsOfNoUse_data();
-    void aStatusFileThatCannotBeReadIsOfNoUse();
+    void anUnreadableStatusFileIsReported_data();
+    void anUnreadableStatusFileIsReported();
     void theLineForMonitoringStaysOneLine();
 
     void wrongUsage_data();
@@ -160,7 +160,7 @@ void TestStatus::whatNeverHappenedIsLeftOut()
              QString("There is no trace of the plugin yet."));
 }
 
-void TestStatus::aChangeByAnAdministratorIsNoTrace()
+void TestStatus::aChangeByAnAdministratorIsNotCaptured()
 {
     m_db.run(
         QStringLiteral("UPDATE people SET edited = %1, editor = 1 WHERE uid = 5").arg(kNow - 60));
@@ -310,7 +310,7 @@ void TestStatus::everyTimeIsOfTheLocalZone()
     QCOMPARE(all.value("admittedTime").toString(), QString("2026-07-15T08:59:58+02:00"));
 }
 
-void TestStatus::aRefusedFileIsTold()
+void TestStatus::aRefusedFileIsReported()
 {
     const QString file = writeGate(R"({"result": "refused", "reasons":
         ["40 lines are gone", "12 people would leave"]})");
@@ -371,7 +371,7 @@ void TestStatus::aStatusFileIsReadTolerantly()
     QCOMPARE(facts(run).keys().filter("admitted"), QStringList());
 }
 
-void TestStatus::aStatusFileThatCannotBeReadIsOfNoUse_data()
+void TestStatus::anUnreadableStatusFileIsReported_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
@@ -384,7 +384,7 @@ void TestStatus::aStatusFileThatCannotBeReadIsOfNoUse_data()
     QTest::newRow("no object") << QByteArray("[]") << "'%1' is no status file of the gate";
 }
 
-void TestStatus::aStatusFileThatCannotBeReadIsOfNoUse()
+void TestStatus::anUnreadableStatusFileIsReported()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, reason);

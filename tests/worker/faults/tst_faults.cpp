@@ -136,8 +136,8 @@ private Q_SLOTS:
     void aLossBeforeTheAnswerIsSurvived();
     void aServerThatStopsAndComesBackIsSurvived_data() { addRows(m_commands, 37, any); }
     void aServerThatStopsAndComesBackIsSurvived();
-    void aLockThatIsNotGivenIsSurvived_data() { addRows(m_commands, 9, needsTables); }
-    void aLockThatIsNotGivenIsSurvived();
+    void aLockTimeoutIsSurvived_data() { addRows(m_commands, 9, needsTables); }
+    void aLockTimeoutIsSurvived();
     void aDeadlockIsSurvived_data() { addRows(m_commands, 13, needsTables); }
     void aDeadlockIsSurvived();
     void aDeadlockWithAnotherConnectionIsSurvived_data() { addRows(m_commands, 1, setsSupervisor); }
@@ -493,7 +493,7 @@ void TestFaults::lockAgainstHeldCommand()
     m_cycle.db().run("LOCK TABLES " + locks.join(", "));
 }
 
-void TestFaults::aLockThatIsNotGivenIsSurvived()
+void TestFaults::aLockTimeoutIsSurvived()
 {
     QFETCH(int, number);
     // New connections do not wait at all.

@@ -155,8 +155,8 @@ private Q_SLOTS:
     void theFileIsRemovedOnlyWhenAskedFor();
     void aFileOfInvalidLinesIsRemoved();
     void anEmptyFileIsRemoved();
-    void aFileThatCannotBeRemovedIsWarnedOf_data();
-    void aFileThatCannotBeRemovedIsWarnedOf();
+    void aFileThatCannotBeRemovedCausesAWarning_data();
+    void aFileThatCannotBeRemovedCausesAWarning();
 
     void carriageReturnsAreDropped();
     void whiteSpaceAroundALineIsDropped();
@@ -414,12 +414,12 @@ void TestExportFile::anEmptyFileIsRemoved()
     QVERIFY(!file.exists());
 }
 
-void TestExportFile::aFileThatCannotBeRemovedIsWarnedOf_data()
+void TestExportFile::aFileThatCannotBeRemovedCausesAWarning_data()
 {
     addDebugLevels();
 }
 
-void TestExportFile::aFileThatCannotBeRemovedIsWarnedOf()
+void TestExportFile::aFileThatCannotBeRemovedCausesAWarning()
 {
     QFETCH(int, level);
     // The kernel's name of an open file leads to the file but cannot be removed, not even by root.

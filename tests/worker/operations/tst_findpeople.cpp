@@ -33,8 +33,8 @@ private Q_SLOTS:
 
     void aPersonIsFoundByItsPid_data();
     void aPersonIsFoundByItsPid();
-    void aFailedCheckFindsNobody_data();
-    void aFailedCheckFindsNobody();
+    void aFailedCheckFindsNoPerson_data();
+    void aFailedCheckFindsNoPerson();
 
 private:
     void insertPerson(uint uid, uint pid)
@@ -187,12 +187,12 @@ void TestFindPeople::aPersonIsFoundByItsPid()
     QCOMPARE(trace.log, linesAt(debugLevel, {{2, "D MHRWorker::dbCheckPerson(1234.3)"}}));
 }
 
-void TestFindPeople::aFailedCheckFindsNobody_data()
+void TestFindPeople::aFailedCheckFindsNoPerson_data()
 {
     addDebugLevels();
 }
 
-void TestFindPeople::aFailedCheckFindsNobody()
+void TestFindPeople::aFailedCheckFindsNoPerson()
 {
     QFETCH(int, debugLevel);
     insertPerson(42, 12342);

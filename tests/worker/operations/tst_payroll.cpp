@@ -46,22 +46,22 @@ private Q_SLOTS:
     void theKeyOfTheSelectionFollowsThatOfTheExport_data();
     void theKeyOfTheSelectionFollowsThatOfTheExport();
     void testModeStillSelects();
-    void aFailureToReadTheExportsSelectsNobody();
+    void aFailureToReadTheExportsSelectsNoPerson();
     void aFailureToWriteTheSelectionIsReported();
 
     void aPersonIsBoundToPayrollSettings_data();
     void aPersonIsBoundToPayrollSettings();
-    void aBoundPersonIsBoundAnew();
+    void aBoundPersonIsBoundAgain();
     void bindingTheSameAgainFails();
     void anUnknownPersonIsNotBound_data();
     void anUnknownPersonIsNotBound();
     void aPersonOfUid0IsNotBound();
-    void aFailedLookUpBindsNobody_data();
-    void aFailedLookUpBindsNobody();
+    void aFailedLookUpBindsNoPerson_data();
+    void aFailedLookUpBindsNoPerson();
     void aFailureToBindIsCritical_data();
     void aFailureToBindIsCritical();
-    void testModeBindsNobody_data();
-    void testModeBindsNobody();
+    void testModeBindsNoPerson_data();
+    void testModeBindsNoPerson();
 
 private:
     void setVariable(const QString &name, const QString &value)
@@ -255,7 +255,7 @@ void TestPayroll::testModeStillSelects()
     QCOMPARE(variable("exportPam.3.selPeople"), QString("12342"));
 }
 
-void TestPayroll::aFailureToReadTheExportsSelectsNobody()
+void TestPayroll::aFailureToReadTheExportsSelectsNoPerson()
 {
     setVariable("exportPam.3.active", "1");
     m_db.hideTable("vars");
@@ -301,7 +301,7 @@ void TestPayroll::aPersonIsBoundToPayrollSettings()
     QCOMPARE(m_db.dump("people_pam"), QString("uid=42 id=2"));
 }
 
-void TestPayroll::aBoundPersonIsBoundAnew()
+void TestPayroll::aBoundPersonIsBoundAgain()
 {
     insertPerson();
     m_db.run("INSERT INTO people_pam (uid, id) VALUES (41, 1), (42, 1)");
@@ -357,12 +357,12 @@ void TestPayroll::aPersonOfUid0IsNotBound()
     QCOMPARE(trace.log, linesAt(1, notFoundLines()));
 }
 
-void TestPayroll::aFailedLookUpBindsNobody_data()
+void TestPayroll::aFailedLookUpBindsNoPerson_data()
 {
     addDebugLevels();
 }
 
-void TestPayroll::aFailedLookUpBindsNobody()
+void TestPayroll::aFailedLookUpBindsNoPerson()
 {
     QFETCH(int, debugLevel);
     insertPerson();
@@ -395,12 +395,12 @@ void TestPayroll::aFailureToBindIsCritical()
     QCOMPARE(m_db.dump("people_pam"), QString());
 }
 
-void TestPayroll::testModeBindsNobody_data()
+void TestPayroll::testModeBindsNoPerson_data()
 {
     addDebugLevels();
 }
 
-void TestPayroll::testModeBindsNobody()
+void TestPayroll::testModeBindsNoPerson()
 {
     QFETCH(int, debugLevel);
     insertPerson();

@@ -19,16 +19,16 @@ public:
 private Q_SLOTS:
     void init();
 
-    void whoeverHasARowIsFound_data();
-    void whoeverHasARowIsFound();
+    void everyPersonWithARowIsFound_data();
+    void everyPersonWithARowIsFound();
     void aLaterRowOfTheSameKeyWins_data();
     void aLaterRowOfTheSameKeyWins();
     void aChangeStaysWhoeverIsLookedForNext_data();
     void aChangeStaysWhoeverIsLookedForNext();
     void eachLoadReplacesTheOneBefore_data();
     void eachLoadReplacesTheOneBefore();
-    void nobodyIsFoundOnceItIsCleared_data();
-    void nobodyIsFoundOnceItIsCleared();
+    void aClearedCacheFindsNoPerson_data();
+    void aClearedCacheFindsNoPerson();
     void everybodyIsFoundThoughTheServerIsGone();
     void lookingForPeopleSendsNothing();
 
@@ -76,12 +76,12 @@ QString TestPeopleCache::surnameOf(quint32 pid)
     return person ? person->prijmeni : QStringLiteral("nobody");
 }
 
-void TestPeopleCache::whoeverHasARowIsFound_data()
+void TestPeopleCache::everyPersonWithARowIsFound_data()
 {
     addExpectations();
 }
 
-void TestPeopleCache::whoeverHasARowIsFound()
+void TestPeopleCache::everyPersonWithARowIsFound()
 {
     QFETCH(Pids, expected);
     QVector<quint32> pids = {1001, 3001, 4001};
@@ -143,12 +143,12 @@ void TestPeopleCache::eachLoadReplacesTheOneBefore()
     QCOMPARE(surnameOf(3001), QString("Iveta"));
 }
 
-void TestPeopleCache::nobodyIsFoundOnceItIsCleared_data()
+void TestPeopleCache::aClearedCacheFindsNoPerson_data()
 {
     addExpectations();
 }
 
-void TestPeopleCache::nobodyIsFoundOnceItIsCleared()
+void TestPeopleCache::aClearedCacheFindsNoPerson()
 {
     QFETCH(Pids, expected);
     load(expected);

@@ -103,7 +103,7 @@ private Q_SLOTS:
     void anyOtherStateClosesTheRunningPeriod();
     void theStateOfAPersonOverManyDays();
     void theWorkerDerivesTheStateOfToday();
-    void theWorkerTellsConfiguredStatesFromOthers();
+    void theWorkerDistinguishesConfiguredStates();
     void theWorkerLeavesTheGivenRecordAlone();
 
     void aPersonIsActiveBelowState4UntilTheLastDay_data();
@@ -520,7 +520,7 @@ void TestRecordCodes::theWorkerDerivesTheStateOfToday()
     });
 }
 
-void TestRecordCodes::theWorkerTellsConfiguredStatesFromOthers()
+void TestRecordCodes::theWorkerDistinguishesConfiguredStates()
 {
     // 21 has a text of its own in the program, 30 has none: only what is configured counts.
     MHRWorker worker;

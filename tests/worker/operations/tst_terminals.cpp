@@ -40,10 +40,10 @@ private Q_SLOTS:
     void queueingIsLoggedFromDebugLevel2On();
     void theProcedureIsCalledForAPersonWithoutTerminals();
     void testModeStillQueues();
-    void anUnknownPersonIsWarnedOf_data();
-    void anUnknownPersonIsWarnedOf();
-    void aPersonOfUid0IsWarnedOf();
-    void aFailedLookUpIsWarnedOf();
+    void anUnknownPersonCausesAWarning_data();
+    void anUnknownPersonCausesAWarning();
+    void aPersonOfUid0CausesAWarning();
+    void aFailedLookUpCausesAWarning();
     void aFailureToQueueIsCriticalAndEndsIt_data();
     void aFailureToQueueIsCriticalAndEndsIt();
     void aQuoteInTheTableNameFails();
@@ -132,12 +132,12 @@ void TestTerminals::testModeStillQueues()
     QCOMPARE(m_db.rows("SELECT tid FROM term_sync"), TableRows({{"1"}, {"2"}}));
 }
 
-void TestTerminals::anUnknownPersonIsWarnedOf_data()
+void TestTerminals::anUnknownPersonCausesAWarning_data()
 {
     addDebugLevels();
 }
 
-void TestTerminals::anUnknownPersonIsWarnedOf()
+void TestTerminals::anUnknownPersonCausesAWarning()
 {
     QFETCH(int, debugLevel);
     m_db.run("DELETE FROM people WHERE uid = 42");
@@ -150,7 +150,7 @@ void TestTerminals::anUnknownPersonIsWarnedOf()
                       {0, "W MHRWorker::addTermSyncPerson(12342) - uid NOT selected from DB!"}}));
 }
 
-void TestTerminals::aPersonOfUid0IsWarnedOf()
+void TestTerminals::aPersonOfUid0CausesAWarning()
 {
     m_db.run("UPDATE people SET uid = 0 WHERE pid = 12342");
     const Trace trace = queue();
@@ -159,7 +159,7 @@ void TestTerminals::aPersonOfUid0IsWarnedOf()
              QStringList("W MHRWorker::addTermSyncPerson(12342) - uid NOT selected from DB!"));
 }
 
-void TestTerminals::aFailedLookUpIsWarnedOf()
+void TestTerminals::aFailedLookUpCausesAWarning()
 {
     m_db.hideTable("people");
     const Trace trace = queue();

@@ -78,8 +78,8 @@ private Q_SLOTS:
     void percentSignsWithoutMeaningStay();
     void aNewPersonIsSelectedForThePayrollExport();
     void anExistingPersonIsSelectedForThePayrollExport();
-    void testModeAddsNobody_data();
-    void testModeAddsNobody();
+    void testModeAddsNoPerson_data();
+    void testModeAddsNoPerson();
 
     void everyFieldOfAPersonIsUpdated();
     void anUpdateLogsItsSteps_data();
@@ -92,13 +92,13 @@ private Q_SLOTS:
     void thePayrollIdIsANumberInTheUpdate();
     void onlyTheOnePersonIsUpdated();
     void onlyAChangedRowIsQueuedForTerminals();
-    void updatingNobodySucceeds();
+    void updatingAnUnknownPersonSucceeds();
     void aFailureToUpdateIsCritical_data();
     void aFailureToUpdateIsCritical();
     void aQuoteInAnUpdateFails();
     void aPlaceholderInAnUpdateIsFilledInItsTurn();
-    void testModeUpdatesNobody_data();
-    void testModeUpdatesNobody();
+    void testModeUpdatesNoPerson_data();
+    void testModeUpdatesNoPerson();
 
 private:
     void insertPerson();
@@ -397,12 +397,12 @@ void TestWritePeople::anExistingPersonIsSelectedForThePayrollExport()
              QString("12342"));
 }
 
-void TestWritePeople::testModeAddsNobody_data()
+void TestWritePeople::testModeAddsNoPerson_data()
 {
     addDebugLevels();
 }
 
-void TestWritePeople::testModeAddsNobody()
+void TestWritePeople::testModeAddsNoPerson()
 {
     QFETCH(int, debugLevel);
     setDebugLevel(debugLevel);
@@ -583,7 +583,7 @@ void TestWritePeople::onlyAChangedRowIsQueuedForTerminals()
     QCOMPARE(trace.log, QStringList());
 }
 
-void TestWritePeople::updatingNobodySucceeds()
+void TestWritePeople::updatingAnUnknownPersonSucceeds()
 {
     const Trace trace = observe([this] { QVERIFY(m_worker->dbUpdatePerson(fullRecord(), true)); });
     QCOMPARE(trace.statements, QStringList(kFullUpdateWithLastCalc));
@@ -645,12 +645,12 @@ void TestWritePeople::aPlaceholderInAnUpdateIsFilledInItsTurn()
                  .replace("phone='555123456'", "phone='1622412000'"));
 }
 
-void TestWritePeople::testModeUpdatesNobody_data()
+void TestWritePeople::testModeUpdatesNoPerson_data()
 {
     addDebugLevels();
 }
 
-void TestWritePeople::testModeUpdatesNobody()
+void TestWritePeople::testModeUpdatesNoPerson()
 {
     QFETCH(int, debugLevel);
     insertPerson();

@@ -171,7 +171,7 @@ QString Sent::updatePersonAndLastCalc(const ExportRow &line, const PersonValues 
     return update(line, values, QString("lastCalc=%1, ").arg(localMidnight(lastCalc)), " ");
 }
 
-QStringList Sent::tellTerminals(uint pid, int uid)
+QStringList Sent::notifyTerminals(uint pid, int uid)
 {
     return {QString("SELECT uid FROM people WHERE pid=%1 LIMIT 1").arg(pid),
             QString("INSERT INTO `term_sync` (tid, type, ref, ref_col, ref_id, created, flags) "

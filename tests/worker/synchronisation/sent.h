@@ -47,7 +47,7 @@ QString updatePerson(const ExportRow &line, const PersonValues &values = {});
 QString updatePersonAndLastCalc(const ExportRow &line, const PersonValues &values,
                                 const QDate &lastCalc);
 /// What follows an update that changed the row.
-QStringList tellTerminals(uint pid, int uid);
+QStringList notifyTerminals(uint pid, int uid);
 
 QString sumBeforeMonth(uint pid);
 QString sumOfCorrections(uint pid);

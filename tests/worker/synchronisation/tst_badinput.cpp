@@ -90,7 +90,7 @@ private Q_SLOTS:
     void aQuoteInTheNameOfAKnownPersonKeepsTheRowAsItWas();
     void brokenLinesLeaveTheOthersAlone();
     void twoLinesOfOneNewcomerMakeOnePerson();
-    void whoLeavesKeepsTheRest();
+    void aLeavingPersonKeepsEverythingElse();
 
     void inTestModeNoPersonIsWritten();
     void inTestModeTheNextCycleIsAsQuiet();
@@ -98,7 +98,7 @@ private Q_SLOTS:
     void aTableThatVanishesStopsNothing_data();
     void aTableThatVanishesStopsNothing();
     void aServerThatIsLostInTheMiddleStopsNothing();
-    void aServerThatIsAwayDropsTheTick();
+    void aTickWithoutAServerDoesNothing();
 };
 
 void TestBadInput::aQuoteInANameKeepsThatPersonOut()
@@ -189,7 +189,7 @@ void TestBadInput::twoLinesOfOneNewcomerMakeOnePerson()
                     << joined(9)));
 }
 
-void TestBadInput::whoLeavesKeepsTheRest()
+void TestBadInput::aLeavingPersonKeepsEverythingElse()
 {
     synchronise({jana()});
     m_db.run("UPDATE people SET edited = 0");
@@ -407,7 +407,7 @@ void TestBadInput::aServerThatIsLostInTheMiddleStopsNothing()
              QString("0905999999"));
 }
 
-void TestBadInput::aServerThatIsAwayDropsTheTick()
+void TestBadInput::aTickWithoutAServerDoesNothing()
 {
     synchronise({tomas()});
     m_export->write({tomas().with(&ExportRow::telefon, "1")});

@@ -69,7 +69,7 @@ private Q_SLOTS:
     void anotherGroupOfTheSameMonthReplacesTheFirst();
     void aPlanThatCannotBeWrittenIsReported_data();
     void aPlanThatCannotBeWrittenIsReported();
-    void aPersonWhoIsNotInTheTableIsQueuedAsNobody();
+    void aPersonWhoIsNotInTheTableIsQueuedAsUid0();
     void monthsThatCannotBeUpdatedDoNotUndoThePlan();
     void aRecalculationThatFailsDoesNotUndoThePlan();
     void everyLineOfAPlacementHasItsLevel_data() { addDebugLevels(); }
@@ -362,7 +362,7 @@ void TestBranchCalendar::aPlanThatCannotBeWrittenIsReported()
     QCOMPARE(trace.statements.last(), Sent::planGroup(12, 4, 202405));
 }
 
-void TestBranchCalendar::aPersonWhoIsNotInTheTableIsQueuedAsNobody()
+void TestBranchCalendar::aPersonWhoIsNotInTheTableIsQueuedAsUid0()
 {
     MirovaRonRecord record = jana();
     record.osobniCislo = quint32(newPersonalNumber());

@@ -43,7 +43,7 @@ Sent::PersonValues ofTomas(const QDate &rsBegin, const QDate &rsEnd, const QStri
 class TestChanges : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
-    void whoIsSeenForTheFirstTimeIsWritten();
+    void aPersonSeenForTheFirstTimeIsWritten();
     void anUnchangedLineOnlyAsksWhetherTheBalanceCouldBeCorrected();
     void aChangedLineIsWrittenWhenTheRowHoldsTheField_data();
     void aChangedLineIsWrittenWhenTheRowHoldsTheField();
@@ -67,8 +67,8 @@ private Q_SLOTS:
     void aForcedCycleRestoresTheRelationshipState_data();
     void aForcedCycleRestoresTheRelationshipState();
 
-    void whoLeavesIsWrittenButNotPlaced();
-    void whoHasLeftIsRememberedWithoutAChange();
+    void aLeavingPersonIsWrittenButNotPlaced();
+    void aPersonWhoHasLeftIsRememberedWithoutAChange();
     void aFailedUpdateIsNotRepeatedForTheSameLine();
     void aFailedUpdateIsRepeatedWhenForced();
     void aNewSupervisorIsAssigned();
@@ -79,9 +79,9 @@ private Q_SLOTS:
     void twoLinesOfOnePersonAreBothWrittenInEveryCycle();
     void aSecondLineSeesWhatTheFirstOneMoved();
     void aSecondLineSeesTheOldNameOfTheFirstOne();
-    void whoMovesIsKnownInTheNewPlace();
-    void whoStaysIsKnownAsTheRowShows();
-    void aNewWorkerKnowsNobody();
+    void aMovedPersonIsKnownInTheNewPlace();
+    void anUnmovedPersonIsKnownAsTheRowShows();
+    void aNewWorkerKnowsNoPeople();
     void stopAndStartKeepWhatTheWorkerKnows();
 
 private:
@@ -102,12 +102,12 @@ std::optional<MirovaRonRecord> TestChanges::knownAfter(const ExportRow &line, ui
     return known;
 }
 
-void TestChanges::whoIsSeenForTheFirstTimeIsWritten()
+void TestChanges::aPersonSeenForTheFirstTimeIsWritten()
 {
     const Trace trace = synchronise({tomas()});
     QCOMPARE(trace.statements,
              Sent::begin() << Sent::fundChecks(20012, 8) << Sent::updatePerson(tomas(), ofTomas())
-                           << Sent::tellTerminals(20012, 8) << Sent::balance(20012));
+                           << Sent::notifyTerminals(20012, 8) << Sent::balance(20012));
 }
 
 void TestChanges::anUnchangedLineOnlyAsksWhetherTheBalanceCouldBeCorrected()
@@ -189,7 +189,7 @@ void TestChanges::aChangedCodeIsWritten()
     m_db.run("UPDATE people SET edited = 0");
     QCOMPARE(synchronise({line}).statements,
              Sent::begin() << Sent::fundChecks(20012, 8) << Sent::updatePerson(line, ofTomas(type))
-                           << Sent::tellTerminals(20012, 8));
+                           << Sent::notifyTerminals(20012, 8));
 }
 
 void TestChanges::anAlteredRowIsLeftAloneWhileTheLineStays()
@@ -270,7 +270,7 @@ void TestChanges::aForcedCycleTakesAnUnchangedLineThroughTheDatabaseAlsoWithoutA
     m_db.run("UPDATE people SET surname = 'Iná' WHERE uid = 4");
     force();
     QCOMPARE(synchronise().statements,
-             Sent::begin() << Sent::updatePerson(jana()) << Sent::tellTerminals(12341, 4)
+             Sent::begin() << Sent::updatePerson(jana()) << Sent::notifyTerminals(12341, 4)
                            << Sent::membership(12341, 1) << Sent::group(1, 3)
                            << Sent::plannedGroup(13, 4, 202301) << Sent::recalculation(4)
                            << Sent::resetForce());
@@ -341,16 +341,16 @@ void TestChanges::aForcedCycleRestoresTheRelationshipState()
              QStringList(Sent::updatePerson(tomas(), ofTomas(today(), QDate(), "v práci"))));
 }
 
-void TestChanges::whoLeavesIsWrittenButNotPlaced()
+void TestChanges::aLeavingPersonIsWrittenButNotPlaced()
 {
     synchronise({jana()});
     const ExportRow line = jana().with(&ExportRow::datumVystupu, today().addDays(-1));
     QCOMPARE(synchronise({line}).statements,
              Sent::begin() << Sent::fundChecks(12341, 4) << Sent::updatePerson(line)
-                           << Sent::tellTerminals(12341, 4) << Sent::recalculation(4));
+                           << Sent::notifyTerminals(12341, 4) << Sent::recalculation(4));
 }
 
-void TestChanges::whoHasLeftIsRememberedWithoutAChange()
+void TestChanges::aPersonWhoHasLeftIsRememberedWithoutAChange()
 {
     const ExportRow line = jana().with(&ExportRow::stavPracovnihoPomeru, 4);
     synchronise({line});
@@ -429,7 +429,7 @@ void TestChanges::theSameLineTwiceIsReconciledOnce()
 {
     QCOMPARE(synchronise({tomas(), tomas()}).statements,
              Sent::begin() << Sent::fundChecks(20012, 8) << Sent::updatePerson(tomas(), ofTomas())
-                           << Sent::tellTerminals(20012, 8) << Sent::balance(20012)
+                           << Sent::notifyTerminals(20012, 8) << Sent::balance(20012)
                            << Sent::fundChecks(20012, 8));
 }
 
@@ -465,7 +465,7 @@ void TestChanges::aSecondLineSeesTheOldNameOfTheFirstOne()
              QStringList({Sent::updatePerson(first), Sent::updatePerson(second)}));
 }
 
-void TestChanges::whoMovesIsKnownInTheNewPlace()
+void TestChanges::aMovedPersonIsKnownInTheNewPlace()
 {
     const ExportRow line = jana()
                                .with(&ExportRow::stredisko, 140)
@@ -481,7 +481,7 @@ void TestChanges::whoMovesIsKnownInTheNewPlace()
     QCOMPARE(known->dovolenaZustatek, 3.5);
 }
 
-void TestChanges::whoStaysIsKnownAsTheRowShows()
+void TestChanges::anUnmovedPersonIsKnownAsTheRowShows()
 {
     m_db.run("INSERT INTO funds_move (type, day, month, value, fid, uid) "
              "VALUES (1, UNIX_TIMESTAMP('2025-01-01'), 202501, 350, 2, 8)");
@@ -493,7 +493,7 @@ void TestChanges::whoStaysIsKnownAsTheRowShows()
     QCOMPARE(known->dovolenaZustatek, 0.0);
 }
 
-void TestChanges::aNewWorkerKnowsNobody()
+void TestChanges::aNewWorkerKnowsNoPeople()
 {
     synchronise({tomas()});
     newWorker();

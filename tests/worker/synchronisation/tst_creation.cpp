@@ -54,12 +54,12 @@ private Q_SLOTS:
     void whetherANewcomerGetsASupervisorDependsOnTheEmploymentType();
     void noSupervisorOfANewcomerIsProcessedWhenTheLineNamesNone();
 
-    void whoHasLeftIsNotCreated_data();
-    void whoHasLeftIsNotCreated();
-    void whoIsStillThereIsCreated_data();
-    void whoIsStillThereIsCreated();
-    void whoHasLeftIsRemembered();
-    void whoHasLeftIsNotCreatedByForceEither();
+    void aPersonWhoHasLeftIsNotCreated_data();
+    void aPersonWhoHasLeftIsNotCreated();
+    void aPersonWhoHasNotLeftIsCreated_data();
+    void aPersonWhoHasNotLeftIsCreated();
+    void aPersonWhoHasLeftIsRemembered();
+    void forceDoesNotCreateAPersonWhoHasLeft();
 
     void aFailedCreationStillAsksForThePlace();
     void aFailedCreationIsNotRepeatedForTheSameLine();
@@ -215,7 +215,7 @@ void TestCreation::noSupervisorOfANewcomerIsProcessedWhenTheLineNamesNone()
     QVERIFY(uidOf(pidOf(line)) != 0);
 }
 
-void TestCreation::whoHasLeftIsNotCreated_data()
+void TestCreation::aPersonWhoHasLeftIsNotCreated_data()
 {
     QTest::addColumn<ExportRow>("change");
     QTest::newRow("state 4") << ExportRow().with(&ExportRow::stavPracovnihoPomeru, 4);
@@ -229,7 +229,7 @@ void TestCreation::whoHasLeftIsNotCreated_data()
                .with(&ExportRow::datumVystupu, today().addDays(1));
 }
 
-void TestCreation::whoHasLeftIsNotCreated()
+void TestCreation::aPersonWhoHasLeftIsNotCreated()
 {
     QFETCH(ExportRow, change);
     const ExportRow line = newcomer(newPersonalNumber())
@@ -244,7 +244,7 @@ void TestCreation::whoHasLeftIsNotCreated()
     QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
 }
 
-void TestCreation::whoIsStillThereIsCreated_data()
+void TestCreation::aPersonWhoHasNotLeftIsCreated_data()
 {
     QTest::addColumn<int>("state");
     QTest::addColumn<QDate>("end");
@@ -254,7 +254,7 @@ void TestCreation::whoIsStillThereIsCreated_data()
     QTest::newRow("leaves tomorrow") << 3 << today().addDays(1);
 }
 
-void TestCreation::whoIsStillThereIsCreated()
+void TestCreation::aPersonWhoHasNotLeftIsCreated()
 {
     QFETCH(int, state);
     QFETCH(QDate, end);
@@ -265,7 +265,7 @@ void TestCreation::whoIsStillThereIsCreated()
     QCOMPARE(uidOf(pidOf(line)), 9);
 }
 
-void TestCreation::whoHasLeftIsRemembered()
+void TestCreation::aPersonWhoHasLeftIsRemembered()
 {
     m_db.run("DELETE FROM funds");
     const ExportRow line = newcomer(newPersonalNumber()).with(&ExportRow::stavPracovnihoPomeru, 4);
@@ -277,7 +277,7 @@ void TestCreation::whoHasLeftIsRemembered()
     QCOMPARE(synchronise().statements, Sent::begin());
 }
 
-void TestCreation::whoHasLeftIsNotCreatedByForceEither()
+void TestCreation::forceDoesNotCreateAPersonWhoHasLeft()
 {
     const ExportRow line = newcomer(newPersonalNumber()).with(&ExportRow::stavPracovnihoPomeru, 4);
     synchronise({line});

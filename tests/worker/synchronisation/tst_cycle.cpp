@@ -52,7 +52,7 @@ void TestCycle::aKnownPersonIsReconciledInOrder()
     QCOMPARE(trace.log, QStringList());
     QCOMPARE(trace.statements,
              Sent::begin() << Sent::fundChecks(12341, 4) << Sent::updatePerson(jana())
-                           << Sent::tellTerminals(12341, 4) << Sent::balance(12341)
+                           << Sent::notifyTerminals(12341, 4) << Sent::balance(12341)
                            << Sent::membership(12341, 1) << Sent::group(1, 3)
                            << Sent::plannedGroup(13, 4, 202301) << Sent::recalculation(4));
 }
@@ -71,7 +71,7 @@ void TestCycle::everyStepForAKnownPersonHasItsPlace()
     QCOMPARE(trace.log, QStringList());
     QCOMPARE(trace.statements,
              Sent::begin() << Sent::fundChecks(12341, 4) << Sent::updatePerson(line)
-                           << Sent::tellTerminals(12341, 4) << Sent::balance(12341)
+                           << Sent::notifyTerminals(12341, 4) << Sent::balance(12341)
                            << Sent::correction(4, 250) << Sent::findAdmin(1002)
                            << Sent::supervisor(2, 4) << Sent::membership(12341, 1)
                            << Sent::group(1, 2) << Sent::plannedGroup(12, 4, 202503)

@@ -26,24 +26,24 @@ const QString kNotFound =
 class TestPlacing : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
-    void whoHasNoCostCentreIsNotPlaced();
+    void aPersonWithoutACostCentreIsNotPlaced();
     void anUnchangedRecordIsPlacedOnlyWhenForced();
-    void whoIsNotActiveIsNotPlaced_data();
-    void whoIsNotActiveIsNotPlaced();
+    void anInactivePersonIsNotPlaced_data();
+    void anInactivePersonIsNotPlaced();
 
-    void whoWaitsForABranchIsAskedForInEveryCycle();
-    void whoWaitsIsPlacedOnceTheBranchIsThere();
+    void aPersonWaitingForABranchIsLookedUpInEveryCycle();
+    void aWaitingPersonIsPlacedOnceTheBranchExists();
     void aLineThatChangedWhileWaitingLeavesTheOldOneBehind();
-    void whoLeavesWhileWaitingIsNotAskedForAgain();
-    void whoWaitsIsForgottenByANewWorker();
-    void whoNeitherJoinsNorHasACalendarWaits();
+    void aPersonWhoLeavesWhileWaitingIsNotLookedUpAgain();
+    void aNewWorkerForgetsWaitingPeople();
+    void aMemberWithoutACalendarCountsAsWaiting();
 
     void aMovedPersonIsRecalculated_data();
     void aMovedPersonIsRecalculated();
     void anIncompletePersonIsNotRecalculated_data();
     void anIncompletePersonIsNotRecalculated();
     void recalculationBeginsWithThePreviousMonth();
-    void whoseUidIsUnknownMustBeRecalculatedByHand();
+    void aPersonWithoutAKnownUidMustBeRecalculatedByHand();
 
 private:
     /// How many records wait, by the last line of the cycle.
@@ -56,7 +56,7 @@ int TestPlacing::waiting(const Trace &trace) const
     return end.mid(end.indexOf("records: ") + 9).remove(')').toInt();
 }
 
-void TestPlacing::whoHasNoCostCentreIsNotPlaced()
+void TestPlacing::aPersonWithoutACostCentreIsNotPlaced()
 {
     newWorker(1);
     m_export->write({jana().with(&ExportRow::stredisko, 0)});
@@ -82,7 +82,7 @@ void TestPlacing::anUnchangedRecordIsPlacedOnlyWhenForced()
              1);
 }
 
-void TestPlacing::whoIsNotActiveIsNotPlaced_data()
+void TestPlacing::anInactivePersonIsNotPlaced_data()
 {
     QTest::addColumn<ExportRow>("line");
     QTest::addColumn<bool>("placed");
@@ -94,7 +94,7 @@ void TestPlacing::whoIsNotActiveIsNotPlaced_data()
         << jana().with(&ExportRow::datumVystupu, today.addDays(-1)) << false;
 }
 
-void TestPlacing::whoIsNotActiveIsNotPlaced()
+void TestPlacing::anInactivePersonIsNotPlaced()
 {
     QFETCH(ExportRow, line);
     QFETCH(bool, placed);
@@ -103,7 +103,7 @@ void TestPlacing::whoIsNotActiveIsNotPlaced()
     QCOMPARE(synchronise().statements.contains(Sent::membership(12341, 1)), placed);
 }
 
-void TestPlacing::whoWaitsForABranchIsAskedForInEveryCycle()
+void TestPlacing::aPersonWaitingForABranchIsLookedUpInEveryCycle()
 {
     newWorker(1);
     Trace trace = synchronise({janaElsewhere()});
@@ -117,7 +117,7 @@ void TestPlacing::whoWaitsForABranchIsAskedForInEveryCycle()
     }
 }
 
-void TestPlacing::whoWaitsIsPlacedOnceTheBranchIsThere()
+void TestPlacing::aWaitingPersonIsPlacedOnceTheBranchExists()
 {
     newWorker(1);
     synchronise({janaElsewhere()});
@@ -145,7 +145,7 @@ void TestPlacing::aLineThatChangedWhileWaitingLeavesTheOldOneBehind()
     QCOMPARE(waiting(synchronise({janaElsewhere()})), 0);
 }
 
-void TestPlacing::whoLeavesWhileWaitingIsNotAskedForAgain()
+void TestPlacing::aPersonWhoLeavesWhileWaitingIsNotLookedUpAgain()
 {
     newWorker(1);
     synchronise({janaElsewhere()});
@@ -154,7 +154,7 @@ void TestPlacing::whoLeavesWhileWaitingIsNotAskedForAgain()
     QCOMPARE(waiting(trace), 1);
 }
 
-void TestPlacing::whoWaitsIsForgottenByANewWorker()
+void TestPlacing::aNewWorkerForgetsWaitingPeople()
 {
     newWorker(1);
     QCOMPARE(waiting(synchronise({janaElsewhere()})), 1);
@@ -162,7 +162,7 @@ void TestPlacing::whoWaitsIsForgottenByANewWorker()
     QCOMPARE(waiting(synchronise({jana()})), 0);
 }
 
-void TestPlacing::whoNeitherJoinsNorHasACalendarWaits()
+void TestPlacing::aMemberWithoutACalendarCountsAsWaiting()
 {
     // A member of the branch without a calendar: nothing is done, and that counts as not placed.
     newWorker(1);
@@ -244,7 +244,7 @@ void TestPlacing::recalculationBeginsWithThePreviousMonth()
              TableRows({{QString::number(localMidnight(begin.addDays(-1))), "0"}}));
 }
 
-void TestPlacing::whoseUidIsUnknownMustBeRecalculatedByHand()
+void TestPlacing::aPersonWithoutAKnownUidMustBeRecalculatedByHand()
 {
     // The payroll id of the row makes another pid than the row has, so the person is loaded but
     // its uid cannot be found.

@@ -47,7 +47,7 @@ private Q_SLOTS:
     void aRecentCalculationForbidsACorrection();
     void daysThatAreNotCalculatedForbidACorrection_data();
     void daysThatAreNotCalculatedForbidACorrection();
-    void attendanceOfNobodyForbidsACorrection();
+    void anUnknownPidForbidsACorrection();
     void attendanceThatCannotBeReadForbidsACorrection_data() { addDebugLevels(); }
     void attendanceThatCannotBeReadForbidsACorrection();
     void openDaysThatCannotBeCountedDoNotForbidACorrection_data() { addDebugLevels(); }
@@ -348,7 +348,7 @@ void TestVacationFund::daysThatAreNotCalculatedForbidACorrection()
                          + (allowed ? "OK" : "NO OK")));
 }
 
-void TestVacationFund::attendanceOfNobodyForbidsACorrection()
+void TestVacationFund::anUnknownPidForbidsACorrection()
 {
     newWorker(1);
     bool allowed = true;

@@ -102,7 +102,7 @@ private Q_SLOTS:
     void newcomersAreTakenUp();
     void newcomersAreSettledInTheSecondCycle();
     void newcomersAreSettledAfterTwoCycles();
-    void aBranchThatAppearsTakesWhoWaitedForIt();
+    void peopleJoinTheBranchTheyWaitedForOnceItExists();
 
     void aDatabaseWithoutAnythingTakesPeopleOnly();
     void aNumberOfItsOwnInEveryRowChangesNothing();
@@ -357,14 +357,14 @@ void TestWholeState::newcomersAreSettledInTheSecondCycle()
                            << Sent::recalculation(9)
                            // Jozef has no branch in the table, which is not what HR says.
                            << Sent::fundChecks(30121, 10) << Sent::updatePerson(lines[1], jozef)
-                           << Sent::tellTerminals(30121, 10) << Sent::balance(30121)
+                           << Sent::notifyTerminals(30121, 10) << Sent::balance(30121)
                            << Sent::correction(10, 300) << Sent::findUid(30121)
                            << Sent::recalculation(10) << Sent::movesOfToday(30131)
                            << Sent::calculation(30131)
 
                            // Anna has no first day for HR, and one in 2000 in the table.
                            << Sent::fundChecks(30141, 11) << Sent::updatePerson(lines[3], anna)
-                           << Sent::tellTerminals(30141, 11) << Sent::balance(30141));
+                           << Sent::notifyTerminals(30141, 11) << Sent::balance(30141));
     const QString move = "funds_move + type=3 day=" + iso(today()) + " month=" + month(today());
     QCOMPARE(changes.lines(),
              sorted({move + " value=2500 fid=2 uid=9", move + " value=300 fid=2 uid=10",
@@ -386,7 +386,7 @@ void TestWholeState::newcomersAreSettledAfterTwoCycles()
     QCOMPARE(TestDatabase::difference(state, m_db.dumpAll()), QString());
 }
 
-void TestWholeState::aBranchThatAppearsTakesWhoWaitedForIt()
+void TestWholeState::peopleJoinTheBranchTheyWaitedForOnceItExists()
 {
     m_worker->setMes({{1, "v skúšobnej dobe"}});
     synchronise(newcomers(3031));

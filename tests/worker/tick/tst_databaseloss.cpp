@@ -8,7 +8,7 @@ class TestDatabaseLoss : public WorkerTest {
 
 private Q_SLOTS:
     void whileTheDatabaseIsDownOnlyTheTickCounterAdvances();
-    void aFirstTickThatFailedIsNotMadeUpFor();
+    void aFailedFirstTickIsNotRepeated();
     void withoutVerboseLogEachFailingTickHasTwoLines();
     void aServerRestartBetweenTicksGoesUnnoticed();
     void aServerLostBeforePeopleAreLoadedEndsTheSynchronisation();
@@ -45,7 +45,7 @@ void TestDatabaseLoss::whileTheDatabaseIsDownOnlyTheTickCounterAdvances()
     QVERIFY(lines.contains("D MHRWorker: BEGIN synchronization #2 (force: NO)"));
 }
 
-void TestDatabaseLoss::aFirstTickThatFailedIsNotMadeUpFor()
+void TestDatabaseLoss::aFailedFirstTickIsNotRepeated()
 {
     startWorker(1).setSyncInterval(3);
     m_db.stopServer();
