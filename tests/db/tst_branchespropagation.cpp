@@ -16,7 +16,8 @@ Q_DECLARE_METATYPE(Call)
 ///
 /// Branch 2 has the people 21 and 22, the administrators 31 and 32 and the terminals 11 (active),
 /// 12 (in a state of its own) and 13 (switched off). Branch 3 has person 21, administrator 31 and
-/// terminal 14. Branch 4 has nothing. All terminals take people, nobody is registered anywhere.
+/// terminal 14. Branch 4 has nothing. All terminals take people, and no person is registered in
+/// one.
 class TestBranchesPropagation : public RepositoryTest {
     Q_OBJECT
 

@@ -15,8 +15,8 @@ using Change = bool (Branches::*)(ushort, const QString &);
 Q_DECLARE_METATYPE(Signal)
 Q_DECLARE_METATYPE(Change)
 
-/// Branches, their members and their triples. What a membership change does beyond that is the
-/// matter of tst_branchespropagation.
+/// Branches, their members and their triples. tst_branchespropagation tests what else a membership
+/// change does.
 class TestBranchesRepository : public RepositoryTest {
     Q_OBJECT
 

@@ -46,7 +46,7 @@ void TestPlaceholders::theValuesTakeThePlacesOfTheirNumbers_data()
         << "%1%2%3%4%5%6%7%8%9%101" << QStringList{"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"}
         << "abcdefghij1";
     QTest::newRow("a value with a mark") << "'%1', %2" << QStringList{"100 %", "7"} << "'100 %', 7";
-    // As ever: what looks like a place is one, wherever it came from.
+    // Whatever looks like a placeholder is one, also within a value.
     QTest::newRow("a value with a place") << "'%1', %2" << QStringList{"%2", "7"} << "'7', 7";
 }
 

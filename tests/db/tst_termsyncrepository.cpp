@@ -113,7 +113,7 @@ void TestTermSyncRepository::fillTables()
     runOnConnection("SET timestamp = 1700000000");
 }
 
-/// The first row that is queued takes from the connection what the later joins need: a selection of
+/// The first row that is queued removes what later joins on the connection need: a selection of
 /// terminals then fails, and so does the second statement of the text for time zones.
 void TestTermSyncRepository::forbidJoinsOnceQueued()
 {
@@ -122,7 +122,7 @@ void TestTermSyncRepository::forbidJoinsOnceQueued()
                    " SET SESSION max_join_size = 1");
 }
 
-/// Gives updateTermsSync another body. The rights on a procedure go with its old body.
+/// Gives updateTermsSync another body, and grants the rights again that are lost with the old one.
 void TestTermSyncRepository::replaceProcedure(const QString &statements)
 {
     m_database.run("CREATE OR REPLACE PROCEDURE updateTermsSync(IN p_uid INT, IN p_flag INT)"

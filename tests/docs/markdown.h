@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QVector>
 
-/// What the tests ask of a document of the project, such as "docs/operations.md".
+/// Parts of a document of the project, such as "docs/operations.md".
 namespace Markdown {
 
 /// The whole text; the test program ends when there is none.

@@ -60,7 +60,7 @@ QString text(bool value)
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
-/// What the documents have to say of the defaults, from the configuration itself.
+/// The defaults that the documents must state, from the configuration itself.
 QMap<QString, QString> actualDefaults()
 {
     const Configuration defaults;

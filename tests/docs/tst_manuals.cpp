@@ -26,7 +26,7 @@ QString helpOf(const QString &program)
 
 } // namespace
 
-/// The manual pages of the programs around mirovahrctl, whose own page has a test of its own.
+/// The manual pages of the other programs: that of mirovahrctl has a test of its own.
 class TestManuals : public QObject {
     Q_OBJECT
 

@@ -1,7 +1,7 @@
 // datadirprobe APPLICATION data|logs|validate [FOLDER]
 //
-// Calls one operation of the helper for an application of that name, as somebody without rights:
-// when it runs as root it becomes nobody first, unless MIROVAHR_KEEP_RIGHTS is set. Prints what the
+// Calls one operation of the helper for an application of that name, without rights: when it runs
+// as root it becomes the user nobody first, unless MIROVAHR_KEEP_RIGHTS is set. Prints what the
 // operation logs, its result, and the two members after it.
 
 #include "plugin/datadirhelper.h"

@@ -8,8 +8,7 @@
 
 /// The application of a program that runs the built plugin as a server does.
 ///
-/// It sees the events of all objects of the process, and so learns of the worker that the plugin
-/// keeps to itself.
+/// It sees the events of all objects of the process, and so finds the plugin's private worker.
 class HostApplication : public QCoreApplication {
 public:
     using QCoreApplication::QCoreApplication;

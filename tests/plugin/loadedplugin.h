@@ -5,7 +5,7 @@
 class ServerInterface;
 class VerInfoInterface;
 
-/// The built plugin library, loaded as a server does it. The plugin object goes with this one.
+/// The built plugin library, loaded as a server does it. Owns the plugin object.
 class LoadedPlugin {
 public:
     LoadedPlugin();

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// The plugin's configuration file. Its path is fixed, so a test has to run in a private view of it
+/// The plugin's configuration file. Its path is fixed, so a test must run in a private view of it
 /// (scripts/private-view): outside of one every operation ends the program.
 namespace PluginIni {
 

@@ -10,8 +10,8 @@
 
 #include <memory>
 
-/// What the tests of the plugin at work have in common: a database and the loaded plugin. It ticks
-/// as its configuration says, and by HostApplication::tick().
+/// The fixture of the tests that load the plugin: a database and the plugin. It ticks as
+/// configured, and by HostApplication::tick().
 class PluginTest : public QObject {
     Q_OBJECT
 

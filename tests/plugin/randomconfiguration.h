@@ -31,18 +31,18 @@ struct PlainConfiguration {
     static PlainConfiguration ofFile(const QString &path);
 };
 
-/// Makes configurations that nobody would write on purpose.
+/// Makes random configurations, valid and invalid.
 class RandomConfigurations {
 public:
     /// The path is one of those for the key importFile; the others lead to nothing, as do all
     /// commands.
     RandomConfigurations(quint32 seed, const QString &importFile);
 
-    /// A file of the format, and what it says: values out of range and of other kinds, lists, keys
-    /// twice, groups that nobody reads.
+    /// A well-formed file and its content: values out of range and of other kinds, lists, repeated
+    /// keys, unknown groups.
     QByteArray wellFormed(PlainConfiguration &content);
 
-    /// Such a file after some bytes of it have been changed, or bytes that are no file at all.
+    /// Such a file with some bytes changed, or random bytes.
     QByteArray damaged();
 
 private:

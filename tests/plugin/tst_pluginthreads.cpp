@@ -206,7 +206,7 @@ void TestPluginThreads::destroyingAStoppedPluginWaitsForTheRunningCommand()
     QMetaObject::invokeMethod(host().worker(), "checkSync", Qt::QueuedConnection);
     gate.waitForCommand();
     m_plugin->server()->stop();
-    // The command ends whenever the thread comes to it.
+    // The command ends at any time during the destruction.
     std::thread command([&gate] { gate.open(); });
     m_plugin.reset();
     QVERIFY(m_log->contains("D MHRWorker: END synchronization #1 (waiting records: 0)"));

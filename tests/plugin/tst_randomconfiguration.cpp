@@ -1,5 +1,5 @@
-// The plugin with configurations that nobody would write on purpose: it starts with what the keys
-// say, or not at all when they say so.
+// The plugin with random configurations: it starts with the values of the keys, or not at all when
+// they disable it.
 //
 // MIROVAHR_INPUT_SEED=N makes other configurations, MIROVAHR_INPUT_FILES=N more of them.
 
@@ -43,7 +43,7 @@ private:
     QFile m_file;
 };
 
-/// The first difference of what is in force from what is written; empty when there is none.
+/// The first difference between the values in force and those written; empty when there is none.
 QString difference(const Configuration &read, const PlainConfiguration &written)
 {
     if (read.enabled != written.flag("enabled", true))
@@ -119,7 +119,7 @@ void TestRandomConfiguration::thePluginRunsAsTheKeysSay_data()
 {
     QTest::addColumn<QByteArray>("file");
     const quint32 seed = environmentNumber(kSeedVariable, kSeed);
-    // The file of the test is made anew for each row, so the path leads through a link.
+    // The export file is a new one for each row, so the path leads through a link.
     RandomConfigurations configurations(seed, "/tmp/export.link");
     for (int i = 0; i < 20; ++i) {
         PlainConfiguration ignored;

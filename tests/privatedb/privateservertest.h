@@ -39,7 +39,7 @@ private:
     QString m_error;
 };
 
-/// Sets an environment variable for the rest of the block; a null value takes it away.
+/// Sets an environment variable for the rest of the block; a null value unsets it.
 class ScopedVariable {
 public:
     ScopedVariable(const char *name, const QByteArray &value);

@@ -46,7 +46,7 @@ void writeProgram(const QString &path, const QByteArray &script)
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-/// What listens to the messages of a service.
+/// Receives the messages of a service.
 class ServiceManager {
 public:
     explicit ServiceManager(const QByteArray &socketPath)
@@ -93,9 +93,9 @@ private:
 
 } // namespace
 
-/// A private server on a machine that has servers of its own, where settings and files of other
-/// programs stand in its way. This test sees the machine as it is: it runs without
-/// scripts/private-view, and writes only into folders of its own, and one file into /tmp.
+/// A private server on a machine that has servers of its own, with conflicting settings and files
+/// of other programs. This test sees the machine as it is: it runs without scripts/private-view,
+/// and writes only into folders of its own, and one file into /tmp.
 class TestMachineUntouched : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -301,7 +301,7 @@ void TestMachineUntouched::settingsForOtherServersDoNotCount()
 {
     QFETCH(QString, variable);
     QFETCH(QByteArray, value);
-    // Nobody listens there: a program that goes astray finds no server of the machine.
+    // No server listens there: a misdirected program finds no server of the machine.
     const ScopedVariable port("MYSQL_TCP_PORT", "1");
     const QByteArray name = variable.toUtf8();
     const ScopedVariable setting(name.constData(), value);

@@ -319,7 +319,7 @@ void TestPrivateMariaDb::theCommandFindsTheServerInItsEnvironment()
 void TestPrivateMariaDb::theCommandIsNotLedToAnotherServer()
 {
     const ScopedVariable host("MYSQL_HOST", "127.0.0.1");
-    const ScopedVariable port("MYSQL_TCP_PORT", "1"); // nobody listens there
+    const ScopedVariable port("MYSQL_TCP_PORT", "1"); // no server listens there
     const ScopedVariable password("MYSQL_PWD", "of another server");
     QProcess program;
     runProgram(program,
@@ -410,12 +410,12 @@ void TestPrivateMariaDb::aSignalEndsTheCommandAndCleansUp()
     QFETCH(int, signal);
     QProcess program;
     startProgram(program,
-                 {"--", "sh", "-c", "trap 'echo told; exit 3' TERM; echo ready; read line"});
+                 {"--", "sh", "-c", "trap 'echo terminated; exit 3' TERM; echo ready; read line"});
     QVERIFY(program.waitForReadyRead(kPatienceMs));
     QCOMPARE(program.readLine(), QByteArray("ready\n"));
     QCOMPARE(::kill(pid_t(program.processId()), signal), 0);
     QVERIFY(program.waitForFinished(kPatienceMs));
-    QCOMPARE(program.readAllStandardOutput(), QByteArray("told\n"));
+    QCOMPARE(program.readAllStandardOutput(), QByteArray("terminated\n"));
     QCOMPARE(program.exitCode(), 3);
     QCOMPARE(entries(m_temp->path()), QStringList());
 }
@@ -474,7 +474,7 @@ void TestPrivateMariaDb::aKilledProgramLeavesAFolderThatIsToBeKept()
 
 void TestPrivateMariaDb::aMachineNeedNotResolveItsOwnName()
 {
-    // In a private view, where the machine's files only seem to be gone.
+    // In a private view, which only hides the machine's files.
     QProcess program;
     program.start(PRIVATE_VIEW,
                   {"sh", "-c",

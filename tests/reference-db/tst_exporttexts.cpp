@@ -20,8 +20,8 @@ int syntaxErrors(const QStringList &log)
 
 } // namespace
 
-/// What the texts of an export line can do to the database, as docs/security.md tells: they go into
-/// the plugin's statements as they are, and the account is what limits them.
+/// What the texts of an export line can do to the database, as docs/security.md describes: they go
+/// into the plugin's statements unescaped, and only the account limits them.
 class TestExportTexts : public WorkerTest {
     Q_OBJECT
 
@@ -129,4 +129,5 @@ void TestExportTexts::whatTheAccountMayNotDoTheTextMayNotDo()
 QTEST_GUILESS_MAIN(TestExportTexts)
 #include "tst_exporttexts.moc"
 
+#include <QRegularExpression>
 #include <QtTest>

@@ -14,7 +14,7 @@ QStringList denials(const QStringList &log)
     return log.filter(QRegularExpression("^C .*denied"));
 }
 
-/// What the log shows while the repositories do everything that they can.
+/// The log while the repositories run all their operations.
 QStringList useTheRepositories(const QSqlDatabase &db)
 {
     const LogCapture log;
@@ -64,7 +64,7 @@ QStringList useTheRepositories(const QSqlDatabase &db)
 
 } // namespace
 
-/// The accounts of reference-db/grants.sql: enough, and nothing to spare.
+/// The accounts of reference-db/grants.sql have the rights that they need, and no others.
 class TestGrants : public WorkerTest {
     Q_OBJECT
 
@@ -114,7 +114,7 @@ QVector<AccountRight> TestGrants::repositoryRights()
     return further;
 }
 
-/// What the log shows of a forced synchronisation in which everything happens that can.
+/// The log of a forced synchronisation that runs every operation.
 QStringList TestGrants::runThePlugin()
 {
     m_db.run("UPDATE people SET rsBegin = 1700000000 WHERE uid = 4");
@@ -239,4 +239,5 @@ void TestGrants::loadingTwiceChangesNothing()
 QTEST_GUILESS_MAIN(TestGrants)
 #include "tst_grants.moc"
 
+#include <QRegularExpression>
 #include <QtTest>

@@ -30,7 +30,7 @@ private:
 
 void TestDemo::initTestCase()
 {
-    // As an administrator has them who works with another server; nobody listens at that port.
+    // As set by an administrator who works with another server; no server listens at that port.
     m_demo.setVariable("MYSQL_HOST", "127.0.0.1");
     m_demo.setVariable("MYSQL_TCP_PORT", "1");
     m_demo.setVariable("MYSQL_PWD", "of another server");

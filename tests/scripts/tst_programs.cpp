@@ -4,7 +4,7 @@
 
 namespace {
 
-/// What stands in the place of a program that is not executable before it is installed.
+/// Stands in for a program that is not executable before it is installed.
 const QStringList kDemo{"bash", BUILD_FOLDER "/packaging/mirovahr-demo"};
 
 QStringList script(const char *name)
@@ -14,7 +14,7 @@ QStringList script(const char *name)
 
 } // namespace
 
-/// What is the same in all programs and scripts: help, version, and the status of wrong usage.
+/// What all programs and scripts have in common: help, version, and the status of wrong usage.
 class TestPrograms : public QObject {
     Q_OBJECT
 
@@ -119,7 +119,7 @@ void TestPrograms::wrongUsageEndsWithTheSameStatus()
     QVERIFY2(run.errors().contains(name), run.report().constData());
 }
 
-/// What the scripts make of a build that is this command.
+/// The scripts' output when this command stands in for the build.
 static void build(ProgramRun &run, const QString &command)
 {
     const QString line = QStringLiteral("source '" PROJECT_FOLDER "/scripts/lib/common.sh'; "

@@ -8,7 +8,7 @@ public:
     Descendants(const Descendants &) = delete;
     Descendants &operator=(const Descendants &) = delete;
 
-    /// False when one of them lives on.
+    /// False when one of them still runs.
     bool waitForEnd();
 
 private:

@@ -10,7 +10,7 @@
 QString exportDate(const QDate &date);
 
 /// One line of the HR export, its fields in their order, as text, so that a test can write broken
-/// values as well. The defaults are one good employee; a test names only what it is about:
+/// values as well. The defaults describe one valid employee; a test sets only what it is about:
 ///
 ///     ExportRow().with(&ExportRow::jmeno, "Ján").with(&ExportRow::stredisko, 130).text()
 struct ExportRow {
@@ -42,7 +42,7 @@ struct ExportRow {
     QString text() const; ///< Joined by "|", without a line feed.
 };
 
-/// An export file in a folder of its own, which goes away with the object. Absent until written.
+/// An export file in a temporary folder of its own. The file does not exist until it is written.
 class ExportFile {
 public:
     ExportFile();

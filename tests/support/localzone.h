@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-/// Makes a zone the local one of this program, until the object goes away.
+/// Sets the local time zone of this program for the lifetime of the object.
 class LocalZone {
 public:
     explicit LocalZone(const QByteArray &zone);

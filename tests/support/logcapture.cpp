@@ -10,7 +10,7 @@
 namespace {
 
 // Guards the pointer and the messages of every capture: a thread may still log while its capture
-// goes away.
+// is destroyed.
 std::mutex g_mutex;
 std::condition_variable g_arrival;
 LogCapture *g_current = nullptr;
@@ -89,7 +89,7 @@ QStringList LogCapture::lines() const
 QVector<LogMessage> LogCapture::messages() const
 {
     const std::lock_guard<std::mutex> lock(g_mutex);
-    // A vector of the caller's own: one that is shared with ours would be read while ours grows.
+    // A deep copy: an implicitly shared vector would be read while this one grows.
     return QVector<LogMessage>(m_messages.begin(), m_messages.end());
 }
 

@@ -26,14 +26,13 @@ struct LogLine {
 /// The lines that appear at a debug level.
 QStringList linesAt(int debugLevel, const QVector<LogLine> &lines);
 
-/// Takes the messages of the Qt log, of all threads, from its construction to its destruction.
+/// Captures the messages of the Qt log, of all threads, during its lifetime.
 ///
 /// Lines have the form "D text", "I text", "W text" or "C text": debug, info, warning, critical.
 /// Nothing is printed meanwhile. Captures may be nested; only the innermost receives messages.
 ///
-/// The wait functions look at every line since the construction or the last clear(), those already
-/// there included, and block the calling thread without running its event loop: what they wait for
-/// must happen in another thread.
+/// The wait functions consider every line since the construction or the last clear(), and block the
+/// calling thread without running its event loop: another thread must log the line.
 class LogCapture {
 public:
     LogCapture();
@@ -47,9 +46,9 @@ public:
     bool contains(const QString &line) const { return count(line) > 0; }
     void clear();
 
-    /// Waits until this very line is there.
+    /// Waits for exactly this line.
     bool waitForLine(const QString &line, int timeoutMs = kPatienceMs) const;
-    /// Waits until this very line is there \a times times.
+    /// Waits until exactly this line was logged \a times times.
     bool waitForCount(const QString &line, int times, int timeoutMs = kPatienceMs) const;
     /// Waits until a line contains \a part.
     bool waitForText(const QString &part, int timeoutMs = kPatienceMs) const;

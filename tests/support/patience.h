@@ -1,6 +1,6 @@
 #pragma once
 
-/// How long a test waits for what must happen, in milliseconds, before it fails.
+/// How long a test waits for an expected event before it fails, in milliseconds.
 constexpr int kPatienceMs = 60000;
 
 /// Waits until \a descriptor has something to read or its other end is closed. False when neither

@@ -79,7 +79,7 @@ QByteArray ProgramRun::report() const
         .toUtf8();
 }
 
-// Every signal of the process may have brought what is waited for.
+// Each signal of the process may have fulfilled the condition.
 bool ProgramRun::waitUntil(const std::function<bool()> &reached)
 {
     QEventLoop loop;

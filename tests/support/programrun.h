@@ -6,8 +6,8 @@
 
 #include <functional>
 
-/// One run of a program by a test. What the program prints is kept; a program that still runs when
-/// the object goes is killed. The wait functions give up after kPatienceMs.
+/// One run of a program by a test. Keeps what the program prints, and kills a program that still
+/// runs when the object is destroyed. The wait functions give up after kPatienceMs.
 class ProgramRun {
 public:
     ProgramRun();
@@ -15,7 +15,7 @@ public:
     ProgramRun(const ProgramRun &) = delete;
     ProgramRun &operator=(const ProgramRun &) = delete;
 
-    /// Sets a variable in the program's environment. To be called before start().
+    /// Sets a variable in the program's environment. Call it before start().
     void setVariable(const QString &name, const QString &value);
 
     /// Its standard input stays open and empty.
@@ -23,10 +23,9 @@ public:
     /// Starts the program and waits for its end; as waitForEnd().
     bool run(const QString &program, const QStringList &arguments);
 
-    /// Waits until the program has printed this text, to either channel. False when it ends
-    /// without.
+    /// Waits until the program has printed this text to either channel. False when it ends first.
     bool waitForText(const QString &text) { return waitForText(text, 1); }
-    /// As above, for so many occurrences of the text.
+    /// As above, for \a count occurrences of the text.
     bool waitForText(const QString &text, int count);
     /// Waits until the program has ended. False when it does not.
     bool waitForEnd();
@@ -37,7 +36,7 @@ public:
     QString errors() const { return QString::fromUtf8(m_errors); }
     /// The exit status; 128 plus the signal's number when a signal ended the program.
     int status() const;
-    /// Everything there is to know, for the message of a failed check.
+    /// Status, output and errors, for the message of a failed check.
     QByteArray report() const;
 
 private:

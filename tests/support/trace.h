@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-/// What a piece of work left in the log ("D text") and what the server received.
+/// The log lines ("D text") of a piece of work, and the statements that the server received.
 struct Trace {
     QStringList log;
     QStringList statements;

@@ -515,7 +515,8 @@ void TestYavHost::oneSignalPausesAndAnotherResumes()
     QVERIFY2(host.waitForText("Pause MirovaHR.."), host.report().constData());
     host.sendSignal(SIGUSR2);
     QVERIFY2(host.waitForText("Resume MirovaHR.."), host.report().constData());
-    // Whatever was under way when the pause came: one of two more is after the resume.
+    // One synchronisation may have been under way at the pause: of two more, one is after the
+    // resume.
     const int before = host.output().count("END synchronization #");
     QVERIFY2(host.waitForText("END synchronization #", before + 2), host.report().constData());
     host.sendSignal(SIGTERM);

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A configuration that nothing is wrong with, but for what a test adds. "%1" is a private folder.
+/// A correct configuration, except for what a test adds. "%1" is a private folder.
 const char kGood[] = "enabled=true\n"
                      "timerInterval=60\n"
                      "syncInterval=60\n"
@@ -19,7 +19,7 @@ const char kGoodMessages[] = "[MES]\n"
 
 } // namespace
 
-/// What check-config says of an INI file.
+/// check-config: the findings for an INI file.
 class TestCheckConfig : public QObject {
     Q_OBJECT
 

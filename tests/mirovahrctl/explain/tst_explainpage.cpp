@@ -7,7 +7,7 @@
 
 using namespace PagePicture;
 
-/// The page of explain, as a browser shows it to somebody without a terminal.
+/// The page of explain, as a browser shows it.
 class TestExplainPage : public QObject {
     Q_OBJECT
 

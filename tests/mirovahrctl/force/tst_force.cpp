@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// force: the flag, and what is said of when the plugin sees it.
+/// force: the flag, and when the plugin will read it.
 class TestForce : public QObject {
     Q_OBJECT
 

@@ -11,8 +11,8 @@
 #include <QTemporaryDir>
 #include <QVector>
 
-/// A folder in which HR delivers, the gate keeps its files and the plugin reads, each in a folder
-/// of its own. It goes away with the object.
+/// Temporary folders: one in which HR delivers, one for the gate's files, and one in which the
+/// plugin reads.
 class GateSite {
 public:
     GateSite();
@@ -31,7 +31,7 @@ public:
     QStringList arguments(const QStringList &more = {}) const;
     /// One run with --json, in the test's process.
     ToolRun run(const QStringList &more = {}) const;
-    /// Delivers, admits by --accept and takes what was published away, as the plugin does.
+    /// Delivers, admits by --accept and removes the published file, as the plugin does.
     void admit(const QVector<ExportRow> &people);
     void admit(const QByteArray &content);
 

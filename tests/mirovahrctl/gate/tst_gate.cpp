@@ -20,7 +20,7 @@ QVector<Row> changed(int people, int count, QString Row::*field, const QString &
     return rows;
 }
 
-/// One person at work and so many who have left long ago, that is who cannot leave any more.
+/// \a count people of whom all but one have left already, and cannot leave again.
 QVector<Row> formerPeople(int count)
 {
     QVector<Row> rows = changed(count, count, &Row::stavPracovnihoPomeru, "4");
@@ -30,7 +30,7 @@ QVector<Row> formerPeople(int count)
 
 } // namespace
 
-/// What the gate lets pass and what it refuses.
+/// Which files the gate admits and which it refuses.
 class TestGate : public QObject {
     Q_OBJECT
 
@@ -88,7 +88,7 @@ void TestGate::remember(const ToolRun &run)
         (run.rules().contains(rule) ? m_tripped : m_passed) << rule;
 }
 
-/// That the run has refused its file for these reasons, or admitted it when there are none.
+/// Checks that the run refused its file for these reasons, or admitted it when there are none.
 void TestGate::compare(const ToolRun &run, const QStringList &reasons)
 {
     remember(run);
@@ -175,7 +175,7 @@ void TestGate::aLimitHoldsToThePoint_data()
     for (const Kind &kind : kinds) {
         const auto row = [&kind](const char *name, int count, const QString &limit,
                                  const QString &percent, bool trips) {
-            // Gone lines are people who leave, too: that shall not count here.
+            // Lost lines count as leaving people, too: not in this test.
             QStringList options{"--max-leaving", "40", "--max-leaving-percent", "100"};
             options << kind.option << limit << QString(kind.option) + "-percent" << percent;
             QTest::addRow("%s: %s", kind.name, name)
@@ -408,7 +408,7 @@ void TestGate::aMissingFileIsRefused()
     QFETCH(QString, file);
     m_site->admit({Row()});
     const QString path = m_site->folder() + "/hr/" + file;
-    // The last one of an option holds.
+    // The last occurrence of an option counts.
     const ToolRun run = m_site->run({"--accept", "--from", path});
     compare(run, {"missing"});
     QCOMPARE(run.findings()[0].toObject()["message"].toString(),
@@ -542,7 +542,7 @@ void TestGate::acceptHoldsOnceOnly()
     m_site->takePublished();
     m_site->deliver(GatePeople::some(5));
     compare(m_site->run(), {"lines-lost", "people-leaving"});
-    // It is compared with what was accepted, not with what was before.
+    // The gate compares with the accepted file, not with the earlier one.
     m_site->deliver(GatePeople::some(11));
     compare(m_site->run(), {});
 }
@@ -686,7 +686,7 @@ void TestGate::badUsageIsRefused()
 
 void TestGate::everyRuleOfTheManualHasItsFixtures()
 {
-    // These take another process, and have tests of their own.
+    // These need another process, and have tests of their own.
     const QSet<QString> others{"busy", "changed-meanwhile"};
     QVERIFY(!Manual::rules("gate").isEmpty());
     for (const QString &rule : Manual::rules("gate")) {

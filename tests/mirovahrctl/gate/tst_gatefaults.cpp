@@ -57,7 +57,7 @@ std::unique_ptr<GateSite> prepare(const Scenario &scenario)
     auto site = std::make_unique<GateSite>();
     if (scenario.hasBaseline) {
         site->admit(lastFile());
-        // As if that had been long ago.
+        // As if that had happened long ago.
         QFile::rename(site->inState(site->copies()[0]),
                       site->inState("admitted-20250101T000000Z.data"));
     }
@@ -98,7 +98,7 @@ QStringList callsOf(const Scenario &scenario, const char *counted)
 
 } // namespace
 
-/// The gate is killed, and files fail it, in each of its calls that work with files.
+/// Each of the gate's calls that work with files fails, or the gate is killed in it.
 class TestGateFaults : public QObject {
     Q_OBJECT
 
@@ -151,8 +151,8 @@ void TestGateFaults::compareStatus(const GateSite &site, const Scenario &scenari
     QVERIFY(status->time);
 }
 
-/// Nothing is left of the run with the fault, and the new file is published: without --accept when
-/// it was let through by that before.
+/// Nothing is left of the run with the fault, and the new file is published, without --accept if
+/// that run had already admitted it.
 void TestGateFaults::compareNextRun(GateSite &site, const Scenario &scenario)
 {
     const ToolRun run = runTool(arguments(site));
@@ -209,7 +209,7 @@ void TestGateFaults::failAtEveryCall(const Scenario &scenario, Fault fault)
     QVERIFY(calls.size() > 10);
 }
 
-/// That the program has told of its failure, and whether it has published nevertheless.
+/// Checks that the program reported its failure, and whether it published nevertheless.
 void TestGateFaults::compareError(const ProgramRun &run, const GateSite &site,
                                   const Scenario &scenario, const QString &call)
 {
@@ -254,7 +254,7 @@ void TestGateFaults::theFileIsOnTheDiskBeforeItIsSeen()
                           "rename plugin/ron.data", "fsync plugin"}));
     QCOMPARE(published.size() - published.count("write plugin/.ron.data.gate-new"),
              steps.size() - 1);
-    // The file to compare with is on the disk before, and the status is told afterwards.
+    // The baseline is on the disk before, and the status is written afterwards.
     const int renamed = calls.indexOf("rename plugin/ron.data");
     const int last = calls.indexOf("rename state/admitted.data");
     QVERIFY(calls.indexOf("fsync state/.admitted.data.gate-new") < last);

@@ -50,7 +50,7 @@ void setModified(const QString &path, const QString &time)
         qFatal("The time of %s cannot be set", qPrintable(path));
 }
 
-/// When the test is root's, makes it nobody's until the object goes: root may do everything.
+/// Gives up root's rights for its lifetime, if the test runs as root.
 class OrdinaryUser {
 public:
     OrdinaryUser() { become(kNobody); }
@@ -76,7 +76,7 @@ void giveTo(uid_t owner, const QStringList &paths)
     }
 }
 
-/// Takes everything, and does something at the first piece.
+/// Accepts everything, and runs an action at the first write.
 class Meanwhile : public QBuffer {
 public:
     explicit Meanwhile(const std::function<void()> &work)
@@ -623,7 +623,7 @@ void TestGateFiles::anUntrustworthyFolderIsAFailure()
 
 void TestGateFiles::aFolderOfAnotherUserIsAFailure()
 {
-    // Only root can make such a folder; anybody else finds one of root's, which is to be trusted.
+    // Only root can create such a folder; any other user finds one of root's, which is trusted.
     const bool isRoot = ::geteuid() == 0;
     const QString stranger = isRoot ? m_site->state() : QString("/");
     if (isRoot) {
@@ -719,7 +719,7 @@ void TestGateFiles::theRejectsLieInTheFolderThatWasJudged()
     QVERIFY(QDir().mkdir(m_site->state()));
     GateFolder judged;
     QVERIFY(judged.openPrivate(m_site->state()));
-    // Somebody who may write to the folder above is quick.
+    // A user who may write to the parent folder is faster.
     QVERIFY(QDir().rename(m_site->state(), m_site->folder() + "/moved"));
     QVERIFY(QDir().mkdir(m_site->state()));
     GateFolder same;
@@ -761,7 +761,7 @@ void TestGateFiles::aSecondGateIsRefused()
     COMPARE_EXIT(run, ExitStatus::GuardTripped);
     QCOMPARE(run.rules(), QStringList("busy"));
     QVERIFY(!m_site->isPublished());
-    // The status is that of the other one.
+    // The status is that of the other run.
     QCOMPARE(m_site->status(), before);
 }
 
@@ -802,7 +802,7 @@ void TestGateFiles::aFileThatIsWrittenMeanwhileHasChanged()
     const QByteArray content = GatePeople::file(GatePeople::some(3));
     const QString path = m_site->hrFile();
     m_site->deliver(content);
-    // The clock of files is a coarse one: what follows shall differ.
+    // File times are coarse: the next one must differ.
     setModified(path, "2026-03-04T05:06:07.089Z");
     Meanwhile target([&] {
         QFile file(path);

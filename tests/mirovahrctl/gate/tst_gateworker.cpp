@@ -19,7 +19,7 @@ private:
     /// A worker that runs the gate of this site before every synchronisation.
     void startWorkerWith(const GateSite &site);
     QString command(const GateSite &site) const;
-    /// Of those whom HR delivers and who are not in the sample data.
+    /// Counts delivered people who are not in the sample data.
     int people(const QString &condition = "pid BETWEEN 10101 AND 10301");
 };
 

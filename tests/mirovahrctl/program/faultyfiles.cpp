@@ -1,6 +1,6 @@
-// A library to be loaded before all others (LD_PRELOAD): it makes the calls fail by which a program
-// works with files, or ends the program in the middle of one. It counts the calls for what lies
-// below one folder:
+// A library to be loaded before all others (LD_PRELOAD): it makes a program's calls that work with
+// files fail, or kills the program in the middle of one. It counts the calls that concern one
+// folder:
 //
 //   FAULTY_FOLDER   the folder
 //   FAULTY_COUNTED  which calls count: "all"; "changes": not those that look and read only; or
@@ -13,7 +13,7 @@
 //   FAULTY_APPEND   a file to which a byte is appended when it is first read
 //   FAULTY_PIPE     a file that a pipe replaces when it is first opened
 //
-// Every function takes its kernel call itself, so that nothing comes between.
+// Every function makes its system call itself, without another library between them.
 
 #include <cerrno>
 #include <climits>
@@ -111,8 +111,8 @@ void replaceByPipe(const std::string &path)
         ::raise(SIGKILL);
 }
 
-/// Notes a call. True when it must fail; errno is then set. Kills the program when it is to die in
-/// this call, after \a half was done.
+/// Counts a call. True when it must fail; errno is then set. When the program is to die in this
+/// call, runs \a half and kills it.
 template <typename Half>
 bool fails(const char *name, const std::string &path, Kind kind, const Half &half)
 {
@@ -256,7 +256,7 @@ FAULTY int unlinkat(int folder, const char *path, int flags) noexcept
         : int(::syscall(SYS_unlinkat, folder, path, flags));
 }
 
-// What the gate does not call today, so that a change of it does not escape unseen.
+// Calls that the gate does not make today: a change of it must not escape unseen.
 FAULTY int rename(const char *old, const char *path) noexcept
 {
     return renameat(AT_FDCWD, old, AT_FDCWD, path);

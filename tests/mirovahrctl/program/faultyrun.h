@@ -14,7 +14,7 @@ struct Fault {
     bool rest = false; ///< all later ones fail, too
 };
 
-/// To be called before the run is started. What lies below \a folder is concerned.
+/// Call it before the run starts. Only calls that concern \a folder count.
 void prepare(ProgramRun &run, const QString &folder, const Fault &fault);
 
 } // namespace FaultyRun

@@ -23,7 +23,7 @@ struct ToolRun {
     QVector<QJsonObject> findingsOf(const QString &rule) const;
     /// The rules of all findings, each once, in alphabetical order.
     QStringList rules() const;
-    /// Everything there is to know, for the message of a failed check.
+    /// Status, output and errors, for the message of a failed check.
     QByteArray report() const;
 };
 

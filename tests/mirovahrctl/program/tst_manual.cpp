@@ -46,7 +46,7 @@ QSet<QString> rulesInSources()
 
 } // namespace
 
-/// The manual page and the shell completion, held against the program.
+/// The manual page and the shell completion, compared with the program.
 class TestManual : public QObject {
     Q_OBJECT
 
@@ -140,7 +140,7 @@ void TestManual::completion_data()
     QTest::newRow("an unknown subcommand") << QStringList{"nothing", "--"} << QStringList();
 }
 
-/// Asks bash what it would offer.
+/// The completions that bash offers.
 static QStringList completions(const QStringList &words)
 {
     const QString script =

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// While it lives, new files get this umask.
+/// Sets the umask for its lifetime.
 class Umask {
 public:
     explicit Umask(mode_t mask)
@@ -42,7 +42,7 @@ void makeFile(const QString &path, mode_t mode)
 
 } // namespace
 
-/// The files that the command line asks for are about people.
+/// The files that the command line asks for hold personal data.
 class TestOutputFiles : public QObject {
     Q_OBJECT
 

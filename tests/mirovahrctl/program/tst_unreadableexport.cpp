@@ -22,8 +22,8 @@ bool isPipe(const QString &path)
 
 } // namespace
 
-/// An export that breaks off while it is read, and a pipe that takes its place: no subcommand calls
-/// such a file fine, and none waits for ever.
+/// An export that fails while it is read, and a pipe in its place: no subcommand reports that such
+/// a file is fine, and none waits for ever.
 class TestUnreadableExport : public QObject {
     Q_OBJECT
 

@@ -6,8 +6,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// Headless Chromium with a profile of its own, to look at a page as a reader would. Each call
-/// loads the page anew. What cannot be done ends the test program with a sentence.
+/// Headless Chromium with a profile of its own, to see a page as a reader does. Each call loads the
+/// page again. A failure ends the test program with a sentence.
 class Browser {
 public:
     /// The page's elements as the browser understood them.

@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QRgb>
 
-/// What pictures of the reports' pages are looked at for.
+/// What the tests look for in pictures of the reports' pages.
 namespace PagePicture {
 
 constexpr QRgb kRed = qRgb(0xb3, 0x26, 0x1e); ///< the bar beside a verdict with findings

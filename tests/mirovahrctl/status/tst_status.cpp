@@ -17,7 +17,7 @@ constexpr qint64 kNow = 1800000000;
 
 } // namespace
 
-/// status: what the database and the gate tell, for people, for scripts and for monitoring.
+/// status: the state of the database and the gate, for people, for scripts and for monitoring.
 class TestStatus : public QObject {
     Q_OBJECT
 

@@ -36,7 +36,7 @@ QVector<Reaction> makeReactions()
     const QString noPlan = "W MHRWorker: can't add record '";
     const QString noRequest =
         "W MHRWorker::processNadOsCis() - (Re)Set Admin People Request FAilED!";
-    // Qt's own word when a prepared statement goes together with the connection.
+    // Qt's own warning when a prepared statement is lost with its connection.
     const QString noHandle = "W QMYSQLResult::cleanup: unable to free statement handle";
     const QString noFile = "W MHRWorker::loadAndParseData() - file '";
     return {
@@ -47,7 +47,7 @@ QVector<Reaction> makeReactions()
         reaction("PREPARE SELECT ? + ?", ""),
         reaction("CLOSE", ""),
         reaction("QUIT", ""),
-        // A flag that could not be read or taken back forces the next tick, which finds no file.
+        // A flag that could not be read or reset forces the next tick, which finds no file.
         reaction("SELECT value FROM vars WHERE name='*",
                  "C TepDbSettings::variableGet - SQL ERROR: ", {noFile}),
         reaction("PREPARE INSERT INTO vars *", "C variableSet ERROR: \"", {noPam, noFile}),
@@ -139,8 +139,9 @@ QVector<Reaction> makeReactions()
 QVector<Difference> makeDifferences()
 {
     const QString created = "Only the creation of a person does it, and the person is there now.";
-    const QString written = "Terminals are told of a person when the row is written. A row that is "
-                            "as the line says is not written again.";
+    const QString written =
+        "Terminals are notified of a person when the row is written. A row that is "
+        "as the line says is not written again.";
     const QString again = "A new process counts everybody as changed and writes them once more.";
     const QString named = "A supervisor is assigned when a line names another one than before. "
                           "The same line does not.";
@@ -167,7 +168,7 @@ QVector<Difference> makeDifferences()
          written},
         {"term_sync + tid=* type=U ref=people ref_col=uid ref_id=# *",
          {"UPDATE people SET pamId=* WHERE pid=@"},
-         "Each time the row is written, the terminals that hold the person by then are told."},
+         "Each time the row is written, the terminals that hold the person by then are notified."},
         {"people uid=<uid>: edited 0 -> now",
          {"INSERT INTO people (*"},
          "A person who was created without the branch is given it as an edit."},

@@ -8,9 +8,9 @@
 /// What the log says when a command fails.
 struct Reaction {
     QRegularExpression command; ///< fits its text
-    /// How the line begins that tells of the failure itself; empty where there is none.
+    /// How the line begins that reports the failure itself; empty where there is none.
     QString own;
-    /// How further lines begin that the failure may lead to.
+    /// How the lines begin that the failure may cause besides.
     QStringList further;
 
     bool expects(const QString &line) const;
@@ -21,7 +21,7 @@ const QVector<Reaction> &reactions();
 /// Of the command with this text.
 const Reaction &reactionTo(const QString &command);
 
-/// How the database differs for good from that after an undisturbed run, and why it must.
+/// A lasting difference from the database after an undisturbed run, and why it is inevitable.
 struct Difference {
     // "*" stands for any text, "#" for a person's uid, "@" for the same person's pid, "&" for a
     // terminal.
@@ -34,5 +34,5 @@ struct Difference {
 
 const QVector<Difference> &differences();
 
-/// Stands among the commands that were not carried out when a new process repeated the cycle.
+/// Listed among the commands that were not carried out when a new process repeated the cycle.
 const QString &newProcess();

@@ -28,7 +28,7 @@ QString day(const QDate &date)
 
 bool FaultCycle::start()
 {
-    // What was committed survives a crash of the server. Its general log is not looked at.
+    // Committed changes survive a crash of the server. Its general log is not needed.
     if (!m_db.start({"--innodb-flush-log-at-trx-commit=2", "--general-log=0"}))
         return false;
     m_proxy = std::make_unique<MySqlProxy>(m_db.server().socketPath());

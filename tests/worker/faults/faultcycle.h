@@ -10,15 +10,15 @@
 
 #include <memory>
 
-/// The cycle that the faults are tried on, and the database that it starts from. It uses every step
-/// of a synchronisation:
+/// The cycle into which the faults are injected, and the database that it starts from. It exercises
+/// every step of a synchronisation:
 ///
 /// - a new employee with a supervisor, a branch, a calendar and the payroll export,
 /// - Mária, who goes on leave (a relationship state) and whose balance differs,
 /// - Jana with a new surname, balance and supervisor, and attendance of the current months,
 /// - Ján, who moves to another branch with a calendar that began in the past.
 ///
-/// Each run has a new employee of its own: the program finds the uid of a person only once.
+/// Each run has a new employee: the program looks up the uid of a person only once.
 class FaultCycle {
 public:
     /// True when the server runs; errorString() otherwise.
@@ -34,11 +34,11 @@ public:
     /// Restores the tables, the export and the force flag to their initial state, once the clients
     /// of the previous run are gone. False when one stays connected.
     bool begin();
-    /// Puts the same export there once more and forces a synchronisation.
+    /// Writes the same export again and forces a synchronisation.
     void repeat();
 
-    /// The tables. What is peculiar to the run is replaced: the new employee's numbers are
-    /// "<number>" and "<pid>", his uid is "<uid>", and a moment of the run is "now".
+    /// The tables, with placeholders for what differs from run to run: "<number>" and "<pid>" for
+    /// the new employee's numbers, "<uid>" for the uid, "now" for a moment of the run.
     DatabaseState state();
     /// The text of a command or of a line of the log, with the same replacements.
     QString plain(QString text) const;

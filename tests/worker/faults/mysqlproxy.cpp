@@ -25,7 +25,7 @@ constexpr quint16 kListsWithoutEnd = 0x0100; // of the upper half
 /// Of what executes a prepared statement: kind, number of the statement, flags, a count.
 constexpr int kBeforeValues = 1 + 4 + 1 + 4;
 
-/// Takes from a greeting what the proxy could not read: it stands between two programs that agree
+/// Removes from a greeting the features that the proxy cannot read, so that client and server agree
 /// on the plain protocol.
 void offerPlainProtocol(QByteArray &greeting)
 {

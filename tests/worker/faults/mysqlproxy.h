@@ -12,11 +12,11 @@
 #include <mutex>
 #include <thread>
 
-/// What is done to one command on its way to the server.
+/// What the proxy does to one command on its way to the server.
 struct Disturbance {
     enum class Way {
-        /// Nothing, but the connection is held again when the command is over, until resume(): the
-        /// test does something of its own meanwhile.
+        /// Nothing, but the proxy holds the connection after the command until resume(), while the
+        /// test acts.
         Forward,
         Refuse, ///< An error is the answer, and the server never gets the command.
         CutBefore, ///< The connection ends, and the server never gets the command.
@@ -35,8 +35,8 @@ struct Disturbance {
 /// Stands between a client and a MySQL server, on a socket of its own, and counts what the client
 /// sends: logging in, statements, preparing, closing. One of these commands can be disturbed.
 ///
-/// It serves one connection after the other, in a thread of its own. The wait functions block the
-/// calling thread for so long as a test has patience, and return false then.
+/// It serves one connection at a time, in a thread of its own. The wait functions block the calling
+/// thread, and return false after kPatienceMs.
 class MySqlProxy {
 public:
     struct Command {
@@ -48,22 +48,22 @@ public:
         int error = 0; ///< number of the error that the client or the proxy got
     };
 
-    /// A server that listens at \a serverSocket whenever a client comes.
+    /// \a serverSocket: where the server listens whenever a client connects.
     explicit MySqlProxy(const QString &serverSocket);
-    /// Not before its clients are gone.
+    /// Its clients must be gone.
     ~MySqlProxy();
     MySqlProxy(const MySqlProxy &) = delete;
     MySqlProxy &operator=(const MySqlProxy &) = delete;
 
     QString socketPath() const;
 
-    /// Waits until the last commands of clients that are gone have been passed on: a process that
-    /// is killed leaves them in its socket, as a closing one leaves its QUIT.
+    /// Waits until the proxy has passed on the last commands of clients that are gone: a killed
+    /// process leaves one in its socket, and a closed connection its QUIT.
     bool waitUntilIdle();
-    /// Counts from 1 again. To be called while the proxy is idle.
+    /// Counts from 1 again. Call it while the proxy is idle.
     void restartCount();
-    /// Counts from 1 again, and disturbs the command of this number, once. It is held when it
-    /// arrives, until release(). To be called while the proxy is idle.
+    /// Counts from 1 again, and disturbs the command of this number, once: holds it from its
+    /// arrival until release(). Call it while the proxy is idle.
     void disturb(int number, const Disturbance &disturbance);
     bool waitForArrival();
     void release();
@@ -71,10 +71,10 @@ public:
     bool waitForEnd();
     void resume();
 
-    /// Those since the count began.
+    /// Since the count began.
     QVector<Command> commands() const;
 
-    /// Whoever connects finds no server, until appear().
+    /// Clients find no server until appear().
     void disappear();
     void appear();
 

@@ -57,13 +57,13 @@ public:
     {
         if (!m_server.read(packet))
             return false;
-        // A client that is gone must not keep the answer from being read to its end.
+        // The answer is read to its end even when the client is gone.
         if (m_client != nullptr && !m_client->write(packet))
             m_client = nullptr;
         return true;
     }
 
-    /// Columns or rows up to their end, or up to an error in the midst of them.
+    /// Columns or rows up to their end or to an error.
     bool list(MySqlPacket &last)
     {
         do {

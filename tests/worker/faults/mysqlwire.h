@@ -55,14 +55,14 @@ struct MySqlCommand {
 
     explicit MySqlCommand(const MySqlPacket &packet);
 
-    /// False for those to which a server says nothing.
+    /// False for the commands that a server does not answer.
     bool hasAnswer() const { return code != Quit && code != CloseStatement; }
 
     quint8 code;
     QByteArray text; ///< of a Query or Prepare
 };
 
-/// Takes a whole answer from the server and passes it to \a client, packet by packet, or to nobody
+/// Reads a whole answer from the server and passes it to \a client packet by packet, or drops it
 /// when \a client is null. \a first gets the first packet. False when the server is gone.
 bool passAnswer(const MySqlCommand &command, MySqlWire &server, MySqlWire *client,
                 MySqlPacket &first);

@@ -54,7 +54,7 @@ bool ServingProcess::isMeant(int argc, char **argv)
 
 int ServingProcess::run(int argc, char **argv)
 {
-    // Ends with the test, however that ends.
+    // Ends with the test, also when that is killed.
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     const QCoreApplication application(argc, argv);
     qInstallMessageHandler(print);

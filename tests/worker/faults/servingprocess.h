@@ -4,11 +4,12 @@
 
 class QSqlDatabase;
 
-/// A process of its own that runs a ServingWorker until it is killed, and prints its log: this
-/// program, started anew.
+/// A separate process that runs a ServingWorker until it is killed, and prints its log: another
+/// instance of this program.
 namespace ServingProcess {
 
-/// What this program is to be started with. \a passwordFile holds the password of \a database.
+/// The arguments with which to start this program. \a passwordFile holds the password of \a
+/// database.
 QStringList arguments(const QSqlDatabase &database, const QString &passwordFile,
                       const QString &exportPath);
 

@@ -14,7 +14,7 @@ class ServingWorker {
 public:
     /// \a database is the connection of the attendance server.
     ServingWorker(const QSqlDatabase &database, const QString &exportPath);
-    /// After the running tick; takes the worker's own connection along.
+    /// Waits for the running tick, and removes the worker's connection.
     ~ServingWorker();
     ServingWorker(const ServingWorker &) = delete;
     ServingWorker &operator=(const ServingWorker &) = delete;

@@ -47,7 +47,7 @@ QStringList carriedOut(const Commands &commands)
     return texts;
 }
 
-/// What \a texts have and \a others lack, a text that occurs twice counted twice.
+/// The texts that \a others lack; a text that occurs twice counts twice.
 QStringList without(QStringList texts, const QStringList &others)
 {
     for (const QString &text : others)
@@ -112,13 +112,12 @@ bool waitForNextTick(const LogCapture &log)
 
 } // namespace
 
-/// Each row is one command of a synchronisation, by its number, and one fault that meets it. After
-/// it the worker has logged what it must, has gone on and ticks; then, the cause gone, one forced
-/// synchronisation of the same export brings the database to the state of an undisturbed run, but
-/// for differences().
+/// Each row injects one fault into one command of a synchronisation. The worker must log the
+/// failure, go on and tick; then, with the cause removed, one forced synchronisation of the same
+/// export must bring the database to the state of an undisturbed run, except for differences().
 ///
-/// Unless the environment variable MIROVAHR_FAULTS is "all", some of the faults meet only some of
-/// the commands.
+/// Unless the environment variable MIROVAHR_FAULTS is "all", some of the faults are injected into
+/// some of the commands only.
 class TestFaults : public QObject {
     Q_OBJECT
 
@@ -192,7 +191,7 @@ private:
     QMap<QString, int> m_survived;
 };
 
-/// Preparing a statement waits for nobody.
+/// Preparing a statement takes no lock.
 bool TestFaults::needsTables(const MySqlProxy::Command &command)
 {
     static const QRegularExpression begin("^(SELECT|INSERT|UPDATE|Update|CALL|EXECUTE) ");
@@ -233,7 +232,7 @@ Commands TestFaults::plainCommands() const
 void TestFaults::initTestCase()
 {
     QVERIFY2(m_cycle.start(), qPrintable(m_cycle.errorString()));
-    // The first time finds the uids, which the program then knows.
+    // The first run looks up the uids, which the program then knows.
     learnCycle();
     learnCycle();
     learnCycleOfProcess();
@@ -251,7 +250,7 @@ void TestFaults::learnCycle()
     m_state = m_cycle.state();
     QVERIFY(repeat(log));
     QCOMPARE(problems(log.lines()), QStringList());
-    // Of itself, a repetition changes nothing.
+    // A repetition alone changes nothing.
     QCOMPARE(StateChanges::between(m_state, m_cycle.state()), QStringList());
 }
 
@@ -297,8 +296,8 @@ void TestFaults::cleanupTestCase()
 
 // A disturbed cycle -------------------------------------------------------------------------------
 
-/// \a whileHeld is done when the command of the row has arrived and waits, \a afterwards when it is
-/// over and, forwarded, holds the connection.
+/// Calls \a whileHeld while the proxy holds the command of the row, and \a afterwards when the
+/// command is over and, if it was forwarded, the proxy holds the connection.
 TestFaults::Run TestFaults::disturb(const Disturbance &disturbance,
                                     const std::function<void()> &whileHeld,
                                     const std::function<void(const LogCapture &)> &afterwards)
@@ -341,7 +340,7 @@ bool TestFaults::passFault(const LogCapture &log, const std::function<void()> &w
     if (afterwards)
         afterwards(log);
     proxy.resume();
-    // A flag that could not be taken back forces the second tick, too.
+    // A flag that could not be reset forces the second tick, too.
     return log.waitForText("END synchronization #1 ") && waitForNextTick(log)
         && waitForNextTick(log);
 }
@@ -362,7 +361,7 @@ bool TestFaults::repeat(const LogCapture &log)
 
 // Checks ------------------------------------------------------------------------------------------
 
-/// One command failed: the log tells of nothing else.
+/// One command failed: the log reports nothing else.
 void TestFaults::checkLogOfRefusal(const Run &run, const QString &errorText) const
 {
     QFETCH(QString, command);
@@ -372,7 +371,7 @@ void TestFaults::checkLogOfRefusal(const Run &run, const QString &errorText) con
     checkOwnLine(run, errorText);
 }
 
-/// With the connection everything fails that the cycle still wanted.
+/// Without its connection, every later command of the cycle may fail.
 void TestFaults::checkLogOfLoss(const Run &run) const
 {
     for (const QString &line : run.problems) {
@@ -393,7 +392,7 @@ void TestFaults::checkOwnLine(const Run &run, const QString &errorText) const
     const QStringList lines = run.problems.filter(QRegularExpression(
         QRegularExpression::anchoredPattern(QRegularExpression::escape(own) + "(.|\n)*")));
     QVERIFY2(!lines.isEmpty(), qPrintable(run.problems.join('\n')));
-    // A warning says no more than what could not be found.
+    // A warning does not contain the server's error.
     if (own.startsWith('C'))
         QVERIFY2(lines.first().contains(errorText), qPrintable(lines.first()));
 }
@@ -412,7 +411,7 @@ void TestFaults::checkState(const Run &run, const Commands &undisturbed, const Q
         QVERIFY2(explanation != differences().end(), qPrintable(line));
         m_differencesSeen += int(explanation - differences().begin());
     }
-    // The supervisor's transaction is done as a whole or not at all.
+    // The supervisor's transaction is all or nothing.
     QCOMPARE(run.differences.contains("admins_people aid=1 uid=4: request 0 -> 1"),
              run.differences.contains("admins_people - aid=2 uid=4 request=1"));
 }
@@ -473,9 +472,8 @@ QStringList TestFaults::keyOfHeldInsert() const
     return key.match(m_cycle.proxy().commands().last().text).capturedTexts().mid(1);
 }
 
-/// Takes what the command that waits at the proxy needs, in the administrator's connection. In the
-/// supervisor's transaction that is the gap between rows where the new one belongs: the transaction
-/// holds the table by then.
+/// Locks what the held command needs, in the administrator's connection. In the supervisor's
+/// transaction, which holds the table by then, that is the gap for the new row.
 void TestFaults::lockAgainstHeldCommand()
 {
     const MySqlProxy::Command held = m_cycle.proxy().commands().last();
@@ -496,7 +494,7 @@ void TestFaults::lockAgainstHeldCommand()
 void TestFaults::aLockTimeoutIsSurvived()
 {
     QFETCH(int, number);
-    // New connections do not wait at all.
+    // New connections do not wait for locks.
     m_cycle.db().run("SET GLOBAL lock_wait_timeout = 0, GLOBAL innodb_lock_wait_timeout = 0");
     const auto unlock = [this](const LogCapture &) {
         m_cycle.db().run("ROLLBACK");
@@ -519,8 +517,8 @@ void TestFaults::aDeadlockIsSurvived()
     checkState(run, m_commands);
 }
 
-/// In a transaction that has changed many rows, so that the server rather ends another one: keeps
-/// others from inserting the row of this key, tells so, and inserts another one of the same person.
+/// Locks the row of this key, fulfils \a kept, and inserts another row of the same person. The
+/// transaction has changed many rows, so that the server chooses the other one as the victim.
 void TestFaults::meetInDeadlock(const QStringList &key, std::promise<void> &kept)
 {
     const QString name = "other";

@@ -7,8 +7,8 @@
 #include <QStringList>
 #include <QVector>
 
-/// A second reading of the HR export, straight from the description of its format: slow, plain, and
-/// with nothing of the reading that the worker does. The local zone has to be UTC.
+/// A second implementation of reading the HR export, straight from the description of its format:
+/// slow, plain, and independent of the worker's. The local zone must be UTC.
 namespace PlainReading {
 
 /// The texts of the lines of a file, in their order, without the empty ones and those of more than

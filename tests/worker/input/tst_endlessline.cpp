@@ -1,5 +1,5 @@
-// A line or a file without an end costs the worker neither memory nor time. A program of its own:
-// it looks at the most memory that the program has ever held.
+// A line or a file without an end costs the worker neither memory nor time. A separate program,
+// because it measures the program's peak memory.
 
 #include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"

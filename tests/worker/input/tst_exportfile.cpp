@@ -214,7 +214,7 @@ void TestExportFile::loadingAgainAppends()
     worker.loadAndParseData();
     QCOMPARE(takeRecords(worker), QStringList({syncLine(1), syncLine(2), syncLine(3)}));
 
-    // Taken records are gone; the file is still there and read again.
+    // The records are taken once; the file stays and is read again.
     worker.loadAndParseData();
     worker.loadAndParseData();
     QCOMPARE(takeCount(worker), QStringList("D MHRWorker::doSync() - stack count: 2"));

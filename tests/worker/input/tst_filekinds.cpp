@@ -41,7 +41,7 @@ void write(const QString &path, const QByteArray &content,
         qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
 }
 
-/// While it lives, this thread reaches files as somebody without rights to them, also as root.
+/// For its lifetime, this thread accesses files without any rights, even if the test runs as root.
 class WithoutRights {
 public:
     WithoutRights()
@@ -201,7 +201,7 @@ void TestFileKinds::whatIsNoRegularFileIsNotFound_data()
 
 void TestFileKinds::whatIsNoRegularFileIsNotFound()
 {
-    // A pipe above all: who opens one waits for a writer, and would do so for ever.
+    // A pipe above all: opening one would wait for a writer for ever.
     QFETCH(QString, kind);
     makeKind(kind);
     QCOMPARE(load("export"), QStringList(notFound("export")));

@@ -33,7 +33,7 @@ private:
     int connectCount();
 };
 
-/// How many connections the server has accepted. (It notes the end of one at its leisure.)
+/// How many connections the server has accepted. (It logs the end of one with a delay.)
 int TestConnection::connectCount()
 {
     const QVector<ServerEvent> events = m_db.events();
@@ -138,7 +138,7 @@ void TestConnection::aLostConnectionFailsUntilItIsClosed()
     m_db.killServer();
     m_db.startServer();
 
-    // The connection still calls itself open, and no statement reaches the server.
+    // The connection still reports that it is open, and no statement reaches the server.
     const Trace lost = observe([this, &record] {
         QVERIFY(m_worker->dbCheckOpen());
         QVERIFY(!m_worker->dbLoadPeople());

@@ -139,7 +139,7 @@ void TestFindPeople::aUidStaysKnownWhateverBecomesOfTheRow()
     insertPerson(56, 551);
     const Trace trace = observe([this] { QCOMPARE(m_worker->getUidByPid(551), 55U); });
     QCOMPARE(trace.statements, QStringList());
-    // Only the cache is blind to it.
+    // Only the cache still has the old uid.
     QCOMPARE(m_worker->dbGetUidByPid(551), 56U);
 }
 

@@ -13,9 +13,8 @@ const QString kSelectPeople =
 
 } // namespace
 
-/// Which view of a person the worker takes from the database. It shows in what the worker then
-/// writes for a record: nothing when the view agrees with it, an update when it does not, and a new
-/// person when there is none.
+/// What the worker loads of a person. It shows in what the worker then writes for a record: nothing
+/// when the loaded person equals it, an update when not, and a new person when none was loaded.
 class TestLoadPeople : public WorkerTest {
     Q_OBJECT
 public:
@@ -78,8 +77,8 @@ void TestLoadPeople::load()
 
 namespace {
 
-/// What the row of insertPerson() holds, for a person who has left: nobody is created for it and
-/// no branch is looked for.
+/// What the row of insertPerson() holds, for a person who has left: the worker creates no person
+/// and looks up no branch for it.
 MirovaRonRecord person(MirovaRonRecord record)
 {
     record.stavPracovnihoPomeru = 4;

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-/// Whom the cache finds, whoever was expected.
+/// The cache finds the same people, whichever were expected.
 class TestPeopleCache : public WorkerTest {
     Q_OBJECT
 public:

@@ -21,7 +21,7 @@ QString insertStatement(const QString &values)
           "type=VALUES(type), did=1";
 }
 
-/// The values of WorkerTest::fullRecord() in branch 5 and department 1.
+/// The values of fullRecord() in branch 5 and department 1.
 const QString kFullValues =
     "'12342', '1234.2', 'Ing.', 'Jana', 'Nováková', 'PhD.', '555123456', 1554069600, 1924988399, "
     "UNIX_TIMESTAMP(), 1622498400, 1625090400, 'materská dovolenka', 1, 1, 3, 5";
@@ -282,7 +282,7 @@ void TestWritePeople::mergingTheSameAgainAddsNothing()
 
 void TestWritePeople::aRowCountsWithoutAGeneratedKey()
 {
-    // A site's table may take its keys from elsewhere: then only the affected rows tell.
+    // A site's table may generate no keys: then only the affected rows show the success.
     m_db.run("ALTER TABLE people MODIFY uid INT UNSIGNED NOT NULL DEFAULT 42");
     observe([this] { QVERIFY(m_worker->dbAddPerson(fullRecord())); });
     QCOMPARE(m_db.rows("SELECT uid, pid FROM people"), TableRows({{"42", "12342"}}));

@@ -18,9 +18,9 @@ public:
     bool notify(QObject *receiver, QEvent *event) override;
 };
 
-/// An attendance server that does with its plugin whatever the contract allows, at random: loads,
-/// starts, stops, pauses, resumes, starts again, forces a synchronisation, unloads in the middle of
-/// one. Belongs to the thread that makes it.
+/// An attendance server that uses its plugin at random, within the contract: loads, starts, stops,
+/// pauses, resumes, starts again, forces a synchronisation, unloads in the middle of one. Belongs
+/// to the thread that creates it.
 class RandomHost {
 public:
     /// \a database is not yet open; \a seed makes the sequence.

@@ -14,9 +14,9 @@ public:
     ThreadMessages &operator=(const ThreadMessages &) = delete;
 
     int count(const QThread *thread) const;
-    /// Waits until a thread has logged so many messages.
+    /// Waits until a thread has logged \a count messages.
     void waitFor(const QThread *thread, int count) const;
-    /// Forgets a thread that has ended: another one may get its address.
+    /// Forgets a thread that has ended: a new one may get its address.
     void forget(const QThread *thread);
 
     /// "begun - ended" synchronisations of all threads.

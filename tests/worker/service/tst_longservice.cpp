@@ -142,8 +142,8 @@ void TestLongService::tick(int times)
     m_db.run("DELETE FROM term_sync");
 }
 
-/// Everybody changes, and back again: names, branch, calendar, balance, supervisor, state. There is
-/// also who has no branch, whom the database refuses, and a line that is none.
+/// Every person changes, and back again: names, branch, calendar, balance, supervisor, state. One
+/// has no branch, the database refuses another, and one line is invalid.
 void TestLongService::writeExport()
 {
     using namespace SampleExport;
@@ -184,8 +184,8 @@ void TestLongService::force()
     m_db.run("UPDATE vars SET value = '1' WHERE name = 'YAV.MHRWorker.forceSync'");
 }
 
-/// Between two ticks. The machine and the server may take a moment to see that a thread has ended
-/// or a connection is closed.
+/// Between two ticks. The machine and the server may notice the end of a thread or of a connection
+/// with a delay.
 Resources TestLongService::settled()
 {
     const int threads = m_threads + (m_loader ? 1 : 0);

@@ -14,7 +14,7 @@ CommandGate::CommandGate()
 {
     if (::mkfifo(m_path.constData(), 0600) != 0)
         qFatal("%s could not be made", m_path.constData());
-    // With this end open, the command's own opening of the pipe does not wait.
+    // While a writer exists, the command opens the pipe at once.
     m_handle = ::open(m_path.constData(), O_RDWR | O_CLOEXEC);
     m_watch = ::inotify_init1(IN_CLOEXEC);
     if (m_handle < 0 || ::inotify_add_watch(m_watch, m_path.constData(), IN_OPEN) < 0)

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// An export command that holds the synchronisation that runs it, until the test lets it go on.
+/// An export command that blocks the synchronisation that runs it until the test opens the gate.
 /// For one run of the command.
 class CommandGate {
 public:
@@ -13,7 +13,7 @@ public:
     CommandGate &operator=(const CommandGate &) = delete;
 
     QString command() const; ///< The command line.
-    void waitForCommand(); ///< Waits until the command runs. It then stays until open().
+    void waitForCommand(); ///< Waits until the command runs. It then blocks until open().
     void open();
 
 private:

@@ -4,11 +4,11 @@
 
 #include <functional>
 
-/// Does something at a certain point of the code under test: when the log gets a certain message,
-/// in the middle of what logs it and in its thread.
+/// Runs an action at a certain point of the code under test: when that logs a certain message, and
+/// in the same thread.
 ///
-/// A LogCapture that shall have the message as well must be there before and stay longer. What the
-/// action itself logs goes to the standard error output: Qt calls no handler from within a handler.
+/// A LogCapture that is to receive the message as well must exist before and outlive it. What the
+/// action itself logs goes to standard error: Qt calls no handler from within a handler.
 class LogHook {
 public:
     /// \a action is called once, for the first message with this \a text.

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Hours east of Greenwich, not many more than real zones have: servers count on that.
+/// Hours east of Greenwich, not many more than real zones have: servers accept no others.
 int middayOffset(const QDateTime &utc)
 {
     const int hour = utc.time().hour();

@@ -2,7 +2,7 @@
 
 #include "tests/support/testdatabase.h"
 
-/// What happened to the database, for a person to read and to write down: one line a row.
+/// The changes of the database in a readable form, one line a row.
 ///
 ///     people uid=4: surname Nováková -> Malá, edited 0 -> now
 ///     brape + bid=1 uid=9 since=now

@@ -10,8 +10,8 @@
 
 namespace {
 
-// libfaketime reads the time from a file at every look at the clock. The file is one in memory that
-// the program inherits as an open one from itself, so that none stays behind.
+// libfaketime reads the time from a file whenever the program asks for the time. The file is in
+// memory, and the restarted program inherits its descriptor, so that none is left behind.
 constexpr char kFileVariable[] = "FAKETIME_TIMESTAMP_FILE";
 constexpr char kLibraries[] = "LD_PRELOAD";
 constexpr char kFolderOfOpenFiles[] = "/proc/self/fd/";

@@ -2,14 +2,14 @@
 
 #include <QByteArray>
 
-/// The clock of this program. It runs as the machine's does until it is put somewhere, and then
-/// stands still there.
+/// The clock of this program. It runs as the machine's does until standAt() stops it at a moment.
 ///
-/// Only the time of day is moved: timers and time limits run on. The programs that this one starts
-/// have the machine's clock. For a server it would be too much: its threads wait for moments.
+/// Only the time of day is affected: timers and time limits run on. Programs that this one starts
+/// use the machine's clock. A server could not live with a stopped clock: its threads wait for
+/// moments.
 class MovableClock {
 public:
-    /// Starts the program anew with a clock that can be moved. To be called first in main().
+    /// Restarts the program with a clock that can be moved. Call it first in main().
     static void install(char **arguments);
 
     /// Unix seconds of "2025-12-31T23:59:59+01:00".

@@ -28,7 +28,7 @@ QString openDays(int uid);
 /// The three above: both checks of a person whose attendance is calculated.
 QStringList fundChecks(uint pid, int uid);
 
-/// What the line of an export does not say of the row in `people`.
+/// Values of the row in `people` that do not come from the line.
 struct PersonValues {
     QString type = QStringLiteral("1");
     QString bid = QStringLiteral("1");

@@ -81,8 +81,8 @@ QString notThere(const QString &table)
 
 } // namespace
 
-/// Exports and databases that are not as they should be: what gets through, what the log says, and
-/// that everything else is as if nothing had happened.
+/// Malformed exports and damaged databases: what is written nevertheless, what the log reports, and
+/// that everything else is unaffected.
 class TestBadInput : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
@@ -121,7 +121,7 @@ void TestBadInput::aQuoteInANameKeepsThatPersonOut()
                                 "groups_plan + gid=11 uid=" + uid
                                     + " since=" + month(today().addDays(1))}
                     << joined(uid.toInt())));
-    // Both came to the branch in one statement, the first as nobody.
+    // Both joined the branch in one statement, the first with uid 0.
     QVERIFY(trace.statements.contains(Sent::joinBranch(1, "0," + uid)));
 }
 

@@ -39,7 +39,7 @@ Sent::PersonValues ofTomas(const QDate &rsBegin, const QDate &rsEnd, const QStri
 
 } // namespace
 
-/// What the driver takes for a change of a person that the database knows, and what it remembers.
+/// What the driver considers a change of a known person, and what it remembers.
 class TestChanges : public WorkerTest {
     Q_OBJECT
 private Q_SLOTS:
@@ -185,7 +185,7 @@ void TestChanges::aChangedCodeIsWritten()
     QFETCH(ExportRow, line);
     QFETCH(QString, type);
     synchronise({tomas()});
-    // Not edited in this very second: else the row would not change, and no terminal would know.
+    // Edited in another second: otherwise the row would not change, and no terminal be notified.
     m_db.run("UPDATE people SET edited = 0");
     QCOMPARE(synchronise({line}).statements,
              Sent::begin() << Sent::fundChecks(20012, 8) << Sent::updatePerson(line, ofTomas(type))

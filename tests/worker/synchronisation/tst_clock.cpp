@@ -629,7 +629,7 @@ void TestClock::programAndServerMayLiveInAnotherZone()
 
 /// The server's zone has to be that of the program. This is what happens when it is not: dates of
 /// people are right, but the fund's days are the program's where they are written and the server's
-/// where they are looked for.
+/// where they are looked up.
 void TestClock::aServerInAnotherZoneCountsDaysOfItsOwn()
 {
     m_db.run("SET GLOBAL time_zone = '+00:00'");
@@ -647,7 +647,7 @@ void TestClock::aServerInAnotherZoneCountsDaysOfItsOwn()
     QCOMPARE(movesOfTomas(), QStringList(day + " 202506 100"));
 }
 
-/// Everything else goes on. The server itself stays in its own time: it knows no later one.
+/// Everything else still works. The server keeps its own clock: it supports no later time.
 void TestClock::afterJanuary2038TheServerHasNoMidnights()
 {
     MovableClock::standAt("2040-03-01T12:00:00+01:00");

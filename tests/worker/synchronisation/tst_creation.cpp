@@ -16,7 +16,7 @@ uint pidOf(const ExportRow &line)
     return (line.osobniCislo + line.poradoveCisloPP).toUInt();
 }
 
-/// Both checks of a person who is not in the table: the second finds no uid to go on with.
+/// Both checks of a person who is not in the table: the second stops without a uid.
 QStringList fundChecksOfNobody(uint pid)
 {
     return {Sent::movesOfToday(pid), Sent::calculation(pid)};
@@ -89,7 +89,7 @@ void TestCreation::theCycleAfterTheCreationSettlesTheBalance()
     ExportRow line = newcomer(newPersonalNumber()).with(&ExportRow::dovolenaZustatek, "20");
     const uint pid = pidOf(line);
     synchronise({line});
-    // The person exists now, so what could not be checked then can be made up for.
+    // The person exists now, so that the checks can be repeated.
     QCOMPARE(synchronise().statements,
              Sent::begin() << Sent::fundChecks(pid, 9) << Sent::balance(pid)
                            << Sent::correction(9, 2000) << Sent::membership(pid, 1)
@@ -300,7 +300,7 @@ void TestCreation::aFailedCreationStillAsksForThePlace()
                           "W MHRWorker: can't add record '"
                               + described(line.osobniCislo + ".1").replace("NOC: 0", "NOC: 1002")
                               + "' into [groups_plan]!"}));
-    // Without a uid: the branch gets "0", which names nobody.
+    // Without a uid: the branch gets "0", which is no person.
     QCOMPARE(trace.statements,
              Sent::begin() << fundChecksOfNobody(pid) << Sent::insertPerson(line)
                            << Sent::findUid(pid) << Sent::membership(pid, 1) << Sent::group(1, 1)

@@ -168,7 +168,7 @@ void TestCycle::branchesAndFundAreLookedUpOncePerCycle()
 
 void TestCycle::theKnownPeopleAreFreedAtTheEndOfTheCycle_data()
 {
-    // Whose row was made a record of decides where the people are kept.
+    // The people are kept in another place once a row was turned into a record.
     QTest::addColumn<bool>("isChanged");
     QTest::newRow("some were looked for") << true;
     QTest::newRow("nobody was looked for") << false;
@@ -182,7 +182,7 @@ void TestCycle::theKnownPeopleAreFreedAtTheEndOfTheCycle()
     for (const quint32 pid : {12341U, 10021U, 10011U})
         QVERIFY(!m_worker->knownPerson(pid));
 
-    // The next cycle loads them anew.
+    // The next cycle loads them again.
     observe([this] { QVERIFY(m_worker->dbLoadPeople()); });
     for (const quint32 pid : {12341U, 10021U, 10011U})
         QVERIFY(m_worker->knownPerson(pid));

@@ -280,8 +280,8 @@ void TestVacationFund::calculatedAttendanceAllowsACorrection()
 
 void TestVacationFund::aRecentCalculationForbidsACorrection_data()
 {
-    // The limit lies between 899 and 900 seconds. What is nearer to it than the test may take can
-    // only be told apart by moving the clock.
+    // The limit lies between 899 and 900 seconds. Values nearer to it than the duration of the test
+    // need a moved clock.
     QTest::addColumn<int>("age");
     QTest::addColumn<bool>("allowed");
     QTest::newRow("just now") << 0 << false;

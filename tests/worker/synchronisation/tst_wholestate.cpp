@@ -68,7 +68,7 @@ ExportRow stefan()
         .with(&ExportRow::stavPracovnihoPomeru, 4);
 }
 
-/// What HR sends on an ordinary morning about people whom the database knows.
+/// What HR sends on an ordinary morning about known people.
 QVector<ExportRow> ordinaryExport()
 {
     return {
@@ -148,7 +148,7 @@ void TestWholeState::anOrdinaryExportChangesWhatItSays()
                 + " -> 2025-02-28",
             "people uid=6: end NULL -> " + yesterday + " 23:59:59, edited 0 -> now, " + calculated,
             "people uid=8: edited 0 -> now",
-            // The terminals hear of it: 3 is switched off, 5 under test.
+            // The terminals are notified: 3 is switched off, 5 under test.
             "term_sync + tid=1 type=U ref=people ref_col=uid ref_id=1 ref_col2=NULL ref_id2=NULL "
             "created=now flags=2",
             "term_sync + tid=4 type=U ref=people ref_col=uid ref_id=2 ref_col2=NULL ref_id2=NULL "
@@ -164,8 +164,8 @@ void TestWholeState::anOrdinaryExportChangesWhatItSays()
             "term tid=1: syn 0 -> 2",
             "term tid=4: syn 0 -> 2",
             "term tid=7: syn 64 -> 66",
-            // Zuzana moves from the office to the warehouse: its terminals and administrators get
-            // to know her. She stays a member of the office.
+            // Zuzana moves from the office to the warehouse, and is added to its terminals and
+            // administrators. She stays a member of the office.
             "brape + bid=1 uid=3 since=now",
             "groups_plan + gid=11 uid=3 since=" + month(firstOfMonth()),
             "people_term + tid=1 uid=3",
@@ -337,7 +337,7 @@ void TestWholeState::newcomersAreTakenUp()
 
 void TestWholeState::newcomersAreSettledInTheSecondCycle()
 {
-    // In the cycle that created them there was nobody yet whose balance could be corrected.
+    // Their balance could not be corrected in the cycle that created them.
     m_worker->setMes({{1, "v skúšobnej dobe"}});
     const QVector<ExportRow> lines = newcomers(3011);
     synchronise(lines);

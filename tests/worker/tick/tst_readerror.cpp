@@ -22,8 +22,8 @@ ExportRow person(int personalNumber)
     return ExportRow().with(&ExportRow::osobniCislo, personalNumber);
 }
 
-/// Puts the unreadable file behind the descriptor by which this program has opened a file: what is
-/// read from now on fails, and what was read stays.
+/// Replaces an open file of this program by the unreadable one, behind the same descriptor: reading
+/// fails from now on, and what was read stays.
 void breakOpenFile(const QString &path)
 {
     const int unreadable = ::open(qPrintable(kUnreadableFile), O_RDONLY | O_CLOEXEC);

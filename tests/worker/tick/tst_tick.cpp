@@ -158,7 +158,7 @@ void TestTick::theStepsOfASynchronisationComeInTheirOrder()
     worker.setSyncCommand("/bin/true");
     worker.setSyncCommandRunCondition(2);
     force();
-    // A person whom the database has as the export does: nothing is to be written.
+    // The row equals the line: nothing is to be written.
     m_export->write({ExportRow().with(&ExportRow::nadrizenyOsobniCislo, 0)});
     QStringList lines = tick();
     const auto ofLaterSteps = [](const QString &line) {

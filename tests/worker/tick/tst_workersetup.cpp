@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Each test needs somebody of its own: the uid of a pid is remembered by the process, whatever the
+/// Each test needs a person of its own: the process remembers the uid of a pid, whatever the
 /// database.
 ExportRow person(int personalNumber, int calendar)
 {
