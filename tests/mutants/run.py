@@ -12,7 +12,7 @@ import re
 import subprocess
 import sys
 
-#: What is delivered; mutants are looked for nowhere else.
+#: The delivered code, which is the only place of mutants.
 CODE = re.compile(r"(?!(tests|bench|fuzz|demo)/).*\.(cpp|h|sql)")
 
 #: Seconds that one test function may take.
@@ -26,7 +26,7 @@ TEST_FAILS = "test fails"
 
 
 class Failure(Exception):
-    """Why nothing can be tried at all."""
+    """The reason why no mutant can be tried."""
 
 
 class Mutant:
@@ -64,7 +64,7 @@ class Mutant:
         self.mutated = None  #: that file's text with the mutant in it
 
     def find(self, code):
-        """Looks for the place in the code; the paths at which it was found."""
+        """Finds the place in the code; returns the paths in which it occurs."""
         found = [(path, match) for path, text in code.items()
                  for match in self.pattern.finditer(text)]
         if len(found) == 1:
@@ -75,7 +75,7 @@ class Mutant:
 
 
 def pattern(text):
-    """A regular expression for a piece of code that does not mind how it is laid out."""
+    """A regular expression for a piece of code, whatever its layout."""
     tokens = re.findall(r"\w+|[^\w\s]", text)
     expression = ""
     for before, token in zip([None] + tokens, tokens):
@@ -111,7 +111,7 @@ def choose(mutants, names):
 
 class Copy:
     """A copy of the project, with a build of its own. A file is written only when it differs, so
-    that little is built anew."""
+    that little is rebuilt."""
 
     def __init__(self, project, folder):
         self.folder = folder
@@ -127,7 +127,7 @@ class Copy:
         self.commands = self.configure()
 
     def files(self):
-        """The copied files that are there from an earlier run."""
+        """The copied files of an earlier run."""
         found = set()
         for parent, folders, names in os.walk(self.folder):
             if pathlib.Path(parent) == self.folder and "build" in folders:
@@ -180,7 +180,7 @@ class Trial:
         for mutant in mutants:
             paths = mutant.find(code)
             if len(paths) != 1:
-                self.tell(mutant, DOES_NOT_APPLY, ["found in: " + (", ".join(paths) or "no file")])
+                self.report(mutant, DOES_NOT_APPLY, ["found in: " + (", ".join(paths) or "no file")])
         # One test program after the other, and for each one file after the other: most of what the
         # next mutant needs is then built.
         found = sorted((mutant for mutant in mutants if mutant.path),
@@ -192,14 +192,14 @@ class Trial:
         failing = self.failing(program, sorted({mutant.function for mutant in mutants}))
         for mutant in mutants:
             if mutant.function in failing:
-                self.tell(mutant, TEST_FAILS)
+                self.report(mutant, TEST_FAILS)
                 continue
             self.copy.write(mutant.path, mutant.mutated.encode())
             self.try_out(mutant)
             self.copy.write(mutant.path, code[mutant.path].encode())
 
     def failing(self, program, functions):
-        """The functions that fail without any mutant, or are not there at all."""
+        """The functions that fail without any mutant, or do not exist."""
         if program not in self.copy.commands:
             return functions
         built = self.copy.build(program)
@@ -212,13 +212,13 @@ class Trial:
     def try_out(self, mutant):
         built = self.copy.build(mutant.program)
         if built.returncode != 0:
-            self.tell(mutant, DOES_NOT_BUILD, re.findall(r".*error:.*", built.stdout)[:3])
+            self.report(mutant, DOES_NOT_BUILD, re.findall(r".*error:.*", built.stdout)[:3])
         elif self.copy.passes(mutant.program, [mutant.function]):
-            self.tell(mutant, SURVIVED)
+            self.report(mutant, SURVIVED)
         else:
-            self.tell(mutant, KILLED)
+            self.report(mutant, KILLED)
 
-    def tell(self, mutant, outcome, details=()):
+    def report(self, mutant, outcome, details=()):
         self.outcomes[outcome] += 1
         lines = [f"{outcome:14}  {mutant.list}: {mutant.name}"]
         if outcome != KILLED:

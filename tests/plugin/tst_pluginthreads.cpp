@@ -44,7 +44,6 @@ private:
     QByteArray iniWithFile(const QByteArray &lines = {}) const;
     void writePeople(int count);
     int writtenPeople();
-    QSet<Qt::HANDLE> threadsOf(const QString &text) const;
 };
 
 QByteArray TestPluginThreads::iniWithFile(const QByteArray &lines) const
@@ -64,18 +63,6 @@ void TestPluginThreads::writePeople(int count)
 int TestPluginThreads::writtenPeople()
 {
     return m_db.value("SELECT COUNT(*) FROM people WHERE pid BETWEEN 70011 AND 79991").toInt();
-}
-
-/// The threads that logged this message.
-QSet<Qt::HANDLE> TestPluginThreads::threadsOf(const QString &text) const
-{
-    QSet<Qt::HANDLE> threads;
-    const QVector<LogMessage> messages = m_log->messages();
-    for (const LogMessage &message : messages) {
-        if (message.text == text)
-            threads += message.threadId;
-    }
-    return threads;
 }
 
 void TestPluginThreads::cleanup()
@@ -157,8 +144,8 @@ void TestPluginThreads::afterAResumeMembersOfABranchPropagateWithinTheSynchronis
     QVERIFY(terminals >= 0);
     QVERIFY(terminals < end);
     QCOMPARE(lines.mid(end + 1), QStringList("D MHRWorker::dbCheckOpen()"));
-    QCOMPARE(threadsOf("BranchesRepository::getTids4Branch(1)"),
-             threadsOf("MHRWorker: END synchronization #1 (waiting records: 0)"));
+    QCOMPARE(m_log->threadsOf("BranchesRepository::getTids4Branch(1)"),
+             m_log->threadsOf("MHRWorker: END synchronization #1 (waiting records: 0)"));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM people_term JOIN people USING(uid)"
                         " WHERE pid = 70011 AND tid = 1")
                  .toInt(),
@@ -223,8 +210,8 @@ void TestPluginThreads::theEndOfTheThreadDeletesTheWorkerInItsThread()
     });
     m_plugin.reset();
     QCOMPARE(m_log->count("D deleted"), 1);
-    QCOMPARE(threadsOf("deleted"), threadsOf("alive"));
-    QVERIFY(!threadsOf("deleted").contains(QThread::currentThreadId()));
+    QCOMPARE(m_log->threadsOf("deleted"), m_log->threadsOf("alive"));
+    QVERIFY(!m_log->threadsOf("deleted").contains(QThread::currentThreadId()));
 }
 
 void TestPluginThreads::thePluginCanBeDrivenFromAnyThread()

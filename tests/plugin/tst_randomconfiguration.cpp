@@ -8,7 +8,7 @@
 #include "tests/plugin/pluginini.h"
 #include "tests/plugin/plugintest.h"
 #include "tests/plugin/randomconfiguration.h"
-#include "tests/worker/service/environmentnumber.h"
+#include "tests/support/environmentnumber.h"
 
 #include <QFile>
 #include <QFileInfo>

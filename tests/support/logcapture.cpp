@@ -93,6 +93,17 @@ QVector<LogMessage> LogCapture::messages() const
     return QVector<LogMessage>(m_messages.begin(), m_messages.end());
 }
 
+QSet<Qt::HANDLE> LogCapture::threadsOf(const QString &text) const
+{
+    const std::lock_guard<std::mutex> lock(g_mutex);
+    QSet<Qt::HANDLE> threads;
+    for (const LogMessage &message : m_messages) {
+        if (message.text == text)
+            threads += message.threadId;
+    }
+    return threads;
+}
+
 int LogCapture::count(const QString &line) const
 {
     return lines().count(line);

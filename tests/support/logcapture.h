@@ -2,6 +2,7 @@
 
 #include "tests/support/patience.h"
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -42,6 +43,8 @@ public:
 
     QStringList lines() const;
     QVector<LogMessage> messages() const;
+    /// The threads that logged this message.
+    QSet<Qt::HANDLE> threadsOf(const QString &text) const;
     int count(const QString &line) const;
     bool contains(const QString &line) const { return count(line) > 0; }
     void clear();

@@ -46,6 +46,13 @@ QString steady(QString message, const QString &rule, const QString &field)
 class TestCheckDb : public QObject {
     Q_OBJECT
 
+public:
+    static void initMain()
+    {
+        qputenv("TZ", kZone);
+        tzset();
+    }
+
 private Q_SLOTS:
     void initTestCase();
     void init();
@@ -893,13 +900,5 @@ void TestCheckDb::theHelpSaysHowToConnect()
     QVERIFY(run.out.contains("--other-account"));
 }
 
-int main(int argc, char **argv)
-{
-    qputenv("TZ", kZone);
-    tzset();
-    QCoreApplication application(argc, argv);
-    TestCheckDb test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestCheckDb)
 #include "tst_checkdb.moc"

@@ -1,6 +1,7 @@
 #include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/mirovahrctl/preview/randomsite.h"
 #include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/support/environmentnumber.h"
 #include "tests/worker/support/middayzone.h"
 
 #include <QCoreApplication>
@@ -16,14 +17,7 @@ namespace {
 /// How many databases are tested, and the first seed.
 const char kCount[] = "MIROVAHR_EXPLAIN_CASES";
 const char kSeed[] = "MIROVAHR_EXPLAIN_SEED";
-constexpr int kQuickCount = 8;
-
-int environmentNumber(const char *name, int fallback)
-{
-    bool isNumber = false;
-    const int value = qEnvironmentVariableIntValue(name, &isNumber);
-    return isNumber ? value : fallback;
-}
+constexpr uint kQuickCount = 8;
 
 /// The payroll ids at the beginning of an export's lines.
 QSet<QString> payrollIds(const QByteArray &content)
@@ -64,6 +58,9 @@ struct Explained {
 class TestExplainPreview : public QObject {
     Q_OBJECT
 
+public:
+    static void initMain() { settleProgram(); }
+
 private Q_SLOTS:
     void initTestCase();
     void bothSayTheSame_data();
@@ -89,11 +86,7 @@ void TestExplainPreview::initTestCase()
 
 void TestExplainPreview::bothSayTheSame_data()
 {
-    QTest::addColumn<quint32>("seed");
-    const int count = environmentNumber(kCount, kQuickCount);
-    const int first = environmentNumber(kSeed, 1);
-    for (int i = 0; i < count; ++i)
-        QTest::addRow("%s=%d", kSeed, first + i) << static_cast<quint32>(first + i);
+    addSeeds(kCount, kQuickCount, kSeed);
 }
 
 void TestExplainPreview::bothSayTheSame()
@@ -276,14 +269,5 @@ void TestExplainPreview::everyKindOfChangeOccurred()
         QVERIFY2(m_facts.contains(fact), fact);
 }
 
-int main(int argc, char **argv)
-{
-    qputenv("TZ", middayZone());
-    qputenv("LC_ALL", "C.UTF-8");
-    tzset();
-    QCoreApplication application(argc, argv);
-    TestExplainPreview test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestExplainPreview)
 #include "tst_explainpreview.moc"

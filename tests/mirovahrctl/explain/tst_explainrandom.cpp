@@ -2,6 +2,7 @@
 #include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/mirovahrctl/preview/randomsite.h"
 #include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/support/environmentnumber.h"
 #include "tests/worker/support/middayzone.h"
 #include "worker/exportline.h"
 
@@ -19,17 +20,10 @@ namespace {
 /// How many databases are tested, and the first seed.
 const char kCount[] = "MIROVAHR_EXPLAIN_CASES";
 const char kSeed[] = "MIROVAHR_EXPLAIN_SEED";
-constexpr int kQuickCount = 30;
+constexpr uint kQuickCount = 30;
 
 constexpr const char *kLineFacts[] = {"person",     "payroll", "payrollSettings", "balance",
                                       "supervisor", "branch",  "calendar"};
-
-int environmentNumber(const char *name, int fallback)
-{
-    bool isNumber = false;
-    const int value = qEnvironmentVariableIntValue(name, &isNumber);
-    return isNumber ? value : fallback;
-}
 
 /// The records that the plugin reads in an export, in their order.
 QVector<MirovaRonRecord> recordsOf(const QByteArray &content)
@@ -78,6 +72,9 @@ int Person::waiting() const
 class TestExplainRandom : public QObject {
     Q_OBJECT
 
+public:
+    static void initMain() { settleProgram(); }
+
 private Q_SLOTS:
     void initTestCase();
     void theFactsAreWhatHappens_data();
@@ -104,11 +101,7 @@ void TestExplainRandom::initTestCase()
 
 void TestExplainRandom::theFactsAreWhatHappens_data()
 {
-    QTest::addColumn<quint32>("seed");
-    const int count = environmentNumber(kCount, kQuickCount);
-    const int first = environmentNumber(kSeed, 1);
-    for (int i = 0; i < count; ++i)
-        QTest::addRow("%s=%d", kSeed, first + i) << static_cast<quint32>(first + i);
+    addSeeds(kCount, kQuickCount, kSeed);
 }
 
 void TestExplainRandom::theFactsAreWhatHappens()
@@ -236,14 +229,5 @@ void TestExplainRandom::everyWordOccurred()
         QVERIFY2(m_words.contains(word), word);
 }
 
-int main(int argc, char **argv)
-{
-    qputenv("TZ", middayZone());
-    qputenv("LC_ALL", "C.UTF-8");
-    tzset();
-    QCoreApplication application(argc, argv);
-    TestExplainRandom test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestExplainRandom)
 #include "tst_explainrandom.moc"

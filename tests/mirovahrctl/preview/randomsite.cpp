@@ -1,5 +1,6 @@
 #include "tests/mirovahrctl/preview/randomsite.h"
 
+#include "tests/support/environmentnumber.h"
 #include "tests/support/testdatabase.h"
 
 #include <QDate>
@@ -16,6 +17,14 @@ QString quoted(const QString &text)
 }
 
 } // namespace
+
+void addSeeds(const char *countVariable, uint quickCount, const char *seedVariable)
+{
+    QTest::addColumn<quint32>("seed");
+    const uint first = environmentNumber(seedVariable, 1);
+    for (uint i = 0; i < environmentNumber(countVariable, quickCount); ++i)
+        QTest::addRow("%s=%u", seedVariable, first + i) << first + i;
+}
 
 RandomSite::RandomSite(quint32 seed)
     : m_random(seed)

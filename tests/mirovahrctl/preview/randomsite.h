@@ -10,6 +10,10 @@
 
 class TestDatabase;
 
+/// Rows of test data for random sites, with the column `seed`. \a countVariable names the
+/// environment variable with their number, \a seedVariable the one with the first seed.
+void addSeeds(const char *countVariable, uint quickCount, const char *seedVariable);
+
 /// Random contents of an attendance database, and random exports for it: much of it alike, so that
 /// people are found, some of it wrong. People of different seeds have different numbers, since a
 /// process looks up the uid of a person only once.

@@ -1,5 +1,6 @@
 #include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/mirovahrctl/preview/randomsite.h"
+#include "tests/support/environmentnumber.h"
 #include "tests/worker/support/middayzone.h"
 
 #include <QCoreApplication>
@@ -14,18 +15,11 @@ namespace {
 /// How many databases are tested, and the first seed.
 const char kCount[] = "MIROVAHR_PREVIEW_CASES";
 const char kSeed[] = "MIROVAHR_PREVIEW_SEED";
-constexpr int kQuickCount = 6;
+constexpr uint kQuickCount = 6;
 /// They run in turn, each on the database as the previous one left it.
 constexpr int kExports = 4;
 
 const char kKept[] = "kept";
-
-int environmentNumber(const char *name, int fallback)
-{
-    bool isNumber = false;
-    const int value = qEnvironmentVariableIntValue(name, &isNumber);
-    return isNumber ? value : fallback;
-}
 
 /// The cells that hold the moment at which they were written.
 bool isMoment(const QString &table, const QString &column)
@@ -39,6 +33,9 @@ bool isMoment(const QString &table, const QString &column)
 /// For random databases and exports, the worker does what preview has predicted.
 class TestPreviewRandom : public QObject {
     Q_OBJECT
+
+public:
+    static void initMain() { settleProgram(); }
 
 private Q_SLOTS:
     void initTestCase();
@@ -101,11 +98,7 @@ void TestPreviewRandom::keep()
 
 void TestPreviewRandom::thePredictionIsWhatHappens_data()
 {
-    QTest::addColumn<quint32>("seed");
-    const int count = environmentNumber(kCount, kQuickCount);
-    const int first = environmentNumber(kSeed, 1);
-    for (int i = 0; i < count; ++i)
-        QTest::addRow("%s=%d", kSeed, first + i) << static_cast<quint32>(first + i);
+    addSeeds(kCount, kQuickCount, kSeed);
 }
 
 void TestPreviewRandom::thePredictionIsWhatHappens()
@@ -161,14 +154,5 @@ void TestPreviewRandom::everyKindOfDifferenceOccurred()
     QCOMPARE(QStringList((all - m_kinds).values()), QStringList());
 }
 
-int main(int argc, char **argv)
-{
-    qputenv("TZ", middayZone());
-    qputenv("LC_ALL", "C.UTF-8");
-    tzset();
-    QCoreApplication application(argc, argv);
-    TestPreviewRandom test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestPreviewRandom)
 #include "tst_previewrandom.moc"

@@ -13,6 +13,9 @@
 class TestPreviewWords : public QObject {
     Q_OBJECT
 
+public:
+    static void initMain() { settleProgram(); }
+
 private Q_SLOTS:
     void initTestCase();
     void init();
@@ -270,14 +273,5 @@ void TestPreviewWords::theStatementsMakeExactlyTheDescribedChanges()
                          "when this is run.\n"));
 }
 
-int main(int argc, char **argv)
-{
-    qputenv("TZ", middayZone());
-    qputenv("LC_ALL", "C.UTF-8");
-    tzset();
-    QCoreApplication application(argc, argv);
-    TestPreviewWords test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestPreviewWords)
 #include "tst_previewwords.moc"

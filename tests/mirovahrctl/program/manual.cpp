@@ -39,4 +39,17 @@ QStringList rules(const QString &subcommand)
     return rules;
 }
 
+QStringList RuleFixtures::missing(const QString &subcommand, const QSet<QString> &others) const
+{
+    const QStringList all = rules(subcommand);
+    if (all.isEmpty())
+        return {"the rules of " + subcommand};
+    QStringList missing;
+    for (const QString &rule : all) {
+        if (!others.contains(rule) && !(tripped.contains(rule) && passed.contains(rule)))
+            missing += rule;
+    }
+    return missing;
+}
+
 } // namespace Manual

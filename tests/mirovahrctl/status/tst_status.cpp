@@ -21,6 +21,9 @@ constexpr qint64 kNow = 1800000000;
 class TestStatus : public QObject {
     Q_OBJECT
 
+public:
+    static void initMain() { qputenv("TZ", "UTC"); }
+
 private Q_SLOTS:
     void initTestCase();
     void init();
@@ -501,12 +504,5 @@ void TestStatus::spansAreRoundedDown()
     QCOMPARE(StatusAssessment::span(seconds), text);
 }
 
-int main(int argc, char **argv)
-{
-    qputenv("TZ", "UTC");
-    QCoreApplication application(argc, argv);
-    TestStatus test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestStatus)
 #include "tst_status.moc"

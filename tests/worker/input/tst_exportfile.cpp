@@ -1,5 +1,6 @@
 #include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"
+#include "worker/exportline.h"
 #include "worker/mhrworker.h"
 
 #include <QDir>
@@ -10,25 +11,6 @@
 #include <sys/resource.h>
 
 namespace {
-
-const QStringList kFields = {"OsobniCislo",
-                             "PoradoveCisloPP",
-                             "Titul",
-                             "Jmeno",
-                             "Prijmeni",
-                             "TitulZa",
-                             "Telefon",
-                             "DatumNastupu",
-                             "DatumVystupu",
-                             "Stredisko",
-                             "StrediskoPopis",
-                             "Kalendar",
-                             "KalendarPlatnostOd",
-                             "TypPracovnihoPomeru",
-                             "StavPracovnihoPomeru",
-                             "EvidencniStav",
-                             "DovolenaZustatek",
-                             "NadrizenyOsobniCislo"};
 
 const QString kFieldsLine =
     "D MHRWorker::loadAndParseData() - fields: OsobniCislo, PoradoveCisloPP, Titul, Jmeno, "
@@ -581,8 +563,8 @@ void TestExportFile::aLineIsSplitAtTheGivenSeparator()
 {
     MHRWorker worker;
     const QStringList fields = formerEmployee(1).with(&ExportRow::strediskoPopis, "|").fields();
-    worker.parseLine(fields.join(';'), kFields, ';');
-    worker.parseLine(fields.join('|'), kFields, ';');
+    worker.parseLine(fields.join(';'), ExportLine::fieldNames(), ';');
+    worker.parseLine(fields.join('|'), ExportLine::fieldNames(), ';');
     QCOMPARE(takeRecords(worker), QStringList(syncLine(1)));
 }
 
@@ -590,7 +572,7 @@ void TestExportFile::theSeparatorIsCaseSensitive()
 {
     MHRWorker worker;
     const QStringList fields = formerEmployee(1).with(&ExportRow::titul, "X").fields();
-    worker.parseLine(fields.join('x'), kFields, 'x');
+    worker.parseLine(fields.join('x'), ExportLine::fieldNames(), 'x');
     QCOMPARE(takeRecords(worker), QStringList(syncLine(1)));
 }
 
@@ -616,7 +598,7 @@ void TestExportFile::aLineOfAnotherNumberOfFieldsIsSkipped()
     MHRWorker worker;
     worker.setDebugLevel(3);
     const LogCapture log;
-    worker.parseLine(line, kFields, '|');
+    worker.parseLine(line, ExportLine::fieldNames(), '|');
     QCOMPARE(log.lines(),
              QStringList({"D MHRWorker::parseLine('" + line + "')",
                           QString("W MHRWorker::parseLine() - parts count (%1) <> fields "
@@ -628,7 +610,7 @@ void TestExportFile::aLineOfAnotherNumberOfFieldsIsSkipped()
 void TestExportFile::aLineOfAsManyPartsAsTooFewFieldsMakesNoRecord_data()
 {
     QTest::addColumn<int>("count");
-    for (int count = 1; count < kFields.size(); ++count)
+    for (int count = 1; count < ExportLine::fieldNames().size(); ++count)
         QTest::addRow("the first %d fields", count) << count;
 }
 
@@ -640,7 +622,7 @@ void TestExportFile::aLineOfAsManyPartsAsTooFewFieldsMakesNoRecord()
     const QString line = formerEmployee(1).fields().mid(0, count).join('|');
     {
         const LogCapture log;
-        worker.parseLine(line, kFields.mid(0, count), '|');
+        worker.parseLine(line, ExportLine::fieldNames().mid(0, count), '|');
         QCOMPARE(log.lines(), QStringList("D MHRWorker::parseLine('" + line + "')"));
     }
     QCOMPARE(takeRecords(worker), QStringList());
@@ -657,7 +639,7 @@ void TestExportFile::skippedLinesAreNamedFromDebugLevel3On()
     MHRWorker worker;
     worker.setDebugLevel(static_cast<unsigned char>(level));
     const LogCapture log;
-    worker.parseLine("a|b|c", kFields.mid(0, 4), '|');
+    worker.parseLine("a|b|c", ExportLine::fieldNames().mid(0, 4), '|');
     QStringList expected;
     if (level >= 3) {
         expected += "D MHRWorker::parseLine('a|b|c')";
@@ -690,7 +672,7 @@ void TestExportFile::aLineWithoutNumberOrNameIsDroppedInSilence()
     MHRWorker worker;
     worker.setDebugLevel(3);
     const LogCapture log;
-    worker.parseLine(line, kFields, '|');
+    worker.parseLine(line, ExportLine::fieldNames(), '|');
     QCOMPARE(log.lines(), QStringList("D MHRWorker::parseLine('" + line + "')"));
     QCOMPARE(takeRecords(worker), QStringList());
 }
@@ -712,7 +694,7 @@ void TestExportFile::aLineWithBadValuesIsKept()
                          .with(&ExportRow::dovolenaZustatek, "12,5")
                          .with(&ExportRow::nadrizenyOsobniCislo, "4294967296")
                          .text(),
-                     kFields, '|');
+                     ExportLine::fieldNames(), '|');
     QCOMPARE(takeRecords(worker),
              QStringList("D MHRWorker::doSyncRecord(1234.1  Jana (S: 0, K: 0 from ) N-V:  - ; "
                          "ES: 1, RS:  -  '' TPP: 0  DOV: 0 NOC: 0)"));

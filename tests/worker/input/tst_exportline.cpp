@@ -1,6 +1,6 @@
+#include "tests/support/environmentnumber.h"
 #include "tests/support/localzone.h"
 #include "tests/worker/operations/recordtext.h"
-#include "tests/worker/service/environmentnumber.h"
 #include "worker/exportline.h"
 #include "worker/mhrworker.h"
 #include "worker/mirovaronrecord.h"

@@ -2,6 +2,7 @@
 //
 // MIROVAHR_INPUT_SEED=N makes other exports, MIROVAHR_INPUT_FILES=N more of them.
 
+#include "tests/support/environmentnumber.h"
 #include "tests/support/exportfile.h"
 #include "tests/worker/input/parttexts.h"
 #include "tests/worker/input/plainreading.h"
@@ -12,13 +13,6 @@
 #include <QtTest>
 
 namespace {
-
-int setting(const char *name, int fallback)
-{
-    bool set = false;
-    const int value = qEnvironmentVariableIntValue(name, &set);
-    return set ? value : fallback;
-}
 
 /// Makes exports of a few lines, with the mistakes that programs, transfers and people make.
 class RandomExports {
@@ -197,8 +191,8 @@ private Q_SLOTS:
 
 void TestRandomLines::theWorkerReadsThemAsTheFormatSays()
 {
-    const int seed = setting("MIROVAHR_INPUT_SEED", 20190401);
-    const int files = setting("MIROVAHR_INPUT_FILES", 3000);
+    const uint seed = environmentNumber("MIROVAHR_INPUT_SEED", 20190401);
+    const uint files = environmentNumber("MIROVAHR_INPUT_FILES", 3000);
     RandomExports exports{quint32(seed)};
     int lines = 0;
     int taken = 0;

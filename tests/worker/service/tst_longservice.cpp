@@ -2,9 +2,9 @@
 #include "tests/plugin/hostapplication.h"
 #include "tests/plugin/loadedplugin.h"
 #include "tests/plugin/pluginini.h"
+#include "tests/support/environmentnumber.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
-#include "tests/worker/service/environmentnumber.h"
 #include "tests/worker/service/resources.h"
 #include "tests/worker/support/sampleexport.h"
 

@@ -1,8 +1,8 @@
 #include "tests/plugin/loadedplugin.h"
 #include "tests/plugin/pluginini.h"
+#include "tests/support/environmentnumber.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
-#include "tests/worker/service/environmentnumber.h"
 #include "tests/worker/service/randomhost.h"
 
 #include <QtTest>

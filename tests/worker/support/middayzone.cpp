@@ -65,3 +65,13 @@ QString shortDate(const QDate &date)
 {
     return QLocale::c().toString(date, QStringLiteral("d MMM yyyy"));
 }
+
+QString isoDate(const QDate &date)
+{
+    return date.toString(QStringLiteral("yyyy-MM-dd"));
+}
+
+QString monthNumber(const QDate &date)
+{
+    return date.toString(QStringLiteral("yyyyMM"));
+}

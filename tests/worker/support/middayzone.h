@@ -23,3 +23,7 @@ qint64 localSeconds(const QDate &date, const QTime &time);
 
 /// A date as the C locale writes it in short: "1 Apr 2019".
 QString shortDate(const QDate &date);
+/// "2019-04-01"
+QString isoDate(const QDate &date);
+/// "201904"
+QString monthNumber(const QDate &date);

@@ -147,3 +147,9 @@ DatabaseState StateChanges::state() const
     }
     return state;
 }
+
+QStringList sorted(QStringList lines)
+{
+    lines.sort();
+    return lines;
+}

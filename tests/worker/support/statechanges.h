@@ -18,7 +18,7 @@ public:
     /// Changes count from here on.
     void start();
 
-    /// What changed since start(), sorted.
+    /// What changed since start(), in the order of sorted().
     QStringList lines();
 
     /// The database as it is, with timestamps to read.
@@ -31,3 +31,6 @@ private:
     qint64 m_begin = 0;
     DatabaseState m_before;
 };
+
+/// Lines in the order in which StateChanges gives them.
+QStringList sorted(QStringList lines);

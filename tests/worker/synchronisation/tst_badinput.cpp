@@ -15,22 +15,6 @@ QDate today()
     return QDate::currentDate();
 }
 
-QString iso(const QDate &date)
-{
-    return date.toString("yyyy-MM-dd");
-}
-
-QString month(const QDate &date)
-{
-    return date.toString("yyyyMM");
-}
-
-QStringList sorted(QStringList lines)
-{
-    lines.sort();
-    return lines;
-}
-
 /// How the log shows a newcomer.
 QString described(const QString &number, const QString &surname = "Malá",
                   const QString &supervisor = "0")
@@ -45,7 +29,7 @@ QString newRow(const QString &number, int uid, const QString &surname = "Malá",
 {
     return "people + uid=" + QString::number(uid) + " pid=" + number + "1 pamId=" + number
         + ".1 title= name=Eva surname=" + surname + " title2= phone= begin="
-        + iso(today().addDays(-10)) + " end=NULL created=now edited=" + edited
+        + isoDate(today().addDays(-10)) + " end=NULL created=now edited=" + edited
         + " editor=0 rsBegin=NULL rsEnd=NULL rsText= type=1 did=1 calendarID=1 bid=1 status=1 "
           "lastCalc=0 calc=0 gid=NULL";
 }
@@ -119,7 +103,7 @@ void TestBadInput::aQuoteInANameKeepsThatPersonOut()
              sorted(QStringList{newRow(good, uid.toInt()), selectionWith(good + "1"),
                                 "people_pam + uid=" + uid + " id=1",
                                 "groups_plan + gid=11 uid=" + uid
-                                    + " since=" + month(today().addDays(1))}
+                                    + " since=" + monthNumber(today().addDays(1))}
                     << joined(uid.toInt())));
     // Both joined the branch in one statement, the first with uid 0.
     QVERIFY(trace.statements.contains(Sent::joinBranch(1, "0," + uid)));
@@ -182,11 +166,12 @@ void TestBadInput::twoLinesOfOneNewcomerMakeOnePerson()
     QCOMPARE(trace.log,
              QStringList("W MHRWorker::doSyncRecord(" + described(number, "Veľká")
                          + ") - dbAddPersonIntoPam(" + number + "1, 1) FAILED!"));
-    QCOMPARE(changes.lines(),
-             sorted(QStringList{newRow(number, 9, "Veľká", "now"), selectionWith(number + "1"),
-                                "people_pam + uid=9 id=1",
-                                "groups_plan + gid=11 uid=9 since=" + month(today().addDays(1))}
-                    << joined(9)));
+    QCOMPARE(
+        changes.lines(),
+        sorted(QStringList{newRow(number, 9, "Veľká", "now"), selectionWith(number + "1"),
+                           "people_pam + uid=9 id=1",
+                           "groups_plan + gid=11 uid=9 since=" + monthNumber(today().addDays(1))}
+               << joined(9)));
 }
 
 void TestBadInput::aLeavingPersonKeepsEverythingElse()
@@ -199,10 +184,11 @@ void TestBadInput::aLeavingPersonKeepsEverythingElse()
     const ExportRow line = jana().with(&ExportRow::datumVystupu, yesterday);
     QCOMPARE(synchronise({line}).log, QStringList());
     // No row is deleted: not from the branch, the terminals, the administrators.
-    QCOMPARE(changes.lines(),
-             sorted({"people uid=4: end NULL -> " + iso(yesterday) + " 23:59:59, edited 0 -> now",
-                     "term_sync + tid=1 type=U ref=people ref_col=uid ref_id=4 ref_col2=NULL "
-                     "ref_id2=NULL created=now flags=2"}));
+    QCOMPARE(
+        changes.lines(),
+        sorted({"people uid=4: end NULL -> " + isoDate(yesterday) + " 23:59:59, edited 0 -> now",
+                "term_sync + tid=1 type=U ref=people ref_col=uid ref_id=4 ref_col2=NULL "
+                "ref_id2=NULL created=now flags=2"}));
     const DatabaseState state = m_db.dumpAll();
     synchronise();
     QCOMPARE(TestDatabase::difference(state, m_db.dumpAll()), QString());
@@ -237,7 +223,7 @@ void TestBadInput::inTestModeNoPersonIsWritten()
     // Only the writing of persons is tried out; everything else is written.
     QCOMPARE(
         changes.lines(),
-        sorted({"funds_move + type=3 day=" + iso(today()) + " month=" + month(today())
+        sorted({"funds_move + type=3 day=" + isoDate(today()) + " month=" + monthNumber(today())
                     + " value=250 fid=2 uid=4",
                 "admins_people aid=1 uid=4: request 1 -> 0",
                 "admins_people + aid=2 uid=4 request=1", "groups_plan + gid=12 uid=4 since=202503",

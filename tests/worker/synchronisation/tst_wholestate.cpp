@@ -23,22 +23,6 @@ QDate recalculated()
     return firstOfMonth().addMonths(-1);
 }
 
-QString iso(const QDate &date)
-{
-    return date.toString("yyyy-MM-dd");
-}
-
-QString month(const QDate &date)
-{
-    return date.toString("yyyyMM");
-}
-
-QStringList sorted(QStringList lines)
-{
-    lines.sort();
-    return lines;
-}
-
 /// uid 6, pid 12361, branch 2. Her last day was yesterday.
 ExportRow lubica()
 {
@@ -134,8 +118,9 @@ void TestWholeState::anOrdinaryExportChangesWhatItSays()
     StateChanges changes(m_db);
     QCOMPARE(synchronise(ordinaryExport()).log, QStringList());
 
-    const QString yesterday = iso(today().addDays(-1));
-    const QString calculated = "lastCalc " + yesterday + " -> " + iso(recalculated().addDays(-1));
+    const QString yesterday = isoDate(today().addDays(-1));
+    const QString calculated =
+        "lastCalc " + yesterday + " -> " + isoDate(recalculated().addDays(-1));
     QCOMPARE(
         changes.lines(),
         sorted({
@@ -167,7 +152,7 @@ void TestWholeState::anOrdinaryExportChangesWhatItSays()
             // Zuzana moves from the office to the warehouse, and is added to its terminals and
             // administrators. She stays a member of the office.
             "brape + bid=1 uid=3 since=now",
-            "groups_plan + gid=11 uid=3 since=" + month(firstOfMonth()),
+            "groups_plan + gid=11 uid=3 since=" + monthNumber(firstOfMonth()),
             "people_term + tid=1 uid=3",
             "people_term + tid=2 uid=3",
             "term_sync + tid=1 type=I ref=people_term ref_col=uid ref_id=3 ref_col2=NULL "
@@ -177,11 +162,11 @@ void TestWholeState::anOrdinaryExportChangesWhatItSays()
             "term tid=2: syn 0 -> 2",
             "admins_people + aid=1 uid=3 request=0",
             // Jana's balance was 17.5 days, her requests went to Kováčová.
-            "funds_move + type=3 day=" + iso(today()) + " month=" + month(today())
+            "funds_move + type=3 day=" + isoDate(today()) + " month=" + monthNumber(today())
                 + " value=-225 fid=2 uid=4",
             "admins_people aid=1 uid=4: request 1 -> 0",
             "admins_people + aid=2 uid=4 request=1",
-            "atten uid=4 date=" + iso(recalculated()) + ": ok 1 -> -1",
+            "atten uid=4 date=" + isoDate(recalculated()) + ": ok 1 -> -1",
             "atten uid=4 date=" + yesterday + ": ok 1 -> -1",
             // Ján's calendar begins in the past.
             "groups_plan + gid=13 uid=5 since=202503",
@@ -218,7 +203,7 @@ void TestWholeState::aForcedRepetitionChangesNothing()
     force();
     const Trace trace = synchronise();
     QCOMPARE(trace.log, QStringList());
-    const int thisMonth = month(firstOfMonth()).toInt();
+    const int thisMonth = monthNumber(firstOfMonth()).toInt();
     QCOMPARE(
         trace.statements,
         Sent::begin()
@@ -298,13 +283,14 @@ void TestWholeState::newcomersAreTakenUp()
              QStringList("W MHRWorker: Branch '999' NOT FOUND for employee: '3002.1 Dlhý Jozef (S: "
                          "999, K: 1 from ) N-V: 1 Jan 2026 - ; ES: 0, RS:  -  '' TPP: 54  DOV: 3 "
                          "NOC: 0'"));
-    const QString tomorrow = iso(today().addDays(1));
+    const QString tomorrow = isoDate(today().addDays(1));
     QCOMPARE(
         changes.lines(),
         sorted({
             "people + uid=9 pid=30011 pamId=3001.1 title= name=Eva surname=Malá title2= phone= "
             "begin="
-                + iso(today()) + " end=NULL created=now edited=0 editor=0 rsBegin=" + iso(today())
+                + isoDate(today())
+                + " end=NULL created=now edited=0 editor=0 rsBegin=" + isoDate(today())
                 + " rsEnd=NULL rsText=v skúšobnej dobe type=1 did=1 calendarID=3 bid=2 status=1 "
                   "lastCalc=0 calc=0 gid=NULL",
             "people + uid=10 pid=30021 pamId=3002.1 title= name=Jozef surname=Dlhý title2= "
@@ -323,7 +309,7 @@ void TestWholeState::newcomersAreTakenUp()
             // Eva works in the shop and has Kováčová as supervisor; Horváth administers the shop.
             "admins_people + aid=1 uid=9 request=1",
             "admins_people + aid=2 uid=9 request=0",
-            "groups_plan + gid=23 uid=9 since=" + month(today().addDays(1)),
+            "groups_plan + gid=23 uid=9 since=" + monthNumber(today().addDays(1)),
             "brape + bid=2 uid=9 since=now",
             "people_term + tid=4 uid=9",
             "people_term + tid=5 uid=9",
@@ -349,7 +335,7 @@ void TestWholeState::newcomersAreSettledInTheSecondCycle()
     Sent::PersonValues anna;
     anna.type = "0";
     anna.bid = "NULL";
-    const int nextMonth = month(today().addDays(1)).toInt();
+    const int nextMonth = monthNumber(today().addDays(1)).toInt();
     QCOMPARE(trace.statements,
              Sent::begin() << Sent::fundChecks(30111, 9) << Sent::balance(30111)
                            << Sent::correction(9, 2500) << Sent::membership(30111, 2)
@@ -365,7 +351,8 @@ void TestWholeState::newcomersAreSettledInTheSecondCycle()
                            // Anna has no first day for HR, and one in 2000 in the table.
                            << Sent::fundChecks(30141, 11) << Sent::updatePerson(lines[3], anna)
                            << Sent::notifyTerminals(30141, 11) << Sent::balance(30141));
-    const QString move = "funds_move + type=3 day=" + iso(today()) + " month=" + month(today());
+    const QString move =
+        "funds_move + type=3 day=" + isoDate(today()) + " month=" + monthNumber(today());
     QCOMPARE(changes.lines(),
              sorted({move + " value=2500 fid=2 uid=9", move + " value=300 fid=2 uid=10",
                      "people uid=10: edited 0 -> now", "people uid=11: edited 0 -> now"}));
@@ -435,7 +422,7 @@ void TestWholeState::aDatabaseWithoutAnythingTakesPeopleOnly()
     QCOMPARE(changes.lines(),
              sorted({"people + uid=1 pid=" + name + "1 pamId=" + name
                          + ".1 title= name=Eva surname=Malá title2= phone= begin="
-                         + iso(today().addDays(-10))
+                         + isoDate(today().addDays(-10))
                          + " end=NULL created=now edited=0 editor=0 rsBegin=NULL rsEnd=NULL "
                            "rsText= type=1 did=1 calendarID=1 bid=NULL status=1 lastCalc=0 "
                            "calc=0 gid=NULL",

@@ -84,24 +84,10 @@ private Q_SLOTS:
     void theEndOfTheThreadWaitsForARunningSynchronisation();
 
 private:
-    QSet<Qt::HANDLE> threadsOf(const QString &text) const;
-
     TestDatabase m_db;
     std::unique_ptr<LogCapture> m_log;
     std::unique_ptr<ExportFile> m_file;
 };
-
-/// The threads that logged this message.
-QSet<Qt::HANDLE> TestWorkerThread::threadsOf(const QString &text) const
-{
-    QSet<Qt::HANDLE> threads;
-    const QVector<LogMessage> messages = m_log->messages();
-    for (const LogMessage &message : messages) {
-        if (message.text == text)
-            threads += message.threadId;
-    }
-    return threads;
-}
 
 void TestWorkerThread::initTestCase()
 {
@@ -129,10 +115,10 @@ void TestWorkerThread::theThreadsStartStartsTheWorker()
     ThreadedWorker worker(m_db);
     worker.startThread();
     QCOMPARE(worker.activity(), QVector<bool>{true});
-    const auto threads = threadsOf("MHRWorker::start()");
+    const auto threads = m_log->threadsOf("MHRWorker::start()");
     QCOMPARE(threads.size(), 1);
     QVERIFY(!threads.contains(QThread::currentThreadId()));
-    QCOMPARE(threadsOf("MHRWorker::init()"), threads);
+    QCOMPARE(m_log->threadsOf("MHRWorker::init()"), threads);
 }
 
 void TestWorkerThread::stopRightAfterTheThreadsStartGivesNoTick()
@@ -228,11 +214,12 @@ void TestWorkerThread::theTimerTicksInTheWorkersThread()
     worker->stop();
     worker->start();
     QVERIFY(m_log->waitForLine("D MHRWorker: END synchronization #1 (waiting records: 0)"));
-    const auto workersThread = threadsOf("MHRWorker: END synchronization #1 (waiting records: 0)");
+    const auto workersThread =
+        m_log->threadsOf("MHRWorker: END synchronization #1 (waiting records: 0)");
     QVERIFY(!workersThread.contains(QThread::currentThreadId()));
     for (const char *text : {"MHRWorker::checkSync(): #1", "MHRWorker::loadAndParseData()",
                              "MHRWorker: BEGIN synchronization #1 (force: NO)"})
-        QCOMPARE(threadsOf(text), workersThread);
+        QCOMPARE(m_log->threadsOf(text), workersThread);
 }
 
 void TestWorkerThread::theHostDoesNotWaitForARunningSynchronisation()
@@ -281,7 +268,7 @@ void TestWorkerThread::theEndOfTheThreadDeletesTheWorkerInItsThread()
     worker.tick();
     worker.end();
     QCOMPARE(m_log->count("D deleted"), 1);
-    QCOMPARE(threadsOf("deleted"), threadsOf("MHRWorker::checkSync(): #1"));
+    QCOMPARE(m_log->threadsOf("deleted"), m_log->threadsOf("MHRWorker::checkSync(): #1"));
 }
 
 void TestWorkerThread::theEndOfTheThreadWaitsForARunningSynchronisation()
