@@ -1,6 +1,9 @@
 #include "tests/worker/support/sampleexport.h"
 #include "tests/worker/support/workertest.h"
 
+#include <QRegularExpression>
+#include <QtTest>
+
 namespace {
 
 /// Jana with another surname.

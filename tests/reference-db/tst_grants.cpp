@@ -7,6 +7,9 @@
 #include "tests/worker/support/sampleexport.h"
 #include "tests/worker/support/workertest.h"
 
+#include <QRegularExpression>
+#include <QtTest>
+
 namespace {
 
 QStringList denials(const QStringList &log)

@@ -193,10 +193,10 @@ void TestRandomLines::theWorkerReadsThemAsTheFormatSays()
 {
     const uint seed = environmentNumber("MIROVAHR_INPUT_SEED", 20190401);
     const uint files = environmentNumber("MIROVAHR_INPUT_FILES", 3000);
-    RandomExports exports{quint32(seed)};
+    RandomExports exports{seed};
     int lines = 0;
     int taken = 0;
-    for (int i = 0; i < files; ++i) {
+    for (uint i = 0; i < files; ++i) {
         const QByteArray file = exports.file();
         const QByteArray which = QString("seed %1, file %2: ").arg(seed).arg(i).toUtf8()
             + file.toPercentEncoding(" |:.");
