@@ -5,6 +5,7 @@
 #include "db/groupsplanrepo.h"
 #include "db/placeholders.h"
 #include "worker/recorddates.h"
+#include "worker/recordlog.h"
 #include "worker/sqlreport.h"
 
 #include <QDebug>
@@ -59,8 +60,7 @@ bool MHRWorker::doSyncBranchAndCalendar(const MirovaRonRecord &rec)
 
     const quint32 bid = bidOfBranch(rec.stredisko);
     if (bid == 0) {
-        qWarning("MHRWorker: Branch '%u' NOT FOUND for employee: '%s'", rec.stredisko,
-                 qUtf8Printable(rec.getString(false)));
+        qWarning(RecordLog::kBranchNotFound, rec.stredisko, qUtf8Printable(rec.getString(false)));
         return false;
     }
 
@@ -84,8 +84,8 @@ bool MHRWorker::joinCalendarGroup(const MirovaRonRecord &rec, quint32 uid, quint
 {
     const quint32 gid = dbGetGroupIdByCalendar(bid, rec.kalendar);
     if (gid == 0) {
-        qWarning("MHRWorker: Group ID NOT found for Branch %u and calendar %u [employee: '%s']!",
-                 rec.stredisko, rec.kalendar, qUtf8Printable(rec.getString(false)));
+        qWarning(RecordLog::kGroupNotFound, rec.stredisko, rec.kalendar,
+                 qUtf8Printable(rec.getString(false)));
         return false;
     }
 
@@ -93,8 +93,7 @@ bool MHRWorker::joinCalendarGroup(const MirovaRonRecord &rec, quint32 uid, quint
     if (dbCheckGroupsPlan(gid, uid, since))
         return true;
     if (!m_groupsPlan->add({gid, uid, since})) {
-        qWarning("MHRWorker: can't add record '%s' into [groups_plan]!",
-                 qUtf8Printable(rec.getString(false)));
+        qWarning(RecordLog::kPlanNotAdded, qUtf8Printable(rec.getString(false)));
         return false;
     }
 

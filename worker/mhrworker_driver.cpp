@@ -6,6 +6,7 @@
 #include "worker/recordcodes.h"
 #include "worker/recorddates.h"
 #include "worker/recorddecisions.h"
+#include "worker/recordlog.h"
 #include "worker/vacationbalance.h"
 
 #include <QDebug>
@@ -119,8 +120,8 @@ bool MHRWorker::createPerson(const MirovaRonRecord &rec, const Reconciliation &w
 
     const uint payrollId = pamSettingsIdFromTPP(rec.typPracovnihoPomeru);
     if (payrollId != 0 && !dbAddPersonIntoPam(rec.getPid(), payrollId)) {
-        qWarning("MHRWorker::doSyncRecord(%s) - dbAddPersonIntoPam(%u, %u) FAILED!",
-                 qUtf8Printable(rec.getString(false)), rec.getPid(), payrollId);
+        qWarning(RecordLog::kPayrollSettingsFailed, qUtf8Printable(rec.getString(false)),
+                 rec.getPid(), payrollId);
     }
     assignSupervisor(rec, true, work);
     return true;
@@ -167,9 +168,7 @@ bool MHRWorker::correctVacation(const MirovaRonRecord &rec, const Reconciliation
         return false;
     if (writable && writeFundMove3(work.uid, value))
         return true;
-    qWarning("MHRWorker::doSyncRecord() - funds_move type (type=3, valeu=%i) not writed for uid "
-             "%u (pid: %u)",
-             value, work.uid, work.pid);
+    qWarning(RecordLog::kMoveNotWritten, value, work.uid, work.pid);
     return false;
 }
 
@@ -192,9 +191,7 @@ void MHRWorker::requestRecalculation(const MirovaRonRecord &rec)
     const quint32 pid = rec.getPid();
     const quint32 uid = getUidByPid(pid);
     if (uid == 0) {
-        qWarning("MHRWorker: User (employee) ID NOT found for pid (Personal ID) %u [employee: "
-                 "'%s'] - lastCalc not changed (manual recalculation is needed)!",
-                 pid, qUtf8Printable(rec.getString(false)));
+        qWarning(RecordLog::kRecalculationLost, pid, qUtf8Printable(rec.getString(false)));
         return;
     }
     dbChangeLastCalc(uid, RecordDates::firstDayOfPreviousMonth(QDate::currentDate()));

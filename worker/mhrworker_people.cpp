@@ -4,6 +4,7 @@
 
 #include "db/placeholders.h"
 #include "worker/recorddates.h"
+#include "worker/recordlog.h"
 #include "worker/sqlreport.h"
 
 #include <QDebug>
@@ -122,8 +123,7 @@ bool MHRWorker::dbAddPerson(const MirovaRonRecord &rec)
 
     const bool added = query.lastInsertId().toLongLong() > 0 || query.numRowsAffected() > 0;
     if (!addPersonIntoPam(rec.getPid())) {
-        qWarning("MHRWorker::dbAddPerson(%s) - addPersonIntoPam() FAILED!",
-                 qUtf8Printable(payrollId));
+        qWarning(RecordLog::kPayrollExportFailed, qUtf8Printable(payrollId));
     }
     return added;
 }

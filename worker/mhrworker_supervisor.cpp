@@ -3,6 +3,7 @@
 #include "worker/mhrworker.h"
 
 #include "db/placeholders.h"
+#include "worker/recordlog.h"
 #include "worker/sqlreport.h"
 #include "worker/transaction.h"
 
@@ -32,13 +33,13 @@ void MHRWorker::processNadOsCis(const MirovaRonRecord &rec)
 
     const quint32 aid = dbGetAidByOsCis(rec.nadrizenyOsobniCislo);
     if (aid == 0) {
-        qWarning("MHRWorker - admin s osobnym cislom %u nebol najdeny!", rec.nadrizenyOsobniCislo);
+        qWarning(RecordLog::kAdministratorNotFound, rec.nadrizenyOsobniCislo);
         return;
     }
     const quint32 pid = rec.getPid();
     const quint32 uid = getUidByPid(pid);
     if (uid == 0) {
-        qWarning("MHRWorker - zamestnanec s osobnym cislom %u nebol najdeny!", pid);
+        qWarning(RecordLog::kPersonNotFound, pid);
         return;
     }
 

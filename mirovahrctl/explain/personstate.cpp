@@ -54,26 +54,17 @@ PersonState::PersonState(PluginView &view, quint32 pid, bool isForced)
 {
 }
 
-PersonState::Comparison PersonState::compare(const MirovaRonRecord &record)
+RecordDecisions::Differences PersonState::compare(const MirovaRonRecord &record)
 {
-    Comparison found;
-    bool writable = false;
-    bool retry = false;
-    if (m_view.worker().vacationFundId() != 0) {
-        found.correctedToday = m_correctingLine != 0 || !m_view.worker().dbCheckFundMove(m_pid);
-        found.attendanceCalculated = isCalculated();
-        writable = !found.correctedToday && found.attendanceCalculated;
-        retry = writable && m_fundRetry;
-        m_fundRetry = !writable;
+    RecordDecisions::FundState fund;
+    fund.exists = m_view.worker().vacationFundId() != 0;
+    if (fund.exists) {
+        fund.moveAllowed = m_correctingLine == 0 && m_view.worker().dbCheckFundMove(m_pid);
+        fund.attendanceAllows = isCalculated();
+        fund.retry = fund.isWritable() && m_fundRetry;
+        m_fundRetry = !fund.isWritable();
     }
-    found.checkFunds = writable
-        && (!m_last || m_isForced || retry || record.dovolenaZustatek != m_last->dovolenaZustatek);
-    found.changed = !m_last || found.checkFunds || record != *m_last;
-    found.esChanged = !m_last || record.evidencniStav != m_last->evidencniStav;
-    found.tppChanged = !m_last || record.typPracovnihoPomeru != m_last->typPracovnihoPomeru;
-    found.supervisorChanged = record.nadrizenyOsobniCislo != 0
-        && (!m_last || record.nadrizenyOsobniCislo != m_last->nadrizenyOsobniCislo);
-    return found;
+    return RecordDecisions::differences(record, m_last ? &*m_last : nullptr, fund, m_isForced);
 }
 
 bool PersonState::isCalculated()
@@ -112,13 +103,9 @@ bool PersonState::isAddedAs(const MirovaRonRecord &record) const
     return m_added && mergedColumns(*m_added) == mergedColumns(record);
 }
 
-void PersonState::take(const MirovaRonRecord &record)
+void PersonState::adopt(const MirovaRonRecord &record)
 {
-    m_known->kalendar = record.kalendar;
-    m_known->kalendarPlatnostOd = record.kalendarPlatnostOd;
-    m_known->stredisko = record.stredisko;
-    m_known->strediskoPopis = record.strediskoPopis;
-    m_known->dovolenaZustatek = record.dovolenaZustatek;
+    RecordDecisions::adopt(record, *m_known);
 }
 
 bool PersonState::isSelected(const QString &payrollExport) const

@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/site/personrow.h"
 #include "worker/mirovaronrecord.h"
+#include "worker/recorddecisions.h"
 
 #include <QDate>
 #include <QMap>
@@ -18,17 +19,6 @@ class PluginView;
 /// started.
 class PersonState {
 public:
-    /// What the plugin determines about a record before it decides.
-    struct Comparison {
-        bool correctedToday = false; ///< today's correction of the balance exists
-        bool attendanceCalculated = false; ///< so that the balance may be corrected
-        bool checkFunds = false; ///< the balance is compared with that of the fund
-        bool changed = false;
-        bool esChanged = false;
-        bool tppChanged = false;
-        bool supervisorChanged = false;
-    };
-
     /// \a view must live longer than this object.
     PersonState(PluginView &view, quint32 pid, bool isForced);
 
@@ -48,7 +38,7 @@ public:
 
     /// Compares a record with what the plugin remembers, and records the result. To be called once
     /// for each record, before anything else.
-    Comparison compare(const MirovaRonRecord &record);
+    RecordDecisions::Differences compare(const MirovaRonRecord &record);
     /// To be called when the record has been handled.
     void remember(const MirovaRonRecord &record) { m_last = record; }
 
@@ -61,7 +51,7 @@ public:
     bool isAddedAs(const MirovaRonRecord &record) const;
     /// Takes over what the plugin keeps of a known person whose attendance is to be calculated
     /// again.
-    void take(const MirovaRonRecord &record);
+    void adopt(const MirovaRonRecord &record);
 
     /// Whether the person is in the selection of the only payroll export, whose key this is.
     bool isSelected(const QString &payrollExport) const;

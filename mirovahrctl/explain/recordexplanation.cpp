@@ -23,7 +23,7 @@ RecordExplanation::RecordExplanation(ExplainContext &context, const CheckedLine 
     , m_line(line)
     , m_record(*line.record)
     , m_numbered(numbered)
-    , m_found(m_person.compare(m_record))
+    , m_differences(m_person.compare(m_record))
     , m_active(RecordCodes::isActive(m_record, QDate::currentDate()))
 {
 }
@@ -104,9 +104,4 @@ void RecordExplanation::say(const QString &sentence)
 void RecordExplanation::warn(const char *rule, const QString &message, const QString &advice)
 {
     m_context.report.finding(makeFinding(Severity::Warning, rule, message, advice));
-}
-
-bool RecordExplanation::isTypeOfSupervisors() const
-{
-    return RecordCodes::employmentTypeFromTPP(m_record.typPracovnihoPomeru) == 1;
 }

@@ -37,8 +37,8 @@ private:
     void explainUpdate();
     void explainComparison(const MirovaRonRecord &updated);
     void explainRelationshipState();
-    void explainWriting(const MirovaRonRecord &updated, bool sameRow);
-    void explainWrittenRow(const MirovaRonRecord &updated, bool sameRow);
+    void explainWriting(const MirovaRonRecord &updated);
+    void explainWrittenRow(const MirovaRonRecord &updated, RecordDecisions::RowStep step);
     void explainStateBegin(const QDate &day);
     void explainTerminalsOfPerson();
     void explainCreation();
@@ -71,20 +71,16 @@ private:
     void section(const char *id, const char *heading);
     void say(const QString &sentence);
     void warn(const char *rule, const QString &message, const QString &advice);
-    /// The warnings that the plugin logs when it looks up branch and calendar. Only to be called
-    /// when one of them does not exist: then the plugin writes nothing.
-    QString placingLog();
     /// Whether the plugin handles the record at all.
-    bool isHandled() const { return m_found.changed || m_person.isForced(); }
+    bool isHandled() const { return m_differences.changed || m_person.isForced(); }
     bool isPerson(const char *word) const { return m_outcome.person == QLatin1String(word); }
-    bool isTypeOfSupervisors() const;
 
     ExplainContext &m_context;
     PersonState &m_person;
     const CheckedLine &m_line;
     const MirovaRonRecord &m_record;
     const bool m_numbered;
-    const PersonState::Comparison m_found;
+    const RecordDecisions::Differences m_differences;
     bool m_active = false;
     bool m_isHarmful = false; ///< a text may break the statement that writes the row
     bool m_mayNotAdd = false; ///< merging may change no row, which the plugin counts as a failure

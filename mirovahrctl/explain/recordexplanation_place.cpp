@@ -4,8 +4,9 @@
 #include "db/groupsplanrepo.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
-#include "worker/recorddecisions.h"
 #include "worker/recorddates.h"
+#include "worker/recorddecisions.h"
+#include "worker/recordlog.h"
 
 namespace {
 
@@ -57,7 +58,9 @@ void RecordExplanation::explainPlace()
         m_outcome.branch = QStringLiteral("unknown");
         warn("branch-unknown",
              QStringLiteral("No branch has the number %1 of the cost centre. The log says: %2")
-                 .arg(QString::number(m_record.stredisko), placingLog()),
+                 .arg(QString::number(m_record.stredisko),
+                      QString::asprintf(RecordLog::kBranchNotFound, m_record.stredisko,
+                                        qUtf8Printable(m_record.getString(false)))),
              QStringLiteral("Give the branch this number, or ask HR to correct the cost centre."));
         explainWaiting(false);
         return;
@@ -125,7 +128,10 @@ bool RecordExplanation::explainCalendar(quint32 bid)
         warn("calendar-unknown",
              QStringLiteral("The branch's master group has no group for the calendar %1. The log "
                             "says: %2")
-                 .arg(QString::number(m_record.kalendar), placingLog()),
+                 .arg(QString::number(m_record.kalendar),
+                      QString::asprintf(RecordLog::kGroupNotFound, m_record.stredisko,
+                                        m_record.kalendar,
+                                        qUtf8Printable(m_record.getString(false)))),
              QStringLiteral("Create a group for this calendar in the master group of the branch, "
                             "or ask HR to correct the calendar."));
         return false;
@@ -137,9 +143,10 @@ bool RecordExplanation::explainCalendar(quint32 bid)
     }
     warn("person-missing",
          QStringLiteral("The database has nobody with the pid %1 for whom the group could be "
-                        "planned. The log says: MHRWorker: can't add record '%2' into "
-                        "[groups_plan]!")
-             .arg(QString::number(m_person.pid()), m_record.getString(false)),
+                        "planned. The log says: %2")
+             .arg(QString::number(m_person.pid()),
+                  QString::asprintf(RecordLog::kPlanNotAdded,
+                                    qUtf8Printable(m_record.getString(false)))),
          QStringLiteral("See above why the person has no row with this pid."));
     return false;
 }
@@ -186,7 +193,7 @@ void RecordExplanation::explainRecalculation()
     const bool moves = known && RecordDecisions::movesElsewhere(m_record, *known);
     const bool isCorrected = m_outcome.balance == QLatin1String("corrected");
     if (moves || isCorrected) {
-        m_person.take(m_record);
+        m_person.adopt(m_record);
         requestRecalculation(moves, isCorrected);
     }
     const Recalculation &recalculation = m_outcome.recalculation;
@@ -209,10 +216,10 @@ void RecordExplanation::requestRecalculation(bool moves, bool isCorrected)
     if (!m_person.exists()) {
         warn("person-missing",
              QStringLiteral("The database has nobody with the pid %1 whose attendance could be "
-                            "calculated again. The log says: MHRWorker: User (employee) ID NOT "
-                            "found for pid (Personal ID) %1 [employee: '%2'] - lastCalc not "
-                            "changed (manual recalculation is needed)!")
-                 .arg(QString::number(m_person.pid()), m_record.getString(false)),
+                            "calculated again. The log says: %2")
+                 .arg(QString::number(m_person.pid()),
+                      QString::asprintf(RecordLog::kRecalculationLost, m_person.pid(),
+                                        qUtf8Printable(m_record.getString(false)))),
              QStringLiteral("See above why the person has no row with this pid."));
         return;
     }
@@ -222,11 +229,4 @@ void RecordExplanation::requestRecalculation(bool moves, bool isCorrected)
         m_outcome.recalculation.add(from, QStringLiteral("moved"));
     if (isCorrected)
         m_outcome.recalculation.add(from, QStringLiteral("balance"));
-}
-
-QString RecordExplanation::placingLog()
-{
-    const PluginLog log;
-    m_context.view.worker().doSyncBranchAndCalendar(m_record);
-    return log.problems();
 }

@@ -9,7 +9,7 @@
 #include "mirovahrctl/site/payrollexports.h"
 #include "worker/exportline.h"
 #include "worker/recordcodes.h"
-#include "worker/recordcomparison.h"
+#include "worker/recordlog.h"
 
 #include <algorithm>
 
@@ -58,12 +58,17 @@ QStringList firstColumn(const QVector<QStringList> &rows)
 void RecordExplanation::explainRow()
 {
     section("row", "Is the person created or updated?");
-    if (m_person.known())
+    switch (RecordDecisions::personStep(m_person.known().has_value(), m_active)) {
+    case RecordDecisions::PersonStep::Update:
         explainUpdate();
-    else if (m_active)
+        break;
+    case RecordDecisions::PersonStep::Create:
         explainCreation();
-    else
+        break;
+    case RecordDecisions::PersonStep::LeaveOut:
         explainLeaver();
+        break;
+    }
 }
 
 void RecordExplanation::explainLeaver()
@@ -110,9 +115,7 @@ void RecordExplanation::explainUpdate()
     m_isHarmful = hasHarmfulText(m_line) || SqlHazards::breaksStatement(updated.rsText);
     explainRelationshipState();
     explainComparison(updated);
-    explainWriting(updated,
-                   RecordComparison::rowFields(updated)
-                       == RecordComparison::rowFields(*m_person.known()));
+    explainWriting(updated);
 }
 
 void RecordExplanation::explainRelationshipState()
@@ -147,9 +150,10 @@ void RecordExplanation::explainComparison(const MirovaRonRecord &updated)
     m_context.report.table(fieldTable(fields));
 }
 
-void RecordExplanation::explainWriting(const MirovaRonRecord &updated, bool sameRow)
+void RecordExplanation::explainWriting(const MirovaRonRecord &updated)
 {
-    if (sameRow && !m_found.esChanged && !m_found.tppChanged) {
+    const auto step = RecordDecisions::rowStep(updated, *m_person.known(), m_differences);
+    if (step == RecordDecisions::RowStep::Keep) {
         m_outcome.person = QStringLiteral("unchanged");
         say(QStringLiteral("The row is not written."));
     } else if (m_context.configuration.testMode) {
@@ -160,16 +164,17 @@ void RecordExplanation::explainWriting(const MirovaRonRecord &updated, bool same
                            "is written.")
                 .arg(m_person.pid()));
     } else {
-        explainWrittenRow(updated, sameRow);
+        explainWrittenRow(updated, step);
         explainTerminalsOfPerson();
         explainHarmfulText(updated.rsText);
     }
 }
 
-void RecordExplanation::explainWrittenRow(const MirovaRonRecord &updated, bool sameRow)
+void RecordExplanation::explainWrittenRow(const MirovaRonRecord &updated,
+                                          RecordDecisions::RowStep step)
 {
     m_outcome.person = m_isHarmful ? QStringLiteral("uncertain") : QStringLiteral("updated");
-    if (!sameRow) {
+    if (step == RecordDecisions::RowStep::WriteFields) {
         say(QStringLiteral("The row is updated."));
     } else if (m_person.last()) {
         say(QStringLiteral("The row is written all the same: the employment type or the register "
@@ -183,7 +188,7 @@ void RecordExplanation::explainWrittenRow(const MirovaRonRecord &updated, bool s
         say(QStringLiteral("It stays active: the plugin never deactivates people, it only writes "
                            "their last day."));
     }
-    if (m_found.esChanged && updated.rsFrom.isValid())
+    if (m_differences.registerState && updated.rsFrom.isValid())
         explainStateBegin(updated.rsFrom);
 }
 
@@ -264,12 +269,12 @@ void RecordExplanation::explainPayroll()
     const QStringList exports = payrollExports(m_context.view.database());
     if (exports.size() != 1 || m_record.getPid() == 0) {
         warn("no-payroll-export",
-             QStringLiteral("The person joins no payroll export, because %1. The log says: "
-                            "MHRWorker::dbAddPerson(%2) - addPersonIntoPam() FAILED!")
+             QStringLiteral("The person joins no payroll export, because %1. The log says: %2")
                  .arg(exports.size() == 1
                           ? QStringLiteral("the pid is 0")
                           : QStringLiteral("there are %1 instead of one").arg(exports.size()),
-                      m_record.getPamId()),
+                      QString::asprintf(RecordLog::kPayrollExportFailed,
+                                        qUtf8Printable(m_record.getPamId()))),
              QStringLiteral("Add the person by hand where needed."));
         return;
     }
@@ -320,9 +325,10 @@ void RecordExplanation::explainKeptSettings(ushort settings)
         Severity::Note, "payroll-settings-kept",
         QStringLiteral(
             "The person has these settings already, which the plugin treats as a failure. The log "
-            "says: MHRWorker::doSyncRecord(%1) - dbAddPersonIntoPam(%2, %3) FAILED!")
-            .arg(m_record.getString(false), QString::number(m_record.getPid()),
-                 QString::number(settings)),
+            "says: %1")
+            .arg(QString::asprintf(RecordLog::kPayrollSettingsFailed,
+                                   qUtf8Printable(m_record.getString(false)), m_record.getPid(),
+                                   uint(settings))),
         QStringLiteral("This is harmless.")));
 }
 

@@ -2,15 +2,19 @@
 
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
+#include "worker/recordlog.h"
 #include "worker/vacationbalance.h"
 
 void RecordExplanation::explainBalance()
 {
     section("balance", "Is the vacation balance corrected?");
-    if (m_context.view.worker().vacationFundId() == 0) {
+    using RecordDecisions::BalanceStep;
+    switch (m_differences.balance) {
+    case BalanceStep::NoFund:
         m_outcome.balance = QStringLiteral("no-fund");
         say(QStringLiteral("No: there is no vacation fund."));
-    } else if (m_found.correctedToday) {
+        break;
+    case BalanceStep::CorrectedToday:
         m_outcome.balance = QStringLiteral("later");
         say(m_person.correctingLine() == 0
                 ? QStringLiteral("Not today: today's correction exists already. The plugin tries "
@@ -18,16 +22,20 @@ void RecordExplanation::explainBalance()
                 : QStringLiteral("Not today: line %1 has corrected it, and the plugin corrects a "
                                  "balance once a day.")
                       .arg(m_person.correctingLine()));
-    } else if (!m_found.attendanceCalculated) {
+        break;
+    case BalanceStep::AttendanceOpen:
         m_outcome.balance = QStringLiteral("later");
         say(QStringLiteral("Not now: the person's attendance is being calculated, or has days that "
                            "are not calculated yet. The plugin tries again at the next "
                            "synchronisation that contains the person."));
-    } else if (!m_found.checkFunds) {
+        break;
+    case BalanceStep::SameAsLast:
         m_outcome.balance = QStringLiteral("kept");
         say(QStringLiteral("No: the balance is that of the previous line."));
-    } else {
+        break;
+    case BalanceStep::Compare:
         explainCorrection();
+        break;
     }
 }
 
@@ -41,11 +49,10 @@ void RecordExplanation::explainCorrection()
         m_outcome.balance = QStringLiteral("impossible");
         warn("balance-not-written",
              QStringLiteral("The fund holds %1, and no valid correction leads from there to %2 "
-                            "days. The balance stays, and the log says: MHRWorker::doSyncRecord() "
-                            "- funds_move type (type=3, valeu=%3) not writed for uid %4 (pid: %5)")
+                            "days. The balance stays, and the log says: %3")
                  .arg(Phrases::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
-                      QString::number(move), QString::number(m_person.uid()),
-                      QString::number(m_person.pid())),
+                      QString::asprintf(RecordLog::kMoveNotWritten, move, m_person.uid(),
+                                        m_person.pid())),
              QStringLiteral("One of the two balances is wrong."));
     } else if (move == 0) {
         m_outcome.balance = QStringLiteral("equal");
@@ -61,17 +68,23 @@ void RecordExplanation::explainCorrection()
 void RecordExplanation::explainSupervisor()
 {
     section("supervisor", "Who receives the person's requests?");
-    const quint32 supervisor = m_record.nadrizenyOsobniCislo;
-    if (supervisor == 0) {
+    using RecordDecisions::SupervisorStep;
+    switch (RecordDecisions::supervisorStep(m_record, !m_person.known(), m_differences)) {
+    case SupervisorStep::NotNamed:
         say(QStringLiteral("The line names no supervisor: nothing changes."));
-    } else if (!isTypeOfSupervisors()) {
+        break;
+    case SupervisorStep::OtherEmploymentType:
         say(QStringLiteral("The employment type %1 is not one for which the plugin sets a "
                            "supervisor: nothing changes.")
                 .arg(m_record.typPracovnihoPomeru));
-    } else if (m_person.known() && !m_found.supervisorChanged) {
+        break;
+    case SupervisorStep::SameAsLast:
         say(QStringLiteral("The supervisor is that of the previous line: nothing changes."));
-    } else {
-        explainAdministrator(m_context.view.worker().dbGetAidByOsCis(supervisor));
+        break;
+    case SupervisorStep::Assign:
+        explainAdministrator(
+            m_context.view.worker().dbGetAidByOsCis(m_record.nadrizenyOsobniCislo));
+        break;
     }
 }
 
@@ -86,8 +99,9 @@ void RecordExplanation::explainAdministrator(quint32 aid)
         warn("person-missing",
              QStringLiteral(
                  "The database has nobody with the pid %1 who could be given a supervisor. The log "
-                 "says: MHRWorker - zamestnanec s osobnym cislom %1 nebol najdeny!")
-                 .arg(m_person.pid()),
+                 "says: %2")
+                 .arg(QString::number(m_person.pid()),
+                      QString::asprintf(RecordLog::kPersonNotFound, m_person.pid())),
              QStringLiteral("See above why the person has no row with this pid."));
     } else if (m_person.administrators() == QSet<quint32>{aid}) {
         m_outcome.supervisor = QStringLiteral("kept");
@@ -116,10 +130,8 @@ void RecordExplanation::explainUnknownAdministrator()
                                      "supervisor: nothing changes.")
                           .arg(m_record.nadrizenyOsobniCislo);
     if (!m_mayNotAdd) {
-        // Without an administrator it only warns.
-        const PluginLog log;
-        m_context.view.worker().processNadOsCis(m_record);
-        message += QStringLiteral(" The log says: ") + log.problems();
+        message += QStringLiteral(" The log says: ")
+            + QString::asprintf(RecordLog::kAdministratorNotFound, m_record.nadrizenyOsobniCislo);
     }
     warn("supervisor-unknown", message,
          QStringLiteral(

@@ -39,6 +39,20 @@ QStringList sources()
     return sources;
 }
 
+/// The texts that worker/recordlog.h has names for, by their names.
+QMap<QString, QString> namedTexts()
+{
+    static const QRegularExpression constant(
+        QStringLiteral(R"RX(constexpr char (k\w+)\[\] =\s*()RX") + kLiterals + ")");
+    QMap<QString, QString> texts;
+    auto matches = constant.globalMatch(readFile(PROJECT_FOLDER "/worker/recordlog.h"));
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        texts[match.captured(1)] = plainText(match.captured(2));
+    }
+    return texts;
+}
+
 QString level(const QRegularExpressionMatch &call)
 {
     const QString name = call.captured("level").toLower();
@@ -56,14 +70,16 @@ QMap<QString, QSet<QString>> SourceTexts::loggedDirectly()
 {
     static const QRegularExpression call(
         R"RX((?:if \((?:m_)?debugLevel (?<comparison>!=|>=|>) (?<operand>\d)\)\s*(?:\{\s*)?)?)RX"
-        R"RX(\bq(?<level>Debug|Info|Warning|Critical)\((?:\)\s*<<)?\s*(?<text>)RX"
-        + kLiterals + ")");
+        R"RX(\bq(?<level>Debug|Info|Warning|Critical)\((?:\)\s*<<)?\s*(?:RecordLog::(?<name>k\w+)|(?<text>)RX"
+        + kLiterals + "))");
+    const QMap<QString, QString> named = namedTexts();
     QMap<QString, QSet<QString>> texts;
     for (const QString &source : sources()) {
         auto matches = call.globalMatch(source);
         while (matches.hasNext()) {
             const QRegularExpressionMatch match = matches.next();
-            texts[plainText(match.captured("text"))] << level(match);
+            const QString name = match.captured("name");
+            texts[name.isEmpty() ? plainText(match.captured("text")) : named[name]] << level(match);
         }
     }
     return texts;
