@@ -80,12 +80,6 @@ bool names(const QSet<QString> &words, const QString &text, const QString &name)
                                         : text.contains(name, Qt::CaseInsensitive);
 }
 
-bool isWritten(const QString &table)
-{
-    const PluginRights::TableRights *const rights = PluginRights::find(table);
-    return rights != nullptr && (*rights->insert != '\0' || *rights->update != '\0');
-}
-
 } // namespace
 
 PreviewSchemaReader::PreviewSchemaReader(SqlSession &site)
@@ -263,7 +257,7 @@ void PreviewSchemaReader::requireReferences(const PreviewTable &table)
 
 void PreviewSchemaReader::noteHiddenTriggers(const QString &table)
 {
-    if (m_seesTriggers || !isWritten(table) || m_triggers.contains(table.toLower()))
+    if (m_seesTriggers || !PluginRights::writesTo(table) || m_triggers.contains(table.toLower()))
         return;
     const QString right =
         m_site.value(QString(QLatin1String(kTriggerRightOnTable)).arg(SqlSession::literal(table)));
