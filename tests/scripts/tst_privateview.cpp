@@ -41,6 +41,7 @@ private Q_SLOTS:
     void whatTheCommandWritesThereStaysInTheView();
     void everythingElseStaysReachable();
     void aFileInAFolderBelowTmpIsTheMachines();
+    void aFolderWithAnOddNameIsTheMachinesToo();
     void aFolderThatIsGoneOnTheMachineIsNoObstacle();
     void theCommandStartsInTheWorkingFolder();
     void theCommandKeepsItsUserAndGroup();
@@ -140,6 +141,14 @@ void TestPrivateView::aFileInAFolderBelowTmpIsTheMachines()
     const QString path = m_folder->filePath("result");
     COMPARE_STATUS(runShell(QStringLiteral("echo built >'%1'").arg(path)), 0);
     QCOMPARE(readFile(path), QByteArray("built\n"));
+}
+
+void TestPrivateView::aFolderWithAnOddNameIsTheMachinesToo()
+{
+    const QTemporaryDir odd(QStringLiteral("/tmp/# a\\b\tc\nd-XXXXXX"));
+    QVERIFY(odd.isValid());
+    COMPARE_STATUS(runShell(QStringLiteral("echo built >'%1'").arg(odd.filePath("result"))), 0);
+    QCOMPARE(readFile(odd.filePath("result")), QByteArray("built\n"));
 }
 
 void TestPrivateView::aFolderThatIsGoneOnTheMachineIsNoObstacle()
