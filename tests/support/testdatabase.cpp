@@ -18,11 +18,6 @@ QString referenceFile(const char *name)
     return QStringLiteral(MIROVAHR_REFERENCE_DB_DIR "/%1").arg(name);
 }
 
-QStringList schemaFiles()
-{
-    return {referenceFile("schema.sql"), referenceFile("routines.sql")};
-}
-
 QString text(const QVariant &value)
 {
     return value.isNull() ? QStringLiteral("NULL") : value.toString();
@@ -115,7 +110,9 @@ bool TestDatabase::start(const QStringList &serverOptions)
     m_server.setHostRights(PrivateMariaDb::HostRights::None);
     if (!m_server.start() || !openAdministrator())
         return false;
-    reset();
+    loadSchema();
+    loadFiles({referenceFile("sample.sql")});
+    check(m_baseline.takeRows(m_administrator), "The baseline has no rows", __FILE__, __LINE__);
     grant("grants.sql");
     return !QTest::currentTestFailed();
 }
@@ -129,22 +126,35 @@ void TestDatabase::grant(const char *file)
 
 void TestDatabase::reset()
 {
-    load(schemaFiles() << referenceFile("sample.sql"));
+    if (!m_baseline.restoreRows(m_administrator)) {
+        loadSchema();
+        loadFiles({referenceFile("sample.sql")});
+    }
+    clearStatements();
 }
 
 void TestDatabase::resetEmpty()
 {
-    load(schemaFiles());
+    if (!m_baseline.restoreEmpty(m_administrator))
+        loadSchema();
+    clearStatements();
 }
 
-void TestDatabase::load(const QStringList &files)
+void TestDatabase::loadSchema()
 {
     run(QStringLiteral("DROP DATABASE `%1`").arg(m_server.databaseName()));
     run(QStringLiteral("CREATE DATABASE `%1` CHARACTER SET utf8mb4").arg(m_server.databaseName()));
     run(QStringLiteral("USE `%1`").arg(m_server.databaseName()));
+    loadFiles({referenceFile("schema.sql"), referenceFile("routines.sql")});
+    const bool taken =
+        m_baseline.takeEmpty(m_administrator, m_server.dataDir() + '/' + m_server.databaseName());
+    check(taken, "The database cannot be read", __FILE__, __LINE__);
+}
+
+void TestDatabase::loadFiles(const QStringList &files)
+{
     const bool loaded = m_server.load(files);
     check(loaded, m_server.errorString(), __FILE__, __LINE__);
-    clearStatements();
 }
 
 QSqlDatabase TestDatabase::pluginConnection(const QString &name)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "privatedb/privatemariadb.h"
+#include "tests/support/databasebaseline.h"
 
 #include <QMap>
 #include <QSqlDatabase>
@@ -53,9 +54,9 @@ public:
     /// Grants what a file of the reference database says, to stay; after start().
     void grant(const char *file);
 
-    /// Drops the whole database, whatever the test did to its tables, triggers and routines, and
-    /// loads schema, routines and sample data anew. Then clears the statement log. Open connections
-    /// stay usable, as long as none holds a transaction open.
+    /// Brings back schema, routines and sample data, whatever the test did to tables, triggers,
+    /// routines and rows. Then clears the statement log. Open connections stay usable, as long as
+    /// none holds a transaction open.
     void reset();
     /// As reset(), without sample data: every table is empty.
     void resetEmpty();
@@ -131,13 +132,16 @@ public:
 
 private:
     TableRows tableRows(const QString &table, const char *file, int line);
-    void load(const QStringList &files);
+    /// Drops the whole database and loads it anew, empty, and takes it as the baseline.
+    void loadSchema();
+    void loadFiles(const QStringList &files);
     bool openAdministrator();
     void closeAdministrator();
     bool execute(QSqlQuery &query, const QString &sql, const char *file, int line);
     bool check(bool ok, const QString &error, const char *file, int line);
 
     PrivateMariaDb m_server;
+    DatabaseBaseline m_baseline;
     QString m_prefix; ///< Of the names of this object's connections.
     QStringList m_connectionNames;
     int m_connectionCount = 0;

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void init() { m_db.reset(); }
 
     void resetUndoesWhatATestDid();
+    void resetBringsBackTheNextAutomaticNumber();
+    void resetBringsBackARoutineOfTheSameName();
     void resetKeepsOpenConnectionsUsable();
     void anEmptyDatabaseHasEveryTableAndNoRow();
     void statementsAreThoseOfTheHostAccountInTheirOrder();
@@ -61,6 +63,26 @@ void TestSupport::resetUndoesWhatATestDid()
     QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
     m_db.run("CALL updateTermsSync(1, 2)");
     m_db.run("INSERT INTO brape (bid, uid) VALUES (1, 77)");
+}
+
+void TestSupport::resetBringsBackTheNextAutomaticNumber()
+{
+    const auto newBranch = [this] {
+        m_db.run("INSERT INTO branches (name) VALUES ('new')");
+        return m_db.value("SELECT MAX(bid) FROM branches").toInt();
+    };
+    const int first = newBranch();
+    QCOMPARE(newBranch(), first + 1);
+    m_db.run("DELETE FROM branches WHERE name = 'new'");
+    m_db.reset();
+    QCOMPARE(newBranch(), first);
+}
+
+void TestSupport::resetBringsBackARoutineOfTheSameName()
+{
+    m_db.run("CREATE OR REPLACE FUNCTION midnightFromTs(p_ts BIGINT) RETURNS BIGINT RETURN 5");
+    m_db.reset();
+    QVERIFY(m_db.value("SELECT midnightFromTs(1700000000)").toLongLong() > 5);
 }
 
 void TestSupport::resetKeepsOpenConnectionsUsable()
