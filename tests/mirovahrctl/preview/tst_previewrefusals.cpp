@@ -33,6 +33,8 @@ private Q_SLOTS:
     void tablesWithoutASnapshotAreReported();
     void viewsThatARoutineNamesAreReported();
     void whatRoutinesAndKeysNameIsCopied();
+    void aTriggerThatNamesTheDatabaseWritesIntoTheCopy();
+    void valuesThatADumpWouldRoundOrRefuseAreCopied();
     void routinesKeepTheirModes();
     void nothingOfTheSiteIsWritten();
 
@@ -301,6 +303,27 @@ void TestPreviewRefusals::whatRoutinesAndKeysNameIsCopied()
     QVERIFY(!tables.contains("sections"));
     QCOMPARE(result.described().filter("my words"),
              QStringList{"other | my words | new row: word |  -> a"});
+}
+
+void TestPreviewRefusals::aTriggerThatNamesTheDatabaseWritesIntoTheCopy()
+{
+    m_bench.site().run("CREATE TABLE trail (uid INT UNSIGNED)");
+    m_bench.site().run("CREATE TRIGGER t AFTER UPDATE ON people FOR EACH ROW INSERT INTO "
+                       "tepdb.trail VALUES (NEW.uid)");
+    QVERIFY(accepted("root").sql.contains("INSERT INTO `trail` (`uid`) VALUES (4)"));
+    QCOMPARE(m_bench.site().value("SELECT COUNT(*) FROM trail").toInt(), 0);
+}
+
+/// The exact value of a FLOAT, and a row from before its table got the constraint that it breaks.
+void TestPreviewRefusals::valuesThatADumpWouldRoundOrRefuseAreCopied()
+{
+    m_bench.site().run("CREATE TABLE trail (measured FLOAT)");
+    m_bench.site().run("INSERT INTO trail VALUES (9999.9990234375)");
+    m_bench.site().run("SET SESSION check_constraint_checks = 0");
+    m_bench.site().run("ALTER TABLE trail ADD CHECK (measured < 5000)");
+    m_bench.site().run("SET SESSION check_constraint_checks = 1");
+    m_bench.site().run("CREATE TRIGGER t AFTER UPDATE ON people FOR EACH ROW DELETE FROM trail");
+    QVERIFY(accepted("root").sql.contains("WHERE `measured` <=> 9999.9990234375 LIMIT 1"));
 }
 
 void TestPreviewRefusals::routinesKeepTheirModes()
