@@ -25,8 +25,8 @@ public:
     QStringList row(const QString &sql) { return rows(sql).value(0); }
     /// The first value of the first row; null when there is none.
     QString value(const QString &sql) { return row(sql).value(0); }
-    /// Hands over each row as it arrives, so that millions take no memory. False when the query
-    /// failed, or \a take did.
+    /// Hands over one row after the other. Qt's driver holds the whole answer meanwhile. False when
+    /// the query failed, or \a take did.
     bool forEachRow(const QString &sql, const std::function<bool(const QStringList &)> &take);
 
     bool failed() const { return m_failed; }
