@@ -42,8 +42,8 @@ private Q_SLOTS:
     void aRuleTripsOnItsFixtureOnly_data();
     void aRuleTripsOnItsFixtureOnly();
     void everyRuleOfTheManualHasItsFixtures();
-    void aDroppedLineIsFlaggedAsSuch_data();
-    void aDroppedLineIsFlaggedAsSuch();
+    void aDroppedLineIsFlagged_data();
+    void aDroppedLineIsFlagged();
     void aGoodExportIsFine();
     void notesAloneAreFine();
     void factsCountTheLines();
@@ -275,7 +275,7 @@ void TestCheckFile::everyRuleOfTheManualHasItsFixtures()
     QCOMPARE(m_fixtures.missing("check-file", others), QStringList());
 }
 
-void TestCheckFile::aDroppedLineIsFlaggedAsSuch_data()
+void TestCheckFile::aDroppedLineIsFlagged_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("dropped");
@@ -296,7 +296,7 @@ void TestCheckFile::aDroppedLineIsFlaggedAsSuch_data()
     QTest::newRow("no date and no numbers") << QByteArray("1|1|||x|||||||||||||") << false;
 }
 
-void TestCheckFile::aDroppedLineIsFlaggedAsSuch()
+void TestCheckFile::aDroppedLineIsFlagged()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, dropped);

@@ -69,7 +69,7 @@ private Q_SLOTS:
     void theExportMayBeNamed();
     void whatTheDatabaseHolds();
     void theFieldsAreComparedOneByOne();
-    void numbersAndFlagsAreSuchInJson();
+    void numbersAndFlagsKeepTheirTypeInJson();
     void theConfigurationIsThatOfTheFile();
     void withoutAConfigurationThePluginHasItsDefaults();
 
@@ -951,7 +951,7 @@ void TestExplain::theFieldsAreComparedOneByOne()
                         {"Relationship state", "", "", "false"}}));
 }
 
-void TestExplain::numbersAndFlagsAreSuchInJson()
+void TestExplain::numbersAndFlagsKeepTheirTypeInJson()
 {
     const ToolRun run = explain(SampleExport::jana().with(&ExportRow::stredisko, 130));
     const int section = ExplainedSite::sections(run).indexOf("row");
