@@ -50,7 +50,7 @@ void TestPrograms::helpIsGiven_data()
         addRow("mirovahr-demo", kDemo, argument);
         for (const char *name :
              {"bench", "check-code", "check-hardening", "demo", "fault-sweep", "fuzz",
-              "long-service", "package", "random-hosts", "test", "test-packages"})
+              "long-service", "nightly", "package", "random-hosts", "test", "test-packages"})
             addRow(name, script(name), argument);
     }
     for (const char *argument : {"-h", "--help"})
@@ -100,7 +100,7 @@ void TestPrograms::wrongUsageEndsWithTheSameStatus_data()
     addRow("yavhost", {YAVHOST}, argument);
     addRow("private-mariadb", {PRIVATE_MARIADB}, argument);
     addRow("mirovahr-demo", kDemo, argument);
-    for (const char *name : {"demo", "package", "test-packages"})
+    for (const char *name : {"check-hardening", "demo", "package", "test-packages"})
         addRow(name, script(name), argument);
     QTest::newRow("mirovahrctl alone") << "mirovahrctl" << QStringList{MIROVAHRCTL};
     QTest::newRow("yavhost alone") << "yavhost" << QStringList{YAVHOST};
