@@ -3,7 +3,7 @@
 #include "mirovahrctl/gatestate/gatecopies.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
 #include "mirovahrctl/gatestate/gateoptions.h"
-#include "mirovahrctl/gatestate/gaterecord.h"
+#include "mirovahrctl/gatestate/gatestatus.h"
 #include "plugin/configuration.h"
 #include "worker/importfile.h"
 
@@ -74,7 +74,7 @@ bool ExplainedExport::openGate(const QString &folder)
     }
     m_source = Source::Gate;
     QString ignored;
-    m_gateStatus = GateStatus::read(gate.pathOf(GateRecord::fileName()), ignored);
+    m_gateStatus = GateStatus::read(gate.pathOf(GateStatus::fileName()), ignored);
     return true;
 }
 

@@ -152,16 +152,16 @@ void PersonExplanation::explainGate()
     Report &report = m_context.report;
     const ExplainedExport &file = m_source.file;
     const auto &status = file.gateStatus();
-    const auto admitted = status ? status->admittedTime : std::nullopt;
+    const auto admitted = status ? status->admittedTime() : std::nullopt;
     report.sentence(
         QStringLiteral("What follows uses the file that the gate%1 admitted last%2.")
             .arg(file.isGateOfCommand() ? QStringLiteral(" of syncCommand") : QString(),
                  admitted ? QStringLiteral(", on ") + Phrases::day(*admitted) : QString()));
-    if (status && status->refused) {
+    if (status && status->isRefused()) {
         report.finding(makeFinding(
             Severity::Warning, "gate-refused",
             QStringLiteral("The gate has refused a newer file: %1.")
-                .arg(status->reasons.join(QStringLiteral("; "))),
+                .arg(status->reasons().join(QStringLiteral("; "))),
             QStringLiteral("Check whether that file has another line for the person.")));
     }
 }

@@ -2,7 +2,7 @@
 
 #include "mirovahrctl/export/exportscan.h"
 #include "mirovahrctl/gate/gatecomparison.h"
-#include "mirovahrctl/gatestate/gatelimits.h"
+#include "mirovahrctl/gatestate/gateoptions.h"
 #include "mirovahrctl/report/finding.h"
 
 #include <QVector>

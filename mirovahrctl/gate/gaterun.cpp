@@ -63,7 +63,7 @@ std::optional<ExitStatus> GateRun::openFolders()
     if (const auto end = lock())
         return end;
     if (!m_folder.removeLeftovers(GateCopies::lastAdmitted())
-        || !m_folder.removeLeftovers(GateRecord::fileName()) || !m_record.readLast(m_folder))
+        || !m_folder.removeLeftovers(GateStatus::fileName()) || !m_status.load(m_folder))
         return fail(m_folder.errorString());
     const QFileInfo rejects(m_options.rejects);
     const bool isOpen = m_line.isSet("rejects") ? m_rejectsFolder.open(rejects.path())
@@ -177,22 +177,22 @@ bool GateRun::makeLast()
 
 bool GateRun::recordAdmission(const QStringList &overridden)
 {
-    const GateRecord::Admission admission{QFileInfo(m_options.from).absoluteFilePath(),
+    const GateStatus::Admission admission{QFileInfo(m_options.from).absoluteFilePath(),
                                           m_examination.facts().counts.lines, m_source.modified(),
                                           overridden};
     if (m_examination.isUnchanged())
-        m_record.admitAgain(admission);
+        m_status.admitAgain(admission);
     else
-        m_record.admit(admission);
-    return m_record.write(m_folder, m_error);
+        m_status.admit(admission);
+    return m_status.write(m_folder, m_error);
 }
 
 ExitStatus GateRun::refuse(const QVector<GateReason> &reasons)
 {
-    m_record.refuse(messages(reasons));
+    m_status.refuse(messages(reasons));
     if (!m_copy.discard())
         return fail(m_copy.errorString());
-    if (!m_record.write(m_folder, m_error))
+    if (!m_status.write(m_folder, m_error))
         return fail(m_error);
     return tell(false, reasons);
 }
@@ -225,8 +225,8 @@ ExitStatus GateRun::fail(const QString &sentence)
         : QStringLiteral(". Nothing was published");
     if (m_isLocked && !m_publication.isPublished()) {
         QString ignored;
-        m_record.refuse({sentence});
-        m_record.write(m_folder, ignored);
+        m_status.refuse({sentence});
+        m_status.write(m_folder, ignored);
     }
     return m_console.fail(ExitStatus::Usage, sentence + outcome);
 }

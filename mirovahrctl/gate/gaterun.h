@@ -5,7 +5,7 @@
 #include "mirovahrctl/gate/gatesource.h"
 #include "mirovahrctl/gatestate/gatefile.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
-#include "mirovahrctl/gatestate/gaterecord.h"
+#include "mirovahrctl/gatestate/gatestatus.h"
 #include "mirovahrctl/report/exitstatus.h"
 
 #include <QStringList>
@@ -58,7 +58,7 @@ private:
     GateFile m_copy; ///< of HR's file; becomes the last admitted one
     GateFile m_rejects;
     GateExamination m_examination;
-    GateRecord m_record;
+    GateStatus m_status;
     QString m_error; ///< why a function returned false
     bool m_isLocked = false;
     bool m_isExamined = false;

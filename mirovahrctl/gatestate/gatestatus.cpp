@@ -1,25 +1,53 @@
 #include "mirovahrctl/gatestate/gatestatus.h"
 
-#include <QDateTime>
+#include "mirovahrctl/gatestate/gatefile.h"
+#include "mirovahrctl/gatestate/gatefolder.h"
+#include "mirovahrctl/report/moment.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace {
 
-std::optional<qint64> moment(const QJsonValue &value)
+const QLatin1String kResult("result");
+const QLatin1String kTime("time");
+const QLatin1String kReasons("reasons");
+const QLatin1String kOverridden("overridden");
+const QLatin1String kLastAdmitted("lastAdmitted");
+const QLatin1String kFile("file");
+const QLatin1String kLines("lines");
+const QLatin1String kDelivered("delivered");
+
+constexpr char kAdmitted[] = "admitted";
+constexpr char kRefused[] = "refused";
+
+/// For everybody who may enter the folder: the file names no person.
+constexpr mode_t kPermissions = 0644;
+
+QString now()
 {
-    const QDateTime time = QDateTime::fromString(value.toString(), Qt::ISODate);
+    return Moment::text(QDateTime::currentDateTime());
+}
+
+/// In whatever zone it was written.
+QDateTime readMoment(const QJsonValue &value)
+{
+    return QDateTime::fromString(value.toString(), Qt::ISODateWithMs);
+}
+
+std::optional<qint64> readTime(const QJsonValue &value)
+{
+    const QDateTime time = readMoment(value);
     return time.isValid() ? std::make_optional(time.toSecsSinceEpoch()) : std::nullopt;
 }
 
-std::optional<qint64> number(const QJsonValue &value)
+std::optional<qint64> readNumber(const QJsonValue &value)
 {
     return value.isDouble() ? std::make_optional(qint64(value.toDouble())) : std::nullopt;
 }
 
-QStringList texts(const QJsonArray &values)
+QStringList readTexts(const QJsonArray &values)
 {
     QStringList texts;
     for (const QJsonValue &value : values) {
@@ -29,7 +57,21 @@ QStringList texts(const QJsonArray &values)
     return texts;
 }
 
+/// Readers join the reasons to one sentence.
+QJsonArray withoutFullStops(const QStringList &sentences)
+{
+    QJsonArray array;
+    for (const QString &sentence : sentences)
+        array << (sentence.endsWith(QLatin1Char('.')) ? sentence.chopped(1) : sentence);
+    return array;
+}
+
 } // namespace
+
+QString GateStatus::fileName()
+{
+    return QStringLiteral("status.json");
+}
 
 std::optional<GateStatus> GateStatus::read(const QString &path, QString &error)
 {
@@ -39,19 +81,111 @@ std::optional<GateStatus> GateStatus::read(const QString &path, QString &error)
                     .arg(path, file.errorString());
         return std::nullopt;
     }
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
-    if (!document.isObject()) {
+    const auto status = parse(file.readAll());
+    if (!status)
         error = QStringLiteral("'%1' is no status file of the gate").arg(path);
-        return std::nullopt;
-    }
-    const QJsonObject object = document.object();
-    const QJsonObject admitted = object.value(QLatin1String("lastAdmitted")).toObject();
-    GateStatus status;
-    status.refused = object.value(QLatin1String("result")).toString() == QLatin1String("refused");
-    status.time = moment(object.value(QLatin1String("time")));
-    status.reasons = texts(object.value(QLatin1String("reasons")).toArray());
-    status.admittedTime = moment(admitted.value(QLatin1String("time")));
-    status.admittedFile = admitted.value(QLatin1String("file")).toString();
-    status.admittedLines = number(admitted.value(QLatin1String("lines")));
     return status;
+}
+
+std::optional<GateStatus> GateStatus::parse(const QByteArray &text)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    if (!document.isObject())
+        return std::nullopt;
+    GateStatus status;
+    status.m_document = document.object();
+    return status;
+}
+
+bool GateStatus::isRefused() const
+{
+    return m_document.value(kResult).toString() == QLatin1String(kRefused);
+}
+
+std::optional<qint64> GateStatus::time() const
+{
+    return readTime(m_document.value(kTime));
+}
+
+QStringList GateStatus::reasons() const
+{
+    return readTexts(m_document.value(kReasons).toArray());
+}
+
+std::optional<qint64> GateStatus::admittedTime() const
+{
+    return readTime(lastAdmitted().value(kTime));
+}
+
+QString GateStatus::admittedFile() const
+{
+    return lastAdmitted().value(kFile).toString();
+}
+
+std::optional<qint64> GateStatus::admittedLines() const
+{
+    return readNumber(lastAdmitted().value(kLines));
+}
+
+bool GateStatus::load(GateFolder &folder)
+{
+    const auto content = folder.contentOf(fileName());
+    if (content)
+        *this = parse(*content).value_or(GateStatus());
+    return content.has_value();
+}
+
+void GateStatus::refuse(const QStringList &reasons)
+{
+    finish(kRefused, reasons, {}, lastAdmitted());
+}
+
+void GateStatus::admit(const Admission &admission)
+{
+    finish(kAdmitted, {}, admission.overridden,
+           {
+               {kTime, now()},
+               {kFile, admission.file},
+               {kLines, admission.lines},
+               {kDelivered, Moment::exactText(admission.delivered)},
+               {kOverridden, withoutFullStops(admission.overridden)},
+           });
+}
+
+void GateStatus::admitAgain(const Admission &admission)
+{
+    if (readMoment(lastAdmitted().value(kDelivered)) == admission.delivered)
+        finish(kAdmitted, {}, {}, lastAdmitted());
+    else
+        admit(admission);
+}
+
+bool GateStatus::write(GateFolder &folder, QString &error) const
+{
+    GateFile file(folder, fileName(), kPermissions);
+    if (file.create()) {
+        file.device().write(QJsonDocument(m_document).toJson());
+        if (file.finish() && file.putInPlace())
+            return true;
+    }
+    error = file.errorString();
+    return false;
+}
+
+QJsonObject GateStatus::lastAdmitted() const
+{
+    return m_document.value(kLastAdmitted).toObject();
+}
+
+void GateStatus::finish(const char *result, const QStringList &reasons,
+                        const QStringList &overridden, const QJsonObject &lastAdmitted)
+{
+    m_document = {
+        {kResult, QLatin1String(result)},
+        {kTime, now()},
+        {kReasons, withoutFullStops(reasons)},
+        {kOverridden, withoutFullStops(overridden)},
+    };
+    if (!lastAdmitted.isEmpty())
+        m_document.insert(kLastAdmitted, lastAdmitted);
 }

@@ -77,14 +77,14 @@ void reportGate(Report &report, const GateStatus &gate)
 {
     report.section(QStringLiteral("gate"), QStringLiteral("Gate"));
     report.fact(QStringLiteral("gateResult"), QStringLiteral("Last file"),
-                gate.refused ? QStringLiteral("refused") : QStringLiteral("admitted"));
-    reportTime(report, "gateTime", "Last run", gate.time);
-    reportTime(report, "admittedTime", "Last file admitted at", gate.admittedTime);
-    if (!gate.admittedFile.isEmpty())
-        report.fact(QStringLiteral("admittedFile"), QStringLiteral("It was"), gate.admittedFile);
-    if (gate.admittedLines)
+                gate.isRefused() ? QStringLiteral("refused") : QStringLiteral("admitted"));
+    reportTime(report, "gateTime", "Last run", gate.time());
+    reportTime(report, "admittedTime", "Last file admitted at", gate.admittedTime());
+    if (!gate.admittedFile().isEmpty())
+        report.fact(QStringLiteral("admittedFile"), QStringLiteral("It was"), gate.admittedFile());
+    if (gate.admittedLines())
         report.fact(QStringLiteral("admittedLines"), QStringLiteral("Its lines"),
-                    *gate.admittedLines);
+                    *gate.admittedLines());
 }
 
 /// How to end after the command line was read and its errors were told.

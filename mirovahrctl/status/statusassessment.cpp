@@ -18,8 +18,9 @@ constexpr Unit kUnits[] = {
 void findAge(StatusAssessment &judgement, const StatusData &data, const GateStatus *gate,
              qint64 now)
 {
-    if (gate != nullptr && gate->admittedTime) {
-        judgement.age = qMax(qint64(0), now - *gate->admittedTime);
+    const auto admitted = gate != nullptr ? gate->admittedTime() : std::nullopt;
+    if (admitted) {
+        judgement.age = qMax(qint64(0), now - *admitted);
         judgement.ageOf = QStringLiteral("file admitted");
         return;
     }
@@ -50,11 +51,11 @@ void judgeAge(StatusAssessment &judgement, const AgeLimits &limits)
 
 void judgeGate(StatusAssessment &judgement, const GateStatus &gate)
 {
-    if (!gate.refused)
+    if (!gate.isRefused())
         return;
     QString message = QStringLiteral("The gate has refused the last file");
-    if (!gate.reasons.isEmpty())
-        message += QStringLiteral(": ") + gate.reasons.join(QStringLiteral("; "));
+    if (!gate.reasons().isEmpty())
+        message += QStringLiteral(": ") + gate.reasons().join(QStringLiteral("; "));
     judgement.findings +=
         makeFinding(Severity::Warning, "gate-refused", Wording::sentence(message),
                     QStringLiteral("Until a file is admitted nothing new reaches the plugin."));

@@ -148,7 +148,7 @@ void TestGateFaults::compareStatus(const GateSite &site, const Scenario &scenari
     QString error;
     const auto status = GateStatus::read(site.inState("status.json"), error);
     QVERIFY2(status, qPrintable(error));
-    QVERIFY(status->time);
+    QVERIFY(status->time());
 }
 
 /// Nothing is left of the run with the fault, and the new file is published, without --accept if

@@ -491,12 +491,12 @@ void TestGateFiles::statusReadsTheStatusFile()
     QString error;
     const auto status = GateStatus::read(m_site->inState("status.json"), error);
     QVERIFY2(status, qPrintable(error));
-    QCOMPARE(status->refused, false);
-    QVERIFY(status->time >= before && status->time <= QDateTime::currentSecsSinceEpoch());
-    QCOMPARE(status->reasons, QStringList());
-    QCOMPARE(status->admittedTime, status->time);
-    QCOMPARE(status->admittedFile, m_site->hrFile());
-    QCOMPARE(status->admittedLines, std::make_optional(qint64(3)));
+    QCOMPARE(status->isRefused(), false);
+    QVERIFY(status->time() >= before && status->time() <= QDateTime::currentSecsSinceEpoch());
+    QCOMPARE(status->reasons(), QStringList());
+    QCOMPARE(status->admittedTime(), status->time());
+    QCOMPARE(status->admittedFile(), m_site->hrFile());
+    QCOMPARE(status->admittedLines(), std::make_optional(qint64(3)));
 }
 
 void TestGateFiles::aRefusalKeepsTheLastAdmission()
@@ -510,9 +510,9 @@ void TestGateFiles::aRefusalKeepsTheLastAdmission()
     QString error;
     const auto status = GateStatus::read(m_site->inState("status.json"), error);
     QVERIFY2(status, qPrintable(error));
-    QVERIFY(status->refused);
-    QCOMPARE(status->reasons, QStringList("There is no file '" + m_site->hrFile() + "'"));
-    QCOMPARE(status->admittedLines, std::make_optional(qint64(3)));
+    QVERIFY(status->isRefused());
+    QCOMPARE(status->reasons(), QStringList("There is no file '" + m_site->hrFile() + "'"));
+    QCOMPARE(status->admittedLines(), std::make_optional(qint64(3)));
     QCOMPARE(m_site->status()["lastAdmitted"].toObject(), last);
     // A failure counts as a refusal.
     QVERIFY(QDir().mkpath(m_site->target() + "/x"));

@@ -345,11 +345,12 @@ void TestStatus::theGatesTimeCountsWhereItIsKnown()
     StatusData data;
     data.now = kNow;
     data.created = kNow - 3 * 3600 - 5;
-    GateStatus gate;
-    if (known)
-        gate.admittedTime = kNow - 1000 - 5 * 3600;
+    const QDateTime admitted = QDateTime::fromSecsSinceEpoch(kNow - 1000 - 5 * 3600, Qt::UTC);
+    const auto gate = GateStatus::parse(known ? R"({"lastAdmitted": {"time": ")"
+                                                + admitted.toString(Qt::ISODate).toUtf8() + "\"}}"
+                                              : QByteArray("{}"));
     const StatusAssessment judgement =
-        StatusAssessment::of(data, &gate, {3600, std::nullopt}, kNow - 1000);
+        StatusAssessment::of(data, &*gate, {3600, std::nullopt}, kNow - 1000);
     QCOMPARE(judgement.findings.size(), 1);
     QCOMPARE(judgement.findings.first().message, message);
 }
