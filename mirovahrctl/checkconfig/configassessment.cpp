@@ -1,6 +1,5 @@
 #include "mirovahrctl/checkconfig/configassessment.h"
 
-#include "mirovahrctl/checkconfig/configtable.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/schedule.h"
 
@@ -73,11 +72,6 @@ ConfigAssessment::ConfigAssessment(const QString &path)
 }
 
 ConfigAssessment::~ConfigAssessment() = default;
-
-Table ConfigAssessment::keys() const
-{
-    return configurationTable(*m_settings, m_config);
-}
 
 QVector<Finding> ConfigAssessment::findings()
 {

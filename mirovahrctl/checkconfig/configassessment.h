@@ -23,7 +23,8 @@ public:
     /// What is in force.
     const Configuration &configuration() const { return m_config; }
 
-    /// Each key with what the file says and what is in force.
+    /// A row for each key: what the file says ("written", nothing when the key is missing) and what
+    /// that puts in force ("inForce").
     Table keys() const;
 
     /// Everything that is wrong, in the order of the lines; first what has no line.

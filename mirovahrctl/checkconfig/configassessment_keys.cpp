@@ -1,7 +1,8 @@
-#include "mirovahrctl/checkconfig/configtable.h"
+// The table of keys: what each puts in force.
+
+#include "mirovahrctl/checkconfig/configassessment.h"
 
 #include "mirovahrctl/report/wording.h"
-#include "plugin/configuration.h"
 #include "worker/importfile.h"
 #include "worker/schedule.h"
 
@@ -126,11 +127,11 @@ private:
 
 } // namespace
 
-Table configurationTable(QSettings &settings, const Configuration &config)
+Table ConfigAssessment::keys() const
 {
     return {QStringLiteral("keys"),
             {{QStringLiteral("key"), QStringLiteral("Key")},
              {QStringLiteral("written"), QStringLiteral("In the file")},
              {QStringLiteral("inForce"), QStringLiteral("In force")}},
-            Rows(settings, config).take()};
+            Rows(*m_settings, m_config).take()};
 }
