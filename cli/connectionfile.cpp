@@ -31,12 +31,10 @@ QString ConnectionFile::read(const QString &path)
 {
     m_path = path;
     const QFileInfo info(path);
-    if (!info.isFile()) {
+    if (!info.isFile())
         return QStringLiteral("There is no file '%1'").arg(path);
-    }
-    if (!info.isReadable()) {
+    if (!info.isReadable())
         return QStringLiteral("'%1' cannot be read").arg(path);
-    }
     QSettings settings(path, QSettings::IniFormat);
     settings.setIniCodec("UTF-8");
     const QString error = readKeys(settings);
@@ -45,9 +43,8 @@ QString ConnectionFile::read(const QString &path)
 
 QString ConnectionFile::readPassword(QString &password, QString &warning) const
 {
-    if (!m_passwordFile.isEmpty()) {
+    if (!m_passwordFile.isEmpty())
         return readPasswordFile(m_passwordFile, password);
-    }
     if (!m_password.isEmpty() && QFileInfo(m_path).permission(QFileDevice::ReadOther)) {
         warning = QStringLiteral("Every user of the machine can read '%1': the password in it is "
                                  "not used. Take the right away (chmod o-r)")
@@ -69,9 +66,8 @@ QString ConnectionFile::readKeys(QSettings &settings)
     const QStringList keys = settings.childKeys();
     for (const QString &key : keys) {
         const QString error = take(key, settings.value(key));
-        if (!error.isEmpty()) {
+        if (!error.isEmpty())
             return error;
-        }
     }
     if (settings.status() != QSettings::NoError) {
         return QStringLiteral("there are lines that are neither [group], nor key = value, nor a "
@@ -82,9 +78,8 @@ QString ConnectionFile::readKeys(QSettings &settings)
 
 QString ConnectionFile::take(const QString &key, const QVariant &value)
 {
-    if (value.type() == QVariant::StringList) {
+    if (value.type() == QVariant::StringList)
         return QStringLiteral("the value of '%1' has a comma; put it in quotation marks").arg(key);
-    }
     const QString text = value.toString();
     if (key == QLatin1String("port")) {
         return readNumber(text, kLargestPort, m_options.port)
@@ -102,20 +97,17 @@ QString ConnectionFile::take(const QString &key, const QVariant &value)
     const auto *const found =
         std::find_if(std::begin(kTextKeys), std::end(kTextKeys),
                      [&key](const TextKey &known) { return key == QLatin1String(known.name); });
-    if (found == std::end(kTextKeys)) {
+    if (found == std::end(kTextKeys))
         return QStringLiteral("there is no key '%1' for a connection").arg(key);
-    }
     m_options.*found->option = text;
     return {};
 }
 
 QString ConnectionFile::check() const
 {
-    if (!m_options.host.isEmpty() && !m_options.socket.isEmpty()) {
+    if (!m_options.host.isEmpty() && !m_options.socket.isEmpty())
         return QStringLiteral("it names both a host and a socket");
-    }
-    if (!m_password.isEmpty() && !m_passwordFile.isEmpty()) {
+    if (!m_password.isEmpty() && !m_passwordFile.isEmpty())
         return QStringLiteral("it names both a password and a password-file");
-    }
     return {};
 }

@@ -13,12 +13,10 @@ constexpr char kDriver[] = "QMYSQL";
 QString connectOptions(const DatabaseOptions &options)
 {
     QStringList parts;
-    if (!options.socket.isEmpty()) {
+    if (!options.socket.isEmpty())
         parts << QStringLiteral("UNIX_SOCKET=") + options.socket;
-    }
-    if (!options.connectOptions.isEmpty()) {
+    if (!options.connectOptions.isEmpty())
         parts << options.connectOptions;
-    }
     return parts.join(QLatin1Char(';'));
 }
 
@@ -48,7 +46,7 @@ bool Database::open()
     return m_connection.open();
 }
 
-QString Database::errorText() const
+QString Database::errorString() const
 {
     return m_connection.lastError().text();
 }

@@ -14,11 +14,11 @@ public:
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
-    /// Opens the connection. False when that fails; errorText() then says why.
+    /// Opens the connection. False when that fails; errorString() then says why.
     bool open();
 
     /// Why open() failed, in the database's or the driver's words.
-    QString errorText() const;
+    QString errorString() const;
 
     /// The handle to work with. Every copy must be gone before this object is.
     QSqlDatabase handle() const;

@@ -20,27 +20,24 @@ QCommandLineOption valueOption(const char *name, const QString &text, const char
 QString fileOptionText(const DatabaseSources &sources)
 {
     QString text = QStringLiteral("A file that has these options in its group [client].");
-    if (!sources.file.isEmpty()) {
+    if (!sources.file.isEmpty())
         text += QStringLiteral(" Left out: %1, if it is there.").arg(sources.file);
-    }
     return text;
 }
 
 /// The connection file to read; empty for none.
 QString fileToRead(const QCommandLineParser &parser, const DatabaseSources &sources)
 {
-    if (parser.isSet(QStringLiteral("defaults-file"))) {
+    if (parser.isSet(QStringLiteral("defaults-file")))
         return parser.value(QStringLiteral("defaults-file"));
-    }
     return QFileInfo(sources.file).isReadable() ? sources.file : QString();
 }
 
 void readText(const QCommandLineParser &parser, const char *name, QString &value)
 {
     const QString option = QString::fromLatin1(name);
-    if (parser.isSet(option)) {
+    if (parser.isSet(option))
         value = parser.value(option);
-    }
 }
 
 /// Puts what the command line says in place of what the file says.
@@ -57,33 +54,28 @@ QString readCommandLine(const QCommandLineParser &parser, DatabaseOptions &optio
     readText(parser, "database", options.name);
     readText(parser, "user", options.user);
     readText(parser, "connect-options", options.connectOptions);
-    if (!readNumberOption(parser, QStringLiteral("port"), kLargestPort, options.port)) {
+    if (!readNumberOption(parser, QStringLiteral("port"), kLargestPort, options.port))
         return QStringLiteral("The port is a number from 0 to %1").arg(kLargestPort);
-    }
     return {};
 }
 
 /// What is still to be named; empty when nothing is.
 QString missing(const DatabaseOptions &options)
 {
-    if (options.host.isEmpty() && options.socket.isEmpty()) {
+    if (options.host.isEmpty() && options.socket.isEmpty())
         return QStringLiteral("Name the database server with either --host or --socket");
-    }
-    if (options.name.isEmpty()) {
+    if (options.name.isEmpty())
         return QStringLiteral("Name the attendance database with --database");
-    }
-    if (options.user.isEmpty()) {
+    if (options.user.isEmpty())
         return QStringLiteral("Name the database user with --user");
-    }
     return {};
 }
 
 /// What a complaint about a missing option is silent about: the file that was not read.
 QString unreadFile(const QString &file, const DatabaseSources &sources)
 {
-    if (!file.isEmpty() || sources.file.isEmpty()) {
+    if (!file.isEmpty() || sources.file.isEmpty())
         return {};
-    }
     return QFileInfo::exists(sources.file)
         ? QStringLiteral("; the file '%1' cannot be read").arg(sources.file)
         : QStringLiteral(", or in the file %1").arg(sources.file);
@@ -94,13 +86,11 @@ QString readPassword(const QCommandLineParser &parser, const char *variable,
 {
     options.password = qEnvironmentVariable(variable);
     qunsetenv(variable);
-    if (parser.isSet(QStringLiteral("password-file"))) {
+    if (parser.isSet(QStringLiteral("password-file")))
         return readPasswordFile(parser.value(QStringLiteral("password-file")), options.password);
-    }
     const QString fileUser = file.options().user;
-    if (!options.password.isEmpty() || (!fileUser.isEmpty() && fileUser != options.user)) {
+    if (!options.password.isEmpty() || (!fileUser.isEmpty() && fileUser != options.user))
         return {};
-    }
     return file.readPassword(options.password, warning);
 }
 
@@ -135,20 +125,16 @@ QString readDatabaseOptions(const QCommandLineParser &parser, const DatabaseSour
     ConnectionFile file;
     const QString path = fileToRead(parser, sources);
     QString error = path.isEmpty() ? QString() : file.read(path);
-    if (!error.isEmpty()) {
+    if (!error.isEmpty())
         return error;
-    }
     options = file.options();
     error = readCommandLine(parser, options);
-    if (!error.isEmpty()) {
+    if (!error.isEmpty())
         return error;
-    }
-    if (!options.host.isEmpty() && !options.socket.isEmpty()) {
+    if (!options.host.isEmpty() && !options.socket.isEmpty())
         return QStringLiteral("Name the database server with either --host or --socket, not both");
-    }
     error = missing(options);
-    if (!error.isEmpty()) {
+    if (!error.isEmpty())
         return error + unreadFile(path, sources);
-    }
     return readPassword(parser, sources.passwordVariable, file, options, warning);
 }

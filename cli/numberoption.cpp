@@ -6,9 +6,8 @@ bool readNumber(const QString &text, uint max, uint &value)
 {
     bool ok = false;
     const uint number = text.toUInt(&ok);
-    if (!ok || number > max) {
+    if (!ok || number > max)
         return false;
-    }
     value = number;
     return true;
 }

@@ -10,9 +10,8 @@ QString readPasswordFile(const QString &path, QString &password)
             .arg(path, file.errorString());
     }
     QByteArray line = file.readLine();
-    if (line.endsWith('\n')) {
+    if (line.endsWith('\n'))
         line.chop(1);
-    }
     password = QString::fromUtf8(line);
     return {};
 }

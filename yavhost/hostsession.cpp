@@ -58,10 +58,10 @@ bool HostSession::openDatabase()
     if (m_database.open())
         return true;
     if (m_options.once) {
-        m_detail = m_database.errorText();
+        m_detail = m_database.errorString();
         return false;
     }
-    printFailure(ExitStatus::NoDatabase, m_database.errorText());
+    printFailure(ExitStatus::NoDatabase, m_database.errorString());
     return true;
 }
 

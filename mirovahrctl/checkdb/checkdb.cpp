@@ -30,7 +30,7 @@ bool checkSchema(DbAssessment &check, DbRules::Account account)
 {
     DbSchema schema;
     if (!schema.load(check.database())) {
-        check.setUnusable(schema.errorText());
+        check.setUnusable(schema.errorString());
         return false;
     }
     const int violationsBefore = check.violationCount();

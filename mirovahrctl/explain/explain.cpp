@@ -130,7 +130,7 @@ std::optional<ExitStatus> ExplainRun::search(const QSqlDatabase &site)
     m_search->searchDatabase(sql);
     if (sql.failed()) {
         return fail(ExitStatus::ContractBroken,
-                    QStringLiteral("The database cannot be used: %1").arg(sql.errorText()));
+                    QStringLiteral("The database cannot be used: %1").arg(sql.errorString()));
     }
     const QVector<FoundPerson> people = m_search->people();
     if (people.size() == 1)
@@ -149,7 +149,7 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
     PluginView view;
     const auto failView = [&] {
         return fail(view.isConnected() ? ExitStatus::ContractBroken : ExitStatus::NoDatabase,
-                    QStringLiteral("The database cannot be used: %1").arg(view.errorText()));
+                    QStringLiteral("The database cannot be used: %1").arg(view.errorString()));
     };
     if (!view.open(site, m_source.configuration.values()))
         return failView();
@@ -157,7 +157,7 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
     const auto forced = flag.isSet();
     if (!forced) {
         return fail(ExitStatus::ContractBroken,
-                    QStringLiteral("The database cannot be used: %1").arg(flag.errorText()));
+                    QStringLiteral("The database cannot be used: %1").arg(flag.errorString()));
     }
     m_source.isForced = *forced;
     if (const auto end = m_report.open())
@@ -165,7 +165,7 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
     m_report.begin(m_line.subcommand(), QStringLiteral("What happens to %1").arg(m_person->name()));
     PersonExplanation explanation(*m_person, m_source, view, m_report);
     const QString verdict = explanation.explain(m_lines ? &*m_lines : nullptr);
-    if (!view.errorText().isEmpty())
+    if (!view.errorString().isEmpty())
         return failView();
     return m_report.conclude(m_report.findingsStatus(), verdict);
 }

@@ -16,7 +16,7 @@ public:
     bool set(bool on);
 
     /// Why the last operation failed.
-    QString errorText() const { return m_error; }
+    QString errorString() const { return m_error; }
 
 private:
     const QSqlDatabase m_db;

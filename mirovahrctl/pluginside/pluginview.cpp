@@ -54,12 +54,12 @@ bool PluginView::load()
     m_worker->dbLoadPeople();
     m_worker->dbLoadBranches();
     m_worker->dbCheckDovolenkaFond(MHRWorker::kVacationIid);
-    return errorText().isEmpty();
+    return errorString().isEmpty();
 }
 
-QString PluginView::errorText() const
+QString PluginView::errorString() const
 {
-    QStringList errors{m_error, m_log.problems(), m_sql ? m_sql->errorText() : QString()};
+    QStringList errors{m_error, m_log.problems(), m_sql ? m_sql->errorString() : QString()};
     errors.removeAll(QString());
     return errors.join(QStringLiteral("; "));
 }

@@ -22,7 +22,7 @@ public:
     PluginView &operator=(const PluginView &) = delete;
 
     /// Sets up the worker on a connection of its own to the same database as \a site, and loads
-    /// what it loads at the beginning of a synchronisation. False when that fails; errorText()
+    /// what it loads at the beginning of a synchronisation. False when that fails; errorString()
     /// then says why.
     bool open(const QSqlDatabase &site, const Configuration &configuration);
 
@@ -33,7 +33,7 @@ public:
     SqlSession &sql() { return *m_sql; }
 
     /// What went wrong so far, a sentence without its full stop; empty when nothing did.
-    QString errorText() const;
+    QString errorString() const;
     /// Whether the server still answers.
     bool isConnected() const;
 

@@ -119,6 +119,6 @@ bool PreviewCopy::createProgram(const PreviewProgram &program)
 
 bool PreviewCopy::fail(const QString &what, const SqlSession &session)
 {
-    m_error = QStringLiteral("%1: %2").arg(what, session.errorText());
+    m_error = QStringLiteral("%1: %2").arg(what, session.errorString());
     return false;
 }

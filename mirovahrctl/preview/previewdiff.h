@@ -34,7 +34,7 @@ public:
     /// False when that fails; errorString() then says why.
     bool read();
     const QVector<PreviewChange> &changes() const { return m_changes; }
-    QString errorString() const { return m_server.errorText(); }
+    QString errorString() const { return m_server.errorString(); }
 
 private:
     void compareByKey(const PreviewTable &table);

@@ -55,7 +55,7 @@ bool PreviewRun::run(const QSqlDatabase &copy, const PluginLog::Listener &log,
 {
     ForceFlag flag(copy);
     if (!flag.set(true)) {
-        m_error = flag.errorText();
+        m_error = flag.errorString();
         return false;
     }
     RunProgress seen(progress);

@@ -102,7 +102,7 @@ std::optional<PreviewRefusal> PreviewSchemaReader::read()
         takeNext();
     if (m_site.failed()) {
         refuse(ExitStatus::NoDatabase,
-               QStringLiteral("The site's database cannot be read: %1").arg(m_site.errorText()));
+               QStringLiteral("The site's database cannot be read: %1").arg(m_site.errorString()));
     }
     return m_refusal;
 }
@@ -329,6 +329,6 @@ void PreviewSchemaReader::refuseRead(const QString &what, const QString &missing
     QString sentence = QStringLiteral("This account is not allowed to read %1: it lacks %2")
                            .arg(what, missingRight);
     if (m_site.failed())
-        sentence += QStringLiteral(" (%1)").arg(m_site.errorText());
+        sentence += QStringLiteral(" (%1)").arg(m_site.errorString());
     refuse(ExitStatus::NoDatabase, sentence);
 }

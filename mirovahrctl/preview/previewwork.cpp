@@ -68,7 +68,7 @@ std::optional<PreviewRefusal> PreviewWork::copy(const DatabaseOptions &options)
     site.run(QLatin1String(kSnapshot));
     auto refused = copyFrom(site);
     if (!refused && !site.run(QLatin1String(kRelease)))
-        refused = refusal(site.errorText());
+        refused = refusal(site.errorString());
     return refused;
 }
 

@@ -20,7 +20,7 @@ std::unique_ptr<Database> openDatabase(const DatabaseOptions &options, DatabaseA
     }
     auto database = std::make_unique<Database>(options, QStringLiteral("mirovahrctl"));
     if (!database->open()) {
-        error = QStringLiteral("The database cannot be opened: %1").arg(database->errorText());
+        error = QStringLiteral("The database cannot be opened: %1").arg(database->errorString());
         return nullptr;
     }
     if (access == DatabaseAccess::ReadOnly && !refuseWriting(database->handle(), error))

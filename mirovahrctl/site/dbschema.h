@@ -34,9 +34,9 @@ struct DbKey {
 /// what an account has no right to.
 class DbSchema {
 public:
-    /// Reads all of it. False when that fails; errorText() then says why.
+    /// Reads all of it. False when that fails; errorString() then says why.
     bool load(const QSqlDatabase &db);
-    QString errorText() const { return m_error; }
+    QString errorString() const { return m_error; }
 
     bool hasTable(const QString &table) const { return m_columns.contains(table); }
     /// The columns of a table; empty when it is not there.

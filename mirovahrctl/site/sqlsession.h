@@ -8,7 +8,7 @@
 #include <functional>
 
 /// A connection on which every statement must succeed. After the first failure nothing is sent any
-/// more, queries have no rows, and errorText() says why.
+/// more, queries have no rows, and errorString() says why.
 ///
 /// Texts beyond U+FFFF arrive whole, unlike on a connection as Qt's driver opens it. NULL is a null
 /// text.
@@ -30,7 +30,7 @@ public:
     bool forEachRow(const QString &sql, const std::function<bool(const QStringList &)> &take);
 
     bool failed() const { return m_failed; }
-    QString errorText() const { return m_error; }
+    QString errorString() const { return m_error; }
     /// The server's number of the error; 0 when it was none of the server.
     int errorNumber() const { return m_errorNumber; }
 

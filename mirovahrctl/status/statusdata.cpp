@@ -40,7 +40,7 @@ std::optional<StatusData> StatusData::read(const QSqlDatabase &db, QString &erro
     ForceFlag flag(db);
     const auto forced = flag.isSet();
     if (!forced) {
-        error = QStringLiteral("The force flag cannot be read: %1").arg(flag.errorText());
+        error = QStringLiteral("The force flag cannot be read: %1").arg(flag.errorString());
         return std::nullopt;
     }
     StatusData data;

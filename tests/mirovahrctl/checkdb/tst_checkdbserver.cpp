@@ -269,7 +269,7 @@ void TestCheckDbServer::clustersThatRequirePrimaryKeysAreReported()
     m_db.run(change);
     const QSqlDatabase db = m_db.openPluginConnection();
     DbSchema schema;
-    QVERIFY2(schema.load(db), qPrintable(schema.errorText()));
+    QVERIFY2(schema.load(db), qPrintable(schema.errorString()));
     m_db.reset();
     FindingList report;
     DbAssessment check(db, report);
@@ -282,7 +282,7 @@ void TestCheckDbServer::anAccountThatCannotSeeAllColumnsOnlyNotesAMissingKey()
 {
     const QSqlDatabase db = m_db.openPluginConnection();
     DbSchema schema;
-    QVERIFY2(schema.load(db), qPrintable(schema.errorText()));
+    QVERIFY2(schema.load(db), qPrintable(schema.errorString()));
     for (const bool seesAll : {true, false}) {
         FindingList report;
         DbAssessment check(db, report);
