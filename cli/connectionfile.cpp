@@ -47,7 +47,7 @@ QString ConnectionFile::readPassword(QString &password, QString &warning) const
         return readPasswordFile(m_passwordFile, password);
     if (!m_password.isEmpty() && QFileInfo(m_path).permission(QFileDevice::ReadOther)) {
         warning = QStringLiteral("Every user of the machine can read '%1': the password in it is "
-                                 "not used. Take the right away (chmod o-r)")
+                                 "not used. Remove the permission (chmod o-r)")
                       .arg(m_path);
         return {};
     }
@@ -59,7 +59,7 @@ QString ConnectionFile::readKeys(QSettings &settings)
 {
     const QStringList strays = settings.childKeys();
     if (!strays.isEmpty()) {
-        return QStringLiteral("the key '%1' stands in no group; write [client] above it")
+        return QStringLiteral("the key '%1' belongs to no group; write [client] above it")
             .arg(strays.constFirst());
     }
     settings.beginGroup(QStringLiteral("client"));
@@ -98,7 +98,7 @@ QString ConnectionFile::take(const QString &key, const QVariant &value)
         std::find_if(std::begin(kTextKeys), std::end(kTextKeys),
                      [&key](const TextKey &known) { return key == QLatin1String(known.name); });
     if (found == std::end(kTextKeys))
-        return QStringLiteral("there is no key '%1' for a connection").arg(key);
+        return QStringLiteral("the key '%1' is unknown").arg(key);
     m_options.*found->option = text;
     return {};
 }

@@ -19,9 +19,9 @@ QCommandLineOption valueOption(const char *name, const QString &text, const char
 
 QString fileOptionText(const DatabaseSources &sources)
 {
-    QString text = QStringLiteral("A file that has these options in its group [client].");
+    QString text = QStringLiteral("A file with these options in its group [client].");
     if (!sources.file.isEmpty())
-        text += QStringLiteral(" Left out: %1, if it is there.").arg(sources.file);
+        text += QStringLiteral(" Default: %1, if it exists.").arg(sources.file);
     return text;
 }
 

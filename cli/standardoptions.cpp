@@ -7,9 +7,9 @@ namespace StandardOptions {
 void addTo(QCommandLineParser &parser)
 {
     parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                      QStringLiteral("Print this help, and end.")});
+                      QStringLiteral("Print this help and exit.")});
     parser.addOption({{QStringLiteral("v"), QStringLiteral("version")},
-                      QStringLiteral("Print the version, and end.")});
+                      QStringLiteral("Print the version and exit.")});
 }
 
 bool wantsHelp(const QCommandLineParser &parser, const QStringList &arguments)

@@ -33,7 +33,7 @@ QString overview()
     QStringList lines{
         QStringLiteral("Usage: mirovahrctl SUBCOMMAND [OPTION...] [ARGUMENT...]"),
         QString(),
-        QStringLiteral("The operator's side of MirovaHR, the plugin that brings an attendance "
+        QStringLiteral("The operator's tool for MirovaHR, the plugin that keeps an attendance "
                        "database in step"),
         QStringLiteral("with the export of an HR system."),
         QString(),
@@ -65,9 +65,8 @@ ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Cons
         console.startJson();
     return console.fail(
         ExitStatus::Usage,
-        name.isEmpty()
-            ? QStringLiteral("Name a subcommand; --help lists them")
-            : QStringLiteral("There is no subcommand '%1'; --help lists them").arg(name));
+        name.isEmpty() ? QStringLiteral("No subcommand given; --help lists them")
+                       : QStringLiteral("Unknown subcommand '%1'; --help lists them").arg(name));
 }
 
 ExitStatus runHelp(const QStringList &arguments, Console &console)
@@ -79,7 +78,7 @@ ExitStatus runHelp(const QStringList &arguments, Console &console)
     if (arguments.size() > 1) {
         return console.fail(
             ExitStatus::Usage,
-            QStringLiteral("'%1' is one argument too many for help").arg(arguments.at(1)));
+            QStringLiteral("Unexpected argument '%1' for help").arg(arguments.at(1)));
     }
     return runSubcommand(arguments.constFirst(), {QStringLiteral("--help")}, console);
 }
@@ -89,15 +88,17 @@ ExitStatus runHelp(const QStringList &arguments, Console &console)
 const QVector<Subcommand> &subcommands()
 {
     static const QVector<Subcommand> all{
-        {"check-config", "What the INI file puts in force, and what is wrong with it",
+        {"check-config", "Check the plugin's INI file, and show the settings in force",
          runCheckConfig},
-        {"check-file", "What the plugin would drop or misread of an HR export", runCheckFile},
-        {"check-db", "Whether the attendance database is what the plugin relies on", runCheckDb},
-        {"explain", "Why a person did not arrive, or arrived so", runExplain},
-        {"preview", "What a synchronisation would change, by doing it on a copy", runPreview},
-        {"gate", "Lets HR's file through to the plugin, or holds it back", runGate},
-        {"force", "Makes the plugin synchronise everybody at its next tick", runForce},
-        {"status", "What is known of the plugin's work, for people and for monitoring", runStatus},
+        {"check-file", "Check an HR export for what the plugin would drop or misread",
+         runCheckFile},
+        {"check-db", "Check that the attendance database is what the plugin relies on", runCheckDb},
+        {"explain", "Explain what the plugin makes of a person, step by step", runExplain},
+        {"preview", "Show what a synchronisation would change, by running it on a copy",
+         runPreview},
+        {"gate", "Publish HR's file for the plugin, or hold it back", runGate},
+        {"force", "Make the plugin synchronise everybody at its next tick", runForce},
+        {"status", "Show what is known of the plugin's work, for people and monitoring", runStatus},
     };
     return all;
 }

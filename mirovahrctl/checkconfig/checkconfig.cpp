@@ -8,27 +8,27 @@
 namespace {
 
 constexpr char kDescription[] =
-    "Reads the plugin's INI file exactly as the plugin does. Says for each key what will\n"
-    "be in force, and what is wrong. Needs no database, and changes nothing.";
+    "Reads the plugin's INI file exactly as the plugin does. Shows for each key what will\n"
+    "be in force, and reports what is wrong. Needs no database, and changes nothing.";
 
 QString verdict(ExitStatus status)
 {
-    return status == ExitStatus::Fine
-        ? QStringLiteral("Nothing is wrong with the configuration.")
-        : QStringLiteral("Somebody should look at the configuration.");
+    return status == ExitStatus::Fine ? QStringLiteral("Nothing is wrong with the configuration.")
+                                      : QStringLiteral("The configuration needs attention.");
 }
 
 ExitStatus report(ConfigAssessment &check, const QString &path, Report &report)
 {
     report.begin(QStringLiteral("check-config"), QStringLiteral("Configuration %1").arg(path));
     report.section(QStringLiteral("keys"), QStringLiteral("What is in force"));
-    report.sentence(QStringLiteral("The plugin reads the file when the attendance server loads it. "
-                                   "A change takes effect at the next start of the server."));
+    report.sentence(
+        QStringLiteral("The plugin reads the file once, when the attendance server loads the "
+                       "plugin. A change takes effect at the next start of the server."));
     report.table(check.keys());
 
     const QVector<Finding> findings = check.findings();
     if (!findings.isEmpty())
-        report.section(QStringLiteral("findings"), QStringLiteral("What to look at"));
+        report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
     for (const Finding &finding : findings)
         report.finding(finding);
     return report.conclude(report.findingsStatus(), verdict(report.findingsStatus()));
@@ -49,7 +49,7 @@ ExitStatus runCheckConfig(const QStringList &arguments, Console &console)
     const QFileInfo info(path);
     if (info.exists() && !(info.isFile() && info.isReadable())) {
         return console.fail(ExitStatus::Usage,
-                            QStringLiteral("'%1' is no file that can be read").arg(path));
+                            QStringLiteral("'%1' is not a readable file").arg(path));
     }
     Report output(line, console);
     if (const auto end = output.open())

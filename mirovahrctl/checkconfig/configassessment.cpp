@@ -42,14 +42,14 @@ QString meantKey(const QString &key)
 QString unknownKeyAdvice(const QString &key)
 {
     if (key.section(QLatin1Char('/'), -1).startsWith(QLatin1Char('#')))
-        return QStringLiteral("Comments begin with a semicolon, not with #.");
+        return QStringLiteral("Begin comments with a semicolon, not with #.");
     const QString meant = meantKey(key);
     if (meant.isEmpty()) {
-        return QStringLiteral("Remove the line, or see the sample MirovaHR.ini for the keys that "
-                              "there are.");
+        return QStringLiteral(
+            "Remove the line, or see the sample MirovaHR.ini for the known keys.");
     }
-    return QStringLiteral("Perhaps %1 is meant: letter case counts, and it stands before the first "
-                          "group.")
+    return QStringLiteral("Perhaps %1 is meant: keys are case-sensitive, and this one belongs "
+                          "before the first group.")
         .arg(meant);
 }
 
@@ -98,21 +98,21 @@ void ConfigAssessment::checkFile()
 {
     if (!QFileInfo::exists(m_path)) {
         add(Severity::Warning, "file-missing", {},
-            QStringLiteral("There is no such file: every key has its default."),
+            QStringLiteral("The file does not exist: every key has its default."),
             QStringLiteral("Start from the sample MirovaHR.ini that comes with the plugin."));
         return;
     }
     if (m_settings->status() == QSettings::FormatError) {
         add(Severity::Error, "file-format", {},
             QStringLiteral("The file has lines that are neither key=value, nor [group], nor a "
-                           "comment; they are left out."),
+                           "comment; they are ignored."),
             QStringLiteral("Compare the file with the sample MirovaHR.ini."));
     }
     if (QFileInfo(m_path).permission(QFileDevice::WriteOther)) {
         add(Severity::Error, "file-world-writable", {},
             QStringLiteral("Every user of the machine can change this file, and with syncCommand "
                            "run programs as the attendance server."),
-            QStringLiteral("Take the right away: chmod o-w '%1'.").arg(m_path));
+            QStringLiteral("Remove the permission: chmod o-w '%1'.").arg(m_path));
     }
 }
 
@@ -123,8 +123,8 @@ void ConfigAssessment::checkKeys()
         checkLine(line);
         if (seen.contains(line.key)) {
             add(Severity::Warning, "key-twice", line.key,
-                QStringLiteral("The key stands in the file more than once; the last line counts."),
-                QStringLiteral("Leave one of the lines."));
+                QStringLiteral("The key occurs more than once; the last line counts."),
+                QStringLiteral("Keep one of the lines."));
         }
         seen << line.key;
     }
@@ -153,11 +153,13 @@ void ConfigAssessment::checkFlag(const QString &key)
         return;
     if (m_settings->value(key).toBool()) {
         add(Severity::Warning, "flag-reads-as-true", key,
-            QStringLiteral("%1 reads as true, as everything does but 0, false and an empty value.")
+            QStringLiteral(
+                "%1 is read as true, like everything except 0, false and an empty value.")
                 .arg(Wording::quoted(text)),
             QStringLiteral("Write true or false."));
     } else {
-        add(Severity::Warning, "flag-empty", key, QStringLiteral("An empty value reads as false."),
+        add(Severity::Warning, "flag-empty", key,
+            QStringLiteral("An empty value is read as false."),
             QStringLiteral("Write true or false."));
     }
 }
@@ -171,12 +173,12 @@ void ConfigAssessment::checkNumber(const QString &key)
     const quint64 number = value.toULongLong(&isNumber);
     if (!isNumber) {
         add(Severity::Error, "number-reads-as-0", key,
-            QStringLiteral("%1 is no whole number and reads as 0.")
+            QStringLiteral("%1 is not a whole number and is read as 0.")
                 .arg(Wording::quoted(written(key))),
             QStringLiteral("Write digits only, without sign, unit, point or comma."));
     } else if (number > std::numeric_limits<quint32>::max()) {
         add(Severity::Error, "number-wraps", key,
-            QStringLiteral("%1 is too large and reads as %2.").arg(number).arg(value.toUInt()),
+            QStringLiteral("%1 is too large and is read as %2.").arg(number).arg(value.toUInt()),
             QStringLiteral("Write a number up to %1.").arg(std::numeric_limits<quint32>::max()));
     }
 }
@@ -186,7 +188,7 @@ void ConfigAssessment::checkText(const QString &key)
     if (!isList(key))
         return;
     add(Severity::Error, "unquoted-comma", key,
-        QStringLiteral("The text has a comma outside quotation marks and reads as empty."),
+        QStringLiteral("The text has a comma outside quotation marks and is read as empty."),
         QStringLiteral("Put the whole value in quotation marks."));
 }
 
@@ -196,13 +198,12 @@ void ConfigAssessment::checkOperation()
     if (!m_config.enabled) {
         add(Severity::Warning, "disabled", enabled,
             QStringLiteral("The plugin is switched off: it does nothing at all."),
-            QStringLiteral("Write enabled=true once it shall work."));
+            QStringLiteral("Write enabled=true to switch it on."));
     }
     if (m_config.testMode) {
         add(Severity::Warning, "test-mode", QStringLiteral("testMode"),
             QStringLiteral("Test mode is on: people are neither created nor updated. Branches, "
-                           "calendars, balances, supervisors and terminals are written all the "
-                           "same."),
+                           "calendars, balances, supervisors and terminals are still written."),
             QStringLiteral("Write testMode=false for normal work."));
     }
     if (m_config.departmentId == 0) {
@@ -218,18 +219,18 @@ void ConfigAssessment::checkPeriods()
     const quint32 tick = Schedule::tickPeriod(m_config.tickMilliseconds);
     if (quint64(seconds) * 1000 != m_config.tickMilliseconds) {
         add(Severity::Error, "tick-overflows", key,
-            QStringLiteral("%1 seconds are more milliseconds than 32 bits hold: a tick comes "
-                           "every %2 ms.")
+            QStringLiteral(
+                "%1 seconds exceed 32 bits of milliseconds: the plugin ticks every %2 ms.")
                 .arg(seconds)
                 .arg(tick),
             QStringLiteral("Write at most 2147483."));
     } else if (tick != m_config.tickMilliseconds) {
         add(Severity::Warning, "tick-too-short", key,
-            QStringLiteral("A tick comes every second: the period is never shorter."),
+            QStringLiteral("The plugin ticks every second: the period is never shorter."),
             QStringLiteral("Write the seconds between two ticks, 60 for a minute."));
     } else if (quint32(Schedule::timerInterval(tick)) != tick) {
         add(Severity::Warning, "tick-too-long", key,
-            QStringLiteral("The period is longer than a timer takes: a tick comes every %1 ms.")
+            QStringLiteral("The period exceeds the limit of a timer: the plugin ticks every %1 ms.")
                 .arg(Schedule::timerInterval(tick)),
             QStringLiteral("Write at most 2147483."));
     }

@@ -51,19 +51,19 @@ void ConfigAssessment::checkImportFile()
     const QFileInfo info(path);
     if (info.isRelative()) {
         add(Severity::Warning, "import-file-relative", key,
-            QStringLiteral("The path is relative: where it leads depends on the folder in which "
-                           "the attendance server was started."),
+            QStringLiteral("The path is relative: what it names depends on the folder in which the "
+                           "attendance server was started."),
             QStringLiteral("Write a path that begins with /."));
         return;
     }
     if (info.exists() && !info.isFile()) {
         add(Severity::Error, "import-file-no-file", key,
-            QStringLiteral("%1 is no regular file: nothing is ever read.").arg(path),
+            QStringLiteral("%1 is not a regular file: the plugin never reads it.").arg(path),
             QStringLiteral("Write the path of the export file itself."));
     } else if (info.exists() && info.permission(QFileDevice::WriteOther)) {
         add(Severity::Error, "import-file-world-writable", key,
-            QStringLiteral("Every user of the machine can change %1. Its texts go into SQL "
-                           "statements as they are.")
+            QStringLiteral("Every user of the machine can change %1. Its texts enter SQL "
+                           "statements unescaped.")
                 .arg(path),
             QStringLiteral("Let only HR's transfer write to it."));
     }
@@ -76,7 +76,8 @@ void ConfigAssessment::checkImportFolder(const QString &path)
     const QString folder = QFileInfo(path).absolutePath();
     if (!QFileInfo(folder).isDir()) {
         add(Severity::Warning, "import-folder-missing", key,
-            QStringLiteral("There is no folder %1, so there is never an export.").arg(folder),
+            QStringLiteral("The folder %1 does not exist, so there is never an export.")
+                .arg(folder),
             QStringLiteral("Create the folder, or correct the path."));
         return;
     }
@@ -84,8 +85,8 @@ void ConfigAssessment::checkImportFolder(const QString &path)
     if (!open.isEmpty()) {
         add(Severity::Error, "import-folder-world-writable", key,
             QStringLiteral("The export is read from %1, and every user of the machine can put an "
-                           "export of their own there: %2 is open to all. Its texts go into SQL "
-                           "statements as they are.")
+                           "export of their own there: %2 is writable for everybody. Its texts "
+                           "enter SQL statements unescaped.")
                 .arg(path, open),
             QStringLiteral("Use a folder that only HR's transfer and the attendance server can "
                            "write to, such as /var/lib/yav/hr."));
@@ -99,8 +100,8 @@ void ConfigAssessment::checkSyncCommand()
     if (m_config.syncCommand.isEmpty()) {
         if (m_config.syncCommandRun != 0) {
             add(Severity::Warning, "sync-command-missing", key,
-                QStringLiteral("A command shall be run, but there is none: each time the plugin "
-                               "logs a warning."),
+                QStringLiteral("syncCommandRun demands a command, but there is none: the plugin "
+                               "logs a warning each time."),
                 QStringLiteral("Write the command, or syncCommandRun=0."));
         }
         return;
@@ -114,7 +115,7 @@ void ConfigAssessment::checkSyncCommand()
     const QString program = QProcess::splitCommand(m_config.syncCommand).value(0);
     if (!isExecutable(program)) {
         add(Severity::Error, "sync-command-not-found", key,
-            QStringLiteral("There is no program '%1' that can be run.").arg(program),
+            QStringLiteral("There is no executable program '%1'.").arg(program),
             QStringLiteral("Write the program with its full path. No shell reads the line."));
     }
 }

@@ -20,8 +20,7 @@ void ConfigAssessment::checkMessages()
     const QStringList keys = Configuration::messageKeys(*m_settings);
     if (keys.isEmpty()) {
         add(Severity::Note, "no-messages", QStringLiteral("MES"),
-            QStringLiteral("No register state is a relationship state: nobody has one running."),
-            {});
+            QStringLiteral("The group defines no relationship state: nobody gets one."), {});
     }
     for (const QString &key : keys) {
         checkMessageKey(key);
@@ -38,7 +37,7 @@ void ConfigAssessment::checkMessageKey(const QString &key)
     const unsigned short code = Configuration::messageCode(key);
     if (!isNumber) {
         add(Severity::Error, "mes-key-no-number", settingsKey(key),
-            QStringLiteral("The key is no register state code; it counts as code 0."),
+            QStringLiteral("The key is not a register state code; it counts as code 0."),
             QStringLiteral("Write the code of HR as the key, in digits."));
     } else if (number != code) {
         add(Severity::Error, "mes-key-wraps", settingsKey(key),
@@ -54,9 +53,9 @@ void ConfigAssessment::checkMessageText(const QString &key)
     if (!SqlHazards::breaksStatement(text))
         return;
     add(Severity::Error, "mes-text-breaks-sql", settingsKey(key),
-        QStringLiteral("The text has an apostrophe, a backslash, a digit behind a percent sign or "
-                       "a character above U+FFFF. It goes into the statement as it is: nobody in "
-                       "this state can be written."),
+        QStringLiteral("The text contains an apostrophe, a backslash, a percent sign followed by a "
+                       "digit, or a character above U+FFFF. It enters the SQL statement unescaped: "
+                       "nobody in this state can be written."),
         QStringLiteral("Write the text without these characters."));
 }
 
@@ -73,6 +72,6 @@ void ConfigAssessment::checkMessageCollisions(const QStringList &keys)
         add(Severity::Error, "mes-keys-collide", settingsKey(key),
             QStringLiteral("%1 and %2 are the same code %3; the text of %2 is in force.")
                 .arg(settingsKey(key), settingsKey(winner), QString::number(code)),
-            QStringLiteral("Leave one of the two lines."));
+            QStringLiteral("Keep one of the two lines."));
     }
 }

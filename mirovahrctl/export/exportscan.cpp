@@ -27,17 +27,17 @@ bool isSameRelationship(const RepeatedPids::First &first, const MirovaRonRecord 
 Finding &addDuplicate(CheckedLine &line, const RepeatedPids::First &first)
 {
     return line.add(Severity::Warning, "duplicate-relationship",
-                    QStringLiteral("Line %1 is about the same employment relationship. The plugin "
-                                   "takes one after the other, and the last prevails.")
+                    QStringLiteral("Line %1 has the same employment relationship. The plugin "
+                                   "processes both, and the last line wins.")
                         .arg(first.line),
-                    QStringLiteral("Each relationship stands in the export once."));
+                    QStringLiteral("Export each relationship once."));
 }
 
 Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 pid)
 {
     return line.add(Severity::Error, "pid-clash",
-                    QStringLiteral("The person of line %1, %2.%3, has the same number %4: the "
-                                   "plugin takes both for one person, and the last line prevails.")
+                    QStringLiteral("The person in line %1, %2.%3, has the same number %4: the "
+                                   "plugin treats both as one person, and the last line wins.")
                         .arg(first.line)
                         .arg(first.osobniCislo)
                         .arg(first.poradoveCisloPP)
@@ -57,7 +57,7 @@ ExportScan::ExportScan(QFile &file, const ColumnWidths &widths)
 
 bool ExportScan::run(const LineListener &listener)
 {
-    return notePids() && rewind() && checkLines(listener) && lookAtEnd();
+    return notePids() && rewind() && checkLines(listener) && checkEnd();
 }
 
 QVector<Finding> ExportScan::fileFindings() const
@@ -65,21 +65,21 @@ QVector<Finding> ExportScan::fileFindings() const
     CheckedLine file;
     if (m_counts.records == 0) {
         file.add(Severity::Warning, "no-records",
-                 QStringLiteral("There is nobody in the file: the plugin would do nothing."),
+                 QStringLiteral("The file contains no people: the plugin would do nothing."),
                  QStringLiteral("Check whether the export went wrong."));
     }
     if (!m_endsWithLineFeed) {
         file.add(Severity::Warning, "no-final-line-feed",
-                 QStringLiteral("The last line has no line feed at its end. The plugin reads it as "
-                                "it stands, but the file may have been cut off."),
-                 QStringLiteral("Check whether the export is whole."));
+                 QStringLiteral("The last line does not end with a line feed. The plugin reads it, "
+                                "but the file may be truncated."),
+                 QStringLiteral("Check whether the export is complete."));
     }
     if (!m_pids.isComplete()) {
-        file.add(Severity::Warning, "repetitions-not-all-found",
-                 QStringLiteral("So many people stand in the file more than once that not all of "
-                                "them were compared."),
-                 QStringLiteral("Check whether the export was written several times into one "
-                                "file."));
+        file.add(
+            Severity::Warning, "repetitions-not-all-found",
+            QStringLiteral("Too many people occur more than once: not all of them were compared."),
+            QStringLiteral("Check whether the export was written several times into one "
+                           "file."));
     }
     return file.findings;
 }
@@ -89,7 +89,7 @@ bool ExportScan::notePids()
     BoundedLineReader reader(m_file);
     while (reader.next()) {
         notePid(reader);
-        tellProgress(m_file.pos());
+        reportProgress(m_file.pos());
     }
     return !reader.hasFailed() || fail(reader.errorString());
 }
@@ -124,7 +124,7 @@ bool ExportScan::checkLines(const LineListener &listener)
         CheckedLine line = m_lineCheck.check(reader);
         checkRepetition(line);
         report(line, listener);
-        tellProgress(m_size + m_file.pos());
+        reportProgress(m_size + m_file.pos());
     }
     if (reader.hasFailed())
         return fail(reader.errorString());
@@ -164,13 +164,13 @@ void ExportScan::report(const CheckedLine &line, const LineListener &listener)
     listener(line);
 }
 
-void ExportScan::tellProgress(qint64 done) const
+void ExportScan::reportProgress(qint64 done) const
 {
     if (m_progress)
         m_progress(done, 2 * m_size);
 }
 
-bool ExportScan::lookAtEnd()
+bool ExportScan::checkEnd()
 {
     char last = '\n';
     m_endsWithLineFeed =

@@ -47,8 +47,8 @@ private:
     void reportTooLong(qint64 from, qint64 to, const LineListener &listener);
     void checkRepetition(CheckedLine &line);
     void report(const CheckedLine &line, const LineListener &listener);
-    void tellProgress(qint64 done) const;
-    bool lookAtEnd();
+    void reportProgress(qint64 done) const;
+    bool checkEnd();
     bool fail(const QString &reason);
 
     QFile &m_file;

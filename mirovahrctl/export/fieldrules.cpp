@@ -23,12 +23,12 @@ QString consequence(int field)
     case DatumVystupu:
         return QStringLiteral("the person counts as not leaving.");
     case Stredisko:
-        return QStringLiteral("the person is put into no branch.");
+        return QStringLiteral("the person is assigned to no branch.");
     case Kalendar:
-        return QStringLiteral("the person is put into no calendar group.");
+        return QStringLiteral("the person is assigned to no calendar group.");
     case KalendarPlatnostOd:
-        return QStringLiteral("the calendar has no beginning, and all attendance of the person is "
-                              "calculated anew.");
+        return QStringLiteral(
+            "the calendar has no start date, and all attendance of the person is recalculated.");
     case TypPracovnihoPomeru:
         return QStringLiteral("the person has no employment type and no payroll export.");
     case StavPracovnihoPomeru:
@@ -46,17 +46,17 @@ QString dateAdvice(const QString &text)
 {
     const QDate day = QDate::fromString(text.trimmed().left(10), Qt::ISODate);
     if (day.isValid()) {
-        return QStringLiteral("A date has a time behind it, as in %1 00:00:00.000.")
+        return QStringLiteral("Write the date with a time, as in %1 00:00:00.000.")
             .arg(day.toString(Qt::ISODate));
     }
-    return QStringLiteral("Dates look like 2021-03-31 00:00:00.000.");
+    return QStringLiteral("Write dates as in 2021-03-31 00:00:00.000.");
 }
 
 QString balanceAdvice(const QString &text)
 {
     return text.contains(QLatin1Char(','))
-        ? QStringLiteral("The balance is written with a point, as in 12.5.")
-        : QStringLiteral("The balance is a number of days, as in 12.5.");
+        ? QStringLiteral("Write the balance with a decimal point, as in 12.5.")
+        : QStringLiteral("Write the balance as a number of days, as in 12.5.");
 }
 
 /// Whether the database gives the day back as it was written: the plugin reads Unix times as
@@ -103,21 +103,20 @@ void FieldRules::checkIdentity()
         add(OsobniCislo, Severity::Error, "no-personal-number",
             notANumber(OsobniCislo)
                 + QStringLiteral(" Without a personal number the plugin drops the line."),
-            QStringLiteral("The first field is the personal number, in digits, above 0."));
+            QStringLiteral("Write the personal number into the first field: digits, above 0."));
     }
     if (m_record.poradoveCisloPP == 0) {
         add(PoradoveCisloPP, Severity::Error, "no-relationship-number",
             notANumber(PoradoveCisloPP)
                 + QStringLiteral(" Without the number of the employment relationship the plugin "
                                  "drops the line."),
-            QStringLiteral("The second field is the number of the employment "
-                           "relationship, in digits, above 0."));
+            QStringLiteral("Write the number of the employment relationship into the second field: "
+                           "digits, above 0."));
     }
     if (m_record.jmeno.isEmpty() && m_record.prijmeni.isEmpty()) {
         add(Prijmeni, Severity::Error, "no-name",
-            QStringLiteral("There is neither a first name nor a surname. The plugin drops the "
-                           "line."),
-            QStringLiteral("One of the two is needed."));
+            QStringLiteral("The line has neither a first name nor a surname. The plugin drops it."),
+            QStringLiteral("Provide at least one of the two."));
     }
 }
 
@@ -126,8 +125,9 @@ void FieldRules::checkPid()
     if (!isUsable(m_record) || m_record.getPid() != 0)
         return;
     add(OsobniCislo, Severity::Error, "pid-zero",
-        QStringLiteral("Personal number and relationship make one number, %1%2, which is above "
-                       "4294967295: the person gets the number 0, as everybody of this kind does.")
+        QStringLiteral(
+            "Personal number and relationship number form one number, %1%2, which exceeds "
+            "4294967295: the person gets the number 0, like everybody with such a number.")
             .arg(QString::number(m_record.osobniCislo), QString::number(m_record.poradoveCisloPP)),
         QStringLiteral("The person needs a shorter personal number."));
 }
@@ -146,31 +146,32 @@ void FieldRules::checkText(int field, const char *column)
     const QString text = this->text(field);
     if (text.contains(QLatin1Char('\''))) {
         add(field, Severity::Error, "quote-in-text",
-            QStringLiteral("The text %1 has an apostrophe. It goes into the statement as it is, "
-                           "and the statement fails, or does something else: the person is not "
-                           "written.")
+            QStringLiteral(
+                "The text %1 contains an apostrophe. It enters the SQL statement unescaped, and "
+                "the statement fails or does something else: the person is not written.")
                 .arg(Wording::quoted(text)),
             QStringLiteral("Write the text without ', or with the character \u2019."));
     }
     if (text.contains(QLatin1Char('\\'))) {
         add(field, Severity::Error, "backslash-in-text",
-            QStringLiteral("The text %1 has a backslash. It goes into the statement as it is: the "
-                           "text arrives changed, or the statement fails.")
+            QStringLiteral("The text %1 contains a backslash. It enters the SQL statement "
+                           "unescaped: the text arrives changed, or the statement fails.")
                 .arg(Wording::quoted(text)),
             QStringLiteral("Write the text without \\."));
     }
     if (SqlHazards::hasPlaceholder(text)) {
         add(field, Severity::Error, "placeholder-in-text",
-            QStringLiteral("The text %1 has a digit behind a percent sign. The plugin puts another "
-                           "value there: wrong data is written, or the statement fails.")
+            QStringLiteral(
+                "The text %1 contains a percent sign followed by a digit. The plugin replaces the "
+                "two with another value: wrong data is written, or the statement fails.")
                 .arg(Wording::quoted(text)),
             QStringLiteral("Write the text without %."));
     }
     if (SqlHazards::hasWideCharacter(text)) {
         add(field, Severity::Error, "wide-character",
-            QStringLiteral("The text %1 has a character above U+FFFF, such as an emoji. The "
+            QStringLiteral("The text %1 contains a character above U+FFFF, such as an emoji. The "
                            "connection to the database cannot carry it: the person is not written, "
-                           "or the text is cut there.")
+                           "or the text is truncated there.")
                 .arg(Wording::quoted(text)),
             QStringLiteral("Write the text without it."));
     }
@@ -186,8 +187,8 @@ void FieldRules::checkWidth(int field, const char *column)
     if (length <= *width)
         return;
     add(field, Severity::Error, "text-too-long",
-        QStringLiteral("The text has %1 characters; the database keeps %2. Depending on its mode "
-                       "it cuts the text or refuses the person.")
+        QStringLiteral("The text has %1 characters, but the column holds %2. Depending on its SQL "
+                       "mode, the database truncates the text or rejects the person.")
             .arg(QString::number(length), QString::number(*width)),
         QStringLiteral("Shorten the text to %1 characters.").arg(*width));
 }
@@ -214,20 +215,21 @@ void FieldRules::checkDate(int field, const QDate &date)
     const QString text = this->text(field);
     if (text.isEmpty()) {
         add(field, Severity::Warning, "empty-date",
-            QStringLiteral("There is no date: ") + consequence(field),
-            QStringLiteral("The date is needed."));
+            QStringLiteral("The date is missing: ") + consequence(field),
+            QStringLiteral("Provide the date."));
     } else if (!date.isValid()) {
         add(field, Severity::Warning, "bad-date",
-            QStringLiteral("%1 is no date to the plugin: %2")
+            QStringLiteral("The plugin cannot read %1 as a date: %2")
                 .arg(Wording::quoted(text), consequence(field)),
             dateAdvice(text));
     } else if (field != KalendarPlatnostOd && !isKept(date)) {
         add(field, Severity::Warning, "date-out-of-range",
-            QStringLiteral("The plugin keeps days from 1970 to 2106; %1 comes back from the "
+            QStringLiteral("The plugin can store days from 1970 to 2106; %1 comes back from the "
                            "database as another day.")
                 .arg(date.toString(Qt::ISODate)),
-            field == DatumVystupu ? QStringLiteral("Who does not leave has an empty leaving date.")
-                                  : QStringLiteral("The date cannot be right."));
+            field == DatumVystupu
+                ? QStringLiteral("Leave the leaving date empty for a person who does not leave.")
+                : QStringLiteral("Correct the date."));
     }
 }
 
@@ -238,7 +240,7 @@ void FieldRules::checkNumber(int field)
     if (isNumber)
         return;
     add(field, Severity::Warning, m_parts.at(field).isEmpty() ? "empty-number" : "bad-number",
-        QStringLiteral("%1 It reads as 0: %2").arg(notANumber(field), consequence(field)),
+        QStringLiteral("%1 It is read as 0: %2").arg(notANumber(field), consequence(field)),
         QStringLiteral("Write digits only, up to 4294967295."));
 }
 
@@ -248,9 +250,9 @@ void FieldRules::checkCode(int field, ushort code)
     if (toNumber(m_parts.at(field)) == code)
         return;
     add(field, Severity::Warning, "code-wraps",
-        QStringLiteral("Codes go up to 65535; %1 reads as %2.")
+        QStringLiteral("Codes go up to 65535; %1 is read as %2.")
             .arg(Wording::quoted(text(field)), QString::number(code)),
-        QStringLiteral("The code cannot be right."));
+        QStringLiteral("Correct the code."));
 }
 
 void FieldRules::checkBalance()
@@ -261,14 +263,14 @@ void FieldRules::checkBalance()
     qint32 hundredths = 0;
     if (!isNumber) {
         add(DovolenaZustatek, Severity::Warning, text.isEmpty() ? "empty-number" : "bad-number",
-            QStringLiteral("%1 It reads as 0: %2")
+            QStringLiteral("%1 It is read as 0: %2")
                 .arg(notANumber(DovolenaZustatek), consequence(DovolenaZustatek)),
             balanceAdvice(text));
     } else if (!VacationBalance::correction(m_record.dovolenaZustatek, 0, hundredths)) {
         add(DovolenaZustatek, Severity::Warning, "balance-out-of-range",
-            QStringLiteral("%1 days are no balance that can be kept: the balance is not changed.")
+            QStringLiteral("A balance of %1 days cannot be stored: the balance is not changed.")
                 .arg(Wording::quoted(text)),
-            QStringLiteral("The balance cannot be right."));
+            QStringLiteral("Correct the balance."));
     }
 }
 
@@ -285,8 +287,9 @@ QString FieldRules::notANumber(int field) const
     toNumber(text, &isNumber);
     if (text.isEmpty())
         return QStringLiteral("The field is empty.");
-    return isNumber ? QStringLiteral("The number is 0.")
-                    : QStringLiteral("%1 is no number to the plugin.").arg(Wording::quoted(text));
+    return isNumber
+        ? QStringLiteral("The number is 0.")
+        : QStringLiteral("The plugin cannot read %1 as a number.").arg(Wording::quoted(text));
 }
 
 void FieldRules::add(int field, Severity severity, const char *rule, const QString &message,

@@ -40,19 +40,18 @@ void checkBytes(const QString &text, CheckedLine &line)
 {
     if (line.number == 1 && isUtf16(line.raw)) {
         line.add(Severity::Error, "utf-16",
-                 QStringLiteral("The file is written in UTF-16; the plugin reads UTF-8 only."),
+                 QStringLiteral("The file is encoded in UTF-16; the plugin reads UTF-8 only."),
                  QStringLiteral("Save the export as UTF-8."));
     }
     if (line.raw.startsWith(kByteOrderMark)) {
         line.add(Severity::Note, "byte-order-mark",
-                 QStringLiteral("The line begins with a byte order mark, which the plugin passes "
-                                "over."),
+                 QStringLiteral("The line begins with a byte order mark, which the plugin skips."),
                  QStringLiteral("Save the export as UTF-8 without a byte order mark."));
     }
     if (line.raw.contains('\0')) {
         line.add(Severity::Error, "nul-byte",
-                 QStringLiteral("The line has a NUL byte; nothing behind it is read."),
-                 QStringLiteral("The export is damaged, or not written in UTF-8."));
+                 QStringLiteral("The line contains a NUL byte; the plugin reads nothing after it."),
+                 QStringLiteral("The export is damaged, or not encoded in UTF-8."));
     }
     if (isDamaged(text, line.raw)) {
         line.add(Severity::Warning, "not-utf8",
@@ -66,12 +65,12 @@ QString fieldCountAdvice(const ExportLine::Parts &parts, int expected)
     const QStringRef &text = parts.constFirst();
     if (parts.size() == 1
         && (text.count(QLatin1Char(';')) > 1 || text.count(QLatin1Char('\t')) > 1))
-        return QStringLiteral("Fields are separated by the character |, nothing else.");
+        return QStringLiteral("Separate fields with the character |, nothing else.");
     if (parts.size() == expected + 1 && parts.constLast().isEmpty())
-        return QStringLiteral("There must be no | behind the last field.");
+        return QStringLiteral("There must be no | after the last field.");
     if (parts.size() > expected)
         return QStringLiteral("No text may contain the character |.");
-    return QStringLiteral("Empty fields must be there, too, each with its |.");
+    return QStringLiteral("Write empty fields too, each with its |.");
 }
 
 bool isHeader(const ExportLine::Parts &parts, const QStringList &fieldNames)
@@ -121,7 +120,7 @@ CheckedLine LineCheck::tooLong(qint64 number)
     CheckedLine line;
     line.number = number;
     line.add(Severity::Error, "line-too-long",
-             QStringLiteral("The line is longer than %1 bytes; the plugin passes over it.")
+             QStringLiteral("The line is longer than %1 bytes; the plugin skips it.")
                  .arg(BoundedLineReader::kLongestLine),
              QStringLiteral("The export is damaged; perhaps line feeds are missing."))
         .dropped = true;
@@ -155,9 +154,9 @@ void LineCheck::checkParts(const ExportLine::Parts &parts, CheckedLine &line) co
         line.record = record;
     if (!line.record && isHeader(parts, m_fieldNames)) {
         line.add(Severity::Error, "header-line",
-                 QStringLiteral("This is a line of field names; the plugin takes it for a person "
-                                "without a number."),
-                 QStringLiteral("The export has no header."));
+                 QStringLiteral(
+                     "This is a header line; the plugin reads it as a person without a number."),
+                 QStringLiteral("Export without a header."));
         return;
     }
     FieldRules(parts, record, m_widths, line).check();

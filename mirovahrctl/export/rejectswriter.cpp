@@ -15,10 +15,10 @@ RejectsWriter::RejectsWriter(QIODevice &device, const QString &exportName)
 
 void RejectsWriter::begin()
 {
-    comment(QStringLiteral("Lines of the export %1 that do not arrive in the attendance system as "
-                           "they should.")
+    comment(QStringLiteral("Lines of the export %1 with errors: the attendance system drops them, "
+                           "or cannot store them correctly.")
                 .arg(m_exportName));
-    comment(QStringLiteral("Checked on %1. The reasons stand above each line.")
+    comment(QStringLiteral("Checked on %1. Each line follows its reasons.")
                 .arg(Moment::text(QDateTime::currentDateTime())));
 }
 

@@ -17,10 +17,10 @@
 namespace {
 
 constexpr char kDescription[] =
-    "Sets the flag in the attendance database that makes the plugin's next tick\n"
-    "synchronise, and with it every person of the export, whether the line has changed or\n"
-    "not. The plugin takes the flag back afterwards. Needs an account that may write to\n"
-    "the table vars, such as the plugin's.";
+    "Sets the flag in the attendance database that makes the plugin synchronise at its next\n"
+    "tick, and write every person of the export, whether the line has changed or not. The\n"
+    "plugin clears the flag afterwards. Needs an account that may write to the table vars,\n"
+    "such as the plugin's.";
 
 class ForceRun {
 public:
@@ -72,16 +72,16 @@ void ForceRun::reportFlag(bool wasSet, bool isSet)
     m_report.fact(QStringLiteral("before"), QStringLiteral("Set before"), wasSet);
     m_report.fact(QStringLiteral("now"), QStringLiteral("Set now"), isSet);
     if (m_on && wasSet) {
-        m_report.sentence(QStringLiteral("The flag was set already: the plugin has not yet come to "
-                                         "it, or is just synchronising."));
+        m_report.sentence(QStringLiteral("The flag was already set: the plugin has not acted on it "
+                                         "yet, or is synchronising now."));
     }
     if (m_on != isSet) {
         m_report.finding(makeFinding(
             Severity::Warning, "changed-meanwhile",
-            m_on ? QStringLiteral("The flag was written and is gone again: a synchronisation that "
-                                  "had begun before has just ended and taken it back.")
-                 : QStringLiteral("The flag was taken back and is set again: somebody else has "
-                                  "just set it."),
+            m_on ? QStringLiteral("The flag was set and is cleared again: a synchronisation that "
+                                  "was already running has just ended and cleared it.")
+                 : QStringLiteral(
+                     "The flag was cleared and is set again: somebody else has just set it."),
             QStringLiteral("Try again.")));
     }
 }
@@ -101,8 +101,8 @@ void ForceRun::reportPlugin()
     const bool isHere = QFileInfo::exists(path);
     if (!isHere) {
         m_report.sentence(
-            QStringLiteral("There is no file %1 here: what follows holds for a plugin "
-                           "with its defaults.")
+            QStringLiteral(
+                "There is no file %1 here: the following holds for a plugin with default settings.")
                 .arg(path));
     }
     const int seconds =
@@ -113,16 +113,16 @@ void ForceRun::reportPlugin()
                        "is not busy.")
             .arg(Wording::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"))));
     if (!config.enabled) {
-        m_report.finding(makeFinding(
-            Severity::Warning, "disabled",
-            QStringLiteral("The configuration says that the plugin is disabled: it does not tick."),
-            QStringLiteral("Set enabled to 1 and start the attendance server again.")));
+        m_report.finding(
+            makeFinding(Severity::Warning, "disabled",
+                        QStringLiteral("The configuration disables the plugin: it does not tick."),
+                        QStringLiteral("Set enabled to 1 and restart the attendance server.")));
     }
     if (config.testMode) {
-        m_report.finding(makeFinding(
-            Severity::Warning, "test-mode",
-            QStringLiteral("Test mode is on: people are only logged, not written."),
-            QStringLiteral("Set testMode to 0 and start the attendance server again.")));
+        m_report.finding(
+            makeFinding(Severity::Warning, "test-mode",
+                        QStringLiteral("Test mode is on: people are only logged, not written."),
+                        QStringLiteral("Set testMode to 0 and restart the attendance server.")));
     }
     if (isHere)
         reportExport(config);
@@ -132,12 +132,12 @@ void ForceRun::reportExport(const Configuration &config)
 {
     const QString path = ImportFile::path(config.importFile);
     if (config.runsCommand(true)) {
-        m_report.sentence(QStringLiteral("It runs the export command first."));
+        m_report.sentence(QStringLiteral("The plugin runs the export command first."));
     } else if (!QFileInfo(path).isFile()) {
         m_report.finding(makeFinding(
             Severity::Warning, "no-export",
-            QStringLiteral("There is no export %1 now. Unless HR leaves one before that tick, "
-                           "nothing is synchronised, and the flag is taken back all the same.")
+            QStringLiteral("There is no export %1 now. Unless HR delivers one before that tick, "
+                           "nothing is synchronised, and the flag is cleared even so.")
                 .arg(path),
             QStringLiteral("Put the export there and set the flag again.")));
     }
@@ -159,7 +159,7 @@ QString ForceRun::verdict(bool isSet) const
 ExitStatus runForce(const QStringList &arguments, Console &console)
 {
     CommandLine line("force", kDescription);
-    line.addFlag("clear", "Take the flag back instead.");
+    line.addFlag("clear", "Clear the flag instead.");
     line.addOption("config", "file",
                    "The plugin's INI file, which says when it ticks; /etc/yav/MirovaHR.ini when "
                    "left out.");

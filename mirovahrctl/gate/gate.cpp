@@ -6,12 +6,12 @@ namespace {
 
 constexpr char kDescription[] =
     "Takes HR's file, checks it as check-file does, compares it with the last admitted one,\n"
-    "and puts it at one stroke where the plugin reads it. Refuses a file that is empty,\n"
-    "truncated or being written, or in which more lines are gone, more people leave or more\n"
-    "people get another cost centre than the limits let pass: a number and a percentage\n"
-    "each, and the file is refused when either is exceeded. Then nothing is published.\n\n"
-    "Made to be the syncCommand of the plugin's INI file. Run it by the attendance server's\n"
-    "user. The first file has nothing to be compared with and is refused, too: admit it with\n"
+    "and publishes it in one step where the plugin reads it. Refuses a file that is empty,\n"
+    "truncated or being written, or in which more lines are missing, more people leave or\n"
+    "more people get another cost centre than the limits allow. Each limit is a number and\n"
+    "a percentage; exceeding either is enough. Of a refused file nothing is published.\n\n"
+    "Intended as the syncCommand of the plugin's INI file. Run it as the attendance server's\n"
+    "user. The first file has no other to compare with and is refused, too: admit it with\n"
     "--accept.";
 
 } // namespace

@@ -22,13 +22,13 @@ QString people(qint64 part, qint64 whole)
 /// ", where at most 50 and 5 % may."
 QString allowance(const GateLimit &limit)
 {
-    return QStringLiteral(", where at most %1 and %2 % may.")
+    return QStringLiteral("; the limits are %1 and %2 %.")
         .arg(QString::number(limit.count), QString::number(limit.percent));
 }
 
 GateReason empty()
 {
-    return {makeFinding(Severity::Error, "empty", QStringLiteral("There is nobody in the file."),
+    return {makeFinding(Severity::Error, "empty", QStringLiteral("The file contains no people."),
                         QStringLiteral("Ask HR whether the export went wrong.")),
             false};
 }
@@ -36,22 +36,24 @@ GateReason empty()
 GateReason truncated(const QString &message)
 {
     return {makeFinding(Severity::Error, "truncated", message,
-                        QStringLiteral("Ask HR for the whole file.")),
+                        QStringLiteral("Ask HR for the complete file.")),
             true};
 }
 
 GateReason noBaseline()
 {
-    return {makeFinding(Severity::Error, "no-baseline",
-                        QStringLiteral("There is no admitted file to compare with."),
-                        QStringLiteral("Look at the file with check-file and preview, and admit it "
-                                       "once with --accept.")),
-            true};
+    return {
+        makeFinding(
+            Severity::Error, "no-baseline",
+            QStringLiteral("There is no admitted file to compare with."),
+            QStringLiteral(
+                "Inspect the file with check-file and preview, then admit it once with --accept.")),
+        true};
 }
 
-QString askHr()
+QString adviceToAskHr()
 {
-    return QStringLiteral("Ask HR; if it is meant so, run the gate once with --accept.");
+    return QStringLiteral("Ask HR; if the change is intended, run the gate once with --accept.");
 }
 
 GateReason linesLost(const GateComparison::Result &changes, const GateLimit &limit)
@@ -62,9 +64,9 @@ GateReason linesLost(const GateComparison::Result &changes, const GateLimit &lim
     return {makeFinding(Severity::Error, "lines-lost",
                         lines + QStringLiteral(" with people ")
                             + (lost == 1 ? QStringLiteral("is") : QStringLiteral("are"))
-                            + QStringLiteral(" gone since the last admitted file")
+                            + QStringLiteral(" missing compared with the last admitted file")
                             + allowance(limit),
-                        askHr()),
+                        adviceToAskHr()),
             true};
 }
 
@@ -75,7 +77,7 @@ GateReason peopleLeaving(const GateComparison::Result &changes, const GateLimit 
                         people(count, changes.working)
                             + (count == 1 ? QStringLiteral(" leaves") : QStringLiteral(" leave"))
                             + allowance(limit),
-                        askHr()),
+                        adviceToAskHr()),
             true};
 }
 
@@ -86,20 +88,20 @@ GateReason peopleMoving(const GateComparison::Result &changes, const GateLimit &
                         people(count, changes.working)
                             + (count == 1 ? QStringLiteral(" gets") : QStringLiteral(" get"))
                             + QStringLiteral(" another cost centre") + allowance(limit),
-                        askHr()),
+                        adviceToAskHr()),
             true};
 }
 
-void judgeEnd(const GateFacts &facts, bool mayEndOpen, QVector<GateReason> &reasons)
+void assessEnd(const GateFacts &facts, bool mayEndOpen, QVector<GateReason> &reasons)
 {
     if (facts.isLastLineBroken)
-        reasons << truncated(QStringLiteral("The last line is broken."));
+        reasons << truncated(QStringLiteral("The last line is damaged."));
     else if (facts.endsOpen && !mayEndOpen)
-        reasons << truncated(QStringLiteral("The last line has no line feed at its end."));
+        reasons << truncated(QStringLiteral("The last line does not end with a line feed."));
 }
 
-void judgeChanges(const GateComparison::Result &changes, const GateLimits &limits,
-                  QVector<GateReason> &reasons)
+void assessChanges(const GateComparison::Result &changes, const GateLimits &limits,
+                   QVector<GateReason> &reasons)
 {
     if (limits.lostLines.isExceeded(changes.lostLines(), changes.oldLines))
         reasons << linesLost(changes, limits.lostLines);
@@ -111,14 +113,14 @@ void judgeChanges(const GateComparison::Result &changes, const GateLimits &limit
 
 } // namespace
 
-QVector<GateReason> judge(const GateFacts &facts, const GateLimits &limits, bool mayEndOpen)
+QVector<GateReason> assess(const GateFacts &facts, const GateLimits &limits, bool mayEndOpen)
 {
     QVector<GateReason> reasons;
     if (facts.counts.records == 0)
         reasons << empty();
-    judgeEnd(facts, mayEndOpen, reasons);
+    assessEnd(facts, mayEndOpen, reasons);
     if (facts.hasBaseline)
-        judgeChanges(facts.changes, limits, reasons);
+        assessChanges(facts.changes, limits, reasons);
     else
         reasons << noBaseline();
     return reasons;
@@ -134,19 +136,19 @@ GateReason missing(const QString &path)
 
 GateReason tooLong()
 {
-    return {makeFinding(
-                Severity::Error, "file-too-long",
-                QStringLiteral("The file is longer than 1 GiB, and the plugin reads no further."),
-                QStringLiteral("Ask HR whether the export went wrong.")),
-            false};
+    return {
+        makeFinding(Severity::Error, "file-too-long",
+                    QStringLiteral("The file is larger than 1 GiB; the plugin reads no further."),
+                    QStringLiteral("Ask HR whether the export went wrong.")),
+        false};
 }
 
 GateReason changedMeanwhile()
 {
     return {makeFinding(Severity::Error, "changed-meanwhile",
-                        QStringLiteral("The file was changed while it was read."),
+                        QStringLiteral("The file changed while it was being read."),
                         QStringLiteral("HR's export should write under another name and rename the "
-                                       "file when it is whole.")),
+                                       "file when it is complete.")),
             false};
 }
 
@@ -156,15 +158,15 @@ GateReason justWritten(qint64 settleSeconds)
                         QStringLiteral("The file was changed within the last %1.")
                             .arg(Wording::counted(settleSeconds, QStringLiteral("second"),
                                                   QStringLiteral("seconds"))),
-                        QStringLiteral("It may not be whole yet; the next run takes it.")),
+                        QStringLiteral("It may still be incomplete; run the gate again later.")),
             false};
 }
 
 GateReason busy()
 {
     return {makeFinding(Severity::Error, "busy",
-                        QStringLiteral("Another gate works with this folder."),
-                        QStringLiteral("Wait for its end.")),
+                        QStringLiteral("Another gate is using this folder."),
+                        QStringLiteral("Wait until it has finished.")),
             false};
 }
 

@@ -26,7 +26,7 @@ struct GateFacts {
 namespace GateAssessment {
 
 /// Everything that is against the file; nothing when it may pass.
-QVector<GateReason> judge(const GateFacts &facts, const GateLimits &limits, bool mayEndOpen);
+QVector<GateReason> assess(const GateFacts &facts, const GateLimits &limits, bool mayEndOpen);
 
 GateReason missing(const QString &path);
 GateReason tooLong();

@@ -23,7 +23,7 @@ qint32 endOf(const MirovaRonRecord &record)
 }
 
 /// The state alone, without the last day.
-bool goesOn(MirovaRonRecord record, const QDate &today)
+bool continues(MirovaRonRecord record, const QDate &today)
 {
     record.datumVystupu = QDate();
     return RecordCodes::isActive(record, today);
@@ -65,7 +65,7 @@ void GateComparison::addNew(const MirovaRonRecord &record)
     Relationship &relationship = m_relationships[key(record)];
     relationship.newEnd = endOf(record);
     relationship.newCostCentre = record.stredisko;
-    relationship.goesOn = goesOn(record, m_today);
+    relationship.continues = continues(record, m_today);
 }
 
 GateComparison::Result GateComparison::result() const

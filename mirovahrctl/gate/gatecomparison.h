@@ -45,9 +45,9 @@ private:
         quint32 oldCostCentre = 0;
         quint32 newCostCentre = 0;
         bool wasActive = false;
-        bool goesOn = false; ///< in the new file, and its state is not one that has ended
+        bool continues = false; ///< in the new file, and its state is not one that has ended
 
-        bool leaves() const { return !goesOn || newEnd < oldEnd; }
+        bool leaves() const { return !continues || newEnd < oldEnd; }
     };
 
     const QDate m_today;

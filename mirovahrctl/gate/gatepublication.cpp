@@ -48,7 +48,7 @@ bool GatePublication::copy(QFile &source)
         const QByteArray piece = source.read(kPieceSize);
         if (piece.isEmpty())
             return source.error() == QFileDevice::NoError;
-        // Why it fails is told by finish().
+        // Why it fails is gateReport by finish().
         if (m_file.device().write(piece) != piece.size())
             return true;
     }

@@ -9,7 +9,7 @@ namespace {
 constexpr int kMostShown = 20;
 
 /// What stands above a list of changes.
-void tellShown(Report &report, const QString &what, int count)
+void reportShown(Report &report, const QString &what, int count)
 {
     if (count > kMostShown) {
         report.sentence(QStringLiteral("%1: the first %2 of %3.")
@@ -19,11 +19,11 @@ void tellShown(Report &report, const QString &what, int count)
     }
 }
 
-void tellLeaving(Report &report, const QVector<GateComparison::Change> &changes)
+void reportLeaving(Report &report, const QVector<GateComparison::Change> &changes)
 {
     if (changes.isEmpty())
         return;
-    tellShown(report, QStringLiteral("Leaving"), changes.size());
+    reportShown(report, QStringLiteral("Leaving"), changes.size());
     Table table{QStringLiteral("leaving"),
                 {{QStringLiteral("person"), QStringLiteral("Person")},
                  {QStringLiteral("costCentre"), QStringLiteral("Cost centre")}},
@@ -33,11 +33,11 @@ void tellLeaving(Report &report, const QVector<GateComparison::Change> &changes)
     report.table(table);
 }
 
-void tellMoving(Report &report, const QVector<GateComparison::Change> &changes)
+void reportMoving(Report &report, const QVector<GateComparison::Change> &changes)
 {
     if (changes.isEmpty())
         return;
-    tellShown(report, QStringLiteral("Moving"), changes.size());
+    reportShown(report, QStringLiteral("Moving"), changes.size());
     Table table{QStringLiteral("moving"),
                 {{QStringLiteral("person"), QStringLiteral("Person")},
                  {QStringLiteral("from"), QStringLiteral("From cost centre")},
@@ -50,34 +50,33 @@ void tellMoving(Report &report, const QVector<GateComparison::Change> &changes)
 
 Finding rejectedLines(qint64 count, const QString &path)
 {
-    const bool one = count == 1;
     return makeFinding(
         Severity::Note, "rejected-lines",
-        QStringLiteral("%1 of the file %2 not arrive as %3 should.")
-            .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines")),
-                 one ? QStringLiteral("does") : QStringLiteral("do"),
-                 one ? QStringLiteral("it") : QStringLiteral("they")),
+        QStringLiteral("The file has %1 with errors: the plugin drops them, or "
+                       "cannot write them correctly.")
+            .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"))),
         QStringLiteral("Send HR the file %1.").arg(path));
 }
 
-void tellChanges(Report &report, const GateComparison::Result &changes)
+void reportChanges(Report &report, const GateComparison::Result &changes)
 {
     report.section(QStringLiteral("changes"),
                    QStringLiteral("Compared with the last admitted file"));
-    report.fact(QStringLiteral("oldRecords"), QStringLiteral("People in the last one"),
+    report.fact(QStringLiteral("oldRecords"), QStringLiteral("People in the last admitted file"),
                 changes.oldLines);
-    report.fact(QStringLiteral("working"), QStringLiteral("Of them at work"), changes.working);
+    report.fact(QStringLiteral("working"), QStringLiteral("Employed people in it"),
+                changes.working);
     report.fact(QStringLiteral("lostLines"), QStringLiteral("Lines lost"), changes.lostLines());
     report.fact(QStringLiteral("leaving"), QStringLiteral("People leaving"),
                 changes.leaving.size());
     report.fact(QStringLiteral("moving"), QStringLiteral("People moving"), changes.moving.size());
-    tellLeaving(report, changes.leaving);
-    tellMoving(report, changes.moving);
+    reportLeaving(report, changes.leaving);
+    reportMoving(report, changes.moving);
 }
 
 } // namespace
 
-ExitStatus GateReport::tell(Report &report) const
+ExitStatus GateReport::writeTo(Report &report) const
 {
     const QVector<Finding> findings = reasonFindings() + notes();
     if (!findings.isEmpty())
@@ -85,7 +84,7 @@ ExitStatus GateReport::tell(Report &report) const
     for (const Finding &finding : findings)
         report.finding(finding);
     if (facts != nullptr)
-        tellFacts(report);
+        reportFacts(report);
     return report.conclude(isAdmitted ? ExitStatus::Fine : ExitStatus::GuardTripped, verdict());
 }
 
@@ -96,7 +95,7 @@ QVector<Finding> GateReport::reasonFindings() const
         findings << reason.finding;
         if (isAdmitted) {
             findings.last().severity = Severity::Warning;
-            findings.last().advice = QStringLiteral("Set aside by --accept.");
+            findings.last().advice = QStringLiteral("Overridden by --accept.");
         }
     }
     return findings;
@@ -108,33 +107,32 @@ QVector<Finding> GateReport::notes() const
     if (isUnchanged) {
         notes << makeFinding(
             Severity::Note, "unchanged",
-            QStringLiteral("The file is the last admitted one. It is published again, "
-                           "so that the plugin goes on with what waits."));
+            QStringLiteral("The file equals the last admitted one. It is published again, so that "
+                           "the plugin continues with what is pending."));
     }
     if (wasTaken) {
-        notes << makeFinding(
-            Severity::Note, "unread",
-            QStringLiteral("An earlier file lay in its place, which the plugin has "
-                           "not read or does not remove. ")
-                + (isAdmitted ? QStringLiteral("It was replaced.")
-                              : QStringLiteral("It stays there.")));
+        notes << makeFinding(Severity::Note, "unread",
+                             QStringLiteral("An earlier file was still in place, which the plugin "
+                                            "has not read or does not remove. ")
+                                 + (isAdmitted ? QStringLiteral("It was replaced.")
+                                               : QStringLiteral("It remains.")));
     }
     if (facts != nullptr && facts->counts.rejected > 0)
         notes << rejectedLines(facts->counts.rejected, rejects);
     return notes;
 }
 
-void GateReport::tellFacts(Report &report) const
+void GateReport::reportFacts(Report &report) const
 {
     report.section(QStringLiteral("file"), QStringLiteral("HR's file"));
     report.fact(QStringLiteral("lines"), QStringLiteral("Lines"), facts->counts.lines);
     report.fact(QStringLiteral("records"), QStringLiteral("Read as people"), facts->counts.records);
     report.fact(QStringLiteral("dropped"), QStringLiteral("Dropped by the plugin"),
                 facts->counts.dropped);
-    report.fact(QStringLiteral("rejected"), QStringLiteral("Not arriving as they should"),
+    report.fact(QStringLiteral("rejected"), QStringLiteral("Lines with errors"),
                 facts->counts.rejected);
     if (facts->hasBaseline)
-        tellChanges(report, facts->changes);
+        reportChanges(report, facts->changes);
 }
 
 QString GateReport::verdict() const

@@ -17,11 +17,11 @@ struct GateReport {
     QString rejects; ///< path of the file with the rejected lines
     QVector<GateReason> reasons; ///< against the file, also when they were overridden
 
-    ExitStatus tell(Report &report) const;
+    ExitStatus writeTo(Report &report) const;
 
 private:
     QVector<Finding> reasonFindings() const;
     QVector<Finding> notes() const;
-    void tellFacts(Report &report) const;
+    void reportFacts(Report &report) const;
     QString verdict() const;
 };

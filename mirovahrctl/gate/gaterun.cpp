@@ -83,7 +83,7 @@ std::optional<ExitStatus> GateRun::lock()
         m_isLocked = true;
         return std::nullopt;
     case GateFolder::Lock::Busy:
-        return tell(false, {GateAssessment::busy()});
+        return report(false, {GateAssessment::busy()});
     case GateFolder::Lock::Failed:
         return fail(m_folder.errorString());
     }
@@ -143,11 +143,11 @@ ExitStatus GateRun::decide()
     // What was let through once is let through again: with --accept, too.
     const QVector<GateReason> reasons = m_examination.isUnchanged()
         ? QVector<GateReason>()
-        : GateAssessment::judge(m_examination.facts(), m_options.limits, m_options.mayEndOpen);
+        : GateAssessment::assess(m_examination.facts(), m_options.limits, m_options.mayEndOpen);
     if (!reasons.isEmpty() && !(m_options.accept && mayAllBeOverridden(reasons)))
         return refuse(reasons);
     const ExitStatus status = admit(messages(reasons));
-    return status == ExitStatus::Fine ? tell(true, reasons) : status;
+    return status == ExitStatus::Fine ? report(true, reasons) : status;
 }
 
 ExitStatus GateRun::admit(const QStringList &overridden)
@@ -194,22 +194,22 @@ ExitStatus GateRun::refuse(const QVector<GateReason> &reasons)
         return fail(m_copy.errorString());
     if (!m_status.write(m_folder, m_error))
         return fail(m_error);
-    return tell(false, reasons);
+    return report(false, reasons);
 }
 
-ExitStatus GateRun::tell(bool isAdmitted, const QVector<GateReason> &reasons)
+ExitStatus GateRun::report(bool isAdmitted, const QVector<GateReason> &reasons)
 {
     Report report(m_line, m_console);
     report.begin(m_line.subcommand(),
                  QStringLiteral("Gate from %1 to %2").arg(m_options.from, m_options.to));
-    GateReport told;
-    told.isAdmitted = isAdmitted;
-    told.isUnchanged = m_examination.isUnchanged();
-    told.wasTaken = m_wasTaken;
-    told.facts = m_isExamined ? &m_examination.facts() : nullptr;
-    told.rejects = m_options.rejects;
-    told.reasons = reasons;
-    return told.tell(report);
+    GateReport gateReport;
+    gateReport.isAdmitted = isAdmitted;
+    gateReport.isUnchanged = m_examination.isUnchanged();
+    gateReport.wasTaken = m_wasTaken;
+    gateReport.facts = m_isExamined ? &m_examination.facts() : nullptr;
+    gateReport.rejects = m_options.rejects;
+    gateReport.reasons = reasons;
+    return gateReport.writeTo(report);
 }
 
 bool GateRun::keepError(const QString &error)

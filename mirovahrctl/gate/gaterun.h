@@ -42,7 +42,7 @@ private:
     bool makeLast();
     bool recordAdmission(const QStringList &overridden);
     ExitStatus refuse(const QVector<GateReason> &reasons);
-    ExitStatus tell(bool isAdmitted, const QVector<GateReason> &reasons);
+    ExitStatus report(bool isAdmitted, const QVector<GateReason> &reasons);
     bool keepError(const QString &error);
     /// Ends the run because something else than the file is wrong; what is known of that is
     /// recorded if it can be.

@@ -67,14 +67,14 @@ bool GateFolder::openPrivate(const QString &path)
     m_path = QDir::cleanPath(path);
     const bool made = ::mkdir(QFile::encodeName(m_path).constData(), kPrivateFolder) == 0;
     if (!made && errno != EEXIST)
-        return fail(m_path, "cannot be made");
+        return fail(m_path, "cannot be created");
     struct stat status = {};
     if (!openFolder(O_NOFOLLOW, status) || !isOwnerTrusted())
         return false;
     if (isPrivate(status))
         return !made || takeOwnerOfParent();
-    m_error = QStringLiteral("The folder '%1' belongs to somebody else, or everybody may write "
-                             "there: what the gate keeps would be worth nothing")
+    m_error = QStringLiteral("The folder '%1' belongs to somebody else, or everybody may write to "
+                             "it: the gate could not trust its own files there")
                   .arg(m_path);
     return false;
 }
@@ -96,13 +96,14 @@ bool GateFolder::isOwnerTrusted()
         return true;
     struct stat parent = {};
     if (::fstatat(m_fd, "..", &parent, 0) != 0)
-        return fail(m_path, "has no folder above that can be looked at");
+        return fail(m_path, "has no parent folder that can be examined");
     if (m_owner == parent.st_uid)
         return true;
-    m_error = QStringLiteral("The folder '%1' belongs neither to root nor to the owner of the "
-                             "folder above, so anybody may have made it. Run the gate as its owner "
-                             "if that is right, or give the folder to root")
-                  .arg(m_path);
+    m_error =
+        QStringLiteral("The folder '%1' belongs neither to root nor to the owner of its parent "
+                       "folder, so anybody may have created it. Run the gate as its owner "
+                       "if that is right, or give the folder to root")
+            .arg(m_path);
     return false;
 }
 
@@ -112,7 +113,7 @@ bool GateFolder::takeOwnerOfParent()
 {
     struct stat parent = {};
     if (::fstatat(m_fd, "..", &parent, 0) != 0)
-        return fail(m_path, "cannot be made");
+        return fail(m_path, "cannot be created");
     m_owner = parent.st_uid;
     m_group = parent.st_gid;
     return giveToOwner(m_fd) || fail(m_path, "cannot be given to its owner");
@@ -177,7 +178,7 @@ bool GateFolder::link(const QString &from, const QString &to, bool &exists)
     const int result = ::linkat(m_fd, QFile::encodeName(from).constData(), m_fd,
                                 QFile::encodeName(to).constData(), 0);
     exists = result != 0 && errno == EEXIST;
-    return result == 0 || fail(pathOf(to), "cannot be made");
+    return result == 0 || fail(pathOf(to), "cannot be created");
 }
 
 bool GateFolder::rename(const QString &from, const QString &to)

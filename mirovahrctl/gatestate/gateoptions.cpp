@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kLargestNumber = 1e9;
 
-/// Reads options that are numbers, and keeps the first complaint.
+/// Reads options that are numbers, and keeps the first problem.
 class NumberReader {
 public:
     explicit NumberReader(const CommandLine &line)
@@ -27,7 +27,7 @@ public:
         bool ok = false;
         value = m_line.value(option).toLongLong(&ok);
         if (!ok || value < 0 || double(value) > kLargestNumber)
-            complain(option, QStringLiteral("a whole number from 0"));
+            reject(option, QStringLiteral("a whole number from 0"));
     }
 
     void readPercent(const char *option, double &value)
@@ -37,20 +37,20 @@ public:
         bool ok = false;
         value = m_line.value(option).toDouble(&ok);
         if (!ok || !(value >= 0 && value <= 100))
-            complain(option, QStringLiteral("a percentage from 0 to 100"));
+            reject(option, QStringLiteral("a percentage from 0 to 100"));
     }
 
-    QString complaint() const { return m_complaint; }
+    QString problem() const { return m_problem; }
 
 private:
-    void complain(const char *option, const QString &what)
+    void reject(const char *option, const QString &what)
     {
-        if (m_complaint.isEmpty())
-            m_complaint = QStringLiteral("--%1 takes %2").arg(QLatin1String(option), what);
+        if (m_problem.isEmpty())
+            m_problem = QStringLiteral("--%1 takes %2").arg(QLatin1String(option), what);
     }
 
     const CommandLine &m_line;
-    QString m_complaint;
+    QString m_problem;
 };
 
 QString readNumbers(const CommandLine &line, GateOptions &options)
@@ -64,7 +64,7 @@ QString readNumbers(const CommandLine &line, GateOptions &options)
     reader.readPercent("max-moving-percent", options.limits.moving.percent);
     reader.read("keep", options.copies);
     reader.read("settle", options.settleSeconds);
-    return reader.complaint();
+    return reader.problem();
 }
 
 QString fullPath(const QString &path)
@@ -78,33 +78,36 @@ bool isSame(const QString &a, const QString &b)
     return fullPath(a) == fullPath(b) || (QFileInfo::exists(a) && QFileInfo(a) == QFileInfo(b));
 }
 
-QString pathComplaint(const GateOptions &options)
+QString pathProblem(const GateOptions &options)
 {
     if (options.from.isEmpty())
-        return QStringLiteral("--from is missing; --help explains");
+        return QStringLiteral("Missing option --from; see --help");
     if (options.to.isEmpty())
-        return QStringLiteral("--to is missing; --help explains");
+        return QStringLiteral("Missing option --to; see --help");
     if (QFileInfo(options.to).fileName().isEmpty())
         return QStringLiteral("--to names no file");
     if (isSame(options.from, options.to))
         return QStringLiteral("--from and --to name the same file");
     if (isSame(options.rejects, options.from) || isSame(options.rejects, options.to))
-        return QStringLiteral("--rejects would be written over the export; name another file");
+        return QStringLiteral("--rejects would overwrite the export; name another file");
     return {};
 }
 
 void addLimits(CommandLine &line)
 {
     line.addOption("max-lost-lines", "number",
-                   "Refuse a file with more lines fewer than this; 50 when left out.");
-    line.addOption("max-lost-lines-percent", "percent", "The same in percent of the lines; 5.");
-    line.addOption("max-leaving", "number", "Refuse a file in which more people leave; 50.");
+                   "Refuse a file that has lost more lines than this; default: 50.");
+    line.addOption("max-lost-lines-percent", "percent",
+                   "The same in percent of the lines; default: 5.");
+    line.addOption("max-leaving", "number",
+                   "Refuse a file in which more people leave than this; default: 50.");
     line.addOption("max-leaving-percent", "percent",
-                   "The same in percent of the people who work; 5.");
-    line.addOption("max-moving", "number",
-                   "Refuse a file in which more people get another cost centre; 100.");
+                   "The same in percent of the employed people; default: 5.");
+    line.addOption(
+        "max-moving", "number",
+        "Refuse a file in which more people than this get another cost centre; default: 100.");
     line.addOption("max-moving-percent", "percent",
-                   "The same in percent of the people who work; 10.");
+                   "The same in percent of the employed people; default: 10.");
 }
 
 /// The arguments of the gate in the words of a command line; nothing when they run no gate.
@@ -125,20 +128,21 @@ void GateOptions::addTo(CommandLine &line)
     line.addOption("from", "file", "HR's file. It is only read.");
     line.addOption("to", "file", "The file that the plugin reads: importFile of its INI file.");
     line.addOption("state", "folder",
-                   "Where the gate keeps its own files; the name of --to with .gate behind it when "
-                   "left out. Made when it is missing.");
+                   "The folder of the gate's own files, created when it is missing; default: the "
+                   "path of --to with .gate appended.");
     line.addOption("rejects", "file",
-                   "Where to write the lines that do not arrive as they should, to send to HR; "
-                   "rejects.txt in the gate's folder when left out.");
+                   "Where to write the lines with errors, to send to HR; default: rejects.txt in "
+                   "the gate's folder.");
     addLimits(line);
-    line.addOption("keep", "number", "How many dated copies of admitted files to keep; 30.");
+    line.addOption("keep", "number",
+                   "How many dated copies of admitted files to keep; default: 30.");
     line.addOption("settle", "seconds",
-                   "Refuse a file that was written within so many seconds; 0.");
+                   "Refuse a file that was written less than this many seconds ago; default: 0.");
     line.addFlag("may-end-open",
-                 "HR's file may end without a line feed: do not take that for a truncated file.");
+                 "Accept a last line without a line feed, which otherwise counts as truncated.");
     line.addFlag("accept",
                  "Admit the file this once, whatever is missing or has changed in it. An empty "
-                 "file is refused all the same.");
+                 "file is refused even so.");
 }
 
 std::optional<ExitStatus> GateOptions::read(const CommandLine &line, Console &console)
@@ -150,12 +154,12 @@ std::optional<ExitStatus> GateOptions::read(const CommandLine &line, Console &co
         line.isSet("rejects") ? line.value("rejects") : stateFolder + QLatin1String("/rejects.txt");
     mayEndOpen = line.isSet("may-end-open");
     accept = line.isSet("accept");
-    QString complaint = readNumbers(line, *this);
-    if (complaint.isEmpty())
-        complaint = pathComplaint(*this);
-    if (complaint.isEmpty())
+    QString problem = readNumbers(line, *this);
+    if (problem.isEmpty())
+        problem = pathProblem(*this);
+    if (problem.isEmpty())
         return std::nullopt;
-    return console.fail(ExitStatus::Usage, complaint);
+    return console.fail(ExitStatus::Usage, problem);
 }
 
 std::optional<GateOptions> GateOptions::ofCommand(const QString &command)
@@ -167,12 +171,12 @@ std::optional<GateOptions> GateOptions::ofCommand(const QString &command)
     QBuffer err;
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
-    Console nobody(out, err, false);
+    Console silent(out, err, false);
     CommandLine line("gate", "");
     addTo(line);
     line.addReportOptions(CommandLine::Page::NotOffered);
     GateOptions options;
-    if (line.parse(*arguments, nobody) || options.read(line, nobody))
+    if (line.parse(*arguments, silent) || options.read(line, silent))
         return std::nullopt;
     return options;
 }

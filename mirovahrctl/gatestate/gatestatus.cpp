@@ -83,7 +83,7 @@ std::optional<GateStatus> GateStatus::read(const QString &path, QString &error)
     }
     const auto status = parse(file.readAll());
     if (!status)
-        error = QStringLiteral("'%1' is no status file of the gate").arg(path);
+        error = QStringLiteral("'%1' is not a status file of the gate").arg(path);
     return status;
 }
 

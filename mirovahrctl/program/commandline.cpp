@@ -51,12 +51,12 @@ void CommandLine::addOption(const char *name, const char *valueName, const char 
 
 void CommandLine::addReportOptions(Page page)
 {
-    addFlag("json", "Write the result as JSON, for scripts.");
+    addFlag("json", "Write the report as JSON, for scripts.");
     m_offersPage = page == Page::Offered;
     if (m_offersPage) {
-        addOption("html", "file",
-                  "Also write the result as a web page of one file, for somebody without a "
-                  "terminal.");
+        addOption(
+            "html", "file",
+            "Also write the report as a self-contained web page, for somebody without a terminal.");
     }
 }
 
@@ -149,9 +149,9 @@ QString CommandLine::argumentError() const
 {
     const int count = m_parser.positionalArguments().size();
     if (count < m_required.size())
-        return QStringLiteral("%1 is missing; --help explains").arg(m_required.at(count));
+        return QStringLiteral("Missing argument %1; see --help").arg(m_required.at(count));
     if (count > m_required.size() + m_optional.size()) {
-        return QStringLiteral("'%1' is one argument too many")
+        return QStringLiteral("Unexpected argument '%1'")
             .arg(argument(m_required.size() + m_optional.size()));
     }
     return {};

@@ -33,7 +33,7 @@ void Console::print(const QString &text)
 ExitStatus Console::fail(ExitStatus status, const QString &sentence)
 {
     const QString reason = Wording::sentence(sentence);
-    complain(reason);
+    writeMessage(reason);
     if (m_json)
         m_json->fail(m_subcommand, status, reason);
     return status;
@@ -41,10 +41,10 @@ ExitStatus Console::fail(ExitStatus status, const QString &sentence)
 
 void Console::warn(const QString &sentence)
 {
-    complain(QStringLiteral("Warning: ") + Wording::sentence(sentence));
+    writeMessage(QStringLiteral("Warning: ") + Wording::sentence(sentence));
 }
 
-void Console::complain(const QString &sentence)
+void Console::writeMessage(const QString &sentence)
 {
     QString line = QStringLiteral("mirovahrctl: ");
     if (!m_subcommand.isEmpty())

@@ -45,7 +45,7 @@ public:
     void warn(const QString &sentence);
 
 private:
-    void complain(const QString &sentence);
+    void writeMessage(const QString &sentence);
 
     QIODevice &m_out;
     QIODevice &m_err;

@@ -10,15 +10,15 @@ struct Description {
 
 /// In the order of their numbers.
 constexpr Description kDescriptions[] = {
-    {ExitStatus::Fine, "fine", "Nothing to object to"},
-    {ExitStatus::Findings, "findings", "There are findings: somebody should look at them"},
+    {ExitStatus::Fine, "fine", "No findings"},
+    {ExitStatus::Findings, "findings", "There are findings that need attention"},
     {ExitStatus::Usage, "usage",
-     "The command line, a file that it names or the configuration is of no use"},
+     "The command line, a file that it names, or the configuration cannot be used"},
     {ExitStatus::NoDatabase, "no-database", "The database cannot be reached or used"},
     {ExitStatus::ContractBroken, "contract-broken",
-     "The database is not what the plugin relies on"},
+     "The database violates what the plugin relies on"},
     {ExitStatus::GuardTripped, "guard-tripped",
-     "A guard refused what was asked for; nothing was changed"},
+     "A safeguard refused the request; nothing was changed"},
 };
 
 } // namespace

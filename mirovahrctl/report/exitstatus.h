@@ -9,7 +9,7 @@
 enum class ExitStatus {
     Fine = CommonStatus::kSuccess, ///< nothing to object to
     Findings = 1, ///< there is something that a person should look at
-    /// The command line, a file that it names or the configuration is of no use.
+    /// The command line, a file that it names, or the configuration cannot be used.
     Usage = CommonStatus::kUsage,
     NoDatabase = CommonStatus::kNoDatabase, ///< the database cannot be reached or used
     ContractBroken = 4, ///< the database is not what the plugin relies on

@@ -207,8 +207,8 @@ void HtmlReport::leaveOutRest()
 {
     if (m_leftOut == 0)
         return;
-    m_sections += QStringLiteral("<p>This page ends here: %1 not shown.</p>\n")
-                      .arg(Wording::counted(m_leftOut, QStringLiteral("finding more is"),
-                                            QStringLiteral("findings more are")));
+    m_sections += QStringLiteral("<p>Not shown on this page: %1.</p>\n")
+                      .arg(Wording::counted(m_leftOut, QStringLiteral("more finding"),
+                                            QStringLiteral("more findings")));
     m_leftOut = 0;
 }

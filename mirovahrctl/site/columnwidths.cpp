@@ -16,16 +16,16 @@ ColumnWidths readColumnWidths(const QSqlDatabase &database, QString &error)
 {
     QSqlQuery query(database);
     if (!query.exec(QLatin1String(kSelectWidths))) {
-        error = QStringLiteral("The lengths of the columns cannot be read: %1")
-                    .arg(query.lastError().text());
+        error =
+            QStringLiteral("The column lengths cannot be read: %1").arg(query.lastError().text());
         return {};
     }
     ColumnWidths widths;
     while (query.next())
         widths.insert(query.value(0).toString(), query.value(1).toInt());
     if (widths.isEmpty()) {
-        error = QStringLiteral("The database has no table 'people' with texts, or the account may "
-                               "not see it");
+        error = QStringLiteral(
+            "The database has no table 'people' with text columns, or the account may not see it");
     }
     return widths;
 }

@@ -33,7 +33,7 @@ bool refuseWriting(const QSqlDatabase &connection, QString &error)
     QSqlQuery query(connection);
     if (query.exec(QLatin1String(kReadOnly)))
         return true;
-    error = QStringLiteral("The database cannot be opened for reading only: %1")
-                .arg(query.lastError().text());
+    error =
+        QStringLiteral("The database cannot be opened read-only: %1").arg(query.lastError().text());
     return false;
 }

@@ -59,6 +59,6 @@ QString Midnights::disagreement(SqlSession &server)
     if (!differing(days, QVariantList(texts.cbegin(), texts.cend())).isValid())
         return {};
     return QStringLiteral("The site's server (time zone %1) and this program disagree about when "
-                          "days begin. Run it with the TZ of the attendance server")
+                          "days begin. Run this program with the TZ of the attendance server")
         .arg(server.value(QStringLiteral("SELECT @@SESSION.time_zone")));
 }

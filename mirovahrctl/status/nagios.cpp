@@ -15,13 +15,13 @@ QString limit(const std::optional<qint64> &limit)
     return limit ? QString::number(*limit) : QString();
 }
 
-QString performance(const StatusData &data, const StatusAssessment &judgement,
+QString performance(const StatusData &data, const StatusAssessment &assessment,
                     const AgeLimits &limits)
 {
     QStringList values;
-    if (judgement.age) {
+    if (assessment.age) {
         values += QStringLiteral("age=%1s;%2;%3;0")
-                      .arg(QString::number(*judgement.age), limit(limits.warning),
+                      .arg(QString::number(*assessment.age), limit(limits.warning),
                            limit(limits.critical));
     }
     values += QStringLiteral("people=%1;;;0").arg(data.activePeople);
@@ -31,12 +31,12 @@ QString performance(const StatusData &data, const StatusAssessment &judgement,
     return values.join(QLatin1Char(' '));
 }
 
-QString summary(const StatusData &data, const StatusAssessment &judgement)
+QString summary(const StatusData &data, const StatusAssessment &assessment)
 {
-    const QString age = judgement.age
+    const QString age = assessment.age
         ? QStringLiteral("last %1 %2 ago")
-              .arg(judgement.ageOf, StatusAssessment::span(*judgement.age))
-        : QStringLiteral("no %1 yet").arg(judgement.ageOf);
+              .arg(assessment.ageOf, StatusAssessment::span(*assessment.age))
+        : QStringLiteral("no %1 yet").arg(assessment.ageOf);
     return QStringLiteral("%1, %2, %3 in the terminal queue")
         .arg(age,
              Wording::counted(data.activePeople, QStringLiteral("active person"),
@@ -44,10 +44,10 @@ QString summary(const StatusData &data, const StatusAssessment &judgement)
              Wording::counted(data.queued, QStringLiteral("entry"), QStringLiteral("entries")));
 }
 
-QString complaints(const StatusAssessment &judgement)
+QString problems(const StatusAssessment &assessment)
 {
     QStringList messages;
-    for (const Finding &finding : judgement.findings)
+    for (const Finding &finding : assessment.findings)
         messages += finding.message;
     return messages.join(QLatin1Char(' '));
 }
@@ -68,10 +68,10 @@ QString Nagios::line(Level level, const QString &text)
         .arg(QLatin1String(kWords[static_cast<int>(level)]), Wording::visible(fit));
 }
 
-Nagios::Level Nagios::level(const StatusAssessment &judgement)
+Nagios::Level Nagios::level(const StatusAssessment &assessment)
 {
     Level level = Level::Ok;
-    for (const Finding &finding : judgement.findings) {
+    for (const Finding &finding : assessment.findings) {
         if (finding.severity == Severity::Error)
             return Level::Critical;
         level = Level::Warning;
@@ -79,11 +79,11 @@ Nagios::Level Nagios::level(const StatusAssessment &judgement)
     return level;
 }
 
-QString Nagios::statusLine(const StatusData &data, const StatusAssessment &judgement,
+QString Nagios::statusLine(const StatusData &data, const StatusAssessment &assessment,
                            const AgeLimits &limits)
 {
     const QString text =
-        judgement.findings.isEmpty() ? summary(data, judgement) : complaints(judgement);
-    return line(level(judgement), text) + QStringLiteral(" | ")
-        + performance(data, judgement, limits);
+        assessment.findings.isEmpty() ? summary(data, assessment) : problems(assessment);
+    return line(level(assessment), text) + QStringLiteral(" | ")
+        + performance(data, assessment, limits);
 }

@@ -21,10 +21,10 @@ ExitStatus exitStatus(Level level);
 /// "MIROVAHR CRITICAL - " and a text, made fit for the line.
 QString line(Level level, const QString &text);
 
-Level level(const StatusAssessment &judgement);
+Level level(const StatusAssessment &assessment);
 
 /// The whole line of a status, with its performance data.
-QString statusLine(const StatusData &data, const StatusAssessment &judgement,
+QString statusLine(const StatusData &data, const StatusAssessment &assessment,
                    const AgeLimits &limits);
 
 } // namespace Nagios

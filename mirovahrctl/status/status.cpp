@@ -15,13 +15,13 @@
 namespace {
 
 constexpr char kDescription[] =
-    "Tells what the attendance database knows of the plugin's work, and what the gate last\n"
-    "did when its status file is named. The plugin leaves no trace of a synchronisation\n"
-    "that changes nothing: without the gate, old news may only mean that nothing happened.\n"
-    "Changes nothing.\n\n"
-    "With --nagios the answer is one line for a monitoring system, and the exit status is\n"
-    "of that convention: 0 OK, 1 WARNING, 2 CRITICAL (also: no database), 3 UNKNOWN (also:\n"
-    "wrong usage).";
+    "Shows what the attendance database knows of the plugin's work and, when the gate's\n"
+    "status file is named, what the gate did last. The plugin leaves no trace of a\n"
+    "synchronisation that changes nothing: without the gate, an old trace may only mean\n"
+    "that nothing happened. Changes nothing.\n\n"
+    "With --nagios the answer is one line for a monitoring system, and the exit status\n"
+    "follows that convention: 0 OK, 1 WARNING, 2 CRITICAL (also: no database), 3 UNKNOWN\n"
+    "(also: wrong usage).";
 
 constexpr double kSecondsPerHour = 3600.0;
 
@@ -40,7 +40,7 @@ private:
     std::optional<ExitStatus> readLimit(const char *option, std::optional<qint64> &limit);
     std::optional<ExitStatus> readGate();
     ExitStatus answer(const StatusData &data);
-    ExitStatus report(const StatusData &data, const StatusAssessment &judgement);
+    ExitStatus report(const StatusData &data, const StatusAssessment &assessment);
     ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
@@ -79,11 +79,12 @@ void reportGate(Report &report, const GateStatus &gate)
     report.fact(QStringLiteral("gateResult"), QStringLiteral("Last file"),
                 gate.isRefused() ? QStringLiteral("refused") : QStringLiteral("admitted"));
     reportTime(report, "gateTime", "Last run", gate.time());
-    reportTime(report, "admittedTime", "Last file admitted at", gate.admittedTime());
+    reportTime(report, "admittedTime", "Last admission", gate.admittedTime());
     if (!gate.admittedFile().isEmpty())
-        report.fact(QStringLiteral("admittedFile"), QStringLiteral("It was"), gate.admittedFile());
+        report.fact(QStringLiteral("admittedFile"), QStringLiteral("Admitted file"),
+                    gate.admittedFile());
     if (gate.admittedLines())
-        report.fact(QStringLiteral("admittedLines"), QStringLiteral("Its lines"),
+        report.fact(QStringLiteral("admittedLines"), QStringLiteral("Lines in the admitted file"),
                     *gate.admittedLines());
 }
 
@@ -92,9 +93,9 @@ ExitStatus usageEnd(ExitStatus end, bool forNagios, Console &console)
 {
     if (!forNagios || end != ExitStatus::Usage || console.json() != nullptr)
         return end;
-    console.print(Nagios::line(Nagios::Level::Unknown,
-                               QStringLiteral("The command line makes no sense: see mirovahrctl "
-                                              "status --help")));
+    console.print(
+        Nagios::line(Nagios::Level::Unknown,
+                     QStringLiteral("Invalid command line: see mirovahrctl status --help")));
     return Nagios::exitStatus(Nagios::Level::Unknown);
 }
 
@@ -152,29 +153,29 @@ std::optional<ExitStatus> StatusRun::readGate()
 
 ExitStatus StatusRun::answer(const StatusData &data)
 {
-    const StatusAssessment judgement = StatusAssessment::of(
+    const StatusAssessment assessment = StatusAssessment::of(
         data, m_gate ? &*m_gate : nullptr, m_limits, QDateTime::currentSecsSinceEpoch());
     if (!m_line.isSet("nagios"))
-        return report(data, judgement);
-    m_console.print(Nagios::statusLine(data, judgement, m_limits));
-    return Nagios::exitStatus(Nagios::level(judgement));
+        return report(data, assessment);
+    m_console.print(Nagios::statusLine(data, assessment, m_limits));
+    return Nagios::exitStatus(Nagios::level(assessment));
 }
 
-ExitStatus StatusRun::report(const StatusData &data, const StatusAssessment &judgement)
+ExitStatus StatusRun::report(const StatusData &data, const StatusAssessment &assessment)
 {
     Report report(m_line, m_console);
     report.begin(m_line.subcommand(), QStringLiteral("Status of the plugin"));
     reportDatabase(report, data);
     if (m_gate)
         reportGate(report, *m_gate);
-    if (!judgement.findings.isEmpty())
-        report.section(QStringLiteral("findings"), QStringLiteral("What to look at"));
-    for (const Finding &finding : judgement.findings)
+    if (!assessment.findings.isEmpty())
+        report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
+    for (const Finding &finding : assessment.findings)
         report.finding(finding);
     return report.conclude(report.findingsStatus(),
-                           judgement.findings.isEmpty()
-                               ? QStringLiteral("Nothing to object to.")
-                               : QStringLiteral("Somebody should look at this."));
+                           assessment.findings.isEmpty()
+                               ? QStringLiteral("No findings.")
+                               : QStringLiteral("The plugin's work needs attention."));
 }
 
 ExitStatus StatusRun::fail(ExitStatus status, const QString &sentence)
@@ -191,10 +192,12 @@ void addOptions(CommandLine &line)
 {
     line.addOption("gate-status", "file", "The status file that the gate writes.");
     line.addOption("warning", "hours",
-                   "Complain when the last file admitted, or without --gate-status the last trace "
-                   "of the plugin, is so many hours old.");
-    line.addOption("critical", "hours", "The same, for --nagios as CRITICAL.");
-    line.addFlag("nagios", "Answer in one line, as monitoring systems expect it of their plugins.");
+                   "Warn when the last admission of a file, or without --gate-status the last "
+                   "trace of the plugin, was this many hours ago.");
+    line.addOption("critical", "hours",
+                   "The same as an error, which --nagios reports as CRITICAL.");
+    line.addFlag("nagios",
+                 "Print one line for a monitoring system, in the convention of its plugins.");
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
 }

@@ -15,18 +15,18 @@ struct Unit {
 constexpr Unit kUnits[] = {
     {86400, "day", "days"}, {3600, "hour", "hours"}, {60, "minute", "minutes"}};
 
-void findAge(StatusAssessment &judgement, const StatusData &data, const GateStatus *gate,
+void findAge(StatusAssessment &assessment, const StatusData &data, const GateStatus *gate,
              qint64 now)
 {
     const auto admitted = gate != nullptr ? gate->admittedTime() : std::nullopt;
     if (admitted) {
-        judgement.age = qMax(qint64(0), now - *admitted);
-        judgement.ageOf = QStringLiteral("file admitted");
+        assessment.age = qMax(qint64(0), now - *admitted);
+        assessment.ageOf = QStringLiteral("admission of a file");
         return;
     }
-    judgement.ageOf = QStringLiteral("trace of the plugin");
+    assessment.ageOf = QStringLiteral("trace of the plugin");
     if (const auto trace = data.lastTrace())
-        judgement.age = qMax(qint64(0), data.now - *trace);
+        assessment.age = qMax(qint64(0), data.now - *trace);
 }
 
 bool isBeyond(const std::optional<qint64> &age, const std::optional<qint64> &limit)
@@ -34,29 +34,28 @@ bool isBeyond(const std::optional<qint64> &age, const std::optional<qint64> &lim
     return limit && (!age || *age >= *limit);
 }
 
-void judgeAge(StatusAssessment &judgement, const AgeLimits &limits)
+void assessAge(StatusAssessment &assessment, const AgeLimits &limits)
 {
-    const bool critical = isBeyond(judgement.age, limits.critical);
-    if (!critical && !isBeyond(judgement.age, limits.warning))
+    const bool critical = isBeyond(assessment.age, limits.critical);
+    if (!critical && !isBeyond(assessment.age, limits.warning))
         return;
-    const QString message = judgement.age
-        ? QStringLiteral("The last %1 is %2 old.")
-              .arg(judgement.ageOf, StatusAssessment::span(*judgement.age))
-        : QStringLiteral("There is no %1 yet.").arg(judgement.ageOf);
-    judgement.findings +=
+    const QString message = assessment.age
+        ? QStringLiteral("The last %1 was %2 ago.")
+              .arg(assessment.ageOf, StatusAssessment::span(*assessment.age))
+        : QStringLiteral("There is no %1 yet.").arg(assessment.ageOf);
+    assessment.findings +=
         makeFinding(critical ? Severity::Error : Severity::Warning, "too-old", message,
-                    QStringLiteral("Look at the log of the attendance server and at "
-                                   "what HR delivers."));
+                    QStringLiteral("Check the log of the attendance server and what HR delivers."));
 }
 
-void judgeGate(StatusAssessment &judgement, const GateStatus &gate)
+void assessGate(StatusAssessment &assessment, const GateStatus &gate)
 {
     if (!gate.isRefused())
         return;
     QString message = QStringLiteral("The gate has refused the last file");
     if (!gate.reasons().isEmpty())
         message += QStringLiteral(": ") + gate.reasons().join(QStringLiteral("; "));
-    judgement.findings +=
+    assessment.findings +=
         makeFinding(Severity::Warning, "gate-refused", Wording::sentence(message),
                     QStringLiteral("Until a file is admitted nothing new reaches the plugin."));
 }
@@ -66,12 +65,12 @@ void judgeGate(StatusAssessment &judgement, const GateStatus &gate)
 StatusAssessment StatusAssessment::of(const StatusData &data, const GateStatus *gate,
                                       const AgeLimits &limits, qint64 now)
 {
-    StatusAssessment judgement;
-    findAge(judgement, data, gate, now);
-    judgeAge(judgement, limits);
+    StatusAssessment assessment;
+    findAge(assessment, data, gate, now);
+    assessAge(assessment, limits);
     if (gate != nullptr)
-        judgeGate(judgement, *gate);
-    return judgement;
+        assessGate(assessment, *gate);
+    return assessment;
 }
 
 QString StatusAssessment::span(qint64 seconds)

@@ -21,7 +21,7 @@ struct StatusAssessment {
     /// Seconds since the last file was admitted where the gate's status says when, else since the
     /// plugin's last trace in the database. Nothing when there was neither.
     std::optional<qint64> age;
-    QString ageOf; ///< of what: "file admitted" or "trace of the plugin"
+    QString ageOf; ///< of what: "admission of a file" or "trace of the plugin"
     QVector<Finding> findings; ///< an error is worse than a warning
 
     /// \a now by this machine's clock, for the gate's times. \a gate may be null.

@@ -341,9 +341,9 @@ void TestCheckConfig::noFileAtAllIsBadUsage()
 {
     const ToolRun run = runTool({"check-config", m_dir->path()});
     COMPARE_EXIT(run, ExitStatus::Usage);
-    QCOMPARE(run.err,
-             QString("mirovahrctl: check-config: '%1' is no file that can be read.\n")
-                 .arg(m_dir->path()));
+    QCOMPARE(
+        run.err,
+        QString("mirovahrctl: check-config: '%1' is not a readable file.\n").arg(m_dir->path()));
 }
 
 void TestCheckConfig::thePluginsOwnPathIsTheDefault()

@@ -385,20 +385,21 @@ void TestCheckFile::theAdviceFitsTheMistake_data()
     QTest::addColumn<QString>("advice");
     using E = ExportRow;
     QTest::newRow("semicolons") << good().replace('|', ';')
-                                << "Fields are separated by the character |, nothing else.";
+                                << "Separate fields with the character |, nothing else.";
     QTest::newRow("a separator at the end")
-        << good().replace('\n', "|\n") << "There must be no | behind the last field.";
+        << good().replace('\n', "|\n") << "There must be no | after the last field.";
     QTest::newRow("a separator in a text")
         << good().replace("Jana", "Ja|na") << "No text may contain the character |.";
     QTest::newRow("a field left out")
-        << good().replace("|Sklad", "") << "Empty fields must be there, too, each with its |.";
+        << good().replace("|Sklad", "") << "Write empty fields too, each with its |.";
     QTest::newRow("a date without a time")
         << line(&E::datumVystupu, "2021-03-31")
         << "A date has a time behind it, as in 2021-03-31 00:00:00.000.";
-    QTest::newRow("a decimal comma")
-        << line(&E::dovolenaZustatek, "12,5") << "The balance is written with a point, as in 12.5.";
-    QTest::newRow("the end of time") << line(&E::datumVystupu, "9999-12-31 00:00:00.000")
-                                     << "Who does not leave has an empty leaving date.";
+    QTest::newRow("a decimal comma") << line(&E::dovolenaZustatek, "12,5")
+                                     << "Write the balance with a decimal point, as in 12.5.";
+    QTest::newRow("the end of time")
+        << line(&E::datumVystupu, "9999-12-31 00:00:00.000")
+        << "Leave the leaving date empty for a person who does not leave.";
 }
 
 void TestCheckFile::theAdviceFitsTheMistake()
@@ -484,8 +485,8 @@ void TestCheckFile::theRejectsHoldTheLinesUnchanged()
     QCOMPARE(lines.mid(2),
              QList<QByteArray>({
                  "",
-                 "# Line 2: The line has 3 fields instead of 18. Empty fields must be "
-                 "there, too, each with its |.",
+                 "# Line 2: The line has 3 fields instead of 18. Write empty fields too, each with "
+                 "its |.",
                  broken.chopped(1),
                  "",
                  "# Line 4: Jmeno: The text \"O'Neil\" has an apostrophe. It goes into the "

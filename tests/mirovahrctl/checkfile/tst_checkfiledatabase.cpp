@@ -157,8 +157,8 @@ void TestCheckFileDatabase::aDatabaseWithoutPeopleBreaksTheContract()
     const ToolRun run = check(ExportRow(), databaseOptions());
     COMPARE_EXIT(run, ExitStatus::ContractBroken);
     QCOMPARE(run.err,
-             QString("mirovahrctl: check-file: The database has no table 'people' with texts, or "
-                     "the account may not see it.\n"));
+             QString("mirovahrctl: check-file: The database has no table 'people' with text "
+                     "columns, or the account may not see it.\n"));
 }
 
 void TestCheckFileDatabase::aTextArrivesAsItIsUnlessItIsFlagged()

@@ -1112,7 +1112,8 @@ void TestExplain::aServerInAnotherTimeZoneIsRefused()
     QCOMPARE(
         run.err,
         QString("mirovahrctl: explain: The site's server (time zone -11:30) and this program "
-                "disagree about when days begin. Run it with the TZ of the attendance server.\n"));
+                "disagree about when days begin. Run this program with the TZ of the attendance "
+                "server.\n"));
 }
 
 void TestExplain::aDatabaseWithoutATableBreaksTheContract_data()

@@ -135,8 +135,8 @@ void TestForce::aFlagThatIsAlreadySetIsReported()
     const ToolRun run = force();
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(sentences(run).first(),
-             QString("The flag was set already: the plugin has not yet come to it, or is just "
-                     "synchronising."));
+             QString("The flag was already set: the plugin has not acted on it yet, or is "
+                     "synchronising now."));
 }
 
 void TestForce::thePluginObeysTheFlag()
@@ -189,8 +189,7 @@ void TestForce::aConfigurationThatKeepsThePluginFromActingIsReported_data()
     QTest::addColumn<QString>("rule");
     QTest::addColumn<QString>("message");
     QTest::newRow("disabled") << QByteArray("enabled=0\n") << "disabled"
-                              << "The configuration says that the plugin is disabled: it does not "
-                                 "tick.";
+                              << "The configuration disables the plugin: it does not tick.";
     QTest::newRow("test mode") << QByteArray("testMode=1\n") << "test-mode"
                                << "Test mode is on: people are only logged, not written.";
 }
@@ -213,10 +212,11 @@ void TestForce::withoutConfigurationThePluginHasItsDefaults()
     QVERIFY(QFile::remove(m_ini));
     const ToolRun run = force();
     COMPARE_EXIT(run, ExitStatus::Fine);
-    QCOMPARE(sentences(run).first(),
-             QStringLiteral("There is no file %1 here: what follows holds for a plugin with its "
-                            "defaults.")
-                 .arg(m_ini));
+    QCOMPARE(
+        sentences(run).first(),
+        QStringLiteral(
+            "There is no file %1 here: the following holds for a plugin with default settings.")
+            .arg(m_ini));
 }
 
 void TestForce::aMissingExportIsReported()
@@ -225,10 +225,10 @@ void TestForce::aMissingExportIsReported()
     const ToolRun run = force();
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(messages(run, "no-export"),
-             QStringList(QStringLiteral("There is no export %1 now. Unless HR leaves one before "
-                                        "that tick, nothing is synchronised, and the flag is taken "
-                                        "back all the same.")
-                             .arg(m_export.path())));
+             QStringList(
+                 QStringLiteral("There is no export %1 now. Unless HR delivers one before that "
+                                "tick, nothing is synchronised, and the flag is cleared even so.")
+                     .arg(m_export.path())));
 }
 
 void TestForce::anExportCommandExcusesAMissingExport()
@@ -237,7 +237,7 @@ void TestForce::anExportCommandExcusesAMissingExport()
     configure("syncCommand=\"/usr/bin/export\"\nsyncCommandRun=1\n");
     const ToolRun run = force();
     COMPARE_EXIT(run, ExitStatus::Fine);
-    QCOMPARE(sentences(run).last(), QString("It runs the export command first."));
+    QCOMPARE(sentences(run).last(), QString("The plugin runs the export command first."));
 }
 
 void TestForce::aFlagThatIsResetAtOnceIsReported()
@@ -246,8 +246,8 @@ void TestForce::aFlagThatIsResetAtOnceIsReported()
     const ToolRun run = force();
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(messages(run, "changed-meanwhile"),
-             QStringList("The flag was written and is gone again: a synchronisation that had begun "
-                         "before has just ended and taken it back."));
+             QStringList("The flag was set and is cleared again: a synchronisation that was "
+                         "already running has just ended and cleared it."));
     QCOMPARE(run.json().value("verdict").toString(),
              QString("No forced synchronisation is pending."));
 }
@@ -258,8 +258,7 @@ void TestForce::aFlagThatIsSetAgainAtOnceIsReported()
     const ToolRun run = force({"--clear"});
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(messages(run, "changed-meanwhile"),
-             QStringList("The flag was taken back and is set again: somebody else has just set "
-                         "it."));
+             QStringList("The flag was cleared and is set again: somebody else has just set it."));
 }
 
 void TestForce::anAccountThatMayNotWriteIsReported()

@@ -322,8 +322,9 @@ void TestGate::everyReasonIsReported()
     for (const QJsonValue &finding : run.findings())
         messages << finding.toObject()["message"].toString();
     const QStringList expected{
-        "The last line has no line feed at its end.",
-        "40 lines (40.0 %) with people are gone since the last admitted file, where at most 50 and "
+        "The last line does not end with a line feed.",
+        "40 lines (40.0 %) with people are missing compared with the last admitted file, where at "
+        "most 50 and "
         "5 % may.",
         "40 people (40.0 %) leave, where at most 50 and 5 % may.",
         "30 people (30.0 %) get another cost centre, where at most 100 and 10 % may."};
@@ -428,7 +429,7 @@ void TestGate::aFileOfMoreThanOneGibibyteIsRefused()
     const ToolRun run = m_site->run({"--accept"});
     compare(run, {"file-too-long"});
     QCOMPARE(run.findings()[0].toObject()["message"].toString(),
-             QString("The file is longer than 1 GiB, and the plugin reads no further."));
+             QString("The file is larger than 1 GiB; the plugin reads no further."));
     QCOMPARE(m_site->copies().size(), 1);
 }
 
@@ -485,11 +486,12 @@ void TestGate::acceptOverridesWhatHasChanged_data()
     QTest::newRow("nothing to override") << GatePeople::file(people) << QStringList();
     QTest::newRow("truncated") << GatePeople::file(people).chopped(1)
                                << QStringList("The last line has no line feed at its end");
-    QTest::newRow("lines lost")
-        << GatePeople::file(people.mid(10))
-        << QStringList{"10 lines (50.0 %) with people are gone since the last admitted file, where "
-                       "at most 50 and 5 % may",
-                       "10 people (50.0 %) leave, where at most 50 and 5 % may"};
+    QTest::newRow("lines lost") << GatePeople::file(people.mid(10))
+                                << QStringList{
+                                       "10 lines (50.0 %) with people are missing compared with "
+                                       "the last admitted file, where "
+                                       "at most 50 and 5 % may",
+                                       "10 people (50.0 %) leave, where at most 50 and 5 % may"};
     QTest::newRow("leaving") << GatePeople::file(changed(20, 20, state, "4"))
                              << QStringList("20 people (100.0 %) leave, where at most 50 and 5 % "
                                             "may");
@@ -515,7 +517,7 @@ void TestGate::acceptOverridesWhatHasChanged()
         if (finding.toObject()["rule"] == "unchanged")
             continue;
         QCOMPARE(finding.toObject()["severity"].toString(), QString("warning"));
-        QCOMPARE(finding.toObject()["advice"].toString(), QString("Set aside by --accept."));
+        QCOMPARE(finding.toObject()["advice"].toString(), QString("Overridden by --accept."));
     }
     QCOMPARE(m_site->status()["overridden"].toVariant().toStringList(), overridden);
     const QJsonObject last = m_site->status()["lastAdmitted"].toObject();
@@ -573,23 +575,24 @@ void TestGate::theReportForPeople()
         QString(
             "Gate from %1 to %2\n%3\n\n"
             "Decision\n--------\n"
-            "error: 1 line (25.0 %) with people is gone since the last admitted file, where at "
+            "error: 1 line (25.0 %) with people is missing compared with the last admitted file, "
+            "where at "
             "most 50 and 5 % may. [lines-lost]\n"
-            "    Ask HR; if it is meant so, run the gate once with --accept.\n"
+            "    Ask HR; if the change is intended, run the gate once with --accept.\n"
             "error: 1 person (25.0 %) leaves, where at most 50 and 5 % may. [people-leaving]\n"
-            "    Ask HR; if it is meant so, run the gate once with --accept.\n"
+            "    Ask HR; if the change is intended, run the gate once with --accept.\n"
             "error: 1 person (25.0 %) gets another cost centre, where at most 100 and 10 % may. "
             "[people-moving]\n"
-            "    Ask HR; if it is meant so, run the gate once with --accept.\n"
-            "note: An earlier file lay in its place, which the plugin has not read or "
-            "does not remove. It stays there. [unread]\n"
+            "    Ask HR; if the change is intended, run the gate once with --accept.\n"
+            "note: An earlier file was still in place, which the plugin has not read or does not "
+            "remove. It remains. [unread]\n"
             "note: 1 line of the file does not arrive as it should. [rejected-lines]\n"
             "    Send HR the file %4.\n\n"
             "HR's file\n---------\n"
             "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
             "Not arriving as they should: 1\n\n"
             "Compared with the last admitted file\n------------------------------------\n"
-            "People in the last one: 4\nOf them at work: 4\nLines lost: 1\n"
+            "People in the last admitted file: 4\nEmployed people in it: 4\nLines lost: 1\n"
             "People leaving: 1\nPeople moving: 1\n"
             "Leaving:\n"
             "Person  Cost centre\n------  -----------\n1003.1  120\n"
@@ -622,15 +625,16 @@ void TestGate::aRunWithoutFindingsIsPlain()
     m_site->deliver(GatePeople::some(3));
     const ToolRun run = runTool(m_site->arguments());
     COMPARE_EXIT(run, ExitStatus::Fine);
-    QCOMPARE(run.out.section('\n', 2),
-             QString("\nHR's file\n---------\n"
-                     "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
-                     "Not arriving as they should: 0\n\n"
-                     "Compared with the last admitted file\n"
-                     "------------------------------------\n"
-                     "People in the last one: 2\nOf them at work: 2\nLines lost: 0\n"
-                     "People leaving: 0\nPeople moving: 0\n\n"
-                     "The file was admitted and published: 3 people.\n"));
+    QCOMPARE(
+        run.out.section('\n', 2),
+        QString("\nHR's file\n---------\n"
+                "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
+                "Not arriving as they should: 0\n\n"
+                "Compared with the last admitted file\n"
+                "------------------------------------\n"
+                "People in the last admitted file: 2\nEmployed people in it: 2\nLines lost: 0\n"
+                "People leaving: 0\nPeople moving: 0\n\n"
+                "The file was admitted and published: 3 people.\n"));
 }
 
 void TestGate::badUsageIsRefused_data()
@@ -642,16 +646,16 @@ void TestGate::badUsageIsRefused_data()
     const QString percent = "--%1 takes a percentage from 0 to 100.";
 
     QTest::newRow("no --from") << QStringList{"--to", "/a/ron.data"}
-                               << "--from is missing; --help explains.";
+                               << "Missing option --from; see --help.";
     QTest::newRow("no --to") << QStringList{"--from", "/a/hr.txt"}
-                             << "--to is missing; --help explains.";
+                             << "Missing option --to; see --help.";
     QTest::newRow("an empty --to")
-        << QStringList{"--from", "/a/hr.txt", "--to", ""} << "--to is missing; --help explains.";
+        << QStringList{"--from", "/a/hr.txt", "--to", ""} << "Missing option --to; see --help.";
     QTest::newRow("a folder for --to")
         << QStringList{"--from", "/a/hr.txt", "--to", "/a/"} << "--to names no file.";
     QTest::newRow("one file for both") << QStringList{"--from", "/a/x", "--to", "/a/../a/x"}
                                        << "--from and --to name the same file.";
-    const QString over = "--rejects would be written over the export; name another file.";
+    const QString over = "--rejects would overwrite the export; name another file.";
     QTest::newRow("the rejects over HR's file")
         << paths + QStringList{"--rejects", "/a//hr.txt"} << over;
     QTest::newRow("the rejects over the plugin's file")

@@ -270,7 +270,7 @@ void TestGateFaults::aFileThatIsWrittenMeanwhileIsRefused()
     run.setVariable("FAULTY_APPEND", site->hrFile());
     runFaulty(run, *site, {});
     COMPARE_STATUS(run, 5);
-    QVERIFY2(run.output().contains("error: The file was changed while it was read. "
+    QVERIFY2(run.output().contains("error: The file changed while it was being read. "
                                    "[changed-meanwhile]\n"),
              run.report().constData());
     QVERIFY(!site->isPublished());

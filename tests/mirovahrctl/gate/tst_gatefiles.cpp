@@ -239,8 +239,8 @@ void TestGateFiles::anEarlierFileIsReplaced()
     QCOMPARE(m_site->published(), GatePeople::file(GatePeople::some(4)));
     QCOMPARE(permissionsOf(m_site->target()), 0640U);
     QCOMPARE(run.findingsOf("unread").value(0)["message"].toString(),
-             QString("An earlier file lay in its place, which the plugin has not read or does not "
-                     "remove. It was replaced."));
+             QString("An earlier file was still in place, which the plugin has not read or does "
+                     "not remove. It was replaced."));
 }
 
 void TestGateFiles::aLinkInThePlaceOfTheFileIsNotFollowed()
@@ -451,8 +451,8 @@ void TestGateFiles::theRejectsAreWritten()
     const QByteArray rejects = contentOf(m_site->inState("rejects.txt"));
     QVERIFY(rejects.startsWith("# Lines of the export export.txt that do not arrive in the "
                                "attendance system as they should.\n# Checked on "));
-    QVERIFY(rejects.endsWith("\n# Line 1: The line has 3 fields instead of 18. Empty fields must "
-                             "be there, too, each with its |.\n1|2|\xFF\n\n# 1 line.\n"));
+    QVERIFY(rejects.endsWith("\n# Line 1: The line has 3 fields instead of 18. Write empty fields "
+                             "too, each with its |.\n1|2|\xFF\n\n# 1 line.\n"));
     QCOMPARE(run.findingsOf("rejected-lines").value(0)["advice"].toString(),
              "Send HR the file " + m_site->inState("rejects.txt") + '.');
 
@@ -559,7 +559,7 @@ void TestGateFiles::anUnusableFolderIsAFailure_data()
     QTest::newRow("the state below a missing folder")
         << "--state"
         << "no/state"
-        << "'%1/state' cannot be made: No such file or directory";
+        << "'%1/state' cannot be created: No such file or directory";
     QTest::newRow("the state in the place of a file")
         << "--state"
         << "hr/export.txt"
@@ -614,8 +614,8 @@ void TestGateFiles::anUntrustworthyFolderIsAFailure()
     QCOMPARE(m_site->names(real).isEmpty(), !trusted);
     const QString error = isLink
         ? QString("'%1' cannot be opened as a folder: Not a directory")
-        : QString("The folder '%1' belongs to somebody else, or everybody may write there: what "
-                  "the gate keeps would be worth nothing");
+        : QString("The folder '%1' belongs to somebody else, or everybody may write to it: the "
+                  "gate could not trust its own files there");
     if (!trusted)
         QCOMPARE(run.err,
                  "mirovahrctl: gate: " + error.arg(m_site->state()) + ". Nothing was published.\n");
@@ -670,12 +670,13 @@ void TestGateFiles::rootLeavesNothingInAFolderThatSomebodyElseMade()
     QCOMPARE(m_site->names(path).isEmpty(), isRoot);
     QCOMPARE(m_site->isPublished(), !isRoot);
     if (isRoot)
-        QCOMPARE(run.err,
-                 QString("mirovahrctl: gate: The folder '%1' belongs neither to root nor to the "
-                         "owner of the folder above, so anybody may have made it. Run the gate as "
-                         "its owner if that is right, or give the folder to root. Nothing was "
-                         "published.\n")
-                     .arg(path));
+        QCOMPARE(
+            run.err,
+            QString("mirovahrctl: gate: The folder '%1' belongs neither to root nor to the owner "
+                    "of its parent folder, so anybody may have created it. Run the gate as "
+                    "its owner if that is right, or give the folder to root. Nothing was "
+                    "published.\n")
+                .arg(path));
 }
 
 void TestGateFiles::aFolderOfTheOwnerOfTheFolderAboveIsTrusted()

@@ -141,11 +141,13 @@ void TestGateWorker::statusReportsTheGate()
     COMPARE_EXIT(site.run(), ExitStatus::GuardTripped);
     const ToolRun refused = runTool(status);
     COMPARE_EXIT(refused, ExitStatus::Findings);
-    QCOMPARE(refused.findingsOf("gate-refused").value(0)["message"].toString(),
-             QString("The gate has refused the last file: The last line has no line feed at its "
-                     "end; 3 lines (10.0 %) with people are gone since the last admitted file, "
-                     "where at most 50 and 5 % may; 3 people (10.0 %) leave, where at most 50 and "
-                     "5 % may."));
+    QCOMPARE(
+        refused.findingsOf("gate-refused").value(0)["message"].toString(),
+        QString(
+            "The gate has refused the last file: The last line has no line feed at its "
+            "end; 3 lines (10.0 %) with people are missing compared with the last admitted file, "
+            "where at most 50 and 5 % may; 3 people (10.0 %) leave, where at most 50 and "
+            "5 % may."));
     QCOMPARE(refused.json()["facts"].toObject()["admittedLines"].toInt(), 30);
 }
 

@@ -152,7 +152,8 @@ void TestPreview::theExportStaysAndNoCommandIsRun()
     COMPARE_STATUS(preview, 1);
     QCOMPARE(content(m_bench.exportFile().path()), before);
     QVERIFY(!QFileInfo::exists(path("written")));
-    QVERIFY(preview.output().contains("It was not run: this is the preview of the file as it is."));
+    QVERIFY(preview.output().contains(
+        "It was not run: this is the preview of the file as it is."));
     QVERIFY(preview.output().contains("The plugin would remove the export after reading it."));
 }
 
@@ -292,7 +293,8 @@ void TestPreview::anOffsetOfTheSiteThatTheProgramDoesNotHaveIsRefused()
     QCOMPARE(
         preview.errors(),
         QString("mirovahrctl: preview: The site's server (time zone -11:30) and this program "
-                "disagree about when days begin. Run it with the TZ of the attendance server.\n"));
+                "disagree about when days begin. Run this program with the TZ of the attendance "
+                "server.\n"));
 }
 
 void TestPreview::whatCannotBeUsedIsRefusedAtOnce_data()

@@ -195,7 +195,7 @@ void TestPreviewRefusals::anotherTimeZone()
     QCOMPARE(refusal().status, ExitStatus::Usage);
     QCOMPARE(refusal().sentence,
              QString("The site's server (time zone -11:30) and this program disagree about when "
-                     "days begin. Run it with the TZ of the attendance server"));
+                     "days begin. Run this program with the TZ of the attendance server"));
 }
 
 void TestPreviewRefusals::peopleWhoCannotBeLoaded()

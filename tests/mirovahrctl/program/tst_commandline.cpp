@@ -40,14 +40,14 @@ private:
 
 namespace {
 
-const char kStatuses[] = "Exit status:\n"
-                         "  0  Nothing to object to\n"
-                         "  1  There are findings: somebody should look at them\n"
-                         "  2  The command line, a file that it names or the configuration is of "
-                         "no use\n"
-                         "  3  The database cannot be reached or used\n"
-                         "  4  The database is not what the plugin relies on\n"
-                         "  5  A guard refused what was asked for; nothing was changed\n";
+const char kStatuses[] =
+    "Exit status:\n"
+    "  0  No findings\n"
+    "  1  There are findings that need attention\n"
+    "  2  The command line, a file that it names, or the configuration cannot be used\n"
+    "  3  The database cannot be reached or used\n"
+    "  4  The database violates what the plugin relies on\n"
+    "  5  A safeguard refused the request; nothing was changed\n";
 
 } // namespace
 
@@ -120,7 +120,7 @@ void TestCommandLine::withoutASubcommandThereIsNothingToDo()
 {
     const ToolRun run = runTool({});
     COMPARE_EXIT(run, ExitStatus::Usage);
-    QCOMPARE(run.err, QString("mirovahrctl: Name a subcommand; --help lists them.\n"));
+    QCOMPARE(run.err, QString("mirovahrctl: No subcommand given; --help lists them.\n"));
 }
 
 void TestCommandLine::anUnknownSubcommandIsRefused()

@@ -181,7 +181,7 @@ void TestConnectionFile::aPasswordThatEverybodyCanReadIsNotUsed()
     COMPARE_EXIT(run, ExitStatus::NoDatabase);
     QVERIFY2(run.err.startsWith(QStringLiteral("mirovahrctl: status: Warning: Every user of the "
                                                "machine can read '%1': the password in it is not "
-                                               "used. Take the right away (chmod o-r).\n")
+                                               "used. Remove the permission (chmod o-r).\n")
                                     .arg(named())),
              run.report().constData());
     QVERIFY2(run.err.contains("(using password: NO)"), run.report().constData());

@@ -37,7 +37,7 @@ void makeFile(const QString &path, mode_t mode)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || ::chmod(QFile::encodeName(path).constData(), mode) != 0)
-        qFatal("%s cannot be made", qPrintable(path));
+        qFatal("%s cannot be created", qPrintable(path));
 }
 
 } // namespace

@@ -169,7 +169,7 @@ void TestUnreadableExport::aFileOfManyGigabytesIsRefused_data()
     QTest::newRow("check-file") << "check-file" << 2 << tooLong;
     QTest::newRow("explain") << "explain" << 2 << tooLong;
     QTest::newRow("gate") << "gate" << 5
-                          << "The file is longer than 1 GiB, and the plugin reads no further. "
+                          << "The file is larger than 1 GiB; the plugin reads no further. "
                              "[file-too-long]";
     QTest::newRow("preview") << "preview" << 2
                              << "'%1' cannot be read to its end: the plugin would log "

@@ -130,7 +130,7 @@ void TestStatus::theTextForPeopleIsPlain()
                      "Vacation balances corrected today: 0\n"
                      "Entries in the terminal queue: 1\n"
                      "Oldest entry of the terminal queue: 2027-01-15T05:13:20Z\n\n"
-                     "Nothing to object to.\n"));
+                     "No findings.\n"));
 }
 
 void TestStatus::everythingIsCounted()
@@ -349,10 +349,10 @@ void TestStatus::theGatesTimeCountsWhereItIsKnown()
     const auto gate = GateStatus::parse(known ? R"({"lastAdmitted": {"time": ")"
                                                 + admitted.toString(Qt::ISODate).toUtf8() + "\"}}"
                                               : QByteArray("{}"));
-    const StatusAssessment judgement =
+    const StatusAssessment assessment =
         StatusAssessment::of(data, &*gate, {3600, std::nullopt}, kNow - 1000);
-    QCOMPARE(judgement.findings.size(), 1);
-    QCOMPARE(judgement.findings.first().message, message);
+    QCOMPARE(assessment.findings.size(), 1);
+    QCOMPARE(assessment.findings.first().message, message);
 }
 
 void TestStatus::aStatusFileIsReadTolerantly_data()
@@ -382,10 +382,10 @@ void TestStatus::anUnreadableStatusFileIsReported_data()
     QTest::newRow("no file") << QByteArray()
                              << "The gate's status file '%1' cannot be read: No such file or "
                                 "directory";
-    QTest::newRow("no JSON") << QByteArray("admitted") << "'%1' is no status file of the gate";
+    QTest::newRow("no JSON") << QByteArray("admitted") << "'%1' is not a status file of the gate";
     QTest::newRow("cut off") << QByteArray(R"({"result": "admi)")
-                             << "'%1' is no status file of the gate";
-    QTest::newRow("no object") << QByteArray("[]") << "'%1' is no status file of the gate";
+                             << "'%1' is not a status file of the gate";
+    QTest::newRow("no object") << QByteArray("[]") << "'%1' is not a status file of the gate";
 }
 
 void TestStatus::anUnreadableStatusFileIsReported()
@@ -414,7 +414,7 @@ void TestStatus::wrongUsage_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("reason");
     QTest::addColumn<QString>("line");
-    const QString plain = "The command line makes no sense: see mirovahrctl status --help";
+    const QString plain = "Invalid command line: see mirovahrctl status --help";
     QTest::newRow("an unknown option")
         << QStringList{"--no-such"} << "Unknown option 'no-such'" << plain;
     QTest::newRow("an argument") << QStringList{"now"} << "'now' is one argument too many" << plain;
