@@ -9,18 +9,18 @@ class QVariant;
 
 /// A file that describes a connection to the attendance database, in the form of the database
 /// server's own option files: a group [client] that has a key for each database option of the
-/// command lines, and the key "password". Other groups are left alone. Read with QSettings (UTF-8),
+/// command lines, and the key "password". Other groups are ignored. Read with QSettings (UTF-8),
 /// as the plugin's INI file is.
 class ConnectionFile {
 public:
-    /// Reads the file. Returns what is wrong with it, a sentence without its full stop; empty when
-    /// all is well.
+    /// Reads the file. Returns what is wrong with it, a sentence without its full stop; empty on
+    /// success.
     QString read(const QString &path);
 
-    /// What the file says, but for the password.
+    /// The options in the file, without the password.
     const DatabaseOptions &options() const { return m_options; }
 
-    /// Reads the password: the file's own, or that of the file that it names. Its own is not taken
+    /// Reads the password: the file's own, or that of the file that it names. Its own is ignored
     /// when every user of the machine can read it; \a warning then says so, a sentence without its
     /// full stop. Returns what is wrong, as read() does.
     QString readPassword(QString &password, QString &warning) const;

@@ -26,7 +26,7 @@ public:
     /// Whether Qt's driver for MySQL and MariaDB is installed.
     static bool isDriverAvailable();
 
-    /// What to tell a user without it: a sentence without its full stop.
+    /// The advice for a user without it: a sentence without its full stop.
     static QString missingDriverText();
 
 private:

@@ -40,10 +40,10 @@ void readText(const QCommandLineParser &parser, const char *name, QString &value
         value = parser.value(option);
 }
 
-/// Puts what the command line says in place of what the file says.
+/// Replaces the options of the file by those of the command line. Returns what is wrong with them.
 QString readCommandLine(const QCommandLineParser &parser, DatabaseOptions &options)
 {
-    // Host and port, or a socket: one of the command line does not go with the other of the file.
+    // Host and port, or a socket: those of the command line replace either of the file.
     if (parser.isSet(QStringLiteral("host")) || parser.isSet(QStringLiteral("socket"))) {
         options.host.clear();
         options.socket.clear();
@@ -59,7 +59,7 @@ QString readCommandLine(const QCommandLineParser &parser, DatabaseOptions &optio
     return {};
 }
 
-/// What is still to be named; empty when nothing is.
+/// Which option is missing, a sentence without its full stop; empty when none is.
 QString missing(const DatabaseOptions &options)
 {
     if (options.host.isEmpty() && options.socket.isEmpty())
@@ -71,7 +71,7 @@ QString missing(const DatabaseOptions &options)
     return {};
 }
 
-/// What a complaint about a missing option is silent about: the file that was not read.
+/// The end of an error about a missing option: the connection file that was not read.
 QString unreadFile(const QString &file, const DatabaseSources &sources)
 {
     if (!file.isEmpty() || sources.file.isEmpty())

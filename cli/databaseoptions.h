@@ -5,6 +5,7 @@
 
 class QCommandLineParser;
 
+/// The largest TCP port.
 constexpr uint kLargestPort = 65535;
 
 /// How to reach the attendance database.
@@ -21,25 +22,25 @@ struct DatabaseOptions {
 /// Where a program finds its connection besides on its command line.
 struct DatabaseSources {
     const char *passwordVariable; ///< environment variable that holds the password
-    QString file; ///< ConnectionFile that is read when no other is named; empty for none
+    QString file; ///< the ConnectionFile that is read by default; empty for none
 };
 
 /// Adds the options that name the attendance database. There is none for the password itself:
 /// every user of the machine can read a command line.
 void addDatabaseOptions(QCommandLineParser &parser, const DatabaseSources &sources);
 
-/// Whether the command line asks for a database. A program that can do without one looks here
-/// before it reads the options: a file that lies in its place is no such wish.
+/// Whether the command line names a database. A program that can do without one checks this before
+/// it reads the options: the connection file alone does not request one.
 bool hasDatabaseOptions(const QCommandLineParser &parser);
 
-/// Reads the options, each from the command line or else from the connection file: the one that the
-/// command line names, or else that of the sources if it is there.
+/// Reads each option from the command line, or else from the connection file: the one that the
+/// command line names, or else that of the sources if it exists.
 ///
 /// The password is that of --password-file, or else of the environment variable, or else of the
 /// connection file when the user is the file's, too. The variable is removed, so that child
 /// processes do not inherit it.
 ///
-/// Returns what does not make sense, a sentence without its full stop; empty when all is well.
-/// \a warning is such a sentence when something was left out on purpose.
+/// Returns what is wrong, a sentence without its full stop; empty on success. \a warning is such a
+/// sentence when something was ignored on purpose.
 QString readDatabaseOptions(const QCommandLineParser &parser, const DatabaseSources &sources,
                             DatabaseOptions &options, QString &warning);

@@ -3,5 +3,5 @@
 #include <QString>
 
 /// Reads a password, the first line of a file. Returns why that fails, a sentence without its full
-/// stop; empty when it does not.
+/// stop; empty on success.
 QString readPasswordFile(const QString &path, QString &password);

@@ -5,17 +5,18 @@
 
 class QCommandLineParser;
 
-/// What every program answers about itself: -h and --help, or the word "help" alone, and -v and
+/// The options that every program has: -h and --help, or the word "help" alone, and -v and
 /// --version.
 namespace StandardOptions {
 
+/// Adds the options to a parser.
 void addTo(QCommandLineParser &parser);
 
-/// Whether a command line asks for the help text. \a arguments are those that were parsed, the
+/// Whether a command line requests the help text. \a arguments are those that were parsed, the
 /// program's name first.
 bool wantsHelp(const QCommandLineParser &parser, const QStringList &arguments);
 
-/// Whether a command line that was parsed asks for the version.
+/// Whether a parsed command line requests the version.
 bool wantsVersion(const QCommandLineParser &parser);
 
 /// The answer to --version, such as "yavhost 1.5.3", without a line feed.

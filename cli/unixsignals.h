@@ -22,7 +22,7 @@ public:
     int last() const;
 
 Q_SIGNALS:
-    /// The signal of this number came.
+    /// A signal of this number arrived.
     void received(int signalNumber);
 
 private:

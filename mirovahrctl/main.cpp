@@ -11,10 +11,10 @@
 
 namespace {
 
-/// Below this, lines run over the terminal's edge.
+/// Narrower terminals wrap the lines themselves.
 constexpr int kNarrowest = 40;
 
-/// How wide standard output is.
+/// The width of standard output in characters.
 int columns()
 {
     winsize size = {};

@@ -7,11 +7,11 @@
 
 class Console;
 
-/// One thing that mirovahrctl can do.
+/// A subcommand of mirovahrctl.
 struct Subcommand {
     const char *name; ///< as on the command line
     const char *summary; ///< one line for the overview, without a full stop
-    /// Does it. The arguments are those after the name. Options and texts are all its own: see
+    /// Runs it with the arguments after its name. Options and help texts are its own: see
     /// CommandLine.
     ExitStatus (*run)(const QStringList &arguments, Console &console);
 };
@@ -19,6 +19,6 @@ struct Subcommand {
 /// All of them, in the order of the overview.
 const QVector<Subcommand> &subcommands();
 
-/// The program without its process: picks the subcommand and runs it. The arguments are those after
-/// the program's name.
+/// The program without its process: finds the subcommand and runs it with the arguments after the
+/// program's name.
 ExitStatus runMirovahrctl(const QStringList &arguments, Console &console);

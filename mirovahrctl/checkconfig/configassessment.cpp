@@ -26,8 +26,8 @@ QStringList knownKeys()
     return keys;
 }
 
-/// The known key that somebody may have meant: the same letters in another case, or the same key
-/// in another group.
+/// The known key that was probably meant: the same letters in another case, or the same key in
+/// another group.
 QString meantKey(const QString &key)
 {
     const QString name = key.section(QLatin1Char('/'), -1);
@@ -254,7 +254,7 @@ bool ConfigAssessment::isList(const QString &key) const
 
 qint64 ConfigAssessment::lineOf(const QString &key) const
 {
-    // The last one: it is the one in force.
+    // The last one is in force.
     const auto found = std::find_if(m_lines.crbegin(), m_lines.crend(),
                                     [&key](const IniLine &line) { return line.key == key; });
     return found == m_lines.crend() ? 0 : found->number;

@@ -12,7 +12,7 @@
 class QSettings;
 
 /// What an INI file puts in force, and what is wrong with it. Reads the file as the plugin does,
-/// and looks at the files and folders that it names; nothing else.
+/// and examines the files and folders that it names; nothing else.
 class ConfigAssessment {
 public:
     explicit ConfigAssessment(const QString &path);
@@ -27,7 +27,7 @@ public:
     /// that puts in force ("inForce").
     Table keys() const;
 
-    /// Everything that is wrong, in the order of the lines; first what has no line.
+    /// All findings in the order of the lines; first those without a line.
     QVector<Finding> findings();
 
 private:

@@ -20,8 +20,8 @@ bool isExecutable(const QString &program)
     return !QStandardPaths::findExecutable(program).isEmpty();
 }
 
-/// Whether any user of the machine can put another file in the place of one in this folder. In a
-/// folder with the sticky bit that takes a file that is not there yet.
+/// Whether any user of the machine can replace a file in this folder. In a folder with the sticky
+/// bit only a file that does not exist yet.
 bool isOpenToAll(const QString &folder, bool holdsTheFile)
 {
     struct stat status = {};
@@ -30,7 +30,7 @@ bool isOpenToAll(const QString &folder, bool holdsTheFile)
     return holdsTheFile || !(status.st_mode & S_ISVTX);
 }
 
-/// The first folder on the way to the file that is open to all; empty when there is none.
+/// The first folder on the path to the file that is writable for everybody; empty for none.
 QString openFolder(const QString &file)
 {
     QDir folder = QFileInfo(file).absoluteDir();

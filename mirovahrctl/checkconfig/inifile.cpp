@@ -4,8 +4,8 @@
 
 namespace {
 
-/// The part of a section header between the brackets. "[General]" is where keys without a group
-/// stand.
+/// The part of a section header between the brackets. "[General]" holds the keys without a
+/// group.
 QString sectionName(const QString &line)
 {
     const QString name = line.mid(1, line.indexOf(QLatin1Char(']')) - 1).trimmed();

@@ -7,12 +7,12 @@
 struct IniLine {
     qint64 number = 0; ///< counted from 1
     QString key; ///< with its group in front, as in "MES/21"
-    QString value; ///< without white space at its ends; quotation marks and escapes as written
+    QString value; ///< trimmed; quotation marks and escapes as written
 };
 
-/// The lines of an INI file, for what QSettings does not tell: line numbers, keys that stand there
-/// twice, what a value looked like before it was taken apart. Empty when the file cannot be read.
+/// The lines of an INI file, for what QSettings does not report: line numbers, repeated keys,
+/// values before they are parsed. Empty when the file cannot be read.
 QVector<IniLine> readIniLines(const QString &path);
 
-/// Whether the value has this character outside quotation marks.
+/// Whether the value contains this character outside quotation marks.
 bool hasUnquoted(const QString &value, QChar c);

@@ -94,8 +94,8 @@ bool ExportScan::notePids()
     return !reader.hasFailed() || fail(reader.errorString());
 }
 
-/// Takes the two numbers only. A line that is dropped for another reason is noted, too; that does
-/// no harm.
+/// Reads only the two numbers. A line that is dropped for another reason is noted, too: that merely
+/// adds a candidate.
 void ExportScan::notePid(const BoundedLineReader &reader)
 {
     const QString identity = ExportLine::decode(identityOf(reader).constData());
@@ -133,7 +133,7 @@ bool ExportScan::checkLines(const LineListener &listener)
     return true;
 }
 
-/// The reader tells of a line that is too long only by leaving out its number.
+/// The reader skips a line that is too long: only its number is missing.
 void ExportScan::reportTooLong(qint64 from, qint64 to, const LineListener &listener)
 {
     for (qint64 number = from; number < to; ++number)

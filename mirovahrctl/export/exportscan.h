@@ -8,35 +8,37 @@
 class BoundedLineReader;
 class QFile;
 
-/// Goes over a whole export and tells of each line what the plugin makes of it. The memory that it
-/// takes does not depend on the length of the export.
+/// Scans a whole export and reports for each line what the plugin makes of it. Its memory does not
+/// depend on the length of the export.
 class ExportScan {
 public:
     struct Counts {
-        qint64 lines = 0; ///< with blank ones
+        qint64 lines = 0; ///< including blank ones
         qint64 records = 0; ///< lines that the plugin reads as a person
-        qint64 dropped = 0; ///< lines that it leaves out
-        qint64 rejected = 0; ///< lines that do not reach the database as they should
+        qint64 dropped = 0; ///< lines that it skips because of an error
+        qint64 rejected = 0; ///< lines with errors, dropped ones included
     };
 
     using LineListener = std::function<void(const CheckedLine &)>;
-    /// Is told how many of how many bytes are done.
+    /// Gets the bytes done, of the total of both passes.
     using ProgressListener = std::function<void(qint64 done, qint64 total)>;
 
     /// The file must be open and at its beginning.
     ExportScan(QFile &file, const ColumnWidths &widths);
 
+    /// Without a listener no progress is reported.
     void setProgressListener(const ProgressListener &listener) { m_progress = listener; }
 
-    /// Reads the export and hands its lines to the listener, in their order, blank ones left out.
-    /// False when the export cannot be read to its end; errorString() then says why, a part of a
-    /// sentence without its full stop.
+    /// Scans the export and passes its lines to the listener in order, without blank ones. False
+    /// when the export cannot be read to its end; errorString() then says why, part of a sentence
+    /// without its full stop.
     bool run(const LineListener &listener);
     QString errorString() const { return m_error; }
 
+    /// What run() has counted.
     const Counts &counts() const { return m_counts; }
 
-    /// What is to be said about the file as a whole, after run().
+    /// The findings about the file as a whole, after run().
     QVector<Finding> fileFindings() const;
 
 private:

@@ -14,7 +14,7 @@ namespace {
 
 using namespace ExportLine;
 
-/// What becomes of a person when a field cannot be read: the rest of a sentence.
+/// What an unreadable field means for the person: the end of a sentence.
 QString consequence(int field)
 {
     switch (field) {
@@ -59,8 +59,8 @@ QString balanceAdvice(const QString &text)
         : QStringLiteral("Write the balance as a number of days, as in 12.5.");
 }
 
-/// Whether the database gives the day back as it was written: the plugin reads Unix times as
-/// unsigned numbers of 32 bits, and 0 as no time.
+/// Whether the day survives being stored: the plugin reads Unix times as unsigned 32-bit numbers,
+/// and 0 as no time.
 bool isKept(const QDate &day)
 {
     if (day.year() > 1970 && day.year() < 2106)
@@ -196,7 +196,7 @@ void FieldRules::checkWidth(int field, const char *column)
 void FieldRules::checkDates()
 {
     checkDate(DatumNastupu, m_record.datumNastupu);
-    // Who stays has no leaving date, and who has no calendar has no beginning of it.
+    // A person who stays has no leaving date; without a calendar there is no start date of it.
     if (!m_parts.at(DatumVystupu).isEmpty())
         checkDate(DatumVystupu, m_record.datumVystupu);
     if (!m_parts.at(KalendarPlatnostOd).isEmpty() || m_record.kalendar != 0)
@@ -279,7 +279,7 @@ QString FieldRules::text(int field) const
     return m_parts.at(field).toString();
 }
 
-/// Says in a sentence why a field is no number, or none above 0.
+/// Why a field is not a number above 0, in a sentence.
 QString FieldRules::notANumber(int field) const
 {
     const QString text = this->text(field);

@@ -2,14 +2,15 @@
 
 #include "mirovahrctl/export/linecheck.h"
 
-/// The rules for the fields of one line that has all of them.
+/// The rules for the fields of one line with the right number of fields.
 class FieldRules {
 public:
-    /// \a record is what the plugin makes of the parts; findings go to the line. All four must
+    /// \a record: what the plugin reads from the parts; \a line gets the findings. All four must
     /// outlive the object.
     FieldRules(const ExportLine::Parts &parts, const MirovaRonRecord &record,
                const ColumnWidths &widths, CheckedLine &line);
 
+    /// Applies all rules.
     void check();
 
 private:

@@ -29,8 +29,8 @@ bool isUtf16(const QByteArray &raw)
     return raw.startsWith("\xFF\xFE") || raw.startsWith("\xFE\xFF");
 }
 
-/// Whether decoding had to replace bytes that are not UTF-8. A replacement character that stands in
-/// the export itself is one that HR's program has put there.
+/// Whether decoding replaced bytes that are not UTF-8. A replacement character in the export itself
+/// comes from HR's program and does not count.
 bool isDamaged(const QString &text, const QByteArray &raw)
 {
     return text.count(QChar::ReplacementCharacter) > raw.count(kReplacementCharacter);
@@ -130,7 +130,7 @@ CheckedLine LineCheck::tooLong(qint64 number)
 void LineCheck::checkText(const QString &text, CheckedLine &line) const
 {
     if (text.isEmpty()) {
-        // What stands behind a NUL byte is lost, so that such a line is more than an empty one.
+        // Text after a NUL byte is lost, so a line that has one is not blank.
         line.isBlank = !line.raw.contains('\0');
         return;
     }

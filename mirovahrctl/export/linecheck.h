@@ -13,19 +13,19 @@
 
 class BoundedLineReader;
 
-/// One line of an export, and what there is to say about it.
+/// One line of an export with its findings.
 struct CheckedLine {
     qint64 number = 0; ///< counted from 1
     QByteArray raw; ///< its bytes without the line ending; empty for a line that is too long
-    bool isBlank = false; ///< nothing but white space: no line at all to the plugin
-    std::optional<MirovaRonRecord>
-        record; ///< what the plugin reads; nothing when it drops the line
+    bool isBlank = false; ///< only white space: the plugin ignores the line
+    /// What the plugin reads; nothing when it drops the line.
+    std::optional<MirovaRonRecord> record;
     QVector<Finding> findings;
 
-    /// True when the plugin leaves the line out.
+    /// True when the plugin drops the line.
     bool isDropped() const { return !isBlank && !record; }
-    /// True when the line does not reach the database as it should: it is dropped, its statement
-    /// fails, or it is written over somebody else.
+    /// True when the line has an error: it is dropped, its statement fails, or it overwrites
+    /// another person.
     bool isRejected() const;
 
     /// Adds a finding about this line.
@@ -33,17 +33,16 @@ struct CheckedLine {
                  const QString &advice);
 };
 
-/// Looks at the lines of an export one by one. What it takes to see two lines side by side is in
-/// ExportScan.
+/// Checks the lines of an export one by one. Checks that compare lines are in ExportScan.
 class LineCheck {
 public:
-    /// \a widths: how long a text may be; see ColumnWidths.
+    /// \a widths: the maximum lengths of the texts.
     explicit LineCheck(const ColumnWidths &widths);
 
-    /// Looks at the reader's current line.
+    /// Checks the reader's current line.
     CheckedLine check(const BoundedLineReader &reader) const;
 
-    /// The line of this number, which the reader skipped because it is too long.
+    /// The result for a line that the reader skipped because it is too long.
     static CheckedLine tooLong(qint64 number);
 
 private:

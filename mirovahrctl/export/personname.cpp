@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Letters of European names that are no letter with an accent to Unicode.
+/// Letters of European names that Unicode does not decompose into a letter and an accent.
 struct Letter {
     ushort letter;
     const char *plain;

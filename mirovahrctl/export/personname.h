@@ -5,9 +5,9 @@
 
 class MirovaRonRecord;
 
-/// How people speak of a person: "1234.1 Jana Nováková".
+/// Payroll id and name, for people: "1234.1 Jana Nováková".
 QString personName(const MirovaRonRecord &record);
 
-/// The words of a name, so that those of two spellings can be compared: without accents, capital
-/// letters and whatever is no letter or digit.
+/// The words of a name, normalised so that two spellings can be compared: without accents, in lower
+/// case, letters and digits only.
 QStringList nameWords(const QString &name);

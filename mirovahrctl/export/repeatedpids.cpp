@@ -4,10 +4,10 @@
 
 namespace {
 
-// At most 8 MiB for each array. With a million people 1 in 60 is then a candidate without cause.
+// At most 8 MiB for each array. With a million people, 1 in 60 is then a false candidate.
 constexpr int kMostIndexBits = 26;
 
-/// Some hundred bits for a line, so that few people of one export share one.
+/// Some hundred bits for each line, so that few people of an export share one.
 int indexBits(qint64 bytes)
 {
     int bits = 10;
@@ -49,7 +49,7 @@ std::optional<RepeatedPids::First> RepeatedPids::first(const MirovaRonRecord &re
     return std::nullopt;
 }
 
-/// Multiplication spreads pids, which come in rows, over all bits.
+/// Multiplication spreads pids, which are often consecutive, over all bits.
 int RepeatedPids::indexOf(quint32 pid) const
 {
     return static_cast<int>((pid * 2654435769U) >> (32 - m_indexBits));

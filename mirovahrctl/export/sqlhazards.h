@@ -2,19 +2,19 @@
 
 #include <QString>
 
-/// What a text does to the plugin's SQL statements, which take texts as they are.
+/// What a text does to the plugin's SQL statements, which contain texts unescaped.
 namespace SqlHazards {
 
-/// True when the text has a mark such as "%1": the plugin takes it for a place of its statement
-/// that is still to be filled in.
+/// True when the text contains a placeholder such as "%1", which the plugin fills in with another
+/// value of the statement.
 bool hasPlaceholder(const QString &text);
 
-/// True when the text has a character above U+FFFF, such as an emoji: with the client library that
-/// Qt's driver has on Debian a connection speaks UTF-8 of three bytes only.
+/// True when the text contains a character above U+FFFF, such as an emoji: with the client library
+/// of Qt's driver on Debian a connection uses three-byte UTF-8.
 bool hasWideCharacter(const QString &text);
 
-/// True when a statement with this text fails or says something else: the text has an apostrophe, a
-/// backslash, a placeholder or a wide character.
+/// True when a statement with this text fails or changes its meaning: the text contains an
+/// apostrophe, a backslash, a placeholder or a wide character.
 bool breaksStatement(const QString &text);
 
 } // namespace SqlHazards

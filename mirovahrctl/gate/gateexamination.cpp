@@ -24,7 +24,7 @@ bool hasRule(const QVector<Finding> &findings, const char *rule)
     });
 }
 
-/// What a line looks like that was not written to its end.
+/// Whether the line looks as if it was not written to its end.
 bool isBroken(const CheckedLine &line)
 {
     return hasRule(line.findings, "field-count") || hasRule(line.findings, "line-too-long")
@@ -74,7 +74,7 @@ bool GateExamination::compareContents(QFile &newFile, QFile &oldFile)
         if (piece.isEmpty())
             break;
     }
-    // Seeking forgets the error.
+    // Seeking resets the error.
     if (newFile.error() != QFileDevice::NoError || !newFile.seek(0))
         return failReading(kCopy, newFile.errorString());
     if (oldFile.error() != QFileDevice::NoError || !oldFile.seek(0))

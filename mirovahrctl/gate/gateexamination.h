@@ -9,18 +9,18 @@ class GateFolder;
 class QFile;
 class RejectsWriter;
 
-/// Reads the gate's copy of HR's file to its end, as check-file does, and beside it the last
-/// admitted file.
+/// Reads the gate's copy of HR's file to its end, as check-file does, and the last admitted file to
+/// compare with.
 class GateExamination {
 public:
     GateExamination(GateFolder &folder, Console &console);
 
-    /// Both files lie in the folder; the second need not be there. False when one cannot be read;
+    /// Both files are in the folder; the second may be missing. False when one cannot be read;
     /// errorString() then says why, a sentence without its full stop.
     bool run(const QString &copy, const QString &lastAdmitted, RejectsWriter &rejects);
 
     const GateFacts &facts() const { return m_facts; }
-    /// Whether the two files are the same, byte for byte.
+    /// Whether the two files are equal, byte for byte.
     bool isUnchanged() const { return m_unchanged; }
     QString errorString() const { return m_error; }
 

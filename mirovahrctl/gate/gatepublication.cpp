@@ -5,7 +5,7 @@
 namespace {
 
 /// For the attendance server and, by the folder's group, for whoever delivers the export; not for
-/// everybody, since it is about people.
+/// everybody, since it holds personal data.
 constexpr mode_t kPermissions = 0640;
 
 constexpr int kPieceSize = 64 * 1024;
@@ -48,7 +48,7 @@ bool GatePublication::copy(QFile &source)
         const QByteArray piece = source.read(kPieceSize);
         if (piece.isEmpty())
             return source.error() == QFileDevice::NoError;
-        // Why it fails is gateReport by finish().
+        // finish() reports why it failed.
         if (m_file.device().write(piece) != piece.size())
             return true;
     }

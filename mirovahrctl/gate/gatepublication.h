@@ -5,21 +5,23 @@
 
 #include <QString>
 
-/// Puts an admitted file in the place where the plugin reads it.
+/// Publishes an admitted file where the plugin reads it.
 class GatePublication {
 public:
-    /// \a path is that place.
+    /// \a path: the file that the plugin reads.
     explicit GatePublication(const QString &path);
 
-    /// All return false when that is not possible; errorString() then says why, a sentence without
-    /// its full stop.
+    /// Opens the folder. All three return false when they fail; errorString() then says why, a
+    /// sentence without its full stop.
     bool open();
-    /// Writes the file beside its place, and waits until it is on the disk.
+    /// Copies the file to a temporary one beside it, and waits until that is on the disk.
     bool prepare(GateFolder &folder, const QString &copy);
+    /// Replaces the file that the plugin reads.
     bool publish();
 
+    /// Whether the file was replaced, even if publish() failed afterwards.
     bool isPublished() const { return m_file.isInPlace(); }
-    /// Whether a file lies in the place now.
+    /// Whether a published file exists now.
     bool isTaken() const { return m_folder.hasFile(m_name); }
     QString errorString() const { return m_error; }
 

@@ -5,10 +5,10 @@
 
 namespace {
 
-/// As many changes of one kind are shown.
+/// So many changes of each kind are shown.
 constexpr int kMostShown = 20;
 
-/// What stands above a list of changes.
+/// The sentence above a list of changes.
 void reportShown(Report &report, const QString &what, int count)
 {
     if (count > kMostShown) {

@@ -8,15 +8,16 @@
 
 class Report;
 
-/// What there is to tell of a run of the gate.
+/// The report of a run of the gate.
 struct GateReport {
     bool isAdmitted = false;
-    bool isUnchanged = false; ///< the file is the last admitted one
-    bool wasTaken = false; ///< a file lay in the place where the plugin reads
-    const GateFacts *facts = nullptr; ///< nothing when the file was not looked at
-    QString rejects; ///< path of the file with the rejected lines
-    QVector<GateReason> reasons; ///< against the file, also when they were overridden
+    bool isUnchanged = false; ///< the file equals the last admitted one
+    bool wasTaken = false; ///< a published file was still there
+    const GateFacts *facts = nullptr; ///< null when the file was not examined
+    QString rejects; ///< path of the file with the lines that have errors
+    QVector<GateReason> reasons; ///< to refuse the file, also when they were overridden
 
+    /// Writes and concludes the report. Returns the status to end with.
     ExitStatus writeTo(Report &report) const;
 
 private:

@@ -140,7 +140,7 @@ std::optional<ExitStatus> GateRun::examine()
 
 ExitStatus GateRun::decide()
 {
-    // What was let through once is let through again: with --accept, too.
+    // A file that was admitted once is admitted again, also one that needed --accept.
     const QVector<GateReason> reasons = m_examination.isUnchanged()
         ? QVector<GateReason>()
         : GateAssessment::assess(m_examination.facts(), m_options.limits, m_options.mayEndOpen);

@@ -19,14 +19,15 @@ struct GateOptions;
 
 /// One run of the gate.
 ///
-/// The order of its steps makes it safe to be killed between any two: what is published is always a
-/// whole file. An admitted file becomes the one to compare with before it is published; a run that
-/// does not get so far is made good by the next one, which finds the file unchanged and publishes
-/// it, also when it had been admitted by --accept.
+/// The order of its steps makes it safe to kill it between any two: what is published is always a
+/// complete file. An admitted file becomes the last admitted one before it is published. When a run
+/// is killed in between, the next one finds the file unchanged and publishes it, even if it was
+/// admitted by --accept.
 class GateRun {
 public:
     GateRun(const CommandLine &line, const GateOptions &options, Console &console);
 
+    /// Returns the status to end with.
     ExitStatus run();
 
 private:
@@ -44,8 +45,7 @@ private:
     ExitStatus refuse(const QVector<GateReason> &reasons);
     ExitStatus report(bool isAdmitted, const QVector<GateReason> &reasons);
     bool keepError(const QString &error);
-    /// Ends the run because something else than the file is wrong; what is known of that is
-    /// recorded if it can be.
+    /// Ends the run because something other than the file is wrong, and records that if possible.
     ExitStatus fail(const QString &sentence);
 
     const CommandLine &m_line;
@@ -62,5 +62,5 @@ private:
     QString m_error; ///< why a function returned false
     bool m_isLocked = false;
     bool m_isExamined = false;
-    bool m_wasTaken = false; ///< a file lay where the plugin reads when the run began
+    bool m_wasTaken = false; ///< a published file was there when the run began
 };

@@ -32,7 +32,7 @@ GateSource::GateSource(const QString &path)
 
 GateSource::Outcome GateSource::open()
 {
-    // A pipe in the place of the file must not hold up the attendance server.
+    // A pipe instead of the file must not block the attendance server.
     const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0 && (errno == ENOENT || errno == ENOTDIR))
         return Outcome::Missing;
@@ -52,7 +52,7 @@ bool GateSource::isTooLong() const
 bool GateSource::copyTo(QIODevice &target)
 {
     QByteArray piece(kPieceSize, Qt::Uninitialized);
-    // One that grows meanwhile has changed, whatever is copied of it.
+    // A file that grows meanwhile has changed, however much of it is copied.
     while (m_copied <= BoundedLineReader::kMostBytes) {
         const qint64 length = m_file.read(piece.data(), piece.size());
         if (length < 0)

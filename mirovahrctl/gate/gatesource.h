@@ -8,29 +8,31 @@
 
 class QIODevice;
 
-/// HR's file, which somebody may be writing or replacing at any moment. It is copied once, and only
-/// the copy is looked at.
+/// HR's file, which may be written or replaced at any moment. It is copied once, and only the copy
+/// is examined.
 class GateSource {
 public:
     enum class Outcome { Done, Missing, Failed };
 
     explicit GateSource(const QString &path);
 
-    /// Missing when there is no such regular file.
+    /// Opens the file. Missing when there is no such regular file.
     Outcome open();
     /// Whether the plugin would not read the file to its end; see BoundedLineReader.
     bool isTooLong() const;
-    /// False when reading or writing fails; \a target's owner looks which it was.
+    /// Copies the file. False when reading or writing fails; hasReadError() says which.
     bool copyTo(QIODevice &target);
-    /// Whether the file was written to or replaced since it was opened.
+    /// Whether the file was changed or replaced since it was opened.
     bool hasChanged() const;
 
+    /// When the file was last changed, as of open().
     QDateTime modified() const;
     /// Seconds from its last change to now; negative when that is in the future.
     qint64 age() const;
 
     /// Why opening or reading failed, a sentence without its full stop.
     QString errorString() const { return m_error; }
+    /// Whether opening or reading failed.
     bool hasReadError() const { return !m_error.isEmpty(); }
 
 private:

@@ -21,7 +21,7 @@ QString GateCopies::lastAdmitted()
 
 bool GateCopies::add(const QString &fileName, const QDateTime &time)
 {
-    // Two files within a second: the name after the last one keeps their order.
+    // Two files within a second: the later name keeps their order.
     QDateTime free = time;
     bool exists = false;
     while (!m_folder.link(fileName, copyName(free), exists)) {

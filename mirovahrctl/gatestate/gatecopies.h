@@ -18,9 +18,9 @@ public:
     static QString lastAdmitted();
 
     /// Gives an admitted file, which is never written to again, a second name. Both return false
-    /// when that is not possible; the folder then says why.
+    /// when they fail; the folder then says why.
     bool add(const QString &fileName, const QDateTime &time);
-    /// Removes all but the newest ones.
+    /// Removes all but the newest \a keep copies.
     bool prune(qint64 keep);
 
 private:

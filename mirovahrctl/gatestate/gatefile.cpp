@@ -54,7 +54,7 @@ GateFile::~GateFile()
 
 bool GateFile::create()
 {
-    // Neither follows a link nor takes a file that is there already.
+    // Neither follows a link nor opens an existing file.
     const int fd = ::openat(m_folder.m_fd, QFile::encodeName(m_temporaryName).constData(),
                             O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kWhileWriting);
     if (fd < 0)

@@ -7,9 +7,9 @@
 
 class GateFolder;
 
-/// A file that takes its place in a folder only when it is whole and on the disk. Until then it has
-/// a name of its own there, which nobody can foresee; without putInPlace() it goes with the object.
-/// A run that is killed leaves it: see GateFolder::removeLeftovers().
+/// A file that appears under its name only when it is complete and on the disk. Until then it has
+/// an unpredictable temporary name in the same folder; without putInPlace() the destructor removes
+/// it. A run that is killed leaves it behind: see GateFolder::removeLeftovers().
 ///
 /// Functions that return false leave a sentence without its full stop in errorString().
 class GateFile {
@@ -19,26 +19,28 @@ public:
     GateFile(const GateFile &) = delete;
     GateFile &operator=(const GateFile &) = delete;
 
+    /// Creates the temporary file.
     bool create();
-    /// Where the content is written to, between create() and finish().
+    /// Takes the content, between create() and finish().
     QIODevice &device() { return m_file; }
     /// Waits until the content is on the disk, and closes the file.
     bool finish();
-    /// Puts the file in the place of the old one, and waits until that is on the disk.
+    /// Replaces the old file, and waits until that is on the disk.
     bool putInPlace();
+    /// Whether the file has replaced the old one, even if it is not known to be on the disk.
     bool isInPlace() const { return m_inPlace; }
     /// Removes the file instead.
     bool discard();
 
-    /// What the file is called until it is in its place.
+    /// The file's name until putInPlace().
     QString temporaryName() const { return m_temporaryName; }
     QString errorString() const { return m_error; }
 
-    /// Whether \a entry is what a file \a name is called before it is in its place.
+    /// Whether \a entry is a temporary name of a file \a name.
     static bool isTemporaryName(const QString &entry, const QString &name);
 
 private:
-    /// Keeps in mind that writing has failed; a QFile forgets it when the next writing succeeds.
+    /// Remembers that a write has failed; QFile forgets it when the next one succeeds.
     class Device : public QFile {
     public:
         bool hasFailed() const { return m_failed; }

@@ -29,7 +29,7 @@ bool isPrivate(const struct stat &folder)
     return owned && (folder.st_mode & S_IWOTH) == 0;
 }
 
-/// True for what may be another file of root's, to which somebody has given one more name.
+/// True when somebody may have linked a file of root's to this name.
 bool hasOtherNames(int file)
 {
     struct stat status = {};
@@ -107,8 +107,8 @@ bool GateFolder::isOwnerTrusted()
     return false;
 }
 
-/// Root runs the gate by hand where the attendance server's user runs it otherwise, and must not
-/// leave anything that is closed to that user.
+/// Root may run the gate by hand where the attendance server's user runs it otherwise, and must not
+/// leave files that this user cannot open.
 bool GateFolder::takeOwnerOfParent()
 {
     struct stat parent = {};
@@ -205,7 +205,8 @@ bool GateFolder::removeLeftovers(const QString &name)
     });
 }
 
-/// In a folder that others may write to, too, theirs are left alone: they cannot be removed there.
+/// In a folder that others may write to as well, their files are left alone: this user may not be
+/// able to remove them.
 bool GateFolder::isLeftover(const QString &entry, const QString &name) const
 {
     struct stat status = {};

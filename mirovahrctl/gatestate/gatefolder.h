@@ -10,11 +10,11 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
-/// A folder in which the gate keeps or publishes files. It is opened once, and files are named in
-/// it from then on: whoever moves the folder or puts a link in its place changes nothing.
+/// A folder in which the gate keeps or publishes files. It is opened once, and files are opened
+/// relative to it from then on: moving the folder, or replacing it with a link, changes nothing.
 ///
-/// Root gives its files to the owner of the folder. That must be root or the owner of the folder
-/// above: where others may write, anybody may have made a folder beforehand.
+/// Root gives its files to the owner of the folder. That must be root or the owner of the parent
+/// folder: where others may write, anybody may have created a folder beforehand.
 ///
 /// Functions that return false leave a sentence without its full stop in errorString().
 class GateFolder {
@@ -26,17 +26,17 @@ public:
     GateFolder(const GateFolder &) = delete;
     GateFolder &operator=(const GateFolder &) = delete;
 
-    /// Opens a folder that is there.
+    /// Opens an existing folder.
     bool open(const QString &path);
 
-    /// Opens the folder that the other object has opened, wherever its path leads by now.
+    /// Opens the same folder as the other object, even if its path now leads elsewhere.
     bool openAgain(const GateFolder &folder);
 
-    /// Opens the folder of the gate's own files, which must be no link, belong to this user or to
-    /// root and not be writable for everybody. Makes it when it is missing.
+    /// Opens the folder of the gate's own files. It must not be a link, must belong to this user or
+    /// to root, and must not be writable for everybody. Creates it when it is missing.
     bool openPrivate(const QString &path);
 
-    /// Keeps other gates out until this object goes, or the process ends in whatever way.
+    /// Keeps other gates out until this object is destroyed or the process ends.
     Lock lock(const QString &name);
 
     /// Opens a file for reading. Nothing, with \a missing set, when there is none.
@@ -48,17 +48,18 @@ public:
     /// The names of everything in the folder, in alphabetical order.
     std::optional<QStringList> names();
 
-    /// What \a from holds gets one more name. False, with \a exists set, when that name is taken.
+    /// Gives the file \a from one more name. False, with \a exists set, when that name is taken.
     bool link(const QString &from, const QString &to, bool &exists);
-    /// Puts a file in the place of another, if there is one, at one stroke.
+    /// Renames a file atomically, over an existing one if there is one.
     bool rename(const QString &from, const QString &to);
+    /// Removes a file.
     bool remove(const QString &name);
-    /// Removes what earlier runs, which were killed, left of GateFile's temporary files.
+    /// Removes the temporary files of \a name that killed runs have left: see GateFile.
     bool removeLeftovers(const QString &name);
     /// Waits until the names in the folder are on the disk.
     bool sync();
 
-    /// Whether a regular file of this name is there.
+    /// Whether a regular file of this name exists.
     bool hasFile(const QString &name) const;
     QString pathOf(const QString &name) const { return m_path + QLatin1Char('/') + name; }
     QString errorString() const { return m_error; }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kLargestNumber = 1e9;
 
-/// Reads options that are numbers, and keeps the first problem.
+/// Reads numeric options, and keeps the first problem.
 class NumberReader {
 public:
     explicit NumberReader(const CommandLine &line)
@@ -74,7 +74,7 @@ QString fullPath(const QString &path)
 
 bool isSame(const QString &a, const QString &b)
 {
-    // Two files that are not there would count as the same.
+    // QFileInfo takes two missing files for the same.
     return fullPath(a) == fullPath(b) || (QFileInfo::exists(a) && QFileInfo(a) == QFileInfo(b));
 }
 
@@ -110,7 +110,7 @@ void addLimits(CommandLine &line)
                    "The same in percent of the employed people; default: 10.");
 }
 
-/// The arguments of the gate in the words of a command line; nothing when they run no gate.
+/// The arguments of the gate among the words of a command; nothing when it runs no gate.
 std::optional<QStringList> gateArguments(const QStringList &words)
 {
     for (int i = 0; i + 1 < words.size(); ++i) {

@@ -10,9 +10,9 @@ class ForceFlag {
 public:
     explicit ForceFlag(const QSqlDatabase &db);
 
-    /// Whether the plugin would find it set. Nothing when it cannot be read.
+    /// Whether the plugin would find it set. Nothing when reading fails.
     std::optional<bool> isSet();
-    /// False when it cannot be written.
+    /// Sets or clears it. False when writing fails.
     bool set(bool on);
 
     /// Why the last operation failed.

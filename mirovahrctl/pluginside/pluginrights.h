@@ -3,18 +3,18 @@
 #include <QString>
 #include <QStringList>
 
-/// What the plugin's account must be allowed to do, the same as reference-db/grants.sql grants. Two
-/// tests hold this header against that file. What TepDbContract names beyond this is used by other
-/// components of the attendance server only.
+/// The privileges that the plugin's account needs, as reference-db/grants.sql grants them. Two
+/// tests compare this header with that file. What TepDbContract names beyond this is used only by
+/// other components of the attendance server.
 namespace PluginRights {
 
-/// Lists of columns are texts, the names separated by one blank.
+/// The columns of a table by privilege: lists of names, separated by one space.
 struct TableRights {
     const char *table;
     const char *select;
     const char *insert = "";
     const char *update = "";
-    /// The columns that some insert leaves to their defaults, although another one names them.
+    /// Columns that some inserts name and others leave to their defaults.
     const char *notAlwaysInserted = "";
 };
 
@@ -53,13 +53,13 @@ inline QStringList names(const char *list)
     return QString::fromLatin1(list).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-/// What the plugin does with a table; null when it does not touch it.
+/// The privileges for a table; null when the plugin does not use it.
 const TableRights *find(const QString &table);
 
-/// Whether the plugin touches a column.
+/// Whether the plugin reads or writes a column.
 bool usesColumn(const QString &table, const QString &column);
 
-/// Whether the plugin writes a column, in new rows or in rows that are there.
+/// Whether the plugin writes a column, by insert or by update.
 bool writesColumn(const QString &table, const QString &column);
 
 /// Whether the plugin inserts or updates rows of a table.

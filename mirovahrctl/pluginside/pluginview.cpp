@@ -43,7 +43,7 @@ bool PluginView::connect(const QSqlDatabase &site)
         if (!before.contains(name))
             m_database = QSqlDatabase::database(name, false);
     }
-    // A worker takes up the connection that an earlier one of this process has left.
+    // A worker reuses the connection that an earlier worker of this process has left.
     if (!m_database.isValid())
         m_error = QStringLiteral("The plugin already has a connection to another database");
     return m_database.isValid() && m_worker->dbCheckOpen();

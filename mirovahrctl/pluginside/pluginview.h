@@ -13,7 +13,7 @@
 struct Configuration;
 
 /// The site's database as the plugin sees it: the plugin's own worker, of which only the reading
-/// operations are used, on a connection on which the server itself refuses whatever would write.
+/// operations are used, on a connection on which the server itself refuses every write.
 class PluginView {
 public:
     PluginView();
@@ -26,13 +26,14 @@ public:
     /// then says why.
     bool open(const QSqlDatabase &site, const Configuration &configuration);
 
+    /// Only after a successful open(), like database() and sql().
     MHRWorker &worker() { return *m_worker; }
     /// The worker's connection.
     QSqlDatabase database() const { return m_database; }
-    /// For what the worker does not look at.
+    /// For queries that the worker does not offer.
     SqlSession &sql() { return *m_sql; }
 
-    /// What went wrong so far, a sentence without its full stop; empty when nothing did.
+    /// Every error so far, without a full stop; empty when there was none.
     QString errorString() const;
     /// Whether the server still answers.
     bool isConnected() const;

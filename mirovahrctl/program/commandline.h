@@ -12,9 +12,9 @@ class Console;
 struct DatabaseOptions;
 
 /// The command line of one subcommand. All subcommands use it, so that their options and help texts
-/// look alike:
+/// are consistent:
 ///
-///     CommandLine line("check-file", "Tells what ...");
+///     CommandLine line("check-file", "Reads an HR export ...");
 ///     line.addArgument("file", "The export.");
 ///     line.addReportOptions(CommandLine::Page::Offered);
 ///     if (const auto end = line.parse(arguments, console))
@@ -23,41 +23,44 @@ class CommandLine {
 public:
     enum class Page { Offered, NotOffered };
 
-    /// \a description says in a few sentences what the subcommand does; lines of at most 80
+    /// \a description says in a few sentences what the subcommand does, in lines of at most 88
     /// characters.
     CommandLine(const char *subcommand, const char *description);
 
-    /// An argument that must be given. They stand in the order in which they are added.
+    /// A required argument. Arguments come in the order in which they are added.
     void addArgument(const char *name, const char *description);
-    /// An argument that may be left out, after all that must be given.
+    /// An optional argument, after all required ones.
     void addOptionalArgument(const char *name, const char *description);
+    /// An option without a value.
     void addFlag(const char *name, const char *description);
+    /// An option with a value.
     void addOption(const char *name, const char *valueName, const char *description);
-    /// --json, and --html where the page for HR is offered.
+    /// --json and, where a page is offered, --html.
     void addReportOptions(Page page);
     /// The options that name the attendance database, and where else the program finds it.
     void addDatabaseOptions();
 
-    /// Reads the arguments. Has a status when the subcommand must end with it: the help or the
-    /// version was asked for and printed, or the arguments make no sense, which was said on the
-    /// console.
+    /// Parses the arguments. Has a status when the subcommand must end with it: the help or the
+    /// version was requested and printed, or the arguments are invalid and the error was printed.
     std::optional<ExitStatus> parse(const QStringList &arguments, Console &console);
 
     /// The name of the subcommand.
     QString subcommand() const { return m_subcommand; }
+    /// Whether the option was given.
     bool isSet(const char *option) const;
-    /// The value of an option; empty when it was not given.
+    /// The value of an option; empty when the option was not given.
     QString value(const char *option) const;
     /// An argument by its position; empty when it was not given.
     QString argument(int position) const;
-    /// The parser, for what has no function here.
+    /// The parser itself, for what this class does not offer.
     const QCommandLineParser &parser() const { return m_parser; }
 
     /// The file of --html; empty when it was not given or is not offered.
     QString pagePath() const;
-    /// Whether the command line asks for a database.
+    /// Whether the command line names a database.
     bool namesDatabase() const;
-    /// Reads the database options. Has a status when the subcommand must end with it.
+    /// Reads the database options. Has a status when the subcommand must end with it: they are
+    /// invalid and the error was printed.
     std::optional<ExitStatus> readDatabase(DatabaseOptions &options, Console &console) const;
 
 private:

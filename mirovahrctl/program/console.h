@@ -9,15 +9,15 @@
 class JsonReport;
 class QIODevice;
 
-/// Where a subcommand writes: results to one device, complaints and progress to the other. In the
-/// program these are standard output and standard error, in tests two buffers.
+/// Where a subcommand writes: results to one device, errors, warnings and progress to the other. In
+/// the program these are standard output and standard error, in tests two buffers.
 class Console {
 public:
-    /// The width of lines where there is no terminal.
+    /// The width of lines without a terminal, in characters.
     static constexpr int kColumns = 100;
 
-    /// \a interactive: `err` is a terminal, so that progress may be shown there. \a columns: how
-    /// wide `out` is.
+    /// \a interactive: `err` is a terminal, so that progress may be shown there. \a columns: the
+    /// width of `out` in characters.
     Console(QIODevice &out, QIODevice &err, bool interactive, int columns = kColumns);
     ~Console();
 
@@ -26,22 +26,22 @@ public:
     bool isInteractive() const { return m_interactive; }
     int columns() const { return m_columns; }
 
-    /// Names the subcommand that runs, for complaints.
+    /// Names the subcommand that runs, for the messages.
     void setSubcommand(const QString &name);
 
-    /// From now on `out` gets one JSON object, whether the subcommand comes to its end or fails.
+    /// From now on `out` gets one JSON object, whether the subcommand succeeds or fails.
     void startJson();
     /// That object; null unless startJson() was called.
     JsonReport *json() { return m_json.get(); }
 
-    /// Writes a text and a line feed to the results.
+    /// Writes a text and a line feed to `out`.
     void print(const QString &text);
 
     /// Writes to `err` why the program ends, a sentence with or without its full stop, and to the
     /// JSON object if there is one. Returns the status, for `return console.fail(...)`.
     ExitStatus fail(ExitStatus status, const QString &sentence);
 
-    /// Writes to `err` what the user should know, a sentence with or without its full stop.
+    /// Writes a warning to `err`, a sentence with or without its full stop.
     void warn(const QString &sentence);
 
 private:

@@ -2,15 +2,15 @@
 
 #include <QSaveFile>
 
-/// A file that the command line asks for: a page, statements, a log, lines for HR. It is about
-/// people, so only its owner and the group may read it: a new file has mode 0640, or less by the
-/// umask; a file that is overwritten keeps what it has of that mode.
+/// A file that the command line names for output: a page, statements, a log, lines for HR. It holds
+/// personal data, so only its owner and the group may read it: a new file has mode 0640, or less by
+/// the umask; an overwritten file keeps those bits of its mode that are within 0640.
 class OutputFile : public QSaveFile {
     Q_OBJECT
 public:
     using QSaveFile::QSaveFile;
 
     bool open(OpenMode mode) override;
-    /// Also called by QSaveFile, which takes over the mode of the file that is overwritten.
+    /// Also called by QSaveFile, which copies the mode of the file that is overwritten.
     bool setPermissions(Permissions permissions) override;
 };

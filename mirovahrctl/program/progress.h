@@ -5,8 +5,8 @@
 
 class Console;
 
-/// How far a long piece of work is, in one line on standard error that is gone at the end. Shows
-/// nothing when standard error is no terminal.
+/// Shows the progress of long work in one line on standard error, and clears the line at the end.
+/// Shows nothing when standard error is not a terminal.
 class Progress {
 public:
     /// \a what names the work, such as "Reading the export".
@@ -15,7 +15,7 @@ public:
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
 
-    /// How much of how much is done. Cheap enough to be called for every line of a file.
+    /// \a done of \a total, in any unit. Cheap enough to be called for every line of a file.
     void update(qint64 done, qint64 total);
 
 private:

@@ -10,30 +10,30 @@
 class CommandLine;
 class Console;
 
-/// The report of a subcommand in every form that its command line asks for: text or JSON on the
+/// The report of a subcommand in every format that its command line selects: text or JSON on the
 /// console, and the page of --html.
 class Report : public ReportWriter {
 public:
     Report(const CommandLine &line, Console &console);
 
-    /// Opens what must be opened. Has a status when the subcommand must end with it: the page
-    /// cannot be written, which was said on the console.
+    /// Opens the page, if there is one. Has a status when the subcommand must end with it: the page
+    /// cannot be written, and the error was printed.
     std::optional<ExitStatus> open();
 
     void begin(const QString &subcommand, const QString &title) override;
     void section(const QString &id, const QString &heading) override;
     void sentence(const QString &text) override;
     void table(const Table &table) override;
-    /// Also remembers whether it is worse than a note, for findingsStatus().
+    /// Also counts for findingsStatus().
     void finding(const Finding &finding) override;
     void fact(const QString &id, const QString &label, const QVariant &value) override;
     void end(ExitStatus status, const QString &verdict) override;
 
-    /// Fine, or Findings once there was a warning or an error.
+    /// Findings after a warning or an error, otherwise Fine.
     ExitStatus findingsStatus() const;
 
-    /// Ends the report and puts the page in its place. Returns the status to end with: the given
-    /// one, or Usage when the page could not be written, which was said on the console.
+    /// Ends the report and saves the page. Returns the status to end with: the given one, or Usage
+    /// when the page could not be written, and the error was printed.
     ExitStatus conclude(ExitStatus status, const QString &verdict);
 
 private:

@@ -4,16 +4,16 @@
 
 #include <QString>
 
-/// How mirovahrctl ends. Scripts and monitoring rely on the numbers: they are part of the help text
-/// and of the manual, and never change their meaning.
+/// How mirovahrctl ends. The help text and the manual promise the numbers to scripts and
+/// monitoring: none changes its meaning.
 enum class ExitStatus {
-    Fine = CommonStatus::kSuccess, ///< nothing to object to
-    Findings = 1, ///< there is something that a person should look at
+    Fine = CommonStatus::kSuccess, ///< no warning and no error
+    Findings = 1, ///< there is a warning or an error
     /// The command line, a file that it names, or the configuration cannot be used.
     Usage = CommonStatus::kUsage,
     NoDatabase = CommonStatus::kNoDatabase, ///< the database cannot be reached or used
-    ContractBroken = 4, ///< the database is not what the plugin relies on
-    GuardTripped = 5, ///< a guard refused what was asked for; nothing was changed
+    ContractBroken = 4, ///< the database violates what the plugin relies on
+    GuardTripped = 5, ///< a safeguard refused the request; nothing was changed
 };
 
 /// A stable word for scripts: "fine", "findings", "usage", "no-database", "contract-broken" or

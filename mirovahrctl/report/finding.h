@@ -6,20 +6,20 @@
 /// How much a finding matters. Notes alone leave the exit status at "fine".
 enum class Severity {
     Note, ///< good to know; nothing is lost
-    Warning, ///< works, but hardly as meant
-    Error, ///< does not work: a line is dropped, a person not written, a key without effect
+    Warning, ///< works, but probably not as intended
+    Error, ///< fails: a line is dropped, a person not written, a key without effect
 };
 
-/// One thing that a checker has to say.
+/// One result of a rule.
 struct Finding {
     Severity severity = Severity::Warning;
-    QString rule; ///< stable name of the rule, such as "field-count"; scripts rely on it
-    QString message; ///< what is wrong, in plain sentences
+    QString rule; ///< name of the rule, such as "field-count"; part of the JSON report, so it stays
+    QString message; ///< what is wrong, in whole sentences
     QString advice; ///< what to do about it, a whole sentence; may be empty
     bool forHr = false; ///< the advice is for HR, not for the administrator
     qint64 line = 0; ///< line of the checked file, counted from 1; 0: the file as a whole
     QString field; ///< field of the export, key of the INI file, column; may be empty
-    QString subject; ///< whom or what it is about, such as "1234.1 Jana Nováková"; may be empty
+    QString subject; ///< the person or thing, such as "1234.1 Jana Nováková"; may be empty
     bool dropped = false; ///< the plugin leaves this line out
 };
 

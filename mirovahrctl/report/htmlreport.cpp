@@ -9,7 +9,7 @@
 
 namespace {
 
-// The policy makes sure that the page fetches nothing, whatever a file put into it.
+// The policy ensures that the page fetches nothing, whatever text of a file is in it.
 constexpr char kHead[] = R"(<!DOCTYPE html>
 <html lang="en">
 <head>
@@ -180,7 +180,7 @@ void HtmlReport::end(ExitStatus status, const QString &verdict)
 void HtmlReport::endSection()
 {
     endFindings();
-    leaveOutRest();
+    writeLeftOut();
     if (m_inSection)
         m_sections += QStringLiteral("</section>\n");
     m_inSection = false;
@@ -203,7 +203,7 @@ void HtmlReport::endFindings()
     m_inFindings = false;
 }
 
-void HtmlReport::leaveOutRest()
+void HtmlReport::writeLeftOut()
 {
     if (m_leftOut == 0)
         return;

@@ -6,13 +6,14 @@
 
 class QIODevice;
 
-/// A report as one web page that needs nothing but itself: no network, no script, readable on a
-/// phone and in print. For somebody without a terminal.
+/// A report as one self-contained web page: no network, no script, readable on a phone and in
+/// print. For somebody without a terminal.
 ///
-/// The verdict and the facts stand at the top. The page is kept in memory and written by end(), so
-/// it shows only the first findings and says how many more there are.
+/// The verdict and the facts are at the top. The page is kept in memory and written by end(), so it
+/// shows only the first findings, and how many more there are.
 class HtmlReport : public ReportWriter {
 public:
+    /// So many findings are shown.
     static constexpr int kMostFindings = 1000;
 
     explicit HtmlReport(QIODevice &out);
@@ -29,7 +30,7 @@ private:
     void endSection();
     void beginFindings();
     void endFindings();
-    void leaveOutRest();
+    void writeLeftOut();
 
     QIODevice &m_out;
     QString m_title;
@@ -38,5 +39,5 @@ private:
     bool m_inSection = false;
     bool m_inFindings = false;
     int m_findingCount = 0; ///< in the whole report
-    qint64 m_leftOut = 0; ///< findings that the current table of findings does not show
+    qint64 m_leftOut = 0; ///< findings of the current section that are not shown
 };

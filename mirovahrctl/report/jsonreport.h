@@ -15,8 +15,8 @@ class QIODevice;
 ///      "sections": [{"id", "heading", "sentences": [...], "tables": {id: [{column: cell}, ...]}}],
 ///      "facts": {id: value}, "status": number, "result": word, "verdict": sentence}
 ///
-/// Findings are written as they come, one on a line. Members that a finding has not are absent.
-/// What fails has "error", the reason, in place of "verdict".
+/// Findings are written as they come, one on a line. Empty members of a finding are absent. A
+/// failure has "error", the reason, in place of "verdict".
 class JsonReport : public ReportWriter {
 public:
     explicit JsonReport(QIODevice &out);

@@ -8,7 +8,7 @@
 
 struct Finding;
 
-/// A table of a report. A cell that is an invalid QVariant stands for "nothing there".
+/// A table of a report. An invalid QVariant is an empty cell.
 struct Table {
     struct Column {
         QString id; ///< stable name for scripts
@@ -20,13 +20,13 @@ struct Table {
     QVector<QVariantList> rows; ///< a cell for each column
 };
 
-/// Writes what a subcommand found out, in one form: see TextReport, JsonReport, HtmlReport and, for
-/// all that the command line asks for, Report.
+/// Writes the report of a subcommand in one format: see TextReport, JsonReport, HtmlReport and, for
+/// all formats that the command line selects, Report.
 ///
-/// The calls come in the order in which people shall read: begin(), then for each section
-/// section() and its sentences, tables and findings, then end(). Facts may stand anywhere between
-/// begin() and end(). Findings are not kept, so that there may be millions of them; tables and
-/// sentences are kept by some forms.
+/// The calls come in reading order: begin(), then for each section section() and its sentences,
+/// tables and findings, then end(). Facts may come anywhere between begin() and end(). Findings are
+/// not kept in memory, so that there may be millions of them; some formats keep tables and
+/// sentences.
 class ReportWriter {
 public:
     ReportWriter() = default;
@@ -38,10 +38,12 @@ public:
     virtual void begin(const QString &subcommand, const QString &title) = 0;
     /// Begins a section. \a id is its stable name for scripts, unique in the report.
     virtual void section(const QString &id, const QString &heading) = 0;
+    /// One or more whole sentences of the current section.
     virtual void sentence(const QString &text) = 0;
     virtual void table(const Table &table) = 0;
     virtual void finding(const Finding &finding) = 0;
-    /// One number or text about the whole: "lines", "Lines in the file", 1200.
+    /// One number, flag or text about the whole, such as "lines", "Lines in the file", 1200. \a id
+    /// is its stable name for scripts.
     virtual void fact(const QString &id, const QString &label, const QVariant &value) = 0;
     /// Ends the report. \a verdict is the result in one plain sentence.
     virtual void end(ExitStatus status, const QString &verdict) = 0;

@@ -7,7 +7,7 @@ namespace TextLayout {
 
 namespace {
 
-constexpr int kGap = 2; ///< blanks between two columns
+constexpr int kGap = 2; ///< spaces between two columns
 constexpr int kNarrowest = 8; ///< no column is made narrower than this
 
 void widen(QVector<int> &widths, const QStringList &row)
@@ -16,7 +16,7 @@ void widen(QVector<int> &widths, const QStringList &row)
         widths[i] = qMax(widths.at(i), row.at(i).size());
 }
 
-/// The widths after the widest columns gave way until all of them fit.
+/// The widths with the widest columns narrowed until all of them fit.
 QVector<int> fitted(QVector<int> widths, int width)
 {
     const int room = width - kGap * (widths.size() - 1);

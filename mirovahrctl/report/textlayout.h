@@ -4,11 +4,11 @@
 #include <QStringList>
 #include <QVector>
 
-/// Texts in lines of a limited width, for terminals.
+/// Wraps texts and tables to a width in characters, for terminals.
 namespace TextLayout {
 
-/// The lines of a text, broken at blanks. Those after the first begin with \a indent blanks. A word
-/// that is longer than a line stays whole, so that a path can be copied.
+/// The lines of a text, broken at spaces. Those after the first begin with \a indent spaces. A word
+/// that is longer than a line is not broken, so that a path can be copied.
 QStringList wrapped(const QString &text, int width, int indent = 0);
 
 /// The lines of a table: its headings, dashes below them, and the rows. Each row, the headings

@@ -4,8 +4,8 @@
 
 class QIODevice;
 
-/// A report as plain text for a terminal, in lines of at most so many columns: each finding with
-/// its advice below it.
+/// A report as plain text for a terminal, wrapped to its width: each finding with its advice below
+/// it.
 class TextReport : public ReportWriter {
 public:
     /// \a columns: how wide a line may be, in characters.

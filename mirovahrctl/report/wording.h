@@ -3,20 +3,20 @@
 #include <QString>
 #include <QVariant>
 
-/// Texts from files and databases, made fit to be shown.
+/// Texts as people read them, also those that come from files and databases.
 namespace Wording {
 
-/// The text with every control character as a visible escape such as "\x1b": what an export
-/// contains must not steer a terminal or break a line.
+/// The text with a visible escape such as "\x1b" for every control character: the content of an
+/// export must not control a terminal or break a line.
 QString visible(const QString &text);
 
-/// As visible(), between quotation marks and cut short when it is long.
+/// As visible(), in quotation marks and truncated to 60 characters.
 QString quoted(const QString &text);
 
-/// A fact or the cell of a table, as people read it: yes or no for a flag.
+/// A fact or the cell of a table: "yes" or "no" for a flag.
 QString plain(const QVariant &value);
 
-/// The text with a full stop at its end.
+/// The text with a full stop at its end, added when it is missing.
 QString sentence(const QString &text);
 
 /// "1 line", "2 lines".

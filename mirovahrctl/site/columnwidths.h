@@ -5,10 +5,10 @@
 
 class QSqlDatabase;
 
-/// How many characters the text columns of `people` hold, by column name. Empty: not known, and
-/// then no text is too long.
+/// The lengths in characters of the text columns of `people`, by column name. Empty when they are
+/// not known: then no text is too long.
 using ColumnWidths = QHash<QString, int>;
 
-/// Asks the database's information schema. Empty when that fails or there is no such table; `error`
+/// Reads them from the information schema. Empty when that fails or there is no such table; `error`
 /// then says why, a sentence without its full stop.
 ColumnWidths readColumnWidths(const QSqlDatabase &database, QString &error);

@@ -8,9 +8,9 @@ class Database;
 class QSqlDatabase;
 struct DatabaseOptions;
 
-/// What a subcommand means to do with the site's database.
+/// What a subcommand does with the site's database.
 enum class DatabaseAccess {
-    ReadOnly, ///< the server itself refuses whatever would write
+    ReadOnly, ///< the server itself refuses every write
     ReadWrite
 };
 
@@ -19,6 +19,6 @@ enum class DatabaseAccess {
 std::unique_ptr<Database> openDatabase(const DatabaseOptions &options, DatabaseAccess access,
                                        QString &error);
 
-/// From now on the server itself refuses whatever would write on this open connection. False when
+/// Makes the server itself refuse every write on this open connection. False when
 /// that fails; `error` then says why, a sentence without its full stop.
 bool refuseWriting(const QSqlDatabase &connection, QString &error);

@@ -24,7 +24,7 @@ constexpr char kSelectTransactional[] =
     "SELECT TABLE_NAME FROM information_schema.TABLES t JOIN information_schema.ENGINES e"
     " ON e.ENGINE = t.ENGINE WHERE TABLE_SCHEMA = DATABASE() AND e.TRANSACTIONS = 'YES'";
 
-/// MariaDB shows a default as it stands in the table's definition, other servers as the bare text.
+/// MariaDB shows a default as in the table's definition, other servers as the bare text.
 QString bareDefault(const QString &text)
 {
     const bool quoted =
@@ -32,8 +32,8 @@ QString bareDefault(const QString &text)
     return quoted ? text.mid(1, text.size() - 2) : text;
 }
 
-/// Whether a default makes up a value of its own for each row. NEXTVAL is no such default here: a
-/// sequence may begin anew, and the account needs a right to it.
+/// Whether a default generates a unique value for each row. NEXTVAL does not count: a sequence may
+/// restart, and the account needs a privilege for it.
 bool isUniqueDefault(const QString &text)
 {
     static const QStringList functions{QStringLiteral("uuid()"), QStringLiteral("uuid_short()"),

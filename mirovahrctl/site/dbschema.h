@@ -19,7 +19,7 @@ struct DbColumn {
     bool nullable = false;
     bool filledByServer = false; ///< by a default value, an automatic number or an expression
     bool automaticNumber = false;
-    bool uniquelyFilled = false; ///< left out of an insert, it gets what no other row has
+    bool uniquelyFilled = false; ///< omitted from an insert, it gets a value unique in the table
     QString defaultValue; ///< without quotation marks
     QStringList rights; ///< of this account: "select", "insert", "update", "references"
 };
@@ -31,18 +31,21 @@ struct DbKey {
 };
 
 /// Tables, columns and keys of the database, as far as the account may see them: the server hides
-/// what an account has no right to.
+/// what an account has no privilege for.
 class DbSchema {
 public:
     /// Reads all of it. False when that fails; errorString() then says why.
     bool load(const QSqlDatabase &db);
+    /// Why load() failed, in the driver's words.
     QString errorString() const { return m_error; }
 
+    /// Whether the table exists and the account may see it.
     bool hasTable(const QString &table) const { return m_columns.contains(table); }
-    /// The columns of a table; empty when it is not there.
+    /// The columns of a table; empty when it does not exist.
     QVector<DbColumn> columns(const QString &table) const { return m_columns.value(table); }
-    /// Null when it is not there. The case of the column's name does not matter, as for the server.
+    /// Null when it does not exist. The column's name is case-insensitive, as it is for the server.
     const DbColumn *column(const QString &table, const QString &column) const;
+    /// The primary and unique keys of a table.
     QVector<DbKey> uniqueKeys(const QString &table) const { return m_keys.value(table); }
     /// Whether the table takes part in transactions.
     bool isTransactional(const QString &table) const { return m_transactional.contains(table); }

@@ -14,7 +14,7 @@ namespace {
 
 /// In both directions from today: a whole year of daylight saving.
 constexpr int kDaysAround = 366;
-/// The server's zone may change its clocks on other days than ours; not for less than a week.
+/// The server's zone may change its clocks on other days than ours, but then for a week or more.
 constexpr int kDaysApart = 7;
 
 } // namespace

@@ -4,9 +4,9 @@
 
 class QSqlDatabase;
 
-/// The keys in `vars` of the payroll exports, as the plugin looks for them: with exactly one, new
+/// The keys of the payroll exports in `vars`, by the plugin's own query: with exactly one, new
 /// people join its selection.
 QStringList payrollExports(const QSqlDatabase &database);
 
-/// Whether the selection of the payroll export with this key names the person (pid).
+/// Whether the selection of the payroll export with this key contains the person (pid).
 bool isInPayrollSelection(const QSqlDatabase &database, const QString &payrollExport, quint32 pid);

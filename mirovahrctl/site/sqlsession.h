@@ -7,36 +7,39 @@
 
 #include <functional>
 
-/// A connection on which every statement must succeed. After the first failure nothing is sent any
-/// more, queries have no rows, and errorString() says why.
+/// A connection on which every statement must succeed. After the first failure it sends nothing
+/// more, queries return no rows, and errorString() says why.
 ///
-/// Texts beyond U+FFFF arrive whole, unlike on a connection as Qt's driver opens it. NULL is a null
-/// text.
+/// NULL is read as a null text.
 class SqlSession {
 public:
     explicit SqlSession(const QSqlDatabase &db);
 
-    /// Speaks UTF-8 of four bytes, writes times in UTC, and takes every value that a table holds.
+    /// Switches the connection to four-byte UTF-8, to times in UTC, and to an SQL mode that accepts
+    /// every value that a table can hold. False when that fails.
     bool prepareForCopying();
 
+    /// Runs a statement. False when it fails.
     bool run(const QString &sql);
+    /// All rows of a query; empty when it fails.
     QVector<QStringList> rows(const QString &sql);
     /// The first row; empty when there is none.
     QStringList row(const QString &sql) { return rows(sql).value(0); }
     /// The first value of the first row; null when there is none.
     QString value(const QString &sql) { return row(sql).value(0); }
-    /// Hands over one row after the other. Qt's driver holds the whole answer meanwhile. False when
-    /// the query failed, or \a take did.
+    /// Passes the rows to \a take one by one; Qt's driver holds the whole answer meanwhile. Ends when
+    /// \a take returns false. False when it did, or when the query fails.
     bool forEachRow(const QString &sql, const std::function<bool(const QStringList &)> &take);
 
+    /// Whether a statement has failed.
     bool failed() const { return m_failed; }
     QString errorString() const { return m_error; }
-    /// The server's number of the error; 0 when it was none of the server.
+    /// The server's error number; 0 for an error that is not the server's.
     int errorNumber() const { return m_errorNumber; }
 
-    /// A name as SQL writes it: between backquotes.
+    /// An identifier in backquotes.
     static QString name(const QString &identifier);
-    /// A text as SQL writes it, whatever the server's modes are.
+    /// A text as an SQL literal that holds in every SQL mode.
     static QString literal(const QString &text);
 
 private:

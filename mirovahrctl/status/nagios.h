@@ -8,19 +8,20 @@ struct AgeLimits;
 struct StatusData;
 struct StatusAssessment;
 
-/// The answer to a monitoring system in the convention of Nagios and its kin: one line, and an exit
-/// status of the convention's own.
+/// The answer to a monitoring system in the convention of Nagios plugins: one line, and the exit
+/// status of that convention.
 namespace Nagios {
 
 /// The convention's numbers.
 enum class Level { Ok = 0, Warning = 1, Critical = 2, Unknown = 3 };
 
-/// As the program's exit status: the number is what counts, and means what the convention says.
+/// The level as the program's exit status: only the number counts, with the convention's meaning.
 ExitStatus exitStatus(Level level);
 
-/// "MIROVAHR CRITICAL - " and a text, made fit for the line.
+/// The line "MIROVAHR CRITICAL - " and a text, whose bars and control characters are replaced.
 QString line(Level level, const QString &text);
 
+/// The level of the worst finding; Ok without any.
 Level level(const StatusAssessment &assessment);
 
 /// The whole line of a status, with its performance data.

@@ -88,7 +88,7 @@ void reportGate(Report &report, const GateStatus &gate)
                     *gate.admittedLines());
 }
 
-/// How to end after the command line was read and its errors were told.
+/// The status to end with after the command line was parsed and its errors were printed.
 ExitStatus usageEnd(ExitStatus end, bool forNagios, Console &console)
 {
     if (!forNagios || end != ExitStatus::Usage || console.json() != nullptr)

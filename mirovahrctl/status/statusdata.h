@@ -5,8 +5,8 @@
 
 #include <optional>
 
-/// What the attendance database tells of the plugin at one moment. Times are Unix times by the
-/// server's clock; a time that is missing: it never happened.
+/// What the attendance database knows of the plugin's work at one moment. Times are Unix times by
+/// the server's clock; nothing means never.
 struct StatusData {
     qint64 now = 0;
     bool forced = false; ///< a forced synchronisation is pending
@@ -17,7 +17,7 @@ struct StatusData {
     std::optional<qint64> oldestQueued;
     qint64 correctionsToday = 0; ///< of vacation balances
 
-    /// The newest trace that the plugin left in the database.
+    /// The latest trace of the plugin in the database; nothing when there is none.
     std::optional<qint64> lastTrace() const;
 
     /// Reads all of it. Nothing when that fails; `error` then says why, a sentence without its full
