@@ -52,8 +52,7 @@ Finding rejectedLines(qint64 count, const QString &path)
 {
     return makeFinding(
         Severity::Note, "rejected-lines",
-        QStringLiteral("The file has %1 with errors: the plugin drops them, or "
-                       "cannot write them correctly.")
+        QStringLiteral("The file has %1 with errors, dropped or not written correctly.")
             .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"))),
         QStringLiteral("Send HR the file %1.").arg(path));
 }

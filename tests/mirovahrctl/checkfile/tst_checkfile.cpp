@@ -351,9 +351,11 @@ void TestCheckFile::aFindingSaysWhoAndWhere()
         check(line(&ExportRow::dovolenaZustatek, "12,5")).findingsOf("bad-number").value(0);
     QCOMPARE(finding["subject"].toString(), QString("1234.1 Jana Nováková"));
     QCOMPARE(finding["severity"].toString(), QString("warning"));
-    QCOMPARE(finding["message"].toString(),
-             QString("\"12,5\" is no number to the plugin. It reads as 0: the vacation balance is "
-                     "set to 0 days."));
+    QCOMPARE(
+        finding["message"].toString(),
+        QString(
+            "The plugin cannot read \"12,5\" as a number. It is read as 0: the vacation balance is "
+            "set to 0 days."));
     QVERIFY(!finding.contains("dropped"));
 }
 
@@ -361,22 +363,24 @@ void TestCheckFile::theTextReportIsComplete()
 {
     const ToolRun run = check(line(&ExportRow::datumVystupu, "31.3.2021").chopped(1), {});
     COMPARE_EXIT(run, ExitStatus::Findings);
-    QCOMPARE(run.out.section('\n', 2),
-             QString("\nWhat to look at\n---------------\n"
-                     "line 1, DatumVystupu (1234.1 Jana Nováková): warning: \"31.3.2021\" is no "
-                     "date to the plugin: the person counts as not leaving. [bad-date]\n"
-                     "    Tell HR: Dates look like 2021-03-31 00:00:00.000.\n"
-                     "warning: The last line has no line feed at its end. The plugin reads it as "
-                     "it stands, but the file may have been cut off. [no-final-line-feed]\n"
-                     "    Tell HR: Check whether the export is whole.\n"
-                     "\nSummary\n-------\n"
-                     "Rule                Findings\n"
-                     "------------------  --------\n"
-                     "bad-date            1\n"
-                     "no-final-line-feed  1\n"
-                     "Lines: 1\nRead as people: 1\nDropped by the plugin: 0\n"
-                     "Not arriving as they should: 0\n"
-                     "\nEverybody in the export arrives, but there are findings.\n"));
+    QCOMPARE(
+        run.out.section('\n', 2),
+        QString("\nWhat to look at\n---------------\n"
+                "line 1, DatumVystupu (1234.1 Jana Nováková): warning: The plugin cannot read "
+                "\"31.3.2021\" as a "
+                "date: the person counts as not leaving. [bad-date]\n"
+                "    Tell HR: Write dates as in 2021-03-31 00:00:00.000.\n"
+                "warning: The last line does not end with a line feed. The plugin reads it, but "
+                "the file may be truncated. [no-final-line-feed]\n"
+                "    Tell HR: Check whether the export is complete.\n"
+                "\nSummary\n-------\n"
+                "Rule                Findings\n"
+                "------------------  --------\n"
+                "bad-date            1\n"
+                "no-final-line-feed  1\n"
+                "Lines: 1\nRead as people: 1\nDropped by the plugin: 0\n"
+                "Not arriving as they should: 0\n"
+                "\nEverybody in the export arrives, but there are findings.\n"));
 }
 
 void TestCheckFile::theAdviceFitsTheMistake_data()
@@ -394,7 +398,7 @@ void TestCheckFile::theAdviceFitsTheMistake_data()
         << good().replace("|Sklad", "") << "Write empty fields too, each with its |.";
     QTest::newRow("a date without a time")
         << line(&E::datumVystupu, "2021-03-31")
-        << "A date has a time behind it, as in 2021-03-31 00:00:00.000.";
+        << "Write the date with a time, as in 2021-03-31 00:00:00.000.";
     QTest::newRow("a decimal comma") << line(&E::dovolenaZustatek, "12,5")
                                      << "Write the balance with a decimal point, as in 12.5.";
     QTest::newRow("the end of time")
@@ -418,7 +422,7 @@ void TestCheckFile::aDuplicateNamesTheFirstLine()
     QCOMPARE(found.size(), 2);
     QCOMPARE(found[0]["line"].toInt(), 4);
     QCOMPARE(found[1]["line"].toInt(), 5);
-    QVERIFY(found[1]["message"].toString().startsWith("Line 2 is about the same employment"));
+    QVERIFY(found[1]["message"].toString().startsWith("Line 2 has the same employment"));
 }
 
 void TestCheckFile::aClashNamesTheFirstPerson()
@@ -428,8 +432,8 @@ void TestCheckFile::aClashNamesTheFirstPerson()
     QCOMPARE(found.size(), 1);
     QCOMPARE(found[0]["subject"].toString(), QString("1234.1 Jana Nováková"));
     QCOMPARE(found[0]["message"].toString(),
-             QString("The person of line 1, 123.41, has the same number 12341: the plugin takes "
-                     "both for one person, and the last line prevails."));
+             QString("The person in line 1, 123.41, has the same number 12341: the plugin treats "
+                     "both as one person, and the last line wins."));
 }
 
 void TestCheckFile::tooManyRepetitionsAreReportedAsIncomplete()
@@ -478,28 +482,30 @@ void TestCheckFile::theRejectsHoldTheLinesUnchanged()
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().split('\n');
-    QCOMPARE(lines.value(0),
-             "# Lines of the export " + QFileInfo(m_export->path()).fileName().toUtf8()
-                 + " that do not arrive in the attendance system as they should.");
+    QCOMPARE(
+        lines.value(0),
+        "# Lines of the export " + QFileInfo(m_export->path()).fileName().toUtf8()
+            + " with errors: the attendance system drops them, or cannot store them correctly.");
     QVERIFY(lines.value(1).startsWith("# Checked on "));
-    QCOMPARE(lines.mid(2),
-             QList<QByteArray>({
-                 "",
-                 "# Line 2: The line has 3 fields instead of 18. Write empty fields too, each with "
-                 "its |.",
-                 broken.chopped(1),
-                 "",
-                 "# Line 4: Jmeno: The text \"O'Neil\" has an apostrophe. It goes into the "
-                 "statement as it is, and the statement fails, or does something else: the person "
-                 "is not written. Write the text without ', or with the character ’.",
-                 ExportRow().with(&ExportRow::jmeno, "O'Neil").text().toUtf8(),
-                 "",
-                 "# Line 5: The line is longer than 65536 bytes; the plugin passes over it. The "
-                 "export is damaged; perhaps line feeds are missing.",
-                 "",
-                 "# 3 lines.",
-                 "",
-             }));
+    QCOMPARE(
+        lines.mid(2),
+        QList<QByteArray>({
+            "",
+            "# Line 2: The line has 3 fields instead of 18. Write empty fields too, each with "
+            "its |.",
+            broken.chopped(1),
+            "",
+            "# Line 4: Jmeno: The text \"O'Neil\" contains an apostrophe. It enters the "
+            "SQL statement unescaped, and the statement fails or does something else: the person "
+            "is not written. Write the text without ', or with the character ’.",
+            ExportRow().with(&ExportRow::jmeno, "O'Neil").text().toUtf8(),
+            "",
+            "# Line 5: The line is longer than 65536 bytes; the plugin skips it. The "
+            "export is damaged; perhaps line feeds are missing.",
+            "",
+            "# 3 lines.",
+            "",
+        }));
 }
 
 void TestCheckFile::theRejectsAreWrittenWithoutRejects()
@@ -535,9 +541,9 @@ void TestCheckFile::badUsageIsRefused_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("error");
     QTest::newRow("no file") << QStringList()
-                             << "mirovahrctl: check-file: FILE is missing; --help explains.\n";
+                             << "mirovahrctl: check-file: Missing argument FILE; see --help.\n";
     QTest::newRow("two files") << QStringList{"a", "b"}
-                               << "mirovahrctl: check-file: 'b' is one argument too many.\n";
+                               << "mirovahrctl: check-file: Unexpected argument 'b'.\n";
     QTest::newRow("an option that is none")
         << QStringList{"a", "--strict"} << "mirovahrctl: check-file: Unknown option 'strict'.\n";
     QTest::newRow("an absent file") << QStringList{"/nowhere/ron.data"}

@@ -1044,7 +1044,7 @@ void TestExplain::whatMakesNoSenseIsWrongUsage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("error");
-    QTest::newRow("nobody") << QStringList{} << "PERSON is missing; --help explains.";
+    QTest::newRow("nobody") << QStringList{} << "Missing argument PERSON; see --help.";
     QTest::newRow("no person")
         << QStringList{"4294967296"}
         << "'4294967296' is neither a payroll id such as 1234.1, nor a number, nor a name.";
@@ -1061,7 +1061,7 @@ void TestExplain::whatMakesNoSenseIsWrongUsage_data()
         << QStringList{"1234.1", "/nowhere/file"} << "There is no file '/nowhere/file'.";
     QTest::newRow("no such configuration")
         << QStringList{"1234.1", "--config", "/nowhere/ini"} << "There is no file '/nowhere/ini'.";
-    QTest::newRow("too many") << QStringList{"1234.1", "a", "b"} << "'b' is one argument too many.";
+    QTest::newRow("too many") << QStringList{"1234.1", "a", "b"} << "Unexpected argument 'b'.";
     QTest::newRow("a page that cannot be written")
         << QStringList{"1234.1", "--html", "/nowhere/page.html"}
         << "The page '/nowhere/page.html' cannot be written: No such file or directory.";

@@ -323,11 +323,10 @@ void TestGate::everyReasonIsReported()
         messages << finding.toObject()["message"].toString();
     const QStringList expected{
         "The last line does not end with a line feed.",
-        "40 lines (40.0 %) with people are missing compared with the last admitted file, where at "
-        "most 50 and "
-        "5 % may.",
-        "40 people (40.0 %) leave, where at most 50 and 5 % may.",
-        "30 people (30.0 %) get another cost centre, where at most 100 and 10 % may."};
+        "40 lines (40.0 %) with people are missing compared with the last admitted file; the "
+        "limits are 50 and 5 %.",
+        "40 people (40.0 %) leave; the limits are 50 and 5 %.",
+        "30 people (30.0 %) get another cost centre; the limits are 100 and 10 %."};
     QCOMPARE(messages, expected);
     const QStringList reasons = m_site->status()["reasons"].toVariant().toStringList();
     QCOMPARE(reasons.size(), 4);
@@ -485,19 +484,17 @@ void TestGate::acceptOverridesWhatHasChanged_data()
     const auto state = &Row::stavPracovnihoPomeru;
     QTest::newRow("nothing to override") << GatePeople::file(people) << QStringList();
     QTest::newRow("truncated") << GatePeople::file(people).chopped(1)
-                               << QStringList("The last line has no line feed at its end");
+                               << QStringList("The last line does not end with a line feed");
     QTest::newRow("lines lost") << GatePeople::file(people.mid(10))
                                 << QStringList{
                                        "10 lines (50.0 %) with people are missing compared with "
-                                       "the last admitted file, where "
-                                       "at most 50 and 5 % may",
-                                       "10 people (50.0 %) leave, where at most 50 and 5 % may"};
+                                       "the last admitted file; the limits are 50 and 5 %",
+                                       "10 people (50.0 %) leave; the limits are 50 and 5 %"};
     QTest::newRow("leaving") << GatePeople::file(changed(20, 20, state, "4"))
-                             << QStringList("20 people (100.0 %) leave, where at most 50 and 5 % "
-                                            "may");
-    QTest::newRow("moving") << GatePeople::file(changed(20, 3, &Row::stredisko, "9"))
-                            << QStringList("3 people (15.0 %) get another cost centre, where at "
-                                           "most 100 and 10 % may");
+                             << QStringList("20 people (100.0 %) leave; the limits are 50 and 5 %");
+    QTest::newRow("moving")
+        << GatePeople::file(changed(20, 3, &Row::stredisko, "9"))
+        << QStringList("3 people (15.0 %) get another cost centre; the limits are 100 and 10 %");
 }
 
 void TestGate::acceptOverridesWhatHasChanged()
@@ -575,22 +572,22 @@ void TestGate::theReportForPeople()
         QString(
             "Gate from %1 to %2\n%3\n\n"
             "Decision\n--------\n"
-            "error: 1 line (25.0 %) with people is missing compared with the last admitted file, "
-            "where at "
-            "most 50 and 5 % may. [lines-lost]\n"
+            "error: 1 line (25.0 %) with people is missing compared with the last admitted file; "
+            "the limits are 50 and 5 %. [lines-lost]\n"
             "    Ask HR; if the change is intended, run the gate once with --accept.\n"
-            "error: 1 person (25.0 %) leaves, where at most 50 and 5 % may. [people-leaving]\n"
+            "error: 1 person (25.0 %) leaves; the limits are 50 and 5 %. [people-leaving]\n"
             "    Ask HR; if the change is intended, run the gate once with --accept.\n"
-            "error: 1 person (25.0 %) gets another cost centre, where at most 100 and 10 % may. "
+            "error: 1 person (25.0 %) gets another cost centre; the limits are 100 and 10 %. "
             "[people-moving]\n"
             "    Ask HR; if the change is intended, run the gate once with --accept.\n"
             "note: An earlier file was still in place, which the plugin has not read or does not "
             "remove. It remains. [unread]\n"
-            "note: 1 line of the file does not arrive as it should. [rejected-lines]\n"
+            "note: The file has 1 line with errors, dropped or not written correctly. "
+            "[rejected-lines]\n"
             "    Send HR the file %4.\n\n"
             "HR's file\n---------\n"
             "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
-            "Not arriving as they should: 1\n\n"
+            "Lines with errors: 1\n\n"
             "Compared with the last admitted file\n------------------------------------\n"
             "People in the last admitted file: 4\nEmployed people in it: 4\nLines lost: 1\n"
             "People leaving: 1\nPeople moving: 1\n"
@@ -629,7 +626,7 @@ void TestGate::aRunWithoutFindingsIsPlain()
         run.out.section('\n', 2),
         QString("\nHR's file\n---------\n"
                 "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
-                "Not arriving as they should: 0\n\n"
+                "Lines with errors: 0\n\n"
                 "Compared with the last admitted file\n"
                 "------------------------------------\n"
                 "People in the last admitted file: 2\nEmployed people in it: 2\nLines lost: 0\n"
@@ -660,7 +657,7 @@ void TestGate::badUsageIsRefused_data()
         << paths + QStringList{"--rejects", "/a//hr.txt"} << over;
     QTest::newRow("the rejects over the plugin's file")
         << paths + QStringList{"--rejects", "/a/ron.data"} << over;
-    QTest::newRow("an argument") << paths + QStringList("x") << "'x' is one argument too many.";
+    QTest::newRow("an argument") << paths + QStringList("x") << "Unexpected argument 'x'.";
     for (const char *option : {"max-lost-lines", "max-leaving", "max-moving", "keep", "settle"}) {
         for (const char *value : {"", "x", "-1", "1.5", "1000000001"}) {
             QTest::addRow("--%s %s", option, value)

@@ -143,11 +143,9 @@ void TestGateWorker::statusReportsTheGate()
     COMPARE_EXIT(refused, ExitStatus::Findings);
     QCOMPARE(
         refused.findingsOf("gate-refused").value(0)["message"].toString(),
-        QString(
-            "The gate has refused the last file: The last line has no line feed at its "
-            "end; 3 lines (10.0 %) with people are missing compared with the last admitted file, "
-            "where at most 50 and 5 % may; 3 people (10.0 %) leave, where at most 50 and "
-            "5 % may."));
+        QString("The gate has refused the last file: The last line does not end with a line feed; "
+                "3 lines (10.0 %) with people are missing compared with the last admitted file; "
+                "the limits are 50 and 5 %; 3 people (10.0 %) leave; the limits are 50 and 5 %."));
     QCOMPARE(refused.json()["facts"].toObject()["admittedLines"].toInt(), 30);
 }
 

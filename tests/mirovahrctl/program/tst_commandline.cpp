@@ -95,7 +95,7 @@ void TestCommandLine::helpTakesOneSubcommand()
     const ToolRun unknown = runTool({"help", "chek-file"});
     COMPARE_EXIT(unknown, ExitStatus::Usage);
     QCOMPARE(unknown.err,
-             QString("mirovahrctl: There is no subcommand 'chek-file'; --help lists them.\n"));
+             QString("mirovahrctl: Unknown subcommand 'chek-file'; --help lists them.\n"));
     COMPARE_EXIT(runTool({"help", "gate", "force"}), ExitStatus::Usage);
 }
 
@@ -127,8 +127,7 @@ void TestCommandLine::anUnknownSubcommandIsRefused()
 {
     const ToolRun run = runTool({"chek-file"});
     COMPARE_EXIT(run, ExitStatus::Usage);
-    QCOMPARE(run.err,
-             QString("mirovahrctl: There is no subcommand 'chek-file'; --help lists them.\n"));
+    QCOMPARE(run.err, QString("mirovahrctl: Unknown subcommand 'chek-file'; --help lists them.\n"));
 }
 
 void TestCommandLine::everySubcommandExplainsItself_data()

@@ -224,7 +224,7 @@ void TestConnectionFile::anUnusableFileIsAFailure_data()
     QTest::addColumn<QString>("lines");
     QTest::addColumn<QString>("reason");
     QTest::newRow("an unknown key") << "hots = a"
-                                    << "there is no key 'hots' for a connection";
+                                    << "the key 'hots' is unknown";
     QTest::newRow("an unquoted comma")
         << "password = a,b"
         << "the value of 'password' has a comma; put it in quotation marks";
@@ -244,7 +244,7 @@ void TestConnectionFile::anUnusableFileIsAFailure_data()
            "with a semicolon";
     QTest::newRow("a key outside the group")
         << "[General]\nhost = a"
-        << "the key 'host' stands in no group; write [client] above it";
+        << "the key 'host' belongs to no group; write [client] above it";
 }
 
 void TestConnectionFile::anUnusableFileIsAFailure()

@@ -329,8 +329,8 @@ void TestReports::thePageShowsTheFirstFindingsOnly()
     QVERIFY(!findings(1000).contains("not shown"));
     const QString page = findings(1001);
     QCOMPARE(page.count(">Wrong.<"), 1000);
-    QVERIFY(page.contains("<p>This page ends here: 1 more finding not shown.</p>"));
-    QVERIFY(findings(1003).contains("<p>This page ends here: 3 more findings not shown.</p>"));
+    QVERIFY(page.contains("<p>Not shown on this page: 1 more finding.</p>"));
+    QVERIFY(findings(1003).contains("<p>Not shown on this page: 3 more findings.</p>"));
     QVERIFY(page.contains("<h2>Next</h2>"));
 }
 

@@ -215,16 +215,16 @@ void TestStatus::theNagiosLine_data()
            "terminal queue | age=7200s;10800;95400;0 people=7;;;0 queue=0;;;0 corrections=0;;;0 "
            "force=0;;;0;1";
     QTest::newRow("old") << "DO 0" << QStringList{"--warning", "2", "--critical", "4"} << 1
-                         << "MIROVAHR WARNING - The last trace of the plugin is 2 hours old. | "
+                         << "MIROVAHR WARNING - The last trace of the plugin was 2 hours ago. | "
                             "age=7200s;7200;14400;0 people=7;;;0 queue=0;;;0 corrections=0;;;0 "
                             "force=0;;;0;1";
     QTest::newRow("too old") << "DO 0" << QStringList{"--warning", "0.5", "--critical", "1"} << 2
-                             << "MIROVAHR CRITICAL - The last trace of the plugin is 2 hours old. "
+                             << "MIROVAHR CRITICAL - The last trace of the plugin was 2 hours ago. "
                                 "| age=7200s;1800;3600;0 people=7;;;0 queue=0;;;0 "
                                 "corrections=0;;;0 force=0;;;0;1";
     QTest::newRow("only critical") << "DO 0" << QStringList{"--critical", "1"} << 2
-                                   << "MIROVAHR CRITICAL - The last trace of the plugin is 2 hours "
-                                      "old. | age=7200s;;3600;0 people=7;;;0 queue=0;;;0 "
+                                   << "MIROVAHR CRITICAL - The last trace of the plugin was 2 "
+                                      "hours ago. | age=7200s;;3600;0 people=7;;;0 queue=0;;;0 "
                                       "corrections=0;;;0 force=0;;;0;1";
     QTest::newRow("never, without limits")
         << "DELETE FROM people" << QStringList() << 0
@@ -283,7 +283,7 @@ void TestStatus::agesOfTheReport()
     QCOMPARE(finding.value("severity").toString(), severity);
     QCOMPARE(finding.value("message").toString(),
              severity.isEmpty() ? QString()
-                                : QString("The last trace of the plugin is 2 hours old."));
+                                : QString("The last trace of the plugin was 2 hours ago."));
 }
 
 void TestStatus::theGateIsReported()
@@ -334,8 +334,8 @@ void TestStatus::theGatesTimeCountsWhereItIsKnown_data()
 {
     QTest::addColumn<bool>("known");
     QTest::addColumn<QString>("message");
-    QTest::newRow("known") << true << "The last file admitted is 5 hours old.";
-    QTest::newRow("not known") << false << "The last trace of the plugin is 3 hours old.";
+    QTest::newRow("known") << true << "The last admission of a file was 5 hours ago.";
+    QTest::newRow("not known") << false << "The last trace of the plugin was 3 hours ago.";
 }
 
 void TestStatus::theGatesTimeCountsWhereItIsKnown()
@@ -417,7 +417,7 @@ void TestStatus::wrongUsage_data()
     const QString plain = "Invalid command line: see mirovahrctl status --help";
     QTest::newRow("an unknown option")
         << QStringList{"--no-such"} << "Unknown option 'no-such'" << plain;
-    QTest::newRow("an argument") << QStringList{"now"} << "'now' is one argument too many" << plain;
+    QTest::newRow("an argument") << QStringList{"now"} << "Unexpected argument 'now'" << plain;
     QTest::newRow("two servers") << QStringList{"--host", "h"}
                                  << "Name the database server with either --host or --socket, not "
                                     "both"
@@ -481,7 +481,7 @@ void TestStatus::helpForMonitoringIsTheHelp()
 {
     const ToolRun run = runTool({"status", "--nagios", "--help"});
     COMPARE_EXIT(run, ExitStatus::Fine);
-    QVERIFY(run.out.contains("of that convention: 0 OK, 1 WARNING, 2 CRITICAL"));
+    QVERIFY(run.out.contains("follows that convention: 0 OK, 1 WARNING, 2 CRITICAL"));
 }
 
 void TestStatus::spansAreRoundedDown_data()
