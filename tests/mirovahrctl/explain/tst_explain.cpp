@@ -613,8 +613,8 @@ void TestExplain::findings_data()
         "this person, but writes by pid: it changes nobody, or somebody else.",
         {"UPDATE people SET pamId = '3403.1' WHERE uid = 4"}, {}, "warning",
         "another row with the payroll id");
-    add("quote-in-text", jana().with(&R::prijmeni, "O'Hara"), "The text \"O'Hara\" has an", {}, {},
-        "error");
+    add("quote-in-text", jana().with(&R::prijmeni, "O'Hara"), "The text \"O'Hara\" contains an", {},
+        {}, "error");
 }
 
 void TestExplain::findings()
