@@ -55,13 +55,6 @@ Differences differences(const MirovaRonRecord &record, const MirovaRonRecord *la
     return found;
 }
 
-PersonStep personStep(bool isKnown, bool isActive)
-{
-    if (isKnown)
-        return PersonStep::Update;
-    return isActive ? PersonStep::Create : PersonStep::LeaveOut;
-}
-
 RowStep rowStep(const MirovaRonRecord &updated, const MirovaRonRecord &known,
                 const Differences &differences)
 {

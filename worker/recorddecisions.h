@@ -47,7 +47,12 @@ enum class PersonStep {
     Create,
     LeaveOut, ///< a person who has already left is never created
 };
-PersonStep personStep(bool isKnown, bool isActive);
+inline PersonStep personStep(bool isKnown, bool isActive)
+{
+    if (isKnown)
+        return PersonStep::Update;
+    return isActive ? PersonStep::Create : PersonStep::LeaveOut;
+}
 
 /// Whether the row of a known person is written.
 enum class RowStep {

@@ -99,8 +99,8 @@ void TestCheckFileDatabase::aTextLongerThanItsColumnIsFound()
     const QJsonObject finding = run.findingsOf("text-too-long").value(0);
     QCOMPARE(finding["field"].toString(), field);
     QCOMPARE(finding["message"].toString(),
-             QString("The text has 26 characters; the database keeps 25. Depending on its mode it "
-                     "cuts the text or refuses the person."));
+             QString("The text has 26 characters, but the column holds 25. Depending on its SQL mode, "
+                     "the database truncates the text or rejects the person."));
 }
 
 void TestCheckFileDatabase::charactersAreCountedNotCodeUnits()

@@ -275,7 +275,7 @@ void TestGateFaults::aFileThatIsWrittenMeanwhileIsRefused()
              run.report().constData());
     QVERIFY(!site->isPublished());
     QCOMPARE(site->status()["reasons"].toVariant().toStringList(),
-             QStringList("The file was changed while it was read"));
+             QStringList("The file changed while it was being read"));
     QCOMPARE(contentOf(site->inState("admitted.data")), lastFile());
 }
 
