@@ -27,8 +27,8 @@ public:
     QStringList row(const QString &sql) { return rows(sql).value(0); }
     /// The first value of the first row; null when there is none.
     QString value(const QString &sql) { return row(sql).value(0); }
-    /// Passes the rows to \a take one by one; Qt's driver holds the whole answer meanwhile. Ends when
-    /// \a take returns false. False when it did, or when the query fails.
+    /// Passes the rows to \a take one by one; Qt's driver holds the whole answer meanwhile. Ends
+    /// when \a take returns false. False when it did, or when the query fails.
     bool forEachRow(const QString &sql, const std::function<bool(const QStringList &)> &take);
 
     /// Whether a statement has failed.

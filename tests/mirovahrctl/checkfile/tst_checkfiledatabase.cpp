@@ -98,9 +98,10 @@ void TestCheckFileDatabase::aTextLongerThanItsColumnIsFound()
     COMPARE_EXIT(run, ExitStatus::Findings);
     const QJsonObject finding = run.findingsOf("text-too-long").value(0);
     QCOMPARE(finding["field"].toString(), field);
-    QCOMPARE(finding["message"].toString(),
-             QString("The text has 26 characters, but the column holds 25. Depending on its SQL mode, "
-                     "the database truncates the text or rejects the person."));
+    QCOMPARE(
+        finding["message"].toString(),
+        QString("The text has 26 characters, but the column holds 25. Depending on its SQL mode, "
+                "the database truncates the text or rejects the person."));
 }
 
 void TestCheckFileDatabase::charactersAreCountedNotCodeUnits()

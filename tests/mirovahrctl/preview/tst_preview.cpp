@@ -152,8 +152,7 @@ void TestPreview::theExportStaysAndNoCommandIsRun()
     COMPARE_STATUS(preview, 1);
     QCOMPARE(content(m_bench.exportFile().path()), before);
     QVERIFY(!QFileInfo::exists(path("written")));
-    QVERIFY(preview.output().contains(
-        "It was not run: this is the preview of the file as it is."));
+    QVERIFY(preview.output().contains("It was not run: this is the preview of the file as it is."));
     QVERIFY(preview.output().contains("The plugin would remove the export after reading it."));
 }
 
