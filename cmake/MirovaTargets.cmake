@@ -63,12 +63,31 @@ function(mirovahr_hardening target)
     target_link_options(${target} PRIVATE "$<$<CONFIG:Release>:LINKER:-z,relro;LINKER:-z,now>")
 endfunction()
 
+# mirovahr_unite(<target>)
+# With MIROVAHR_UNITY, compiles the sources of each folder as one: most of what a file costs is what
+# it includes.
+function(mirovahr_unite target)
+    if(NOT MIROVAHR_UNITY)
+        return()
+    endif()
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "\\.cpp$")
+    foreach(source IN LISTS sources)
+        cmake_path(ABSOLUTE_PATH source OUTPUT_VARIABLE folder)
+        cmake_path(GET folder PARENT_PATH folder)
+        cmake_path(GET folder FILENAME folder)
+        set_source_files_properties("${source}" PROPERTIES UNITY_GROUP ${folder})
+    endforeach()
+endfunction()
+
 # mirovahr_product_defaults(<target> [PLAIN])
 # As mirovahr_defaults, for what is delivered: hardened, and text becomes a QString only where the
 # code says so. PLAIN: without precompiled headers.
 function(mirovahr_product_defaults target)
     mirovahr_defaults(${target})
     mirovahr_hardening(${target})
+    mirovahr_unite(${target})
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS)
     if(NOT PLAIN IN_LIST ARGN)

@@ -10,8 +10,8 @@
 
 namespace {
 
-const QLatin1String kAdd("INSERT INTO `bas` (bid, attrid, secid) VALUES(?, ?, ?)"
-                         " ON DUPLICATE KEY UPDATE bid=VALUES(bid);");
+const QLatin1String kAddTriple("INSERT INTO `bas` (bid, attrid, secid) VALUES(?, ?, ?)"
+                               " ON DUPLICATE KEY UPDATE bid=VALUES(bid);");
 const QLatin1String kDelete("DELETE FROM `bas` WHERE bid = ? AND attrid = ? AND secid = ?;");
 
 constexpr char kAddName[] = "BranchesRepository::addBAS";
@@ -40,7 +40,7 @@ void bindColumns(QSqlQuery &query, const QStringList &triples)
 
 bool BranchesRepository::addBAS(const BASData &triple)
 {
-    return changeTriple(kAddName, kAdd, triple);
+    return changeTriple(kAddName, kAddTriple, triple);
 }
 
 bool BranchesRepository::deleteBAS(const BASData &triple)
@@ -50,7 +50,7 @@ bool BranchesRepository::deleteBAS(const BASData &triple)
 
 bool BranchesRepository::addBAS(const QStringList &triples)
 {
-    return changeTriples(kAddName, kAdd, triples);
+    return changeTriples(kAddName, kAddTriple, triples);
 }
 
 bool BranchesRepository::deleteBAS(const QStringList &triples)

@@ -12,8 +12,8 @@
 namespace {
 
 const QLatin1String
-    kAdd("INSERT INTO groups_plan (gid, uid, since) VALUES(%1, %2, %3)"
-         " ON DUPLICATE KEY UPDATE gid=VALUES(gid), uid=VALUES(uid), since=VALUES(since);");
+    kAddPlan("INSERT INTO groups_plan (gid, uid, since) VALUES(%1, %2, %3)"
+             " ON DUPLICATE KEY UPDATE gid=VALUES(gid), uid=VALUES(uid), since=VALUES(since);");
 const QLatin1String kDel("DELETE FROM groups_plan WHERE gid = %1 AND uid = %2 AND since = %3");
 const QLatin1String kUpdateGroupsMonth(
     "INSERT INTO groups_month  (gid, uid, month)"
@@ -76,7 +76,7 @@ void GroupsPlanRepo::setAutoUpdateGroupsMonth(bool on)
 
 bool GroupsPlanRepo::add(const GroupsPlanRecord &rec)
 {
-    return changePlan("GroupsPlanRepo::add", kAdd, rec);
+    return changePlan("GroupsPlanRepo::add", kAddPlan, rec);
 }
 
 bool GroupsPlanRepo::del(const GroupsPlanRecord &rec)

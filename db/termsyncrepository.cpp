@@ -79,7 +79,7 @@ QString idList(const QStringList &ids)
     return ids.join(QStringLiteral(", "));
 }
 
-bool failed(const QSqlQuery &query, const char *message)
+bool hasFailed(const QSqlQuery &query, const char *message)
 {
     return SqlStatement::failed(query, message, SqlStatement::Encoding::Local8Bit);
 }
@@ -102,9 +102,9 @@ void TermSyncRepository::addTermSyncPerson(unsigned int uid, QChar type, const Q
                   "TermSyncRepository::addTermSyncPerson() ERROR:")) {
         return;
     }
-    failed(SqlStatement::runAll(m_db,
-                                Placeholders::filled(TermSyncStatements::kMarkTermsOfPerson, uid)),
-           "TermSyncRepository::addTermSyncPerson() - updateTermsSync() FAILED! ERROR:");
+    hasFailed(SqlStatement::runAll(
+                  m_db, Placeholders::filled(TermSyncStatements::kMarkTermsOfPerson, uid)),
+              "TermSyncRepository::addTermSyncPerson() - updateTermsSync() FAILED! ERROR:");
 }
 
 void TermSyncRepository::addTermSyncPerson(unsigned int tid, unsigned int uid, QChar type,
@@ -153,8 +153,8 @@ void TermSyncRepository::addTermSyncTimezone(unsigned int zid, QChar type, const
                   "TermSyncRepository::addTermSyncTimezone() ERROR:")) {
         return;
     }
-    failed(SqlStatement::runAll(m_db, Placeholders::filled(kMarkTermsOfTimezone, zid)),
-           "TermSyncRepository::addTermSyncTimezone() - update terminals FAILED! ERROR:");
+    hasFailed(SqlStatement::runAll(m_db, Placeholders::filled(kMarkTermsOfTimezone, zid)),
+              "TermSyncRepository::addTermSyncTimezone() - update terminals FAILED! ERROR:");
 }
 
 void TermSyncRepository::addTermSyncPZT(unsigned int uid, unsigned int zid, unsigned int tid,
@@ -197,12 +197,13 @@ void TermSyncRepository::addColorGroupsToTermSync()
 bool TermSyncRepository::setTermSyn(unsigned int tid, unsigned short bits)
 {
     const QSqlQuery query = SqlStatement::run(m_db, Placeholders::filled(kMarkTerm, bits, tid));
-    return !failed(query, "TermSyncRepository::setTermSyn() ERROR:") && query.numRowsAffected() > 0;
+    return !hasFailed(query, "TermSyncRepository::setTermSyn() ERROR:")
+        && query.numRowsAffected() > 0;
 }
 
 bool TermSyncRepository::succeeds(const QString &sql, const char *message) const
 {
-    return !failed(SqlStatement::run(m_db, sql), message);
+    return !hasFailed(SqlStatement::run(m_db, sql), message);
 }
 
 void TermSyncRepository::queueForTerm(unsigned int tid, unsigned short bits, const QString &sql,

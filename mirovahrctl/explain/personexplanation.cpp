@@ -168,7 +168,6 @@ void PersonExplanation::explainGate()
 
 void PersonExplanation::explainExport(const PersonLines &lines)
 {
-    Report &report = m_context.report;
     explainCommand();
     m_isFound = !lines.lines().isEmpty();
     if (!m_isFound)
@@ -176,7 +175,7 @@ void PersonExplanation::explainExport(const PersonLines &lines)
     for (const CheckedLine &line : lines.lines())
         explainLine(line);
     if (lines.more() > 0) {
-        report.finding(
+        m_context.report.finding(
             makeFinding(Severity::Warning, "lines-not-explained",
                         QStringLiteral("%1 more about the same person are not explained: the facts "
                                        "are those of the first %2.")

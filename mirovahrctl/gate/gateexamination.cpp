@@ -1,6 +1,7 @@
 #include "mirovahrctl/gate/gateexamination.h"
 
 #include "mirovahrctl/export/rejectswriter.h"
+#include "mirovahrctl/gate/gatesource.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
 #include "mirovahrctl/program/progress.h"
 #include "worker/boundedlinereader.h"
@@ -11,8 +12,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int kPieceSize = 64 * 1024;
 
 const QLatin1String kCopy("The copy of HR's file");
 const QLatin1String kLastAdmitted("The last admitted file");

@@ -1,5 +1,7 @@
 #include "mirovahrctl/gate/gatepublication.h"
 
+#include "mirovahrctl/gate/gatesource.h"
+
 #include <QFileInfo>
 
 namespace {
@@ -7,8 +9,6 @@ namespace {
 /// For the attendance server and, by the folder's group, for whoever delivers the export; not for
 /// everybody, since it holds personal data.
 constexpr mode_t kPermissions = 0640;
-
-constexpr int kPieceSize = 64 * 1024;
 
 } // namespace
 

@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int kPieceSize = 64 * 1024;
 constexpr qint64 kNanosecondsPerMillisecond = 1000000;
 
 bool isSameTime(const timespec &a, const timespec &b)

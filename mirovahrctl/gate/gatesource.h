@@ -8,6 +8,9 @@
 
 class QIODevice;
 
+/// How many bytes of a file the gate reads at a time.
+constexpr int kPieceSize = 64 * 1024;
+
 /// HR's file, which may be written or replaced at any moment. It is copied once, and only the copy
 /// is examined.
 class GateSource {

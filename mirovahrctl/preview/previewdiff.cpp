@@ -67,13 +67,13 @@ QString order(const PreviewTable &table, const QString &owner)
     return columns.join(QStringLiteral(", "));
 }
 
-struct Moment {
+struct MomentColumn {
     const char *table;
     const char *column;
 };
 
 /// Columns into which the plugin writes UNIX_TIMESTAMP().
-constexpr Moment kMoments[] = {
+constexpr MomentColumn kMoments[] = {
     {"people", "created"}, {"people", "edited"}, {"brape", "since"}, {"term_sync", "created"}};
 
 } // namespace
@@ -175,7 +175,7 @@ bool PreviewMoments::isNow(const PreviewChange &change, int column) const
         return false;
     const QString &name = change.table->columns.at(column).name;
     const bool isMoment =
-        std::any_of(std::begin(kMoments), std::end(kMoments), [&](const Moment &moment) {
+        std::any_of(std::begin(kMoments), std::end(kMoments), [&](const MomentColumn &moment) {
             return change.table->name == QLatin1String(moment.table)
                 && name == QLatin1String(moment.column);
         });

@@ -10,7 +10,7 @@ constexpr char kBranch[] = "SELECT IF(name = '', CONCAT('branch ', bid), name) F
                            "bid = %1";
 constexpr char kCalendarGroup[] =
     "SELECT CONCAT('group ', gid, ' (calendar ', calendarID, ')') FROM groups WHERE gid = %1";
-constexpr char kAdministrator[] =
+constexpr char kAdministratorName[] =
     "SELECT CONCAT('administrator ', aid, IFNULL(CONCAT(' (', IFNULL((SELECT CONCAT_WS(' ', "
     "pamId, name, surname) FROM people WHERE pamId LIKE CONCAT(personalNumber, '.%') ORDER BY "
     "status DESC, pamId LIMIT 1), CONCAT('personal number ', personalNumber)), ')'), '')) FROM "
@@ -51,7 +51,7 @@ QString PreviewNames::calendarGroup(const QString &gid)
 
 QString PreviewNames::administrator(const QString &aid)
 {
-    return nameOf(kAdministrator, QStringLiteral("administrator"), aid);
+    return nameOf(kAdministratorName, QStringLiteral("administrator"), aid);
 }
 
 QString PreviewNames::terminal(const QString &tid)

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr char kAdministrator[] = "mirovahrctl.copy";
-constexpr char kAttendance[] = "mirovahrctl.attendance";
+constexpr char kCopyConnection[] = "mirovahrctl.copy";
+constexpr char kAttendanceConnection[] = "mirovahrctl.attendance";
 
 /// A row is copied in one statement, however long it is.
 constexpr char kLargestPacket[] = "--max-allowed-packet=256M";
@@ -25,8 +25,8 @@ QString timeZoneOption(const QString &siteZone)
 
 PreviewServer::~PreviewServer()
 {
-    QSqlDatabase::removeDatabase(QLatin1String(kAttendance));
-    QSqlDatabase::removeDatabase(QLatin1String(kAdministrator));
+    QSqlDatabase::removeDatabase(QLatin1String(kAttendanceConnection));
+    QSqlDatabase::removeDatabase(QLatin1String(kCopyConnection));
 }
 
 bool PreviewServer::start(const PreviewSchema &schema)
@@ -45,20 +45,20 @@ bool PreviewServer::start(const PreviewSchema &schema)
 
 bool PreviewServer::connectToServer()
 {
-    m_server.addConnection(QLatin1String(kAttendance), PrivateMariaDb::Account::Host);
-    QSqlDatabase database = m_server.addConnection(QLatin1String(kAdministrator),
+    m_server.addConnection(QLatin1String(kAttendanceConnection), PrivateMariaDb::Account::Host);
+    QSqlDatabase database = m_server.addConnection(QLatin1String(kCopyConnection),
                                                    PrivateMariaDb::Account::Administrator);
     return database.open() || fail(database.lastError().text());
 }
 
 QSqlDatabase PreviewServer::administrator() const
 {
-    return QSqlDatabase::database(QLatin1String(kAdministrator));
+    return QSqlDatabase::database(QLatin1String(kCopyConnection));
 }
 
 QSqlDatabase PreviewServer::attendance() const
 {
-    return QSqlDatabase::database(QLatin1String(kAttendance));
+    return QSqlDatabase::database(QLatin1String(kAttendanceConnection));
 }
 
 bool PreviewServer::fail(const QString &error)
