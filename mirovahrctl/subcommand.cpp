@@ -21,6 +21,8 @@ ExitStatus runForce(const QStringList &arguments, Console &console);
 ExitStatus runGate(const QStringList &arguments, Console &console);
 /// Reports what a synchronisation would change, by running it on a copy of the database.
 ExitStatus runPreview(const QStringList &arguments, Console &console);
+/// Lists the rules of the other subcommands.
+ExitStatus runRules(const QStringList &arguments, Console &console);
 /// Reports what the database and the gate know of the plugin's work.
 ExitStatus runStatus(const QStringList &arguments, Console &console);
 
@@ -99,6 +101,7 @@ const QVector<Subcommand> &subcommands()
         {"gate", "Publish HR's file for the plugin, or hold it back", runGate},
         {"force", "Make the plugin synchronise everybody at its next tick", runForce},
         {"status", "Show what is known of the plugin's work, for people and monitoring", runStatus},
+        {"rules", "List the rules behind the findings, or explain one", runRules},
     };
     return all;
 }

@@ -10,16 +10,3 @@ Finding makeFinding(Severity severity, const char *rule, const QString &message,
     finding.advice = advice;
     return finding;
 }
-
-QString severityWord(Severity severity)
-{
-    switch (severity) {
-    case Severity::Note:
-        return QStringLiteral("note");
-    case Severity::Warning:
-        return QStringLiteral("warning");
-    case Severity::Error:
-        return QStringLiteral("error");
-    }
-    Q_UNREACHABLE();
-}

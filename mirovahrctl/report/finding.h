@@ -1,14 +1,9 @@
 #pragma once
 
+#include "mirovahrctl/report/severity.h"
+
 #include <QString>
 #include <QtGlobal>
-
-/// How much a finding matters. Notes alone leave the exit status at "fine".
-enum class Severity {
-    Note, ///< good to know; nothing is lost
-    Warning, ///< works, but probably not as intended
-    Error, ///< fails: a line is dropped, a person not written, a key without effect
-};
 
 /// One result of a rule.
 struct Finding {
@@ -26,6 +21,3 @@ struct Finding {
 /// A finding about the whole, without a line, field or subject.
 Finding makeFinding(Severity severity, const char *rule, const QString &message,
                     const QString &advice = QString());
-
-/// "note", "warning" or "error".
-QString severityWord(Severity severity);

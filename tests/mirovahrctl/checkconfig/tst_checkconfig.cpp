@@ -1,4 +1,4 @@
-#include "tests/mirovahrctl/program/manual.h"
+#include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 
 #include <QFile>
@@ -28,7 +28,7 @@ private Q_SLOTS:
 
     void aRuleTripsOnItsFixtureOnly_data();
     void aRuleTripsOnItsFixtureOnly();
-    void everyRuleOfTheManualHasItsFixtures();
+    void everyRuleHasItsFixtures();
     void aMissingFileIsFoundAndEveryKeyHasItsDefault();
     void aFileThatOthersCanWriteIsFound();
     void theImportFolderIsLookedAt();
@@ -46,7 +46,7 @@ private:
     QString inForce(const ToolRun &run, const QString &key);
 
     QScopedPointer<QTemporaryDir> m_dir;
-    Manual::RuleFixtures m_fixtures;
+    RuleFixtures m_fixtures;
 };
 
 void TestCheckConfig::init()
@@ -223,7 +223,7 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly()
         COMPARE_EXIT(run, ExitStatus::Findings);
 }
 
-void TestCheckConfig::everyRuleOfTheManualHasItsFixtures()
+void TestCheckConfig::everyRuleHasItsFixtures()
 {
     // These take more than a text, and have test functions of their own.
     const QSet<QString> others{"file-missing", "file-world-writable", "import-file-no-file",

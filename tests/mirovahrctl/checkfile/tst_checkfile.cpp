@@ -1,4 +1,4 @@
-#include "tests/mirovahrctl/program/manual.h"
+#include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
 
@@ -41,7 +41,7 @@ private Q_SLOTS:
 
     void aRuleTripsOnItsFixtureOnly_data();
     void aRuleTripsOnItsFixtureOnly();
-    void everyRuleOfTheManualHasItsFixtures();
+    void everyRuleHasItsFixtures();
     void aDroppedLineIsFlagged_data();
     void aDroppedLineIsFlagged();
     void aGoodExportIsFine();
@@ -73,7 +73,7 @@ private:
 
     QScopedPointer<ExportFile> m_export;
     QScopedPointer<QTemporaryDir> m_dir;
-    Manual::RuleFixtures m_fixtures;
+    RuleFixtures m_fixtures;
 };
 
 void TestCheckFile::init()
@@ -268,7 +268,7 @@ void TestCheckFile::aRuleTripsOnItsFixtureOnly()
         run, found[0]["severity"].toString() == "note" ? ExitStatus::Fine : ExitStatus::Findings);
 }
 
-void TestCheckFile::everyRuleOfTheManualHasItsFixtures()
+void TestCheckFile::everyRuleHasItsFixtures()
 {
     // These need a database or a very long export, and have test functions of their own.
     const QSet<QString> others{"text-too-long", "repetitions-not-all-found"};

@@ -1,6 +1,6 @@
 #include "mirovahrctl/gate/gatesource.h"
 #include "tests/mirovahrctl/gate/gatesite.h"
-#include "tests/mirovahrctl/program/manual.h"
+#include "tests/mirovahrctl/program/rulefixtures.h"
 
 #include <QSet>
 #include <QtTest>
@@ -71,19 +71,19 @@ private Q_SLOTS:
     void aRunWithoutFindingsIsPlain();
     void badUsageIsRefused_data();
     void badUsageIsRefused();
-    void everyRuleOfTheManualHasItsFixtures();
+    void everyRuleHasItsFixtures();
 
 private:
     void compare(const ToolRun &run, const QStringList &reasons);
     void remember(const ToolRun &run);
 
     QScopedPointer<GateSite> m_site;
-    Manual::RuleFixtures m_fixtures;
+    RuleFixtures m_fixtures;
 };
 
 void TestGate::remember(const ToolRun &run)
 {
-    for (const QString &rule : Manual::rules("gate"))
+    for (const QString &rule : registeredRules("gate"))
         (run.rules().contains(rule) ? m_fixtures.tripped : m_fixtures.passed) << rule;
 }
 
@@ -684,7 +684,7 @@ void TestGate::badUsageIsRefused()
     QVERIFY(!QFile::exists("/a"));
 }
 
-void TestGate::everyRuleOfTheManualHasItsFixtures()
+void TestGate::everyRuleHasItsFixtures()
 {
     // These need another process, and have tests of their own.
     const QSet<QString> others{"busy", "changed-meanwhile"};

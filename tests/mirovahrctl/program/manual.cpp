@@ -29,27 +29,20 @@ QString about(const QString &subcommand)
 
 QStringList rules(const QString &subcommand)
 {
+    static const QRegularExpression list("^(?:Rules|Notes)[^:]*:\\n((?:\\.BR [a-z0-9-]+ [,.]\\n)+)",
+                                         QRegularExpression::MultilineOption);
     static const QRegularExpression rule("^\\.BR ([a-z0-9-]+) [,.]$",
                                          QRegularExpression::MultilineOption);
     QStringList rules;
-    auto matches = rule.globalMatch(about(subcommand));
-    while (matches.hasNext())
-        rules << matches.next().captured(1);
+    const QString about = Manual::about(subcommand);
+    auto lists = list.globalMatch(about);
+    while (lists.hasNext()) {
+        auto matches = rule.globalMatch(lists.next().captured(1));
+        while (matches.hasNext())
+            rules << matches.next().captured(1);
+    }
     rules.sort();
     return rules;
-}
-
-QStringList RuleFixtures::missing(const QString &subcommand, const QSet<QString> &others) const
-{
-    const QStringList all = rules(subcommand);
-    if (all.isEmpty())
-        return {"the rules of " + subcommand};
-    QStringList missing;
-    for (const QString &rule : all) {
-        if (!others.contains(rule) && !(tripped.contains(rule) && passed.contains(rule)))
-            missing += rule;
-    }
-    return missing;
 }
 
 } // namespace Manual

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -17,14 +16,5 @@ QString about(const QString &subcommand);
 
 /// The rules that the page names for one subcommand, in alphabetical order.
 QStringList rules(const QString &subcommand);
-
-/// Which rules a test program has tripped with its fixtures, and which it has not.
-struct RuleFixtures {
-    QSet<QString> tripped;
-    QSet<QString> passed;
-
-    /// Those of a subcommand's rules that miss a fixture of either kind, without \a others.
-    QStringList missing(const QString &subcommand, const QSet<QString> &others) const;
-};
 
 } // namespace Manual

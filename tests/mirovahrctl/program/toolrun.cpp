@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/subcommand.h"
+#include "tests/mirovahrctl/program/rulefixtures.h"
 
 #include <QBuffer>
 #include <QJsonDocument>
@@ -13,6 +14,16 @@ namespace {
 
 /// So wide that no text is broken.
 constexpr int kWide = 10000;
+
+/// Ends the test program when a finding is not one of the rules that `mirovahrctl rules` lists.
+void requireRegisteredRules(const QString &subcommand, const ToolRun &run)
+{
+    const QJsonArray findings = run.findings();
+    for (const QJsonValue &finding : findings) {
+        if (!isRegistered(subcommand, finding.toObject()))
+            qFatal("A finding that is not registered: %s", run.report().constData());
+    }
+}
 
 } // namespace
 
@@ -63,5 +74,7 @@ ToolRun runTool(const QStringList &arguments, bool interactive)
     err.open(QIODevice::WriteOnly);
     Console console(out, err, interactive, kWide);
     const ExitStatus status = runMirovahrctl(arguments, console);
-    return {status, QString::fromUtf8(out.data()), QString::fromUtf8(err.data())};
+    const ToolRun run{status, QString::fromUtf8(out.data()), QString::fromUtf8(err.data())};
+    requireRegisteredRules(arguments.value(0), run);
+    return run;
 }

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "mirovahrctl/report/rule.h"
+
+#include <QVector>
+
+/// The rules of one subcommand.
+struct RuleGroup {
+    const char *subcommand; ///< as on the command line
+    QVector<const Rule *> rules;
+    /// A subcommand whose rules this one reports as well; null for none.
+    const char *otherSubcommand = nullptr;
+};
+
+/// All rules, in the order of the subcommands in the overview.
+const QVector<RuleGroup> &ruleGroups();

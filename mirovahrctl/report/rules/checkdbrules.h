@@ -1,0 +1,297 @@
+#pragma once
+
+#include "mirovahrctl/report/rule.h"
+
+/// The rules of check-db.
+namespace CheckDbRules {
+
+inline constexpr Rule kAdminIdLarge{
+    "admin-id-large", Severity::Warning,
+    "The id of an administrator exceeds 16 bits, which is all that other components keep.",
+    "Give the administrators ids up to 65535."};
+
+inline constexpr Rule kBranchIdLarge{
+    "branch-id-large", Severity::Error,
+    "The id of a branch exceeds 16 bits; members are added to another branch, or to none.",
+    "Give the branches ids up to 65535."};
+
+inline constexpr Rule kBranchNumberTwice{
+    "branch-number-twice", Severity::Warning,
+    "Several branches have the same number; people are placed in any of them.",
+    "Give the number to one branch only."};
+
+inline constexpr Rule kCalendarTwice{
+    "calendar-twice", Severity::Warning,
+    "Several calendar groups have the same calendar; people are placed in any of them.",
+    "Keep one group for each calendar in a master group."};
+
+inline constexpr Rule kClock{
+    "clock", Severity::Warning, "The clocks of the server and of this machine differ.",
+    "Synchronise both with the same time server: the plugin compares times of the two."};
+
+inline constexpr Rule kColumnCharset{"column-charset", Severity::Warning,
+                                     "A text column has a character set that lacks letters.",
+                                     "Convert the column to utf8mb4."};
+
+inline constexpr Rule kColumnKind{"column-kind", Severity::Error,
+                                  "A column has another kind of type than the plugin writes.",
+                                  "Give the column the type of reference-db/schema.sql."};
+
+inline constexpr Rule kColumnMissing{
+    "column-missing", Severity::Error,
+    "A column that the plugin uses does not exist, or the account has no rights on it.",
+    "See the definition in reference-db/schema.sql. An account cannot see what it has no "
+    "rights on."};
+
+inline constexpr Rule kColumnNotNull{
+    "column-not-null", Severity::Error,
+    "A column does not allow NULL, which the plugin writes into it.", "Allow NULL in the column."};
+
+inline constexpr Rule kColumnTooNarrow{
+    "column-too-narrow", Severity::Error,
+    "A column cannot hold everything that the plugin writes into it.",
+    "Give the column the type of reference-db/schema.sql."};
+
+inline constexpr Rule kColumnWithoutDefault{
+    "column-without-default", Severity::Error,
+    "A column that the plugin leaves out has no default value, so new rows are refused.",
+    "Give the column a default value."};
+
+inline constexpr Rule kColumnsHidden{
+    "columns-hidden", Severity::Note,
+    "The account sees only some columns of a table, so this check may miss others.",
+    "Check again with an account that reads whole tables, such as mirovahrctl, and --other-"
+    "account."};
+
+inline constexpr Rule kConnectionCharset{
+    "connection-charset", Severity::Error,
+    "The connection's character set is not UTF-8: accented letters are stored wrongly.",
+    "Check the server's init_connect for SET NAMES."};
+
+inline constexpr Rule kFoundRows{
+    "found-rows", Severity::Error,
+    "The connect options contain CLIENT_FOUND_ROWS, so the plugin miscounts changed rows.",
+    "Leave the option out, here and in the attendance server."};
+
+inline constexpr Rule kGroupsReserved{
+    "groups-reserved", Severity::Error,
+    "The server reserves the word groups, so a statement of the plugin fails.",
+    "Use MariaDB, or MySQL up to 5.7."};
+
+inline constexpr Rule kIdentityMissing{
+    "identity-missing", Severity::Warning,
+    "A table has no unique key where the plugin expects one row for each value.",
+    "Remove the duplicate rows and add the key."};
+
+inline constexpr Rule kKeyMissing{
+    "key-missing", Severity::Error,
+    "A unique key is missing: the plugin inserts a second row instead of updating the "
+    "first.",
+    "Remove the duplicate rows and add the key."};
+
+inline constexpr Rule kKeyMissingElsewhere{
+    "key-missing-elsewhere", Severity::Warning,
+    "A unique key is missing that another component of the attendance server needs.",
+    "Remove the duplicate rows and add the key."};
+
+inline constexpr Rule kKeyUnexpected{
+    "key-unexpected", Severity::Error,
+    "A further unique key can make the plugin change another row than it means.",
+    "Make the key non-unique."};
+
+inline constexpr Rule kMissingElsewhere{
+    "missing-elsewhere", Severity::Note,
+    "A table or column is missing that only other components of the attendance server use."};
+
+inline constexpr Rule kNotAutomatic{
+    "not-automatic", Severity::Error,
+    "A column is not AUTO_INCREMENT, but the plugin leaves its value to the server.",
+    "Make it AUTO_INCREMENT."};
+
+inline constexpr Rule kNotTransactional{"not-transactional", Severity::Warning,
+                                        "A table does not support transactions.",
+                                        "Use a transactional engine, such as InnoDB."};
+
+inline constexpr Rule kPayrollExportNone{
+    "payroll-export-none", Severity::Warning,
+    "There is no payroll export, so the plugin adds new people to none.",
+    "Ignore this if nobody should be added."};
+
+inline constexpr Rule kPayrollExportSeveral{
+    "payroll-export-several", Severity::Warning,
+    "There are several payroll exports, so the plugin adds new people to none.",
+    "Ignore this if nobody should be added."};
+
+inline constexpr Rule kPayrollIdStrange{
+    "payroll-id-strange", Severity::Warning, "The pid and pamId of an active person disagree.",
+    "pamId is the personal number, a dot and the number of the relationship; pid is the "
+    "digits of both joined."};
+
+inline constexpr Rule kPrimaryKeyWanted{
+    "primary-key-wanted",
+    {Severity::Error, Severity::Note},
+    "The cluster refuses writes to tables without a primary key, and there is such a table.",
+    "Add a column id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY KEY."};
+
+inline constexpr Rule kRightExcess{
+    "right-excess", Severity::Warning, "The account has more rights than the plugin needs.",
+    "Run the plugin with an account as in reference-db/grants.sql; see docs/security.md."};
+
+inline constexpr Rule kRightMissing{"right-missing", Severity::Error,
+                                    "The account lacks a right that the plugin needs.",
+                                    "Load reference-db/grants.sql, with the account's name in it."};
+
+inline constexpr Rule kRoutineArguments{
+    "routine-arguments", Severity::Error,
+    "A routine takes a different number of arguments from what the plugin passes.",
+    "Compare it with reference-db/routines.sql."};
+
+inline constexpr Rule kRoutineFails{"routine-fails", Severity::Error, "A routine fails.",
+                                    "Compare it with reference-db/routines.sql."};
+
+inline constexpr Rule kRoutineLateDays{
+    "routine-late-days", Severity::Warning, "A function fails for days beyond the server's range.",
+    "Create the function again in an SQL mode that is not strict, as reference-"
+    "db/routines.sql does, and grant EXECUTE on it again."};
+
+inline constexpr Rule kRoutineMissing{"routine-missing", Severity::Error,
+                                      "A routine does not exist, or the account may not call it.",
+                                      "See reference-db/routines.sql and reference-db/grants.sql."};
+
+inline constexpr Rule kRoutineUnseen{"routine-unseen", Severity::Note,
+                                     "The account cannot see a routine.",
+                                     "Check with the plugin's account as well."};
+
+inline constexpr Rule kRoutineWrong{"routine-wrong", Severity::Error,
+                                    "A function returns a wrong result.",
+                                    "Compare it with reference-db/routines.sql."};
+
+inline constexpr Rule kSelectionWidth{
+    "selection-width", Severity::Warning,
+    "The column of the payroll export's selection cannot name every active person.",
+    "Make the column a MEDIUMTEXT."};
+
+inline constexpr Rule kServerReadOnly{
+    "server-read-only", Severity::Error,
+    "The server is read-only, so every write of the plugin fails.",
+    "Use the server that accepts writes, not a replica."};
+
+inline constexpr Rule kSeveralStatements{
+    "several-statements", Severity::Warning,
+    "The connection refuses several statements in one text.",
+    "Check for a proxy between this machine and the server that splits the statements."};
+
+inline constexpr Rule kSqlModeBackslash{
+    "sql-mode-backslash", Severity::Note,
+    "The SQL mode NO_BACKSLASH_ESCAPES is on, so a backslash is stored literally."};
+
+inline constexpr Rule kSqlModeEmptyNull{
+    "sql-mode-empty-null", Severity::Error,
+    "The SQL mode EMPTY_STRING_IS_NULL is on, so people with empty texts cannot be written.",
+    "Remove the mode from the server's sql_mode, or from that of the plugin's connections."};
+
+inline constexpr Rule kSqlModeGroupBy{
+    "sql-mode-group-by", Severity::Error,
+    "The SQL mode ONLY_FULL_GROUP_BY is on, so some statements fail.",
+    "Remove the mode from the server's sql_mode, or from that of the plugin's connections."};
+
+inline constexpr Rule kSqlModeNotStrict{
+    "sql-mode-not-strict", Severity::Warning,
+    "No strict SQL mode is on, so values that do not fit are altered silently.",
+    "Add STRICT_TRANS_TABLES to the server's sql_mode."};
+
+inline constexpr Rule kStatusDefault{
+    "status-default", Severity::Error,
+    "The default of people.status is not 1, so new people are inactive.",
+    "Make 1 the default of the column."};
+
+inline constexpr Rule kSupervisorTwice{
+    "supervisor-twice", Severity::Warning,
+    "Several administrators have the same personal number; any of them gets the requests.",
+    "Give the number to one administrator only."};
+
+inline constexpr Rule kTableMissing{
+    "table-missing", Severity::Error,
+    "A table that the plugin uses does not exist, or the account has no rights on it.",
+    "See the definition in reference-db/schema.sql. An account cannot see what it has no "
+    "rights on."};
+
+inline constexpr Rule kTemporaryTableRefused{
+    "temporary-table-refused", Severity::Warning,
+    "The server refuses temporary tables without a primary key.",
+    "Change the setting of the server that the finding names."};
+
+inline constexpr Rule kTimeZone{
+    "time-zone", Severity::Error, "The server and this program disagree about when days begin.",
+    "Run this check with the TZ of the attendance server. If the error remains, give both "
+    "the same zone by name: an offset such as +01:00 has no daylight saving time."};
+
+inline constexpr Rule kVacationFundNone{
+    "vacation-fund-none", Severity::Warning,
+    "There is no vacation fund, so vacation balances are not synchronised.",
+    "Ignore this if they should not be."};
+
+inline constexpr Rule kVacationFundNumber{
+    "vacation-fund-number", Severity::Error,
+    "The number of the vacation fund exceeds 16 bits; the plugin would write to another "
+    "fund.",
+    "Give the fund a number up to 65535."};
+
+inline constexpr Rule kVacationFundSeveral{
+    "vacation-fund-several", Severity::Warning,
+    "There are several vacation funds; the plugin uses any of them.", "Keep only one."};
+
+/// All of them, in the order of `mirovahrctl rules`.
+inline constexpr const Rule *kAll[] = {
+    &kAdminIdLarge,
+    &kBranchIdLarge,
+    &kBranchNumberTwice,
+    &kCalendarTwice,
+    &kClock,
+    &kColumnCharset,
+    &kColumnKind,
+    &kColumnMissing,
+    &kColumnNotNull,
+    &kColumnTooNarrow,
+    &kColumnWithoutDefault,
+    &kColumnsHidden,
+    &kConnectionCharset,
+    &kFoundRows,
+    &kGroupsReserved,
+    &kIdentityMissing,
+    &kKeyMissing,
+    &kKeyMissingElsewhere,
+    &kKeyUnexpected,
+    &kMissingElsewhere,
+    &kNotAutomatic,
+    &kNotTransactional,
+    &kPayrollExportNone,
+    &kPayrollExportSeveral,
+    &kPayrollIdStrange,
+    &kPrimaryKeyWanted,
+    &kRightExcess,
+    &kRightMissing,
+    &kRoutineArguments,
+    &kRoutineFails,
+    &kRoutineLateDays,
+    &kRoutineMissing,
+    &kRoutineUnseen,
+    &kRoutineWrong,
+    &kSelectionWidth,
+    &kServerReadOnly,
+    &kSeveralStatements,
+    &kSqlModeBackslash,
+    &kSqlModeEmptyNull,
+    &kSqlModeGroupBy,
+    &kSqlModeNotStrict,
+    &kStatusDefault,
+    &kSupervisorTwice,
+    &kTableMissing,
+    &kTemporaryTableRefused,
+    &kTimeZone,
+    &kVacationFundNone,
+    &kVacationFundNumber,
+    &kVacationFundSeveral,
+};
+
+} // namespace CheckDbRules

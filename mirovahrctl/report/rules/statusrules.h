@@ -1,0 +1,24 @@
+#pragma once
+
+#include "mirovahrctl/report/rule.h"
+
+/// The rules of status.
+namespace StatusRules {
+
+inline constexpr Rule kGateRefused{"gate-refused", Severity::Warning,
+                                   "The gate has refused the last file.",
+                                   "Until a file is admitted nothing new reaches the plugin."};
+
+inline constexpr Rule kTooOld{
+    "too-old",
+    {Severity::Warning, Severity::Error},
+    "The last admitted file, or the last trace of the plugin, is too old.",
+    "Check the log of the attendance server and what HR delivers."};
+
+/// All of them, in the order of `mirovahrctl rules`.
+inline constexpr const Rule *kAll[] = {
+    &kGateRefused,
+    &kTooOld,
+};
+
+} // namespace StatusRules

@@ -1,0 +1,117 @@
+#include "mirovahrctl/report/rules.h"
+
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/wording.h"
+
+namespace {
+
+constexpr char kDescription[] =
+    "Lists the rules that the other subcommands check, with the severity of their findings,\n"
+    "grouped by subcommand. With an id, such as field-count, explains that rule: what a\n"
+    "finding means, and what to do about it.";
+
+QString severityText(const RuleSeverity &severity)
+{
+    const QString usual = severityWord(severity.usual);
+    return severity.other == severity.usual
+        ? usual
+        : QStringLiteral("%1 or %2").arg(usual, severityWord(severity.other));
+}
+
+QVariantList listedRow(const Rule &rule)
+{
+    return {QString::fromLatin1(rule.id), severityText(rule.severity),
+            QString::fromUtf8(rule.meaning)};
+}
+
+QVariantList explainedRow(const RuleGroup &group, const Rule &rule)
+{
+    const QString advice = QString::fromUtf8(rule.advice);
+    return {QString::fromLatin1(group.subcommand), severityText(rule.severity),
+            QString::fromUtf8(rule.meaning), advice.isEmpty() ? QVariant() : QVariant(advice)};
+}
+
+/// Writes a section with the rules of one subcommand.
+void listGroup(const RuleGroup &group, Report &report)
+{
+    const QString subcommand = QString::fromLatin1(group.subcommand);
+    report.section(subcommand, subcommand);
+    Table table{QStringLiteral("rules"),
+                {{QStringLiteral("rule"), QStringLiteral("Rule")},
+                 {QStringLiteral("severity"), QStringLiteral("Severity")},
+                 {QStringLiteral("meaning"), QStringLiteral("Meaning")}},
+                {}};
+    for (const Rule *const rule : group.rules)
+        table.rows.append(listedRow(*rule));
+    report.table(table);
+    if (group.otherSubcommand != nullptr) {
+        report.sentence(QStringLiteral("Also reports rules of %1.")
+                            .arg(QString::fromLatin1(group.otherSubcommand)));
+    }
+}
+
+ExitStatus list(const CommandLine &line, Report &report)
+{
+    report.begin(line.subcommand(), QStringLiteral("Rules"));
+    int count = 0;
+    for (const RuleGroup &group : ruleGroups()) {
+        listGroup(group, report);
+        count += group.rules.size();
+    }
+    return report.conclude(
+        ExitStatus::Fine,
+        QStringLiteral("There are %1.")
+            .arg(Wording::counted(count, QStringLiteral("rule"), QStringLiteral("rules"))));
+}
+
+/// A row for each subcommand that has a rule of this id.
+QVector<QVariantList> rowsOf(const QString &id)
+{
+    QVector<QVariantList> rows;
+    for (const RuleGroup &group : ruleGroups()) {
+        for (const Rule *const rule : group.rules) {
+            if (id == QLatin1String(rule->id))
+                rows.append(explainedRow(group, *rule));
+        }
+    }
+    return rows;
+}
+
+ExitStatus explain(const CommandLine &line, const QVector<QVariantList> &rows, Report &report)
+{
+    const QString id = line.argument(0);
+    report.begin(line.subcommand(), QStringLiteral("Rule %1").arg(id));
+    report.section(QStringLiteral("rule"), QStringLiteral("What it means"));
+    report.table({QStringLiteral("rule"),
+                  {{QStringLiteral("subcommand"), QStringLiteral("Subcommand")},
+                   {QStringLiteral("severity"), QStringLiteral("Severity")},
+                   {QStringLiteral("meaning"), QStringLiteral("Meaning")},
+                   {QStringLiteral("advice"), QStringLiteral("What to do")}},
+                  rows});
+    return report.conclude(ExitStatus::Fine,
+                           QStringLiteral("%1 this rule.")
+                               .arg(Wording::counted(rows.size(), QStringLiteral("subcommand has"),
+                                                     QStringLiteral("subcommands have"))));
+}
+
+} // namespace
+
+ExitStatus runRules(const QStringList &arguments, Console &console)
+{
+    CommandLine line("rules", kDescription);
+    line.addOptionalArgument("id", "The rule to explain.");
+    line.addReportOptions(CommandLine::Page::NotOffered);
+    if (const auto end = line.parse(arguments, console))
+        return *end;
+    const QString id = line.argument(0);
+    const QVector<QVariantList> rows = rowsOf(id);
+    if (!id.isEmpty() && rows.isEmpty()) {
+        return console.fail(
+            ExitStatus::Usage,
+            QStringLiteral("Unknown rule '%1'; mirovahrctl rules lists them").arg(id));
+    }
+    Report report(line, console);
+    return rows.isEmpty() ? list(line, report) : explain(line, rows, report);
+}
