@@ -1,5 +1,6 @@
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "mirovahrctl/report/rules/checkconfigrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/schedule.h"
 
@@ -97,19 +98,17 @@ QVector<Finding> ConfigAssessment::findings()
 void ConfigAssessment::checkFile()
 {
     if (!QFileInfo::exists(m_path)) {
-        add(Severity::Warning, "file-missing", {},
-            QStringLiteral("The file does not exist: every key has its default."),
-            QStringLiteral("Start from the sample MirovaHR.ini that comes with the plugin."));
+        add(CheckConfigRules::kFileMissing, {},
+            QStringLiteral("The file does not exist: every key has its default."));
         return;
     }
     if (m_settings->status() == QSettings::FormatError) {
-        add(Severity::Error, "file-format", {},
+        add(CheckConfigRules::kFileFormat, {},
             QStringLiteral("The file has lines that are neither key=value, nor [group], nor a "
-                           "comment; they are ignored."),
-            QStringLiteral("Compare the file with the sample MirovaHR.ini."));
+                           "comment; they are ignored."));
     }
     if (QFileInfo(m_path).permission(QFileDevice::WriteOther)) {
-        add(Severity::Error, "file-world-writable", {},
+        add(CheckConfigRules::kFileWorldWritable, {},
             QStringLiteral("Every user of the machine can change this file, and with syncCommand "
                            "run programs as the attendance server."),
             QStringLiteral("Remove the permission: chmod o-w '%1'.").arg(m_path));
@@ -122,9 +121,8 @@ void ConfigAssessment::checkKeys()
     for (const IniLine &line : m_lines) {
         checkLine(line);
         if (seen.contains(line.key)) {
-            add(Severity::Warning, "key-twice", line.key,
-                QStringLiteral("The key occurs more than once; the last line counts."),
-                QStringLiteral("Keep one of the lines."));
+            add(CheckConfigRules::kKeyTwice, line.key,
+                QStringLiteral("The key occurs more than once; the last line counts."));
         }
         seen << line.key;
     }
@@ -133,14 +131,13 @@ void ConfigAssessment::checkKeys()
 void ConfigAssessment::checkLine(const IniLine &line)
 {
     if (!line.key.startsWith(QLatin1String("MES/")) && !knownKeys().contains(line.key)) {
-        add(Severity::Error, "unknown-key", line.key,
+        add(CheckConfigRules::kUnknownKey, line.key,
             QStringLiteral("The plugin does not know this key; the line has no effect."),
             unknownKeyAdvice(line.key));
     }
     if (hasUnquoted(line.value, QLatin1Char(';'))) {
-        add(Severity::Warning, "unquoted-semicolon", line.key,
-            QStringLiteral("The value ends at the semicolon; the rest of the line is a comment."),
-            QStringLiteral("Put the whole value in quotation marks."));
+        add(CheckConfigRules::kUnquotedSemicolon, line.key,
+            QStringLiteral("The value ends at the semicolon; the rest of the line is a comment."));
     }
 }
 
@@ -152,15 +149,12 @@ void ConfigAssessment::checkFlag(const QString &key)
     if (isPlainFlag(text))
         return;
     if (m_settings->value(key).toBool()) {
-        add(Severity::Warning, "flag-reads-as-true", key,
+        add(CheckConfigRules::kFlagReadsAsTrue, key,
             QStringLiteral(
                 "%1 is read as true, like everything except 0, false and an empty value.")
-                .arg(Wording::quoted(text)),
-            QStringLiteral("Write true or false."));
+                .arg(Wording::quoted(text)));
     } else {
-        add(Severity::Warning, "flag-empty", key,
-            QStringLiteral("An empty value is read as false."),
-            QStringLiteral("Write true or false."));
+        add(CheckConfigRules::kFlagEmpty, key, QStringLiteral("An empty value is read as false."));
     }
 }
 
@@ -172,12 +166,11 @@ void ConfigAssessment::checkNumber(const QString &key)
     bool isNumber = false;
     const quint64 number = value.toULongLong(&isNumber);
     if (!isNumber) {
-        add(Severity::Error, "number-reads-as-0", key,
+        add(CheckConfigRules::kNumberReadsAs0, key,
             QStringLiteral("%1 is not a whole number and is read as 0.")
-                .arg(Wording::quoted(written(key))),
-            QStringLiteral("Write digits only, without sign, unit, point or comma."));
+                .arg(Wording::quoted(written(key))));
     } else if (number > std::numeric_limits<quint32>::max()) {
-        add(Severity::Error, "number-wraps", key,
+        add(CheckConfigRules::kNumberWraps, key,
             QStringLiteral("%1 is too large and is read as %2.").arg(number).arg(value.toUInt()),
             QStringLiteral("Write a number up to %1.").arg(std::numeric_limits<quint32>::max()));
     }
@@ -187,28 +180,25 @@ void ConfigAssessment::checkText(const QString &key)
 {
     if (!isList(key))
         return;
-    add(Severity::Error, "unquoted-comma", key,
-        QStringLiteral("The text has a comma outside quotation marks and is read as empty."),
-        QStringLiteral("Put the whole value in quotation marks."));
+    add(CheckConfigRules::kUnquotedComma, key,
+        QStringLiteral("The text has a comma outside quotation marks and is read as empty."));
 }
 
 void ConfigAssessment::checkOperation()
 {
     const QString enabled = QStringLiteral("enabled");
     if (!m_config.enabled) {
-        add(Severity::Warning, "disabled", enabled,
-            QStringLiteral("The plugin is switched off: it does nothing at all."),
-            QStringLiteral("Write enabled=true to switch it on."));
+        add(CheckConfigRules::kDisabled, enabled,
+            QStringLiteral("The plugin is switched off: it does nothing at all."));
     }
     if (m_config.testMode) {
-        add(Severity::Warning, "test-mode", QStringLiteral("testMode"),
+        add(CheckConfigRules::kTestMode, QStringLiteral("testMode"),
             QStringLiteral("Test mode is on: people are neither created nor updated. Branches, "
-                           "calendars, balances, supervisors and terminals are still written."),
-            QStringLiteral("Write testMode=false for normal work."));
+                           "calendars, balances, supervisors and terminals are still written."));
     }
     if (m_config.departmentId == 0) {
-        add(Severity::Note, "no-department", QStringLiteral("departmentId"),
-            QStringLiteral("New and updated people belong to no department."), {});
+        add(CheckConfigRules::kNoDepartment, QStringLiteral("departmentId"),
+            QStringLiteral("New and updated people belong to no department."));
     }
 }
 
@@ -218,26 +208,22 @@ void ConfigAssessment::checkPeriods()
     const quint32 seconds = m_settings->value(key, 60).toUInt();
     const quint32 tick = Schedule::tickPeriod(m_config.tickMilliseconds);
     if (quint64(seconds) * 1000 != m_config.tickMilliseconds) {
-        add(Severity::Error, "tick-overflows", key,
+        add(CheckConfigRules::kTickOverflows, key,
             QStringLiteral(
                 "%1 seconds exceed 32 bits of milliseconds: the plugin ticks every %2 ms.")
                 .arg(seconds)
-                .arg(tick),
-            QStringLiteral("Write at most 2147483."));
+                .arg(tick));
     } else if (tick != m_config.tickMilliseconds) {
-        add(Severity::Warning, "tick-too-short", key,
-            QStringLiteral("The plugin ticks every second: the period is never shorter."),
-            QStringLiteral("Write the seconds between two ticks, 60 for a minute."));
+        add(CheckConfigRules::kTickTooShort, key,
+            QStringLiteral("The plugin ticks every second: the period is never shorter."));
     } else if (quint32(Schedule::timerInterval(tick)) != tick) {
-        add(Severity::Warning, "tick-too-long", key,
+        add(CheckConfigRules::kTickTooLong, key,
             QStringLiteral("The period exceeds the limit of a timer: the plugin ticks every %1 ms.")
-                .arg(Schedule::timerInterval(tick)),
-            QStringLiteral("Write at most 2147483."));
+                .arg(Schedule::timerInterval(tick)));
     }
     if (Schedule::ticksPerSynchronisation(m_config.syncInterval) != m_config.syncInterval) {
-        add(Severity::Warning, "sync-interval-zero", QStringLiteral("syncInterval"),
-            QStringLiteral("0 counts as 1: every tick synchronises."),
-            QStringLiteral("Write the number of ticks between two synchronisations."));
+        add(CheckConfigRules::kSyncIntervalZero, QStringLiteral("syncInterval"),
+            QStringLiteral("0 counts as 1: every tick synchronises."));
     }
 }
 
@@ -260,10 +246,10 @@ qint64 ConfigAssessment::lineOf(const QString &key) const
     return found == m_lines.crend() ? 0 : found->number;
 }
 
-void ConfigAssessment::add(Severity severity, const char *rule, const QString &key,
-                           const QString &message, const QString &advice)
+void ConfigAssessment::add(const Rule &rule, const QString &key, const QString &message,
+                           const QString &advice)
 {
-    Finding finding = makeFinding(severity, rule, message, advice);
+    Finding finding = makeFinding(rule, message, advice);
     finding.line = lineOf(key);
     finding.field = key;
     m_findings.append(finding);

@@ -51,8 +51,8 @@ private:
     QString written(const QString &key) const;
     bool isList(const QString &key) const;
     qint64 lineOf(const QString &key) const;
-    void add(Severity severity, const char *rule, const QString &key, const QString &message,
-             const QString &advice);
+    void add(const Rule &rule, const QString &key, const QString &message,
+             const QString &advice = QString());
 
     const QString m_path;
     const QVector<IniLine> m_lines;

@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "mirovahrctl/report/rules/checkconfigrules.h"
 #include "worker/importfile.h"
 
 #include <QDir>
@@ -50,22 +51,19 @@ void ConfigAssessment::checkImportFile()
     const QString path = ImportFile::path(m_config.importFile);
     const QFileInfo info(path);
     if (info.isRelative()) {
-        add(Severity::Warning, "import-file-relative", key,
+        add(CheckConfigRules::kImportFileRelative, key,
             QStringLiteral("The path is relative: what it names depends on the folder in which the "
-                           "attendance server was started."),
-            QStringLiteral("Write a path that begins with /."));
+                           "attendance server was started."));
         return;
     }
     if (info.exists() && !info.isFile()) {
-        add(Severity::Error, "import-file-no-file", key,
-            QStringLiteral("%1 is not a regular file: the plugin never reads it.").arg(path),
-            QStringLiteral("Write the path of the export file itself."));
+        add(CheckConfigRules::kImportFileNoFile, key,
+            QStringLiteral("%1 is not a regular file: the plugin never reads it.").arg(path));
     } else if (info.exists() && info.permission(QFileDevice::WriteOther)) {
-        add(Severity::Error, "import-file-world-writable", key,
+        add(CheckConfigRules::kImportFileWorldWritable, key,
             QStringLiteral("Every user of the machine can change %1. Its texts enter SQL "
                            "statements unescaped.")
-                .arg(path),
-            QStringLiteral("Let only HR's transfer write to it."));
+                .arg(path));
     }
     checkImportFolder(path);
 }
@@ -75,21 +73,18 @@ void ConfigAssessment::checkImportFolder(const QString &path)
     const QString key = QStringLiteral("importFile");
     const QString folder = QFileInfo(path).absolutePath();
     if (!QFileInfo(folder).isDir()) {
-        add(Severity::Warning, "import-folder-missing", key,
+        add(CheckConfigRules::kImportFolderMissing, key,
             QStringLiteral("The folder %1 does not exist, so there is never an export.")
-                .arg(folder),
-            QStringLiteral("Create the folder, or correct the path."));
+                .arg(folder));
         return;
     }
     const QString open = openFolder(path);
     if (!open.isEmpty()) {
-        add(Severity::Error, "import-folder-world-writable", key,
+        add(CheckConfigRules::kImportFolderWorldWritable, key,
             QStringLiteral("The export is read from %1, and every user of the machine can put an "
                            "export of their own there: %2 is writable for everybody. Its texts "
                            "enter SQL statements unescaped.")
-                .arg(path, open),
-            QStringLiteral("Use a folder that only HR's transfer and the attendance server can "
-                           "write to, such as /var/lib/yav/hr."));
+                .arg(path, open));
     }
 }
 
@@ -99,24 +94,20 @@ void ConfigAssessment::checkSyncCommand()
     const QString key = QStringLiteral("syncCommand");
     if (m_config.syncCommand.isEmpty()) {
         if (m_config.syncCommandRun != 0) {
-            add(Severity::Warning, "sync-command-missing", key,
+            add(CheckConfigRules::kSyncCommandMissing, key,
                 QStringLiteral("syncCommandRun demands a command, but there is none: the plugin "
-                               "logs a warning each time."),
-                QStringLiteral("Write the command, or syncCommandRun=0."));
+                               "logs a warning each time."));
         }
         return;
     }
     if (m_config.syncCommandRun == 0) {
-        add(Severity::Warning, "sync-command-never-runs", key,
-            QStringLiteral("The command is never run, because syncCommandRun is 0."),
-            QStringLiteral("Write syncCommandRun=1 for a forced synchronisation, 2 for every "
-                           "one."));
+        add(CheckConfigRules::kSyncCommandNeverRuns, key,
+            QStringLiteral("The command is never run, because syncCommandRun is 0."));
     }
     const QString program = QProcess::splitCommand(m_config.syncCommand).value(0);
     if (!isExecutable(program)) {
-        add(Severity::Error, "sync-command-not-found", key,
-            QStringLiteral("There is no executable program '%1'.").arg(program),
-            QStringLiteral("Write the program with its full path. No shell reads the line."));
+        add(CheckConfigRules::kSyncCommandNotFound, key,
+            QStringLiteral("There is no executable program '%1'.").arg(program));
     }
 }
 
@@ -126,9 +117,8 @@ void ConfigAssessment::checkSyncCommandRun()
     const quint32 configured = m_settings->value(key, 0).toUInt();
     if (configured == m_config.syncCommandRun)
         return;
-    add(Severity::Error, "sync-command-run-wraps", key,
+    add(CheckConfigRules::kSyncCommandRunWraps, key,
         QStringLiteral("Only the low 8 bits of %1 are kept: it counts as %2.")
             .arg(configured)
-            .arg(m_config.syncCommandRun),
-        QStringLiteral("Write 0 for never, 1 for a forced synchronisation, 2 for every one."));
+            .arg(m_config.syncCommandRun));
 }

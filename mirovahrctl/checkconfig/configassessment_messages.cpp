@@ -3,6 +3,7 @@
 #include "mirovahrctl/checkconfig/configassessment.h"
 
 #include "mirovahrctl/export/sqlhazards.h"
+#include "mirovahrctl/report/rules/checkconfigrules.h"
 
 #include <QSettings>
 
@@ -19,8 +20,8 @@ void ConfigAssessment::checkMessages()
 {
     const QStringList keys = Configuration::messageKeys(*m_settings);
     if (keys.isEmpty()) {
-        add(Severity::Note, "no-messages", QStringLiteral("MES"),
-            QStringLiteral("The group defines no relationship state: nobody gets one."), {});
+        add(CheckConfigRules::kNoMessages, QStringLiteral("MES"),
+            QStringLiteral("The group defines no relationship state: nobody gets one."));
     }
     for (const QString &key : keys) {
         checkMessageKey(key);
@@ -36,14 +37,12 @@ void ConfigAssessment::checkMessageKey(const QString &key)
     const uint number = key.toUInt(&isNumber, 10);
     const unsigned short code = Configuration::messageCode(key);
     if (!isNumber) {
-        add(Severity::Error, "mes-key-no-number", settingsKey(key),
-            QStringLiteral("The key is not a register state code; it counts as code 0."),
-            QStringLiteral("Write the code of HR as the key, in digits."));
+        add(CheckConfigRules::kMesKeyNoNumber, settingsKey(key),
+            QStringLiteral("The key is not a register state code; it counts as code 0."));
     } else if (number != code) {
-        add(Severity::Error, "mes-key-wraps", settingsKey(key),
+        add(CheckConfigRules::kMesKeyWraps, settingsKey(key),
             QStringLiteral("Only the low 16 bits of the code are kept: it counts as code %1.")
-                .arg(code),
-            QStringLiteral("Write a code up to 65535."));
+                .arg(code));
     }
 }
 
@@ -52,11 +51,10 @@ void ConfigAssessment::checkMessageText(const QString &key)
     const QString text = m_settings->value(settingsKey(key)).toString();
     if (!SqlHazards::breaksStatement(text))
         return;
-    add(Severity::Error, "mes-text-breaks-sql", settingsKey(key),
+    add(CheckConfigRules::kMesTextBreaksSql, settingsKey(key),
         QStringLiteral("The text contains an apostrophe, a backslash, a percent sign followed by a "
                        "digit, or a character above U+FFFF. It enters the SQL statement unescaped: "
-                       "nobody in this state can be written."),
-        QStringLiteral("Write the text without these characters."));
+                       "nobody in this state can be written."));
 }
 
 void ConfigAssessment::checkMessageCollisions(const QStringList &keys)
@@ -69,9 +67,8 @@ void ConfigAssessment::checkMessageCollisions(const QStringList &keys)
         const QString winner = inForce.value(code);
         if (key == winner)
             continue;
-        add(Severity::Error, "mes-keys-collide", settingsKey(key),
+        add(CheckConfigRules::kMesKeysCollide, settingsKey(key),
             QStringLiteral("%1 and %2 are the same code %3; the text of %2 is in force.")
-                .arg(settingsKey(key), settingsKey(winner), QString::number(code)),
-            QStringLiteral("Keep one of the two lines."));
+                .arg(settingsKey(key), settingsKey(winner), QString::number(code)));
     }
 }

@@ -60,21 +60,26 @@ void DbAssessment::end(const QString &sentenceWithoutFindings)
         m_writer.sentence(sentenceWithoutFindings);
 }
 
-void DbAssessment::reportViolation(const char *rule, const QString &message, const QString &advice,
-                                   const QString &field)
+void DbAssessment::reportViolation(const Rule &rule, const QString &field, const QString &message,
+                                   const QString &advice)
 {
     ++m_violations;
-    report(Severity::Error, rule, message, advice, field);
+    report(rule, field, message, advice);
 }
 
-void DbAssessment::report(Severity severity, const char *rule, const QString &message,
-                          const QString &advice, const QString &field)
+void DbAssessment::report(const Rule &rule, const QString &field, const QString &message,
+                          const QString &advice)
 {
-    if (severity != Severity::Note)
+    Finding finding = makeFinding(rule, message + QLatin1Char('.'), advice);
+    finding.field = field;
+    report(finding);
+}
+
+void DbAssessment::report(const Finding &finding)
+{
+    if (finding.severity != Severity::Note)
         ++m_serious;
     m_hasFindings = true;
-    Finding finding = makeFinding(severity, rule, message + QLatin1Char('.'), advice);
-    finding.field = field;
     m_writer.finding(finding);
 }
 

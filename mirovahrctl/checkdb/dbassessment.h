@@ -37,11 +37,14 @@ public:
 
     /// Reports an error that keeps the plugin from working properly: a requirement is not met.
     /// \a message: sentences, the last one without its full stop.
-    void reportViolation(const char *rule, const QString &message, const QString &advice,
-                         const QString &field = QString());
-    /// Reports a finding that violates no requirement. \a message as above.
-    void report(Severity severity, const char *rule, const QString &message, const QString &advice,
-                const QString &field = QString());
+    /// \a field: the table, column or routine; empty for none. \a advice as for makeFinding().
+    void reportViolation(const Rule &rule, const QString &field, const QString &message,
+                         const QString &advice = QString());
+    /// Reports a finding that violates no requirement. Parameters as above.
+    void report(const Rule &rule, const QString &field, const QString &message,
+                const QString &advice = QString());
+    /// As above, for a finding that is not of its rule's usual severity.
+    void report(const Finding &finding);
 
     /// The account cannot see everything that decides whether the plugin can work.
     void setPartlySeen() { m_partlySeen = true; }

@@ -4,6 +4,7 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/columnrange.h"
 #include "mirovahrctl/site/dbschema.h"
 
@@ -37,21 +38,18 @@ QString shown(const ColumnRange &range)
 void reportWrongKind(DbAssessment &check, const QString &field, const DbColumn &column,
                      const QString &kind)
 {
-    check.reportViolation("column-kind",
+    check.reportViolation(CheckDbRules::kColumnKind, field,
                           QStringLiteral("The column %1 is %2; the plugin writes %3 into it")
-                              .arg(field, column.fullType, kind),
-                          QStringLiteral("Give the column the type of reference-db/schema.sql."),
-                          field);
+                              .arg(field, column.fullType, kind));
 }
 
 void reportTooNarrow(DbAssessment &check, const QString &field, const QString &message)
 {
     check.report(
-        Severity::Error, "column-too-narrow",
+        CheckDbRules::kColumnTooNarrow, field,
         message
             + QStringLiteral(
-                ". Values that do not fit are refused, or altered where no strict SQL mode is on"),
-        QStringLiteral("Give the column the type of reference-db/schema.sql."), field);
+                ". Values that do not fit are refused, or altered where no strict SQL mode is on"));
 }
 
 QString narrowNumber(const QString &field, const DbColumn &column, const ColumnRange &written,
@@ -102,11 +100,10 @@ void checkNull(DbAssessment &check, const QString &field, const DbColumn &column
 {
     if (column.nullable)
         return;
-    check.reportViolation("column-not-null",
+    check.reportViolation(CheckDbRules::kColumnNotNull, field,
                           QStringLiteral("The column %1 does not allow NULL, which the plugin "
                                          "writes where HR leaves a value open")
-                              .arg(field),
-                          QStringLiteral("Allow NULL in the column."), field);
+                              .arg(field));
 }
 
 void checkNumber(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Number &need)
@@ -144,11 +141,10 @@ void checkCharset(DbAssessment &check, const QString &field, const DbColumn &col
     if (column.charset.startsWith(QLatin1String("utf8")))
         return;
     check.report(
-        Severity::Warning, "column-charset",
+        CheckDbRules::kColumnCharset, field,
         QStringLiteral("The column %1 has the character set %2: letters that it lacks are refused, "
                        "or stored as question marks where no strict SQL mode is on")
-            .arg(field, column.charset),
-        QStringLiteral("Convert the column to utf8mb4."), field);
+            .arg(field, column.charset));
 }
 
 void checkText(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Text &need)

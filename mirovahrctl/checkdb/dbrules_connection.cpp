@@ -3,6 +3,7 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
@@ -24,11 +25,10 @@ void checkCharset(DbAssessment &check, const QVariantList &row)
     if (isUnicode(row.value(1)) && isUnicode(row.value(2)) && isUnicode(row.value(3)))
         return;
     check.report(
-        Severity::Error, "connection-charset",
+        CheckDbRules::kConnectionCharset, {},
         QStringLiteral("The connection's character set is not UTF-8 (client %1, connection %2, "
                        "results %3): accented letters are stored wrongly")
-            .arg(row.value(1).toString(), row.value(2).toString(), row.value(3).toString()),
-        QStringLiteral("Check the server's init_connect for SET NAMES."));
+            .arg(row.value(1).toString(), row.value(2).toString(), row.value(3).toString()));
 }
 
 void checkSeveralStatements(DbAssessment &check)
@@ -40,12 +40,10 @@ void checkSeveralStatements(DbAssessment &check)
     if (allowed)
         return;
     check.report(
-        Severity::Warning, "several-statements",
+        CheckDbRules::kSeveralStatements, {},
         QStringLiteral("The connection refuses several statements in one text. The plugin does not "
                        "need them, but where the attendance server uses the same classes, a "
-                       "changed time zone does not reach the terminals"),
-        QStringLiteral(
-            "Check for a proxy between this machine and the server that splits the statements."));
+                       "changed time zone does not reach the terminals"));
 }
 
 /// Whether the options make the driver report the rows that an update matched instead of those that
@@ -67,10 +65,9 @@ void checkAffectedRows(DbAssessment &check)
     if (!countsFoundRows(check.database().connectOptions()))
         return;
     check.reportViolation(
-        "found-rows",
+        CheckDbRules::kFoundRows, {},
         QStringLiteral("The connect options contain CLIENT_FOUND_ROWS: the plugin then counts rows "
-                       "that it left unchanged as changed"),
-        QStringLiteral("Leave the option out, here and in the attendance server."));
+                       "that it left unchanged as changed"));
 }
 
 } // namespace

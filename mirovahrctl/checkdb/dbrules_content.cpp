@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/payrollexports.h"
 
@@ -61,23 +62,19 @@ void checkVacationFund(DbAssessment &check)
 {
     const QStringList funds = firstColumn(check, kSelectVacationFunds);
     if (funds.isEmpty()) {
-        check.report(Severity::Warning, "vacation-fund-none",
+        check.report(CheckDbRules::kVacationFundNone, QStringLiteral("funds"),
                      QStringLiteral("There is no vacation fund (a row of funds with iid 3 and unit "
-                                    "2): vacation balances are not synchronised"),
-                     QStringLiteral("Ignore this if they should not be."), QStringLiteral("funds"));
+                                    "2): vacation balances are not synchronised"));
     } else if (funds.size() > 1) {
-        check.report(Severity::Warning, "vacation-fund-several",
+        check.report(CheckDbRules::kVacationFundSeveral, QStringLiteral("funds"),
                      QStringLiteral("There are several vacation funds (iid 3, unit 2): %1. The "
                                     "plugin uses the first that the server happens to return")
-                         .arg(shown(funds)),
-                     QStringLiteral("Keep only one."), QStringLiteral("funds"));
+                         .arg(shown(funds)));
     } else if (funds.constFirst().toUInt() > kLargestFund) {
-        check.report(Severity::Error, "vacation-fund-number",
+        check.report(CheckDbRules::kVacationFundNumber, QStringLiteral("funds"),
                      QStringLiteral("The vacation fund has the number %1; the plugin keeps 16 bits "
                                     "of it and would write to another fund")
-                         .arg(funds.constFirst()),
-                     QStringLiteral("Give the fund a number up to 65535."),
-                     QStringLiteral("funds"));
+                         .arg(funds.constFirst()));
     }
 }
 
@@ -90,61 +87,54 @@ void checkPayrollExport(DbAssessment &check)
         ? QStringLiteral("There is no payroll export")
         : QStringLiteral("There are several payroll exports: ") + shown(exports);
     check.report(
-        Severity::Warning, exports.isEmpty() ? "payroll-export-none" : "payroll-export-several",
+        exports.isEmpty() ? CheckDbRules::kPayrollExportNone : CheckDbRules::kPayrollExportSeveral,
+        QStringLiteral("vars"),
         found
             + QStringLiteral(". The plugin adds new people to one only when there is exactly "
-                             "one key exportPam.N.active in vars, whatever its value"),
-        QStringLiteral("Ignore this if nobody should be added."), QStringLiteral("vars"));
+                             "one key exportPam.N.active in vars, whatever its value"));
 }
 
 /// A rule about rows that must not exist. \a message has one placeholder for them.
-void checkNone(DbAssessment &check, const char *sql, Severity severity, const char *rule,
-               const char *message, const char *advice, const char *field)
+void checkNone(DbAssessment &check, const char *sql, const Rule &rule, const char *field,
+               const char *message)
 {
     const QStringList rows = firstColumn(check, sql);
     if (rows.isEmpty())
         return;
-    check.report(severity, rule, QString::fromLatin1(message).arg(shown(rows)),
-                 QString::fromLatin1(advice), QString::fromLatin1(field));
+    check.report(rule, QString::fromLatin1(field), QString::fromLatin1(message).arg(shown(rows)));
 }
 
 void checkBranches(DbAssessment &check)
 {
-    checkNone(check, kSelectDuplicateNumbers, Severity::Warning, "branch-number-twice",
+    checkNone(check, kSelectDuplicateNumbers, CheckDbRules::kBranchNumberTwice, "branches.number",
               "Several branches have the same number: %1. People of that cost centre are placed in "
-              "any of them",
-              "Give the number to one branch only.", "branches.number");
-    checkNone(check, kSelectLargeBranches, Severity::Error, "branch-id-large",
+              "any of them");
+    checkNone(check, kSelectLargeBranches, CheckDbRules::kBranchIdLarge, "branches.bid",
               "The ids of these branches exceed 16 bits: %1. Members are added to another branch, "
-              "or to none",
-              "Give the branches ids up to 65535.", "branches.bid");
+              "or to none");
     checkNone(
-        check, kSelectDuplicateCalendars, Severity::Warning, "calendar-twice",
-        "Several calendar groups have the same calendar: %1. People are placed in any of them",
-        "Keep one group for each calendar in a master group.", "groups.calendarID");
+        check, kSelectDuplicateCalendars, CheckDbRules::kCalendarTwice, "groups.calendarID",
+        "Several calendar groups have the same calendar: %1. People are placed in any of them");
 }
 
 void checkAdministrators(DbAssessment &check)
 {
-    checkNone(check, kSelectLargeAdministrators, Severity::Warning, "admin-id-large",
-              "The ids of these administrators exceed 16 bits: %1. The plugin writes them "
-              "correctly, but other components of the attendance server that use its repository "
-              "classes keep only 16 bits: people are assigned to another administrator, or to none",
-              "Give the administrators ids up to 65535.", "admins.aid");
-    checkNone(check, kSelectDuplicateSupervisors, Severity::Warning, "supervisor-twice",
+    checkNone(
+        check, kSelectLargeAdministrators, CheckDbRules::kAdminIdLarge, "admins.aid",
+        "The ids of these administrators exceed 16 bits: %1. The plugin writes them "
+        "correctly, but other components of the attendance server that use its repository "
+        "classes keep only 16 bits: people are assigned to another administrator, or to none");
+    checkNone(check, kSelectDuplicateSupervisors, CheckDbRules::kSupervisorTwice,
+              "admins.personalNumber",
               "Several administrators have the same personal number: %1. Any of them gets the "
-              "requests",
-              "Give the number to one administrator only.", "admins.personalNumber");
+              "requests");
 }
 
 void checkPeople(DbAssessment &check)
 {
-    checkNone(check, kSelectDisagreeingPayrollIds, Severity::Warning, "payroll-id-strange",
+    checkNone(check, kSelectDisagreeingPayrollIds, CheckDbRules::kPayrollIdStrange, "people.pamId",
               "The pid and pamId of these active people disagree: %1. The plugin looks a person up "
-              "by pamId and writes by pid: it changes nobody, or treats the person as new",
-              "pamId is the personal number, a dot and the number of the relationship; pid is the "
-              "digits of both joined.",
-              "people.pamId");
+              "by pamId and writes by pid: it changes nobody, or treats the person as new");
 }
 
 void checkSelectionWidth(DbAssessment &check)
@@ -154,12 +144,11 @@ void checkSelectionWidth(DbAssessment &check)
     if (needed <= width)
         return;
     check.report(
-        Severity::Warning, "selection-width",
+        CheckDbRules::kSelectionWidth, QStringLiteral("vars.value"),
         QStringLiteral("The column vars.value holds %1; the selection of the payroll export would "
                        "need %2 to name every active person")
             .arg(Wording::counted(width, QStringLiteral("character"), QStringLiteral("characters")),
-                 QString::number(needed)),
-        QStringLiteral("Make the column a MEDIUMTEXT."), QStringLiteral("vars.value"));
+                 QString::number(needed)));
 }
 
 } // namespace

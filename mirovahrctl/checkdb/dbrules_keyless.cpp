@@ -3,6 +3,7 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
 #include <algorithm>
@@ -65,7 +66,7 @@ void checkTemporaryTable(DbAssessment &check, const ServerSettings &settings)
     const auto refusal = refusalOfTemporaryTable(settings);
     if (!refusal)
         return;
-    check.report(Severity::Warning, "temporary-table-refused",
+    check.report(CheckDbRules::kTemporaryTableRefused, {},
                  QStringLiteral(
                      "The server has %1: CREATE TEMPORARY TABLE tmptbl_updateTermsSyncTZ fails "
                      "with error %2. The plugin does not need it, but where the attendance server "
@@ -99,15 +100,16 @@ void checkWrites(DbAssessment &check, const DbSchema &schema, const ServerSettin
     }
     if (tables.isEmpty())
         return;
+    Finding finding = makeFinding(
+        CheckDbRules::kPrimaryKeyWanted,
+        QStringLiteral("The server has wsrep_certify_nonPK = OFF, and this account sees "
+                       "no primary key on these tables: %1. Without one, each of the "
+                       "plugin's writes to them fails with error 1213 (deadlock).")
+            .arg(tables.join(QStringLiteral(", "))));
     // Keys on columns that the account cannot see are hidden as well.
-    const Severity severity = check.isPartlySeen() ? Severity::Note : Severity::Error;
-    check.report(severity, "primary-key-wanted",
-                 QStringLiteral("The server has wsrep_certify_nonPK = OFF, and this account sees "
-                                "no primary key on these tables: %1. Without one, each of the "
-                                "plugin's writes to them fails with error 1213 (deadlock)")
-                     .arg(tables.join(QStringLiteral(", "))),
-                 QStringLiteral("Add a column id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY "
-                                "KEY."));
+    if (check.isPartlySeen())
+        finding.severity = CheckDbRules::kPrimaryKeyWanted.severity.other;
+    check.report(finding);
 }
 
 } // namespace

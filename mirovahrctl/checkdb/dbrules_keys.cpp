@@ -4,6 +4,7 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
 #include <QSet>
@@ -86,20 +87,18 @@ private:
                      PluginRights::insertsInto(m_table)
                          ? QStringLiteral("the plugin")
                          : QStringLiteral("another component of the attendance server"));
-        const QString advice = QStringLiteral("Remove the duplicate rows and add the key.");
         if (PluginRights::insertsInto(m_table))
-            m_check.reportViolation("key-missing", message, advice, m_table);
+            m_check.reportViolation(CheckDbRules::kKeyMissing, m_table, message);
         else
-            m_check.report(Severity::Warning, "key-missing-elsewhere", message, advice, m_table);
+            m_check.report(CheckDbRules::kKeyMissingElsewhere, m_table, message);
     }
 
     void missingIdentity(const Columns &columns)
     {
-        m_check.report(Severity::Warning, "identity-missing",
+        m_check.report(CheckDbRules::kIdentityMissing, m_table,
                        QStringLiteral("The table %1 has no unique key on %2: of two rows with the "
                                       "same value, either may be used")
-                           .arg(m_table, listed(columns)),
-                       QStringLiteral("Remove the duplicate rows and add the key."), m_table);
+                           .arg(m_table, listed(columns)));
     }
 
     /// Whether the key is one of the contract's, or has more columns: then no upsert collides in it
@@ -135,11 +134,10 @@ private:
     void furtherKey(const QString &name, const Columns &columns)
     {
         m_check.report(
-            Severity::Error, "key-unexpected",
+            CheckDbRules::kKeyUnexpected, m_table,
             QStringLiteral("The table %1 has a unique key %2 on %3: a row that the plugin inserts "
                            "can collide with another row in it and change that one instead")
-                .arg(m_table, name, listed(columns)),
-            QStringLiteral("Make the key non-unique."), m_table);
+                .arg(m_table, name, listed(columns)));
     }
 
     DbAssessment &m_check;
@@ -157,11 +155,10 @@ void checkAutomaticNumber(DbAssessment &check, const DbSchema &schema,
     if (column == nullptr || column->automaticNumber || !PluginRights::insertsInto(name))
         return;
     check.reportViolation(
-        "not-automatic",
+        CheckDbRules::kNotAutomatic, name + QLatin1Char('.') + column->name,
         QStringLiteral("The column %1.%2 is not AUTO_INCREMENT: the plugin leaves its "
                        "value to the server")
-            .arg(name, column->name),
-        QStringLiteral("Make it AUTO_INCREMENT."), name + QLatin1Char('.') + column->name);
+            .arg(name, column->name));
 }
 
 } // namespace

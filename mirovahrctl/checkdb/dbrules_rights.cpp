@@ -3,6 +3,7 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
 #include <QStringList>
@@ -32,11 +33,9 @@ void checkRight(DbAssessment &check, const DbSchema &schema, const char *right,
     if (missing.isEmpty())
         return;
     const QString verb = QString::fromLatin1(right).toUpper();
-    check.reportViolation(
-        "right-missing",
-        QStringLiteral("The account lacks %1 on %2 of the table %3")
-            .arg(verb, missing.join(QStringLiteral(", ")), table),
-        QStringLiteral("Load reference-db/grants.sql, with the account's name in it."), table);
+    check.reportViolation(CheckDbRules::kRightMissing, table,
+                          QStringLiteral("The account lacks %1 on %2 of the table %3")
+                              .arg(verb, missing.join(QStringLiteral(", ")), table));
 }
 
 void checkTable(DbAssessment &check, const DbSchema &schema,
@@ -65,13 +64,11 @@ void checkExcess(DbAssessment &check, const char *sql, const QString &where)
     if (rights.isEmpty())
         return;
     check.report(
-        Severity::Warning, "right-excess",
+        CheckDbRules::kRightExcess, {},
         QStringLiteral("The account has rights on %1 that the plugin does not need: %2. Texts of "
                        "the export go into the plugin's statements unescaped, so whoever writes "
                        "the export can do whatever the account may do")
-            .arg(where, rights.join(QStringLiteral(", "))),
-        QStringLiteral(
-            "Run the plugin with an account as in reference-db/grants.sql; see docs/security.md."));
+            .arg(where, rights.join(QStringLiteral(", "))));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 
 #include <QDate>
 #include <QSqlError>
@@ -46,30 +47,25 @@ const QString kDenied = QStringLiteral("1370");
 /// How a write is refused: by the read-only session, or by a read-only server.
 const QStringList kRefusedWrite{QStringLiteral("1792"), QStringLiteral("1290")};
 
-const QString kAdvice = QStringLiteral("Compare it with reference-db/routines.sql.");
-
 /// Reports why a routine cannot be called.
 void reportFailure(DbAssessment &check, const QString &name, const QSqlError &error)
 {
     const QString code = error.nativeErrorCode();
     if (code == kNoSuchFunction || code == kDenied) {
         check.reportViolation(
-            "routine-missing",
+            CheckDbRules::kRoutineMissing, name,
             QStringLiteral("The routine %1 does not exist, or the account may not call it")
-                .arg(name),
-            QStringLiteral("See reference-db/routines.sql and reference-db/grants.sql."), name);
+                .arg(name));
     } else if (code == kWrongArguments) {
         check.reportViolation(
-            "routine-arguments",
+            CheckDbRules::kRoutineArguments, name,
             QStringLiteral(
                 "The routine %1 takes a different number of arguments from what the plugin passes")
-                .arg(name),
-            kAdvice, name);
+                .arg(name));
     } else {
         check.reportViolation(
-            "routine-fails",
-            QStringLiteral("The routine %1 fails: %2").arg(name, error.databaseText()), kAdvice,
-            name);
+            CheckDbRules::kRoutineFails, name,
+            QStringLiteral("The routine %1 fails: %2").arg(name, error.databaseText()));
     }
 }
 
@@ -80,10 +76,9 @@ void reportWrongResult(DbAssessment &check, const QString &name, const QString &
         return value.isNull() ? QStringLiteral("NULL") : value.toString();
     };
     check.reportViolation(
-        "routine-wrong",
+        CheckDbRules::kRoutineWrong, name,
         QStringLiteral("The function %1 returns a wrong result: %2 gives %3, not %4")
-            .arg(name, call, shown(result), shown(expected)),
-        kAdvice, name);
+            .arg(name, call, shown(result), shown(expected)));
 }
 
 /// Moments of this year by the server's clock: around the beginning of each month, and every third
@@ -137,14 +132,11 @@ void checkMonthFunction(DbAssessment &check)
     const QSqlError error = check.attempt(QLatin1String(kMonthOfUnknownDay));
     if (!error.isValid())
         return;
-    check.report(Severity::Warning, "routine-late-days",
+    check.report(CheckDbRules::kRoutineLateDays, function,
                  QStringLiteral("The function %1 fails for days beyond the server's range (%2). A "
                                 "single such day of attendance, for example with a mistyped year, "
                                 "keeps every month of that person from being filled")
-                     .arg(function, error.databaseText()),
-                 QStringLiteral("Create the function again in an SQL mode that is not strict, as "
-                                "reference-db/routines.sql does, and grant EXECUTE on it again."),
-                 function);
+                     .arg(function, error.databaseText()));
 }
 
 void checkGroupFunction(DbAssessment &check)
@@ -184,9 +176,8 @@ void lookForProcedure(DbAssessment &check)
     const QString name = QStringLiteral("updateTermsSync");
     const QVector<QVariantList> routines = check.rows(QLatin1String(kSelectRoutines));
     if (!routines.contains({name})) {
-        check.report(Severity::Note, "routine-unseen",
-                     QStringLiteral("This account cannot see the routine %1").arg(name),
-                     QStringLiteral("Check with the plugin's account as well."), name);
+        check.report(CheckDbRules::kRoutineUnseen, name,
+                     QStringLiteral("This account cannot see the routine %1").arg(name));
     }
 }
 

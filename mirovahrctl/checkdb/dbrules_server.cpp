@@ -3,6 +3,7 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 
 #include <QStringList>
 
@@ -15,12 +16,11 @@ void checkVersion(DbAssessment &check, const ServerVersion &version)
     if (!version.reservesGroups())
         return;
     check.reportViolation(
-        "groups-reserved",
+        CheckDbRules::kGroupsReserved, {},
         QStringLiteral(
             "The server is %1. There \"groups\" is a reserved word, and the plugin's statement "
             "that looks up a calendar group, which does not quote it, fails for everybody")
-            .arg(version.name()),
-        QStringLiteral("Use MariaDB, or MySQL up to 5.7."));
+            .arg(version.name()));
 }
 
 void checkWritable(DbAssessment &check, const QString &readOnly)
@@ -28,28 +28,23 @@ void checkWritable(DbAssessment &check, const QString &readOnly)
     if (readOnly == QLatin1String("0") || readOnly == QLatin1String("OFF"))
         return;
     check.reportViolation(
-        "server-read-only",
-        QStringLiteral("The server is read-only: every write of the plugin fails"),
-        QStringLiteral("Use the server that accepts writes, not a replica."));
+        CheckDbRules::kServerReadOnly, {},
+        QStringLiteral("The server is read-only: every write of the plugin fails"));
 }
 
 void checkFatalModes(DbAssessment &check, const QStringList &modes)
 {
-    const QString advice = QStringLiteral(
-        "Remove the mode from the server's sql_mode, or from that of the plugin's connections.");
     if (modes.contains(QLatin1String("ONLY_FULL_GROUP_BY"))) {
         check.reportViolation(
-            "sql-mode-group-by",
+            CheckDbRules::kSqlModeGroupBy, {},
             QStringLiteral("The SQL mode ONLY_FULL_GROUP_BY is on: the statements that rebuild "
-                           "groups_month and queue a time zone for the terminals fail"),
-            advice);
+                           "groups_month and queue a time zone for the terminals fail"));
     }
     if (modes.contains(QLatin1String("EMPTY_STRING_IS_NULL"))) {
         check.reportViolation(
-            "sql-mode-empty-null",
+            CheckDbRules::kSqlModeEmptyNull, {},
             QStringLiteral("The SQL mode EMPTY_STRING_IS_NULL is on: people without a title or "
-                           "telephone cannot be written to columns that do not allow NULL"),
-            advice);
+                           "telephone cannot be written to columns that do not allow NULL"));
     }
 }
 
@@ -58,18 +53,16 @@ void checkOtherModes(DbAssessment &check, const QStringList &modes)
     if (!modes.contains(QLatin1String("STRICT_TRANS_TABLES"))
         && !modes.contains(QLatin1String("STRICT_ALL_TABLES"))) {
         check.report(
-            Severity::Warning, "sql-mode-not-strict",
+            CheckDbRules::kSqlModeNotStrict, {},
             QStringLiteral("No strict SQL mode is on: texts longer than their column are cut and "
-                           "numbers that do not fit are altered without any message"),
-            QStringLiteral("Add STRICT_TRANS_TABLES to the server's sql_mode."));
+                           "numbers that do not fit are altered without any message"));
     }
     if (modes.contains(QLatin1String("NO_BACKSLASH_ESCAPES"))) {
         check.report(
-            Severity::Note, "sql-mode-backslash",
+            CheckDbRules::kSqlModeBackslash, {},
             QStringLiteral(
                 "The SQL mode NO_BACKSLASH_ESCAPES is on: a backslash in a text of the export is "
-                "stored literally. Without the mode it escapes the next character"),
-            {});
+                "stored literally. Without the mode it escapes the next character"));
     }
 }
 

@@ -4,14 +4,12 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/pluginside/pluginrights.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
 #include <QSqlError>
 
 namespace {
-
-const QString kCreateAdvice = QStringLiteral("See the definition in reference-db/schema.sql. An "
-                                             "account cannot see what it has no rights on.");
 
 /// Looks for everything that the contract names, and lists separately what only other components
 /// use.
@@ -42,10 +40,9 @@ private:
             return;
         }
         m_check.reportViolation(
-            "table-missing",
+            CheckDbRules::kTableMissing, table,
             QStringLiteral("The table %1 does not exist, or the account has no rights on it")
-                .arg(table),
-            kCreateAdvice, table);
+                .arg(table));
     }
 
     void checkColumns(const QString &table, const QStringList &columns)
@@ -64,10 +61,9 @@ private:
             return;
         }
         m_check.reportViolation(
-            "column-missing",
+            CheckDbRules::kColumnMissing, field,
             QStringLiteral("The column %1 does not exist, or the account has no rights on it")
-                .arg(field),
-            kCreateAdvice, field);
+                .arg(field));
     }
 
     DbAssessment &m_check;
@@ -79,11 +75,10 @@ void reportMissingElsewhere(DbAssessment &check, const QStringList &names)
 {
     if (names.isEmpty())
         return;
-    check.report(Severity::Note, "missing-elsewhere",
+    check.report(CheckDbRules::kMissingElsewhere, {},
                  QStringLiteral("Missing, or hidden from this account: %1. The plugin does not use "
                                 "them; other components of the attendance server may")
-                     .arg(names.join(QStringLiteral(", "))),
-                 {});
+                     .arg(names.join(QStringLiteral(", "))));
 }
 
 /// Columns that the site added and that make every insert fail.
@@ -100,13 +95,11 @@ void checkLeftOutColumns(DbAssessment &check, const DbSchema &schema,
         if (always || column.nullable || column.filledByServer)
             continue;
         check.reportViolation(
-            "column-without-default",
+            CheckDbRules::kColumnWithoutDefault, table + QLatin1Char('.') + column.name,
             QStringLiteral(
                 "The column %1.%2 has no default value and does not allow NULL: in strict SQL "
                 "modes the plugin's new rows, which leave it out, are refused")
-                .arg(table, column.name),
-            QStringLiteral("Give the column a default value."),
-            table + QLatin1Char('.') + column.name);
+                .arg(table, column.name));
     }
 }
 
@@ -137,14 +130,12 @@ void noteHiddenColumns(DbAssessment &check, const DbSchema &schema)
         return;
     check.setPartlySeen();
     check.report(
-        Severity::Note, "columns-hidden",
+        CheckDbRules::kColumnsHidden, {},
         QStringLiteral(
             "This account has rights on single columns of these tables and sees no others: %1. "
             "This check cannot find a column that the site added there without a default value, "
             "which makes every new row fail, nor a unique key on hidden columns")
-            .arg(tables.join(QStringLiteral(", "))),
-        QStringLiteral("Check again with an account that reads whole tables, such as mirovahrctl, "
-                       "and --other-account."));
+            .arg(tables.join(QStringLiteral(", "))));
 }
 
 void checkStatusOfNewPeople(DbAssessment &check, const DbSchema &schema)
@@ -154,10 +145,9 @@ void checkStatusOfNewPeople(DbAssessment &check, const DbSchema &schema)
     if (status == nullptr || status->defaultValue == QLatin1String("1"))
         return;
     check.reportViolation(
-        "status-default",
+        CheckDbRules::kStatusDefault, QStringLiteral("people.status"),
         QStringLiteral("The default of people.status is not 1: people whom the plugin "
-                       "creates are inactive until their line of the export changes"),
-        QStringLiteral("Make 1 the default of the column."), QStringLiteral("people.status"));
+                       "creates are inactive until their line of the export changes"));
 }
 
 void checkTransactions(DbAssessment &check, const DbSchema &schema)
@@ -166,11 +156,10 @@ void checkTransactions(DbAssessment &check, const DbSchema &schema)
     if (!schema.hasTable(table) || schema.isTransactional(table))
         return;
     check.report(
-        Severity::Warning, "not-transactional",
+        CheckDbRules::kNotTransactional, table,
         QStringLiteral("The table %1 does not support transactions: if a supervisor cannot be set, "
                        "the previous one loses the person's requests all the same")
-            .arg(table),
-        QStringLiteral("Use a transactional engine, such as InnoDB."), table);
+            .arg(table));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/midnights.h"
 
@@ -30,14 +31,11 @@ void checkMidnights(DbAssessment &check, const QString &serverZone, const QStrin
     if (!day.isValid())
         return;
     check.reportViolation(
-        "time-zone",
+        CheckDbRules::kTimeZone, {},
         QStringLiteral(
             "The server (time zone %1) and this program (%2) disagree about when days begin, such "
             "as %3. Days of attendance and vacation would be missed or duplicated")
-            .arg(serverZone, ownZone, day.toString(Qt::ISODate)),
-        QStringLiteral(
-            "Run this check with the TZ of the attendance server. If the error remains, give both "
-            "the same zone by name: an offset such as +01:00 has no daylight saving time."));
+            .arg(serverZone, ownZone, day.toString(Qt::ISODate)));
 }
 
 void checkClock(DbAssessment &check, qint64 serverNow)
@@ -46,12 +44,10 @@ void checkClock(DbAssessment &check, qint64 serverNow)
     if (qAbs(ahead) <= kClockTolerance)
         return;
     check.report(
-        Severity::Warning, "clock",
+        CheckDbRules::kClock, {},
         QStringLiteral("The server's clock is %1 %2 this machine's")
             .arg(Wording::counted(qAbs(ahead), QStringLiteral("second"), QStringLiteral("seconds")),
-                 ahead > 0 ? QStringLiteral("ahead of") : QStringLiteral("behind")),
-        QStringLiteral(
-            "Synchronise both with the same time server: the plugin compares times of the two."));
+                 ahead > 0 ? QStringLiteral("ahead of") : QStringLiteral("behind")));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/wording.h"
 
 namespace {
@@ -22,11 +23,10 @@ QVariantList row(const FoundPerson &found)
 void reportNobody(const PeopleSearch &search, Report &report)
 {
     report.finding(makeFinding(
-        Severity::Warning, "nobody-found",
+        ExplainRules::kNobodyFound,
         QStringLiteral(
             "Nobody in the export or in the database has this name, personal number or pid: %1.")
-            .arg(Wording::quoted(search.text())),
-        QStringLiteral("Check the spelling, and whether HR has ever exported the person.")));
+            .arg(Wording::quoted(search.text()))));
 }
 
 void reportTable(const PeopleSearch &search, Report &report)
@@ -45,11 +45,8 @@ void reportTable(const PeopleSearch &search, Report &report)
         report.sentence(
             QStringLiteral("There are more; these are the first %1.").arg(PeopleSearch::kMost));
     }
-    report.finding(
-        makeFinding(Severity::Warning, "person-ambiguous",
-                    QStringLiteral("The search does not name exactly one person."),
-                    QStringLiteral("Name one by the first column of the table. Where it is empty, "
-                                   "the line has no numbers, and the plugin drops it.")));
+    report.finding(makeFinding(ExplainRules::kPersonAmbiguous,
+                               QStringLiteral("The search does not name exactly one person.")));
 }
 
 } // namespace

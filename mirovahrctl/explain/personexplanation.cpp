@@ -3,6 +3,7 @@
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/export/personname.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/wording.h"
 
 #include <algorithm>
@@ -113,19 +114,15 @@ void PersonExplanation::explainConfiguration()
     report.sentence(m_source.configuration.origin());
     if (!configuration.enabled) {
         report.finding(
-            makeFinding(Severity::Warning, "disabled",
+            makeFinding(ExplainRules::kDisabled,
                         QStringLiteral("The plugin is disabled: nobody is synchronised. What "
-                                       "follows applies once it is enabled."),
-                        QStringLiteral("Set enabled to 1 and start the attendance server "
-                                       "again.")));
+                                       "follows applies once it is enabled.")));
     }
     if (configuration.testMode) {
         report.finding(makeFinding(
-            Severity::Warning, "test-mode",
+            ExplainRules::kTestMode,
             QStringLiteral(
-                "Test mode is on: rows of people are not written, only what depends on them."),
-            QStringLiteral("Set testMode to 0 and start the attendance server "
-                           "again.")));
+                "Test mode is on: rows of people are not written, only what depends on them.")));
     }
 }
 
@@ -158,11 +155,9 @@ void PersonExplanation::explainGate()
             .arg(file.isGateOfCommand() ? QStringLiteral(" of syncCommand") : QString(),
                  admitted ? QStringLiteral(", on ") + Phrases::day(*admitted) : QString()));
     if (status && status->isRefused()) {
-        report.finding(makeFinding(
-            Severity::Warning, "gate-refused",
-            QStringLiteral("The gate has refused a newer file: %1.")
-                .arg(status->reasons().join(QStringLiteral("; "))),
-            QStringLiteral("Check whether that file has another line for the person.")));
+        report.finding(makeFinding(ExplainRules::kGateRefused,
+                                   QStringLiteral("The gate has refused a newer file: %1.")
+                                       .arg(status->reasons().join(QStringLiteral("; ")))));
     }
 }
 
@@ -176,11 +171,10 @@ void PersonExplanation::explainExport(const PersonLines &lines)
         explainLine(line);
     if (lines.more() > 0) {
         m_context.report.finding(
-            makeFinding(Severity::Warning, "lines-not-explained",
+            makeFinding(ExplainRules::kLinesNotExplained,
                         QStringLiteral("%1 more about the same person are not explained: the facts "
                                        "are those of the first %2.")
-                            .arg(lineCount(lines.more()), lineCount(PersonLines::kMost)),
-                        QStringLiteral("Ask HR to export each employment relationship once.")));
+                            .arg(lineCount(lines.more()), lineCount(PersonLines::kMost))));
     }
     explainOthers(lines);
 }
@@ -203,13 +197,16 @@ void PersonExplanation::explainNotFound(const PersonLines &lines)
 {
     const auto &row = m_context.person.row();
     const bool hasLeft = row && (!row->active || row->isOver());
-    m_context.report.finding(
-        makeFinding(hasLeft ? Severity::Note : Severity::Warning, "not-in-export",
+    Finding finding =
+        makeFinding(ExplainRules::kNotInExport,
                     QStringLiteral("None of the %1 of %2 is about %3.")
-                        .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()),
-                    hasLeft ? QStringLiteral("This is fine unless the person still works: "
-                                             "according to the database the person has left.")
-                            : QStringLiteral("Ask HR why the person is missing from the export.")));
+                        .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()));
+    if (hasLeft) {
+        finding.severity = ExplainRules::kNotInExport.severity.other;
+        finding.advice = QStringLiteral("This is fine unless the person still works: according to "
+                                        "the database the person has left.");
+    }
+    m_context.report.finding(finding);
     if (lines.nameless() > 0) {
         m_context.report.sentence(QStringLiteral("%1 are too broken to tell whom they are about, "
                                                  "and the plugin drops them: see check-file.")
@@ -243,10 +240,9 @@ void PersonExplanation::explainLine(const CheckedLine &line)
 void PersonExplanation::explainAbsence()
 {
     if (!m_context.person.row()) {
-        m_context.report.finding(makeFinding(
-            Severity::Warning, "not-in-database",
-            QStringLiteral("The person is not in the database either."),
-            QStringLiteral("Check the number, and whether HR has ever exported the person.")));
+        m_context.report.finding(
+            makeFinding(ExplainRules::kNotInDatabase,
+                        QStringLiteral("The person is not in the database either.")));
     } else if (m_hasExport) {
         m_context.report.sentence(
             QStringLiteral("The plugin leaves people alone who are missing from the export: it "
@@ -342,11 +338,10 @@ void PersonExplanation::writeRecalculation()
     const qint64 after = m_context.person.lastCalculation();
     if (after > before && before != 0) {
         report.finding(makeFinding(
-            Severity::Note, "calculation-forward",
+            ExplainRules::kCalculationForward,
             QStringLiteral("The last calculation moves forward from %1 to %2. Days in between that "
                            "are not calculated yet stay uncalculated.")
-                .arg(Phrases::day(before), Phrases::day(after)),
-            QStringLiteral("Recalculate the person's attendance by hand if there are such days.")));
+                .arg(Phrases::day(before), Phrases::day(after))));
     }
     report.fact(QStringLiteral("lastCalculation"), QStringLiteral("Last calculation is set"),
                 after == before      ? QStringLiteral("kept")

@@ -5,6 +5,7 @@
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/rowfields.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/rules/explainrules.h"
 
 namespace {
 
@@ -73,7 +74,7 @@ void reportRecognition(ExplainContext &context)
     const bool seesRow = row && row->active;
     if (known && !seesRow) {
         context.report.finding(makeFinding(
-            Severity::Warning, "payroll-id-strange",
+            ExplainRules::kPayrollIdStrange,
             QStringLiteral(
                 "An active row with another pid has the payroll id %1. The plugin recognises it as "
                 "this person, but writes by pid: it changes nobody, or somebody else.")
@@ -81,7 +82,7 @@ void reportRecognition(ExplainContext &context)
             QStringLiteral("Correct pid and pamId of that row.")));
     } else if (seesRow && !known) {
         context.report.finding(
-            makeFinding(Severity::Warning, "payroll-id-strange",
+            makeFinding(ExplainRules::kPayrollIdStrange,
                         QStringLiteral("The payroll id of the row belongs to another pid: the "
                                        "plugin does not recognise the person in it."),
                         QStringLiteral("Correct pamId of the row.")));

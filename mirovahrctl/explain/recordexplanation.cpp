@@ -101,7 +101,7 @@ void RecordExplanation::say(const QString &sentence)
     m_context.report.sentence(sentence);
 }
 
-void RecordExplanation::warn(const char *rule, const QString &message, const QString &advice)
+void RecordExplanation::addFinding(const Rule &rule, const QString &message)
 {
-    m_context.report.finding(makeFinding(Severity::Warning, rule, message, advice));
+    m_context.report.finding(makeFinding(rule, message));
 }

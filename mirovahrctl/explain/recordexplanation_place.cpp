@@ -4,6 +4,7 @@
 #include "db/groupsplanrepo.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
+#include "mirovahrctl/report/rules/explainrules.h"
 #include "worker/recorddates.h"
 #include "worker/recorddecisions.h"
 #include "worker/recordlog.h"
@@ -56,12 +57,12 @@ void RecordExplanation::explainPlace()
     const quint32 bid = m_context.view.worker().bidOfBranch(m_record.stredisko);
     if (bid == 0) {
         m_outcome.branch = QStringLiteral("unknown");
-        warn("branch-unknown",
-             QStringLiteral("No branch has the number %1 of the cost centre. The log says: %2")
-                 .arg(QString::number(m_record.stredisko),
-                      QString::asprintf(RecordLog::kBranchNotFound, m_record.stredisko,
-                                        qUtf8Printable(m_record.getString(false)))),
-             QStringLiteral("Give the branch this number, or ask HR to correct the cost centre."));
+        addFinding(
+            ExplainRules::kBranchUnknown,
+            QStringLiteral("No branch has the number %1 of the cost centre. The log says: %2")
+                .arg(QString::number(m_record.stredisko),
+                     QString::asprintf(RecordLog::kBranchNotFound, m_record.stredisko,
+                                       qUtf8Printable(m_record.getString(false)))));
         explainWaiting(false);
         return;
     }
@@ -92,12 +93,12 @@ void RecordExplanation::explainNewMember(quint32 bid)
     // The plugin keeps 16 bits of a branch id when it adds members.
     const auto number = static_cast<ushort>(bid);
     if (number != bid) {
-        warn("branch-id-large",
-             QStringLiteral("The id of the branch is above 65535: %1.")
-                 .arg(number == 0
-                          ? QStringLiteral("the person joins no branch")
-                          : QStringLiteral("the person joins branch %1 instead").arg(number)),
-             QStringLiteral("Give the branch a smaller id."));
+        addFinding(
+            ExplainRules::kBranchIdLarge,
+            QStringLiteral("The id of the branch is above 65535: %1.")
+                .arg(number == 0
+                         ? QStringLiteral("the person joins no branch")
+                         : QStringLiteral("the person joins branch %1 instead").arg(number)));
     }
     if (number == 0)
         return;
@@ -125,15 +126,14 @@ bool RecordExplanation::explainCalendar(quint32 bid)
     const quint32 gid = m_context.view.worker().dbGetGroupIdByCalendar(bid, m_record.kalendar);
     if (gid == 0) {
         m_outcome.calendar = QStringLiteral("unknown");
-        warn("calendar-unknown",
-             QStringLiteral("The branch's master group has no group for the calendar %1. The log "
-                            "says: %2")
-                 .arg(QString::number(m_record.kalendar),
-                      QString::asprintf(RecordLog::kGroupNotFound, m_record.stredisko,
-                                        m_record.kalendar,
-                                        qUtf8Printable(m_record.getString(false)))),
-             QStringLiteral("Create a group for this calendar in the master group of the branch, "
-                            "or ask HR to correct the calendar."));
+        addFinding(
+            ExplainRules::kCalendarUnknown,
+            QStringLiteral("The branch's master group has no group for the calendar %1. The log "
+                           "says: %2")
+                .arg(QString::number(m_record.kalendar),
+                     QString::asprintf(RecordLog::kGroupNotFound, m_record.stredisko,
+                                       m_record.kalendar,
+                                       qUtf8Printable(m_record.getString(false)))));
         return false;
     }
     say(QStringLiteral("The calendar %1 is group %2 there.").arg(m_record.kalendar).arg(gid));
@@ -141,13 +141,12 @@ bool RecordExplanation::explainCalendar(quint32 bid)
         explainPlan(gid);
         return true;
     }
-    warn("person-missing",
-         QStringLiteral("The database has nobody with the pid %1 for whom the group could be "
-                        "planned. The log says: %2")
-             .arg(QString::number(m_person.pid()),
-                  QString::asprintf(RecordLog::kPlanNotAdded,
-                                    qUtf8Printable(m_record.getString(false)))),
-         QStringLiteral("See above why the person has no row with this pid."));
+    addFinding(ExplainRules::kPersonMissing,
+               QStringLiteral("The database has nobody with the pid %1 for whom the group could be "
+                              "planned. The log says: %2")
+                   .arg(QString::number(m_person.pid()),
+                        QString::asprintf(RecordLog::kPlanNotAdded,
+                                          qUtf8Printable(m_record.getString(false)))));
     return false;
 }
 
@@ -214,13 +213,13 @@ void RecordExplanation::explainRecalculation()
 void RecordExplanation::requestRecalculation(bool moves, bool isCorrected)
 {
     if (!m_person.exists()) {
-        warn("person-missing",
-             QStringLiteral("The database has nobody with the pid %1 whose attendance could be "
-                            "calculated again. The log says: %2")
-                 .arg(QString::number(m_person.pid()),
-                      QString::asprintf(RecordLog::kRecalculationLost, m_person.pid(),
-                                        qUtf8Printable(m_record.getString(false)))),
-             QStringLiteral("See above why the person has no row with this pid."));
+        addFinding(
+            ExplainRules::kPersonMissing,
+            QStringLiteral("The database has nobody with the pid %1 whose attendance could be "
+                           "calculated again. The log says: %2")
+                .arg(QString::number(m_person.pid()),
+                     QString::asprintf(RecordLog::kRecalculationLost, m_person.pid(),
+                                       qUtf8Printable(m_record.getString(false)))));
         return;
     }
     const QDate from = RecordDates::firstDayOfPreviousMonth(QDate::currentDate());

@@ -5,6 +5,7 @@
 #include "mirovahrctl/explain/rowfields.h"
 #include "mirovahrctl/export/sqlhazards.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/payrollexports.h"
 #include "worker/exportline.h"
@@ -76,21 +77,23 @@ void RecordExplanation::explainLeaver()
     m_outcome.person =
         m_person.exists() ? QStringLiteral("unchanged") : QStringLiteral("never-created");
     if (m_person.isAdded()) {
-        warn("left-already",
-             QStringLiteral("An earlier line has created the person or made the row active. The "
-                            "plugin looks people up once in a synchronisation, so it does not "
-                            "write that the person has left."),
-             QStringLiteral("Ask HR to export each employment relationship once."));
+        addFinding(
+            ExplainRules::kLeftAlready,
+            QStringLiteral("An earlier line has created the person or made the row active. The "
+                           "plugin looks people up once in a synchronisation, so it does not "
+                           "write that the person has left."));
     } else if (m_person.exists()) {
         say(QStringLiteral(
             "The person has left. The plugin does not see the row and leaves it alone."));
     } else {
-        m_context.report.finding(makeFinding(
-            Severity::Note, "left-already",
+        Finding finding = makeFinding(
+            ExplainRules::kLeftAlready,
             QStringLiteral(
                 "The person has left and has no row. The plugin never creates rows for leavers."),
             QStringLiteral(
-                "This is fine unless the person still works: then HR's export is wrong.")));
+                "This is fine unless the person still works: then HR's export is wrong."));
+        finding.severity = ExplainRules::kLeftAlready.severity.other;
+        m_context.report.finding(finding);
     }
 }
 
@@ -100,12 +103,11 @@ void RecordExplanation::explainHarmfulText(const QString &stateText)
         say(QStringLiteral("But a text of the line, reported above, breaks the statement: it fails "
                            "or writes something else."));
     } else if (m_isHarmful) {
-        warn("state-breaks-statement",
-             QStringLiteral("The text of the relationship state, %1, breaks the statement: it "
-                            "fails or writes something else.")
-                 .arg(Wording::quoted(stateText)),
-             QStringLiteral("Change the text in the group MES of the configuration, or rsText of "
-                            "the row."));
+        addFinding(
+            ExplainRules::kStateBreaksStatement,
+            QStringLiteral("The text of the relationship state, %1, breaks the statement: it "
+                           "fails or writes something else.")
+                .arg(Wording::quoted(stateText)));
     }
 }
 
@@ -268,14 +270,14 @@ void RecordExplanation::explainPayroll()
 {
     const QStringList exports = payrollExports(m_context.view.database());
     if (exports.size() != 1 || m_record.getPid() == 0) {
-        warn("no-payroll-export",
-             QStringLiteral("The person joins no payroll export, because %1. The log says: %2")
-                 .arg(exports.size() == 1
-                          ? QStringLiteral("the pid is 0")
-                          : QStringLiteral("there are %1 instead of one").arg(exports.size()),
-                      QString::asprintf(RecordLog::kPayrollExportFailed,
-                                        qUtf8Printable(m_record.getPamId()))),
-             QStringLiteral("Add the person by hand where needed."));
+        addFinding(
+            ExplainRules::kNoPayrollExport,
+            QStringLiteral("The person joins no payroll export, because %1. The log says: %2")
+                .arg(exports.size() == 1
+                         ? QStringLiteral("the pid is 0")
+                         : QStringLiteral("there are %1 instead of one").arg(exports.size()),
+                     QString::asprintf(RecordLog::kPayrollExportFailed,
+                                       qUtf8Printable(m_record.getPamId()))));
         return;
     }
     const QString id = exports.first().section(QLatin1Char('.'), 1, 1);
@@ -322,14 +324,13 @@ void RecordExplanation::explainPayrollSettings()
 void RecordExplanation::explainKeptSettings(ushort settings)
 {
     m_context.report.finding(makeFinding(
-        Severity::Note, "payroll-settings-kept",
+        ExplainRules::kPayrollSettingsKept,
         QStringLiteral(
             "The person has these settings already, which the plugin treats as a failure. The log "
             "says: %1")
             .arg(QString::asprintf(RecordLog::kPayrollSettingsFailed,
                                    qUtf8Printable(m_record.getString(false)), m_record.getPid(),
-                                   uint(settings))),
-        QStringLiteral("This is harmless.")));
+                                   uint(settings)))));
 }
 
 void RecordExplanation::explainTestMode(const char *operation, const char *what)

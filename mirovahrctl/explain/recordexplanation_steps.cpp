@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
+#include "mirovahrctl/report/rules/explainrules.h"
 #include "worker/recordlog.h"
 #include "worker/vacationbalance.h"
 
@@ -47,13 +48,13 @@ void RecordExplanation::explainCorrection()
     const bool writable = VacationBalance::correction(m_record.dovolenaZustatek, held, move);
     if (!writable) {
         m_outcome.balance = QStringLiteral("impossible");
-        warn("balance-not-written",
-             QStringLiteral("The fund holds %1, and no valid correction leads from there to %2 "
-                            "days. The balance stays, and the log says: %3")
-                 .arg(Phrases::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
-                      QString::asprintf(RecordLog::kMoveNotWritten, move, m_person.uid(),
-                                        m_person.pid())),
-             QStringLiteral("One of the two balances is wrong."));
+        addFinding(
+            ExplainRules::kBalanceNotWritten,
+            QStringLiteral("The fund holds %1, and no valid correction leads from there to %2 "
+                           "days. The balance stays, and the log says: %3")
+                .arg(Phrases::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
+                     QString::asprintf(RecordLog::kMoveNotWritten, move, m_person.uid(),
+                                       m_person.pid())));
     } else if (move == 0) {
         m_outcome.balance = QStringLiteral("equal");
         say(QStringLiteral("No: the fund holds %1, as the export says.").arg(Phrases::days(held)));
@@ -96,13 +97,13 @@ void RecordExplanation::explainAdministrator(quint32 aid)
     }
     const quint32 supervisor = m_record.nadrizenyOsobniCislo;
     if (!m_person.exists()) {
-        warn("person-missing",
-             QStringLiteral(
-                 "The database has nobody with the pid %1 who could be given a supervisor. The log "
-                 "says: %2")
-                 .arg(QString::number(m_person.pid()),
-                      QString::asprintf(RecordLog::kPersonNotFound, m_person.pid())),
-             QStringLiteral("See above why the person has no row with this pid."));
+        addFinding(
+            ExplainRules::kPersonMissing,
+            QStringLiteral(
+                "The database has nobody with the pid %1 who could be given a supervisor. The log "
+                "says: %2")
+                .arg(QString::number(m_person.pid()),
+                     QString::asprintf(RecordLog::kPersonNotFound, m_person.pid())));
     } else if (m_person.administrators() == QSet<quint32>{aid}) {
         m_outcome.supervisor = QStringLiteral("kept");
         say(QStringLiteral("Administrator %1, who has the personal number %2, as before.")
@@ -133,7 +134,5 @@ void RecordExplanation::explainUnknownAdministrator()
         message += QStringLiteral(" The log says: ")
             + QString::asprintf(RecordLog::kAdministratorNotFound, m_record.nadrizenyOsobniCislo);
     }
-    warn("supervisor-unknown", message,
-         QStringLiteral(
-             "Give the supervisor an administrator's account with this personal number."));
+    addFinding(ExplainRules::kSupervisorUnknown, message);
 }

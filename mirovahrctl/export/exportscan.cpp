@@ -1,6 +1,7 @@
 #include "mirovahrctl/export/exportscan.h"
 
 #include "mirovahrctl/export/personname.h"
+#include "mirovahrctl/report/rules/checkfilerules.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
 
@@ -26,23 +27,21 @@ bool isSameRelationship(const RepeatedPids::First &first, const MirovaRonRecord 
 
 Finding &addDuplicate(CheckedLine &line, const RepeatedPids::First &first)
 {
-    return line.add(Severity::Warning, "duplicate-relationship",
+    return line.add(CheckFileRules::kDuplicateRelationship,
                     QStringLiteral("Line %1 has the same employment relationship. The plugin "
                                    "processes both, and the last line wins.")
-                        .arg(first.line),
-                    QStringLiteral("Export each relationship once."));
+                        .arg(first.line));
 }
 
 Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 pid)
 {
-    return line.add(Severity::Error, "pid-clash",
+    return line.add(CheckFileRules::kPidClash,
                     QStringLiteral("The person in line %1, %2.%3, has the same number %4: the "
                                    "plugin treats both as one person, and the last line wins.")
                         .arg(first.line)
                         .arg(first.osobniCislo)
                         .arg(first.poradoveCisloPP)
-                        .arg(pid),
-                    QStringLiteral("One of the two needs another personal number."));
+                        .arg(pid));
 }
 
 } // namespace
@@ -64,22 +63,18 @@ QVector<Finding> ExportScan::fileFindings() const
 {
     CheckedLine file;
     if (m_counts.records == 0) {
-        file.add(Severity::Warning, "no-records",
-                 QStringLiteral("The file contains no people: the plugin would do nothing."),
-                 QStringLiteral("Check whether the export went wrong."));
+        file.add(CheckFileRules::kNoRecords,
+                 QStringLiteral("The file contains no people: the plugin would do nothing."));
     }
     if (!m_endsWithLineFeed) {
-        file.add(Severity::Warning, "no-final-line-feed",
+        file.add(CheckFileRules::kNoFinalLineFeed,
                  QStringLiteral("The last line does not end with a line feed. The plugin reads it, "
-                                "but the file may be truncated."),
-                 QStringLiteral("Check whether the export is complete."));
+                                "but the file may be truncated."));
     }
     if (!m_pids.isComplete()) {
         file.add(
-            Severity::Warning, "repetitions-not-all-found",
-            QStringLiteral("Too many people occur more than once: not all of them were compared."),
-            QStringLiteral("Check whether the export was written several times into one "
-                           "file."));
+            CheckFileRules::kRepetitionsNotAllFound,
+            QStringLiteral("Too many people occur more than once: not all of them were compared."));
     }
     return file.findings;
 }

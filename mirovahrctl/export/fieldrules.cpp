@@ -1,6 +1,7 @@
 #include "mirovahrctl/export/fieldrules.h"
 
 #include "mirovahrctl/export/sqlhazards.h"
+#include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/exportline.h"
 #include "worker/recorddates.h"
@@ -42,6 +43,7 @@ QString consequence(int field)
     }
 }
 
+/// What to do about a date that cannot be read; null when the rule says enough.
 QString dateAdvice(const QString &text)
 {
     const QDate day = QDate::fromString(text.trimmed().left(10), Qt::ISODate);
@@ -49,7 +51,7 @@ QString dateAdvice(const QString &text)
         return QStringLiteral("Write the date with a time, as in %1 00:00:00.000.")
             .arg(day.toString(Qt::ISODate));
     }
-    return QStringLiteral("Write dates as in 2021-03-31 00:00:00.000.");
+    return {};
 }
 
 QString balanceAdvice(const QString &text)
@@ -100,23 +102,20 @@ void FieldRules::check()
 void FieldRules::checkIdentity()
 {
     if (m_record.osobniCislo == 0) {
-        add(OsobniCislo, Severity::Error, "no-personal-number",
+        add(OsobniCislo, CheckFileRules::kNoPersonalNumber,
             notANumber(OsobniCislo)
-                + QStringLiteral(" Without a personal number the plugin drops the line."),
-            QStringLiteral("Write the personal number into the first field: digits, above 0."));
+                + QStringLiteral(" Without a personal number the plugin drops the line."));
     }
     if (m_record.poradoveCisloPP == 0) {
-        add(PoradoveCisloPP, Severity::Error, "no-relationship-number",
+        add(PoradoveCisloPP, CheckFileRules::kNoRelationshipNumber,
             notANumber(PoradoveCisloPP)
                 + QStringLiteral(" Without the number of the employment relationship the plugin "
-                                 "drops the line."),
-            QStringLiteral("Write the number of the employment relationship into the second field: "
-                           "digits, above 0."));
+                                 "drops the line."));
     }
     if (m_record.jmeno.isEmpty() && m_record.prijmeni.isEmpty()) {
-        add(Prijmeni, Severity::Error, "no-name",
-            QStringLiteral("The line has neither a first name nor a surname. The plugin drops it."),
-            QStringLiteral("Provide at least one of the two."));
+        add(Prijmeni, CheckFileRules::kNoName,
+            QStringLiteral(
+                "The line has neither a first name nor a surname. The plugin drops it."));
     }
 }
 
@@ -124,12 +123,11 @@ void FieldRules::checkPid()
 {
     if (!isUsable(m_record) || m_record.getPid() != 0)
         return;
-    add(OsobniCislo, Severity::Error, "pid-zero",
+    add(OsobniCislo, CheckFileRules::kPidZero,
         QStringLiteral(
             "Personal number and relationship number form one number, %1%2, which exceeds "
             "4294967295: the person gets the number 0, like everybody with such a number.")
-            .arg(QString::number(m_record.osobniCislo), QString::number(m_record.poradoveCisloPP)),
-        QStringLiteral("The person needs a shorter personal number."));
+            .arg(QString::number(m_record.osobniCislo), QString::number(m_record.poradoveCisloPP)));
 }
 
 void FieldRules::checkTexts()
@@ -145,35 +143,31 @@ void FieldRules::checkText(int field, const char *column)
 {
     const QString text = this->text(field);
     if (text.contains(QLatin1Char('\''))) {
-        add(field, Severity::Error, "quote-in-text",
+        add(field, CheckFileRules::kQuoteInText,
             QStringLiteral(
                 "The text %1 contains an apostrophe. It enters the SQL statement unescaped, and "
                 "the statement fails or does something else: the person is not written.")
-                .arg(Wording::quoted(text)),
-            QStringLiteral("Write the text without ', or with the character \u2019."));
+                .arg(Wording::quoted(text)));
     }
     if (text.contains(QLatin1Char('\\'))) {
-        add(field, Severity::Error, "backslash-in-text",
+        add(field, CheckFileRules::kBackslashInText,
             QStringLiteral("The text %1 contains a backslash. It enters the SQL statement "
                            "unescaped: the text arrives changed, or the statement fails.")
-                .arg(Wording::quoted(text)),
-            QStringLiteral("Write the text without \\."));
+                .arg(Wording::quoted(text)));
     }
     if (SqlHazards::hasPlaceholder(text)) {
-        add(field, Severity::Error, "placeholder-in-text",
+        add(field, CheckFileRules::kPlaceholderInText,
             QStringLiteral(
                 "The text %1 contains a percent sign followed by a digit. The plugin replaces the "
                 "two with another value: wrong data is written, or the statement fails.")
-                .arg(Wording::quoted(text)),
-            QStringLiteral("Write the text without %."));
+                .arg(Wording::quoted(text)));
     }
     if (SqlHazards::hasWideCharacter(text)) {
-        add(field, Severity::Error, "wide-character",
+        add(field, CheckFileRules::kWideCharacter,
             QStringLiteral("The text %1 contains a character above U+FFFF, such as an emoji. The "
                            "connection to the database cannot carry it: the person is not written, "
                            "or the text is truncated there.")
-                .arg(Wording::quoted(text)),
-            QStringLiteral("Write the text without it."));
+                .arg(Wording::quoted(text)));
     }
     checkWidth(field, column);
 }
@@ -186,7 +180,7 @@ void FieldRules::checkWidth(int field, const char *column)
     const int length = m_parts.at(field).toUcs4().size();
     if (length <= *width)
         return;
-    add(field, Severity::Error, "text-too-long",
+    add(field, CheckFileRules::kTextTooLong,
         QStringLiteral("The text has %1 characters, but the column holds %2. Depending on its SQL "
                        "mode, the database truncates the text or rejects the person.")
             .arg(QString::number(length), QString::number(*width)),
@@ -202,11 +196,10 @@ void FieldRules::checkDates()
     if (!m_parts.at(KalendarPlatnostOd).isEmpty() || m_record.kalendar != 0)
         checkDate(KalendarPlatnostOd, m_record.kalendarPlatnostOd);
     if (m_record.datumVystupu.isValid() && m_record.datumVystupu < m_record.datumNastupu) {
-        add(DatumVystupu, Severity::Warning, "leaves-before-start",
+        add(DatumVystupu, CheckFileRules::kLeavesBeforeStart,
             QStringLiteral("The person leaves on %1, before employment begins on %2.")
                 .arg(m_record.datumVystupu.toString(Qt::ISODate),
-                     m_record.datumNastupu.toString(Qt::ISODate)),
-            QStringLiteral("One of the two dates is wrong."));
+                     m_record.datumNastupu.toString(Qt::ISODate)));
     }
 }
 
@@ -214,22 +207,21 @@ void FieldRules::checkDate(int field, const QDate &date)
 {
     const QString text = this->text(field);
     if (text.isEmpty()) {
-        add(field, Severity::Warning, "empty-date",
-            QStringLiteral("The date is missing: ") + consequence(field),
-            QStringLiteral("Provide the date."));
+        add(field, CheckFileRules::kEmptyDate,
+            QStringLiteral("The date is missing: ") + consequence(field));
     } else if (!date.isValid()) {
-        add(field, Severity::Warning, "bad-date",
+        add(field, CheckFileRules::kBadDate,
             QStringLiteral("The plugin cannot read %1 as a date: %2")
                 .arg(Wording::quoted(text), consequence(field)),
             dateAdvice(text));
     } else if (field != KalendarPlatnostOd && !isKept(date)) {
-        add(field, Severity::Warning, "date-out-of-range",
+        add(field, CheckFileRules::kDateOutOfRange,
             QStringLiteral("The plugin can store days from 1970 to 2106; %1 comes back from the "
                            "database as another day.")
                 .arg(date.toString(Qt::ISODate)),
             field == DatumVystupu
                 ? QStringLiteral("Leave the leaving date empty for a person who does not leave.")
-                : QStringLiteral("Correct the date."));
+                : QString());
     }
 }
 
@@ -239,9 +231,9 @@ void FieldRules::checkNumber(int field)
     toNumber(m_parts.at(field), &isNumber);
     if (isNumber)
         return;
-    add(field, Severity::Warning, m_parts.at(field).isEmpty() ? "empty-number" : "bad-number",
-        QStringLiteral("%1 It is read as 0: %2").arg(notANumber(field), consequence(field)),
-        QStringLiteral("Write digits only, up to 4294967295."));
+    add(field,
+        m_parts.at(field).isEmpty() ? CheckFileRules::kEmptyNumber : CheckFileRules::kBadNumber,
+        QStringLiteral("%1 It is read as 0: %2").arg(notANumber(field), consequence(field)));
 }
 
 void FieldRules::checkCode(int field, ushort code)
@@ -249,10 +241,9 @@ void FieldRules::checkCode(int field, ushort code)
     checkNumber(field);
     if (toNumber(m_parts.at(field)) == code)
         return;
-    add(field, Severity::Warning, "code-wraps",
+    add(field, CheckFileRules::kCodeWraps,
         QStringLiteral("Codes go up to 65535; %1 is read as %2.")
-            .arg(Wording::quoted(text(field)), QString::number(code)),
-        QStringLiteral("Correct the code."));
+            .arg(Wording::quoted(text(field)), QString::number(code)));
 }
 
 void FieldRules::checkBalance()
@@ -262,15 +253,15 @@ void FieldRules::checkBalance()
     toBalance(text, &isNumber);
     qint32 hundredths = 0;
     if (!isNumber) {
-        add(DovolenaZustatek, Severity::Warning, text.isEmpty() ? "empty-number" : "bad-number",
+        add(DovolenaZustatek,
+            text.isEmpty() ? CheckFileRules::kEmptyNumber : CheckFileRules::kBadNumber,
             QStringLiteral("%1 It is read as 0: %2")
                 .arg(notANumber(DovolenaZustatek), consequence(DovolenaZustatek)),
             balanceAdvice(text));
     } else if (!VacationBalance::correction(m_record.dovolenaZustatek, 0, hundredths)) {
-        add(DovolenaZustatek, Severity::Warning, "balance-out-of-range",
+        add(DovolenaZustatek, CheckFileRules::kBalanceOutOfRange,
             QStringLiteral("A balance of %1 days cannot be stored: the balance is not changed.")
-                .arg(Wording::quoted(text)),
-            QStringLiteral("Correct the balance."));
+                .arg(Wording::quoted(text)));
     }
 }
 
@@ -292,9 +283,8 @@ QString FieldRules::notANumber(int field) const
         : QStringLiteral("The plugin cannot read %1 as a number.").arg(Wording::quoted(text));
 }
 
-void FieldRules::add(int field, Severity severity, const char *rule, const QString &message,
-                     const QString &advice)
+void FieldRules::add(int field, const Rule &rule, const QString &message, const QString &advice)
 {
     static const QStringList names = fieldNames();
-    m_line.add(severity, rule, message, advice).field = names.at(field);
+    m_line.add(rule, message, advice).field = names.at(field);
 }

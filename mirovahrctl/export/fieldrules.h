@@ -27,8 +27,8 @@ private:
 
     QString text(int field) const;
     QString notANumber(int field) const;
-    void add(int field, Severity severity, const char *rule, const QString &message,
-             const QString &advice);
+    void add(int field, const Rule &rule, const QString &message,
+             const QString &advice = QString());
 
     const ExportLine::Parts &m_parts;
     const MirovaRonRecord &m_record;

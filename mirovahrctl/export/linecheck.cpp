@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/export/fieldrules.h"
 #include "mirovahrctl/export/personname.h"
+#include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
@@ -39,24 +40,21 @@ bool isDamaged(const QString &text, const QByteArray &raw)
 void checkBytes(const QString &text, CheckedLine &line)
 {
     if (line.number == 1 && isUtf16(line.raw)) {
-        line.add(Severity::Error, "utf-16",
-                 QStringLiteral("The file is encoded in UTF-16; the plugin reads UTF-8 only."),
-                 QStringLiteral("Save the export as UTF-8."));
+        line.add(CheckFileRules::kUtf16,
+                 QStringLiteral("The file is encoded in UTF-16; the plugin reads UTF-8 only."));
     }
     if (line.raw.startsWith(kByteOrderMark)) {
-        line.add(Severity::Note, "byte-order-mark",
-                 QStringLiteral("The line begins with a byte order mark, which the plugin skips."),
-                 QStringLiteral("Save the export as UTF-8 without a byte order mark."));
+        line.add(CheckFileRules::kByteOrderMark,
+                 QStringLiteral("The line begins with a byte order mark, which the plugin skips."));
     }
     if (line.raw.contains('\0')) {
-        line.add(Severity::Error, "nul-byte",
-                 QStringLiteral("The line contains a NUL byte; the plugin reads nothing after it."),
-                 QStringLiteral("The export is damaged, or not encoded in UTF-8."));
+        line.add(
+            CheckFileRules::kNulByte,
+            QStringLiteral("The line contains a NUL byte; the plugin reads nothing after it."));
     }
     if (isDamaged(text, line.raw)) {
-        line.add(Severity::Warning, "not-utf8",
-                 QStringLiteral("Some bytes are not UTF-8; each is read as the character \uFFFD."),
-                 QStringLiteral("Save the export as UTF-8."));
+        line.add(CheckFileRules::kNotUtf8,
+                 QStringLiteral("Some bytes are not UTF-8; each is read as the character \uFFFD."));
     }
 }
 
@@ -86,10 +84,9 @@ bool CheckedLine::isRejected() const
                        [](const Finding &finding) { return finding.severity == Severity::Error; });
 }
 
-Finding &CheckedLine::add(Severity severity, const char *rule, const QString &message,
-                          const QString &advice)
+Finding &CheckedLine::add(const Rule &rule, const QString &message, const QString &advice)
 {
-    Finding finding = makeFinding(severity, rule, message, advice);
+    Finding finding = makeFinding(rule, message, advice);
     finding.forHr = true;
     finding.line = number;
     findings.append(finding);
@@ -119,10 +116,9 @@ CheckedLine LineCheck::tooLong(qint64 number)
 {
     CheckedLine line;
     line.number = number;
-    line.add(Severity::Error, "line-too-long",
+    line.add(CheckFileRules::kLineTooLong,
              QStringLiteral("The line is longer than %1 bytes; the plugin skips it.")
-                 .arg(BoundedLineReader::kLongestLine),
-             QStringLiteral("The export is damaged; perhaps line feeds are missing."))
+                 .arg(BoundedLineReader::kLongestLine))
         .dropped = true;
     return line;
 }
@@ -140,7 +136,7 @@ void LineCheck::checkText(const QString &text, CheckedLine &line) const
         return;
     }
     line.add(
-        Severity::Error, "field-count",
+        CheckFileRules::kFieldCount,
         QStringLiteral("The line has %1 instead of %2.")
             .arg(Wording::counted(parts.size(), QStringLiteral("field"), QStringLiteral("fields")),
                  QString::number(m_fieldNames.size())),
@@ -153,10 +149,9 @@ void LineCheck::checkParts(const ExportLine::Parts &parts, CheckedLine &line) co
     if (ExportLine::isUsable(record))
         line.record = record;
     if (!line.record && isHeader(parts, m_fieldNames)) {
-        line.add(Severity::Error, "header-line",
+        line.add(CheckFileRules::kHeaderLine,
                  QStringLiteral(
-                     "This is a header line; the plugin reads it as a person without a number."),
-                 QStringLiteral("Export without a header."));
+                     "This is a header line; the plugin reads it as a person without a number."));
         return;
     }
     FieldRules(parts, record, m_widths, line).check();

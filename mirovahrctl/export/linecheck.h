@@ -29,8 +29,7 @@ struct CheckedLine {
     bool isRejected() const;
 
     /// Adds a finding about this line.
-    Finding &add(Severity severity, const char *rule, const QString &message,
-                 const QString &advice);
+    Finding &add(const Rule &rule, const QString &message, const QString &advice = QString());
 };
 
 /// Checks the lines of an export one by one. Checks that compare lines are in ExportScan.

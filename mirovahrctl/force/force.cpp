@@ -5,6 +5,7 @@
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/rules/forcerules.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/databaseaccess.h"
 #include "plugin/configuration.h"
@@ -77,12 +78,11 @@ void ForceRun::reportFlag(bool wasSet, bool isSet)
     }
     if (m_on != isSet) {
         m_report.finding(makeFinding(
-            Severity::Warning, "changed-meanwhile",
+            ForceRules::kChangedMeanwhile,
             m_on ? QStringLiteral("The flag was set and is cleared again: a synchronisation that "
                                   "was already running has just ended and cleared it.")
                  : QStringLiteral(
-                     "The flag was cleared and is set again: somebody else has just set it."),
-            QStringLiteral("Try again.")));
+                     "The flag was cleared and is set again: somebody else has just set it.")));
     }
 }
 
@@ -113,16 +113,14 @@ void ForceRun::reportPlugin()
                        "is not busy.")
             .arg(Wording::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"))));
     if (!config.enabled) {
-        m_report.finding(
-            makeFinding(Severity::Warning, "disabled",
-                        QStringLiteral("The configuration disables the plugin: it does not tick."),
-                        QStringLiteral("Set enabled to 1 and restart the attendance server.")));
+        m_report.finding(makeFinding(
+            ForceRules::kDisabled,
+            QStringLiteral("The configuration disables the plugin: it does not tick.")));
     }
     if (config.testMode) {
         m_report.finding(
-            makeFinding(Severity::Warning, "test-mode",
-                        QStringLiteral("Test mode is on: people are only logged, not written."),
-                        QStringLiteral("Set testMode to 0 and restart the attendance server.")));
+            makeFinding(ForceRules::kTestMode,
+                        QStringLiteral("Test mode is on: people are only logged, not written.")));
     }
     if (isHere)
         reportExport(config);
@@ -135,11 +133,10 @@ void ForceRun::reportExport(const Configuration &config)
         m_report.sentence(QStringLiteral("The plugin runs the export command first."));
     } else if (!QFileInfo(path).isFile()) {
         m_report.finding(makeFinding(
-            Severity::Warning, "no-export",
+            ForceRules::kNoExport,
             QStringLiteral("There is no export %1 now. Unless HR delivers one before that tick, "
                            "nothing is synchronised, and the flag is cleared even so.")
-                .arg(path),
-            QStringLiteral("Put the export there and set the flag again.")));
+                .arg(path)));
     }
 }
 

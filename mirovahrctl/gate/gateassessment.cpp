@@ -1,5 +1,6 @@
 #include "mirovahrctl/gate/gateassessment.h"
 
+#include "mirovahrctl/report/rules/gaterules.h"
 #include "mirovahrctl/report/wording.h"
 
 namespace GateAssessment {
@@ -28,32 +29,19 @@ QString allowance(const GateLimit &limit)
 
 GateReason empty()
 {
-    return {makeFinding(Severity::Error, "empty", QStringLiteral("The file contains no people."),
-                        QStringLiteral("Ask HR whether the export went wrong.")),
-            false};
+    return {makeFinding(GateRules::kEmpty, QStringLiteral("The file contains no people.")), false};
 }
 
 GateReason truncated(const QString &message)
 {
-    return {makeFinding(Severity::Error, "truncated", message,
-                        QStringLiteral("Ask HR for the complete file.")),
-            true};
+    return {makeFinding(GateRules::kTruncated, message), true};
 }
 
 GateReason noBaseline()
 {
-    return {
-        makeFinding(
-            Severity::Error, "no-baseline",
-            QStringLiteral("There is no admitted file to compare with."),
-            QStringLiteral(
-                "Inspect the file with check-file and preview, then admit it once with --accept.")),
-        true};
-}
-
-QString adviceToAskHr()
-{
-    return QStringLiteral("Ask HR; if the change is intended, run the gate once with --accept.");
+    return {makeFinding(GateRules::kNoBaseline,
+                        QStringLiteral("There is no admitted file to compare with.")),
+            true};
 }
 
 GateReason linesLost(const GateComparison::Result &changes, const GateLimit &limit)
@@ -61,34 +49,31 @@ GateReason linesLost(const GateComparison::Result &changes, const GateLimit &lim
     const qint64 lost = changes.lostLines();
     const QString lines =
         share(lost, changes.oldLines, QStringLiteral("line"), QStringLiteral("lines"));
-    return {makeFinding(Severity::Error, "lines-lost",
+    return {makeFinding(GateRules::kLinesLost,
                         lines + QStringLiteral(" with people ")
                             + (lost == 1 ? QStringLiteral("is") : QStringLiteral("are"))
                             + QStringLiteral(" missing compared with the last admitted file")
-                            + allowance(limit),
-                        adviceToAskHr()),
+                            + allowance(limit)),
             true};
 }
 
 GateReason peopleLeaving(const GateComparison::Result &changes, const GateLimit &limit)
 {
     const int count = changes.leaving.size();
-    return {makeFinding(Severity::Error, "people-leaving",
+    return {makeFinding(GateRules::kPeopleLeaving,
                         people(count, changes.working)
                             + (count == 1 ? QStringLiteral(" leaves") : QStringLiteral(" leave"))
-                            + allowance(limit),
-                        adviceToAskHr()),
+                            + allowance(limit)),
             true};
 }
 
 GateReason peopleMoving(const GateComparison::Result &changes, const GateLimit &limit)
 {
     const int count = changes.moving.size();
-    return {makeFinding(Severity::Error, "people-moving",
+    return {makeFinding(GateRules::kPeopleMoving,
                         people(count, changes.working)
                             + (count == 1 ? QStringLiteral(" gets") : QStringLiteral(" get"))
-                            + QStringLiteral(" another cost centre") + allowance(limit),
-                        adviceToAskHr()),
+                            + QStringLiteral(" another cost centre") + allowance(limit)),
             true};
 }
 
@@ -128,45 +113,37 @@ QVector<GateReason> assess(const GateFacts &facts, const GateLimits &limits, boo
 
 GateReason missing(const QString &path)
 {
-    return {makeFinding(Severity::Error, "missing",
-                        QStringLiteral("There is no file '%1'.").arg(path),
-                        QStringLiteral("Ask HR whether the export has run.")),
+    return {makeFinding(GateRules::kMissing, QStringLiteral("There is no file '%1'.").arg(path)),
             false};
 }
 
 GateReason tooLong()
 {
     return {
-        makeFinding(Severity::Error, "file-too-long",
-                    QStringLiteral("The file is larger than 1 GiB; the plugin reads no further."),
-                    QStringLiteral("Ask HR whether the export went wrong.")),
+        makeFinding(GateRules::kFileTooLong,
+                    QStringLiteral("The file is larger than 1 GiB; the plugin reads no further.")),
         false};
 }
 
 GateReason changedMeanwhile()
 {
-    return {makeFinding(Severity::Error, "changed-meanwhile",
-                        QStringLiteral("The file changed while it was being read."),
-                        QStringLiteral("HR's export should write under another name and rename the "
-                                       "file when it is complete.")),
+    return {makeFinding(GateRules::kChangedMeanwhile,
+                        QStringLiteral("The file changed while it was being read.")),
             false};
 }
 
 GateReason justWritten(qint64 settleSeconds)
 {
-    return {makeFinding(Severity::Error, "just-written",
+    return {makeFinding(GateRules::kJustWritten,
                         QStringLiteral("The file was changed within the last %1.")
                             .arg(Wording::counted(settleSeconds, QStringLiteral("second"),
-                                                  QStringLiteral("seconds"))),
-                        QStringLiteral("It may still be incomplete; run the gate again later.")),
+                                                  QStringLiteral("seconds")))),
             false};
 }
 
 GateReason busy()
 {
-    return {makeFinding(Severity::Error, "busy",
-                        QStringLiteral("Another gate is using this folder."),
-                        QStringLiteral("Wait until it has finished.")),
+    return {makeFinding(GateRules::kBusy, QStringLiteral("Another gate is using this folder.")),
             false};
 }
 

@@ -4,6 +4,7 @@
 #include "mirovahrctl/gate/gatesource.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
 #include "mirovahrctl/program/progress.h"
+#include "mirovahrctl/report/rules/checkfilerules.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
 
@@ -16,18 +17,19 @@ namespace {
 const QLatin1String kCopy("The copy of HR's file");
 const QLatin1String kLastAdmitted("The last admitted file");
 
-bool hasRule(const QVector<Finding> &findings, const char *rule)
+bool hasRule(const QVector<Finding> &findings, const Rule &rule)
 {
-    return std::any_of(findings.cbegin(), findings.cend(), [rule](const Finding &finding) {
-        return finding.rule == QLatin1String(rule);
+    return std::any_of(findings.cbegin(), findings.cend(), [&rule](const Finding &finding) {
+        return finding.rule == QLatin1String(rule.id);
     });
 }
 
 /// Whether the line looks as if it was not written to its end.
 bool isBroken(const CheckedLine &line)
 {
-    return hasRule(line.findings, "field-count") || hasRule(line.findings, "line-too-long")
-        || hasRule(line.findings, "nul-byte");
+    return hasRule(line.findings, CheckFileRules::kFieldCount)
+        || hasRule(line.findings, CheckFileRules::kLineTooLong)
+        || hasRule(line.findings, CheckFileRules::kNulByte);
 }
 
 } // namespace
@@ -111,7 +113,7 @@ bool GateExamination::readNew(QFile &file, GateComparison &comparison, RejectsWr
         m_facts.isLastLineBroken = isBroken(line);
     });
     m_facts.counts = check.counts();
-    m_facts.endsOpen = hasRule(check.fileFindings(), "no-final-line-feed");
+    m_facts.endsOpen = hasRule(check.fileFindings(), CheckFileRules::kNoFinalLineFeed);
     return isRead || failReading(kCopy, check.errorString());
 }
 

@@ -1,6 +1,7 @@
 #include "mirovahrctl/gate/gatereport.h"
 
 #include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/rules/gaterules.h"
 #include "mirovahrctl/report/wording.h"
 
 namespace {
@@ -51,7 +52,7 @@ void reportMoving(Report &report, const QVector<GateComparison::Change> &changes
 Finding rejectedLines(qint64 count, const QString &path)
 {
     return makeFinding(
-        Severity::Note, "rejected-lines",
+        GateRules::kRejectedLines,
         QStringLiteral("The file has %1 with errors, dropped or not written correctly.")
             .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"))),
         QStringLiteral("Send HR the file %1.").arg(path));
@@ -105,12 +106,12 @@ QVector<Finding> GateReport::notes() const
     QVector<Finding> notes;
     if (isUnchanged) {
         notes << makeFinding(
-            Severity::Note, "unchanged",
+            GateRules::kUnchanged,
             QStringLiteral("The file equals the last admitted one. It is published again, so that "
                            "the plugin continues with what is pending."));
     }
     if (wasTaken) {
-        notes << makeFinding(Severity::Note, "unread",
+        notes << makeFinding(GateRules::kUnread,
                              QStringLiteral("An earlier file was still in place, which the plugin "
                                             "has not read or does not remove. ")
                                  + (isAdmitted ? QStringLiteral("It was replaced.")

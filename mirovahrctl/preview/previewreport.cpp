@@ -4,6 +4,7 @@
 #include "mirovahrctl/preview/previewwork.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/rules/previewrules.h"
 #include "mirovahrctl/report/wording.h"
 
 #include <QDate>
@@ -98,16 +99,14 @@ void PreviewReport::warnOfConfiguration()
 {
     if (!m_configuration.values().enabled) {
         m_report.finding(makeFinding(
-            Severity::Warning, "disabled",
+            PreviewRules::kDisabled,
             QStringLiteral(
-                "The plugin is disabled in the configuration: it would not synchronise at all."),
-            QStringLiteral("Set enabled to 1 and start the attendance server again.")));
+                "The plugin is disabled in the configuration: it would not synchronise at all.")));
     }
     if (m_configuration.values().testMode) {
-        m_report.finding(makeFinding(
-            Severity::Warning, "test-mode",
-            QStringLiteral("Test mode is on: people are only logged, not written."),
-            QStringLiteral("Set testMode to 0 and start the attendance server again.")));
+        m_report.finding(
+            makeFinding(PreviewRules::kTestMode,
+                        QStringLiteral("Test mode is on: people are only logged, not written.")));
     }
 }
 
@@ -116,33 +115,29 @@ void PreviewReport::noteCopy()
     const PreviewSchema &schema = m_work.schema();
     if (!schema.tablesWithHiddenTriggers.isEmpty()) {
         m_report.finding(makeFinding(
-            Severity::Note, "triggers-hidden",
+            PreviewRules::kTriggersHidden,
             QStringLiteral("This account is not allowed to see the triggers of these tables: %1. "
                            "The preview lacks whatever triggers do there.")
-                .arg(schema.tablesWithHiddenTriggers.join(QStringLiteral(", "))),
-            QStringLiteral("Run one preview with an account that has TRIGGER on the database.")));
+                .arg(schema.tablesWithHiddenTriggers.join(QStringLiteral(", ")))));
     }
     if (!schema.tablesOutsideSnapshot.isEmpty()) {
         m_report.finding(makeFinding(
-            Severity::Note, "no-snapshot",
+            PreviewRules::kNoSnapshot,
             QStringLiteral("The engine of these tables does not support snapshots; they were "
                            "copied one after the other: %1.")
-                .arg(schema.tablesOutsideSnapshot.join(QStringLiteral(", "))),
-            QStringLiteral("Run the preview while nobody works with the attendance server.")));
+                .arg(schema.tablesOutsideSnapshot.join(QStringLiteral(", ")))));
     }
     if (!schema.namedViews.isEmpty()) {
         m_report.finding(makeFinding(
-            Severity::Note, "view-not-copied",
+            PreviewRules::kViewNotCopied,
             QStringLiteral("Routines or triggers seem to use views, which are not copied: %1.")
-                .arg(schema.namedViews.join(QStringLiteral(", "))),
-            QStringLiteral("Check whether the plugin's warnings above mention them.")));
+                .arg(schema.namedViews.join(QStringLiteral(", ")))));
     }
     if (release(schema.serverVersion) != release(m_work.copyVersion())) {
         m_report.finding(makeFinding(
-            Severity::Note, "other-server",
+            PreviewRules::kOtherServer,
             QStringLiteral("The site's server is version %1, the copy was on version %2.")
-                .arg(schema.serverVersion, m_work.copyVersion()),
-            QString()));
+                .arg(schema.serverVersion, m_work.copyVersion())));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "mirovahrctl/preview/previewschemareader.h"
 #include "mirovahrctl/preview/previewserver.h"
 #include "mirovahrctl/program/progress.h"
+#include "mirovahrctl/report/rules/previewrules.h"
 #include "mirovahrctl/site/databaseaccess.h"
 #include "mirovahrctl/site/midnights.h"
 #include "mirovahrctl/site/sqlsession.h"
@@ -136,7 +137,8 @@ void PreviewWork::take(QtMsgType type, const QString &text, QIODevice *log)
         log->write(QStringLiteral("%1\t%2\n").arg(levelOf(type), text).toUtf8());
     if (type != QtWarningMsg && type != QtCriticalMsg)
         return;
-    m_warnings += type == QtWarningMsg
-        ? makeFinding(Severity::Warning, "plugin-warning", text, QString())
-        : makeFinding(Severity::Error, "plugin-error", text, QString());
+    Finding warning = makeFinding(
+        type == QtWarningMsg ? PreviewRules::kPluginWarning : PreviewRules::kPluginError, text);
+    warning.advice.clear(); // the same below every message helps nobody
+    m_warnings += warning;
 }

@@ -1,12 +1,13 @@
 #include "mirovahrctl/report/finding.h"
 
-Finding makeFinding(Severity severity, const char *rule, const QString &message,
-                    const QString &advice)
+#include "mirovahrctl/report/rule.h"
+
+Finding makeFinding(const Rule &rule, const QString &message, const QString &advice)
 {
     Finding finding;
-    finding.severity = severity;
-    finding.rule = QString::fromLatin1(rule);
+    finding.severity = rule.severity.usual;
+    finding.rule = QString::fromLatin1(rule.id);
     finding.message = message;
-    finding.advice = advice;
+    finding.advice = advice.isNull() ? QString::fromUtf8(rule.advice) : advice;
     return finding;
 }

@@ -5,10 +5,12 @@
 #include <QString>
 #include <QtGlobal>
 
+struct Rule;
+
 /// One result of a rule.
 struct Finding {
     Severity severity = Severity::Warning;
-    QString rule; ///< name of the rule, such as "field-count"; part of the JSON report, so it stays
+    QString rule; ///< id of the rule
     QString message; ///< what is wrong, in whole sentences
     QString advice; ///< what to do about it, a whole sentence; may be empty
     bool forHr = false; ///< the advice is for HR, not for the administrator
@@ -18,6 +20,6 @@ struct Finding {
     bool dropped = false; ///< the plugin leaves this line out
 };
 
-/// A finding about the whole, without a line, field or subject.
-Finding makeFinding(Severity severity, const char *rule, const QString &message,
-                    const QString &advice = QString());
+/// A finding of the rule's usual severity about the whole, without a line, field or subject.
+/// \a advice: what to do in this very case; a null text stands for the advice of the rule.
+Finding makeFinding(const Rule &rule, const QString &message, const QString &advice = QString());

@@ -1,6 +1,7 @@
 #include "mirovahrctl/status/statusassessment.h"
 
 #include "mirovahrctl/gatestate/gatestatus.h"
+#include "mirovahrctl/report/rules/statusrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/status/statusdata.h"
 
@@ -43,9 +44,10 @@ void assessAge(StatusAssessment &assessment, const AgeLimits &limits)
         ? QStringLiteral("The last %1 was %2 ago.")
               .arg(assessment.ageOf, StatusAssessment::span(*assessment.age))
         : QStringLiteral("There is no %1 yet.").arg(assessment.ageOf);
-    assessment.findings +=
-        makeFinding(critical ? Severity::Error : Severity::Warning, "too-old", message,
-                    QStringLiteral("Check the log of the attendance server and what HR delivers."));
+    Finding finding = makeFinding(StatusRules::kTooOld, message);
+    if (critical)
+        finding.severity = StatusRules::kTooOld.severity.other;
+    assessment.findings += finding;
 }
 
 void assessGate(StatusAssessment &assessment, const GateStatus &gate)
@@ -55,9 +57,7 @@ void assessGate(StatusAssessment &assessment, const GateStatus &gate)
     QString message = QStringLiteral("The gate has refused the last file");
     if (!gate.reasons().isEmpty())
         message += QStringLiteral(": ") + gate.reasons().join(QStringLiteral("; "));
-    assessment.findings +=
-        makeFinding(Severity::Warning, "gate-refused", Wording::sentence(message),
-                    QStringLiteral("Until a file is admitted nothing new reaches the plugin."));
+    assessment.findings += makeFinding(StatusRules::kGateRefused, Wording::sentence(message));
 }
 
 } // namespace

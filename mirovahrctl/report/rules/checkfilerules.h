@@ -101,7 +101,7 @@ inline constexpr Rule kCodeWraps{"code-wraps", Severity::Warning,
 inline constexpr Rule kDateOutOfRange{
     "date-out-of-range", Severity::Warning,
     "The plugin stores days from 1970 to 2106 only; the day comes back as another one.",
-    "Correct the date; leave the leaving date of a person who stays empty."};
+    "Correct the date."};
 
 inline constexpr Rule kDuplicateRelationship{
     "duplicate-relationship", Severity::Warning,

@@ -65,12 +65,10 @@ inline constexpr Rule kNotInDatabase{
     "The person is neither in the export nor in the database.",
     "Check the number, and whether HR has ever exported the person."};
 
-inline constexpr Rule kNotInExport{
-    "not-in-export",
-    {Severity::Warning, Severity::Note},
-    "No line of the export is about the person.",
-    "Ask HR why the person is missing from the export. For somebody who has left this is "
-    "fine."};
+inline constexpr Rule kNotInExport{"not-in-export",
+                                   {Severity::Warning, Severity::Note},
+                                   "No line of the export is about the person.",
+                                   "Ask HR why the person is missing from the export."};
 
 inline constexpr Rule kPayrollIdStrange{"payroll-id-strange", Severity::Warning,
                                         "The payroll id of an active row belongs to another pid.",
