@@ -1,4 +1,5 @@
 #include "mirovahrctl/checkdb/columnneeds.h"
+#include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/testdatabase.h"
 #include "worker/relationshipstate.h"
@@ -89,6 +90,7 @@ private Q_SLOTS:
     void anUnreachableServerIsNoDatabase();
     void withoutAServerTheUsageIsWrong();
     void theHelpSaysHowToConnect();
+    void everyRuleHasItsFixtures();
 
 private:
     QStringList connection();
@@ -898,6 +900,15 @@ void TestCheckDb::theHelpSaysHowToConnect()
              run.report().constData());
     QVERIFY(run.out.contains("First connect as the plugin does"));
     QVERIFY(run.out.contains("--other-account"));
+}
+
+void TestCheckDb::everyRuleHasItsFixtures()
+{
+    // These take other accounts or servers: see TestCheckDbRights and TestCheckDbServer.
+    const QSet<QString> others{"columns-hidden",     "connection-charset", "groups-reserved",
+                               "primary-key-wanted", "right-excess",       "right-missing",
+                               "routine-unseen",     "several-statements"};
+    QCOMPARE(RuleFixtures::ofReports("check-db").missing("check-db", others), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestCheckDb)

@@ -1,5 +1,6 @@
 #include "mirovahrctl/explain/personid.h"
 #include "tests/mirovahrctl/explain/explainedsite.h"
+#include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/worker/support/middayzone.h"
 #include "tests/worker/support/sampleexport.h"
 #include "worker/mirovaronrecord.h"
@@ -84,6 +85,7 @@ private Q_SLOTS:
     void aServerInAnotherTimeZoneIsRefused();
     void aDatabaseWithoutATableBreaksTheContract_data();
     void aDatabaseWithoutATableBreaksTheContract();
+    void everyRuleHasItsFixtures();
 
 private:
     ToolRun explain(const ExportRow &line, const QStringList &more = {});
@@ -1132,6 +1134,14 @@ void TestExplain::aDatabaseWithoutATableBreaksTheContract()
     COMPARE_EXIT(run, ExitStatus::ContractBroken);
     QVERIFY2(run.err.startsWith("mirovahrctl: explain: The database "), run.report().constData());
     QVERIFY2(run.failure().startsWith("The database "), run.report().constData());
+}
+
+void TestExplain::everyRuleHasItsFixtures()
+{
+    // See TestExplainExport, TestExplainPeople and TestExplainWorker.
+    const QSet<QString> others{"gate-refused", "nobody-found", "person-ambiguous",
+                               "state-breaks-statement"};
+    QCOMPARE(RuleFixtures::ofReports("explain").missing("explain", others), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestExplain)

@@ -1,3 +1,4 @@
+#include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void aDatabaseWithoutSettingsIsReported();
     void aServerThatIsNotThereIsNoDatabase();
     void theTextForPeopleIsPlain();
+    void everyRuleHasItsFixtures();
 
 private:
     QStringList connection();
@@ -304,6 +306,11 @@ void TestForce::theTextForPeopleIsPlain()
                      "The plugin sees the flag at its next tick, within 60 seconds when it "
                      "is not busy.\n\n"
                      "A forced synchronisation is pending.\n"));
+}
+
+void TestForce::everyRuleHasItsFixtures()
+{
+    QCOMPARE(RuleFixtures::ofReports("force").missing("force", {}), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestForce)

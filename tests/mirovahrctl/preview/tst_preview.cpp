@@ -43,6 +43,8 @@ private Q_SLOTS:
     void theReportNamesItsConfiguration();
     void thePageShowsTheDifferences();
     void aConfigurationThatPreventsSynchronisationIsReported();
+    void aTableThatIsNotCopiedAtTheSameMomentIsReported();
+    void aStatementThatFailsIsReported();
     void theCopyIsGoneAfterASignal_data();
     void theCopyIsGoneAfterASignal();
     void aSynchronisationThatDoesNotTakePlaceIsNoResult();
@@ -224,6 +226,22 @@ void TestPreview::aConfigurationThatPreventsSynchronisationIsReported()
     COMPARE_EXIT(tool, ExitStatus::Findings);
     QCOMPARE(tool.findingsOf("test-mode").size(), 1);
     QCOMPARE(tool.findingsOf("disabled").size(), 1);
+}
+
+void TestPreview::aTableThatIsNotCopiedAtTheSameMomentIsReported()
+{
+    m_bench.site().run("ALTER TABLE vars ENGINE=MyISAM");
+    const ToolRun tool = runTool(arguments({"--json"}));
+    QCOMPARE(tool.findingsOf("no-snapshot").size(), 1);
+}
+
+void TestPreview::aStatementThatFailsIsReported()
+{
+    m_bench.site().run("ALTER TABLE people ADD CONSTRAINT picky CHECK (surname <> 'Malá')");
+    const ToolRun tool = runTool(arguments({"--json"}));
+    COMPARE_EXIT(tool, ExitStatus::Findings);
+    QVERIFY2(!tool.findingsOf("plugin-error").isEmpty(), tool.report().constData());
+    QVERIFY(!tool.findingsOf("plugin-error").constFirst().contains("advice"));
 }
 
 void TestPreview::theCopyIsGoneAfterASignal_data()

@@ -2,9 +2,18 @@
 
 #include "mirovahrctl/report/rules.h"
 
+#include <QHash>
+
 #include <algorithm>
 
 namespace {
+
+/// By subcommand, of this process.
+QHash<QString, RuleFixtures> &recorded()
+{
+    static QHash<QString, RuleFixtures> fixtures;
+    return fixtures;
+}
 
 /// The rules of a subcommand; none when it has no group.
 RuleGroup groupOf(const QString &subcommand)
@@ -43,6 +52,19 @@ bool isRegistered(const QString &subcommand, const QJsonObject &finding)
     const QString severity = finding.value("severity").toString();
     const RuleGroup group = groupOf(subcommand);
     return has(group, id, severity) || has(groupOf(group.otherSubcommand), id, severity);
+}
+
+RuleFixtures RuleFixtures::ofReports(const QString &subcommand)
+{
+    return recorded().value(subcommand);
+}
+
+void RuleFixtures::record(const QString &subcommand, const QStringList &reported)
+{
+    RuleFixtures &fixtures = recorded()[subcommand];
+    const QStringList all = registeredRules(subcommand);
+    for (const QString &rule : all)
+        (reported.contains(rule) ? fixtures.tripped : fixtures.passed) << rule;
 }
 
 QStringList RuleFixtures::missing(const QString &subcommand, const QSet<QString> &others) const

@@ -16,6 +16,11 @@ struct RuleFixtures {
     QSet<QString> tripped;
     QSet<QString> passed;
 
+    /// Those of all reports of a subcommand that record() has been given.
+    static RuleFixtures ofReports(const QString &subcommand);
+    /// Notes which of the subcommand's rules a JSON report has findings of, and which not.
+    static void record(const QString &subcommand, const QStringList &reported);
+
     /// Those of a subcommand's rules that miss a fixture of either kind, without \a others.
     QStringList missing(const QString &subcommand, const QSet<QString> &others) const;
 };

@@ -76,5 +76,7 @@ ToolRun runTool(const QStringList &arguments, bool interactive)
     const ExitStatus status = runMirovahrctl(arguments, console);
     const ToolRun run{status, QString::fromUtf8(out.data()), QString::fromUtf8(err.data())};
     requireRegisteredRules(arguments.value(0), run);
+    if (!run.json().isEmpty())
+        RuleFixtures::record(arguments.value(0), run.rules());
     return run;
 }

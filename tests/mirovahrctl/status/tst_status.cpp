@@ -1,6 +1,7 @@
 #include "mirovahrctl/gatestate/gatestatus.h"
 #include "mirovahrctl/status/statusassessment.h"
 #include "mirovahrctl/status/statusdata.h"
+#include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/accountrights.h"
 #include "tests/support/localzone.h"
@@ -59,6 +60,7 @@ private Q_SLOTS:
 
     void spansAreRoundedDown_data();
     void spansAreRoundedDown();
+    void everyRuleHasItsFixtures();
 
 private:
     QStringList connection();
@@ -503,6 +505,11 @@ void TestStatus::spansAreRoundedDown()
     QFETCH(qint64, seconds);
     QFETCH(QString, text);
     QCOMPARE(StatusAssessment::span(seconds), text);
+}
+
+void TestStatus::everyRuleHasItsFixtures()
+{
+    QCOMPARE(RuleFixtures::ofReports("status").missing("status", {}), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestStatus)
