@@ -108,7 +108,7 @@ void checkWrites(DbAssessment &check, const DbSchema &schema, const ServerSettin
             .arg(tables.join(QStringLiteral(", "))));
     // Keys on columns that the account cannot see are hidden as well.
     if (check.isPartlySeen())
-        finding.severity = CheckDbRules::kPrimaryKeyWanted.severity.other;
+        finding.severity = CheckDbRules::kPrimaryKeyWanted.otherSeverity;
     check.report(finding);
 }
 

@@ -202,7 +202,7 @@ void PersonExplanation::explainNotFound(const PersonLines &lines)
                     QStringLiteral("None of the %1 of %2 is about %3.")
                         .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()));
     if (hasLeft) {
-        finding.severity = ExplainRules::kNotInExport.severity.other;
+        finding.severity = ExplainRules::kNotInExport.otherSeverity;
         finding.advice = QStringLiteral("This is fine unless the person still works: according to "
                                         "the database the person has left.");
     }

@@ -92,7 +92,7 @@ void RecordExplanation::explainLeaver()
                 "The person has left and has no row. The plugin never creates rows for leavers."),
             QStringLiteral(
                 "This is fine unless the person still works: then HR's export is wrong."));
-        finding.severity = ExplainRules::kLeftAlready.severity.other;
+        finding.severity = ExplainRules::kLeftAlready.otherSeverity;
         m_context.report.finding(finding);
     }
 }

@@ -5,7 +5,7 @@
 Finding makeFinding(const Rule &rule, const QString &message, const QString &advice)
 {
     Finding finding;
-    finding.severity = rule.severity.usual;
+    finding.severity = rule.severity;
     finding.rule = QString::fromLatin1(rule.id);
     finding.message = message;
     finding.advice = advice.isNull() ? QString::fromUtf8(rule.advice) : advice;

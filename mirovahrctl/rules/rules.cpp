@@ -12,24 +12,23 @@ constexpr char kDescription[] =
     "grouped by subcommand. With an id, such as field-count, explains that rule: what a\n"
     "finding means, and what to do about it.";
 
-QString severityText(const RuleSeverity &severity)
+QString severityText(const Rule &rule)
 {
-    const QString usual = severityWord(severity.usual);
-    return severity.other == severity.usual
+    const QString usual = severityWord(rule.severity);
+    return rule.otherSeverity == rule.severity
         ? usual
-        : QStringLiteral("%1 or %2").arg(usual, severityWord(severity.other));
+        : QStringLiteral("%1 or %2").arg(usual, severityWord(rule.otherSeverity));
 }
 
 QVariantList listedRow(const Rule &rule)
 {
-    return {QString::fromLatin1(rule.id), severityText(rule.severity),
-            QString::fromUtf8(rule.meaning)};
+    return {QString::fromLatin1(rule.id), severityText(rule), QString::fromUtf8(rule.meaning)};
 }
 
 QVariantList explainedRow(const RuleGroup &group, const Rule &rule)
 {
     const QString advice = QString::fromUtf8(rule.advice);
-    return {QString::fromLatin1(group.subcommand), severityText(rule.severity),
+    return {QString::fromLatin1(group.subcommand), severityText(rule),
             QString::fromUtf8(rule.meaning), advice.isEmpty() ? QVariant() : QVariant(advice)};
 }
 

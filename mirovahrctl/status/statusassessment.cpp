@@ -46,7 +46,7 @@ void assessAge(StatusAssessment &assessment, const AgeLimits &limits)
         : QStringLiteral("There is no %1 yet.").arg(assessment.ageOf);
     Finding finding = makeFinding(StatusRules::kTooOld, message);
     if (critical)
-        finding.severity = StatusRules::kTooOld.severity.other;
+        finding.severity = StatusRules::kTooOld.otherSeverity;
     assessment.findings += finding;
 }
 

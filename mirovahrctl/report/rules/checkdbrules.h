@@ -128,10 +128,9 @@ inline constexpr Rule kPayrollIdStrange{
     "digits of both joined."};
 
 inline constexpr Rule kPrimaryKeyWanted{
-    "primary-key-wanted",
-    {Severity::Error, Severity::Note},
+    "primary-key-wanted", Severity::Error,
     "The cluster refuses writes to tables without a primary key, and there is such a table.",
-    "Add a column id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY KEY."};
+    "Add a column id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY KEY.", Severity::Note};
 
 inline constexpr Rule kRightExcess{
     "right-excess", Severity::Warning, "The account has more rights than the plugin needs.",

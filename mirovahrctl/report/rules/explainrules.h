@@ -41,10 +41,9 @@ inline constexpr Rule kGateRefused{
     "Check whether that file has another line for the person."};
 
 inline constexpr Rule kLeftAlready{
-    "left-already",
-    {Severity::Warning, Severity::Note},
+    "left-already", Severity::Warning,
     "The person has left, so the plugin creates no row, or does not write the end.",
-    "Ask HR to export each employment relationship once."};
+    "Ask HR to export each employment relationship once.", Severity::Note};
 
 inline constexpr Rule kLinesNotExplained{
     "lines-not-explained", Severity::Warning,
@@ -65,10 +64,9 @@ inline constexpr Rule kNotInDatabase{
     "The person is neither in the export nor in the database.",
     "Check the number, and whether HR has ever exported the person."};
 
-inline constexpr Rule kNotInExport{"not-in-export",
-                                   {Severity::Warning, Severity::Note},
-                                   "No line of the export is about the person.",
-                                   "Ask HR why the person is missing from the export."};
+inline constexpr Rule kNotInExport{
+    "not-in-export", Severity::Warning, "No line of the export is about the person.",
+    "Ask HR why the person is missing from the export.", Severity::Note};
 
 inline constexpr Rule kPayrollIdStrange{"payroll-id-strange", Severity::Warning,
                                         "The payroll id of an active row belongs to another pid.",

@@ -24,36 +24,28 @@ inline constexpr Rule kJustWritten{"just-written", Severity::Error,
                                    "It may still be incomplete; run the gate again later."};
 
 inline constexpr Rule kLinesLost{
-    "lines-lost",
-    {Severity::Error, Severity::Warning},
-    "More lines with people than the limits allow are missing.",
-    "Ask HR; if the change is intended, run the gate once with --accept."};
+    "lines-lost", Severity::Error, "More lines with people than the limits allow are missing.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
 
 inline constexpr Rule kMissing{"missing", Severity::Error, "HR's file does not exist.",
                                "Ask HR whether the export has run."};
 
 inline constexpr Rule kNoBaseline{
-    "no-baseline",
-    {Severity::Error, Severity::Warning},
-    "There is no admitted file to compare with.",
-    "Inspect the file with check-file and preview, then admit it once with --accept."};
+    "no-baseline", Severity::Error, "There is no admitted file to compare with.",
+    "Inspect the file with check-file and preview, then admit it once with --accept.",
+    Severity::Warning};
 
 inline constexpr Rule kPeopleLeaving{
-    "people-leaving",
-    {Severity::Error, Severity::Warning},
-    "More people than the limits allow leave.",
-    "Ask HR; if the change is intended, run the gate once with --accept."};
+    "people-leaving", Severity::Error, "More people than the limits allow leave.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
 
 inline constexpr Rule kPeopleMoving{
-    "people-moving",
-    {Severity::Error, Severity::Warning},
-    "More people than the limits allow get another cost centre.",
-    "Ask HR; if the change is intended, run the gate once with --accept."};
+    "people-moving", Severity::Error, "More people than the limits allow get another cost centre.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
 
-inline constexpr Rule kTruncated{"truncated",
-                                 {Severity::Error, Severity::Warning},
+inline constexpr Rule kTruncated{"truncated", Severity::Error,
                                  "The last line is damaged or has no line feed.",
-                                 "Ask HR for the complete file."};
+                                 "Ask HR for the complete file.", Severity::Warning};
 
 inline constexpr Rule kRejectedLines{
     "rejected-lines", Severity::Note,

@@ -10,10 +10,9 @@ inline constexpr Rule kGateRefused{"gate-refused", Severity::Warning,
                                    "Until a file is admitted nothing new reaches the plugin."};
 
 inline constexpr Rule kTooOld{
-    "too-old",
-    {Severity::Warning, Severity::Error},
+    "too-old", Severity::Warning,
     "The last admitted file, or the last trace of the plugin, is too old.",
-    "Check the log of the attendance server and what HR delivers."};
+    "Check the log of the attendance server and what HR delivers.", Severity::Error};
 
 /// All of them, in the order of `mirovahrctl rules`.
 inline constexpr const Rule *kAll[] = {

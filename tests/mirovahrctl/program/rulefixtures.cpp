@@ -29,8 +29,8 @@ bool has(const RuleGroup &group, const QString &id, const QString &severity)
 {
     return std::any_of(group.rules.cbegin(), group.rules.cend(), [&](const Rule *rule) {
         return id == QLatin1String(rule->id)
-            && (severity == severityWord(rule->severity.usual)
-                || severity == severityWord(rule->severity.other));
+            && (severity == severityWord(rule->severity)
+                || severity == severityWord(rule->otherSeverity));
     });
 }
 

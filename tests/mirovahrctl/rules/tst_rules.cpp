@@ -66,7 +66,7 @@ void TestRules::everySeriousRuleSaysWhatToDo()
     for (const RuleGroup &group : ruleGroups()) {
         for (const Rule *const rule : group.rules) {
             const QString advice = QString::fromUtf8(rule->advice);
-            QVERIFY2(rule->severity.usual == Severity::Note || advice.endsWith('.'), rule->id);
+            QVERIFY2(rule->severity == Severity::Note || advice.endsWith('.'), rule->id);
         }
     }
 }
