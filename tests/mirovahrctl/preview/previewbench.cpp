@@ -67,9 +67,9 @@ QStringList PreviewResult::warned() const
     return texts;
 }
 
-bool PreviewBench::start()
+bool PreviewBench::start(const QStringList &serverOptions)
 {
-    if (!m_site.start())
+    if (!m_site.start(serverOptions))
         return false;
     m_site.run(QStringLiteral("ALTER USER mirovahrctl@localhost IDENTIFIED BY '%1' ACCOUNT UNLOCK")
                    .arg(m_site.server().password()));

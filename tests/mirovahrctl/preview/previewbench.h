@@ -48,7 +48,7 @@ struct PreviewResult {
 class PreviewBench {
 public:
     /// As TestDatabase::start(); also unlocks the account of mirovahrctl.
-    bool start();
+    bool start(const QStringList &serverOptions = {});
 
     TestDatabase &site() { return m_site; }
     ExportFile &exportFile() { return m_export; }

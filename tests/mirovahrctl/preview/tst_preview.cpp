@@ -1,4 +1,5 @@
 #include "tests/mirovahrctl/preview/previewbench.h"
+#include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/mirovahrctl/report/browser.h"
 #include "tests/privatedb/privateservertest.h"
@@ -44,6 +45,8 @@ private Q_SLOTS:
     void thePageShowsTheDifferences();
     void aConfigurationThatPreventsSynchronisationIsReported();
     void aTableThatIsNotCopiedAtTheSameMomentIsReported();
+    void aViewThatARoutineUsesIsReported();
+    void aSiteOfAnotherVersionIsReported();
     void aStatementThatFailsIsReported();
     void theCopyIsGoneAfterASignal_data();
     void theCopyIsGoneAfterASignal();
@@ -53,6 +56,7 @@ private Q_SLOTS:
     void whatCannotBeUsedIsRefusedAtOnce_data();
     void whatCannotBeUsedIsRefusedAtOnce();
     void progressIsShownOnATerminal();
+    void everyRuleHasItsFixtures();
 
 private:
     QStringList arguments(const QStringList &more = {});
@@ -235,6 +239,28 @@ void TestPreview::aTableThatIsNotCopiedAtTheSameMomentIsReported()
     QCOMPARE(tool.findingsOf("no-snapshot").size(), 1);
 }
 
+void TestPreview::aViewThatARoutineUsesIsReported()
+{
+    m_bench.site().run("CREATE VIEW colours AS SELECT * FROM funds");
+    m_bench.site().run("CREATE TRIGGER loud AFTER UPDATE ON people FOR EACH ROW "
+                       "SET @n = (SELECT COUNT(*) FROM colours)");
+    m_bench.site().run("GRANT TRIGGER, SHOW VIEW ON tepdb.* TO mirovahrctl@localhost");
+    const ToolRun tool = runTool(arguments({"--json"}));
+    m_bench.site().run("REVOKE TRIGGER, SHOW VIEW ON tepdb.* FROM mirovahrctl@localhost");
+    m_bench.site().run("DROP VIEW colours");
+    QVERIFY2(tool.findingsOf("view-not-copied").size() == 1, tool.report().constData());
+}
+
+void TestPreview::aSiteOfAnotherVersionIsReported()
+{
+    PreviewBench other;
+    QVERIFY2(other.start({"--version=10.5.1-MariaDB"}), qPrintable(other.site().errorString()));
+    other.writeExport({SampleExport::jana()});
+    const ToolRun tool =
+        runTool(QStringList{"preview", other.exportFile().path(), "--json"} + other.arguments());
+    QVERIFY2(tool.findingsOf("other-server").size() == 1, tool.report().constData());
+}
+
 void TestPreview::aStatementThatFailsIsReported()
 {
     m_bench.site().run("ALTER TABLE people ADD CONSTRAINT picky CHECK (surname <> 'Malá')");
@@ -352,6 +378,11 @@ void TestPreview::progressIsShownOnATerminal()
     QVERIFY(tool.err.contains("Copying the database: "));
     QVERIFY(tool.err.contains("Synchronising the copy: "));
     QVERIFY(tool.err.endsWith("\r\x1b[K"));
+}
+
+void TestPreview::everyRuleHasItsFixtures()
+{
+    QCOMPARE(RuleFixtures::ofReports("preview").missing("preview", {}), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestPreview)
