@@ -89,6 +89,7 @@ QVector<Finding> ConfigAssessment::findings()
     checkPeriods();
     checkImportFile();
     checkSyncCommand();
+    checkGate();
     checkMessages();
     std::stable_sort(m_findings.begin(), m_findings.end(),
                      [](const Finding &a, const Finding &b) { return a.line < b.line; });

@@ -43,6 +43,7 @@ private:
     void checkImportFolder(const QString &path);
     void checkSyncCommand();
     void checkSyncCommandRun();
+    void checkGate();
     void checkMessages();
     void checkMessageKey(const QString &key);
     void checkMessageText(const QString &key);

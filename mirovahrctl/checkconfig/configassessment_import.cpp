@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "mirovahrctl/gatestate/gateoptions.h"
 #include "mirovahrctl/report/rules/checkconfigrules.h"
 #include "worker/importfile.h"
 
@@ -121,4 +122,24 @@ void ConfigAssessment::checkSyncCommandRun()
         QStringLiteral("Only the low 8 bits of %1 are kept: it counts as %2.")
             .arg(configured)
             .arg(m_config.syncCommandRun));
+}
+
+void ConfigAssessment::checkGate()
+{
+    const QString key = QStringLiteral("syncCommand");
+    if (!GateOptions::isRunBy(m_config.syncCommand)) {
+        add(CheckConfigRules::kNoGate, key,
+            QStringLiteral("No gate: what HR exports reaches the database unexamined."));
+        return;
+    }
+    const auto gate = GateOptions::ofCommand(m_config.syncCommand);
+    const QString path = ImportFile::path(m_config.importFile);
+    if (!gate) {
+        add(CheckConfigRules::kGateOptions, key,
+            QStringLiteral("The gate does not understand its options, so it publishes nothing."));
+    } else if (!gate->publishesTo(path)) {
+        add(CheckConfigRules::kGateElsewhere, key,
+            QStringLiteral("The gate publishes to %1, but the plugin reads %2.")
+                .arg(gate->to, path));
+    }
 }

@@ -181,6 +181,11 @@ std::optional<GateOptions> GateOptions::ofCommand(const QString &command)
     return options;
 }
 
+bool GateOptions::isRunBy(const QString &command)
+{
+    return gateArguments(QProcess::splitCommand(command)).has_value();
+}
+
 bool GateOptions::publishesTo(const QString &path) const
 {
     return isSame(to, path);

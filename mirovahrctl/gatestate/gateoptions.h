@@ -52,6 +52,9 @@ struct GateOptions {
     /// another program such as sudo. Nothing when it runs no gate, or the options are invalid.
     static std::optional<GateOptions> ofCommand(const QString &command);
 
+    /// Whether a command runs a gate, be its options valid or not.
+    static bool isRunBy(const QString &command);
+
     /// Whether the gate publishes to this path.
     bool publishesTo(const QString &path) const;
 };

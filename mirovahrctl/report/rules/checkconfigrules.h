@@ -30,6 +30,16 @@ inline constexpr Rule kFlagReadsAsTrue{"flag-reads-as-true", Severity::Warning,
                                        "A flag has an unusual value and is read as true.",
                                        "Write true or false."};
 
+inline constexpr Rule kGateElsewhere{
+    "gate-elsewhere", Severity::Error,
+    "The gate publishes to another file than the one that the plugin reads.",
+    "Write the same path as importFile and behind --to."};
+
+inline constexpr Rule kGateOptions{
+    "gate-options", Severity::Error, "The gate in syncCommand does not understand its options.",
+    "Run the command by hand: it says which option is wrong. Compare it with the sample "
+    "MirovaHR.ini."};
+
 inline constexpr Rule kImportFileNoFile{
     "import-file-no-file", Severity::Error,
     "importFile names something other than a regular file, which the plugin never reads.",
@@ -80,6 +90,10 @@ inline constexpr Rule kMesTextBreaksSql{
 
 inline constexpr Rule kNoDepartment{"no-department", Severity::Note,
                                     "New and updated people belong to no department."};
+
+inline constexpr Rule kNoGate{
+    "no-gate", Severity::Note, "No gate keeps damaged files of HR from the plugin.",
+    "Make mirovahrctl gate the syncCommand, as the sample MirovaHR.ini does."};
 
 inline constexpr Rule kNoMessages{
     "no-messages", Severity::Note,
@@ -159,6 +173,8 @@ inline constexpr const Rule *kAll[] = {
     &kFileWorldWritable,
     &kFlagEmpty,
     &kFlagReadsAsTrue,
+    &kGateElsewhere,
+    &kGateOptions,
     &kImportFileNoFile,
     &kImportFileRelative,
     &kImportFileWorldWritable,
@@ -170,6 +186,7 @@ inline constexpr const Rule *kAll[] = {
     &kMesKeysCollide,
     &kMesTextBreaksSql,
     &kNoDepartment,
+    &kNoGate,
     &kNoMessages,
     &kNumberReadsAs0,
     &kNumberWraps,

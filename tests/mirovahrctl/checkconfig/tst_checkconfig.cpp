@@ -9,11 +9,14 @@
 namespace {
 
 /// A correct configuration, except for what a test adds. "%1" is a private folder.
-const char kGood[] = "enabled=true\n"
-                     "timerInterval=60\n"
-                     "syncInterval=60\n"
-                     "importFile=\"%1/ron.data\"\n"
-                     "departmentId=1\n";
+const char kGood[] =
+    "enabled=true\n"
+    "timerInterval=60\n"
+    "syncInterval=60\n"
+    "importFile=\"%1/ron.data\"\n"
+    "syncCommand=\"/usr/bin/nice mirovahrctl gate --from %1/hr --to %1/ron.data\"\n"
+    "syncCommandRun=2\n"
+    "departmentId=1\n";
 const char kGoodMessages[] = "[MES]\n"
                              "21=\"materská dovolenka\"\n";
 
@@ -181,6 +184,28 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
         "sync-command-not-found", "syncCommand");
     key("a command with quotation marks", "syncCommand=\"\\\"/bin/true\\\" x\"\nsyncCommandRun=1",
         "sync-command-not-found", QString());
+
+    key("a command that is no gate", "syncCommand=/bin/true\nsyncCommandRun=2", "no-gate",
+        "syncCommand");
+    key("a gate",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in\n"
+        "syncCommandRun=2",
+        "no-gate", QString());
+    key("a gate that publishes elsewhere",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/out\n"
+        "syncCommandRun=2",
+        "gate-elsewhere", "syncCommand");
+    key("a gate that publishes where the plugin reads",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv//in\n"
+        "syncCommandRun=2",
+        "gate-elsewhere", QString());
+    key("a gate without HR's file",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --to /srv/in\nsyncCommandRun=2",
+        "gate-options", "syncCommand");
+    key("a gate with its options",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in\n"
+        "syncCommandRun=2",
+        "gate-options", QString());
 
     message("no message", "", "no-messages", "MES");
     message("one message", "21=\"x\"", "no-messages", QString());
