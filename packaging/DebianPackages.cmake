@@ -50,7 +50,7 @@ The service is neither enabled nor started when the package is installed.
 .
 mirovahr-demo shows the plugin at work beside a database server of its own.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS
-    "libqt5sql5-mysql, systemd | systemd-standalone-sysusers | systemd-sysusers")
+    "libqt5sql5-mysql, systemd | systemd-standalone-sysusers | systemd-sysusers, systemd | systemd-standalone-tmpfiles | systemd-tmpfiles")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS
     "mirovahr-plugin (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}), mariadb-server-core, mariadb-client-core")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS bash-completion)
