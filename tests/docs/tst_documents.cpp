@@ -216,10 +216,10 @@ void TestDocuments::theSampleConfigurationReadsAsItSays()
     QCOMPARE(sample.tickMilliseconds, 60000U);
     QCOMPARE(sample.syncInterval, 60U);
     QCOMPARE(sample.testMode, false);
-    QCOMPARE(sample.importFile, QString("/var/lib/yav/hr/ron.data"));
+    QCOMPARE(sample.importFile, QString("/var/lib/yav/import/ron.data"));
     QCOMPARE(sample.deleteFile, true);
-    QCOMPARE(sample.syncCommand, QString());
-    QCOMPARE(sample.syncCommandRun, quint8(0));
+    QVERIFY(sample.syncCommand.startsWith("/usr/bin/mirovahrctl gate "));
+    QCOMPARE(sample.syncCommandRun, quint8(2));
     QCOMPARE(sample.departmentId, 1U);
     const QHash<unsigned short, QString> messages{
         {21, "materská dovolenka"}, {22, "rodičovská dovolenka"}, {71, "neplatené voľno"}};

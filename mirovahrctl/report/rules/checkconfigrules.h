@@ -62,7 +62,7 @@ inline constexpr Rule kImportFolderWorldWritable{
     "import-folder-world-writable", Severity::Error,
     "Every user of the machine can put an export of their own in place.",
     "Use a folder that only HR's transfer and the attendance server can write to, such as "
-    "/var/lib/yav/hr."};
+    "/var/lib/yav/import."};
 
 inline constexpr Rule kKeyTwice{"key-twice", Severity::Warning,
                                 "A key occurs more than once; the last line counts.",
