@@ -29,10 +29,8 @@ DbRules::Account accountOf(const CommandLine &line)
 bool checkSchema(DbAssessment &check, DbRules::Account account)
 {
     DbSchema schema;
-    if (!schema.load(check.database())) {
-        check.setUnusable(schema.errorString());
+    if (!schema.load(check.sql()))
         return false;
-    }
     const int violationsBefore = check.violationCount();
     DbRules::checkTables(check, schema);
     DbRules::checkColumns(check, schema);
@@ -78,10 +76,10 @@ ExitStatus check(const CommandLine &line, const QSqlDatabase &db, Report &report
     report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
     DbAssessment check(db, report);
     checkAll(check, accountOf(line));
-    if (!check.unusable().isEmpty()) {
+    if (check.sql().failed()) {
         return console.fail(
             ExitStatus::NoDatabase,
-            QStringLiteral("The database cannot be used: %1").arg(check.unusable()));
+            QStringLiteral("The database cannot be used: %1").arg(check.sql().errorString()));
     }
     return report.conclude(check.isContractBroken() ? ExitStatus::ContractBroken
                                                     : report.findingsStatus(),

@@ -2,50 +2,17 @@
 
 #include "mirovahrctl/report/reportwriter.h"
 
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QSqlRecord>
-
-namespace {
-
-QVariantList valuesOf(const QSqlQuery &query)
-{
-    QVariantList values;
-    for (int i = 0; i < query.record().count(); ++i)
-        values += query.value(i);
-    return values;
-}
-
-} // namespace
-
 DbAssessment::DbAssessment(const QSqlDatabase &db, ReportWriter &writer)
-    : m_db(db)
+    : m_sql(db)
     , m_writer(writer)
 {
 }
 
-QVector<QVariantList> DbAssessment::rows(const QString &sql)
+SqlSession DbAssessment::attempt(const QString &sql) const
 {
-    QVector<QVariantList> rows;
-    QSqlQuery query(m_db);
-    if (!query.exec(sql))
-        setUnusable(query.lastError().text());
-    while (query.next())
-        rows += valuesOf(query);
-    return rows;
-}
-
-QVariantList DbAssessment::row(const QString &sql)
-{
-    return rows(sql).value(0);
-}
-
-QSqlError DbAssessment::attempt(const QString &sql)
-{
-    QSqlQuery query(m_db);
-    query.exec(sql);
-    while (query.nextResult()) { }
-    return query.lastError();
+    SqlSession session(m_sql.database());
+    session.run(sql);
+    return session;
 }
 
 void DbAssessment::begin(const char *id, const char *heading)
@@ -56,7 +23,7 @@ void DbAssessment::begin(const char *id, const char *heading)
 
 void DbAssessment::end(const QString &sentenceWithoutFindings)
 {
-    if (!m_hasFindings)
+    if (!m_hasFindings && !m_sql.failed())
         m_writer.sentence(sentenceWithoutFindings);
 }
 
@@ -77,14 +44,10 @@ void DbAssessment::report(const Rule &rule, const QString &field, const QString 
 
 void DbAssessment::report(const Finding &finding)
 {
+    if (m_sql.failed())
+        return;
     if (finding.severity != Severity::Note)
         ++m_serious;
     m_hasFindings = true;
     m_writer.finding(finding);
-}
-
-void DbAssessment::setUnusable(const QString &reason)
-{
-    if (m_unusable.isEmpty())
-        m_unusable = reason;
 }

@@ -1,34 +1,25 @@
 #pragma once
 
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/site/sqlsession.h"
 
-#include <QSqlDatabase>
 #include <QString>
-#include <QVariant>
-#include <QVector>
 
-class QSqlError;
 class ReportWriter;
 
 /// What the rules of check-db share: the connection, queries, and the report.
 ///
-/// When a query fails that must succeed, the check is void: unusable() then says why, and what the
-/// rules report afterwards is worth nothing.
+/// When a query of sql() fails, the check is void: no finding is reported any more.
 class DbAssessment {
 public:
     DbAssessment(const QSqlDatabase &db, ReportWriter &writer);
 
-    /// The connection that is checked.
-    QSqlDatabase database() const { return m_db; }
     ReportWriter &writer() { return m_writer; }
 
-    /// Every row of a query that must succeed.
-    QVector<QVariantList> rows(const QString &sql);
-    /// The first row of a query that must succeed; a row of invalid values when there is none.
-    QVariantList row(const QString &sql);
-    /// Runs a statement that may fail and reads all its results. The error is invalid when it
-    /// succeeds.
-    QSqlError attempt(const QString &sql);
+    /// The connection that is checked, for queries that must succeed.
+    SqlSession &sql() { return m_sql; }
+    /// Runs a statement that may fail; the session then says why.
+    SqlSession attempt(const QString &sql) const;
 
     /// Begins a section of the report. \a id: its stable name for scripts.
     void begin(const char *id, const char *heading);
@@ -55,16 +46,12 @@ public:
     int violationCount() const { return m_violations; }
     /// How many warnings and errors there were.
     int seriousCount() const { return m_serious; }
-    /// Why the check could not be finished, a sentence without its full stop; empty when it could.
-    QString unusable() const { return m_unusable; }
-    void setUnusable(const QString &reason);
 
 private:
-    const QSqlDatabase m_db;
+    SqlSession m_sql;
     ReportWriter &m_writer;
     int m_violations = 0;
     int m_serious = 0;
     bool m_hasFindings = false;
     bool m_partlySeen = false;
-    QString m_unusable;
 };

@@ -5,8 +5,6 @@
 #include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QStringList>
 
 namespace {
@@ -15,12 +13,12 @@ constexpr char kSelectConnection[] = "SELECT CURRENT_USER(), @@character_set_cli
                                      " @@character_set_connection, @@character_set_results";
 constexpr char kTwoStatements[] = "SELECT 1; SELECT 2";
 
-bool isUnicode(const QVariant &charset)
+bool isUnicode(const QString &charset)
 {
-    return charset.toString().startsWith(QLatin1String("utf8"));
+    return charset.startsWith(QLatin1String("utf8"));
 }
 
-void checkCharset(DbAssessment &check, const QVariantList &row)
+void checkCharset(DbAssessment &check, const QStringList &row)
 {
     if (isUnicode(row.value(1)) && isUnicode(row.value(2)) && isUnicode(row.value(3)))
         return;
@@ -28,13 +26,12 @@ void checkCharset(DbAssessment &check, const QVariantList &row)
         CheckDbRules::kConnectionCharset, {},
         QStringLiteral("The connection's character set is not UTF-8 (client %1, connection %2, "
                        "results %3): accented letters are stored wrongly")
-            .arg(row.value(1).toString(), row.value(2).toString(), row.value(3).toString()));
+            .arg(row.value(1), row.value(2), row.value(3)));
 }
 
 void checkSeveralStatements(DbAssessment &check)
 {
-    QSqlQuery query(check.database());
-    const bool allowed = query.exec(QLatin1String(kTwoStatements)) && query.nextResult();
+    const bool allowed = !check.attempt(QLatin1String(kTwoStatements)).failed();
     check.writer().fact(QStringLiteral("severalStatements"),
                         QStringLiteral("Several statements in one text allowed"), allowed);
     if (allowed)
@@ -62,7 +59,7 @@ bool countsFoundRows(const QString &connectOptions)
 
 void checkAffectedRows(DbAssessment &check)
 {
-    if (!countsFoundRows(check.database().connectOptions()))
+    if (!countsFoundRows(check.sql().database().connectOptions()))
         return;
     check.reportViolation(
         CheckDbRules::kFoundRows, {},
@@ -74,7 +71,7 @@ void checkAffectedRows(DbAssessment &check)
 
 void DbRules::checkConnection(DbAssessment &check)
 {
-    const QVariantList row = check.row(QLatin1String(kSelectConnection));
+    const QStringList row = check.sql().row(QLatin1String(kSelectConnection));
     check.begin("connection", "Connection");
     check.writer().fact(QStringLiteral("account"), QStringLiteral("Account"), row.value(0));
     check.writer().fact(QStringLiteral("charset"), QStringLiteral("Character set"), row.value(1));

@@ -40,16 +40,6 @@ constexpr char kSelectValueLength[] =
 constexpr int kMostShown = 10;
 constexpr uint kLargestFund = 65535;
 
-/// The first column of all rows.
-QStringList firstColumn(DbAssessment &check, const char *sql)
-{
-    QStringList values;
-    const QVector<QVariantList> rows = check.rows(QLatin1String(sql));
-    for (const QVariantList &row : rows)
-        values += row.value(0).toString();
-    return values;
-}
-
 QString shown(const QStringList &values)
 {
     QString text = QStringList(values.mid(0, kMostShown)).join(QStringLiteral(", "));
@@ -60,7 +50,7 @@ QString shown(const QStringList &values)
 
 void checkVacationFund(DbAssessment &check)
 {
-    const QStringList funds = firstColumn(check, kSelectVacationFunds);
+    const QStringList funds = check.sql().column(QLatin1String(kSelectVacationFunds));
     if (funds.isEmpty()) {
         check.report(CheckDbRules::kVacationFundNone, QStringLiteral("funds"),
                      QStringLiteral("There is no vacation fund (a row of funds with iid 3 and unit "
@@ -80,7 +70,7 @@ void checkVacationFund(DbAssessment &check)
 
 void checkPayrollExport(DbAssessment &check)
 {
-    const QStringList exports = payrollExports(check.database());
+    const QStringList exports = payrollExports(check.sql().database());
     if (exports.size() == 1)
         return;
     const QString found = exports.isEmpty()
@@ -98,7 +88,7 @@ void checkPayrollExport(DbAssessment &check)
 void checkNone(DbAssessment &check, const char *sql, const Rule &rule, const char *field,
                const char *message)
 {
-    const QStringList rows = firstColumn(check, sql);
+    const QStringList rows = check.sql().column(QLatin1String(sql));
     if (rows.isEmpty())
         return;
     check.report(rule, QString::fromLatin1(field), QString::fromLatin1(message).arg(shown(rows)));
@@ -139,8 +129,8 @@ void checkPeople(DbAssessment &check)
 
 void checkSelectionWidth(DbAssessment &check)
 {
-    const qint64 needed = check.row(QLatin1String(kSelectSelectionLength)).value(0).toLongLong();
-    const qint64 width = check.row(QLatin1String(kSelectValueLength)).value(0).toLongLong();
+    const qint64 needed = check.sql().value(QLatin1String(kSelectSelectionLength)).toLongLong();
+    const qint64 width = check.sql().value(QLatin1String(kSelectValueLength)).toLongLong();
     if (needed <= width)
         return;
     check.report(

@@ -117,9 +117,9 @@ void checkWrites(DbAssessment &check, const DbSchema &schema, const ServerSettin
 DbRules::ServerSettings DbRules::readKeySettings(DbAssessment &check)
 {
     ServerSettings settings;
-    const QVector<QVariantList> rows = check.rows(QLatin1String(kSelectSettings));
-    for (const QVariantList &row : rows)
-        settings.insert(row.value(0).toString().toLower(), row.value(1).toString());
+    const QVector<QStringList> rows = check.sql().rows(QLatin1String(kSelectSettings));
+    for (const QStringList &row : rows)
+        settings.insert(row.at(0).toLower(), row.at(1));
     return settings;
 }
 

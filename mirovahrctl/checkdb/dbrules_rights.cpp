@@ -47,20 +47,10 @@ void checkTable(DbAssessment &check, const DbSchema &schema,
     checkRight(check, schema, "update", table, PluginRights::names(rights.update));
 }
 
-QStringList granted(DbAssessment &check, const char *sql)
-{
-    QStringList rights;
-    const QVector<QVariantList> rows =
-        check.rows(QString::fromLatin1(sql).arg(QLatin1String(kAccount)));
-    for (const QVariantList &row : rows)
-        rights += row.value(0).toString();
-    rights.removeDuplicates();
-    return rights;
-}
-
 void checkExcess(DbAssessment &check, const char *sql, const QString &where)
 {
-    const QStringList rights = granted(check, sql);
+    QStringList rights = check.sql().column(QString::fromLatin1(sql).arg(QLatin1String(kAccount)));
+    rights.removeDuplicates();
     if (rights.isEmpty())
         return;
     check.report(

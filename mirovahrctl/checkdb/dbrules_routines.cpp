@@ -6,7 +6,6 @@
 #include "mirovahrctl/report/rules/checkdbrules.h"
 
 #include <QDate>
-#include <QSqlError>
 #include <QStringList>
 
 namespace {
@@ -41,16 +40,16 @@ constexpr char kCallProcedure[] = "CALL updateTermsSync(0, 2)";
 /// A day of the year 9999, which is beyond the range of every supported server.
 constexpr char kMonthOfUnknownDay[] = "SELECT monthFromTimestamp(253402210800)";
 
-const QString kNoSuchFunction = QStringLiteral("1305");
-const QString kWrongArguments = QStringLiteral("1318");
-const QString kDenied = QStringLiteral("1370");
-/// How a write is refused: by the read-only session, or by a read-only server.
-const QStringList kRefusedWrite{QStringLiteral("1792"), QStringLiteral("1290")};
+constexpr int kNoSuchFunction = 1305;
+constexpr int kWrongArguments = 1318;
+constexpr int kDenied = 1370;
+constexpr int kWriteInReadOnlySession = 1792;
+constexpr int kWriteOnReadOnlyServer = 1290;
 
 /// Reports why a routine cannot be called.
-void reportFailure(DbAssessment &check, const QString &name, const QSqlError &error)
+void reportFailure(DbAssessment &check, const QString &name, const SqlSession &call)
 {
-    const QString code = error.nativeErrorCode();
+    const int code = call.errorNumber();
     if (code == kNoSuchFunction || code == kDenied) {
         check.reportViolation(
             CheckDbRules::kRoutineMissing, name,
@@ -65,15 +64,15 @@ void reportFailure(DbAssessment &check, const QString &name, const QSqlError &er
     } else {
         check.reportViolation(
             CheckDbRules::kRoutineFails, name,
-            QStringLiteral("The routine %1 fails: %2").arg(name, error.databaseText()));
+            QStringLiteral("The routine %1 fails: %2").arg(name, call.errorString()));
     }
 }
 
 void reportWrongResult(DbAssessment &check, const QString &name, const QString &call,
-                       const QVariant &result, const QVariant &expected)
+                       const QString &result, const QString &expected)
 {
-    const auto shown = [](const QVariant &value) {
-        return value.isNull() ? QStringLiteral("NULL") : value.toString();
+    const auto shown = [](const QString &value) {
+        return value.isNull() ? QStringLiteral("NULL") : value;
     };
     check.reportViolation(
         CheckDbRules::kRoutineWrong, name,
@@ -110,17 +109,16 @@ bool checkTimeFunction(DbAssessment &check, const char *name, const char *expect
     const QString function = QString::fromLatin1(name);
     const QString sql =
         QString::fromLatin1(kSelectWrong).arg(function).arg(QLatin1String(expected)).arg(moments());
-    const QSqlError error = check.attempt(sql);
-    if (error.isValid()) {
-        reportFailure(check, function, error);
+    const SqlSession call = check.attempt(sql);
+    if (call.failed()) {
+        reportFailure(check, function, call);
         return false;
     }
-    const QVariantList wrong = check.row(sql);
+    const QStringList wrong = check.sql().row(sql);
     if (wrong.isEmpty())
         return true;
-    reportWrongResult(check, function,
-                      QStringLiteral("%1(%2)").arg(function, wrong.at(0).toString()), wrong.at(1),
-                      wrong.at(2));
+    reportWrongResult(check, function, QStringLiteral("%1(%2)").arg(function, wrong.at(0)),
+                      wrong.at(1), wrong.at(2));
     return false;
 }
 
@@ -129,53 +127,54 @@ void checkMonthFunction(DbAssessment &check)
     const QString function = QStringLiteral("monthFromTimestamp");
     if (!checkTimeFunction(check, "monthFromTimestamp", kMonth))
         return;
-    const QSqlError error = check.attempt(QLatin1String(kMonthOfUnknownDay));
-    if (!error.isValid())
+    const SqlSession call = check.attempt(QLatin1String(kMonthOfUnknownDay));
+    if (!call.failed())
         return;
     check.report(CheckDbRules::kRoutineLateDays, function,
                  QStringLiteral("The function %1 fails for days beyond the server's range (%2). A "
                                 "single such day of attendance, for example with a mistyped year, "
                                 "keeps every month of that person from being filled")
-                     .arg(function, error.databaseText()));
+                     .arg(function, call.errorString()));
 }
 
 void checkGroupFunction(DbAssessment &check)
 {
     const QString function = QStringLiteral("getCurrentGid");
-    const QSqlError error = check.attempt(QLatin1String(kSelectGidOfNobody));
-    if (error.isValid()) {
-        reportFailure(check, function, error);
+    const SqlSession call = check.attempt(QLatin1String(kSelectGidOfNobody));
+    if (call.failed()) {
+        reportFailure(check, function, call);
         return;
     }
-    const QVariantList nobody = check.row(QLatin1String(kSelectGidOfNobody));
-    const QVariantList wrong = check.row(QLatin1String(kSelectWrongGid));
-    if (nobody.value(0) != 7) {
+    const QString fallback = QStringLiteral("7");
+    const QStringList nobody = check.sql().row(QLatin1String(kSelectGidOfNobody));
+    const QStringList wrong = check.sql().row(QLatin1String(kSelectWrongGid));
+    if (nobody.value(0) != fallback) {
         reportWrongResult(check, function, QStringLiteral("%1(0, 202401, 7)").arg(function),
-                          nobody.value(0), 7);
+                          nobody.value(0), fallback);
     } else if (!nobody.value(1).isNull()) {
         reportWrongResult(check, function, QStringLiteral("%1(0, 202401, NULL)").arg(function),
-                          nobody.value(1), QVariant());
+                          nobody.value(1), QString());
     } else if (!wrong.isEmpty()) {
         reportWrongResult(check, function,
-                          QStringLiteral("%1(%2, %3, 7)")
-                              .arg(function, wrong.at(0).toString(), wrong.at(1).toString()),
+                          QStringLiteral("%1(%2, %3, 7)").arg(function, wrong.at(0), wrong.at(1)),
                           wrong.at(2), wrong.at(3));
     }
 }
 
 void callProcedure(DbAssessment &check)
 {
-    const QSqlError error = check.attempt(QLatin1String(kCallProcedure));
-    if (error.isValid() && !kRefusedWrite.contains(error.nativeErrorCode()))
-        reportFailure(check, QStringLiteral("updateTermsSync"), error);
+    const SqlSession call = check.attempt(QLatin1String(kCallProcedure));
+    const bool isRefused = call.errorNumber() == kWriteInReadOnlySession
+        || call.errorNumber() == kWriteOnReadOnlyServer;
+    if (call.failed() && !isRefused)
+        reportFailure(check, QStringLiteral("updateTermsSync"), call);
 }
 
 /// For an account that may not call procedures that write.
 void lookForProcedure(DbAssessment &check)
 {
     const QString name = QStringLiteral("updateTermsSync");
-    const QVector<QVariantList> routines = check.rows(QLatin1String(kSelectRoutines));
-    if (!routines.contains({name})) {
+    if (!check.sql().column(QLatin1String(kSelectRoutines)).contains(name)) {
         check.report(CheckDbRules::kRoutineUnseen, name,
                      QStringLiteral("This account cannot see the routine %1").arg(name));
     }

@@ -85,14 +85,14 @@ QString ServerVersion::name() const
 
 void DbRules::checkServer(DbAssessment &check)
 {
-    const QVariantList row = check.row(QLatin1String(kSelectServer));
-    const ServerVersion version = ServerVersion::parse(row.value(0).toString());
-    const QString modes = row.value(1).toString();
+    const QStringList row = check.sql().row(QLatin1String(kSelectServer));
+    const ServerVersion version = ServerVersion::parse(row.value(0));
+    const QString modes = row.value(1);
     check.begin("server", "Server");
     check.writer().fact(QStringLiteral("server"), QStringLiteral("Server"), version.name());
     check.writer().fact(QStringLiteral("sqlMode"), QStringLiteral("SQL mode"), modes);
     checkVersion(check, version);
-    checkWritable(check, row.value(2).toString());
+    checkWritable(check, row.value(2));
     checkFatalModes(check, modes.split(QLatin1Char(',')));
     checkOtherModes(check, modes.split(QLatin1Char(',')));
     check.end(QStringLiteral("The server and its SQL mode are suitable for the plugin."));

@@ -7,8 +7,6 @@
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
-#include <QSqlError>
-
 namespace {
 
 /// Looks for everything that the contract names, and lists separately what only other components
@@ -113,7 +111,7 @@ void checkInserts(DbAssessment &check, const DbSchema &schema)
 
 bool seesAllColumns(DbAssessment &check, const QString &table)
 {
-    return !check.attempt(QStringLiteral("SELECT * FROM `%1` LIMIT 0").arg(table)).isValid();
+    return !check.attempt(QStringLiteral("SELECT * FROM `%1` LIMIT 0").arg(table)).failed();
 }
 
 /// The server hides columns on which an account has no rights, and the keys on them.

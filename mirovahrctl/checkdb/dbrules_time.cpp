@@ -22,7 +22,7 @@ constexpr qint64 kClockTolerance = 60;
 QDate dayThatDiffers(DbAssessment &check)
 {
     const QVector<QDate> days = Midnights::daysToCompare(QDate::currentDate());
-    return Midnights::differing(days, check.row(Midnights::query(days)));
+    return Midnights::differing(days, check.sql().row(Midnights::query(days)));
 }
 
 void checkMidnights(DbAssessment &check, const QString &serverZone, const QString &ownZone)
@@ -54,10 +54,9 @@ void checkClock(DbAssessment &check, qint64 serverNow)
 
 void DbRules::checkTime(DbAssessment &check)
 {
-    const QVariantList row = check.row(QLatin1String(kSelectZone));
-    const QString setting = row.value(0).toString();
-    const QString serverZone =
-        setting == QLatin1String("SYSTEM") ? row.value(1).toString() : setting;
+    const QStringList row = check.sql().row(QLatin1String(kSelectZone));
+    const QString setting = row.value(0);
+    const QString serverZone = setting == QLatin1String("SYSTEM") ? row.value(1) : setting;
     const QString ownZone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
     check.begin("time", "Time");
     check.writer().fact(QStringLiteral("serverTimeZone"), QStringLiteral("Server's time zone"),

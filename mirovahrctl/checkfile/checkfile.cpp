@@ -9,6 +9,7 @@
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/databaseaccess.h"
+#include "mirovahrctl/site/sqlsession.h"
 #include "worker/importfile.h"
 
 #include <QFile>
@@ -153,7 +154,8 @@ std::optional<ExitStatus> CheckFileRun::readWidths()
     const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
     if (!database)
         return fail(ExitStatus::NoDatabase, error);
-    m_widths = readColumnWidths(database->handle(), error);
+    SqlSession site(database->handle());
+    m_widths = readColumnWidths(site, error);
     if (m_widths.isEmpty())
         return fail(ExitStatus::ContractBroken, error);
     return std::nullopt;

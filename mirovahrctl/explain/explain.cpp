@@ -155,10 +155,8 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
         return failView();
     ForceFlag flag(view.database());
     const auto forced = flag.isSet();
-    if (!forced) {
-        return fail(ExitStatus::ContractBroken,
-                    QStringLiteral("The database cannot be used: %1").arg(flag.errorString()));
-    }
+    if (!forced)
+        return fail(ExitStatus::ContractBroken, flag.errorString());
     m_source.isForced = *forced;
     if (const auto end = m_report.open())
         return *end;
@@ -175,7 +173,8 @@ std::optional<ExitStatus> ExplainRun::readExport(const QSqlDatabase &site)
     if (!hasExport())
         return std::nullopt;
     QString error;
-    const ColumnWidths widths = readColumnWidths(site, error);
+    SqlSession sql(site);
+    const ColumnWidths widths = readColumnWidths(sql, error);
     if (widths.isEmpty())
         return fail(ExitStatus::ContractBroken, error);
     m_lines.emplace(*m_person);

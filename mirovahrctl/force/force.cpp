@@ -54,12 +54,12 @@ ExitStatus ForceRun::run(const QSqlDatabase &db)
     ForceFlag flag(db);
     const auto before = flag.isSet();
     if (!before)
-        return fail(QStringLiteral("The flag cannot be read: %1").arg(flag.errorString()));
+        return fail(flag.errorString());
     if (!flag.set(m_on))
-        return fail(QStringLiteral("The flag cannot be written: %1").arg(flag.errorString()));
+        return fail(flag.errorString());
     const auto after = flag.isSet();
     if (!after)
-        return fail(QStringLiteral("The flag cannot be read back: %1").arg(flag.errorString()));
+        return fail(flag.errorString());
     m_report.begin(m_line.subcommand(), QStringLiteral("Forced synchronisation"));
     m_report.section(QStringLiteral("flag"), QStringLiteral("Flag"));
     reportFlag(*before, *after);

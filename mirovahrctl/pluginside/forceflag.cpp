@@ -13,14 +13,17 @@ std::optional<bool> ForceFlag::isSet()
 {
     const PluginLog log;
     const bool on = TepDbSettings(m_db).variableGet(Schedule::kForceSyncKey, QVariant()).toBool();
-    m_error = log.problems();
-    return m_error.isEmpty() ? std::make_optional(on) : std::nullopt;
+    if (log.problems().isEmpty())
+        return on;
+    m_error = QStringLiteral("The force flag cannot be read: %1").arg(log.problems());
+    return std::nullopt;
 }
 
 bool ForceFlag::set(bool on)
 {
     const PluginLog log;
-    const bool done = TepDbSettings(m_db).variableSet(Schedule::kForceSyncKey, on ? 1 : 0);
-    m_error = log.problems();
-    return done;
+    if (TepDbSettings(m_db).variableSet(Schedule::kForceSyncKey, on ? 1 : 0))
+        return true;
+    m_error = QStringLiteral("The force flag cannot be written: %1").arg(log.problems());
+    return false;
 }

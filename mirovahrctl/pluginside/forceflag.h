@@ -15,7 +15,7 @@ public:
     /// Sets or clears it. False when writing fails.
     bool set(bool on);
 
-    /// Why the last operation failed.
+    /// Why the last operation failed, a sentence without its full stop.
     QString errorString() const { return m_error; }
 
 private:

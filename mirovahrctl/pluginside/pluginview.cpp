@@ -3,7 +3,6 @@
 #include "mirovahrctl/site/databaseaccess.h"
 #include "plugin/workersetup.h"
 
-#include <QSqlQuery>
 #include <QStringList>
 
 namespace {
@@ -66,5 +65,5 @@ QString PluginView::errorString() const
 
 bool PluginView::isConnected() const
 {
-    return QSqlQuery(m_database).exec(QLatin1String(kAnswer));
+    return SqlSession(m_database).run(QLatin1String(kAnswer));
 }

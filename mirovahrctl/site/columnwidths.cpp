@@ -1,8 +1,6 @@
 #include "mirovahrctl/site/columnwidths.h"
 
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QVariant>
+#include "mirovahrctl/site/sqlsession.h"
 
 namespace {
 
@@ -12,18 +10,15 @@ constexpr char kSelectWidths[] =
 
 } // namespace
 
-ColumnWidths readColumnWidths(const QSqlDatabase &database, QString &error)
+ColumnWidths readColumnWidths(SqlSession &site, QString &error)
 {
-    QSqlQuery query(database);
-    if (!query.exec(QLatin1String(kSelectWidths))) {
-        error =
-            QStringLiteral("The column lengths cannot be read: %1").arg(query.lastError().text());
-        return {};
-    }
     ColumnWidths widths;
-    while (query.next())
-        widths.insert(query.value(0).toString(), query.value(1).toInt());
-    if (widths.isEmpty()) {
+    const QVector<QStringList> rows = site.rows(QLatin1String(kSelectWidths));
+    for (const QStringList &row : rows)
+        widths.insert(row.at(0), row.at(1).toInt());
+    if (site.failed()) {
+        error = QStringLiteral("The database cannot be used: %1").arg(site.errorString());
+    } else if (widths.isEmpty()) {
         error = QStringLiteral(
             "The database has no table 'people' with text columns, or the account may not see it");
     }

@@ -3,7 +3,7 @@
 #include <QHash>
 #include <QString>
 
-class QSqlDatabase;
+class SqlSession;
 
 /// The lengths in characters of the text columns of `people`, by column name. Empty when they are
 /// not known: then no text is too long.
@@ -11,4 +11,4 @@ using ColumnWidths = QHash<QString, int>;
 
 /// Reads them from the information schema. Empty when that fails or there is no such table; `error`
 /// then says why, a sentence without its full stop.
-ColumnWidths readColumnWidths(const QSqlDatabase &database, QString &error);
+ColumnWidths readColumnWidths(SqlSession &site, QString &error);

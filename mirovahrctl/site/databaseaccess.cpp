@@ -1,9 +1,7 @@
 #include "mirovahrctl/site/databaseaccess.h"
 
 #include "cli/database.h"
-
-#include <QSqlError>
-#include <QSqlQuery>
+#include "mirovahrctl/site/sqlsession.h"
 
 namespace {
 
@@ -30,10 +28,10 @@ std::unique_ptr<Database> openDatabase(const DatabaseOptions &options, DatabaseA
 
 bool refuseWriting(const QSqlDatabase &connection, QString &error)
 {
-    QSqlQuery query(connection);
-    if (query.exec(QLatin1String(kReadOnly)))
+    SqlSession session(connection);
+    if (session.run(QLatin1String(kReadOnly)))
         return true;
     error =
-        QStringLiteral("The database cannot be opened read-only: %1").arg(query.lastError().text());
+        QStringLiteral("The database cannot be opened read-only: %1").arg(session.errorString());
     return false;
 }

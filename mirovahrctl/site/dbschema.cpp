@@ -1,9 +1,6 @@
 #include "mirovahrctl/site/dbschema.h"
 
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QVariant>
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <algorithm>
 
@@ -41,33 +38,38 @@ bool isUniqueDefault(const QString &text)
     return functions.contains(text, Qt::CaseInsensitive);
 }
 
-DbColumn readColumn(const QSqlQuery &query)
+DbColumn readColumn(const QStringList &row)
 {
     DbColumn column;
-    column.name = query.value(1).toString();
-    column.type = query.value(2).toString().toLower();
-    column.fullType = query.value(3).toString().toLower();
-    column.length = query.value(4).toLongLong();
-    column.wholeDigits = query.value(5).toInt();
-    column.charset = query.value(6).toString();
-    column.nullable = query.value(7).toString() == QLatin1String("YES");
-    column.defaultValue = bareDefault(query.value(8).toString());
-    const QString extra = query.value(9).toString().toLower();
+    column.name = row.at(1);
+    column.type = row.at(2).toLower();
+    column.fullType = row.at(3).toLower();
+    column.length = row.at(4).toLongLong();
+    column.wholeDigits = row.at(5).toInt();
+    column.charset = row.at(6);
+    column.nullable = row.at(7) == QLatin1String("YES");
+    column.defaultValue = bareDefault(row.at(8));
+    const QString extra = row.at(9).toLower();
     column.automaticNumber = extra.contains(QLatin1String("auto_increment"));
-    column.uniquelyFilled = column.automaticNumber || isUniqueDefault(query.value(8).toString());
-    column.filledByServer = !query.value(8).isNull() || column.automaticNumber
-        || extra.contains(QLatin1String("generated"));
-    column.rights = query.value(10).toString().toLower().split(QLatin1Char(','));
+    column.uniquelyFilled = column.automaticNumber || isUniqueDefault(row.at(8));
+    column.filledByServer =
+        !row.at(8).isNull() || column.automaticNumber || extra.contains(QLatin1String("generated"));
+    column.rights = row.at(10).toLower().split(QLatin1Char(','));
     return column;
 }
 
 } // namespace
 
-bool DbSchema::load(const QSqlDatabase &db)
+bool DbSchema::load(SqlSession &site)
 {
-    return select(db, kSelectColumns, &DbSchema::addColumn)
-        && select(db, kSelectKeys, &DbSchema::addKeyColumn)
-        && select(db, kSelectTransactional, &DbSchema::addTransactional);
+    const QVector<QStringList> columns = site.rows(QLatin1String(kSelectColumns));
+    for (const QStringList &row : columns)
+        m_columns[row.at(0)].append(readColumn(row));
+    const QVector<QStringList> keys = site.rows(QLatin1String(kSelectKeys));
+    for (const QStringList &row : keys)
+        addKeyColumn(row);
+    m_transactional = site.column(QLatin1String(kSelectTransactional));
+    return !site.failed();
 }
 
 const DbColumn *DbSchema::column(const QString &table, const QString &column) const
@@ -82,32 +84,10 @@ const DbColumn *DbSchema::column(const QString &table, const QString &column) co
     return found == columns->cend() ? nullptr : &*found;
 }
 
-bool DbSchema::select(const QSqlDatabase &db, const char *sql,
-                      void (DbSchema::*addRow)(const QSqlQuery &))
+void DbSchema::addKeyColumn(const QStringList &row)
 {
-    QSqlQuery query(db);
-    const bool done = query.exec(QLatin1String(sql));
-    while (query.next())
-        (this->*addRow)(query);
-    m_error = query.lastError().text();
-    return done;
-}
-
-void DbSchema::addColumn(const QSqlQuery &row)
-{
-    m_columns[row.value(0).toString()].append(readColumn(row));
-}
-
-void DbSchema::addKeyColumn(const QSqlQuery &row)
-{
-    QVector<DbKey> &keys = m_keys[row.value(0).toString()];
-    const QString name = row.value(1).toString();
-    if (keys.isEmpty() || keys.constLast().name != name)
-        keys.append({name, {}});
-    keys.last().columns += row.value(2).toString().toLower();
-}
-
-void DbSchema::addTransactional(const QSqlQuery &row)
-{
-    m_transactional += row.value(0).toString();
+    QVector<DbKey> &keys = m_keys[row.at(0)];
+    if (keys.isEmpty() || keys.constLast().name != row.at(1))
+        keys.append({row.at(1), {}});
+    keys.last().columns += row.at(2).toLower();
 }

@@ -5,8 +5,7 @@
 #include <QStringList>
 #include <QVector>
 
-class QSqlDatabase;
-class QSqlQuery;
+class SqlSession;
 
 /// A column as the information schema describes it.
 struct DbColumn {
@@ -34,10 +33,8 @@ struct DbKey {
 /// what an account has no privilege for.
 class DbSchema {
 public:
-    /// Reads all of it. False when that fails; errorString() then says why.
-    bool load(const QSqlDatabase &db);
-    /// Why load() failed, in the driver's words.
-    QString errorString() const { return m_error; }
+    /// Reads all of it. False when that fails.
+    bool load(SqlSession &site);
 
     /// Whether the table exists and the account may see it.
     bool hasTable(const QString &table) const { return m_columns.contains(table); }
@@ -51,13 +48,8 @@ public:
     bool isTransactional(const QString &table) const { return m_transactional.contains(table); }
 
 private:
-    bool select(const QSqlDatabase &db, const char *sql,
-                void (DbSchema::*addRow)(const QSqlQuery &));
-    void addColumn(const QSqlQuery &row);
-    void addKeyColumn(const QSqlQuery &row);
-    void addTransactional(const QSqlQuery &row);
+    void addKeyColumn(const QStringList &row);
 
-    QString m_error;
     QHash<QString, QVector<DbColumn>> m_columns;
     QHash<QString, QVector<DbKey>> m_keys;
     QStringList m_transactional;

@@ -5,7 +5,6 @@
 
 #include <QDateTime>
 #include <QSet>
-#include <QStringList>
 #include <QTimeZone>
 
 #include <algorithm>
@@ -43,7 +42,7 @@ QString Midnights::query(const QVector<QDate> &days)
     return QStringLiteral("SELECT ") + columns.join(QLatin1Char(','));
 }
 
-QDate Midnights::differing(const QVector<QDate> &days, const QVariantList &midnights)
+QDate Midnights::differing(const QVector<QDate> &days, const QStringList &midnights)
 {
     for (int i = 0; i < midnights.size(); ++i) {
         if (midnights.at(i).toLongLong() != RecordDates::midnight(days.at(i)))
@@ -55,8 +54,7 @@ QDate Midnights::differing(const QVector<QDate> &days, const QVariantList &midni
 QString Midnights::disagreement(SqlSession &server)
 {
     const QVector<QDate> days = daysToCompare(QDate::currentDate());
-    const QStringList texts = server.row(query(days));
-    if (!differing(days, QVariantList(texts.cbegin(), texts.cend())).isValid())
+    if (!differing(days, server.row(query(days))).isValid())
         return {};
     return QStringLiteral("The site's server (time zone %1) and this program disagree about when "
                           "days begin. Run this program with the TZ of the attendance server")

@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QDate>
-#include <QString>
-#include <QVariant>
+#include <QStringList>
 #include <QVector>
 
 class SqlSession;
@@ -18,7 +17,7 @@ QString query(const QVector<QDate> &days);
 
 /// The first of these days that begins at different times for this program and for the server,
 /// whose answer to the query is \a midnights. Invalid when there is none.
-QDate differing(const QVector<QDate> &days, const QVariantList &midnights);
+QDate differing(const QVector<QDate> &days, const QStringList &midnights);
 
 /// Why the two disagree, a sentence without its full stop: nothing that this program computes about
 /// days then holds for the server. Empty when they agree, and when the query fails.

@@ -63,6 +63,15 @@ QVector<QStringList> SqlSession::rows(const QString &sql)
     return m_failed ? QVector<QStringList>() : rows;
 }
 
+QStringList SqlSession::column(const QString &sql)
+{
+    QStringList values;
+    const QVector<QStringList> all = rows(sql);
+    for (const QStringList &row : all)
+        values += row.value(0);
+    return values;
+}
+
 bool SqlSession::forEachRow(const QString &sql,
                             const std::function<bool(const QStringList &)> &take)
 {
@@ -77,6 +86,7 @@ bool SqlSession::forEachRow(const QString &sql,
         if (!take(texts(query, count)))
             return false;
     }
+    while (query.nextResult()) { }
     return !query.lastError().isValid() || fail(query.lastError());
 }
 

@@ -27,12 +27,19 @@ public:
     QStringList row(const QString &sql) { return rows(sql).value(0); }
     /// The first value of the first row; null when there is none.
     QString value(const QString &sql) { return row(sql).value(0); }
+    /// The first values of all rows.
+    QStringList column(const QString &sql);
     /// Passes the rows to \a take one by one; Qt's driver holds the whole answer meanwhile. Ends
-    /// when \a take returns false. False when it did, or when the query fails.
+    /// when \a take returns false. False when it did, or when the statement fails, also when it
+    /// does so only after its first result.
     bool forEachRow(const QString &sql, const std::function<bool(const QStringList &)> &take);
+
+    /// The connection itself, for the plugin's own code.
+    const QSqlDatabase &database() const { return m_db; }
 
     /// Whether a statement has failed.
     bool failed() const { return m_failed; }
+    /// What the server said, or else the driver; empty when nothing has failed.
     QString errorString() const { return m_error; }
     /// The server's error number; 0 for an error that is not the server's.
     int errorNumber() const { return m_errorNumber; }

@@ -6,6 +6,7 @@
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/site/databaseaccess.h"
+#include "mirovahrctl/site/sqlsession.h"
 #include "mirovahrctl/status/nagios.h"
 #include "mirovahrctl/status/statusassessment.h"
 #include "mirovahrctl/status/statusdata.h"
@@ -110,7 +111,8 @@ ExitStatus StatusRun::run()
     const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
     if (!database)
         return fail(ExitStatus::NoDatabase, error);
-    const auto data = StatusData::read(database->handle(), error);
+    SqlSession site(database->handle());
+    const auto data = StatusData::read(site, error);
     return data ? answer(*data) : fail(ExitStatus::NoDatabase, error);
 }
 

@@ -1,10 +1,7 @@
 #include "mirovahrctl/status/statusdata.h"
 
 #include "mirovahrctl/pluginside/forceflag.h"
-
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QVariant>
+#include "mirovahrctl/site/sqlsession.h"
 
 #include <algorithm>
 
@@ -18,7 +15,7 @@ constexpr char kSelect[] =
     " (SELECT COUNT(*) FROM funds_move WHERE type = 3"
     " AND day = midnightFromTs(UNIX_TIMESTAMP()))";
 
-std::optional<qint64> moment(const QVariant &value)
+std::optional<qint64> moment(const QString &value)
 {
     return value.isNull() ? std::nullopt : std::make_optional(value.toLongLong());
 }
@@ -30,27 +27,27 @@ std::optional<qint64> StatusData::lastTrace() const
     return std::max(created, edited);
 }
 
-std::optional<StatusData> StatusData::read(const QSqlDatabase &db, QString &error)
+std::optional<StatusData> StatusData::read(SqlSession &site, QString &error)
 {
-    QSqlQuery query(db);
-    if (!query.exec(QLatin1String(kSelect)) || !query.next()) {
-        error = QStringLiteral("The database cannot be used: %1").arg(query.lastError().text());
+    const QStringList row = site.row(QLatin1String(kSelect));
+    if (site.failed()) {
+        error = QStringLiteral("The database cannot be used: %1").arg(site.errorString());
         return std::nullopt;
     }
-    ForceFlag flag(db);
+    ForceFlag flag(site.database());
     const auto forced = flag.isSet();
     if (!forced) {
-        error = QStringLiteral("The force flag cannot be read: %1").arg(flag.errorString());
+        error = flag.errorString();
         return std::nullopt;
     }
     StatusData data;
-    data.now = query.value(0).toLongLong();
+    data.now = row.at(0).toLongLong();
     data.forced = *forced;
-    data.activePeople = query.value(1).toLongLong();
-    data.created = moment(query.value(2));
-    data.edited = moment(query.value(3));
-    data.queued = query.value(4).toLongLong();
-    data.oldestQueued = moment(query.value(5));
-    data.correctionsToday = query.value(6).toLongLong();
+    data.activePeople = row.at(1).toLongLong();
+    data.created = moment(row.at(2));
+    data.edited = moment(row.at(3));
+    data.queued = row.at(4).toLongLong();
+    data.oldestQueued = moment(row.at(5));
+    data.correctionsToday = row.at(6).toLongLong();
     return data;
 }

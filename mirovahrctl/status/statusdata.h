@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QSqlDatabase>
 #include <QString>
 
 #include <optional>
+
+class SqlSession;
 
 /// What the attendance database knows of the plugin's work at one moment. Times are Unix times by
 /// the server's clock; nothing means never.
@@ -22,5 +23,5 @@ struct StatusData {
 
     /// Reads all of it. Nothing when that fails; `error` then says why, a sentence without its full
     /// stop.
-    static std::optional<StatusData> read(const QSqlDatabase &db, QString &error);
+    static std::optional<StatusData> read(SqlSession &site, QString &error);
 };

@@ -269,9 +269,11 @@ void TestForce::anAccountThatMayNotWriteIsReported()
     const ToolRun run = force();
     m_db.run("GRANT INSERT (value) ON vars TO yav@localhost");
     COMPARE_EXIT(run, ExitStatus::NoDatabase);
-    QVERIFY2(run.failure().startsWith("The flag cannot be written: "), run.report().constData());
-    QVERIFY2(run.err.startsWith("mirovahrctl: force: The flag cannot be written: variableSet ERROR:"
-                                " \"INSERT command denied to user 'yav'@'localhost'"),
+    QVERIFY2(run.failure().startsWith("The force flag cannot be written: "),
+             run.report().constData());
+    QVERIFY2(run.err.startsWith(
+                 "mirovahrctl: force: The force flag cannot be written: variableSet ERROR:"
+                 " \"INSERT command denied to user 'yav'@'localhost'"),
              run.report().constData());
     QCOMPARE(flag(), QString("0"));
 }
@@ -281,7 +283,7 @@ void TestForce::aDatabaseWithoutSettingsIsReported()
     m_db.run("DROP TABLE vars");
     const ToolRun run = force();
     COMPARE_EXIT(run, ExitStatus::NoDatabase);
-    QVERIFY2(run.err.startsWith("mirovahrctl: force: The flag cannot be read:"
+    QVERIFY2(run.err.startsWith("mirovahrctl: force: The force flag cannot be read:"
                                 " TepDbSettings::variableGet - SQL ERROR: Table 'tepdb.vars'"
                                 " doesn't exist"),
              run.report().constData());

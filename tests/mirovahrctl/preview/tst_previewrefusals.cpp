@@ -230,9 +230,11 @@ void TestPreviewRefusals::aForceFlagThatCannotBeSet()
 {
     m_bench.site().run("ALTER TABLE vars RENAME COLUMN value TO content");
     QCOMPARE(refusal().status, ExitStatus::ContractBroken);
-    QVERIFY2(refusal().sentence.startsWith("The copy cannot be synchronised: variableSet ERROR: "
-                                           "\"Unknown column 'value' in 'INSERT INTO'"),
-             qPrintable(refusal().sentence));
+    QVERIFY2(
+        refusal().sentence.startsWith(
+            "The copy cannot be synchronised: The force flag cannot be written: variableSet ERROR: "
+            "\"Unknown column 'value' in 'INSERT INTO'"),
+        qPrintable(refusal().sentence));
 }
 
 void TestPreviewRefusals::aCopyThatThePluginCannotOpen()
