@@ -1,9 +1,16 @@
 #pragma once
 
-/// What the attendance database (TEPDB) must have for the classes here and for the worker: the
-/// tables, columns, unique keys and routines that their SQL names. A site's tables may hold more.
-/// reference-db/schema.sql describes the columns' meaning and units; a test compares it with this
-/// header.
+#include <QString>
+#include <QStringList>
+
+#include <string_view>
+
+/// What the system knows of the attendance database (TEPDB): tables, columns, unique keys and
+/// routines, and what the plugin does with each column. Everything else that needs to know it asks
+/// here; a site's tables may hold more.
+///
+/// Tests compare reference-db/schema.sql, which describes the columns' meaning and units, and
+/// reference-db/grants.sql with this header.
 ///
 /// Lists of names are texts, the names separated by one blank.
 namespace TepDbContract {
@@ -21,10 +28,58 @@ struct UniqueKey {
 
 struct Table {
     const char *name;
-    const char *columns; ///< Every column that a statement names.
     UniqueKey keys[2] = {};
     /// Column that the database fills on insert and whose value the insert's caller reads back.
     const char *generatedColumn = "";
+    /// The columns that only other components of the attendance server use, by the classes here.
+    const char *columnsElsewhere = "";
+};
+
+/// Privileges of the plugin's account on a column; they add up.
+enum Right : unsigned {
+    S = 1, ///< SELECT
+    I = 2, ///< INSERT
+    U = 4, ///< UPDATE; MariaDB wants it for every column of an upsert
+    Omitted = 8 ///< no privilege: some inserts leave the column to its default
+};
+
+enum class Kind { Nothing, Number, Time, Id, Text };
+
+/// What the plugin writes into a column.
+struct Written {
+    Kind kind = Kind::Nothing;
+    double from = 0; ///< the smallest number, or second since 1970
+    double to = 0; ///< the largest
+    int length = 0; ///< characters of the longest text that is known; 0 for HR's texts
+    const char *owner = ""; ///< the column whose ids are written: "people.uid"
+    const char *key = ""; ///< of the INI file, where that determines the value
+    bool null = false; ///< also NULL
+    bool isNow = false; ///< the moment of writing, UNIX_TIMESTAMP()
+};
+
+/// How a value is shown to people.
+enum class Shown {
+    Plain,
+    Day, ///< a Unix time, 0 and NULL for none
+    DayAfter, ///< the day after a Unix time
+    Branch,
+    CalendarGroup,
+    Editor, ///< an administrator, 0 for HR
+    CalculationDue, ///< a Unix time, 0 when a calculation is due
+    Hundredths, ///< of a day
+    Flags, ///< kinds of data of a terminal
+    Calculated, ///< below 0: to be calculated
+    YesNo,
+};
+
+/// A column that the plugin uses.
+struct Column {
+    const char *table;
+    const char *name;
+    unsigned rights; ///< the plugin's
+    Written written = {};
+    const char *label = ""; ///< its name for people
+    Shown shown = Shown::Plain;
 };
 
 enum class RoutineKind { Function, Procedure };
@@ -35,48 +90,214 @@ struct Routine {
     int argumentCount;
 };
 
+inline constexpr double kUnsigned16 = 65535.0;
+inline constexpr double kUnsigned32 = 4294967295.0;
+
+constexpr Written number(double from, double to)
+{
+    return {Kind::Number, from, to};
+}
+
+constexpr Written time(double from, double to)
+{
+    return {Kind::Time, from, to};
+}
+
+/// Any day that the export may name: of the years 1 to 9999, in any time zone.
+constexpr Written day()
+{
+    return time(-62135683200.0, 253402387199.0);
+}
+
+/// A moment that the server determines: UNIX_TIMESTAMP() ends there up to MariaDB 11.4.
+constexpr Written serverTime()
+{
+    return time(0, 2147483647.0);
+}
+
+constexpr Written now()
+{
+    Written written = serverTime();
+    written.isNow = true;
+    return written;
+}
+
+/// A month such as 202403.
+constexpr Written month()
+{
+    return number(0, 999912.0);
+}
+
+constexpr Written idOf(const char *owner)
+{
+    return {Kind::Id, 0, 0, 0, owner};
+}
+
+/// A text of the plugin's own, or with the longest that is known.
+constexpr Written text(int length)
+{
+    return {Kind::Text, 0, 0, length};
+}
+
+/// A text of HR, of any length: check-file checks it.
+constexpr Written hrText()
+{
+    return text(0);
+}
+
+constexpr Written orNull(Written written)
+{
+    written.null = true;
+    return written;
+}
+
+/// A value that a key or group of the INI file determines. \a written is what any could be.
+constexpr Written configured(const char *key, Written written)
+{
+    written.key = key;
+    return written;
+}
+
 // clang-format off
 inline constexpr Table kTables[] = {
     // People
-    {"people",        "uid pid pamId title name surname title2 phone begin end created edited editor"
-                      " rsBegin rsEnd rsText type did calendarID bid status lastCalc calc gid",
-                      {{"pid", KeyUse::Upsert}, {"uid", KeyUse::Identity}}, "uid"},
-    {"people_pam",    "uid id", {{"uid", KeyUse::Upsert}}},
-    {"atten",         "uid date ok lock man", {{"uid date", KeyUse::Identity}}},
+    {"people",        {{"pid", KeyUse::Upsert}, {"uid", KeyUse::Identity}}, "uid"},
+    {"people_pam",    {{"uid", KeyUse::Upsert}}},
+    {"atten",         {{"uid date", KeyUse::Identity}}},
 
     // Branches and what belongs to them
-    {"branches",      "bid number name address note wh1b wh1e wh2b wh2e wh3b wh3e wh4b wh4e wh5b wh5e"
-                      " wh6b wh6e wh7b wh7e mgid", {{"bid", KeyUse::Identity}}, "bid"},
-    {"brape",         "bid uid since", {{"bid uid", KeyUse::Upsert}}},
-    {"bradm",         "bid aid", {{"bid aid", KeyUse::Upsert}}},
-    {"sections",      "secid", {{"secid", KeyUse::Identity}}},
-    {"sec_branch",    "secid bid", {{"secid", KeyUse::Upsert}}},
-    {"bas",           "bid attrid secid", {{"bid attrid secid", KeyUse::Upsert}}},
+    {"branches",      {{"bid", KeyUse::Identity}}, "bid",
+                      "name address note wh1b wh1e wh2b wh2e wh3b wh3e wh4b wh4e wh5b wh5e wh6b wh6e"
+                      " wh7b wh7e"},
+    {"brape",         {{"bid uid", KeyUse::Upsert}}},
+    {"bradm",         {{"bid aid", KeyUse::Upsert}}},
+    {"sections",      {{"secid", KeyUse::Identity}}, "", "secid"},
+    {"sec_branch",    {{"secid", KeyUse::Upsert}}, "", "secid bid"},
+    {"bas",           {{"bid attrid secid", KeyUse::Upsert}}, "", "bid attrid secid"},
 
     // Calendars
-    {"mastergroups",  "mgid", {{"mgid", KeyUse::Identity}}},
-    {"groups",        "gid parent calendarID", {{"gid", KeyUse::Identity}}},
-    {"groups_plan",   "gid uid since", {{"uid since", KeyUse::Upsert}}},
-    {"groups_month",  "gid uid month", {{"uid month", KeyUse::Upsert}}},
+    {"mastergroups",  {{"mgid", KeyUse::Identity}}},
+    {"groups",        {{"gid", KeyUse::Identity}}},
+    {"groups_plan",   {{"uid since", KeyUse::Upsert}}},
+    {"groups_month",  {{"uid month", KeyUse::Upsert}}},
 
     // Funds
-    {"funds",         "fid iid unit", {{"fid", KeyUse::Identity}}},
-    {"funds_move",    "type day month value fid uid", {{"type day fid uid", KeyUse::Upsert}}},
+    {"funds",         {{"fid", KeyUse::Identity}}},
+    {"funds_move",    {{"type day fid uid", KeyUse::Upsert}}},
 
     // Administrators
-    {"admins",        "aid personalNumber", {{"aid", KeyUse::Identity}}},
-    {"admins_people", "aid uid request", {{"aid uid", KeyUse::Upsert}}},
+    {"admins",        {{"aid", KeyUse::Identity}}},
+    {"admins_people", {{"aid uid", KeyUse::Upsert}}},
 
     // Terminals; the queue and the time zones have no key: their rows may repeat
-    {"term",          "tid bid status flags syn", {{"tid", KeyUse::Identity}}},
-    {"term_sync",     "tid type ref ref_col ref_id ref_col2 ref_id2 created flags"},
-    {"people_term",   "tid uid", {{"tid uid", KeyUse::Upsert}}},
-    {"inters",        "iid", {{"iid", KeyUse::Identity}}},
-    {"inters_term",   "iid tid", {{"iid tid", KeyUse::Identity}}},
-    {"pzt",           "zid tid"},
+    {"term",          {{"tid", KeyUse::Identity}}},
+    {"term_sync",     {}, "", "ref_col2 ref_id2"},
+    {"people_term",   {{"tid uid", KeyUse::Upsert}}},
+    {"inters",        {{"iid", KeyUse::Identity}}, "", "iid"},
+    {"inters_term",   {{"iid tid", KeyUse::Identity}}, "", "iid tid"},
+    {"pzt",           {}, "", "zid tid"},
 
     // Settings
-    {"vars",          "name value", {{"name", KeyUse::Upsert}}},
+    {"vars",          {{"name", KeyUse::Upsert}}},
+};
+
+inline constexpr Column kColumns[] = {
+    {"people", "uid",        S,         {}, "uid"},
+    {"people", "pid",        S | I | U, number(0, kUnsigned32), "pid"},
+    {"people", "pamId",      S | I | U, text(21), "payroll id"}, // 4294967295.4294967295
+    {"people", "title",      S | I | U, hrText(), "title"},
+    {"people", "name",       S | I | U, hrText(), "first name"},
+    {"people", "surname",    S | I | U, hrText(), "surname"},
+    {"people", "title2",     S | I | U, hrText(), "title after the name"},
+    {"people", "phone",      S | I | U, hrText(), "telephone"},
+    {"people", "begin",      S | I | U, time(0, kUnsigned32), "employed from", Shown::Day},
+    {"people", "end",        S | I | U, orNull(day()), "employed until", Shown::Day},
+    {"people", "created",    S | I | U, now(), "created", Shown::Day},
+    {"people", "edited",     S | U,     now(), "last changed", Shown::Day},
+    {"people", "editor",     U,         number(0, 0), "last changed by", Shown::Editor},
+    {"people", "rsBegin",    S | I | U, orNull(day()), "relationship state from", Shown::Day},
+    {"people", "rsEnd",      S | I | U, orNull(day()), "relationship state until", Shown::Day},
+    {"people", "rsText",     S | I | U, text(29), "relationship state"}, // the longest built-in one
+    {"people", "type",       S | I | U, number(0, 4), "employment type"},
+    {"people", "did",        S | I | U, orNull(number(0, 1)), "department"},
+    {"people", "calendarID", S | I | U, number(0, kUnsigned16), "HR's calendar"},
+    {"people", "bid",        S | I | U, orNull(number(0, kUnsigned16)), "home branch", Shown::Branch},
+    {"people", "status",     S | U,     number(0, 1), "active", Shown::YesNo},
+    {"people", "lastCalc",   S | U,     day(), "attendance recalculated from", Shown::DayAfter},
+    {"people", "calc",       S | U,     number(0, 0), "last calculation", Shown::CalculationDue},
+    {"people", "gid",        S,         {}, "calendar group by default", Shown::CalendarGroup},
+
+    {"people_pam", "uid", I | U,     idOf("people.uid")},
+    {"people_pam", "id",  S | I | U, number(0, 2), "settings of the payroll export"},
+
+    {"atten", "uid",  S},
+    {"atten", "date", S},
+    {"atten", "ok",   S | U, number(-1, -1), "below 0: to be calculated", Shown::Calculated},
+    {"atten", "lock", S},
+    {"atten", "man",  S},
+
+    {"branches", "bid",    S},
+    {"branches", "number", S, {}, "cost centre"},
+    {"branches", "mgid",   S},
+
+    {"brape", "bid",   S | I | U, number(0, kUnsigned16), "branch"},
+    {"brape", "uid",   S | I | U, idOf("people.uid")},
+    {"brape", "since", S | I | U, now(), "member since", Shown::Day},
+
+    {"bradm", "bid", S},
+    {"bradm", "aid", S},
+
+    {"mastergroups", "mgid", S},
+
+    {"groups", "gid",        S},
+    {"groups", "parent",     S},
+    {"groups", "calendarID", S},
+
+    {"groups_plan", "gid",   S | I | U, idOf("groups.gid"), "calendar group", Shown::CalendarGroup},
+    {"groups_plan", "uid",   S | I | U, idOf("people.uid")},
+    {"groups_plan", "since", S | I | U, month(), "month"},
+
+    {"groups_month", "gid",   S | I | U, idOf("groups_plan.gid"), "calendar group", Shown::CalendarGroup},
+    {"groups_month", "uid",   S | I | U, idOf("people.uid")},
+    {"groups_month", "month", S | I | U, month(), "month"},
+
+    {"funds", "fid",  S},
+    {"funds", "iid",  S},
+    {"funds", "unit", S},
+
+    {"funds_move", "type",  S | I | U, number(0, 3), "kind of movement"},
+    {"funds_move", "day",   S | I | U, serverTime(), "day"},
+    {"funds_move", "month", I | U,     month(), "month"},
+    {"funds_move", "value", S | I | U, number(-2147483648.0, 2147483647.0), "hundredths of a day", Shown::Hundredths},
+    {"funds_move", "fid",   S | I | U, number(0, kUnsigned16), "fund"},
+    {"funds_move", "uid",   S | I | U, idOf("people.uid")},
+
+    {"admins", "aid",            S},
+    {"admins", "personalNumber", S},
+
+    {"admins_people", "aid",     S | I | U, idOf("admins.aid")},
+    {"admins_people", "uid",     S | I | U, idOf("people.uid")},
+    {"admins_people", "request", S | I | U | Omitted, number(0, 1), "receives the requests", Shown::YesNo},
+
+    {"term", "tid",    S},
+    {"term", "bid",    S},
+    {"term", "status", S},
+    {"term", "flags",  S},
+    {"term", "syn",    S | U, number(0, 323), "kinds of data to fetch", Shown::Flags},
+
+    {"term_sync", "tid",     I, idOf("term.tid")},
+    {"term_sync", "type",    I, text(1)},
+    {"term_sync", "ref",     I, text(11)}, // people_term
+    {"term_sync", "ref_col", I, text(11)}, // colorGroups
+    {"term_sync", "ref_id",  I, idOf("people.uid")},
+    {"term_sync", "created", I, now(), "queued"},
+    {"term_sync", "flags",   I, number(0, 256), "kind of data"},
+
+    {"people_term", "tid", S | I | U, idOf("term.tid")},
+    {"people_term", "uid", S | I | U, idOf("people.uid")},
+
+    {"vars", "name",  S | I | U, text(30)}, // exportPam.4294967295.selPeople
+    {"vars", "value", S | I | U, hrText()},
 };
 
 inline constexpr Routine kRoutines[] = {
@@ -86,5 +307,46 @@ inline constexpr Routine kRoutines[] = {
     {"updateTermsSync",    RoutineKind::Procedure, 2}, // uid, bit of term.flags: marks terminals
 };
 // clang-format on
+
+/// The names of a list.
+QStringList names(const char *list);
+
+/// All columns of a table, those that the plugin uses first.
+QStringList columnsOf(const Table &table);
+
+/// The columns of a table on which the plugin needs any of these rights, in their order; empty for
+/// a table that is none of the contract's.
+QStringList columnsWith(unsigned rights, const QString &table);
+
+/// Null for a column that the plugin does not use. Capitals count.
+const Column *findColumn(const QString &table, const QString &name);
+
+/// Whether the plugin reads or writes a table.
+inline bool isUsed(const QString &table)
+{
+    return !columnsWith(S | I | U, table).isEmpty();
+}
+
+/// Whether the plugin inserts or updates rows of a table.
+inline bool isWritten(const QString &table)
+{
+    return !columnsWith(I | U, table).isEmpty();
+}
+
+/// Whether the plugin inserts rows into a table.
+inline bool getsRows(const QString &table)
+{
+    return !columnsWith(I, table).isEmpty();
+}
+
+/// The name for people of a column that the plugin uses. Does not compile for another one.
+constexpr const char *labelOf(std::string_view table, std::string_view name)
+{
+    for (const Column &column : kColumns) {
+        if (column.table == table && column.name == name)
+            return column.label;
+    }
+    throw "no such column";
+}
 
 } // namespace TepDbContract

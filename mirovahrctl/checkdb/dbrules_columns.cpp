@@ -1,6 +1,6 @@
 // Columns: they can hold what the plugin writes.
 
-#include "mirovahrctl/checkdb/columnneeds.h"
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
@@ -13,14 +13,17 @@
 
 namespace {
 
-QString fieldName(const char *table, const char *column)
+using TepDbContract::Kind;
+
+QString fieldName(const TepDbContract::Column &column)
 {
-    return QString::fromLatin1(table) + QLatin1Char('.') + QString::fromLatin1(column);
+    return QString::fromLatin1(column.table) + QLatin1Char('.') + QString::fromLatin1(column.name);
 }
 
-const DbColumn *find(const DbSchema &schema, const char *table, const char *column)
+/// Null when the site has no such column.
+const DbColumn *find(const DbSchema &schema, const TepDbContract::Column &column)
 {
-    return schema.column(QString::fromLatin1(table), QString::fromLatin1(column));
+    return schema.column(QString::fromLatin1(column.table), QString::fromLatin1(column.name));
 }
 
 QString shown(double number)
@@ -52,13 +55,6 @@ void reportTooNarrow(DbAssessment &check, const QString &field, const QString &m
                 ". Values that do not fit are refused, or altered where no strict SQL mode is on"));
 }
 
-QString narrowNumber(const QString &field, const DbColumn &column, const ColumnRange &written,
-                     const QString &meaning)
-{
-    return QStringLiteral("The column %1 is %2; the plugin writes %3 into it (%4)")
-        .arg(field, column.fullType, shown(written), meaning);
-}
-
 QString day(double seconds)
 {
     return QDateTime::fromSecsSinceEpoch(qint64(seconds)).date().toString(Qt::ISODate);
@@ -75,24 +71,30 @@ QString heldTimes(const ColumnRange &held, const ColumnRange &written)
                       : QStringLiteral("up to %1").arg(day(held.to));
 }
 
-QString narrowTime(const QString &field, const DbColumn &column, const ColumnRange &held,
-                   const ColumnRange &written, const QString &meaning)
-{
-    return QStringLiteral("The column %1 is %2, which holds only times %3; the plugin writes %4 "
-                          "into it")
-        .arg(field, column.fullType, heldTimes(held, written), meaning);
-}
-
 void checkNumbers(DbAssessment &check, const QString &field, const DbColumn &column,
-                  const ColumnRange &written, const QString &meaning, bool isTime)
+                  const ColumnRange &written, const QString &meaning)
 {
     const auto held = ColumnRange::of(column);
     if (!held) {
         reportWrongKind(check, field, column, QStringLiteral("numbers"));
     } else if (!held->holds(written)) {
         reportTooNarrow(check, field,
-                        isTime ? narrowTime(field, column, *held, written, meaning)
-                               : narrowNumber(field, column, written, meaning));
+                        QStringLiteral("The column %1 is %2; the plugin writes %3 into it (%4)")
+                            .arg(field, column.fullType, shown(written), meaning));
+    }
+}
+
+void checkTimes(DbAssessment &check, const QString &field, const DbColumn &column,
+                const ColumnRange &written, const QString &meaning)
+{
+    const auto held = ColumnRange::of(column);
+    if (!held) {
+        reportWrongKind(check, field, column, QStringLiteral("numbers"));
+    } else if (!held->holds(written)) {
+        reportTooNarrow(check, field,
+                        QStringLiteral("The column %1 (%2) is %3, which holds only times %4; the "
+                                       "plugin may write others into it")
+                            .arg(field, meaning, column.fullType, heldTimes(*held, written)));
     }
 }
 
@@ -106,28 +108,13 @@ void checkNull(DbAssessment &check, const QString &field, const DbColumn &column
                               .arg(field));
 }
 
-void checkNumber(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Number &need)
+/// The ids that a column holds, given as "people.uid".
+ColumnRange idsOf(const DbSchema &schema, const QString &owner)
 {
-    const DbColumn *const column = find(schema, need.table, need.column);
-    if (column == nullptr)
-        return;
-    const QString field = fieldName(need.table, need.column);
-    checkNumbers(check, field, *column, {need.from, need.to}, QString::fromLatin1(need.meaning),
-                 need.isTime);
-    if (need.null)
-        checkNull(check, field, *column);
-}
-
-void checkReference(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Reference &need)
-{
-    const DbColumn *const column = find(schema, need.table, need.column);
-    const DbColumn *const owner = find(schema, need.ownerTable, need.ownerColumn);
-    if (column == nullptr || owner == nullptr)
-        return;
-    const ColumnRange ids{0, ColumnRange::of(*owner).value_or(ColumnRange()).to};
-    checkNumbers(check, fieldName(need.table, need.column), *column, ids,
-                 QStringLiteral("what %1 holds").arg(fieldName(need.ownerTable, need.ownerColumn)),
-                 false);
+    const DbColumn *const column =
+        schema.column(owner.section(QLatin1Char('.'), 0, 0), owner.section(QLatin1Char('.'), 1));
+    const auto held = column == nullptr ? std::nullopt : ColumnRange::of(*column);
+    return {0, held.value_or(ColumnRange()).to};
 }
 
 bool isText(const DbColumn &column)
@@ -147,24 +134,50 @@ void checkCharset(DbAssessment &check, const QString &field, const DbColumn &col
             .arg(field, column.charset));
 }
 
-void checkText(DbAssessment &check, const DbSchema &schema, const ColumnNeeds::Text &need)
+void checkText(DbAssessment &check, const QString &field, const DbColumn &column, int length)
 {
-    const DbColumn *const column = find(schema, need.table, need.column);
-    if (column == nullptr)
-        return;
-    const QString field = fieldName(need.table, need.column);
-    if (!isText(*column)) {
-        reportWrongKind(check, field, *column, QStringLiteral("texts"));
+    if (!isText(column)) {
+        reportWrongKind(check, field, column, QStringLiteral("texts"));
         return;
     }
-    if (column->length < need.length) {
+    if (column.length < length) {
         reportTooNarrow(
             check, field,
             QStringLiteral("The column %1 is %2; the plugin writes up to %3 characters into it")
-                .arg(field, column->fullType)
-                .arg(need.length));
+                .arg(field, column.fullType)
+                .arg(length));
     }
-    checkCharset(check, field, *column);
+    checkCharset(check, field, column);
+}
+
+void checkColumn(DbAssessment &check, const DbSchema &schema, const TepDbContract::Column &need)
+{
+    const DbColumn *const column = find(schema, need);
+    if (column == nullptr)
+        return;
+    const QString field = fieldName(need);
+    const QString label = QString::fromLatin1(need.label);
+    const TepDbContract::Written &written = need.written;
+    const QString owner = QString::fromLatin1(written.owner);
+    switch (written.kind) {
+    case Kind::Nothing:
+        break;
+    case Kind::Number:
+        checkNumbers(check, field, *column, {written.from, written.to}, label);
+        break;
+    case Kind::Time:
+        checkTimes(check, field, *column, {written.from, written.to}, label);
+        break;
+    case Kind::Id:
+        checkNumbers(check, field, *column, idsOf(schema, owner),
+                     QStringLiteral("what %1 holds").arg(owner));
+        break;
+    case Kind::Text:
+        checkText(check, field, *column, written.length);
+        break;
+    }
+    if (written.null)
+        checkNull(check, field, *column);
 }
 
 void reportWidths(DbAssessment &check, const DbSchema &schema)
@@ -174,12 +187,10 @@ void reportWidths(DbAssessment &check, const DbSchema &schema)
                  {QStringLiteral("length"), QStringLiteral("Characters")},
                  {QStringLiteral("charset"), QStringLiteral("Character set")}},
                 {}};
-    for (const ColumnNeeds::Text &need : ColumnNeeds::kTexts) {
-        const DbColumn *const column = find(schema, need.table, need.column);
-        if (column != nullptr && isText(*column)) {
-            table.rows.append(
-                {fieldName(need.table, need.column), column->length, column->charset});
-        }
+    for (const TepDbContract::Column &need : TepDbContract::kColumns) {
+        const DbColumn *const column = find(schema, need);
+        if (need.written.kind == Kind::Text && column != nullptr && isText(*column))
+            table.rows.append({fieldName(need), column->length, column->charset});
     }
     check.writer().table(table);
 }
@@ -189,12 +200,8 @@ void reportWidths(DbAssessment &check, const DbSchema &schema)
 void DbRules::checkColumns(DbAssessment &check, const DbSchema &schema)
 {
     check.begin("columns", "Columns");
-    for (const ColumnNeeds::Number &need : ColumnNeeds::kNumbers)
-        checkNumber(check, schema, need);
-    for (const ColumnNeeds::Reference &need : ColumnNeeds::kReferences)
-        checkReference(check, schema, need);
-    for (const ColumnNeeds::Text &need : ColumnNeeds::kTexts)
-        checkText(check, schema, need);
+    for (const TepDbContract::Column &column : TepDbContract::kColumns)
+        checkColumn(check, schema, column);
     check.end(QStringLiteral("The columns can hold what the plugin writes."));
     reportWidths(check, schema);
 }

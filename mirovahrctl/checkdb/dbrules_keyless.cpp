@@ -1,8 +1,8 @@
 // Tables without a primary key: servers can be configured to refuse them.
 
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
-#include "mirovahrctl/pluginside/pluginrights.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
@@ -92,9 +92,9 @@ void checkWrites(DbAssessment &check, const DbSchema &schema, const ServerSettin
     if (!isOn(settings, "wsrep_on") || isOn(settings, "wsrep_certify_nonpk"))
         return;
     QStringList tables;
-    for (const PluginRights::TableRights &rights : PluginRights::kTables) {
-        const QString table = QString::fromLatin1(rights.table);
-        if (schema.hasTable(table) && PluginRights::writesTo(table)
+    for (const TepDbContract::Table &entry : TepDbContract::kTables) {
+        const QString table = QString::fromLatin1(entry.name);
+        if (schema.hasTable(table) && TepDbContract::isWritten(table)
             && !hasPrimaryKey(schema, table))
             tables += table;
     }

@@ -3,7 +3,6 @@
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
-#include "mirovahrctl/pluginside/pluginrights.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
@@ -22,7 +21,7 @@ Columns toSet(const QStringList &names)
 
 Columns columnsOf(const TepDbContract::UniqueKey &key)
 {
-    return toSet(PluginRights::names(QByteArray(key.columns).toLower().constData()));
+    return toSet(TepDbContract::names(QByteArray(key.columns).toLower().constData()));
 }
 
 QString listed(const Columns &columns)
@@ -58,7 +57,7 @@ private:
     bool hasUpsert() const
     {
         return m_contract.keys[0].use == TepDbContract::KeyUse::Upsert
-            && PluginRights::insertsInto(m_table);
+            && TepDbContract::getsRows(m_table);
     }
 
     bool hasKey(const Columns &columns) const
@@ -84,10 +83,10 @@ private:
             QStringLiteral("The table %1 has no unique key on exactly %2: %3 inserts a second row "
                            "instead of updating the first")
                 .arg(m_table, listed(columns),
-                     PluginRights::insertsInto(m_table)
+                     TepDbContract::getsRows(m_table)
                          ? QStringLiteral("the plugin")
                          : QStringLiteral("another component of the attendance server"));
-        if (PluginRights::insertsInto(m_table))
+        if (TepDbContract::getsRows(m_table))
             m_check.reportViolation(CheckDbRules::kKeyMissing, m_table, message);
         else
             m_check.report(CheckDbRules::kKeyMissingElsewhere, m_table, message);
@@ -118,7 +117,8 @@ private:
         return std::any_of(columns.cbegin(), columns.cend(), [this](const QString &name) {
             const DbColumn *const column = m_schema.column(m_table, name);
             return column != nullptr && column->uniquelyFilled
-                && !PluginRights::writesColumn(m_table, column->name);
+                && !TepDbContract::columnsWith(TepDbContract::I | TepDbContract::U, m_table)
+                        .contains(column->name);
         });
     }
 
@@ -152,7 +152,7 @@ void checkAutomaticNumber(DbAssessment &check, const DbSchema &schema,
 {
     const QString name = QString::fromLatin1(table.name);
     const DbColumn *const column = schema.column(name, QString::fromLatin1(table.generatedColumn));
-    if (column == nullptr || column->automaticNumber || !PluginRights::insertsInto(name))
+    if (column == nullptr || column->automaticNumber || !TepDbContract::getsRows(name))
         return;
     check.reportViolation(
         CheckDbRules::kNotAutomatic, name + QLatin1Char('.') + column->name,

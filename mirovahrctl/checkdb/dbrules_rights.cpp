@@ -1,8 +1,8 @@
 // The rights of the account: enough, and not far more than enough.
 
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
-#include "mirovahrctl/pluginside/pluginrights.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
@@ -38,13 +38,12 @@ void checkRight(DbAssessment &check, const DbSchema &schema, const char *right,
                               .arg(verb, missing.join(QStringLiteral(", ")), table));
 }
 
-void checkTable(DbAssessment &check, const DbSchema &schema,
-                const PluginRights::TableRights &rights)
+void checkTable(DbAssessment &check, const DbSchema &schema, const QString &table)
 {
-    const QString table = QString::fromLatin1(rights.table);
-    checkRight(check, schema, "select", table, PluginRights::names(rights.select));
-    checkRight(check, schema, "insert", table, PluginRights::names(rights.insert));
-    checkRight(check, schema, "update", table, PluginRights::names(rights.update));
+    using namespace TepDbContract;
+    checkRight(check, schema, "select", table, columnsWith(S, table));
+    checkRight(check, schema, "insert", table, columnsWith(I, table));
+    checkRight(check, schema, "update", table, columnsWith(U, table));
 }
 
 void checkExcess(DbAssessment &check, const char *sql, const QString &where)
@@ -66,8 +65,8 @@ void checkExcess(DbAssessment &check, const char *sql, const QString &where)
 void DbRules::checkRights(DbAssessment &check, const DbSchema &schema)
 {
     check.begin("rights", "Rights of the account");
-    for (const PluginRights::TableRights &rights : PluginRights::kTables)
-        checkTable(check, schema, rights);
+    for (const TepDbContract::Table &table : TepDbContract::kTables)
+        checkTable(check, schema, QString::fromLatin1(table.name));
     checkExcess(check, kSelectOnServer, QStringLiteral("the whole server"));
     checkExcess(check, kSelectOnDatabases, QStringLiteral("whole databases"));
     check.end(QStringLiteral("The account has the rights that the plugin needs, and hardly more."));

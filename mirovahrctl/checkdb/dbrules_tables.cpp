@@ -3,7 +3,6 @@
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
-#include "mirovahrctl/pluginside/pluginrights.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
@@ -23,7 +22,7 @@ public:
     {
         const QString name = QString::fromLatin1(table.name);
         if (m_schema.hasTable(name))
-            checkColumns(name, PluginRights::names(table.columns));
+            checkColumns(name, TepDbContract::columnsOf(table));
         else
             missingTable(name);
     }
@@ -33,7 +32,7 @@ public:
 private:
     void missingTable(const QString &table)
     {
-        if (PluginRights::find(table) == nullptr) {
+        if (!TepDbContract::isUsed(table)) {
             m_missingElsewhere += table;
             return;
         }
@@ -54,7 +53,7 @@ private:
     void missingColumn(const QString &table, const QString &column)
     {
         const QString field = table + QLatin1Char('.') + column;
-        if (!PluginRights::usesColumn(table, column)) {
+        if (TepDbContract::findColumn(table, column) == nullptr) {
             m_missingElsewhere += field;
             return;
         }
@@ -80,12 +79,10 @@ void reportMissingElsewhere(DbAssessment &check, const QStringList &names)
 }
 
 /// Columns that the site added and that make every insert fail.
-void checkLeftOutColumns(DbAssessment &check, const DbSchema &schema,
-                         const PluginRights::TableRights &rights)
+void checkLeftOutColumns(DbAssessment &check, const DbSchema &schema, const QString &table)
 {
-    const QString table = QString::fromLatin1(rights.table);
-    const QStringList sometimes = PluginRights::names(rights.notAlwaysInserted);
-    const QStringList inserted = PluginRights::names(rights.insert);
+    const QStringList sometimes = TepDbContract::columnsWith(TepDbContract::Omitted, table);
+    const QStringList inserted = TepDbContract::columnsWith(TepDbContract::I, table);
     const QVector<DbColumn> columns = schema.columns(table);
     for (const DbColumn &column : columns) {
         const bool always =
@@ -103,9 +100,10 @@ void checkLeftOutColumns(DbAssessment &check, const DbSchema &schema,
 
 void checkInserts(DbAssessment &check, const DbSchema &schema)
 {
-    for (const PluginRights::TableRights &rights : PluginRights::kTables) {
-        if (PluginRights::insertsInto(QString::fromLatin1(rights.table)))
-            checkLeftOutColumns(check, schema, rights);
+    for (const TepDbContract::Table &entry : TepDbContract::kTables) {
+        const QString table = QString::fromLatin1(entry.name);
+        if (TepDbContract::getsRows(table))
+            checkLeftOutColumns(check, schema, table);
     }
 }
 
@@ -118,9 +116,9 @@ bool seesAllColumns(DbAssessment &check, const QString &table)
 void noteHiddenColumns(DbAssessment &check, const DbSchema &schema)
 {
     QStringList tables;
-    for (const PluginRights::TableRights &rights : PluginRights::kTables) {
-        const QString table = QString::fromLatin1(rights.table);
-        if (PluginRights::insertsInto(table) && schema.hasTable(table)
+    for (const TepDbContract::Table &entry : TepDbContract::kTables) {
+        const QString table = QString::fromLatin1(entry.name);
+        if (TepDbContract::getsRows(table) && schema.hasTable(table)
             && !seesAllColumns(check, table))
             tables += table;
     }

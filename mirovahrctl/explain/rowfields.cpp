@@ -1,27 +1,30 @@
 #include "mirovahrctl/explain/rowfields.h"
 
+#include "db/tepdbcontract.h"
 #include "worker/recordcomparison.h"
 
 #include <array>
 
 namespace {
 
-/// In the order of the comparison.
+using TepDbContract::labelOf;
+
+/// In the order of the comparison. The first two are the parts of people.pamId.
 constexpr std::array kNames{
-    "Personal number",
-    "Relationship number",
-    "Title",
-    "First name",
-    "Surname",
-    "Title after the name",
-    "Phone",
-    "First day",
-    "Last day",
-    "Calendar",
-    "Cost centre",
-    "Relationship state from",
-    "Relationship state to",
-    "Relationship state",
+    "personal number",
+    "relationship number",
+    labelOf("people", "title"),
+    labelOf("people", "name"),
+    labelOf("people", "surname"),
+    labelOf("people", "title2"),
+    labelOf("people", "phone"),
+    labelOf("people", "begin"),
+    labelOf("people", "end"),
+    labelOf("people", "calendarID"),
+    labelOf("branches", "number"),
+    labelOf("people", "rsBegin"),
+    labelOf("people", "rsEnd"),
+    labelOf("people", "rsText"),
 };
 
 using Fields = decltype(RecordComparison::rowFields(std::declval<const MirovaRonRecord &>()));
@@ -42,11 +45,18 @@ QVariant value(const QDate &date)
     return date.toString(Qt::ISODate);
 }
 
+QString name(const char *label)
+{
+    QString name = QString::fromLatin1(label);
+    name[0] = name.at(0).toUpper();
+    return name;
+}
+
 template <size_t... Indices>
 QVector<RowField> compare(const Fields &updated, const Fields &known,
                           std::index_sequence<Indices...>)
 {
-    return {RowField{QString::fromLatin1(kNames[Indices]), value(std::get<Indices>(updated)),
+    return {RowField{name(kNames[Indices]), value(std::get<Indices>(updated)),
                      value(std::get<Indices>(known)),
                      std::get<Indices>(updated) != std::get<Indices>(known)}...};
 }

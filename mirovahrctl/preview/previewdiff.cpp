@@ -1,11 +1,9 @@
 #include "mirovahrctl/preview/previewdiff.h"
 
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/preview/previewcopy.h"
 
 #include <QMap>
-
-#include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -66,15 +64,6 @@ QString order(const PreviewTable &table, const QString &owner)
         columns += owner + QLatin1Char('.') + SqlSession::name(column);
     return columns.join(QStringLiteral(", "));
 }
-
-struct MomentColumn {
-    const char *table;
-    const char *column;
-};
-
-/// Columns into which the plugin writes UNIX_TIMESTAMP().
-constexpr MomentColumn kMoments[] = {
-    {"people", "created"}, {"people", "edited"}, {"brape", "since"}, {"term_sync", "created"}};
 
 } // namespace
 
@@ -173,12 +162,8 @@ bool PreviewMoments::isNow(const PreviewChange &change, int column) const
 {
     if (change.isDelete() || !change.changes(column))
         return false;
-    const QString &name = change.table->columns.at(column).name;
-    const bool isMoment =
-        std::any_of(std::begin(kMoments), std::end(kMoments), [&](const MomentColumn &moment) {
-            return change.table->name == QLatin1String(moment.table)
-                && name == QLatin1String(moment.column);
-        });
+    const TepDbContract::Column *const known =
+        TepDbContract::findColumn(change.table->name, change.table->columns.at(column).name);
     const qint64 value = change.after.at(column).toLongLong();
-    return isMoment && value >= m_begin && value <= m_end;
+    return known != nullptr && known->written.isNow && value >= m_begin && value <= m_end;
 }

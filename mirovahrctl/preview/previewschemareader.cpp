@@ -1,7 +1,6 @@
 #include "mirovahrctl/preview/previewschemareader.h"
 
 #include "db/tepdbcontract.h"
-#include "mirovahrctl/pluginside/pluginrights.h"
 #include "mirovahrctl/site/sqlsession.h"
 
 #include <QRegularExpression>
@@ -159,8 +158,11 @@ void PreviewSchemaReader::listTriggers()
 
 void PreviewSchemaReader::requirePlugin()
 {
-    for (const PluginRights::TableRights &table : PluginRights::kTables)
-        require(m_tables, QString::fromLatin1(table.table), QStringLiteral("table"));
+    for (const TepDbContract::Table &table : TepDbContract::kTables) {
+        const QString name = QString::fromLatin1(table.name);
+        if (TepDbContract::isUsed(name))
+            require(m_tables, name, QStringLiteral("table"));
+    }
     for (const TepDbContract::Routine &routine : TepDbContract::kRoutines)
         require(m_routines, QString::fromLatin1(routine.name), QStringLiteral("routine"));
 }
@@ -257,7 +259,7 @@ void PreviewSchemaReader::requireReferences(const PreviewTable &table)
 
 void PreviewSchemaReader::noteHiddenTriggers(const QString &table)
 {
-    if (m_seesTriggers || !PluginRights::writesTo(table) || m_triggers.contains(table.toLower()))
+    if (m_seesTriggers || !TepDbContract::isWritten(table) || m_triggers.contains(table.toLower()))
         return;
     const QString right =
         m_site.value(QString(QLatin1String(kTriggerRightOnTable)).arg(SqlSession::literal(table)));

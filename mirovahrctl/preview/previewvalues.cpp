@@ -1,6 +1,6 @@
 #include "mirovahrctl/preview/previewvalues.h"
 
-#include "mirovahrctl/preview/previewcolumns.h"
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/preview/previewdiff.h"
 #include "mirovahrctl/preview/previewnames.h"
 #include "mirovahrctl/report/moment.h"
@@ -8,12 +8,9 @@
 #include <QDateTime>
 #include <QStringList>
 
-#include <algorithm>
-#include <iterator>
-
 namespace {
 
-using PreviewColumns::Reading;
+using TepDbContract::Shown;
 
 constexpr char kDay[] = "yyyy-MM-dd";
 
@@ -25,14 +22,10 @@ struct Flag {
 constexpr Flag kFlags[] = {
     {1, "interval types"}, {2, "people"}, {64, "time zones"}, {256, "colour groups"}};
 
-Reading readingOf(const QString &table, const QString &column)
+Shown formOf(const QString &table, const QString &name)
 {
-    const auto *const end = std::end(PreviewColumns::kColumns);
-    const auto *const found = std::find_if(
-        std::begin(PreviewColumns::kColumns), end, [&](const PreviewColumns::Column &entry) {
-            return table == QLatin1String(entry.table) && column == QLatin1String(entry.column);
-        });
-    return found == end ? Reading::Plain : found->reading;
+    const TepDbContract::Column *const column = TepDbContract::findColumn(table, name);
+    return column == nullptr ? Shown::Plain : column->shown;
 }
 
 QString yesOrNo(const QString &cell)
@@ -111,29 +104,29 @@ QString PreviewValues::read(const PreviewChange &change, int column, const QStri
     if (cell.isNull())
         return QString();
     const QString zero = QStringLiteral("0");
-    switch (readingOf(change.table->name, change.table->columns.at(column).name)) {
-    case Reading::Plain:
+    switch (formOf(change.table->name, change.table->columns.at(column).name)) {
+    case Shown::Plain:
         return cell;
-    case Reading::Day:
+    case Shown::Day:
         return cell == zero ? QString() : time(cell);
-    case Reading::DayAfter:
+    case Shown::DayAfter:
         return dayAfter(cell);
-    case Reading::Branch:
+    case Shown::Branch:
         return m_names.branch(cell);
-    case Reading::CalendarGroup:
+    case Shown::CalendarGroup:
         return m_names.calendarGroup(cell);
-    case Reading::Editor:
+    case Shown::Editor:
         return cell == zero ? QStringLiteral("HR") : m_names.administrator(cell);
-    case Reading::CalculationDue:
+    case Shown::CalculationDue:
         return cell == zero ? QStringLiteral("due") : time(cell);
-    case Reading::Hundredths:
+    case Shown::Hundredths:
         return hundredths(cell);
-    case Reading::Flags:
+    case Shown::Flags:
         return flags(cell);
-    case Reading::Calculated:
+    case Shown::Calculated:
         return cell.startsWith(QLatin1Char('-')) ? QStringLiteral("to be calculated")
                                                  : QStringLiteral("calculated");
-    case Reading::YesNo:
+    case Shown::YesNo:
         break;
     }
     return yesOrNo(cell);

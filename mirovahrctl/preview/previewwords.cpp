@@ -1,6 +1,6 @@
 #include "mirovahrctl/preview/previewwords.h"
 
-#include "mirovahrctl/preview/previewcolumns.h"
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/preview/previewdiff.h"
 #include "mirovahrctl/preview/previewnames.h"
 
@@ -34,16 +34,6 @@ constexpr KindWords kKinds[] = {
 const KindWords &wordsOf(PreviewKind kind)
 {
     return kKinds[static_cast<int>(kind)];
-}
-
-/// The readable name of a column of `people`; empty for one that the plugin does not use.
-QString labelOf(const QString &column)
-{
-    for (const PreviewColumns::Column &entry : PreviewColumns::kColumns) {
-        if (qstrcmp(entry.table, "people") == 0 && column == QLatin1String(entry.column))
-            return QString::fromLatin1(entry.label);
-    }
-    return QString();
 }
 
 bool isOfCalculation(const QString &column)
@@ -148,14 +138,15 @@ PreviewWords::Lines PreviewWords::describePerson(const PreviewChange &change) co
         lines.append({PreviewKind::NewPeople, who, QStringLiteral("is created"), {}, {}});
     for (int i = 0; i < change.table->columns.size(); ++i) {
         const QString &name = change.table->columns.at(i).name;
-        const QString label = labelOf(name);
+        const TepDbContract::Column *const column =
+            TepDbContract::findColumn(change.table->name, name);
         if (!change.changes(i) || (change.isInsert() && isEmptyCell(change.after.at(i))))
             continue;
         const PreviewKind kind = change.isInsert() ? PreviewKind::NewPeople
             : isOfCalculation(name)                ? PreviewKind::Recalculation
                                                    : PreviewKind::ChangedPeople;
-        lines.append({kind, who, label.isEmpty() ? name : label, m_values.before(change, i),
-                      m_values.after(change, i)});
+        lines.append({kind, who, column == nullptr ? name : QString::fromLatin1(column->label),
+                      m_values.before(change, i), m_values.after(change, i)});
     }
     return lines;
 }

@@ -9,11 +9,6 @@
 
 namespace {
 
-QStringList names(const char *list)
-{
-    return QString(list).split(' ', Qt::SkipEmptyParts);
-}
-
 QStringList sorted(QStringList list)
 {
     list.sort();
@@ -139,7 +134,7 @@ void TestReferenceDb::everyTableHasTheColumnsOfTheContractAndNoOther_data()
     QTest::addColumn<QString>("table");
     QTest::addColumn<QStringList>("columns");
     for (const TepDbContract::Table &table : TepDbContract::kTables)
-        QTest::newRow(table.name) << QString(table.name) << names(table.columns);
+        QTest::newRow(table.name) << QString(table.name) << TepDbContract::columnsOf(table);
 }
 
 void TestReferenceDb::everyTableHasTheColumnsOfTheContractAndNoOther()
@@ -159,7 +154,7 @@ void TestReferenceDb::theSchemaHasTheUniqueKeysOfTheContractAndNoOther()
     for (const TepDbContract::Table &table : TepDbContract::kTables) {
         for (const TepDbContract::UniqueKey &key : table.keys) {
             if (key.use != TepDbContract::KeyUse::None)
-                expected += keyText(table.name, names(key.columns));
+                expected += keyText(table.name, TepDbContract::names(key.columns));
         }
     }
     QStringList found;
@@ -168,7 +163,7 @@ void TestReferenceDb::theSchemaHasTheUniqueKeysOfTheContractAndNoOther()
                                      " WHERE table_schema = DATABASE() AND non_unique = 0"
                                      " GROUP BY table_name, index_name");
     for (const QStringList &key : keys)
-        found += keyText(key[0], names(qPrintable(key[1])));
+        found += keyText(key[0], key[1].split(' '));
     QCOMPARE(sorted(found), sorted(expected));
 }
 

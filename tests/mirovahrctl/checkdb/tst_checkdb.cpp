@@ -1,4 +1,4 @@
-#include "mirovahrctl/checkdb/columnneeds.h"
+#include "db/tepdbcontract.h"
 #include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/testdatabase.h"
@@ -400,23 +400,23 @@ void TestCheckDb::warningsAreReported_data()
         << "ALTER TABLE people MODIFY `end` INT NULL"
         << "column-too-narrow"
         << "people.end"
-        << "The column people.end is int(11), which holds only times from 1901-12-13 to "
-           "2038-01-19; the plugin writes the last day of the employment into it. Values that do "
-           "not fit are refused, or altered where no strict SQL mode is on";
+        << "The column people.end (employed until) is int(11), which holds only times from "
+           "1901-12-13 to 2038-01-19; the plugin may write others into it. Values that do not fit "
+           "are refused, or altered where no strict SQL mode is on";
     QTest::newRow("no negative dates")
         << "ALTER TABLE people MODIFY lastCalc BIGINT UNSIGNED NOT NULL DEFAULT 0"
         << "column-too-narrow"
         << "people.lastCalc"
-        << "The column people.lastCalc is bigint(20) unsigned, which holds only times from "
-           "1970-01-01 on; the plugin writes the day from which attendance is calculated again "
-           "into it. Values that do not fit are refused, or altered where no strict SQL mode is on";
+        << "The column people.lastCalc (attendance recalculated from) is bigint(20) unsigned, "
+           "which holds only times from 1970-01-01 on; the plugin may write others into it. Values "
+           "that do not fit are refused, or altered where no strict SQL mode is on";
     QTest::newRow("no negative days")
         << "ALTER TABLE atten MODIFY ok TINYINT UNSIGNED NOT NULL DEFAULT 1"
         << "column-too-narrow"
         << "atten.ok"
-        << "The column atten.ok is tinyint(3) unsigned; the plugin writes -1 into it (the mark of "
-           "a day that is to be calculated again). Values that do not fit are refused, or altered "
-           "where no strict SQL mode is on";
+        << "The column atten.ok is tinyint(3) unsigned; the plugin writes -1 into it (below 0: "
+           "to be calculated). Values that do not fit are refused, or altered where no strict SQL "
+           "mode is on";
     QTest::newRow("small moves")
         << "ALTER TABLE funds_move MODIFY value DECIMAL(7, 2) NOT NULL"
         << "column-too-narrow"
@@ -428,8 +428,8 @@ void TestCheckDb::warningsAreReported_data()
         << "ALTER TABLE people MODIFY pid FLOAT NOT NULL"
         << "column-too-narrow"
         << "people.pid"
-        << "The column people.pid is float; the plugin writes 0 to 4294967295 into it (a personal "
-           "number and the number of the relationship). Values that do not fit are refused, or "
+        << "The column people.pid is float; the plugin writes 0 to 4294967295 into it (pid). "
+           "Values that do not fit are refused, or "
            "altered where no strict SQL mode is on";
     QTest::newRow("fewer ids than people have")
         << "ALTER TABLE brape MODIFY uid SMALLINT UNSIGNED NOT NULL"
@@ -807,10 +807,7 @@ void TestCheckDb::theLengthsOfTheProgramsOwnTextsAreRight()
     for (int code = 0; code <= 65535; ++code)
         longest =
             qMax(longest, QString::fromUtf8(RelationshipState::builtInText(ushort(code))).size());
-    for (const ColumnNeeds::Text &need : ColumnNeeds::kTexts) {
-        if (qstrcmp(need.column, "rsText") == 0)
-            QCOMPARE(need.length, longest);
-    }
+    QCOMPARE(TepDbContract::findColumn("people", "rsText")->written.length, longest);
     QCOMPARE(QString("exportPam.4294967295.selPeople").size(), 30);
 }
 

@@ -325,13 +325,13 @@ void TestExplain::sentences_data()
          "type and register state it was last written with.",
          terminal});
     add("two fields differ", jana().with(&R::prijmeni, "Malá").with(&R::telefon, "7"), "row",
-        {notARs, "These fields differ from the row: Surname, Phone.", "The row is updated.",
+        {notARs, "These fields differ from the row: Surname, Telephone.", "The row is updated.",
          terminal});
     add("the branch differs", jana().with(&R::stredisko, 130), "row",
         {notARs, "These fields differ from the row: Cost centre.", "The row is updated.",
          terminal});
     add("left", jana().with(&R::datumVystupu, QDate(2025, 1, 31)), "row",
-        {notARs, "These fields differ from the row: Last day.", "The row is updated.",
+        {notARs, "These fields differ from the row: Employed until.", "The row is updated.",
          "It stays active: the plugin never deactivates people, it only writes their last day.",
          terminal});
     add("a relationship state", jana().with(&R::evidencniStav, 21), "row",
@@ -943,13 +943,13 @@ void TestExplain::theFieldsAreComparedOneByOne()
                         {"First name", "Jana", "Jana", "false"},
                         {"Surname", "Nováková", "Nováková", "false"},
                         {"Title after the name", "", "", "false"},
-                        {"Phone", "555123456", "555123456", "false"},
-                        {"First day", "2019-04-01", "2019-04-01", "false"},
-                        {"Last day", "2031-05-31", "", "true"},
-                        {"Calendar", "3", "3", "false"},
+                        {"Telephone", "555123456", "555123456", "false"},
+                        {"Employed from", "2019-04-01", "2019-04-01", "false"},
+                        {"Employed until", "2031-05-31", "", "true"},
+                        {"HR's calendar", "3", "3", "false"},
                         {"Cost centre", "130", "120", "true"},
                         {"Relationship state from", "", "", "false"},
-                        {"Relationship state to", "", "", "false"},
+                        {"Relationship state until", "", "", "false"},
                         {"Relationship state", "", "", "false"}}));
 }
 
