@@ -39,6 +39,7 @@ class Person:
         self.calendar_since = datetime.date(2024, choose.randrange(1, 13), 1)
         self.cost_centre = 100 + self.branch
         self.supervisor = 1000 + self.branch
+        self.balance = 12.5
 
     @property
     def pid(self):
@@ -49,7 +50,7 @@ class Person:
             str(self.personal_number), "1", self.title, self.name, self.surname, "", self.phone,
             export_date(self.begin), export_date(self.end), str(self.cost_centre),
             f"Predajňa {self.branch}", str(self.calendar), export_date(self.calendar_since),
-            "11", "1", "0", "12.5", str(self.supervisor)])
+            "11", "1", "0", str(self.balance), str(self.supervisor)])
 
     def row(self):
         end = "NULL" if self.end is None else midnight(self.end + datetime.timedelta(1)) - 1
@@ -124,22 +125,27 @@ NOBODY_SQL = "\n".join(
 PAYROLL_SQL = "INSERT INTO vars VALUES ('exportPam.1.active', '1'), ('exportPam.1.selPeople', '');\n"
 
 
-def people_sql(count):
-    """People who are in their branches and calendar groups already, with attendance."""
-    everybody = people(count)
-    parts = [NOBODY_SQL]
-    for first in range(0, count, 5000):
+def rows_sql(everybody):
+    """People and their calendar groups."""
+    parts = []
+    for first in range(0, len(everybody), 5000):
         some = everybody[first:first + 5000]
         parts.append(
             "INSERT INTO people (uid, pid, pamId, title, name, surname, phone, begin, `end`, type,"
             " did, calendarID, bid) VALUES " + ",".join(person.row() for person in some) + ";")
         parts.append("INSERT INTO groups_plan VALUES " + ",".join(
             f"({p.calendar},{p.uid},{p.calendar_since:%Y%m})" for p in some) + ";")
-    parts += [
+    return "\n".join(parts)
+
+
+def people_sql(count):
+    """People who are in their branches and calendar groups already, with attendance."""
+    return "\n".join([
+        NOBODY_SQL,
+        rows_sql(people(count)),
         "INSERT INTO brape SELECT bid, uid, 0 FROM people;",
         "INSERT INTO people_term SELECT bid, uid FROM people;",
         f"INSERT INTO admins_people SELECT bid, uid, 1 FROM people;",
         "INSERT INTO atten (uid, `date`, ok) SELECT uid, 1704063600 + 86400 * seq, 1"
         " FROM people, seq_1_to_5;",
-    ]
-    return "\n".join(parts)
+    ])
