@@ -51,9 +51,9 @@ ExitStatus runCheckConfig(const QStringList &arguments, Console &console)
         return console.fail(ExitStatus::Usage,
                             QStringLiteral("'%1' is not a readable file").arg(path));
     }
-    Report output(line, console);
-    if (const auto end = output.open())
-        return *end;
+    const auto output = Report::open(line, console);
+    if (!output)
+        return ExitStatus::Usage;
     ConfigAssessment check(path);
-    return report(check, path, output);
+    return report(check, path, *output);
 }

@@ -1,13 +1,11 @@
-#include "cli/database.h"
-#include "cli/databaseoptions.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/wording.h"
-#include "mirovahrctl/site/databaseaccess.h"
 #include "mirovahrctl/site/dbschema.h"
+#include "mirovahrctl/site/sitedatabase.h"
 
 namespace {
 
@@ -76,11 +74,8 @@ ExitStatus check(const CommandLine &line, const QSqlDatabase &db, Report &report
     report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
     DbAssessment check(db, report);
     checkAll(check, accountOf(line));
-    if (check.sql().failed()) {
-        return console.fail(
-            ExitStatus::NoDatabase,
-            QStringLiteral("The database cannot be used: %1").arg(check.sql().errorString()));
-    }
+    if (check.sql().failed())
+        return console.fail(ExitStatus::NoDatabase, check.sql().failure());
     return report.conclude(check.isContractBroken() ? ExitStatus::ContractBroken
                                                     : report.findingsStatus(),
                            verdict(check));
@@ -96,13 +91,11 @@ ExitStatus runCheckDb(const QStringList &arguments, Console &console)
     line.addDatabaseOptions();
     if (const auto end = line.parse(arguments, console))
         return *end;
-    DatabaseOptions options;
-    if (const auto end = line.readDatabase(options, console))
+    const auto report = Report::open(line, console);
+    if (!report)
+        return ExitStatus::Usage;
+    SiteDatabase site;
+    if (const auto end = site.open(line, DatabaseAccess::ReadOnly, console))
         return *end;
-    QString error;
-    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
-    if (!database)
-        return console.fail(ExitStatus::NoDatabase, error);
-    Report report(line, console);
-    return check(line, database->handle(), report, console);
+    return check(line, site.sql().database(), *report, console);
 }

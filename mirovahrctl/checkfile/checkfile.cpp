@@ -1,5 +1,3 @@
-#include "cli/database.h"
-#include "cli/databaseoptions.h"
 #include "mirovahrctl/export/exportscan.h"
 #include "mirovahrctl/export/rejectswriter.h"
 #include "mirovahrctl/program/commandline.h"
@@ -8,8 +6,7 @@
 #include "mirovahrctl/program/progress.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/wording.h"
-#include "mirovahrctl/site/databaseaccess.h"
-#include "mirovahrctl/site/sqlsession.h"
+#include "mirovahrctl/site/sitedatabase.h"
 #include "worker/importfile.h"
 
 #include <QFile>
@@ -26,7 +23,7 @@ constexpr char kDescription[] =
 
 class CheckFileRun {
 public:
-    CheckFileRun(const CommandLine &line, Console &console);
+    CheckFileRun(const CommandLine &line, Report &report, Console &console);
 
     ExitStatus run();
 
@@ -41,16 +38,15 @@ private:
     void conclude(const ExportScan &check);
     ExitStatus commit(const ExportScan::Counts &counts);
     ExitStatus failRejects();
-    ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
     Console &m_console;
+    Report &m_report;
     const QString m_path;
     QFile m_file;
     OutputFile m_rejectsFile;
     RejectsWriter m_rejects;
     const bool m_wantsRejects;
-    Report m_report;
     ColumnWidths m_widths;
     QMap<QString, qint64> m_countByRule;
 };
@@ -80,14 +76,14 @@ QString verdict(const ExportScan::Counts &counts, ExitStatus status)
              QString::number(counts.dropped));
 }
 
-CheckFileRun::CheckFileRun(const CommandLine &line, Console &console)
+CheckFileRun::CheckFileRun(const CommandLine &line, Report &report, Console &console)
     : m_line(line)
     , m_console(console)
+    , m_report(report)
     , m_path(line.argument(0))
     , m_rejectsFile(line.value("rejects"))
     , m_rejects(m_rejectsFile, QFileInfo(m_path).fileName())
     , m_wantsRejects(line.isSet("rejects"))
-    , m_report(line, console)
 {
 }
 
@@ -98,9 +94,9 @@ ExitStatus CheckFileRun::run()
     ExportScan exportCheck(m_file, m_widths);
     m_report.begin(m_line.subcommand(), QStringLiteral("HR export %1").arg(m_path));
     if (!check(exportCheck)) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("'%1' cannot be read to its end: %2")
-                        .arg(m_path, exportCheck.errorString()));
+        return m_console.fail(ExitStatus::Usage,
+                              QStringLiteral("'%1' cannot be read to its end: %2")
+                                  .arg(m_path, exportCheck.errorString()));
     }
     conclude(exportCheck);
     return commit(exportCheck.counts());
@@ -111,17 +107,16 @@ std::optional<ExitStatus> CheckFileRun::prepare()
     if (const auto end = openExport())
         return end;
     if (isExport(m_rejectsFile.fileName()) || isExport(m_line.pagePath())) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("The result would overwrite the export; name another file"));
+        return m_console.fail(
+            ExitStatus::Usage,
+            QStringLiteral("The result would overwrite the export; name another file"));
     }
     if (m_wantsRejects) {
         if (!m_rejectsFile.open(QIODevice::WriteOnly))
             return failRejects();
         m_rejects.begin();
     }
-    if (const auto end = readWidths())
-        return end;
-    return m_report.open();
+    return readWidths();
 }
 
 std::optional<ExitStatus> CheckFileRun::openExport()
@@ -131,11 +126,13 @@ std::optional<ExitStatus> CheckFileRun::openExport()
     case ImportFile::Opening::Done:
         return std::nullopt;
     case ImportFile::Opening::NotFound:
-        return fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(m_path));
+        return m_console.fail(ExitStatus::Usage,
+                              QStringLiteral("There is no file '%1'").arg(m_path));
     case ImportFile::Opening::Failed:
         break;
     }
-    return fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be opened: %2").arg(m_path, error));
+    return m_console.fail(ExitStatus::Usage,
+                          QStringLiteral("'%1' cannot be opened: %2").arg(m_path, error));
 }
 
 bool CheckFileRun::isExport(const QString &path) const
@@ -147,17 +144,13 @@ std::optional<ExitStatus> CheckFileRun::readWidths()
 {
     if (!m_line.namesDatabase())
         return std::nullopt;
-    DatabaseOptions options;
-    if (const auto end = m_line.readDatabase(options, m_console))
+    SiteDatabase site;
+    if (const auto end = site.open(m_line, DatabaseAccess::ReadOnly, m_console))
         return end;
     QString error;
-    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
-    if (!database)
-        return fail(ExitStatus::NoDatabase, error);
-    SqlSession site(database->handle());
-    m_widths = readColumnWidths(site, error);
+    m_widths = readColumnWidths(site.sql(), error);
     if (m_widths.isEmpty())
-        return fail(ExitStatus::ContractBroken, error);
+        return m_console.fail(ExitStatus::ContractBroken, error);
     return std::nullopt;
 }
 
@@ -215,14 +208,9 @@ ExitStatus CheckFileRun::commit(const ExportScan::Counts &counts)
 
 ExitStatus CheckFileRun::failRejects()
 {
-    return fail(ExitStatus::Usage,
-                QStringLiteral("'%1' cannot be written: %2")
-                    .arg(m_rejectsFile.fileName(), m_rejectsFile.errorString()));
-}
-
-ExitStatus CheckFileRun::fail(ExitStatus status, const QString &sentence)
-{
-    return m_console.fail(status, sentence);
+    return m_console.fail(ExitStatus::Usage,
+                          QStringLiteral("'%1' cannot be written: %2")
+                              .arg(m_rejectsFile.fileName(), m_rejectsFile.errorString()));
 }
 
 } // namespace
@@ -238,5 +226,6 @@ ExitStatus runCheckFile(const QStringList &arguments, Console &console)
     line.addDatabaseOptions();
     if (const auto end = line.parse(arguments, console))
         return *end;
-    return CheckFileRun(line, console).run();
+    const auto report = Report::open(line, console);
+    return report ? CheckFileRun(line, *report, console).run() : ExitStatus::Usage;
 }

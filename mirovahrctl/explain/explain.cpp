@@ -1,5 +1,3 @@
-#include "cli/database.h"
-#include "cli/databaseoptions.h"
 #include "mirovahrctl/explain/peoplesearch.h"
 #include "mirovahrctl/explain/personexplanation.h"
 #include "mirovahrctl/explain/personid.h"
@@ -9,9 +7,8 @@
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
-#include "mirovahrctl/site/databaseaccess.h"
 #include "mirovahrctl/site/midnights.h"
-#include "mirovahrctl/site/sqlsession.h"
+#include "mirovahrctl/site/sitedatabase.h"
 
 #include <QFileInfo>
 
@@ -27,10 +24,10 @@ constexpr char kDescription[] =
 
 class ExplainRun {
 public:
-    ExplainRun(const CommandLine &line, Console &console)
+    ExplainRun(const CommandLine &line, Report &report, Console &console)
         : m_line(line)
         , m_console(console)
-        , m_report(line, console)
+        , m_report(report)
     {
     }
 
@@ -40,17 +37,16 @@ private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> readPerson();
     std::optional<ExitStatus> openExport();
-    ExitStatus answer(const QSqlDatabase &site);
-    std::optional<ExitStatus> search(const QSqlDatabase &site);
-    ExitStatus explain(const QSqlDatabase &site);
-    std::optional<ExitStatus> readExport(const QSqlDatabase &site);
+    ExitStatus answer(SqlSession &site);
+    std::optional<ExitStatus> search(SqlSession &site);
+    ExitStatus explain(SqlSession &site);
+    std::optional<ExitStatus> readExport(SqlSession &site);
     bool hasExport() const { return m_source.file.source() != ExplainedExport::Source::None; }
     ExitStatus failExport(const QString &error);
-    ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
     Console &m_console;
-    Report m_report;
+    Report &m_report;
     std::optional<PersonId> m_person;
     std::optional<PeopleSearch> m_search; ///< when there is no person yet
     ExplainedSource m_source;
@@ -59,19 +55,14 @@ private:
 
 ExitStatus ExplainRun::run()
 {
-    DatabaseOptions options;
-    if (const auto end = m_line.readDatabase(options, m_console))
-        return *end;
     if (const auto end = prepare())
         return *end;
-    QString error;
-    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
-    if (!database)
-        return fail(ExitStatus::NoDatabase, error);
-    SqlSession site(database->handle());
-    const QString disagreement = Midnights::disagreement(site);
-    return disagreement.isEmpty() ? answer(database->handle())
-                                  : fail(ExitStatus::Usage, disagreement);
+    SiteDatabase site;
+    if (const auto end = site.open(m_line, DatabaseAccess::ReadOnly, m_console))
+        return *end;
+    const QString disagreement = Midnights::disagreement(site.sql());
+    return disagreement.isEmpty() ? answer(site.sql())
+                                  : m_console.fail(ExitStatus::Usage, disagreement);
 }
 
 std::optional<ExitStatus> ExplainRun::prepare()
@@ -91,7 +82,7 @@ std::optional<ExitStatus> ExplainRun::readPerson()
         m_search = PeopleSearch::parse(text);
     if (m_person || m_search)
         return std::nullopt;
-    return fail(
+    return m_console.fail(
         ExitStatus::Usage,
         QStringLiteral("'%1' is neither a payroll id such as 1234.1, nor a number, nor a name")
             .arg(text));
@@ -102,15 +93,16 @@ std::optional<ExitStatus> ExplainRun::openExport()
     ExplainedExport &file = m_source.file;
     if (!file.open(m_line.argument(1), m_line.value("gate-folder"),
                    m_source.configuration.values()))
-        return fail(ExitStatus::Usage, file.errorString());
+        return m_console.fail(ExitStatus::Usage, file.errorString());
     if (hasExport() && QFileInfo(m_line.pagePath()) == QFileInfo(file.path())) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("The result would overwrite the export; name another file"));
+        return m_console.fail(
+            ExitStatus::Usage,
+            QStringLiteral("The result would overwrite the export; name another file"));
     }
     return std::nullopt;
 }
 
-ExitStatus ExplainRun::answer(const QSqlDatabase &site)
+ExitStatus ExplainRun::answer(SqlSession &site)
 {
     if (m_search) {
         if (const auto end = search(site))
@@ -122,44 +114,38 @@ ExitStatus ExplainRun::answer(const QSqlDatabase &site)
 }
 
 /// Finds the person; ends with a list unless it is exactly one.
-std::optional<ExitStatus> ExplainRun::search(const QSqlDatabase &site)
+std::optional<ExitStatus> ExplainRun::search(SqlSession &site)
 {
-    SqlSession sql(site);
     if (hasExport() && !m_search->searchExport(m_source.file.file(), m_console))
         return failExport(m_search->errorString());
-    m_search->searchDatabase(sql);
-    if (sql.failed()) {
-        return fail(ExitStatus::ContractBroken,
-                    QStringLiteral("The database cannot be used: %1").arg(sql.errorString()));
-    }
+    m_search->searchDatabase(site);
+    if (site.failed())
+        return m_console.fail(ExitStatus::ContractBroken, site.failure());
     const QVector<FoundPerson> people = m_search->people();
     if (people.size() == 1)
         m_person = people.first().person();
     if (m_person)
         return std::nullopt;
-    if (const auto end = m_report.open())
-        return end;
     m_report.begin(m_line.subcommand(), QStringLiteral("Who is %1?").arg(m_search->text()));
     const QString verdict = m_search->reportPeople(m_report);
     return m_report.conclude(m_report.findingsStatus(), verdict);
 }
 
-ExitStatus ExplainRun::explain(const QSqlDatabase &site)
+ExitStatus ExplainRun::explain(SqlSession &site)
 {
     PluginView view;
     const auto failView = [&] {
-        return fail(view.isConnected() ? ExitStatus::ContractBroken : ExitStatus::NoDatabase,
-                    QStringLiteral("The database cannot be used: %1").arg(view.errorString()));
+        return m_console.fail(
+            view.isConnected() ? ExitStatus::ContractBroken : ExitStatus::NoDatabase,
+            QStringLiteral("The database cannot be used: %1").arg(view.errorString()));
     };
-    if (!view.open(site, m_source.configuration.values()))
+    if (!view.open(site.database(), m_source.configuration.values()))
         return failView();
     ForceFlag flag(view.database());
     const auto forced = flag.isSet();
     if (!forced)
-        return fail(ExitStatus::ContractBroken, flag.errorString());
+        return m_console.fail(ExitStatus::ContractBroken, flag.errorString());
     m_source.isForced = *forced;
-    if (const auto end = m_report.open())
-        return *end;
     m_report.begin(m_line.subcommand(), QStringLiteral("What happens to %1").arg(m_person->name()));
     PersonExplanation explanation(*m_person, m_source, view, m_report);
     const QString verdict = explanation.explain(m_lines ? &*m_lines : nullptr);
@@ -168,15 +154,14 @@ ExitStatus ExplainRun::explain(const QSqlDatabase &site)
     return m_report.conclude(m_report.findingsStatus(), verdict);
 }
 
-std::optional<ExitStatus> ExplainRun::readExport(const QSqlDatabase &site)
+std::optional<ExitStatus> ExplainRun::readExport(SqlSession &site)
 {
     if (!hasExport())
         return std::nullopt;
     QString error;
-    SqlSession sql(site);
-    const ColumnWidths widths = readColumnWidths(sql, error);
+    const ColumnWidths widths = readColumnWidths(site, error);
     if (widths.isEmpty())
-        return fail(ExitStatus::ContractBroken, error);
+        return m_console.fail(ExitStatus::ContractBroken, error);
     m_lines.emplace(*m_person);
     if (m_lines->find(m_source.file.file(), widths, m_console))
         return std::nullopt;
@@ -185,14 +170,9 @@ std::optional<ExitStatus> ExplainRun::readExport(const QSqlDatabase &site)
 
 ExitStatus ExplainRun::failExport(const QString &error)
 {
-    return fail(
+    return m_console.fail(
         ExitStatus::Usage,
         QStringLiteral("'%1' cannot be read to its end: %2").arg(m_source.file.path(), error));
-}
-
-ExitStatus ExplainRun::fail(ExitStatus status, const QString &sentence)
-{
-    return m_console.fail(status, sentence);
 }
 
 } // namespace
@@ -205,10 +185,11 @@ ExitStatus runExplain(const QStringList &arguments, Console &console)
     line.addOption("gate-folder", "folder",
                    "The gate's own folder, whose last admitted file is used when importFile is "
                    "gone; by default that of the gate in syncCommand.");
-    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini by default.");
+    PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     if (const auto end = line.parse(arguments, console))
         return *end;
-    return ExplainRun(line, console).run();
+    const auto report = Report::open(line, console);
+    return report ? ExplainRun(line, *report, console).run() : ExitStatus::Usage;
 }

@@ -1,19 +1,16 @@
-#include "cli/database.h"
-#include "cli/databaseoptions.h"
 #include "mirovahrctl/pluginside/forceflag.h"
+#include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/rules/forcerules.h"
 #include "mirovahrctl/report/wording.h"
-#include "mirovahrctl/site/databaseaccess.h"
-#include "plugin/configuration.h"
+#include "mirovahrctl/site/sitedatabase.h"
 #include "worker/importfile.h"
 #include "worker/schedule.h"
 
 #include <QFileInfo>
-#include <QSettings>
 
 namespace {
 
@@ -25,41 +22,48 @@ constexpr char kDescription[] =
 
 class ForceRun {
 public:
-    ForceRun(const CommandLine &line, Console &console)
+    ForceRun(const CommandLine &line, Report &report, Console &console)
         : m_line(line)
         , m_console(console)
-        , m_report(line, console)
+        , m_report(report)
         , m_on(!line.isSet("clear"))
     {
     }
 
-    ExitStatus run(const QSqlDatabase &db);
+    ExitStatus run();
 
 private:
-    QString configPath() const;
     void reportFlag(bool wasSet, bool isSet);
     void reportPlugin();
-    void reportExport(const Configuration &config);
-    ExitStatus fail(const QString &sentence);
+    void reportExport();
+    ExitStatus fail(const ForceFlag &flag);
     QString verdict(bool isSet) const;
 
     const CommandLine &m_line;
     Console &m_console;
-    Report m_report;
+    Report &m_report;
     const bool m_on;
+    PluginConfiguration m_configuration; ///< read when the flag is to be set
 };
 
-ExitStatus ForceRun::run(const QSqlDatabase &db)
+ExitStatus ForceRun::run()
 {
-    ForceFlag flag(db);
+    if (m_on) {
+        if (const auto end = m_configuration.read(m_line, m_console))
+            return *end;
+    }
+    SiteDatabase site;
+    if (const auto end = site.open(m_line, DatabaseAccess::ReadWrite, m_console))
+        return *end;
+    ForceFlag flag(site.sql().database());
     const auto before = flag.isSet();
     if (!before)
-        return fail(flag.errorString());
+        return fail(flag);
     if (!flag.set(m_on))
-        return fail(flag.errorString());
+        return fail(flag);
     const auto after = flag.isSet();
     if (!after)
-        return fail(flag.errorString());
+        return fail(flag);
     m_report.begin(m_line.subcommand(), QStringLiteral("Forced synchronisation"));
     m_report.section(QStringLiteral("flag"), QStringLiteral("Flag"));
     reportFlag(*before, *after);
@@ -86,25 +90,11 @@ void ForceRun::reportFlag(bool wasSet, bool isSet)
     }
 }
 
-QString ForceRun::configPath() const
-{
-    const QString path = m_line.value("config");
-    return path.isEmpty() ? QString(Configuration::kPath) : path;
-}
-
 void ForceRun::reportPlugin()
 {
-    const QString path = configPath();
-    const auto settings = Configuration::open(path);
-    const Configuration config = Configuration::read(*settings);
+    const Configuration &config = m_configuration.values();
     m_report.section(QStringLiteral("plugin"), QStringLiteral("Plugin"));
-    const bool isHere = QFileInfo::exists(path);
-    if (!isHere) {
-        m_report.sentence(
-            QStringLiteral(
-                "There is no file %1 here: the following holds for a plugin with default settings.")
-                .arg(path));
-    }
+    m_report.sentence(m_configuration.origin());
     const int seconds =
         Schedule::timerInterval(Schedule::tickPeriod(config.tickMilliseconds)) / 1000;
     m_report.fact(QStringLiteral("tickSeconds"), QStringLiteral("Seconds between ticks"), seconds);
@@ -122,12 +112,13 @@ void ForceRun::reportPlugin()
             makeFinding(ForceRules::kTestMode,
                         QStringLiteral("Test mode is on: people are only logged, not written.")));
     }
-    if (isHere)
-        reportExport(config);
+    if (m_configuration.exists())
+        reportExport();
 }
 
-void ForceRun::reportExport(const Configuration &config)
+void ForceRun::reportExport()
 {
+    const Configuration &config = m_configuration.values();
     const QString path = ImportFile::path(config.importFile);
     if (config.runsCommand(true)) {
         m_report.sentence(QStringLiteral("The plugin runs the export command first."));
@@ -140,9 +131,9 @@ void ForceRun::reportExport(const Configuration &config)
     }
 }
 
-ExitStatus ForceRun::fail(const QString &sentence)
+ExitStatus ForceRun::fail(const ForceFlag &flag)
 {
-    return m_console.fail(ExitStatus::NoDatabase, sentence);
+    return m_console.fail(ExitStatus::NoDatabase, flag.errorString());
 }
 
 QString ForceRun::verdict(bool isSet) const
@@ -157,19 +148,11 @@ ExitStatus runForce(const QStringList &arguments, Console &console)
 {
     CommandLine line("force", kDescription);
     line.addFlag("clear", "Clear the flag instead.");
-    line.addOption("config", "file",
-                   "The plugin's INI file, which says when it ticks; /etc/yav/MirovaHR.ini when "
-                   "left out.");
+    PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
     if (const auto end = line.parse(arguments, console))
         return *end;
-    DatabaseOptions options;
-    if (const auto end = line.readDatabase(options, console))
-        return *end;
-    QString error;
-    const auto database = openDatabase(options, DatabaseAccess::ReadWrite, error);
-    if (!database)
-        return console.fail(ExitStatus::NoDatabase, error);
-    return ForceRun(line, console).run(database->handle());
+    const auto report = Report::open(line, console);
+    return report ? ForceRun(line, *report, console).run() : ExitStatus::Usage;
 }

@@ -1,6 +1,7 @@
 #include "mirovahrctl/gate/gaterun.h"
 #include "mirovahrctl/gatestate/gateoptions.h"
 #include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/report.h"
 
 namespace {
 
@@ -26,5 +27,6 @@ ExitStatus runGate(const QStringList &arguments, Console &console)
     GateOptions options;
     if (const auto end = options.read(line, console))
         return *end;
-    return GateRun(line, options, console).run();
+    const auto report = Report::open(line, console);
+    return report ? GateRun(line, options, *report, console).run() : ExitStatus::Usage;
 }

@@ -33,10 +33,12 @@ bool mayAllBeOverridden(const QVector<GateReason> &reasons)
 
 } // namespace
 
-GateRun::GateRun(const CommandLine &line, const GateOptions &options, Console &console)
+GateRun::GateRun(const CommandLine &line, const GateOptions &options, Report &report,
+                 Console &console)
     : m_line(line)
     , m_options(options)
     , m_console(console)
+    , m_report(report)
     , m_publication(options.to)
     , m_source(options.from)
     , m_copy(m_folder, GateCopies::lastAdmitted(), kForOwner)
@@ -199,9 +201,8 @@ ExitStatus GateRun::refuse(const QVector<GateReason> &reasons)
 
 ExitStatus GateRun::report(bool isAdmitted, const QVector<GateReason> &reasons)
 {
-    Report report(m_line, m_console);
-    report.begin(m_line.subcommand(),
-                 QStringLiteral("Gate from %1 to %2").arg(m_options.from, m_options.to));
+    m_report.begin(m_line.subcommand(),
+                   QStringLiteral("Gate from %1 to %2").arg(m_options.from, m_options.to));
     GateReport gateReport;
     gateReport.isAdmitted = isAdmitted;
     gateReport.isUnchanged = m_examination.isUnchanged();
@@ -209,7 +210,7 @@ ExitStatus GateRun::report(bool isAdmitted, const QVector<GateReason> &reasons)
     gateReport.facts = m_isExamined ? &m_examination.facts() : nullptr;
     gateReport.rejects = m_options.rejects;
     gateReport.reasons = reasons;
-    return gateReport.writeTo(report);
+    return gateReport.writeTo(m_report);
 }
 
 bool GateRun::keepError(const QString &error)

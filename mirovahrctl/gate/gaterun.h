@@ -15,6 +15,7 @@
 
 class CommandLine;
 class Console;
+class Report;
 struct GateOptions;
 
 /// One run of the gate.
@@ -25,7 +26,7 @@ struct GateOptions;
 /// admitted by --accept.
 class GateRun {
 public:
-    GateRun(const CommandLine &line, const GateOptions &options, Console &console);
+    GateRun(const CommandLine &line, const GateOptions &options, Report &report, Console &console);
 
     /// Returns the status to end with.
     ExitStatus run();
@@ -51,6 +52,7 @@ private:
     const CommandLine &m_line;
     const GateOptions &m_options;
     Console &m_console;
+    Report &m_report;
     GateFolder m_folder;
     GateFolder m_rejectsFolder;
     GatePublication m_publication;

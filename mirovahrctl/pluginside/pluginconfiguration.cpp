@@ -6,6 +6,11 @@
 #include <QFileInfo>
 #include <QSettings>
 
+void PluginConfiguration::addTo(CommandLine &line)
+{
+    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini by default.");
+}
+
 std::optional<ExitStatus> PluginConfiguration::read(const CommandLine &line, Console &console)
 {
     const bool isNamed = line.isSet("config");

@@ -13,6 +13,9 @@ class Console;
 /// The plugin's INI file, as a subcommand with the option --config reads it.
 class PluginConfiguration {
 public:
+    /// Adds the option to a command line.
+    static void addTo(CommandLine &line);
+
     /// Reads the file of --config, or else the plugin's own, which may be missing. Has a status
     /// when the subcommand must end with it: the file cannot be used, which was said on the
     /// console.
@@ -21,6 +24,8 @@ public:
     /// What is in force: the defaults without a file.
     const Configuration &values() const { return m_values; }
 
+    /// Whether there is a file.
+    bool exists() const { return m_exists; }
     /// Where the values come from: a whole sentence for the report.
     QString origin() const;
 

@@ -1,6 +1,5 @@
 #include "mirovahrctl/pluginside/pluginview.h"
 
-#include "mirovahrctl/site/databaseaccess.h"
 #include "plugin/workersetup.h"
 
 #include <QStringList>
@@ -29,7 +28,7 @@ bool PluginView::open(const QSqlDatabase &site, const Configuration &configurati
         return false;
     configureWorker(*m_worker, configuration);
     m_sql.emplace(m_database);
-    return refuseWriting(m_database, m_error) && load();
+    return m_sql->refuseWriting() && load();
 }
 
 bool PluginView::connect(const QSqlDatabase &site)

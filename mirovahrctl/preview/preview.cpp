@@ -1,4 +1,3 @@
-#include "cli/databaseoptions.h"
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/preview/previewreport.h"
 #include "mirovahrctl/preview/previewserver.h"
@@ -8,6 +7,7 @@
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/program/report.h"
+#include "mirovahrctl/site/sitedatabase.h"
 
 #include <QFileInfo>
 
@@ -23,46 +23,46 @@ constexpr char kDescription[] =
 
 class PreviewCommand {
 public:
-    PreviewCommand(const CommandLine &line, Console &console)
+    PreviewCommand(const CommandLine &line, Report &report, Console &console)
         : m_line(line)
         , m_console(console)
-        , m_report(line, console)
+        , m_report(report)
         , m_export(line.argument(0))
         , m_sql(line.value("sql"))
         , m_log(line.value("log"))
     {
     }
 
-    ExitStatus run(const DatabaseOptions &site);
+    ExitStatus run();
 
 private:
     std::optional<ExitStatus> prepare();
+    std::optional<ExitStatus> copySite(PreviewWork &work);
     std::optional<ExitStatus> openOutput(OutputFile &file);
     bool isExport(const QString &path) const;
     std::optional<ExitStatus> commit();
-    ExitStatus fail(ExitStatus status, const QString &sentence);
     ExitStatus fail(const PreviewRefusal &refusal)
     {
-        return fail(refusal.status, refusal.sentence);
+        return m_console.fail(refusal.status, refusal.sentence);
     }
 
     const CommandLine &m_line;
     Console &m_console;
-    Report m_report;
+    Report &m_report;
     const QString m_export;
     OutputFile m_sql;
     OutputFile m_log;
     PluginConfiguration m_configuration;
 };
 
-ExitStatus PreviewCommand::run(const DatabaseOptions &site)
+ExitStatus PreviewCommand::run()
 {
     if (const auto end = prepare())
         return *end;
     PreviewServer server;
     PreviewWork work(m_console, server);
-    if (const auto refused = work.copy(site))
-        return fail(*refused);
+    if (const auto end = copySite(work))
+        return *end;
     if (const auto refused =
             work.synchronise(m_configuration.values(), m_export, m_log.isOpen() ? &m_log : nullptr))
         return fail(*refused);
@@ -76,16 +76,29 @@ ExitStatus PreviewCommand::run(const DatabaseOptions &site)
     return m_report.conclude(m_report.findingsStatus(), report.verdict());
 }
 
+/// The connection to the site is closed as soon as the copy exists.
+std::optional<ExitStatus> PreviewCommand::copySite(PreviewWork &work)
+{
+    SiteDatabase site;
+    if (const auto end = site.open(m_line, DatabaseAccess::ReadOnly, m_console))
+        return end;
+    const auto refused = work.copy(site.sql());
+    return refused ? std::make_optional(fail(*refused)) : std::nullopt;
+}
+
 std::optional<ExitStatus> PreviewCommand::prepare()
 {
     const QFileInfo info(m_export);
     if (!info.isFile())
-        return fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(m_export));
+        return m_console.fail(ExitStatus::Usage,
+                              QStringLiteral("There is no file '%1'").arg(m_export));
     if (!info.isReadable())
-        return fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be read").arg(m_export));
+        return m_console.fail(ExitStatus::Usage,
+                              QStringLiteral("'%1' cannot be read").arg(m_export));
     if (isExport(m_line.pagePath()) || isExport(m_sql.fileName()) || isExport(m_log.fileName())) {
-        return fail(ExitStatus::Usage,
-                    QStringLiteral("The result would overwrite the export; name another file"));
+        return m_console.fail(
+            ExitStatus::Usage,
+            QStringLiteral("The result would overwrite the export; name another file"));
     }
     if (const auto end = m_configuration.read(m_line, m_console))
         return end;
@@ -93,14 +106,14 @@ std::optional<ExitStatus> PreviewCommand::prepare()
         if (const auto end = openOutput(*file))
             return end;
     }
-    return m_report.open();
+    return std::nullopt;
 }
 
 std::optional<ExitStatus> PreviewCommand::openOutput(OutputFile &file)
 {
     if (file.fileName().isEmpty() || file.open(QIODevice::WriteOnly))
         return std::nullopt;
-    return fail(
+    return m_console.fail(
         ExitStatus::Usage,
         QStringLiteral("'%1' cannot be written: %2").arg(file.fileName(), file.errorString()));
 }
@@ -114,17 +127,12 @@ std::optional<ExitStatus> PreviewCommand::commit()
 {
     for (OutputFile *const file : {&m_sql, &m_log}) {
         if (file->isOpen() && !file->commit()) {
-            return fail(ExitStatus::Usage,
-                        QStringLiteral("'%1' cannot be written: %2")
-                            .arg(file->fileName(), file->errorString()));
+            return m_console.fail(ExitStatus::Usage,
+                                  QStringLiteral("'%1' cannot be written: %2")
+                                      .arg(file->fileName(), file->errorString()));
         }
     }
     return std::nullopt;
-}
-
-ExitStatus PreviewCommand::fail(ExitStatus status, const QString &sentence)
-{
-    return m_console.fail(status, sentence);
 }
 
 } // namespace
@@ -133,15 +141,13 @@ ExitStatus runPreview(const QStringList &arguments, Console &console)
 {
     CommandLine line("preview", kDescription);
     line.addArgument("file", "The export.");
-    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini by default.");
+    PluginConfiguration::addTo(line);
     line.addOption("sql", "file", "Also write the differences as SQL statements.");
     line.addOption("log", "file", "Also write the plugin's whole log of the synchronisation.");
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     if (const auto end = line.parse(arguments, console))
         return *end;
-    DatabaseOptions site;
-    if (const auto end = line.readDatabase(site, console))
-        return *end;
-    return PreviewCommand(line, console).run(site);
+    const auto report = Report::open(line, console);
+    return report ? PreviewCommand(line, *report, console).run() : ExitStatus::Usage;
 }

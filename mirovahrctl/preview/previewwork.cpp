@@ -1,13 +1,11 @@
 #include "mirovahrctl/preview/previewwork.h"
 
-#include "cli/database.h"
 #include "mirovahrctl/preview/previewcopy.h"
 #include "mirovahrctl/preview/previewrun.h"
 #include "mirovahrctl/preview/previewschemareader.h"
 #include "mirovahrctl/preview/previewserver.h"
 #include "mirovahrctl/program/progress.h"
 #include "mirovahrctl/report/rules/previewrules.h"
-#include "mirovahrctl/site/databaseaccess.h"
 #include "mirovahrctl/site/midnights.h"
 #include "mirovahrctl/site/sqlsession.h"
 
@@ -58,13 +56,8 @@ PreviewWork::PreviewWork(Console &console, PreviewServer &server)
 
 PreviewWork::~PreviewWork() = default;
 
-std::optional<PreviewRefusal> PreviewWork::copy(const DatabaseOptions &options)
+std::optional<PreviewRefusal> PreviewWork::copy(SqlSession &site)
 {
-    QString error;
-    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
-    if (!database)
-        return refusal(error);
-    SqlSession site(database->handle());
     site.run(QLatin1String(kIsolation));
     site.run(QLatin1String(kSnapshot));
     auto refused = copyFrom(site);

@@ -17,7 +17,6 @@ class Console;
 class PreviewServer;
 class QIODevice;
 class SqlSession;
-struct DatabaseOptions;
 
 /// Copies the site's database, lets the plugin synchronise the copy, and finds the changes.
 class PreviewWork {
@@ -28,8 +27,8 @@ public:
     PreviewWork(const PreviewWork &) = delete;
     PreviewWork &operator=(const PreviewWork &) = delete;
 
-    /// Copies the database that the options name. The connection is closed afterwards.
-    std::optional<PreviewRefusal> copy(const DatabaseOptions &options);
+    /// Copies the site's database as it is at one moment.
+    std::optional<PreviewRefusal> copy(SqlSession &site);
     /// Synchronises the copy. The plugin's whole log goes into \a log, one line a message.
     std::optional<PreviewRefusal> synchronise(const Configuration &configuration,
                                               const QString &exportFile, QIODevice *log);

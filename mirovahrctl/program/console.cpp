@@ -33,6 +33,8 @@ void Console::print(const QString &text)
 ExitStatus Console::fail(ExitStatus status, const QString &sentence)
 {
     const QString reason = Wording::sentence(sentence);
+    if (m_failure)
+        return m_failure(status, reason);
     writeMessage(reason);
     if (m_json)
         m_json->fail(m_subcommand, status, reason);

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class JsonReport;
@@ -25,6 +26,11 @@ public:
     QIODevice &err() { return m_err; }
     bool isInteractive() const { return m_interactive; }
     int columns() const { return m_columns; }
+
+    /// Prints why the program ends, a whole sentence, and returns the status to end with.
+    using Failure = std::function<ExitStatus(ExitStatus status, const QString &sentence)>;
+    /// From now on fail() leaves everything to this function.
+    void setFailure(Failure failure) { m_failure = std::move(failure); }
 
     /// Names the subcommand that runs, for the messages.
     void setSubcommand(const QString &name);
@@ -52,5 +58,6 @@ private:
     const bool m_interactive;
     const int m_columns;
     QString m_subcommand;
+    Failure m_failure;
     std::unique_ptr<JsonReport> m_json;
 };

@@ -23,11 +23,13 @@ Report::Report(const CommandLine &line, Console &console)
     }
 }
 
-std::optional<ExitStatus> Report::open()
+std::unique_ptr<Report> Report::open(const CommandLine &line, Console &console)
 {
-    if (m_page.fileName().isEmpty() || m_page.open(QIODevice::WriteOnly))
-        return std::nullopt;
-    return failPage();
+    std::unique_ptr<Report> report(new Report(line, console));
+    if (report->m_page.fileName().isEmpty() || report->m_page.open(QIODevice::WriteOnly))
+        return report;
+    report->failPage();
+    return nullptr;
 }
 
 void Report::begin(const QString &subcommand, const QString &title)

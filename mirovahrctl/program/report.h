@@ -4,7 +4,6 @@
 #include "mirovahrctl/report/reportwriter.h"
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 class CommandLine;
@@ -14,11 +13,9 @@ class Console;
 /// console, and the page of --html.
 class Report : public ReportWriter {
 public:
-    Report(const CommandLine &line, Console &console);
-
-    /// Opens the page, if there is one. Has a status when the subcommand must end with it: the page
-    /// cannot be written, and the error was printed.
-    std::optional<ExitStatus> open();
+    /// The report that a parsed command line selects. Null when its page cannot be written: the
+    /// error was printed, and the subcommand must end with ExitStatus::Usage.
+    static std::unique_ptr<Report> open(const CommandLine &line, Console &console);
 
     void begin(const QString &subcommand, const QString &title) override;
     void section(const QString &id, const QString &heading) override;
@@ -37,6 +34,8 @@ public:
     ExitStatus conclude(ExitStatus status, const QString &verdict);
 
 private:
+    Report(const CommandLine &line, Console &console);
+
     ExitStatus failPage() const;
 
     Console &m_console;

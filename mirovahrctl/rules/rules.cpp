@@ -111,6 +111,8 @@ ExitStatus runRules(const QStringList &arguments, Console &console)
             ExitStatus::Usage,
             QStringLiteral("Unknown rule '%1'; mirovahrctl rules lists them").arg(id));
     }
-    Report report(line, console);
-    return rows.isEmpty() ? list(line, report) : explain(line, rows, report);
+    const auto report = Report::open(line, console);
+    if (!report)
+        return ExitStatus::Usage;
+    return rows.isEmpty() ? list(line, *report) : explain(line, rows, *report);
 }

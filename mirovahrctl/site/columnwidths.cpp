@@ -17,7 +17,7 @@ ColumnWidths readColumnWidths(SqlSession &site, QString &error)
     for (const QStringList &row : rows)
         widths.insert(row.at(0), row.at(1).toInt());
     if (site.failed()) {
-        error = QStringLiteral("The database cannot be used: %1").arg(site.errorString());
+        error = site.failure();
     } else if (widths.isEmpty()) {
         error = QStringLiteral(
             "The database has no table 'people' with text columns, or the account may not see it");

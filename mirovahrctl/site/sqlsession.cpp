@@ -9,6 +9,7 @@
 
 namespace {
 
+constexpr char kReadOnly[] = "SET SESSION TRANSACTION READ ONLY";
 constexpr char kFourByteTexts[] = "SET NAMES utf8mb4";
 constexpr char kUniversalTime[] = "SET SESSION time_zone = '+00:00'";
 constexpr char kEveryValue[] = "SET SESSION sql_mode = 'NO_AUTO_VALUE_ON_ZERO,ALLOW_INVALID_DATES,"
@@ -46,6 +47,11 @@ bool SqlSession::prepareForCopying()
 {
     return run(QLatin1String(kFourByteTexts)) && run(QLatin1String(kUniversalTime))
         && run(QLatin1String(kEveryValue));
+}
+
+bool SqlSession::refuseWriting()
+{
+    return run(QLatin1String(kReadOnly));
 }
 
 bool SqlSession::run(const QString &sql)
@@ -88,6 +94,11 @@ bool SqlSession::forEachRow(const QString &sql,
     }
     while (query.nextResult()) { }
     return !query.lastError().isValid() || fail(query.lastError());
+}
+
+QString SqlSession::failure() const
+{
+    return QStringLiteral("The database cannot be used: %1").arg(m_error);
 }
 
 QString SqlSession::name(const QString &identifier)

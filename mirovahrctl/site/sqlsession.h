@@ -19,6 +19,9 @@ public:
     /// every value that a table can hold. False when that fails.
     bool prepareForCopying();
 
+    /// Makes the server itself refuse every write on the connection. False when that fails.
+    bool refuseWriting();
+
     /// Runs a statement. False when it fails.
     bool run(const QString &sql);
     /// All rows of a query; empty when it fails.
@@ -41,6 +44,8 @@ public:
     bool failed() const { return m_failed; }
     /// What the server said, or else the driver; empty when nothing has failed.
     QString errorString() const { return m_error; }
+    /// The same as a sentence for the user, without its full stop.
+    QString failure() const;
     /// The server's error number; 0 for an error that is not the server's.
     int errorNumber() const { return m_errorNumber; }
 

@@ -1,12 +1,9 @@
-#include "cli/database.h"
-#include "cli/databaseoptions.h"
 #include "mirovahrctl/gatestate/gatestatus.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/moment.h"
-#include "mirovahrctl/site/databaseaccess.h"
-#include "mirovahrctl/site/sqlsession.h"
+#include "mirovahrctl/site/sitedatabase.h"
 #include "mirovahrctl/status/nagios.h"
 #include "mirovahrctl/status/statusassessment.h"
 #include "mirovahrctl/status/statusdata.h"
@@ -28,9 +25,10 @@ constexpr double kSecondsPerHour = 3600.0;
 
 class StatusRun {
 public:
-    StatusRun(const CommandLine &line, Console &console)
+    StatusRun(const CommandLine &line, Report &report, Console &console)
         : m_line(line)
         , m_console(console)
+        , m_report(report)
     {
     }
 
@@ -42,10 +40,10 @@ private:
     std::optional<ExitStatus> readGate();
     ExitStatus answer(const StatusData &data);
     ExitStatus report(const StatusData &data, const StatusAssessment &assessment);
-    ExitStatus fail(ExitStatus status, const QString &sentence);
 
     const CommandLine &m_line;
     Console &m_console;
+    Report &m_report;
     AgeLimits m_limits;
     std::optional<GateStatus> m_gate;
 };
@@ -89,37 +87,32 @@ void reportGate(Report &report, const GateStatus &gate)
                     *gate.admittedLines());
 }
 
-/// The status to end with after the command line was parsed and its errors were printed.
-ExitStatus usageEnd(ExitStatus end, bool forNagios, Console &console)
+/// Answers the monitoring system although the subcommand has failed.
+ExitStatus failForNagios(ExitStatus status, const QString &sentence, Console &console)
 {
-    if (!forNagios || end != ExitStatus::Usage || console.json() != nullptr)
-        return end;
-    console.print(
-        Nagios::line(Nagios::Level::Unknown,
-                     QStringLiteral("Invalid command line: see mirovahrctl status --help")));
-    return Nagios::exitStatus(Nagios::Level::Unknown);
+    const Nagios::Level level =
+        status == ExitStatus::NoDatabase ? Nagios::Level::Critical : Nagios::Level::Unknown;
+    console.print(Nagios::line(level, sentence));
+    return Nagios::exitStatus(level);
 }
 
 ExitStatus StatusRun::run()
 {
     if (const auto end = prepare())
         return *end;
-    DatabaseOptions options;
-    if (const auto end = m_line.readDatabase(options, m_console))
-        return usageEnd(*end, m_line.isSet("nagios"), m_console);
+    SiteDatabase site;
+    if (const auto end = site.open(m_line, DatabaseAccess::ReadOnly, m_console))
+        return *end;
     QString error;
-    const auto database = openDatabase(options, DatabaseAccess::ReadOnly, error);
-    if (!database)
-        return fail(ExitStatus::NoDatabase, error);
-    SqlSession site(database->handle());
-    const auto data = StatusData::read(site, error);
-    return data ? answer(*data) : fail(ExitStatus::NoDatabase, error);
+    const auto data = StatusData::read(site.sql(), error);
+    return data ? answer(*data) : m_console.fail(ExitStatus::NoDatabase, error);
 }
 
 std::optional<ExitStatus> StatusRun::prepare()
 {
     if (m_line.isSet("nagios") && m_line.isSet("json"))
-        return fail(ExitStatus::Usage, QStringLiteral("Give --nagios or --json, not both"));
+        return m_console.fail(ExitStatus::Usage,
+                              QStringLiteral("Give --nagios or --json, not both"));
     if (const auto end = readLimit("warning", m_limits.warning))
         return end;
     if (const auto end = readLimit("critical", m_limits.critical))
@@ -134,7 +127,7 @@ std::optional<ExitStatus> StatusRun::readLimit(const char *option, std::optional
     bool isNumber = false;
     const double hours = m_line.value(option).toDouble(&isNumber);
     if (!isNumber || !(hours > 0 && hours < 1e6)) {
-        return fail(
+        return m_console.fail(
             ExitStatus::Usage,
             QStringLiteral("--%1 takes a number of hours above 0").arg(QLatin1String(option)));
     }
@@ -150,7 +143,7 @@ std::optional<ExitStatus> StatusRun::readGate()
     m_gate = GateStatus::read(m_line.value("gate-status"), error);
     if (m_gate)
         return std::nullopt;
-    return fail(ExitStatus::Usage, error);
+    return m_console.fail(ExitStatus::Usage, error);
 }
 
 ExitStatus StatusRun::answer(const StatusData &data)
@@ -165,29 +158,18 @@ ExitStatus StatusRun::answer(const StatusData &data)
 
 ExitStatus StatusRun::report(const StatusData &data, const StatusAssessment &assessment)
 {
-    Report report(m_line, m_console);
-    report.begin(m_line.subcommand(), QStringLiteral("Status of the plugin"));
-    reportDatabase(report, data);
+    m_report.begin(m_line.subcommand(), QStringLiteral("Status of the plugin"));
+    reportDatabase(m_report, data);
     if (m_gate)
-        reportGate(report, *m_gate);
+        reportGate(m_report, *m_gate);
     if (!assessment.findings.isEmpty())
-        report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
+        m_report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
     for (const Finding &finding : assessment.findings)
-        report.finding(finding);
-    return report.conclude(report.findingsStatus(),
-                           assessment.findings.isEmpty()
-                               ? QStringLiteral("No findings.")
-                               : QStringLiteral("The plugin's work needs attention."));
-}
-
-ExitStatus StatusRun::fail(ExitStatus status, const QString &sentence)
-{
-    if (!m_line.isSet("nagios"))
-        return m_console.fail(status, sentence);
-    const Nagios::Level level =
-        status == ExitStatus::NoDatabase ? Nagios::Level::Critical : Nagios::Level::Unknown;
-    m_console.print(Nagios::line(level, sentence));
-    return Nagios::exitStatus(level);
+        m_report.finding(finding);
+    return m_report.conclude(m_report.findingsStatus(),
+                             assessment.findings.isEmpty()
+                                 ? QStringLiteral("No findings.")
+                                 : QStringLiteral("The plugin's work needs attention."));
 }
 
 void addOptions(CommandLine &line)
@@ -210,7 +192,14 @@ ExitStatus runStatus(const QStringList &arguments, Console &console)
 {
     CommandLine line("status", kDescription);
     addOptions(line);
+    // Also a wrong command line must be answered in the monitoring system's form.
+    if (arguments.contains(QLatin1String("--nagios"))) {
+        console.setFailure([&console](ExitStatus status, const QString &sentence) {
+            return failForNagios(status, sentence, console);
+        });
+    }
     if (const auto end = line.parse(arguments, console))
-        return usageEnd(*end, arguments.contains(QLatin1String("--nagios")), console);
-    return StatusRun(line, console).run();
+        return *end;
+    const auto report = Report::open(line, console);
+    return report ? StatusRun(line, *report, console).run() : ExitStatus::Usage;
 }

@@ -31,7 +31,7 @@ std::optional<StatusData> StatusData::read(SqlSession &site, QString &error)
 {
     const QStringList row = site.row(QLatin1String(kSelect));
     if (site.failed()) {
-        error = QStringLiteral("The database cannot be used: %1").arg(site.errorString());
+        error = site.failure();
         return std::nullopt;
     }
     ForceFlag flag(site.database());

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aConfigurationThatKeepsThePluginFromActingIsReported_data();
     void aConfigurationThatKeepsThePluginFromActingIsReported();
     void withoutConfigurationThePluginHasItsDefaults();
+    void aConfigurationThatIsNamedAndMissingEndsItBeforeTheFlagIsSet();
     void aMissingExportIsReported();
     void anExportCommandExcusesAMissingExport();
 
@@ -180,7 +181,7 @@ void TestForce::theTickPeriodIsTheConfiguredOne()
     QFETCH(QByteArray, content);
     QFETCH(QString, period);
     configure(content);
-    QCOMPARE(sentences(force()).first(),
+    QCOMPARE(sentences(force()).value(1),
              "The plugin sees the flag at its next tick, within " + period
                  + " when it is not busy.");
 }
@@ -211,14 +212,21 @@ void TestForce::aConfigurationThatKeepsThePluginFromActingIsReported()
 
 void TestForce::withoutConfigurationThePluginHasItsDefaults()
 {
+    const ToolRun run = runTool(QStringList{"force", "--json"} + connection());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(sentences(run).first(),
+             QString("There is no file /etc/yav/MirovaHR.ini here: this holds for a plugin with "
+                     "its defaults."));
+}
+
+void TestForce::aConfigurationThatIsNamedAndMissingEndsItBeforeTheFlagIsSet()
+{
     QVERIFY(QFile::remove(m_ini));
     const ToolRun run = force();
-    COMPARE_EXIT(run, ExitStatus::Fine);
-    QCOMPARE(
-        sentences(run).first(),
-        QStringLiteral(
-            "There is no file %1 here: the following holds for a plugin with default settings.")
-            .arg(m_ini));
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.failure(), QStringLiteral("There is no file '%1'.").arg(m_ini));
+    QCOMPARE(flag(), QString("0"));
+    COMPARE_EXIT(force({"--clear"}), ExitStatus::Fine);
 }
 
 void TestForce::aMissingExportIsReported()
@@ -302,12 +310,14 @@ void TestForce::theTextForPeopleIsPlain()
 {
     const ToolRun run = runTool(QStringList{"force", "--config", m_ini} + connection());
     QCOMPARE(run.out,
-             QString("Forced synchronisation\n======================\n\n"
-                     "Flag\n----\nSet before: no\nSet now: yes\n\n"
-                     "Plugin\n------\nSeconds between ticks: 60\n"
-                     "The plugin sees the flag at its next tick, within 60 seconds when it "
-                     "is not busy.\n\n"
-                     "A forced synchronisation is pending.\n"));
+             QStringLiteral("Forced synchronisation\n======================\n\n"
+                            "Flag\n----\nSet before: no\nSet now: yes\n\n"
+                            "Plugin\n------\nThe configuration is that of %1.\n"
+                            "Seconds between ticks: 60\n"
+                            "The plugin sees the flag at its next tick, within 60 seconds when it "
+                            "is not busy.\n\n"
+                            "A forced synchronisation is pending.\n")
+                 .arg(m_ini));
 }
 
 void TestForce::everyRuleHasItsFixtures()

@@ -1,9 +1,11 @@
 #include "tests/mirovahrctl/preview/previewbench.h"
 
+#include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/preview/previewsql.h"
 #include "mirovahrctl/preview/previewwork.h"
+#include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
-#include "plugin/configuration.h"
+#include "mirovahrctl/site/sitedatabase.h"
 #include "tests/support/programrun.h"
 
 #include <QBuffer>
@@ -87,37 +89,36 @@ void PreviewBench::writeIni(const QString &more)
                    .toUtf8());
 }
 
-DatabaseOptions PreviewBench::options(const QString &user) const
-{
-    PrivateMariaDb &server = const_cast<PreviewBench *>(this)->m_site.server();
-    DatabaseOptions options;
-    options.socket = server.socketPath();
-    options.name = server.databaseName();
-    options.user = user;
-    options.password = user == "root" ? QString() : server.password();
-    return options;
-}
-
 QStringList PreviewBench::arguments(const QString &user) const
 {
     PrivateMariaDb &server = const_cast<PreviewBench *>(this)->m_site.server();
-    return {"--socket",        server.socketPath(),
-            "--database",      server.databaseName(),
-            "--user",          user,
-            "--password-file", server.passwordFile(),
-            "--config",        iniPath()};
+    QStringList arguments{
+        "--socket", server.socketPath(), "--database", server.databaseName(), "--user", user};
+    if (user != "root")
+        arguments += {"--password-file", server.passwordFile()};
+    return arguments + QStringList{"--config", iniPath()};
 }
 
-PreviewResult PreviewBench::preview(const DatabaseOptions &site)
+PreviewResult PreviewBench::preview(const QString &user)
 {
     QBuffer out;
     QBuffer err;
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
     Console console(out, err, false);
+    CommandLine line("preview", "");
+    PluginConfiguration::addTo(line);
+    line.addReportOptions(CommandLine::Page::Offered);
+    line.addDatabaseOptions();
     PreviewWork work(console, m_server);
     PreviewResult result;
-    result.refusal = work.copy(site);
+    SiteDatabase site;
+    if (line.parse(arguments(user), console)
+        || site.open(line, DatabaseAccess::ReadOnly, console)) {
+        result.refusal = PreviewRefusal{ExitStatus::NoDatabase, err.data()};
+        return result;
+    }
+    result.refusal = work.copy(site.sql());
     if (!result.refusal) {
         const Configuration configuration = Configuration::read(*Configuration::open(iniPath()));
         result.refusal = work.synchronise(configuration, m_export.path(), nullptr);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "cli/databaseoptions.h"
 #include "mirovahrctl/preview/previewrefusal.h"
 #include "mirovahrctl/preview/previewschema.h"
 #include "mirovahrctl/preview/previewserver.h"
@@ -58,12 +57,12 @@ public:
     QString iniPath() const { return m_dir.filePath("MirovaHR.ini"); }
     QString filePath(const QString &name) const { return m_dir.filePath(name); }
 
-    /// The connection to the site: as `mirovahrctl`, or as another account with the same password.
-    DatabaseOptions options(const QString &user = QStringLiteral("mirovahrctl")) const;
+    /// The command line of `preview`, without the export: as the account `mirovahrctl`, or as
+    /// another one with the same password, or as `root`, which has none.
     QStringList arguments(const QString &user = QStringLiteral("mirovahrctl")) const;
 
-    PreviewResult preview(const DatabaseOptions &site);
-    PreviewResult preview() { return preview(options()); }
+    /// A preview as one of these accounts.
+    PreviewResult preview(const QString &user = QStringLiteral("mirovahrctl"));
 
     /// One forced synchronisation of the site's database itself, in a process of its own. What that
     /// process printed when it failed, else empty.

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void aSynchronisationThatDoesNotTakePlaceIsNoResult();
     void aServerProgramThatIsNotInstalledIsNamed();
     void anOffsetOfTheSiteThatTheProgramDoesNotHaveIsRefused();
+    void aServerThatIsNotThereIsReported();
     void whatCannotBeUsedIsRefusedAtOnce_data();
     void whatCannotBeUsedIsRefusedAtOnce();
     void progressIsShownOnATerminal();
@@ -338,6 +339,14 @@ void TestPreview::anOffsetOfTheSiteThatTheProgramDoesNotHaveIsRefused()
         QString("mirovahrctl: preview: The site's server (time zone -11:30) and this program "
                 "disagree about when days begin. Run this program with the TZ of the attendance "
                 "server.\n"));
+}
+
+void TestPreview::aServerThatIsNotThereIsReported()
+{
+    const ToolRun tool = runTool(arguments({"--socket", m_bench.filePath("nobody")}));
+    COMPARE_EXIT(tool, ExitStatus::NoDatabase);
+    QVERIFY2(tool.err.startsWith("mirovahrctl: preview: The database cannot be opened: "),
+             tool.report().constData());
 }
 
 void TestPreview::whatCannotBeUsedIsRefusedAtOnce_data()

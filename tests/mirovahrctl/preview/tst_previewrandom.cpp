@@ -120,7 +120,7 @@ void TestPreviewRandom::tryExport(RandomSite &random)
     TestDatabase &site = m_bench.site();
     m_bench.exportFile().writeBytes(random.exportContent());
     const DatabaseState before = site.dumpAll();
-    const PreviewResult preview = m_bench.preview(m_bench.options("root"));
+    const PreviewResult preview = m_bench.preview("root");
     QVERIFY2(!preview.refusal, qPrintable(preview.refusal ? preview.refusal->sentence : QString()));
     QCOMPARE(TestDatabase::difference(before, site.dumpAll()), QString());
 

@@ -13,7 +13,6 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void aServerThatIsNotThere();
     void anAccountThatMustNotSeeTheRoutines();
     void anAccountThatSeesSingleColumnsOnly();
     void aTableThatIsMissingOrHidden_data();
@@ -71,7 +70,7 @@ void TestPreviewRefusals::cleanup()
 
 PreviewRefusal TestPreviewRefusals::refusal(const QString &account)
 {
-    const PreviewResult result = m_bench.preview(m_bench.options(account));
+    const PreviewResult result = m_bench.preview(account);
     return result.refusal.value_or(PreviewRefusal{ExitStatus::Fine, "not refused"});
 }
 
@@ -87,21 +86,10 @@ PreviewRefusal TestPreviewRefusals::refusalOfRun()
 
 PreviewResult TestPreviewRefusals::accepted(const QString &account)
 {
-    const PreviewResult result = m_bench.preview(m_bench.options(account));
+    const PreviewResult result = m_bench.preview(account);
     if (result.refusal)
         QTest::qFail(qPrintable(result.refusal->sentence), __FILE__, __LINE__);
     return result;
-}
-
-void TestPreviewRefusals::aServerThatIsNotThere()
-{
-    DatabaseOptions options = m_bench.options();
-    options.socket = m_bench.filePath("nobody");
-    const PreviewResult result = m_bench.preview(options);
-    QVERIFY(result.refusal);
-    QCOMPARE(result.refusal->status, ExitStatus::NoDatabase);
-    QVERIFY2(result.refusal->sentence.startsWith("The database cannot be opened: "),
-             qPrintable(result.refusal->sentence));
 }
 
 void TestPreviewRefusals::anAccountThatMustNotSeeTheRoutines()

@@ -56,7 +56,7 @@ void TestPreviewWords::init()
 QString TestPreviewWords::described(const ExportRow &line, const QString &account)
 {
     m_bench.writeExport({line});
-    const PreviewResult result = m_bench.preview(m_bench.options(account));
+    const PreviewResult result = m_bench.preview(account);
     return result.refusal ? result.refusal->sentence : result.described().join('\n');
 }
 
@@ -258,7 +258,7 @@ void TestPreviewWords::theStatementsMakeExactlyTheDescribedChanges()
     m_bench.site().run("CREATE TRIGGER t BEFORE UPDATE ON people FOR EACH ROW "
                        "SET NEW.title2 = CONCAT(OLD.title2, NEW.title), NEW.gid = NULL");
     m_bench.writeExport({SampleExport::jana().with(&ExportRow::jmeno, "Ján")});
-    const QString sql = m_bench.preview(m_bench.options("root")).sql;
+    const QString sql = m_bench.preview("root").sql;
     const QStringList statements =
         sql.section("START TRANSACTION;\n", 1).section("\nCOMMIT;", 0, 0).split('\n');
     const QStringList expected{

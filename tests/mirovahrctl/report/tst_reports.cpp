@@ -272,11 +272,11 @@ void TestReports::aPageThatCannotBeWrittenIsAFailureInJson()
     CommandLine line("preview", "Does something.");
     line.addReportOptions(CommandLine::Page::Offered);
     QVERIFY(!line.parse({"--json", "--html", folder.filePath("page.html")}, console));
-    Report report(line, console);
-    QVERIFY(!report.open());
-    report.begin("preview", "Title");
+    const auto report = Report::open(line, console);
+    QVERIFY(report);
+    report->begin("preview", "Title");
     QVERIFY(folder.remove());
-    QCOMPARE(report.conclude(ExitStatus::Fine, "Done."), ExitStatus::Usage);
+    QCOMPARE(report->conclude(ExitStatus::Fine, "Done."), ExitStatus::Usage);
 
     const QJsonObject json = QJsonDocument::fromJson(out.data()).object();
     QVERIFY2(json["error"].toString().startsWith("The page '"), out.data().constData());
