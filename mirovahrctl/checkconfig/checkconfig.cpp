@@ -17,9 +17,17 @@ QString verdict(ExitStatus status)
                                       : QStringLiteral("The configuration needs attention.");
 }
 
-ExitStatus report(ConfigAssessment &check, const QString &path, Report &report)
+ExitStatus check(const CommandLine &line, Report &report, Console &console)
 {
-    report.begin(QStringLiteral("check-config"), QStringLiteral("Configuration %1").arg(path));
+    const QString path =
+        line.argument(0).isEmpty() ? QString(Configuration::kPath) : line.argument(0);
+    const QFileInfo info(path);
+    if (info.exists() && !(info.isFile() && info.isReadable())) {
+        return console.fail(ExitStatus::Usage,
+                            QStringLiteral("'%1' is not a readable file").arg(path));
+    }
+    ConfigAssessment check(path);
+    report.begin(line.subcommand(), QStringLiteral("Configuration %1").arg(path));
     report.section(QStringLiteral("keys"), QStringLiteral("What is in force"));
     report.sentence(
         QStringLiteral("The plugin reads the file once, when the attendance server loads the "
@@ -41,19 +49,6 @@ ExitStatus runCheckConfig(const QStringList &arguments, Console &console)
     CommandLine line("check-config", kDescription);
     line.addOptionalArgument("file", "The INI file; /etc/yav/MirovaHR.ini when left out.");
     line.addReportOptions(CommandLine::Page::NotOffered);
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-
-    const QString path =
-        line.argument(0).isEmpty() ? QString(Configuration::kPath) : line.argument(0);
-    const QFileInfo info(path);
-    if (info.exists() && !(info.isFile() && info.isReadable())) {
-        return console.fail(ExitStatus::Usage,
-                            QStringLiteral("'%1' is not a readable file").arg(path));
-    }
-    const auto output = Report::open(line, console);
-    if (!output)
-        return ExitStatus::Usage;
-    ConfigAssessment check(path);
-    return report(check, path, *output);
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return check(line, report, console); });
 }

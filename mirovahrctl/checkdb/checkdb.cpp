@@ -69,8 +69,12 @@ QString verdict(const DbAssessment &check)
                  : QStringLiteral("there are %1 things").arg(check.seriousCount()));
 }
 
-ExitStatus check(const CommandLine &line, const QSqlDatabase &db, Report &report, Console &console)
+ExitStatus check(const CommandLine &line, Report &report, Console &console)
 {
+    SiteDatabase site;
+    if (const auto end = site.open(line, DatabaseAccess::ReadOnly, console))
+        return *end;
+    const QSqlDatabase &db = site.sql().database();
     report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
     DbAssessment check(db, report);
     checkAll(check, accountOf(line));
@@ -89,13 +93,6 @@ ExitStatus runCheckDb(const QStringList &arguments, Console &console)
     line.addFlag("other-account", "The account is not the plugin's: do not check its rights.");
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-    const auto report = Report::open(line, console);
-    if (!report)
-        return ExitStatus::Usage;
-    SiteDatabase site;
-    if (const auto end = site.open(line, DatabaseAccess::ReadOnly, console))
-        return *end;
-    return check(line, site.sql().database(), *report, console);
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return check(line, report, console); });
 }

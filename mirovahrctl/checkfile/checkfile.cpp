@@ -30,14 +30,12 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> readWidths();
-    bool isExport(const QString &path) const;
     std::optional<ExitStatus> openExport();
     bool check(ExportScan &check);
     void report(const CheckedLine &line);
     void report(const Finding &finding);
     void conclude(const ExportScan &check);
     ExitStatus commit(const ExportScan::Counts &counts);
-    ExitStatus failRejects();
 
     const CommandLine &m_line;
     Console &m_console;
@@ -46,7 +44,6 @@ private:
     QFile m_file;
     OutputFile m_rejectsFile;
     RejectsWriter m_rejects;
-    const bool m_wantsRejects;
     ColumnWidths m_widths;
     QMap<QString, qint64> m_countByRule;
 };
@@ -83,7 +80,6 @@ CheckFileRun::CheckFileRun(const CommandLine &line, Report &report, Console &con
     , m_path(line.argument(0))
     , m_rejectsFile(line.value("rejects"))
     , m_rejects(m_rejectsFile, QFileInfo(m_path).fileName())
-    , m_wantsRejects(line.isSet("rejects"))
 {
 }
 
@@ -106,16 +102,13 @@ std::optional<ExitStatus> CheckFileRun::prepare()
 {
     if (const auto end = openExport())
         return end;
-    if (isExport(m_rejectsFile.fileName()) || isExport(m_line.pagePath())) {
-        return m_console.fail(
-            ExitStatus::Usage,
-            QStringLiteral("The result would overwrite the export; name another file"));
-    }
-    if (m_wantsRejects) {
-        if (!m_rejectsFile.open(QIODevice::WriteOnly))
-            return failRejects();
+    if (const auto end =
+            refuseOverwriting(m_path, {m_rejectsFile.fileName(), m_line.pagePath()}, m_console))
+        return end;
+    if (const auto end = m_rejectsFile.begin(m_console))
+        return end;
+    if (m_rejectsFile.isOpen())
         m_rejects.begin();
-    }
     return readWidths();
 }
 
@@ -133,11 +126,6 @@ std::optional<ExitStatus> CheckFileRun::openExport()
     }
     return m_console.fail(ExitStatus::Usage,
                           QStringLiteral("'%1' cannot be opened: %2").arg(m_path, error));
-}
-
-bool CheckFileRun::isExport(const QString &path) const
-{
-    return !path.isEmpty() && QFileInfo(path) == QFileInfo(m_path);
 }
 
 std::optional<ExitStatus> CheckFileRun::readWidths()
@@ -166,7 +154,7 @@ void CheckFileRun::report(const CheckedLine &line)
 {
     for (const Finding &finding : line.findings)
         report(finding);
-    if (m_wantsRejects && line.isRejected())
+    if (m_rejectsFile.isOpen() && line.isRejected())
         m_rejects.add(line);
 }
 
@@ -197,20 +185,12 @@ void CheckFileRun::conclude(const ExportScan &check)
 
 ExitStatus CheckFileRun::commit(const ExportScan::Counts &counts)
 {
-    if (m_wantsRejects) {
+    if (m_rejectsFile.isOpen())
         m_rejects.end();
-        if (!m_rejectsFile.commit())
-            return failRejects();
-    }
+    if (const auto end = m_rejectsFile.finish(m_console))
+        return *end;
     const ExitStatus status = m_report.findingsStatus();
     return m_report.conclude(status, verdict(counts, status));
-}
-
-ExitStatus CheckFileRun::failRejects()
-{
-    return m_console.fail(ExitStatus::Usage,
-                          QStringLiteral("'%1' cannot be written: %2")
-                              .arg(m_rejectsFile.fileName(), m_rejectsFile.errorString()));
 }
 
 } // namespace
@@ -224,8 +204,6 @@ ExitStatus runCheckFile(const QStringList &arguments, Console &console)
                    "the reasons, to send to HR.");
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-    const auto report = Report::open(line, console);
-    return report ? CheckFileRun(line, *report, console).run() : ExitStatus::Usage;
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return CheckFileRun(line, report, console).run(); });
 }

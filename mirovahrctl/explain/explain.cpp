@@ -6,11 +6,10 @@
 #include "mirovahrctl/pluginside/pluginview.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/site/midnights.h"
 #include "mirovahrctl/site/sitedatabase.h"
-
-#include <QFileInfo>
 
 namespace {
 
@@ -94,12 +93,8 @@ std::optional<ExitStatus> ExplainRun::openExport()
     if (!file.open(m_line.argument(1), m_line.value("gate-folder"),
                    m_source.configuration.values()))
         return m_console.fail(ExitStatus::Usage, file.errorString());
-    if (hasExport() && QFileInfo(m_line.pagePath()) == QFileInfo(file.path())) {
-        return m_console.fail(
-            ExitStatus::Usage,
-            QStringLiteral("The result would overwrite the export; name another file"));
-    }
-    return std::nullopt;
+    return hasExport() ? refuseOverwriting(file.path(), {m_line.pagePath()}, m_console)
+                       : std::nullopt;
 }
 
 ExitStatus ExplainRun::answer(SqlSession &site)
@@ -188,8 +183,6 @@ ExitStatus runExplain(const QStringList &arguments, Console &console)
     PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-    const auto report = Report::open(line, console);
-    return report ? ExplainRun(line, *report, console).run() : ExitStatus::Usage;
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return ExplainRun(line, report, console).run(); });
 }

@@ -151,8 +151,6 @@ ExitStatus runForce(const QStringList &arguments, Console &console)
     PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-    const auto report = Report::open(line, console);
-    return report ? ForceRun(line, *report, console).run() : ExitStatus::Usage;
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return ForceRun(line, report, console).run(); });
 }

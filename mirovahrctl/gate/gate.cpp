@@ -22,11 +22,10 @@ ExitStatus runGate(const QStringList &arguments, Console &console)
     CommandLine line("gate", kDescription);
     GateOptions::addTo(line);
     line.addReportOptions(CommandLine::Page::NotOffered);
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-    GateOptions options;
-    if (const auto end = options.read(line, console))
-        return *end;
-    const auto report = Report::open(line, console);
-    return report ? GateRun(line, options, *report, console).run() : ExitStatus::Usage;
+    return Report::run(line, arguments, console, [&](Report &report) {
+        GateOptions options;
+        if (const auto end = options.read(line, console))
+            return *end;
+        return GateRun(line, options, report, console).run();
+    });
 }

@@ -2,9 +2,9 @@
 
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/outputfile.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -67,17 +67,6 @@ QString readNumbers(const CommandLine &line, GateOptions &options)
     return reader.problem();
 }
 
-QString fullPath(const QString &path)
-{
-    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-}
-
-bool isSame(const QString &a, const QString &b)
-{
-    // QFileInfo takes two missing files for the same.
-    return fullPath(a) == fullPath(b) || (QFileInfo::exists(a) && QFileInfo(a) == QFileInfo(b));
-}
-
 QString pathProblem(const GateOptions &options)
 {
     if (options.from.isEmpty())
@@ -86,9 +75,9 @@ QString pathProblem(const GateOptions &options)
         return QStringLiteral("Missing option --to; see --help");
     if (QFileInfo(options.to).fileName().isEmpty())
         return QStringLiteral("--to names no file");
-    if (isSame(options.from, options.to))
+    if (isSameFile(options.from, options.to))
         return QStringLiteral("--from and --to name the same file");
-    if (isSame(options.rejects, options.from) || isSame(options.rejects, options.to))
+    if (isSameFile(options.rejects, options.from) || isSameFile(options.rejects, options.to))
         return QStringLiteral("--rejects would overwrite the export; name another file");
     return {};
 }
@@ -188,5 +177,5 @@ bool GateOptions::isRunBy(const QString &command)
 
 bool GateOptions::publishesTo(const QString &path) const
 {
-    return isSame(to, path);
+    return isSameFile(to, path);
 }

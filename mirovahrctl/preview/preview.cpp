@@ -38,9 +38,6 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> copySite(PreviewWork &work);
-    std::optional<ExitStatus> openOutput(OutputFile &file);
-    bool isExport(const QString &path) const;
-    std::optional<ExitStatus> commit();
     ExitStatus fail(const PreviewRefusal &refusal)
     {
         return m_console.fail(refusal.status, refusal.sentence);
@@ -71,8 +68,10 @@ ExitStatus PreviewCommand::run()
     m_report.begin(m_line.subcommand(), QStringLiteral("Preview of HR export %1").arg(m_export));
     PreviewReport report(work, m_configuration, m_report);
     report.write();
-    if (const auto end = commit())
-        return *end;
+    for (OutputFile *const file : {&m_sql, &m_log}) {
+        if (const auto end = file->finish(m_console))
+            return *end;
+    }
     return m_report.conclude(m_report.findingsStatus(), report.verdict());
 }
 
@@ -95,42 +94,14 @@ std::optional<ExitStatus> PreviewCommand::prepare()
     if (!info.isReadable())
         return m_console.fail(ExitStatus::Usage,
                               QStringLiteral("'%1' cannot be read").arg(m_export));
-    if (isExport(m_line.pagePath()) || isExport(m_sql.fileName()) || isExport(m_log.fileName())) {
-        return m_console.fail(
-            ExitStatus::Usage,
-            QStringLiteral("The result would overwrite the export; name another file"));
-    }
+    if (const auto end = refuseOverwriting(
+            m_export, {m_line.pagePath(), m_sql.fileName(), m_log.fileName()}, m_console))
+        return end;
     if (const auto end = m_configuration.read(m_line, m_console))
         return end;
     for (OutputFile *const file : {&m_sql, &m_log}) {
-        if (const auto end = openOutput(*file))
+        if (const auto end = file->begin(m_console))
             return end;
-    }
-    return std::nullopt;
-}
-
-std::optional<ExitStatus> PreviewCommand::openOutput(OutputFile &file)
-{
-    if (file.fileName().isEmpty() || file.open(QIODevice::WriteOnly))
-        return std::nullopt;
-    return m_console.fail(
-        ExitStatus::Usage,
-        QStringLiteral("'%1' cannot be written: %2").arg(file.fileName(), file.errorString()));
-}
-
-bool PreviewCommand::isExport(const QString &path) const
-{
-    return !path.isEmpty() && QFileInfo(path) == QFileInfo(m_export);
-}
-
-std::optional<ExitStatus> PreviewCommand::commit()
-{
-    for (OutputFile *const file : {&m_sql, &m_log}) {
-        if (file->isOpen() && !file->commit()) {
-            return m_console.fail(ExitStatus::Usage,
-                                  QStringLiteral("'%1' cannot be written: %2")
-                                      .arg(file->fileName(), file->errorString()));
-        }
     }
     return std::nullopt;
 }
@@ -146,8 +117,6 @@ ExitStatus runPreview(const QStringList &arguments, Console &console)
     line.addOption("log", "file", "Also write the plugin's whole log of the synchronisation.");
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-    const auto report = Report::open(line, console);
-    return report ? PreviewCommand(line, *report, console).run() : ExitStatus::Usage;
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return PreviewCommand(line, report, console).run(); });
 }

@@ -1,5 +1,11 @@
 #include "mirovahrctl/program/outputfile.h"
 
+#include "mirovahrctl/program/console.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
 #include <sys/stat.h>
 
 namespace {
@@ -8,7 +14,33 @@ constexpr mode_t kNotAllowed = 0137;
 constexpr QFileDevice::Permissions kAllowed = QFileDevice::ReadOwner | QFileDevice::WriteOwner
     | QFileDevice::ReadUser | QFileDevice::WriteUser | QFileDevice::ReadGroup;
 
+QString fullPath(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
 } // namespace
+
+std::optional<ExitStatus> OutputFile::begin(Console &console)
+{
+    if (fileName().isEmpty() || open(QIODevice::WriteOnly))
+        return std::nullopt;
+    return fail(console);
+}
+
+std::optional<ExitStatus> OutputFile::finish(Console &console)
+{
+    if (!isOpen() || commit())
+        return std::nullopt;
+    return fail(console);
+}
+
+ExitStatus OutputFile::fail(Console &console) const
+{
+    return console.fail(
+        ExitStatus::Usage,
+        QStringLiteral("'%1' cannot be written: %2").arg(fileName(), errorString()));
+}
 
 bool OutputFile::open(OpenMode mode)
 {
@@ -22,4 +54,23 @@ bool OutputFile::open(OpenMode mode)
 bool OutputFile::setPermissions(Permissions permissions)
 {
     return QSaveFile::setPermissions(permissions & kAllowed);
+}
+
+bool isSameFile(const QString &a, const QString &b)
+{
+    // QFileInfo takes two missing files for the same.
+    return fullPath(a) == fullPath(b) || (QFileInfo::exists(a) && QFileInfo(a) == QFileInfo(b));
+}
+
+std::optional<ExitStatus> refuseOverwriting(const QString &exportFile, const QStringList &outputs,
+                                            Console &console)
+{
+    const bool overwrites =
+        std::any_of(outputs.cbegin(), outputs.cend(), [&exportFile](const QString &output) {
+            return !output.isEmpty() && isSameFile(output, exportFile);
+        });
+    if (!overwrites)
+        return std::nullopt;
+    return console.fail(ExitStatus::Usage,
+                        QStringLiteral("The result would overwrite the export; name another file"));
 }

@@ -23,13 +23,15 @@ Report::Report(const CommandLine &line, Console &console)
     }
 }
 
-std::unique_ptr<Report> Report::open(const CommandLine &line, Console &console)
+ExitStatus Report::run(CommandLine &line, const QStringList &arguments, Console &console,
+                       const Work &work)
 {
-    std::unique_ptr<Report> report(new Report(line, console));
-    if (report->m_page.fileName().isEmpty() || report->m_page.open(QIODevice::WriteOnly))
-        return report;
-    report->failPage();
-    return nullptr;
+    if (const auto end = line.parse(arguments, console))
+        return *end;
+    Report report(line, console);
+    if (const auto end = report.m_page.begin(console))
+        return *end;
+    return work(report);
 }
 
 void Report::begin(const QString &subcommand, const QString &title)
@@ -83,18 +85,10 @@ ExitStatus Report::findingsStatus() const
 ExitStatus Report::conclude(ExitStatus status, const QString &verdict)
 {
     // The page first: JSON has the reason in place of the verdict when it cannot be written.
-    if (m_html) {
+    if (m_html)
         m_html->end(status, verdict);
-        if (!m_page.commit())
-            return failPage();
-    }
+    if (const auto end = m_page.finish(m_console))
+        return *end;
     m_main->end(status, verdict);
     return status;
-}
-
-ExitStatus Report::failPage() const
-{
-    return m_console.fail(ExitStatus::Usage,
-                          QStringLiteral("The page '%1' cannot be written: %2")
-                              .arg(m_page.fileName(), m_page.errorString()));
 }

@@ -3,6 +3,9 @@
 #include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/report/reportwriter.h"
 
+#include <QStringList>
+
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -13,9 +16,14 @@ class Console;
 /// console, and the page of --html.
 class Report : public ReportWriter {
 public:
-    /// The report that a parsed command line selects. Null when its page cannot be written: the
-    /// error was printed, and the subcommand must end with ExitStatus::Usage.
-    static std::unique_ptr<Report> open(const CommandLine &line, Console &console);
+    /// Writes the report of a subcommand and returns the status to end with.
+    using Work = std::function<ExitStatus(Report &report)>;
+
+    /// The course of a subcommand: parses its command line, opens the report that it selects, and
+    /// runs \a work. Ends without it when only the help is requested, or when the command line or
+    /// the page cannot be used: then the error was printed.
+    static ExitStatus run(CommandLine &line, const QStringList &arguments, Console &console,
+                          const Work &work);
 
     void begin(const QString &subcommand, const QString &title) override;
     void section(const QString &id, const QString &heading) override;
@@ -35,8 +43,6 @@ public:
 
 private:
     Report(const CommandLine &line, Console &console);
-
-    ExitStatus failPage() const;
 
     Console &m_console;
     OutputFile m_page;

@@ -95,6 +95,18 @@ ExitStatus explain(const CommandLine &line, const QVector<QVariantList> &rows, R
                                                      QStringLiteral("subcommands have"))));
 }
 
+ExitStatus answer(const CommandLine &line, Report &report, Console &console)
+{
+    const QString id = line.argument(0);
+    if (id.isEmpty())
+        return list(line, report);
+    const QVector<QVariantList> rows = rowsOf(id);
+    if (!rows.isEmpty())
+        return explain(line, rows, report);
+    return console.fail(ExitStatus::Usage,
+                        QStringLiteral("Unknown rule '%1'; mirovahrctl rules lists them").arg(id));
+}
+
 } // namespace
 
 ExitStatus runRules(const QStringList &arguments, Console &console)
@@ -102,17 +114,6 @@ ExitStatus runRules(const QStringList &arguments, Console &console)
     CommandLine line("rules", kDescription);
     line.addOptionalArgument("id", "The rule to explain.");
     line.addReportOptions(CommandLine::Page::NotOffered);
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-    const QString id = line.argument(0);
-    const QVector<QVariantList> rows = rowsOf(id);
-    if (!id.isEmpty() && rows.isEmpty()) {
-        return console.fail(
-            ExitStatus::Usage,
-            QStringLiteral("Unknown rule '%1'; mirovahrctl rules lists them").arg(id));
-    }
-    const auto report = Report::open(line, console);
-    if (!report)
-        return ExitStatus::Usage;
-    return rows.isEmpty() ? list(line, *report) : explain(line, rows, *report);
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return answer(line, report, console); });
 }

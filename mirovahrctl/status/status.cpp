@@ -198,8 +198,6 @@ ExitStatus runStatus(const QStringList &arguments, Console &console)
             return failForNagios(status, sentence, console);
         });
     }
-    if (const auto end = line.parse(arguments, console))
-        return *end;
-    const auto report = Report::open(line, console);
-    return report ? StatusRun(line, *report, console).run() : ExitStatus::Usage;
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return StatusRun(line, report, console).run(); });
 }

@@ -1066,7 +1066,7 @@ void TestExplain::whatMakesNoSenseIsWrongUsage_data()
     QTest::newRow("too many") << QStringList{"1234.1", "a", "b"} << "Unexpected argument 'b'.";
     QTest::newRow("a page that cannot be written")
         << QStringList{"1234.1", "--html", "/nowhere/page.html"}
-        << "The page '/nowhere/page.html' cannot be written: No such file or directory.";
+        << "'/nowhere/page.html' cannot be written: No such file or directory.";
 }
 
 void TestExplain::whatMakesNoSenseIsWrongUsage()
