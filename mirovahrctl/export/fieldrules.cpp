@@ -1,47 +1,16 @@
 #include "mirovahrctl/export/fieldrules.h"
 
+#include "mirovahrctl/export/fieldreading.h"
 #include "mirovahrctl/export/sqlhazards.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/exportline.h"
-#include "worker/recorddates.h"
 #include "worker/vacationbalance.h"
-
-#include <QDateTime>
-
-#include <limits>
 
 namespace {
 
 using namespace ExportLine;
-
-/// What an unreadable field means for the person: the end of a sentence.
-QString consequence(int field)
-{
-    switch (field) {
-    case DatumNastupu:
-        return QStringLiteral("employment counts from 1 January 2000.");
-    case DatumVystupu:
-        return QStringLiteral("the person counts as not leaving.");
-    case Stredisko:
-        return QStringLiteral("the person is assigned to no branch.");
-    case Kalendar:
-        return QStringLiteral("the person is assigned to no calendar group.");
-    case KalendarPlatnostOd:
-        return QStringLiteral(
-            "the calendar has no start date, and all attendance of the person is recalculated.");
-    case TypPracovnihoPomeru:
-        return QStringLiteral("the person has no employment type and no payroll export.");
-    case StavPracovnihoPomeru:
-        return QStringLiteral("the employment counts as running.");
-    case EvidencniStav:
-        return QStringLiteral("the register state counts as 0.");
-    case DovolenaZustatek:
-        return QStringLiteral("the vacation balance is set to 0 days.");
-    default:
-        return QStringLiteral("the person gets no new supervisor.");
-    }
-}
+using FieldReading::consequence;
 
 /// What to do about a date that cannot be read; null when the rule says enough.
 QString dateAdvice(const QString &text)
@@ -59,16 +28,6 @@ QString balanceAdvice(const QString &text)
     return text.contains(QLatin1Char(','))
         ? QStringLiteral("Write the balance with a decimal point, as in 12.5.")
         : QStringLiteral("Write the balance as a number of days, as in 12.5.");
-}
-
-/// Whether the day survives being stored: the plugin reads Unix times as unsigned 32-bit numbers,
-/// and 0 as no time.
-bool isKept(const QDate &day)
-{
-    if (day.year() > 1970 && day.year() < 2106)
-        return true;
-    return RecordDates::midnight(day) > 0
-        && RecordDates::midnight(day.addDays(1)) <= qint64(std::numeric_limits<quint32>::max());
 }
 
 } // namespace
@@ -214,7 +173,7 @@ void FieldRules::checkDate(int field, const QDate &date)
             QStringLiteral("The plugin cannot read %1 as a date: %2")
                 .arg(Wording::quoted(text), consequence(field)),
             dateAdvice(text));
-    } else if (field != KalendarPlatnostOd && !isKept(date)) {
+    } else if (field != KalendarPlatnostOd && !FieldReading::isKept(date)) {
         add(field, CheckFileRules::kDateOutOfRange,
             QStringLiteral("The plugin can store days from 1970 to 2106; %1 comes back from the "
                            "database as another day.")
