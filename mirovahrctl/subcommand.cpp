@@ -13,6 +13,8 @@ ExitStatus runCheckConfig(const QStringList &arguments, Console &console);
 ExitStatus runCheckDb(const QStringList &arguments, Console &console);
 /// Reports which lines of an export the plugin would drop or misread.
 ExitStatus runCheckFile(const QStringList &arguments, Console &console);
+/// Reports what differs between two exports.
+ExitStatus runDiff(const QStringList &arguments, Console &console);
 /// Reports what the plugin makes of one person, step by step.
 ExitStatus runExplain(const QStringList &arguments, Console &console);
 /// Sets or clears the flag that forces a synchronisation.
@@ -94,6 +96,7 @@ const QVector<Subcommand> &subcommands()
          runCheckConfig},
         {"check-file", "Check an HR export for what the plugin would drop or misread",
          runCheckFile},
+        {"diff", "Show what differs between two HR exports, as the plugin reads them", runDiff},
         {"check-db", "Check that the attendance database is what the plugin relies on", runCheckDb},
         {"explain", "Explain what the plugin makes of a person, step by step", runExplain},
         {"preview", "Show what a synchronisation would change, by running it on a copy",

@@ -3,6 +3,7 @@
 #include "mirovahrctl/report/rules/checkconfigrules.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
+#include "mirovahrctl/report/rules/diffrules.h"
 #include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/rules/forcerules.h"
 #include "mirovahrctl/report/rules/gaterules.h"
@@ -25,6 +26,7 @@ const QVector<RuleGroup> &ruleGroups()
     static const QVector<RuleGroup> groups{
         {"check-config", listOf(CheckConfigRules::kAll)},
         {"check-file", listOf(CheckFileRules::kAll)},
+        {"diff", listOf(DiffRules::kAll)},
         {"check-db", listOf(CheckDbRules::kAll)},
         {"explain", listOf(ExplainRules::kAll), "check-file"},
         {"preview", listOf(PreviewRules::kAll)},

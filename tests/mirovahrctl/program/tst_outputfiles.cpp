@@ -119,6 +119,7 @@ void TestOutputFiles::everyFileOfTheCommandLineIsSuchAFile_data()
     const QString exportPath = m_bench.exportFile().path();
     QTest::newRow("check-file") << QStringList{"check-file", exportPath}
                                 << QStringList{"html", "rejects"};
+    QTest::newRow("diff") << QStringList{"diff", exportPath, exportPath} << QStringList{"html"};
     QTest::newRow("explain") << QStringList{"explain", "1234.1", exportPath} + m_bench.arguments()
                              << QStringList{"html"};
     QTest::newRow("preview") << QStringList{"preview", exportPath} + m_bench.arguments()

@@ -75,7 +75,7 @@ void TestUnreadableExport::init()
 void TestUnreadableExport::addSubcommands()
 {
     QTest::addColumn<QString>("subcommand");
-    for (const char *subcommand : {"check-file", "explain", "gate", "preview"})
+    for (const char *subcommand : {"check-file", "diff", "explain", "gate", "preview"})
         QTest::newRow(subcommand) << subcommand;
 }
 
@@ -83,6 +83,8 @@ QStringList TestUnreadableExport::arguments(const QString &subcommand)
 {
     if (subcommand == "check-file")
         return {subcommand, exportPath()};
+    if (subcommand == "diff")
+        return {subcommand, m_bench.iniPath(), exportPath()};
     if (subcommand == "explain")
         return QStringList{subcommand, "1234.1", exportPath()} + m_bench.arguments();
     if (subcommand == "preview")
@@ -137,7 +139,7 @@ void TestUnreadableExport::aReadErrorIsReportedWhereverItOccurs_data()
 {
     QTest::addColumn<QString>("subcommand");
     // preview reads as the worker does, and takes its time.
-    for (const char *subcommand : {"check-file", "explain", "gate"})
+    for (const char *subcommand : {"check-file", "diff", "explain", "gate"})
         QTest::newRow(subcommand) << subcommand;
 }
 
@@ -167,6 +169,7 @@ void TestUnreadableExport::aFileOfManyGigabytesIsRefused_data()
     const QString tooLong = "'%1' cannot be read to its end: it is longer than 1 GiB, and the "
                             "plugin reads no further.";
     QTest::newRow("check-file") << "check-file" << 2 << tooLong;
+    QTest::newRow("diff") << "diff" << 2 << tooLong;
     QTest::newRow("explain") << "explain" << 2 << tooLong;
     QTest::newRow("gate") << "gate" << 5
                           << "The file is larger than 1 GiB; the plugin reads no further. "
@@ -197,6 +200,7 @@ void TestUnreadableExport::aPipeThatTakesThePlaceOfTheExportIsNoFile_data()
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("complaint");
     QTest::newRow("check-file") << "check-file" << 2 << "There is no file '%1'";
+    QTest::newRow("diff") << "diff" << 2 << "There is no file '%1'";
     QTest::newRow("explain") << "explain" << 2 << "There is no file '%1'";
     QTest::newRow("gate") << "gate" << 5 << "There is no file '%1'";
     QTest::newRow("preview") << "preview" << 2 << "'%1' cannot be read to its end: ";

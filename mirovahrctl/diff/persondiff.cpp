@@ -1,0 +1,82 @@
+#include "mirovahrctl/diff/persondiff.h"
+
+#include "mirovahrctl/comparison/comparedpeople.h"
+#include "mirovahrctl/comparison/differencetables.h"
+#include "mirovahrctl/comparison/fieldwords.h"
+#include "mirovahrctl/export/fieldreading.h"
+#include "mirovahrctl/export/personname.h"
+
+namespace {
+
+using People = ComparedPeople;
+
+bool isNamed(const MirovaRonRecord &record, const QString &id)
+{
+    return id == record.getPamId() || id == QString::number(record.osobniCislo)
+        || (record.getPid() != 0 && id == QString::number(record.getPid()));
+}
+
+/// What the plugin makes of a value; empty when it reads what is there.
+QString outcome(int field, const QString &text)
+{
+    if (FieldReading::kindOf(field, text) != FieldReading::Kind::Misread)
+        return {};
+    return QStringLiteral("Misread: ") + FieldReading::consequence(field);
+}
+
+Table tableOf(const ComparedPeople &people, int person)
+{
+    static const QStringList names = ExportLine::fieldNames();
+    Table table{QStringLiteral("fields"),
+                {{QStringLiteral("field"), QStringLiteral("Field")},
+                 {QStringLiteral("meaning"), QStringLiteral("Meaning")},
+                 {QStringLiteral("before"), QStringLiteral("Before")},
+                 {QStringLiteral("now"), QStringLiteral("Now")},
+                 {QStringLiteral("outcome"), QStringLiteral("What the plugin makes of it")}},
+                {}};
+    const auto text = [&](People::Side side, int field) {
+        return people.isIn(side, person) ? people.text(side, person, field) : QString();
+    };
+    for (int field = ExportLine::Titul; field < ExportLine::kFieldCount; ++field) {
+        const QString before = text(People::Before, field);
+        const QString now = text(People::Now, field);
+        if (before == now)
+            continue;
+        table.rows.append({names.at(field), FieldWords::of(field), shownValue(field, before),
+                           shownValue(field, now), outcome(field, now)});
+    }
+    return table;
+}
+
+QString sentenceOf(const ComparedPeople &people, int person)
+{
+    if (!people.isIn(People::Before, person))
+        return QStringLiteral("The person is new.");
+    if (!people.isIn(People::Now, person))
+        return QStringLiteral("The person is missing from the newer export.");
+    return people.isUnchanged(person) ? QStringLiteral("Nothing has changed.")
+                                      : QStringLiteral("These fields differ:");
+}
+
+} // namespace
+
+QVector<int> peopleNamed(const ComparedPeople &people, const QString &id)
+{
+    QVector<int> named;
+    const QVector<int> all = people.inOrder();
+    for (const int person : all) {
+        if (isNamed(people.latest(person), id))
+            named.append(person);
+    }
+    return named;
+}
+
+void reportPerson(const ComparedPeople &people, int person, ReportWriter &report)
+{
+    const MirovaRonRecord record = people.latest(person);
+    report.section(QStringLiteral("person-") + record.getPamId(), personName(record));
+    report.sentence(sentenceOf(people, person));
+    const Table table = tableOf(people, person);
+    if (!table.rows.isEmpty())
+        report.table(table);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "mirovahrctl/report/rule.h"
+
+/// The rules of diff.
+namespace DiffRules {
+
+inline constexpr Rule kMisread{"values-misread", Severity::Warning,
+                               "Values of the newer export are misread that were not before.",
+                               "check-file names the lines and what is wrong with each."};
+
+inline constexpr Rule kBalancesMultiplied{
+    "balances-multiplied", Severity::Warning,
+    "Many balances are the same multiple, or the same fraction, of what they were.",
+    "Ask HR whether they are hours instead of days, or have lost their decimal points."};
+
+/// All of them, in the order of `mirovahrctl rules`.
+inline constexpr const Rule *kAll[] = {
+    &kMisread,
+    &kBalancesMultiplied,
+};
+
+} // namespace DiffRules
