@@ -5,8 +5,11 @@
 /// What a text does to the plugin's SQL statements, which contain texts unescaped.
 namespace SqlHazards {
 
-/// True when the text contains a placeholder such as "%1", which the plugin fills in with another
-/// value of the statement.
+/// Where the first placeholder from there on begins, such as "%1" or "%L1", which the plugin fills
+/// in with another value of the statement; -1 when there is none.
+int placeholderAt(const QString &text, int from);
+
+/// True when the text contains a placeholder.
 bool hasPlaceholder(const QString &text);
 
 /// True when the text contains a character above U+FFFF, such as an emoji: with the client library
