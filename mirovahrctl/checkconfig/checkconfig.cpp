@@ -34,11 +34,7 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
                        "plugin. A change takes effect at the next start of the server."));
     report.table(check.keys());
 
-    const QVector<Finding> findings = check.findings();
-    if (!findings.isEmpty())
-        report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
-    for (const Finding &finding : findings)
-        report.finding(finding);
+    report.addSection(QStringLiteral("findings"), QStringLiteral("Findings"), check.findings());
     return report.conclude(report.findingsStatus(), verdict(report.findingsStatus()));
 }
 

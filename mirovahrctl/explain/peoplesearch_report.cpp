@@ -22,11 +22,11 @@ QVariantList row(const FoundPerson &found)
 
 void reportNobody(const PeopleSearch &search, Report &report)
 {
-    report.finding(makeFinding(
+    report.add(
         ExplainRules::kNobodyFound,
         QStringLiteral(
             "Nobody in the export or in the database has this name, personal number or pid: %1.")
-            .arg(Wording::quoted(search.text()))));
+            .arg(Wording::quoted(search.text())));
 }
 
 void reportTable(const PeopleSearch &search, Report &report)
@@ -45,8 +45,8 @@ void reportTable(const PeopleSearch &search, Report &report)
         report.sentence(
             QStringLiteral("There are more; these are the first %1.").arg(PeopleSearch::kMost));
     }
-    report.finding(makeFinding(ExplainRules::kPersonAmbiguous,
-                               QStringLiteral("The search does not name exactly one person.")));
+    report.add(ExplainRules::kPersonAmbiguous,
+               QStringLiteral("The search does not name exactly one person."));
 }
 
 } // namespace

@@ -113,16 +113,15 @@ void PersonExplanation::explainConfiguration()
     report.section(QStringLiteral("configuration"), QStringLiteral("Configuration"));
     report.sentence(m_source.configuration.origin());
     if (!configuration.enabled) {
-        report.finding(
-            makeFinding(ExplainRules::kDisabled,
-                        QStringLiteral("The plugin is disabled: nobody is synchronised. What "
-                                       "follows applies once it is enabled.")));
+        report.add(ExplainRules::kDisabled,
+                   QStringLiteral("The plugin is disabled: nobody is synchronised. What "
+                                  "follows applies once it is enabled."));
     }
     if (configuration.testMode) {
-        report.finding(makeFinding(
+        report.add(
             ExplainRules::kTestMode,
             QStringLiteral(
-                "Test mode is on: rows of people are not written, only what depends on them.")));
+                "Test mode is on: rows of people are not written, only what depends on them."));
     }
 }
 
@@ -155,9 +154,9 @@ void PersonExplanation::explainGate()
             .arg(file.isGateOfCommand() ? QStringLiteral(" of syncCommand") : QString(),
                  admitted ? QStringLiteral(", on ") + Phrases::day(*admitted) : QString()));
     if (status && status->isRefused()) {
-        report.finding(makeFinding(ExplainRules::kGateRefused,
-                                   QStringLiteral("The gate has refused a newer file: %1.")
-                                       .arg(status->reasons().join(QStringLiteral("; ")))));
+        report.add(ExplainRules::kGateRefused,
+                   QStringLiteral("The gate has refused a newer file: %1.")
+                       .arg(status->reasons().join(QStringLiteral("; "))));
     }
 }
 
@@ -170,11 +169,11 @@ void PersonExplanation::explainExport(const PersonLines &lines)
     for (const CheckedLine &line : lines.lines())
         explainLine(line);
     if (lines.more() > 0) {
-        m_context.report.finding(
-            makeFinding(ExplainRules::kLinesNotExplained,
-                        QStringLiteral("%1 more about the same person are not explained: the facts "
-                                       "are those of the first %2.")
-                            .arg(lineCount(lines.more()), lineCount(PersonLines::kMost))));
+        m_context.report.add(
+            ExplainRules::kLinesNotExplained,
+            QStringLiteral("%1 more about the same person are not explained: the facts "
+                           "are those of the first %2.")
+                .arg(lineCount(lines.more()), lineCount(PersonLines::kMost)));
     }
     explainOthers(lines);
 }
@@ -240,9 +239,8 @@ void PersonExplanation::explainLine(const CheckedLine &line)
 void PersonExplanation::explainAbsence()
 {
     if (!m_context.person.row()) {
-        m_context.report.finding(
-            makeFinding(ExplainRules::kNotInDatabase,
-                        QStringLiteral("The person is not in the database either.")));
+        m_context.report.add(ExplainRules::kNotInDatabase,
+                             QStringLiteral("The person is not in the database either."));
     } else if (m_hasExport) {
         m_context.report.sentence(
             QStringLiteral("The plugin leaves people alone who are missing from the export: it "
@@ -337,11 +335,11 @@ void PersonExplanation::writeRecalculation()
     const qint64 before = m_context.person.lastCalculationBefore();
     const qint64 after = m_context.person.lastCalculation();
     if (after > before && before != 0) {
-        report.finding(makeFinding(
+        report.add(
             ExplainRules::kCalculationForward,
             QStringLiteral("The last calculation moves forward from %1 to %2. Days in between that "
                            "are not calculated yet stay uncalculated.")
-                .arg(Phrases::day(before), Phrases::day(after))));
+                .arg(Phrases::day(before), Phrases::day(after)));
     }
     report.fact(QStringLiteral("lastCalculation"), QStringLiteral("Last calculation is set"),
                 after == before      ? QStringLiteral("kept")

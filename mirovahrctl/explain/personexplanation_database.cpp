@@ -73,19 +73,18 @@ void reportRecognition(ExplainContext &context)
     const auto &known = context.person.known();
     const bool seesRow = row && row->active;
     if (known && !seesRow) {
-        context.report.finding(makeFinding(
+        context.report.add(
             ExplainRules::kPayrollIdStrange,
             QStringLiteral(
                 "An active row with another pid has the payroll id %1. The plugin recognises it as "
                 "this person, but writes by pid: it changes nobody, or somebody else.")
                 .arg(known->getPamId()),
-            QStringLiteral("Correct pid and pamId of that row.")));
+            QStringLiteral("Correct pid and pamId of that row."));
     } else if (seesRow && !known) {
-        context.report.finding(
-            makeFinding(ExplainRules::kPayrollIdStrange,
-                        QStringLiteral("The payroll id of the row belongs to another pid: the "
-                                       "plugin does not recognise the person in it."),
-                        QStringLiteral("Correct pamId of the row.")));
+        context.report.add(ExplainRules::kPayrollIdStrange,
+                           QStringLiteral("The payroll id of the row belongs to another pid: the "
+                                          "plugin does not recognise the person in it."),
+                           QStringLiteral("Correct pamId of the row."));
     } else if (row && !row->active) {
         context.report.sentence(
             QStringLiteral("The plugin sees active people only, so it does not see this row."));

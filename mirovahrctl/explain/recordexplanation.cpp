@@ -100,8 +100,3 @@ void RecordExplanation::say(const QString &sentence)
 {
     m_context.report.sentence(sentence);
 }
-
-void RecordExplanation::addFinding(const Rule &rule, const QString &message)
-{
-    m_context.report.finding(makeFinding(rule, message));
-}

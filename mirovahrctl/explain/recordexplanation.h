@@ -70,7 +70,6 @@ private:
 
     void section(const char *id, const char *heading);
     void say(const QString &sentence);
-    void addFinding(const Rule &rule, const QString &message);
     /// Whether the plugin handles the record at all.
     bool isHandled() const { return m_differences.changed || m_person.isForced(); }
     bool isPerson(const char *word) const { return m_outcome.person == QLatin1String(word); }

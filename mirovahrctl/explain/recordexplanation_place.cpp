@@ -57,7 +57,7 @@ void RecordExplanation::explainPlace()
     const quint32 bid = m_context.view.worker().bidOfBranch(m_record.stredisko);
     if (bid == 0) {
         m_outcome.branch = QStringLiteral("unknown");
-        addFinding(
+        m_context.report.add(
             ExplainRules::kBranchUnknown,
             QStringLiteral("No branch has the number %1 of the cost centre. The log says: %2")
                 .arg(QString::number(m_record.stredisko),
@@ -93,7 +93,7 @@ void RecordExplanation::explainNewMember(quint32 bid)
     // The plugin keeps 16 bits of a branch id when it adds members.
     const auto number = static_cast<ushort>(bid);
     if (number != bid) {
-        addFinding(
+        m_context.report.add(
             ExplainRules::kBranchIdLarge,
             QStringLiteral("The id of the branch is above 65535: %1.")
                 .arg(number == 0
@@ -126,7 +126,7 @@ bool RecordExplanation::explainCalendar(quint32 bid)
     const quint32 gid = m_context.view.worker().dbGetGroupIdByCalendar(bid, m_record.kalendar);
     if (gid == 0) {
         m_outcome.calendar = QStringLiteral("unknown");
-        addFinding(
+        m_context.report.add(
             ExplainRules::kCalendarUnknown,
             QStringLiteral("The branch's master group has no group for the calendar %1. The log "
                            "says: %2")
@@ -141,12 +141,13 @@ bool RecordExplanation::explainCalendar(quint32 bid)
         explainPlan(gid);
         return true;
     }
-    addFinding(ExplainRules::kPersonMissing,
-               QStringLiteral("The database has nobody with the pid %1 for whom the group could be "
-                              "planned. The log says: %2")
-                   .arg(QString::number(m_person.pid()),
-                        QString::asprintf(RecordLog::kPlanNotAdded,
-                                          qUtf8Printable(m_record.getString(false)))));
+    m_context.report.add(
+        ExplainRules::kPersonMissing,
+        QStringLiteral("The database has nobody with the pid %1 for whom the group could be "
+                       "planned. The log says: %2")
+            .arg(QString::number(m_person.pid()),
+                 QString::asprintf(RecordLog::kPlanNotAdded,
+                                   qUtf8Printable(m_record.getString(false)))));
     return false;
 }
 
@@ -213,7 +214,7 @@ void RecordExplanation::explainRecalculation()
 void RecordExplanation::requestRecalculation(bool moves, bool isCorrected)
 {
     if (!m_person.exists()) {
-        addFinding(
+        m_context.report.add(
             ExplainRules::kPersonMissing,
             QStringLiteral("The database has nobody with the pid %1 whose attendance could be "
                            "calculated again. The log says: %2")

@@ -77,7 +77,7 @@ void RecordExplanation::explainLeaver()
     m_outcome.person =
         m_person.exists() ? QStringLiteral("unchanged") : QStringLiteral("never-created");
     if (m_person.isAdded()) {
-        addFinding(
+        m_context.report.add(
             ExplainRules::kLeftAlready,
             QStringLiteral("An earlier line has created the person or made the row active. The "
                            "plugin looks people up once in a synchronisation, so it does not "
@@ -103,7 +103,7 @@ void RecordExplanation::explainHarmfulText(const QString &stateText)
         say(QStringLiteral("But a text of the line, reported above, breaks the statement: it fails "
                            "or writes something else."));
     } else if (m_isHarmful) {
-        addFinding(
+        m_context.report.add(
             ExplainRules::kStateBreaksStatement,
             QStringLiteral("The text of the relationship state, %1, breaks the statement: it "
                            "fails or writes something else.")
@@ -270,7 +270,7 @@ void RecordExplanation::explainPayroll()
 {
     const QStringList exports = payrollExports(m_context.view.database());
     if (exports.size() != 1 || m_record.getPid() == 0) {
-        addFinding(
+        m_context.report.add(
             ExplainRules::kNoPayrollExport,
             QStringLiteral("The person joins no payroll export, because %1. The log says: %2")
                 .arg(exports.size() == 1
@@ -323,14 +323,14 @@ void RecordExplanation::explainPayrollSettings()
 
 void RecordExplanation::explainKeptSettings(ushort settings)
 {
-    m_context.report.finding(makeFinding(
+    m_context.report.add(
         ExplainRules::kPayrollSettingsKept,
         QStringLiteral(
             "The person has these settings already, which the plugin treats as a failure. The log "
             "says: %1")
             .arg(QString::asprintf(RecordLog::kPayrollSettingsFailed,
                                    qUtf8Printable(m_record.getString(false)), m_record.getPid(),
-                                   uint(settings)))));
+                                   uint(settings))));
 }
 
 void RecordExplanation::explainTestMode(const char *operation, const char *what)

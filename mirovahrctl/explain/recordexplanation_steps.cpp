@@ -48,7 +48,7 @@ void RecordExplanation::explainCorrection()
     const bool writable = VacationBalance::correction(m_record.dovolenaZustatek, held, move);
     if (!writable) {
         m_outcome.balance = QStringLiteral("impossible");
-        addFinding(
+        m_context.report.add(
             ExplainRules::kBalanceNotWritten,
             QStringLiteral("The fund holds %1, and no valid correction leads from there to %2 "
                            "days. The balance stays, and the log says: %3")
@@ -97,7 +97,7 @@ void RecordExplanation::explainAdministrator(quint32 aid)
     }
     const quint32 supervisor = m_record.nadrizenyOsobniCislo;
     if (!m_person.exists()) {
-        addFinding(
+        m_context.report.add(
             ExplainRules::kPersonMissing,
             QStringLiteral(
                 "The database has nobody with the pid %1 who could be given a supervisor. The log "
@@ -134,5 +134,5 @@ void RecordExplanation::explainUnknownAdministrator()
         message += QStringLiteral(" The log says: ")
             + QString::asprintf(RecordLog::kAdministratorNotFound, m_record.nadrizenyOsobniCislo);
     }
-    addFinding(ExplainRules::kSupervisorUnknown, message);
+    m_context.report.add(ExplainRules::kSupervisorUnknown, message);
 }

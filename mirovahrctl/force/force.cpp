@@ -81,12 +81,12 @@ void ForceRun::reportFlag(bool wasSet, bool isSet)
                                          "yet, or is synchronising now."));
     }
     if (m_on != isSet) {
-        m_report.finding(makeFinding(
+        m_report.add(
             ForceRules::kChangedMeanwhile,
             m_on ? QStringLiteral("The flag was set and is cleared again: a synchronisation that "
                                   "was already running has just ended and cleared it.")
                  : QStringLiteral(
-                     "The flag was cleared and is set again: somebody else has just set it.")));
+                     "The flag was cleared and is set again: somebody else has just set it."));
     }
 }
 
@@ -103,14 +103,12 @@ void ForceRun::reportPlugin()
                        "is not busy.")
             .arg(Wording::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"))));
     if (!config.enabled) {
-        m_report.finding(makeFinding(
-            ForceRules::kDisabled,
-            QStringLiteral("The configuration disables the plugin: it does not tick.")));
+        m_report.add(ForceRules::kDisabled,
+                     QStringLiteral("The configuration disables the plugin: it does not tick."));
     }
     if (config.testMode) {
-        m_report.finding(
-            makeFinding(ForceRules::kTestMode,
-                        QStringLiteral("Test mode is on: people are only logged, not written.")));
+        m_report.add(ForceRules::kTestMode,
+                     QStringLiteral("Test mode is on: people are only logged, not written."));
     }
     if (m_configuration.exists())
         reportExport();
@@ -123,11 +121,11 @@ void ForceRun::reportExport()
     if (config.runsCommand(true)) {
         m_report.sentence(QStringLiteral("The plugin runs the export command first."));
     } else if (!QFileInfo(path).isFile()) {
-        m_report.finding(makeFinding(
+        m_report.add(
             ForceRules::kNoExport,
             QStringLiteral("There is no export %1 now. Unless HR delivers one before that tick, "
                            "nothing is synchronised, and the flag is cleared even so.")
-                .arg(path)));
+                .arg(path));
     }
 }
 

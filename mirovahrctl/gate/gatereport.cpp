@@ -78,11 +78,8 @@ void reportChanges(Report &report, const GateComparison::Result &changes)
 
 ExitStatus GateReport::writeTo(Report &report) const
 {
-    const QVector<Finding> findings = reasonFindings() + notes();
-    if (!findings.isEmpty())
-        report.section(QStringLiteral("decision"), QStringLiteral("Decision"));
-    for (const Finding &finding : findings)
-        report.finding(finding);
+    report.addSection(QStringLiteral("decision"), QStringLiteral("Decision"),
+                      reasonFindings() + notes());
     if (facts != nullptr)
         reportFacts(report);
     return report.conclude(isAdmitted ? ExitStatus::Fine : ExitStatus::GuardTripped, verdict());

@@ -98,15 +98,14 @@ void PreviewReport::writeWarnings()
 void PreviewReport::warnOfConfiguration()
 {
     if (!m_configuration.values().enabled) {
-        m_report.finding(makeFinding(
+        m_report.add(
             PreviewRules::kDisabled,
             QStringLiteral(
-                "The plugin is disabled in the configuration: it would not synchronise at all.")));
+                "The plugin is disabled in the configuration: it would not synchronise at all."));
     }
     if (m_configuration.values().testMode) {
-        m_report.finding(
-            makeFinding(PreviewRules::kTestMode,
-                        QStringLiteral("Test mode is on: people are only logged, not written.")));
+        m_report.add(PreviewRules::kTestMode,
+                     QStringLiteral("Test mode is on: people are only logged, not written."));
     }
 }
 
@@ -114,30 +113,29 @@ void PreviewReport::noteCopy()
 {
     const PreviewSchema &schema = m_work.schema();
     if (!schema.tablesWithHiddenTriggers.isEmpty()) {
-        m_report.finding(makeFinding(
+        m_report.add(
             PreviewRules::kTriggersHidden,
             QStringLiteral("This account is not allowed to see the triggers of these tables: %1. "
                            "The preview lacks whatever triggers do there.")
-                .arg(schema.tablesWithHiddenTriggers.join(QStringLiteral(", ")))));
+                .arg(schema.tablesWithHiddenTriggers.join(QStringLiteral(", "))));
     }
     if (!schema.tablesOutsideSnapshot.isEmpty()) {
-        m_report.finding(makeFinding(
+        m_report.add(
             PreviewRules::kNoSnapshot,
             QStringLiteral("The engine of these tables does not support snapshots; they were "
                            "copied one after the other: %1.")
-                .arg(schema.tablesOutsideSnapshot.join(QStringLiteral(", ")))));
+                .arg(schema.tablesOutsideSnapshot.join(QStringLiteral(", "))));
     }
     if (!schema.namedViews.isEmpty()) {
-        m_report.finding(makeFinding(
+        m_report.add(
             PreviewRules::kViewNotCopied,
             QStringLiteral("Routines or triggers seem to use views, which are not copied: %1.")
-                .arg(schema.namedViews.join(QStringLiteral(", ")))));
+                .arg(schema.namedViews.join(QStringLiteral(", "))));
     }
     if (release(schema.serverVersion) != release(m_work.copyVersion())) {
-        m_report.finding(makeFinding(
-            PreviewRules::kOtherServer,
-            QStringLiteral("The site's server is version %1, the copy was on version %2.")
-                .arg(schema.serverVersion, m_work.copyVersion())));
+        m_report.add(PreviewRules::kOtherServer,
+                     QStringLiteral("The site's server is version %1, the copy was on version %2.")
+                         .arg(schema.serverVersion, m_work.copyVersion()));
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QVector>
 
 struct Finding;
+struct Rule;
 
 /// A table of a report. An invalid QVariant is an empty cell.
 struct Table {
@@ -47,4 +48,9 @@ public:
     virtual void fact(const QString &id, const QString &label, const QVariant &value) = 0;
     /// Ends the report. \a verdict is the result in one plain sentence.
     virtual void end(ExitStatus status, const QString &verdict) = 0;
+
+    /// A finding as makeFinding() makes it.
+    void add(const Rule &rule, const QString &message, const QString &advice = QString());
+    /// A section of these findings; nothing without any.
+    void addSection(const QString &id, const QString &heading, const QVector<Finding> &findings);
 };

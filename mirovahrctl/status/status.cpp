@@ -162,10 +162,8 @@ ExitStatus StatusRun::report(const StatusData &data, const StatusAssessment &ass
     reportDatabase(m_report, data);
     if (m_gate)
         reportGate(m_report, *m_gate);
-    if (!assessment.findings.isEmpty())
-        m_report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
-    for (const Finding &finding : assessment.findings)
-        m_report.finding(finding);
+    m_report.addSection(QStringLiteral("findings"), QStringLiteral("Findings"),
+                        assessment.findings);
     return m_report.conclude(m_report.findingsStatus(),
                              assessment.findings.isEmpty()
                                  ? QStringLiteral("No findings.")
