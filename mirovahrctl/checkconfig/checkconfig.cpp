@@ -35,7 +35,7 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
     report.table(check.keys());
 
     report.addSection(QStringLiteral("findings"), QStringLiteral("Findings"), check.findings());
-    return report.conclude(report.findingsStatus(), verdict(report.findingsStatus()));
+    return report.conclude(verdict(report.findingsStatus()));
 }
 
 } // namespace

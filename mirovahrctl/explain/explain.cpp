@@ -123,7 +123,7 @@ std::optional<ExitStatus> ExplainRun::search(SqlSession &site)
         return std::nullopt;
     m_report.begin(m_line.subcommand(), QStringLiteral("Who is %1?").arg(m_search->text()));
     const QString verdict = m_search->reportPeople(m_report);
-    return m_report.conclude(m_report.findingsStatus(), verdict);
+    return m_report.conclude(verdict);
 }
 
 ExitStatus ExplainRun::explain(SqlSession &site)
@@ -146,7 +146,7 @@ ExitStatus ExplainRun::explain(SqlSession &site)
     const QString verdict = explanation.explain(m_lines ? &*m_lines : nullptr);
     if (!view.errorString().isEmpty())
         return failView();
-    return m_report.conclude(m_report.findingsStatus(), verdict);
+    return m_report.conclude(verdict);
 }
 
 std::optional<ExitStatus> ExplainRun::readExport(SqlSession &site)

@@ -69,7 +69,7 @@ ExitStatus ForceRun::run()
     reportFlag(*before, *after);
     if (m_on && *after)
         reportPlugin();
-    return m_report.conclude(m_report.findingsStatus(), verdict(*after));
+    return m_report.conclude(verdict(*after));
 }
 
 void ForceRun::reportFlag(bool wasSet, bool isSet)

@@ -72,7 +72,7 @@ ExitStatus PreviewCommand::run()
         if (const auto end = file->finish(m_console))
             return *end;
     }
-    return m_report.conclude(m_report.findingsStatus(), report.verdict());
+    return m_report.conclude(report.verdict());
 }
 
 /// The connection to the site is closed as soon as the copy exists.

@@ -40,6 +40,8 @@ public:
     /// Ends the report and saves the page. Returns the status to end with: the given one, or Usage
     /// when the page could not be written, and the error was printed.
     ExitStatus conclude(ExitStatus status, const QString &verdict);
+    /// The same with findingsStatus().
+    ExitStatus conclude(const QString &verdict) { return conclude(findingsStatus(), verdict); }
 
 private:
     Report(const CommandLine &line, Console &console);

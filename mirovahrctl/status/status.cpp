@@ -164,8 +164,7 @@ ExitStatus StatusRun::report(const StatusData &data, const StatusAssessment &ass
         reportGate(m_report, *m_gate);
     m_report.addSection(QStringLiteral("findings"), QStringLiteral("Findings"),
                         assessment.findings);
-    return m_report.conclude(m_report.findingsStatus(),
-                             assessment.findings.isEmpty()
+    return m_report.conclude(assessment.findings.isEmpty()
                                  ? QStringLiteral("No findings.")
                                  : QStringLiteral("The plugin's work needs attention."));
 }
