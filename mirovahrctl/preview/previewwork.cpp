@@ -130,8 +130,6 @@ void PreviewWork::take(QtMsgType type, const QString &text, QIODevice *log)
         log->write(QStringLiteral("%1\t%2\n").arg(levelOf(type), text).toUtf8());
     if (type != QtWarningMsg && type != QtCriticalMsg)
         return;
-    Finding warning = makeFinding(
+    m_warnings += makeFinding(
         type == QtWarningMsg ? PreviewRules::kPluginWarning : PreviewRules::kPluginError, text);
-    warning.advice.clear(); // the same below every message helps nobody
-    m_warnings += warning;
 }

@@ -19,11 +19,11 @@ inline constexpr Rule kOtherServer{"other-server", Severity::Note,
 
 inline constexpr Rule kPluginError{
     "plugin-error", Severity::Error, "The plugin logged an error during the synchronisation.",
-    "Find the cause by the text, which is that of the plugin's log."};
+    "The text is that of the plugin's log: docs/operations.md says what it means and what to do."};
 
 inline constexpr Rule kPluginWarning{
     "plugin-warning", Severity::Warning, "The plugin logged a warning during the synchronisation.",
-    "Find the cause by the text, which is that of the plugin's log."};
+    "The text is that of the plugin's log: docs/operations.md says what it means and what to do."};
 
 inline constexpr Rule kTestMode{"test-mode", Severity::Warning,
                                 "Test mode is on: people are only logged, not written.",
