@@ -62,11 +62,10 @@ QString verdict(const DbAssessment &check)
         : QStringLiteral("The");
     if (check.seriousCount() == 0)
         return QStringLiteral("%1 database meets the plugin's requirements.").arg(begin);
-    return QStringLiteral("%1 plugin can work with this database; %2 to look at.")
+    return QStringLiteral("%1 plugin can work with this database; %2.")
         .arg(begin,
-             check.seriousCount() == 1
-                 ? QStringLiteral("there is one thing")
-                 : QStringLiteral("there are %1 things").arg(check.seriousCount()));
+             Wording::counted(check.seriousCount(), QStringLiteral("finding needs attention"),
+                              QStringLiteral("findings need attention")));
 }
 
 ExitStatus check(const CommandLine &line, Report &report, Console &console)

@@ -65,11 +65,9 @@ QString verdict(const ExportScan::Counts &counts, ExitStatus status)
         return QStringLiteral("The export is fine.");
     if (counts.rejected == 0)
         return QStringLiteral("Everybody in the export arrives, but there are findings.");
-    return QStringLiteral(
-               "%1 of the export %2 not arrive as %3 should; the plugin drops %4 of them.")
-        .arg(Wording::counted(counts.rejected, QStringLiteral("line"), QStringLiteral("lines")),
-             counts.rejected == 1 ? QStringLiteral("does") : QStringLiteral("do"),
-             counts.rejected == 1 ? QStringLiteral("it") : QStringLiteral("they"),
+    return QStringLiteral("The export has %1; the plugin drops %2 of them.")
+        .arg(Wording::counted(counts.rejected, QStringLiteral("line with errors"),
+                              QStringLiteral("lines with errors")),
              QString::number(counts.dropped));
 }
 
@@ -161,7 +159,7 @@ void CheckFileRun::report(const CheckedLine &line)
 void CheckFileRun::report(const Finding &finding)
 {
     if (m_countByRule.isEmpty())
-        m_report.section(QStringLiteral("findings"), QStringLiteral("What to look at"));
+        m_report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
     ++m_countByRule[finding.rule];
     m_report.finding(finding);
 }
@@ -179,8 +177,7 @@ void CheckFileRun::conclude(const ExportScan &check)
     m_report.fact(QStringLiteral("records"), QStringLiteral("Read as people"), counts.records);
     m_report.fact(QStringLiteral("dropped"), QStringLiteral("Dropped by the plugin"),
                   counts.dropped);
-    m_report.fact(QStringLiteral("rejected"), QStringLiteral("Not arriving as they should"),
-                  counts.rejected);
+    m_report.fact(QStringLiteral("rejected"), QStringLiteral("Lines with errors"), counts.rejected);
 }
 
 ExitStatus CheckFileRun::commit(const ExportScan::Counts &counts)
@@ -199,9 +196,9 @@ ExitStatus runCheckFile(const QStringList &arguments, Console &console)
 {
     CommandLine line("check-file", kDescription);
     line.addArgument("file", "The export.");
-    line.addOption("rejects", "file",
-                   "Also write the lines that do not arrive as they should into a file, with "
-                   "the reasons, to send to HR.");
+    line.addOption(
+        "rejects", "file",
+        "Also write the lines with errors into a file, with the reasons, to send to HR.");
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

@@ -85,7 +85,7 @@ void PreviewReport::writeDifferences()
 
 void PreviewReport::writeWarnings()
 {
-    m_report.section(QStringLiteral("warnings"), QStringLiteral("What to look at"));
+    m_report.section(QStringLiteral("warnings"), QStringLiteral("Findings"));
     warnOfConfiguration();
     for (const Finding &warning : m_work.warnings())
         m_report.finding(warning);

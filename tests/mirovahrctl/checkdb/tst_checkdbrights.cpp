@@ -160,7 +160,7 @@ void TestCheckDbRights::anAccountThatReadsWholeTablesSeesAllColumns()
     QVERIFY(messages(run).contains("sees no others: brape. "));
     QCOMPARE(run.json().value("verdict").toString(),
              QString("As far as this account can see, the plugin can work with this database; "
-                     "there is one thing to look at."));
+                     "1 finding needs attention."));
 }
 
 void TestCheckDbRights::everyRightThatThePluginLacksIsFound_data()

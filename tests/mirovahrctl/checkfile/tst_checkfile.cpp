@@ -319,7 +319,7 @@ void TestCheckFile::aGoodExportIsFine()
                  + QString(10 + m_export->path().size(), '=')
                  + "\n\nSummary\n-------\n"
                    "Lines: 2\nRead as people: 2\nDropped by the plugin: 0\n"
-                   "Not arriving as they should: 0\n\nThe export is fine.\n");
+                   "Lines with errors: 0\n\nThe export is fine.\n");
     QCOMPARE(run.err, QString());
 }
 
@@ -365,7 +365,7 @@ void TestCheckFile::theTextReportIsComplete()
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(
         run.out.section('\n', 2),
-        QString("\nWhat to look at\n---------------\n"
+        QString("\nFindings\n--------\n"
                 "line 1, DatumVystupu (1234.1 Jana Nováková): warning: The plugin cannot read "
                 "\"31.3.2021\" as a "
                 "date: the person counts as not leaving. [bad-date]\n"
@@ -379,7 +379,7 @@ void TestCheckFile::theTextReportIsComplete()
                 "bad-date            1\n"
                 "no-final-line-feed  1\n"
                 "Lines: 1\nRead as people: 1\nDropped by the plugin: 0\n"
-                "Not arriving as they should: 0\n"
+                "Lines with errors: 0\n"
                 "\nEverybody in the export arrives, but there are findings.\n"));
 }
 

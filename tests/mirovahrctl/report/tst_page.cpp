@@ -59,8 +59,8 @@ QString TestPage::page(const QByteArray &exportContent)
 void TestPage::theBrowserUnderstandsThePage()
 {
     const QString dom = m_browser.dom(m_findings);
-    QVERIFY2(dom.contains("<p class=\"verdict findings\">2 lines of the export do not arrive as "
-                          "they should; the plugin drops 1 of them.</p>"),
+    QVERIFY2(dom.contains("<p class=\"verdict findings\">The export has 2 lines with errors; the "
+                          "plugin drops 1 of them.</p>"),
              qPrintable(dom));
     QCOMPARE(dom.count("<table class=\"findings\">"), 1);
     QCOMPARE(dom.count("<tr><td data-label=\"Line\">"), 4);
