@@ -4,6 +4,11 @@
 
 namespace TepDbContract {
 
+QString Column::fullName() const
+{
+    return QString::fromLatin1(table) + QLatin1Char('.') + QString::fromLatin1(name);
+}
+
 QStringList names(const char *list)
 {
     return QString::fromLatin1(list).split(QLatin1Char(' '), Qt::SkipEmptyParts);

@@ -50,9 +50,10 @@ struct Written {
     Kind kind = Kind::Nothing;
     double from = 0; ///< the smallest number, or second since 1970
     double to = 0; ///< the largest
-    int length = 0; ///< characters of the longest text that is known; 0 for HR's texts
+    int length = 0; ///< characters of the plugin's own longest text; 0 for texts of others
     const char *owner = ""; ///< the column whose ids are written: "people.uid"
-    const char *key = ""; ///< of the INI file, where that determines the value
+    const char *key = ""; ///< the key or group of the INI file that determines the value
+    int room = 0; ///< for texts of the INI file: characters that reference-db/schema.sql grants
     bool null = false; ///< also NULL
     bool isNow = false; ///< the moment of writing, UNIX_TIMESTAMP()
 };
@@ -80,6 +81,9 @@ struct Column {
     Written written = {};
     const char *label = ""; ///< its name for people
     Shown shown = Shown::Plain;
+
+    /// "people.uid"
+    QString fullName() const;
 };
 
 enum class RoutineKind { Function, Procedure };
@@ -133,7 +137,7 @@ constexpr Written idOf(const char *owner)
     return {Kind::Id, 0, 0, 0, owner};
 }
 
-/// A text of the plugin's own, or with the longest that is known.
+/// A text of the plugin's own.
 constexpr Written text(int length)
 {
     return {Kind::Text, 0, 0, length};
@@ -151,11 +155,17 @@ constexpr Written orNull(Written written)
     return written;
 }
 
-/// A value that a key or group of the INI file determines. \a written is what any could be.
+/// A value of the INI file.
 constexpr Written configured(const char *key, Written written)
 {
     written.key = key;
     return written;
+}
+
+/// A text of the INI file, of any length.
+constexpr Written configuredText(const char *key, int room)
+{
+    return {Kind::Text, 0, 0, 0, "", key, room};
 }
 
 // clang-format off
@@ -217,10 +227,10 @@ inline constexpr Column kColumns[] = {
     {"people", "editor",     U,         number(0, 0), "last changed by", Shown::Editor},
     {"people", "rsBegin",    S | I | U, orNull(day()), "relationship state from", Shown::Day},
     {"people", "rsEnd",      S | I | U, orNull(day()), "relationship state until", Shown::Day},
-    {"people", "rsText",     S | I | U, text(29), "relationship state"}, // the longest built-in one
+    {"people", "rsText",     S | I | U, configuredText("MES", 120), "relationship state"},
     {"people", "type",       S | I | U, number(0, 4), "employment type"},
-    {"people", "did",        S | I | U, orNull(number(0, 1)), "department"},
-    {"people", "calendarID", S | I | U, number(0, kUnsigned16), "HR's calendar"},
+    {"people", "did",        S | I | U, configured("departmentId", orNull(number(1, kUnsigned32))), "department"},
+    {"people", "calendarID", S | I | U, number(0, kUnsigned32), "HR's calendar"},
     {"people", "bid",        S | I | U, orNull(number(0, kUnsigned16)), "home branch", Shown::Branch},
     {"people", "status",     S | U,     number(0, 1), "active", Shown::YesNo},
     {"people", "lastCalc",   S | U,     day(), "attendance recalculated from", Shown::DayAfter},
@@ -347,6 +357,17 @@ constexpr const char *labelOf(std::string_view table, std::string_view name)
             return column.label;
     }
     throw "no such column";
+}
+
+/// The column into which the plugin writes the value of a key, or the texts of a group, of the INI
+/// file. Does not compile for one that is not written.
+constexpr const Column &columnOfKey(std::string_view key)
+{
+    for (const Column &column : kColumns) {
+        if (column.written.key == key)
+            return column;
+    }
+    throw "no such key";
 }
 
 } // namespace TepDbContract

@@ -1,5 +1,6 @@
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
@@ -16,7 +17,9 @@ constexpr char kDescription[] =
     "Check twice. First connect as the plugin does: with its account, its connect options\n"
     "and its time zone (TZ). That account sees only the columns on which it has rights. A\n"
     "column without a default value that the site added makes every new row fail; only a\n"
-    "second check finds it, with an account that reads whole tables and --other-account.";
+    "second check finds it, with an account that reads whole tables and --other-account.\n"
+    "With --config the check is about the department and the relationship states of that\n"
+    "configuration, and otherwise about any.";
 
 DbRules::Account accountOf(const CommandLine &line)
 {
@@ -24,27 +27,32 @@ DbRules::Account accountOf(const CommandLine &line)
 }
 
 /// False when the tables are not complete enough for their data to be checked.
-bool checkSchema(DbAssessment &check, DbRules::Account account)
+bool checkSchema(DbAssessment &check, DbRules::Account account,
+                 const PluginConfiguration *configuration)
 {
     DbSchema schema;
     if (!schema.load(check.sql()))
         return false;
     const int violationsBefore = check.violationCount();
     DbRules::checkTables(check, schema);
-    DbRules::checkColumns(check, schema);
+    DbRules::checkColumns(check, schema, configuration != nullptr);
     DbRules::checkKeys(check, schema);
     DbRules::checkKeylessTables(check, schema, DbRules::readKeySettings(check));
     if (account == DbRules::Account::OfThePlugin)
         DbRules::checkRights(check, schema);
-    return check.violationCount() == violationsBefore;
+    const bool readable = check.violationCount() == violationsBefore;
+    if (configuration != nullptr)
+        DbRules::checkConfiguration(check, schema, *configuration);
+    return readable;
 }
 
-void checkAll(DbAssessment &check, DbRules::Account account)
+void checkAll(DbAssessment &check, DbRules::Account account,
+              const PluginConfiguration *configuration)
 {
     DbRules::checkServer(check);
     DbRules::checkConnection(check);
     DbRules::checkTime(check);
-    const bool readable = checkSchema(check, account);
+    const bool readable = checkSchema(check, account, configuration);
     DbRules::checkRoutines(check, account);
     if (readable)
         DbRules::checkContent(check);
@@ -70,13 +78,18 @@ QString verdict(const DbAssessment &check)
 
 ExitStatus check(const CommandLine &line, Report &report, Console &console)
 {
+    PluginConfiguration configuration;
+    if (line.isSet("config")) {
+        if (const auto end = configuration.read(line, console))
+            return *end;
+    }
     SiteDatabase site;
     if (const auto end = site.open(line, DatabaseAccess::ReadOnly, console))
         return *end;
     const QSqlDatabase &db = site.sql().database();
     report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
     DbAssessment check(db, report);
-    checkAll(check, accountOf(line));
+    checkAll(check, accountOf(line), line.isSet("config") ? &configuration : nullptr);
     if (check.sql().failed())
         return console.fail(ExitStatus::NoDatabase, check.sql().failure());
     return report.conclude(check.isContractBroken() ? ExitStatus::ContractBroken
@@ -90,6 +103,7 @@ ExitStatus runCheckDb(const QStringList &arguments, Console &console)
 {
     CommandLine line("check-db", kDescription);
     line.addFlag("other-account", "The account is not the plugin's: do not check its rights.");
+    line.addOption("config", "file", "The plugin's INI file, whose values must fit the columns.");
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

@@ -5,6 +5,7 @@
 
 class DbAssessment;
 class DbSchema;
+class PluginConfiguration;
 
 /// What a database server is, by what its VERSION() returns.
 struct ServerVersion {
@@ -34,7 +35,10 @@ void checkServer(DbAssessment &check);
 void checkConnection(DbAssessment &check);
 void checkTime(DbAssessment &check);
 void checkTables(DbAssessment &check, const DbSchema &schema);
-void checkColumns(DbAssessment &check, const DbSchema &schema);
+/// Leaves the values of the INI file to checkConfiguration() when they are known.
+void checkColumns(DbAssessment &check, const DbSchema &schema, bool configurationIsKnown);
+void checkConfiguration(DbAssessment &check, const DbSchema &schema,
+                        const PluginConfiguration &configuration);
 void checkKeys(DbAssessment &check, const DbSchema &schema);
 /// Reads the settings that decide whether tables without a primary key work.
 ServerSettings readKeySettings(DbAssessment &check);

@@ -15,17 +15,6 @@ namespace {
 
 using TepDbContract::Kind;
 
-QString fieldName(const TepDbContract::Column &column)
-{
-    return QString::fromLatin1(column.table) + QLatin1Char('.') + QString::fromLatin1(column.name);
-}
-
-/// Null when the site has no such column.
-const DbColumn *find(const DbSchema &schema, const TepDbContract::Column &column)
-{
-    return schema.column(QString::fromLatin1(column.table), QString::fromLatin1(column.name));
-}
-
 QString shown(double number)
 {
     return QString::number(number, 'f', 0);
@@ -36,23 +25,6 @@ QString shown(const ColumnRange &range)
     return range.from == range.to
         ? shown(range.from)
         : QStringLiteral("%1 to %2").arg(shown(range.from), shown(range.to));
-}
-
-void reportWrongKind(DbAssessment &check, const QString &field, const DbColumn &column,
-                     const QString &kind)
-{
-    check.reportViolation(CheckDbRules::kColumnKind, field,
-                          QStringLiteral("The column %1 is %2; the plugin writes %3 into it")
-                              .arg(field, column.fullType, kind));
-}
-
-void reportTooNarrow(DbAssessment &check, const QString &field, const QString &message)
-{
-    check.report(
-        CheckDbRules::kColumnTooNarrow, field,
-        message
-            + QStringLiteral(
-                ". Values that do not fit are refused, or altered where no strict SQL mode is on"));
 }
 
 QString day(double seconds)
@@ -71,114 +43,152 @@ QString heldTimes(const ColumnRange &held, const ColumnRange &written)
                       : QStringLiteral("up to %1").arg(day(held.to));
 }
 
-void checkNumbers(DbAssessment &check, const QString &field, const DbColumn &column,
-                  const ColumnRange &written, const QString &meaning)
-{
-    const auto held = ColumnRange::of(column);
-    if (!held) {
-        reportWrongKind(check, field, column, QStringLiteral("numbers"));
-    } else if (!held->holds(written)) {
-        reportTooNarrow(check, field,
-                        QStringLiteral("The column %1 is %2; the plugin writes %3 into it (%4)")
-                            .arg(field, column.fullType, shown(written), meaning));
-    }
-}
-
-void checkTimes(DbAssessment &check, const QString &field, const DbColumn &column,
-                const ColumnRange &written, const QString &meaning)
-{
-    const auto held = ColumnRange::of(column);
-    if (!held) {
-        reportWrongKind(check, field, column, QStringLiteral("numbers"));
-    } else if (!held->holds(written)) {
-        reportTooNarrow(check, field,
-                        QStringLiteral("The column %1 (%2) is %3, which holds only times %4; the "
-                                       "plugin may write others into it")
-                            .arg(field, meaning, column.fullType, heldTimes(*held, written)));
-    }
-}
-
-void checkNull(DbAssessment &check, const QString &field, const DbColumn &column)
-{
-    if (column.nullable)
-        return;
-    check.reportViolation(CheckDbRules::kColumnNotNull, field,
-                          QStringLiteral("The column %1 does not allow NULL, which the plugin "
-                                         "writes where HR leaves a value open")
-                              .arg(field));
-}
-
-/// The ids that a column holds, given as "people.uid".
-ColumnRange idsOf(const DbSchema &schema, const QString &owner)
-{
-    const DbColumn *const column =
-        schema.column(owner.section(QLatin1Char('.'), 0, 0), owner.section(QLatin1Char('.'), 1));
-    const auto held = column == nullptr ? std::nullopt : ColumnRange::of(*column);
-    return {0, held.value_or(ColumnRange()).to};
-}
-
 bool isText(const DbColumn &column)
 {
     return column.type.endsWith(QLatin1String("char"))
         || column.type.endsWith(QLatin1String("text"));
 }
 
-void checkCharset(DbAssessment &check, const QString &field, const DbColumn &column)
-{
-    if (column.charset.startsWith(QLatin1String("utf8")))
-        return;
-    check.report(
-        CheckDbRules::kColumnCharset, field,
-        QStringLiteral("The column %1 has the character set %2: letters that it lacks are refused, "
-                       "or stored as question marks where no strict SQL mode is on")
-            .arg(field, column.charset));
-}
-
-void checkText(DbAssessment &check, const QString &field, const DbColumn &column, int length)
-{
-    if (!isText(column)) {
-        reportWrongKind(check, field, column, QStringLiteral("texts"));
-        return;
+/// Checks a column that the plugin writes and the site has.
+class ColumnCheck {
+public:
+    ColumnCheck(DbAssessment &check, const DbSchema &schema, const TepDbContract::Column &need,
+                const DbColumn &column)
+        : m_check(check)
+        , m_schema(schema)
+        , m_written(need.written)
+        , m_label(QString::fromLatin1(need.label))
+        , m_column(column)
+        , m_field(need.fullName())
+    {
     }
-    if (column.length < length) {
-        reportTooNarrow(
-            check, field,
-            QStringLiteral("The column %1 is %2; the plugin writes up to %3 characters into it")
-                .arg(field, column.fullType)
-                .arg(length));
-    }
-    checkCharset(check, field, column);
-}
 
-void checkColumn(DbAssessment &check, const DbSchema &schema, const TepDbContract::Column &need)
-{
-    const DbColumn *const column = find(schema, need);
-    if (column == nullptr)
-        return;
-    const QString field = fieldName(need);
-    const QString label = QString::fromLatin1(need.label);
-    const TepDbContract::Written &written = need.written;
-    const QString owner = QString::fromLatin1(written.owner);
-    switch (written.kind) {
-    case Kind::Nothing:
-        break;
-    case Kind::Number:
-        checkNumbers(check, field, *column, {written.from, written.to}, label);
-        break;
-    case Kind::Time:
-        checkTimes(check, field, *column, {written.from, written.to}, label);
-        break;
-    case Kind::Id:
-        checkNumbers(check, field, *column, idsOf(schema, owner),
+    /// The values of the INI file are known, and checked elsewhere.
+    void leaveOutConfiguration()
+    {
+        if (!isConfigured())
+            return;
+        // For people whom it merges, the plugin writes the department 1 all the same.
+        m_written.to = m_written.from;
+        m_written.null = false;
+    }
+
+    void run()
+    {
+        switch (m_written.kind) {
+        case Kind::Nothing:
+            break;
+        case Kind::Number:
+        case Kind::Time:
+            checkNumbers({m_written.from, m_written.to}, m_label);
+            break;
+        case Kind::Id:
+            checkIds(QString::fromLatin1(m_written.owner));
+            break;
+        case Kind::Text:
+            checkText();
+            break;
+        }
+        if (m_written.null)
+            checkNull();
+    }
+
+private:
+    bool isConfigured() const { return *m_written.key != '\0'; }
+
+    void checkIds(const QString &owner)
+    {
+        const DbColumn *const column = m_schema.column(owner.section(QLatin1Char('.'), 0, 0),
+                                                       owner.section(QLatin1Char('.'), 1));
+        const auto held = column == nullptr ? std::nullopt : ColumnRange::of(*column);
+        checkNumbers({0, held.value_or(ColumnRange()).to},
                      QStringLiteral("what %1 holds").arg(owner));
-        break;
-    case Kind::Text:
-        checkText(check, field, *column, written.length);
-        break;
     }
-    if (written.null)
-        checkNull(check, field, *column);
-}
+
+    void checkNumbers(const ColumnRange &written, const QString &meaning)
+    {
+        const auto held = ColumnRange::of(m_column);
+        if (!held)
+            reportWrongKind(QStringLiteral("numbers"));
+        else if (!held->holds(written) && m_written.kind == Kind::Time)
+            reportNarrowTimes(*held, written);
+        else if (!held->holds(written))
+            reportTooNarrow(
+                QStringLiteral("the plugin writes %1 into it (%2)").arg(shown(written), meaning));
+    }
+
+    void checkText()
+    {
+        if (!isText(m_column)) {
+            reportWrongKind(QStringLiteral("texts"));
+            return;
+        }
+        if (m_column.length < m_written.length)
+            reportTooNarrow(QStringLiteral("the plugin writes up to %1 characters into it")
+                                .arg(m_written.length));
+        checkCharset();
+    }
+
+    void checkCharset()
+    {
+        if (m_column.charset.startsWith(QLatin1String("utf8")))
+            return;
+        m_check.report(CheckDbRules::kColumnCharset, m_field,
+                       QStringLiteral("The column %1 has the character set %2: letters that it "
+                                      "lacks are refused, or stored as question marks where no "
+                                      "strict SQL mode is on")
+                           .arg(m_field, m_column.charset));
+    }
+
+    void checkNull()
+    {
+        if (m_column.nullable)
+            return;
+        const QString message =
+            QStringLiteral("The column %1 (%2) does not allow NULL, which the plugin writes for "
+                           "people who have none")
+                .arg(m_field, m_label);
+        // The INI file may say that everybody has one.
+        if (isConfigured())
+            m_check.report(CheckDbRules::kColumnNotNull, m_field, message);
+        else
+            m_check.reportViolation(CheckDbRules::kColumnNotNull, m_field, message);
+    }
+
+    void reportWrongKind(const QString &kind)
+    {
+        m_check.reportViolation(CheckDbRules::kColumnKind, m_field,
+                                QStringLiteral("The column %1 is %2; the plugin writes %3 into it")
+                                    .arg(m_field, m_column.fullType, kind));
+    }
+
+    void reportNarrowTimes(const ColumnRange &held, const ColumnRange &written)
+    {
+        reportTooNarrow(QStringLiteral("it holds only times %1, and the plugin may write others "
+                                       "into it (%2)")
+                            .arg(heldTimes(held, written), m_label));
+    }
+
+    void reportTooNarrow(const QString &need)
+    {
+        m_check.report(CheckDbRules::kColumnTooNarrow, m_field,
+                       QStringLiteral("The column %1 is %2; %3. Values that do not fit are "
+                                      "refused, or altered where no strict SQL mode is on")
+                           .arg(m_field, m_column.fullType, need),
+                       isConfigured() ? QStringLiteral("Give the column the type of "
+                                                       "reference-db/schema.sql, or name the "
+                                                       "plugin's INI file with --config, if its "
+                                                       "own value fits.")
+                                      : QString());
+    }
+
+    DbAssessment &m_check;
+    const DbSchema &m_schema;
+    TepDbContract::Written m_written;
+    const QString m_label;
+    const DbColumn &m_column;
+    const QString m_field;
+};
 
 void reportWidths(DbAssessment &check, const DbSchema &schema)
 {
@@ -188,20 +198,32 @@ void reportWidths(DbAssessment &check, const DbSchema &schema)
                  {QStringLiteral("charset"), QStringLiteral("Character set")}},
                 {}};
     for (const TepDbContract::Column &need : TepDbContract::kColumns) {
-        const DbColumn *const column = find(schema, need);
+        const DbColumn *const column = schema.column(need);
         if (need.written.kind == Kind::Text && column != nullptr && isText(*column))
-            table.rows.append({fieldName(need), column->length, column->charset});
+            table.rows.append({need.fullName(), column->length, column->charset});
     }
     check.writer().table(table);
 }
 
 } // namespace
 
-void DbRules::checkColumns(DbAssessment &check, const DbSchema &schema)
+void DbRules::checkColumns(DbAssessment &check, const DbSchema &schema, bool configurationIsKnown)
 {
     check.begin("columns", "Columns");
-    for (const TepDbContract::Column &column : TepDbContract::kColumns)
-        checkColumn(check, schema, column);
-    check.end(QStringLiteral("The columns can hold what the plugin writes."));
+    for (const TepDbContract::Column &need : TepDbContract::kColumns) {
+        const DbColumn *const column = schema.column(need);
+        if (column == nullptr)
+            continue;
+        ColumnCheck columnCheck(check, schema, need, *column);
+        if (configurationIsKnown)
+            columnCheck.leaveOutConfiguration();
+        columnCheck.run();
+    }
+    check.end(configurationIsKnown
+                  ? QStringLiteral("The columns can hold what the plugin writes, except for HR's "
+                                   "texts, which check-file checks.")
+                  : QStringLiteral("The columns can hold what the plugin writes, except for texts: "
+                                   "check-file checks HR's, and --config lets this check those of "
+                                   "the INI file."));
     reportWidths(check, schema);
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/site/dbschema.h"
 
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/site/sqlsession.h"
 
 #include <algorithm>
@@ -82,6 +83,11 @@ const DbColumn *DbSchema::column(const QString &table, const QString &column) co
             return candidate.name.compare(column, Qt::CaseInsensitive) == 0;
         });
     return found == columns->cend() ? nullptr : &*found;
+}
+
+const DbColumn *DbSchema::column(const TepDbContract::Column &column) const
+{
+    return this->column(QString::fromLatin1(column.table), QString::fromLatin1(column.name));
 }
 
 void DbSchema::addKeyColumn(const QStringList &row)

@@ -7,6 +7,10 @@
 
 class SqlSession;
 
+namespace TepDbContract {
+struct Column;
+}
+
 /// A column as the information schema describes it.
 struct DbColumn {
     QString name;
@@ -42,6 +46,7 @@ public:
     QVector<DbColumn> columns(const QString &table) const { return m_columns.value(table); }
     /// Null when it does not exist. The column's name is case-insensitive, as it is for the server.
     const DbColumn *column(const QString &table, const QString &column) const;
+    const DbColumn *column(const TepDbContract::Column &column) const;
     /// The primary and unique keys of a table.
     QVector<DbKey> uniqueKeys(const QString &table) const { return m_keys.value(table); }
     /// Whether the table takes part in transactions.

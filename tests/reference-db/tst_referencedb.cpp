@@ -51,6 +51,7 @@ private Q_SLOTS:
     void theSchemaHasTheUniqueKeysOfTheContractAndNoOther();
     void generatedColumnsAreFilledByTheDatabase();
     void theRoutinesAreThoseOfTheContractAndNoOther();
+    void textsOfTheConfigurationHaveTheRoomOfTheContract();
     void everyTableIsTransactionalAndTakesAnyCharacter();
     void theServerRunsWithItsDefaultSqlMode();
 
@@ -201,6 +202,17 @@ void TestReferenceDb::theRoutinesAreThoseOfTheContractAndNoOther()
                  "  AND p.specific_name = r.specific_name AND p.ordinal_position > 0))"
                  " FROM information_schema.routines r WHERE r.routine_schema = DATABASE()"))),
              sorted(expected));
+}
+
+void TestReferenceDb::textsOfTheConfigurationHaveTheRoomOfTheContract()
+{
+    const TepDbContract::Column column = TepDbContract::columnOfKey("MES");
+    QCOMPARE(m_db.value(QStringLiteral("SELECT character_maximum_length FROM"
+                                       " information_schema.columns WHERE table_schema ="
+                                       " DATABASE() AND table_name = '%1' AND column_name = '%2'")
+                            .arg(column.table, column.name))
+                 .toInt(),
+             column.written.room);
 }
 
 void TestReferenceDb::everyTableIsTransactionalAndTakesAnyCharacter()

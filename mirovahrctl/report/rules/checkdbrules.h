@@ -68,6 +68,11 @@ inline constexpr Rule kConnectionCharset{
     "The connection's character set is not UTF-8: accented letters are stored wrongly.",
     "Check the server's init_connect for SET NAMES."};
 
+inline constexpr Rule kDepartmentTooLarge{
+    "department-too-large", Severity::Error,
+    "The column of the department cannot hold that of the configuration.",
+    "Give the column the type of reference-db/schema.sql, or write a smaller departmentId."};
+
 inline constexpr Rule kFoundRows{
     "found-rows", Severity::Error,
     "The connect options contain CLIENT_FOUND_ROWS, so the plugin miscounts changed rows.",
@@ -199,6 +204,16 @@ inline constexpr Rule kSqlModeNotStrict{
     "No strict SQL mode is on, so values that do not fit are altered silently.",
     "Add STRICT_TRANS_TABLES to the server's sql_mode."};
 
+inline constexpr Rule kStateTextLetters{
+    "state-text-letters", Severity::Error,
+    "The column of the relationship state lacks letters of a text in the configuration.",
+    "Convert the column to utf8mb4."};
+
+inline constexpr Rule kStateTextTooLong{
+    "state-text-too-long", Severity::Error,
+    "The column of the relationship state is shorter than a text in the configuration.",
+    "Shorten the text in the group MES, or widen the column."};
+
 inline constexpr Rule kStatusDefault{
     "status-default", Severity::Error,
     "The default of people.status is not 1, so new people are inactive.",
@@ -255,6 +270,7 @@ inline constexpr const Rule *kAll[] = {
     &kColumnWithoutDefault,
     &kColumnsHidden,
     &kConnectionCharset,
+    &kDepartmentTooLarge,
     &kFoundRows,
     &kGroupsReserved,
     &kIdentityMissing,
@@ -283,6 +299,8 @@ inline constexpr const Rule *kAll[] = {
     &kSqlModeEmptyNull,
     &kSqlModeGroupBy,
     &kSqlModeNotStrict,
+    &kStateTextLetters,
+    &kStateTextTooLong,
     &kStatusDefault,
     &kSupervisorTwice,
     &kTableMissing,

@@ -1,8 +1,6 @@
-#include "db/tepdbcontract.h"
 #include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/testdatabase.h"
-#include "worker/relationshipstate.h"
 
 #include <QJsonDocument>
 #include <QtTest>
@@ -78,7 +76,12 @@ private Q_SLOTS:
     void everyColumnIsRequired();
     void everyKeyIsRequired_data();
     void everyKeyIsRequired();
-    void theLengthsOfTheProgramsOwnTextsAreRight();
+    void whatTheConfigurationWritesFits_data();
+    void whatTheConfigurationWritesFits();
+    void whatTheConfigurationWritesDoesNotFit_data();
+    void whatTheConfigurationWritesDoesNotFit();
+    void lettersOfAStateThatTheColumnLacks();
+    void aConfigurationThatIsNotThereIsBadUsage();
 
     void aDifferentClockIsReported();
     void countingFoundRowsIsAViolation_data();
@@ -95,6 +98,7 @@ private Q_SLOTS:
 private:
     QStringList connection();
     ToolRun check(const QStringList &more = {});
+    ToolRun checkWithConfiguration(const QString &text);
     void apply(const QString &change);
     void compareOnlyFinding(const ToolRun &run, ExitStatus status);
 
@@ -134,6 +138,14 @@ ToolRun TestCheckDb::check(const QStringList &more)
     return runTool(QStringList{"check-db", "--json"} + connection() + more);
 }
 
+ToolRun TestCheckDb::checkWithConfiguration(const QString &text)
+{
+    QTemporaryFile file;
+    if (!file.open() || file.write(text.toUtf8()) < 0 || !file.flush())
+        qFatal("%s cannot be written", qPrintable(file.fileName()));
+    return check({"--config", file.fileName()});
+}
+
 /// Runs the statements of a change, one a line.
 void TestCheckDb::apply(const QString &change)
 {
@@ -169,8 +181,8 @@ void TestCheckDb::theTextReportNamesWhatWasChecked()
           "The connection works as the plugin requires.",
           "The server and this program agree about time.",
           "All tables and columns exist, and new rows can be inserted.",
-          "The columns can hold what the plugin writes.", "people.surname     80          utf8mb4",
-          "The unique keys are as the plugin requires.",
+          "check-file checks HR's, and --config lets this check those of the INI file.",
+          "people.surname     80          utf8mb4", "The unique keys are as the plugin requires.",
           "The server accepts them where they are used.",
           "The account has the rights that the plugin needs, and hardly more.",
           "The routines work as the plugin requires.",
@@ -270,11 +282,12 @@ void TestCheckDb::violationsAreReported_data()
         << "term_sync.ref"
         << "The column term_sync.ref is int(11); the plugin writes texts into it";
     QTest::newRow("an end that must be known")
-        << "ALTER TABLE people MODIFY did INT UNSIGNED NOT NULL DEFAULT 0"
+        << "UPDATE people SET `end` = 0 WHERE `end` IS NULL\n"
+           "ALTER TABLE people MODIFY `end` BIGINT NOT NULL DEFAULT 0"
         << "column-not-null"
-        << "people.did"
-        << "The column people.did does not allow NULL, which the plugin writes where HR leaves a "
-           "value open";
+        << "people.end"
+        << "The column people.end (employed until) does not allow NULL, which the plugin writes "
+           "for people who have none";
 
     QTest::newRow("no key") << "ALTER TABLE brape DROP PRIMARY KEY"
                             << "key-missing"
@@ -400,16 +413,16 @@ void TestCheckDb::warningsAreReported_data()
         << "ALTER TABLE people MODIFY `end` INT NULL"
         << "column-too-narrow"
         << "people.end"
-        << "The column people.end (employed until) is int(11), which holds only times from "
-           "1901-12-13 to 2038-01-19; the plugin may write others into it. Values that do not fit "
-           "are refused, or altered where no strict SQL mode is on";
+        << "The column people.end is int(11); it holds only times from 1901-12-13 to 2038-01-19, "
+           "and the plugin may write others into it (employed until). Values that do not fit are "
+           "refused, or altered where no strict SQL mode is on";
     QTest::newRow("no negative dates")
         << "ALTER TABLE people MODIFY lastCalc BIGINT UNSIGNED NOT NULL DEFAULT 0"
         << "column-too-narrow"
         << "people.lastCalc"
-        << "The column people.lastCalc (attendance recalculated from) is bigint(20) unsigned, "
-           "which holds only times from 1970-01-01 on; the plugin may write others into it. Values "
-           "that do not fit are refused, or altered where no strict SQL mode is on";
+        << "The column people.lastCalc is bigint(20) unsigned; it holds only times from "
+           "1970-01-01 on, and the plugin may write others into it (attendance recalculated from). "
+           "Values that do not fit are refused, or altered where no strict SQL mode is on";
     QTest::newRow("no negative days")
         << "ALTER TABLE atten MODIFY ok TINYINT UNSIGNED NOT NULL DEFAULT 1"
         << "column-too-narrow"
@@ -438,11 +451,31 @@ void TestCheckDb::warningsAreReported_data()
         << "The column brape.uid is smallint(5) unsigned; the plugin writes 0 to 4294967295 into "
            "it (what people.uid holds). Values that do not fit are refused, or altered where no "
            "strict SQL mode is on";
-    QTest::newRow("short texts")
-        << "ALTER TABLE people MODIFY rsText VARCHAR(28) NOT NULL DEFAULT ''"
+    QTest::newRow("a department of 8 bits")
+        << "ALTER TABLE people MODIFY did TINYINT UNSIGNED NULL"
         << "column-too-narrow"
-        << "people.rsText"
-        << "The column people.rsText is varchar(28); the plugin writes up to 29 characters into "
+        << "people.did"
+        << "The column people.did is tinyint(3) unsigned; the plugin writes 1 to 4294967295 into "
+           "it (department). Values that do not fit are refused, or altered where no strict SQL "
+           "mode is on";
+    QTest::newRow("a department that must be known")
+        << "ALTER TABLE people MODIFY did INT UNSIGNED NOT NULL DEFAULT 0"
+        << "column-not-null"
+        << "people.did"
+        << "The column people.did (department) does not allow NULL, which the plugin writes for "
+           "people who have none";
+    QTest::newRow("calendars of 16 bits")
+        << "ALTER TABLE people MODIFY calendarID SMALLINT UNSIGNED NOT NULL DEFAULT 0"
+        << "column-too-narrow"
+        << "people.calendarID"
+        << "The column people.calendarID is smallint(5) unsigned; the plugin writes 0 to "
+           "4294967295 into it (HR's calendar). Values that do not fit are refused, or altered "
+           "where no strict SQL mode is on";
+    QTest::newRow("short texts")
+        << "ALTER TABLE people MODIFY pamId VARCHAR(20) NOT NULL DEFAULT ''"
+        << "column-too-narrow"
+        << "people.pamId"
+        << "The column people.pamId is varchar(20); the plugin writes up to 21 characters into "
            "it. Values that do not fit are refused, or altered where no strict SQL mode is on";
     QTest::newRow("another character set")
         << "ALTER TABLE people MODIFY surname VARCHAR(80) CHARACTER SET latin2 NOT NULL DEFAULT ''"
@@ -801,14 +834,111 @@ void TestCheckDb::everyKeyIsRequired()
     QCOMPARE(run.findings().first().toObject().value("field").toString(), table);
 }
 
-void TestCheckDb::theLengthsOfTheProgramsOwnTextsAreRight()
+void TestCheckDb::whatTheConfigurationWritesFits_data()
 {
-    int longest = 0;
-    for (int code = 0; code <= 65535; ++code)
-        longest =
-            qMax(longest, QString::fromUtf8(RelationshipState::builtInText(ushort(code))).size());
-    QCOMPARE(TepDbContract::findColumn("people", "rsText")->written.length, longest);
-    QCOMPARE(QString("exportPam.4294967295.selPeople").size(), 30);
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("configuration");
+    QTest::newRow("nothing") << "ALTER TABLE people MODIFY did TINYINT NULL"
+                             << "";
+    QTest::newRow("a department") << "ALTER TABLE people MODIFY did TINYINT UNSIGNED NULL"
+                                  << "departmentId=255";
+    QTest::newRow("a department in a column that must have one")
+        << "ALTER TABLE people MODIFY did TINYINT UNSIGNED NOT NULL"
+        << "departmentId=7";
+    QTest::newRow("no department") << "ALTER TABLE people MODIFY did TINYINT UNSIGNED NULL"
+                                   << "departmentId=0";
+    QTest::newRow("a state") << "ALTER TABLE people MODIFY rsText VARCHAR(18) NOT NULL DEFAULT ''"
+                             << "[MES]\n21=\"materská dovolenka\"";
+    QTest::newRow("a state in a column that counts bytes")
+        << "ALTER TABLE people MODIFY rsText TINYTEXT NOT NULL DEFAULT ''"
+        << "[MES]\n21=\"" + QString(127, u'á') + '"';
+}
+
+void TestCheckDb::whatTheConfigurationWritesFits()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, configuration);
+    apply(change);
+    const ToolRun run = checkWithConfiguration(configuration);
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.findings(), QJsonArray());
+}
+
+void TestCheckDb::whatTheConfigurationWritesDoesNotFit_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("configuration");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("a department")
+        << "ALTER TABLE people MODIFY did TINYINT UNSIGNED NULL"
+        << "departmentId=256"
+        << "department-too-large"
+        << "people.did"
+        << "The column people.did is tinyint(3) unsigned and cannot hold the department of the "
+           "configuration, 256: nobody is created or updated, or everybody gets another department "
+           "where no strict SQL mode is on";
+    QTest::newRow("no department")
+        << "ALTER TABLE people MODIFY did TINYINT UNSIGNED NOT NULL"
+        << "departmentId=0"
+        << "column-not-null"
+        << "people.did"
+        << "The column people.did does not allow NULL, which the plugin writes because "
+           "departmentId is 0 in the configuration";
+    QTest::newRow("a state") << "ALTER TABLE people MODIFY rsText VARCHAR(17) NOT NULL DEFAULT ''"
+                             << "[MES]\n021=\"materská dovolenka\"\n22=\"rodičovská\""
+                             << "state-text-too-long"
+                             << "people.rsText"
+                             << "The column people.rsText is varchar(17); the text of register "
+                                "state 21 in the configuration is longer, \"materská dovolenka\": "
+                                "people in this state are refused, or their text is cut where no "
+                                "strict SQL mode is on";
+    const QString longText(128, u'á');
+    QTest::newRow("a state in a column that counts bytes")
+        << "ALTER TABLE people MODIFY rsText TINYTEXT NOT NULL DEFAULT ''"
+        << "[MES]\n21=\"" + longText + '"' << "state-text-too-long"
+        << "people.rsText"
+        << "The column people.rsText is tinytext; the text of register state 21 in the "
+           "configuration is longer, \""
+            + QString(60, u'á')
+            + "\"…: people in this state are "
+              "refused, or their text is cut where no strict SQL mode is on";
+}
+
+void TestCheckDb::whatTheConfigurationWritesDoesNotFit()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, configuration);
+    apply(change);
+    compareOnlyFinding(checkWithConfiguration(configuration), ExitStatus::ContractBroken);
+}
+
+void TestCheckDb::lettersOfAStateThatTheColumnLacks()
+{
+    m_db.run("ALTER TABLE people MODIFY rsText VARCHAR(120) CHARACTER SET latin1 NOT NULL"
+             " DEFAULT ''");
+    ToolRun run = checkWithConfiguration("[MES]\n21=\"materská dovolenka\"");
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.rules(), QStringList("column-charset"));
+
+    run = checkWithConfiguration("[MES]\n22=\"rodičovská dovolenka\"");
+    COMPARE_EXIT(run, ExitStatus::ContractBroken);
+    QCOMPARE(run.rules(), QStringList({"column-charset", "state-text-letters"}));
+    QCOMPARE(run.findingsOf("state-text-letters").first().value("message").toString(),
+             QString("The column people.rsText has the character set latin1, which lacks letters "
+                     "of the text of register state 22 in the configuration, \"rodičovská "
+                     "dovolenka\": people in this state are refused, or get question marks where "
+                     "no strict SQL mode is on."));
+}
+
+void TestCheckDb::aConfigurationThatIsNotThereIsBadUsage()
+{
+    const ToolRun run = check({"--config", "/nowhere/MirovaHR.ini"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err,
+             QString("mirovahrctl: check-db: There is no file '/nowhere/MirovaHR.ini'.\n"));
 }
 
 void TestCheckDb::aDifferentClockIsReported()
