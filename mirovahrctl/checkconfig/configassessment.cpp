@@ -1,5 +1,6 @@
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/report/rules/checkconfigrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/schedule.h"
@@ -17,6 +18,9 @@ const QLatin1String kFlags[] = {QLatin1String("enabled"), QLatin1String("testMod
 const QLatin1String kNumbers[] = {QLatin1String("timerInterval"), QLatin1String("syncInterval"),
                                   QLatin1String("syncCommandRun"), QLatin1String("departmentId")};
 const QLatin1String kTexts[] = {QLatin1String("importFile"), QLatin1String("syncCommand")};
+
+/// What the narrowest integer type holds.
+constexpr uint kLargestEverywhere = 127;
 
 QStringList knownKeys()
 {
@@ -200,6 +204,12 @@ void ConfigAssessment::checkOperation()
     if (m_config.departmentId == 0) {
         add(CheckConfigRules::kNoDepartment, QStringLiteral("departmentId"),
             QStringLiteral("New and updated people belong to no department."));
+    } else if (m_config.departmentId > kLargestEverywhere) {
+        add(CheckConfigRules::kDepartmentIdLarge, QStringLiteral("departmentId"),
+            QStringLiteral("Whether the database holds the department %1 depends on the type of "
+                           "%2 there: check-db --config reports it.")
+                .arg(QString::number(m_config.departmentId),
+                     TepDbContract::columnOfKey("departmentId").fullName()));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "db/tepdbcontract.h"
 #include "mirovahrctl/export/sqlhazards.h"
 #include "mirovahrctl/report/rules/checkconfigrules.h"
 
@@ -49,12 +50,20 @@ void ConfigAssessment::checkMessageKey(const QString &key)
 void ConfigAssessment::checkMessageText(const QString &key)
 {
     const QString text = m_settings->value(settingsKey(key)).toString();
-    if (!SqlHazards::breaksStatement(text))
-        return;
-    add(CheckConfigRules::kMesTextBreaksSql, settingsKey(key),
-        QStringLiteral("The text contains an apostrophe, a backslash, a percent sign followed by a "
-                       "digit, or a character above U+FFFF. It enters the SQL statement unescaped: "
-                       "nobody in this state can be written."));
+    constexpr const TepDbContract::Column &kColumn = TepDbContract::columnOfKey("MES");
+    if (text.toUcs4().size() > kColumn.written.room) {
+        add(CheckConfigRules::kMesTextTooLong, settingsKey(key),
+            QStringLiteral("The text is longer than the %1 characters that %2 has in "
+                           "reference-db/schema.sql: a column of that length refuses people in "
+                           "this state, or cuts the text.")
+                .arg(QString::number(kColumn.written.room), kColumn.fullName()));
+    }
+    if (SqlHazards::breaksStatement(text)) {
+        add(CheckConfigRules::kMesTextBreaksSql, settingsKey(key),
+            QStringLiteral("The text contains an apostrophe, a backslash, a percent sign followed "
+                           "by a digit, or a character above U+FFFF. It enters the SQL statement "
+                           "unescaped: nobody in this state can be written."));
+    }
 }
 
 void ConfigAssessment::checkMessageCollisions(const QStringList &keys)

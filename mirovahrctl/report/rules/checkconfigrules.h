@@ -5,6 +5,10 @@
 /// The rules of check-config.
 namespace CheckConfigRules {
 
+inline constexpr Rule kDepartmentIdLarge{
+    "department-id-large", Severity::Note,
+    "Not every integer type holds the department id: it depends on the column of the site."};
+
 inline constexpr Rule kDisabled{"disabled", Severity::Warning, "The plugin is switched off.",
                                 "Write enabled=true to switch it on."};
 
@@ -88,6 +92,11 @@ inline constexpr Rule kMesTextBreaksSql{
     "The text of a relationship state breaks the statement that it enters.",
     "Write the text without these characters."};
 
+inline constexpr Rule kMesTextTooLong{
+    "mes-text-too-long", Severity::Warning,
+    "The text of a relationship state is longer than the column of the reference schema.",
+    "Shorten the text, or ask check-db --config whether the column of the site holds it."};
+
 inline constexpr Rule kNoDepartment{"no-department", Severity::Note,
                                     "New and updated people belong to no department."};
 
@@ -167,6 +176,7 @@ inline constexpr Rule kUnquotedSemicolon{
 
 /// All of them, in the order of `mirovahrctl rules`.
 inline constexpr const Rule *kAll[] = {
+    &kDepartmentIdLarge,
     &kDisabled,
     &kFileFormat,
     &kFileMissing,
@@ -185,6 +195,7 @@ inline constexpr const Rule *kAll[] = {
     &kMesKeyWraps,
     &kMesKeysCollide,
     &kMesTextBreaksSql,
+    &kMesTextTooLong,
     &kNoDepartment,
     &kNoGate,
     &kNoMessages,

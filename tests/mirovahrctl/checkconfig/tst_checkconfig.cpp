@@ -148,6 +148,10 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
     key("test mode off", "testMode=false", "test-mode", QString());
     key("no department", "departmentId=0", "no-department", "departmentId");
     key("a department", "departmentId=7", "no-department", QString());
+    key("a department that not every column holds", "departmentId=128", "department-id-large",
+        "departmentId");
+    key("a department that every column holds", "departmentId=127", "department-id-large",
+        QString());
 
     key("a tick of 0 s", "timerInterval=0", "tick-too-short", "timerInterval");
     key("a tick of 1 s", "timerInterval=1", "tick-too-short", QString());
@@ -222,6 +226,9 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
     message("a placeholder in a message", "21=\"100 %1\"", "mes-text-breaks-sql", "MES/21");
     message("an emoji in a message", "21=\"👤\"", "mes-text-breaks-sql", "MES/21");
     message("a plain message", "21=\"100 %\"", "mes-text-breaks-sql", QString());
+    message("a long message", "21=\"" + QString(121, u'á') + '"', "mes-text-too-long", "MES/21");
+    message("the longest message", "21=\"" + QString(120, u'á') + '"', "mes-text-too-long",
+            QString());
 }
 
 void TestCheckConfig::aRuleTripsOnItsFixtureOnly()
