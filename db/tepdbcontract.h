@@ -143,8 +143,8 @@ constexpr Written text(int length)
     return {Kind::Text, 0, 0, length};
 }
 
-/// A text of HR, of any length: check-file checks it.
-constexpr Written hrText()
+/// A text of HR or of the INI file, of any length.
+constexpr Written anyText()
 {
     return text(0);
 }
@@ -155,17 +155,12 @@ constexpr Written orNull(Written written)
     return written;
 }
 
-/// A value of the INI file.
-constexpr Written configured(const char *key, Written written)
+/// A value of the INI file. \a written is what any such file could make of it.
+constexpr Written configured(const char *key, Written written, int room = 0)
 {
     written.key = key;
+    written.room = room;
     return written;
-}
-
-/// A text of the INI file, of any length.
-constexpr Written configuredText(const char *key, int room)
-{
-    return {Kind::Text, 0, 0, 0, "", key, room};
 }
 
 // clang-format off
@@ -215,11 +210,11 @@ inline constexpr Column kColumns[] = {
     {"people", "uid",        S,         {}, "uid"},
     {"people", "pid",        S | I | U, number(0, kUnsigned32), "pid"},
     {"people", "pamId",      S | I | U, text(21), "payroll id"}, // 4294967295.4294967295
-    {"people", "title",      S | I | U, hrText(), "title"},
-    {"people", "name",       S | I | U, hrText(), "first name"},
-    {"people", "surname",    S | I | U, hrText(), "surname"},
-    {"people", "title2",     S | I | U, hrText(), "title after the name"},
-    {"people", "phone",      S | I | U, hrText(), "telephone"},
+    {"people", "title",      S | I | U, anyText(), "title"},
+    {"people", "name",       S | I | U, anyText(), "first name"},
+    {"people", "surname",    S | I | U, anyText(), "surname"},
+    {"people", "title2",     S | I | U, anyText(), "title after the name"},
+    {"people", "phone",      S | I | U, anyText(), "telephone"},
     {"people", "begin",      S | I | U, time(0, kUnsigned32), "employed from", Shown::Day},
     {"people", "end",        S | I | U, orNull(day()), "employed until", Shown::Day},
     {"people", "created",    S | I | U, now(), "created", Shown::Day},
@@ -227,7 +222,7 @@ inline constexpr Column kColumns[] = {
     {"people", "editor",     U,         number(0, 0), "last changed by", Shown::Editor},
     {"people", "rsBegin",    S | I | U, orNull(day()), "relationship state from", Shown::Day},
     {"people", "rsEnd",      S | I | U, orNull(day()), "relationship state until", Shown::Day},
-    {"people", "rsText",     S | I | U, configuredText("MES", 120), "relationship state"},
+    {"people", "rsText",     S | I | U, configured("MES", anyText(), 120), "relationship state"},
     {"people", "type",       S | I | U, number(0, 4), "employment type"},
     {"people", "did",        S | I | U, configured("departmentId", orNull(number(1, kUnsigned32))), "department"},
     {"people", "calendarID", S | I | U, number(0, kUnsigned32), "HR's calendar"},
@@ -307,7 +302,7 @@ inline constexpr Column kColumns[] = {
     {"people_term", "uid", S | I | U, idOf("people.uid")},
 
     {"vars", "name",  S | I | U, text(30)}, // exportPam.4294967295.selPeople
-    {"vars", "value", S | I | U, hrText()},
+    {"vars", "value", S | I | U, anyText()},
 };
 
 inline constexpr Routine kRoutines[] = {

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void theSchemaHasTheUniqueKeysOfTheContractAndNoOther();
     void generatedColumnsAreFilledByTheDatabase();
     void theRoutinesAreThoseOfTheContractAndNoOther();
+    void columnsOfTheContractAreNamedAndReferToEachOther();
     void textsOfTheConfigurationHaveTheRoomOfTheContract();
     void everyTableIsTransactionalAndTakesAnyCharacter();
     void theServerRunsWithItsDefaultSqlMode();
@@ -202,6 +203,20 @@ void TestReferenceDb::theRoutinesAreThoseOfTheContractAndNoOther()
                  "  AND p.specific_name = r.specific_name AND p.ordinal_position > 0))"
                  " FROM information_schema.routines r WHERE r.routine_schema = DATABASE()"))),
              sorted(expected));
+}
+
+void TestReferenceDb::columnsOfTheContractAreNamedAndReferToEachOther()
+{
+    for (const TepDbContract::Column &column : TepDbContract::kColumns) {
+        const bool isShown = QString(column.table) == "people"
+            || column.written.kind == TepDbContract::Kind::Number
+            || column.written.kind == TepDbContract::Kind::Time;
+        QVERIFY2(!isShown || *column.label != '\0', qPrintable(column.fullName()));
+        const QString owner = column.written.owner;
+        QVERIFY2(owner.isEmpty()
+                     || TepDbContract::findColumn(owner.section('.', 0, 0), owner.section('.', 1)),
+                 qPrintable(column.fullName()));
+    }
 }
 
 void TestReferenceDb::textsOfTheConfigurationHaveTheRoomOfTheContract()
