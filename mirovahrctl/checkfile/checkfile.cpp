@@ -1,4 +1,5 @@
 #include "mirovahrctl/export/exportscan.h"
+#include "mirovahrctl/export/namedexport.h"
 #include "mirovahrctl/export/rejectswriter.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
@@ -7,7 +8,6 @@
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/sitedatabase.h"
-#include "worker/importfile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -30,7 +30,6 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> readWidths();
-    std::optional<ExitStatus> openExport();
     bool check(ExportScan &check);
     void report(const CheckedLine &line);
     void report(const Finding &finding);
@@ -87,18 +86,15 @@ ExitStatus CheckFileRun::run()
         return *end;
     ExportScan exportCheck(m_file, m_widths);
     m_report.begin(m_line.subcommand(), QStringLiteral("HR export %1").arg(m_path));
-    if (!check(exportCheck)) {
-        return m_console.fail(ExitStatus::Usage,
-                              QStringLiteral("'%1' cannot be read to its end: %2")
-                                  .arg(m_path, exportCheck.errorString()));
-    }
+    if (!check(exportCheck))
+        return NamedExport::failReading(m_path, exportCheck.errorString(), m_console);
     conclude(exportCheck);
     return commit(exportCheck.counts());
 }
 
 std::optional<ExitStatus> CheckFileRun::prepare()
 {
-    if (const auto end = openExport())
+    if (const auto end = NamedExport::open(m_path, m_file, m_console))
         return end;
     if (const auto end =
             refuseOverwriting(m_path, {m_rejectsFile.fileName(), m_line.pagePath()}, m_console))
@@ -108,22 +104,6 @@ std::optional<ExitStatus> CheckFileRun::prepare()
     if (m_rejectsFile.isOpen())
         m_rejects.begin();
     return readWidths();
-}
-
-std::optional<ExitStatus> CheckFileRun::openExport()
-{
-    QString error;
-    switch (ImportFile::open(m_path, m_file, error)) {
-    case ImportFile::Opening::Done:
-        return std::nullopt;
-    case ImportFile::Opening::NotFound:
-        return m_console.fail(ExitStatus::Usage,
-                              QStringLiteral("There is no file '%1'").arg(m_path));
-    case ImportFile::Opening::Failed:
-        break;
-    }
-    return m_console.fail(ExitStatus::Usage,
-                          QStringLiteral("'%1' cannot be opened: %2").arg(m_path, error));
 }
 
 std::optional<ExitStatus> CheckFileRun::readWidths()

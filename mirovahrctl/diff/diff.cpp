@@ -2,13 +2,13 @@
 #include "mirovahrctl/comparison/exportdifferences.h"
 #include "mirovahrctl/diff/diffreport.h"
 #include "mirovahrctl/diff/persondiff.h"
+#include "mirovahrctl/export/namedexport.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/program/progress.h"
 #include "mirovahrctl/program/report.h"
 #include "worker/boundedlinereader.h"
-#include "worker/importfile.h"
 
 #include <QFile>
 
@@ -36,11 +36,9 @@ public:
     ExitStatus run();
 
 private:
-    std::optional<ExitStatus> open(const QString &path, QFile &file);
     std::optional<ExitStatus> read(QFile &file, ComparedPeople::Side side);
     ExitStatus reportAll();
     ExitStatus reportPeople();
-    ExitStatus fail(const QString &sentence);
 
     const CommandLine &m_line;
     Console &m_console;
@@ -52,9 +50,9 @@ ExitStatus DiffRun::run()
 {
     QFile before;
     QFile now;
-    if (const auto end = open(m_line.argument(0), before))
+    if (const auto end = NamedExport::open(m_line.argument(0), before, m_console))
         return *end;
-    if (const auto end = open(m_line.argument(1), now))
+    if (const auto end = NamedExport::open(m_line.argument(1), now, m_console))
         return *end;
     for (int i = 0; i < 2; ++i) {
         if (const auto end = refuseOverwriting(m_line.argument(i), {m_line.pagePath()}, m_console))
@@ -65,20 +63,6 @@ ExitStatus DiffRun::run()
     if (const auto end = read(now, ComparedPeople::Now))
         return *end;
     return m_line.isSet("person") ? reportPeople() : reportAll();
-}
-
-std::optional<ExitStatus> DiffRun::open(const QString &path, QFile &file)
-{
-    QString error;
-    switch (ImportFile::open(path, file, error)) {
-    case ImportFile::Opening::Done:
-        return std::nullopt;
-    case ImportFile::Opening::NotFound:
-        return fail(QStringLiteral("There is no file '%1'").arg(path));
-    case ImportFile::Opening::Failed:
-        break;
-    }
-    return fail(QStringLiteral("'%1' cannot be opened: %2").arg(path, error));
 }
 
 std::optional<ExitStatus> DiffRun::read(QFile &file, ComparedPeople::Side side)
@@ -92,8 +76,7 @@ std::optional<ExitStatus> DiffRun::read(QFile &file, ComparedPeople::Side side)
     }
     if (!reader.hasFailed())
         return std::nullopt;
-    return fail(QStringLiteral("'%1' cannot be read to its end: %2")
-                    .arg(m_line.argument(side), reader.errorString()));
+    return NamedExport::failReading(m_line.argument(side), reader.errorString(), m_console);
 }
 
 ExitStatus DiffRun::reportAll()
@@ -105,7 +88,7 @@ ExitStatus DiffRun::reportAll()
                        .arg(m_line.argument(1), m_line.argument(0)));
     DiffReport report(m_people, differences, most, m_report);
     report.write();
-    return m_report.conclude(m_report.findingsStatus(), report.verdict());
+    return m_report.conclude(report.verdict());
 }
 
 ExitStatus DiffRun::reportPeople()
@@ -113,16 +96,12 @@ ExitStatus DiffRun::reportPeople()
     const QString id = m_line.value("person");
     const QVector<int> people = peopleNamed(m_people, id);
     if (people.isEmpty())
-        return fail(QStringLiteral("Neither export has a person '%1'").arg(id));
+        return m_console.fail(ExitStatus::Usage,
+                              QStringLiteral("Neither export has a person '%1'").arg(id));
     m_report.begin(m_line.subcommand(), QStringLiteral("Person %1 in two HR exports").arg(id));
     for (const int person : people)
         reportPerson(m_people, person, m_report);
     return m_report.conclude(ExitStatus::Fine, QStringLiteral("This is what the exports say."));
-}
-
-ExitStatus DiffRun::fail(const QString &sentence)
-{
-    return m_console.fail(ExitStatus::Usage, sentence);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "mirovahrctl/explain/personexplanation.h"
 #include "mirovahrctl/explain/personid.h"
 #include "mirovahrctl/explain/personlines.h"
+#include "mirovahrctl/export/namedexport.h"
 #include "mirovahrctl/pluginside/forceflag.h"
 #include "mirovahrctl/pluginside/pluginview.h"
 #include "mirovahrctl/program/commandline.h"
@@ -165,9 +166,7 @@ std::optional<ExitStatus> ExplainRun::readExport(SqlSession &site)
 
 ExitStatus ExplainRun::failExport(const QString &error)
 {
-    return m_console.fail(
-        ExitStatus::Usage,
-        QStringLiteral("'%1' cannot be read to its end: %2").arg(m_source.file.path(), error));
+    return NamedExport::failReading(m_source.file.path(), error, m_console);
 }
 
 } // namespace

@@ -17,8 +17,7 @@ struct DatabaseOptions;
 ///     CommandLine line("check-file", "Reads an HR export ...");
 ///     line.addArgument("file", "The export.");
 ///     line.addReportOptions(CommandLine::Page::Offered);
-///     if (const auto end = line.parse(arguments, console))
-///         return *end;
+///     return Report::run(line, arguments, console, [&](Report &report) { ... });
 class CommandLine {
 public:
     enum class Page { Offered, NotOffered };

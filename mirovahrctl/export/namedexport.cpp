@@ -1,0 +1,25 @@
+#include "mirovahrctl/export/namedexport.h"
+
+#include "mirovahrctl/program/console.h"
+#include "worker/importfile.h"
+
+std::optional<ExitStatus> NamedExport::open(const QString &path, QFile &file, Console &console)
+{
+    QString error;
+    switch (ImportFile::open(path, file, error)) {
+    case ImportFile::Opening::Done:
+        return std::nullopt;
+    case ImportFile::Opening::NotFound:
+        return console.fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(path));
+    case ImportFile::Opening::Failed:
+        break;
+    }
+    return console.fail(ExitStatus::Usage,
+                        QStringLiteral("'%1' cannot be opened: %2").arg(path, error));
+}
+
+ExitStatus NamedExport::failReading(const QString &path, const QString &reason, Console &console)
+{
+    return console.fail(ExitStatus::Usage,
+                        QStringLiteral("'%1' cannot be read to its end: %2").arg(path, reason));
+}
