@@ -29,7 +29,7 @@ public:
 
 private:
     std::optional<ExitStatus> prepare();
-    std::optional<ExitStatus> readWidths();
+    std::optional<ExitStatus> readSite();
     bool check(ExportScan &check);
     void report(const CheckedLine &line);
     void report(const Finding &finding);
@@ -44,6 +44,7 @@ private:
     OutputFile m_rejectsFile;
     RejectsWriter m_rejects;
     ColumnWidths m_widths;
+    SqlTexts::Route m_texts;
     QMap<QString, qint64> m_countByRule;
 };
 
@@ -84,7 +85,7 @@ ExitStatus CheckFileRun::run()
 {
     if (const auto end = prepare())
         return *end;
-    ExportScan exportCheck(m_file, m_widths);
+    ExportScan exportCheck(m_file, m_widths, m_texts);
     m_report.begin(m_line.subcommand(), QStringLiteral("HR export %1").arg(m_path));
     if (!check(exportCheck))
         return NamedExport::failReading(m_path, exportCheck.errorString(), m_console);
@@ -103,10 +104,10 @@ std::optional<ExitStatus> CheckFileRun::prepare()
         return end;
     if (m_rejectsFile.isOpen())
         m_rejects.begin();
-    return readWidths();
+    return readSite();
 }
 
-std::optional<ExitStatus> CheckFileRun::readWidths()
+std::optional<ExitStatus> CheckFileRun::readSite()
 {
     if (!m_line.namesDatabase())
         return std::nullopt;
@@ -117,6 +118,10 @@ std::optional<ExitStatus> CheckFileRun::readWidths()
     m_widths = readColumnWidths(site.sql(), error);
     if (m_widths.isEmpty())
         return m_console.fail(ExitStatus::ContractBroken, error);
+    const auto backslash = readBackslash(site.sql());
+    if (!backslash)
+        return m_console.fail(ExitStatus::NoDatabase, site.sql().failure());
+    m_texts.server = *backslash;
     return std::nullopt;
 }
 

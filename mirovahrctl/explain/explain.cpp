@@ -38,6 +38,7 @@ private:
     std::optional<ExitStatus> readPerson();
     std::optional<ExitStatus> openExport();
     ExitStatus answer(SqlSession &site);
+    std::optional<ExitStatus> readTexts(SqlSession &site);
     std::optional<ExitStatus> search(SqlSession &site);
     ExitStatus explain(SqlSession &site);
     std::optional<ExitStatus> readExport(SqlSession &site);
@@ -100,6 +101,8 @@ std::optional<ExitStatus> ExplainRun::openExport()
 
 ExitStatus ExplainRun::answer(SqlSession &site)
 {
+    if (const auto end = readTexts(site))
+        return *end;
     if (m_search) {
         if (const auto end = search(site))
             return *end;
@@ -109,10 +112,19 @@ ExitStatus ExplainRun::answer(SqlSession &site)
     return explain(site);
 }
 
+std::optional<ExitStatus> ExplainRun::readTexts(SqlSession &site)
+{
+    const auto backslash = readBackslash(site);
+    if (!backslash)
+        return m_console.fail(ExitStatus::NoDatabase, site.failure());
+    m_source.texts = {m_source.file.gateTexts(), *backslash};
+    return std::nullopt;
+}
+
 /// Finds the person; ends with a list unless it is exactly one.
 std::optional<ExitStatus> ExplainRun::search(SqlSession &site)
 {
-    if (hasExport() && !m_search->searchExport(m_source.file.file(), m_console))
+    if (hasExport() && !m_search->searchExport(m_source.file.file(), m_source.texts, m_console))
         return failExport(m_search->errorString());
     m_search->searchDatabase(site);
     if (site.failed())
@@ -159,7 +171,7 @@ std::optional<ExitStatus> ExplainRun::readExport(SqlSession &site)
     if (widths.isEmpty())
         return m_console.fail(ExitStatus::ContractBroken, error);
     m_lines.emplace(*m_person);
-    if (m_lines->find(m_source.file.file(), widths, m_console))
+    if (m_lines->find(m_source.file.file(), widths, m_source.texts, m_console))
         return std::nullopt;
     return failExport(m_lines->errorString());
 }

@@ -42,6 +42,12 @@ QString ExplainedExport::sourceWord() const
     Q_UNREACHABLE();
 }
 
+std::optional<Backslash> ExplainedExport::gateTexts() const
+{
+    // The gate keeps HR's own bytes.
+    return m_source == Source::Gate && m_gateStatus ? m_gateStatus->admittedTexts() : std::nullopt;
+}
+
 /// False also when there is none, without an error then.
 bool ExplainedExport::openFile(const QString &path, Source source)
 {

@@ -37,6 +37,10 @@ public:
     /// The status of the gate's last run, as far as it can be read.
     const std::optional<GateStatus> &gateStatus() const { return m_gateStatus; }
 
+    /// How the gate writes the texts of this file before the plugin reads them; nothing when the
+    /// plugin reads them as they are here.
+    std::optional<Backslash> gateTexts() const;
+
     /// Why open() failed.
     QString errorString() const { return m_error; }
 

@@ -55,12 +55,13 @@ std::optional<PeopleSearch> PeopleSearch::parse(const QString &text)
     return search;
 }
 
-bool PeopleSearch::searchExport(QFile &file, Console &console)
+bool PeopleSearch::searchExport(QFile &file, const SqlTexts::Route &route, Console &console)
 {
     Progress progress(console, QStringLiteral("Searching the export"));
     BoundedLineReader reader(file);
     while (reader.next()) {
-        examine(ExportLine::decode(reader.line()), reader.lineNumber());
+        const QByteArray line = route.atPlugin(QByteArray(reader.line(), reader.length()));
+        examine(ExportLine::decode(line.constData()), reader.lineNumber(), route.server);
         progress.update(file.pos(), file.size());
     }
     m_error = reader.errorString();
@@ -69,7 +70,7 @@ bool PeopleSearch::searchExport(QFile &file, Console &console)
     return m_error.isEmpty();
 }
 
-void PeopleSearch::examine(const QString &line, qint64 number)
+void PeopleSearch::examine(const QString &line, qint64 number, Backslash backslash)
 {
     const ExportLine::Parts parts = ExportLine::split(line, ExportLine::kSeparator);
     MirovaRonRecord record;
@@ -89,7 +90,7 @@ void PeopleSearch::examine(const QString &line, qint64 number)
     }
     QStringList names;
     for (int field = ExportLine::Titul; field <= ExportLine::TitulZa; ++field)
-        names += parts.value(field).toString();
+        names += SqlTexts::shown(parts.value(field).toString(), backslash);
     found.name = names.join(QLatin1Char(' ')).simplified();
     found.line = number;
     if (matches(found))

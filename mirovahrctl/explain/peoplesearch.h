@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mirovahrctl/explain/personid.h"
+#include "mirovahrctl/export/sqltexts.h"
 
 #include <QString>
 #include <QStringList>
@@ -38,9 +39,10 @@ public:
     /// Nothing when the text is neither a number above 0 nor contains a letter.
     static std::optional<PeopleSearch> parse(const QString &text);
 
-    /// False when the export cannot be read to its end; errorString() then says why, a part of a
-    /// sentence without its full stop. The file is at its beginning afterwards.
-    bool searchExport(QFile &file, Console &console);
+    /// \a route: how the texts of the export get into the database. False when it cannot be read to
+    /// its end; errorString() then says why, a part of a sentence without its full stop. The file
+    /// is at its beginning afterwards.
+    bool searchExport(QFile &file, const SqlTexts::Route &route, Console &console);
     QString errorString() const { return m_error; }
     /// Errors are those of the session.
     void searchDatabase(SqlSession &site);
@@ -56,7 +58,7 @@ public:
     QString reportPeople(Report &report) const;
 
 private:
-    void examine(const QString &line, qint64 number);
+    void examine(const QString &line, qint64 number, Backslash backslash);
     void examineRow(const QStringList &row);
     bool matches(const FoundPerson &person) const;
     void add(const FoundPerson &person);

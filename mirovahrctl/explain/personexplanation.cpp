@@ -77,7 +77,7 @@ PersonExplanation::PersonExplanation(const PersonId &person, const ExplainedSour
                                      PluginView &view, Report &report)
     : m_person(person)
     , m_source(source)
-    , m_context{source.configuration.values(), view, report,
+    , m_context{source.configuration.values(), view, report, source.texts.server,
                 PersonState(view, person.pid(), source.isForced)}
 {
 }
@@ -228,7 +228,8 @@ void PersonExplanation::explainLine(const CheckedLine &line)
     report.sentence(line.record
                         ? QStringLiteral("Line %1 of %2 is about %3, pid %4.")
                               .arg(QString::number(line.number), m_source.file.path(),
-                                   personName(*line.record), QString::number(line.record->getPid()))
+                                   personName(SqlTexts::shown(*line.record, m_context.backslash)),
+                                   QString::number(line.record->getPid()))
                         : QStringLiteral("Line %1 of %2 is about the person, but the "
                                          "plugin drops it.")
                               .arg(QString::number(line.number), m_source.file.path()));

@@ -12,6 +12,7 @@
 struct ExplainedSource {
     PluginConfiguration configuration;
     ExplainedExport file; ///< the export
+    SqlTexts::Route texts; ///< how its texts get into the database
     bool isForced = false; ///< the next synchronisation is a forced one
 };
 

@@ -116,7 +116,7 @@ void PersonExplanation::explainRowOnly()
                 {{QStringLiteral("field"), QStringLiteral("Field")},
                  {QStringLiteral("database"), QStringLiteral("In the database")}},
                 {}};
-    const QVector<RowField> fields = compareRowFields(*known, *known);
+    const QVector<RowField> fields = compareRowFields(*known, *known, m_context.backslash);
     for (const RowField &field : fields)
         table.rows.append({field.name, field.held});
     m_context.report.table(table);

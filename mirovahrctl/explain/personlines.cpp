@@ -28,10 +28,11 @@ PersonLines::PersonLines(const PersonId &person)
 {
 }
 
-bool PersonLines::find(QFile &file, const ColumnWidths &widths, Console &console)
+bool PersonLines::find(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route,
+                       Console &console)
 {
     Progress progress(console, QStringLiteral("Reading the export"));
-    ExportScan check(file, widths);
+    ExportScan check(file, widths, route);
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
     const bool read = check.run([this](const CheckedLine &line) { examine(line); });

@@ -21,9 +21,11 @@ public:
 
     explicit PersonLines(const PersonId &person);
 
-    /// Searches the whole export. False when it cannot be read to its end; errorString() then says
-    /// why, a part of a sentence without its full stop.
-    bool find(QFile &file, const ColumnWidths &widths, Console &console);
+    /// Searches the whole export; \a route: how its texts get into the database. False when it
+    /// cannot be read to its end; errorString() then says why, a part of a sentence without its
+    /// full stop.
+    bool find(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route,
+              Console &console);
     QString errorString() const { return m_error; }
 
     /// The lines that the plugin treats as the person's, and dropped lines whose first two fields

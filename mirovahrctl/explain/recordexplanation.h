@@ -12,6 +12,7 @@ struct ExplainContext {
     const Configuration &configuration;
     PluginView &view;
     Report &report;
+    Backslash backslash; ///< what it is to the server
     PersonState person;
 };
 

@@ -35,6 +35,17 @@ Table fieldTable(const QVector<RowField> &fields)
     return table;
 }
 
+template <typename Condition>
+QStringList namesOf(const QVector<RowField> &fields, Condition condition)
+{
+    QStringList names;
+    for (const RowField &field : fields) {
+        if (condition(field))
+            names += field.name;
+    }
+    return names;
+}
+
 /// Whether a text of the line may break its statement.
 bool hasHarmfulText(const CheckedLine &line)
 {
@@ -136,12 +147,11 @@ void RecordExplanation::explainRelationshipState()
 
 void RecordExplanation::explainComparison(const MirovaRonRecord &updated)
 {
-    const QVector<RowField> fields = compareRowFields(updated, *m_person.known());
-    QStringList differing;
-    for (const RowField &field : fields) {
-        if (field.differs)
-            differing += field.name;
-    }
+    const QVector<RowField> fields =
+        compareRowFields(updated, *m_person.known(), m_context.backslash);
+    const QStringList differing = namesOf(fields, [](const RowField &f) { return f.differs; });
+    const QStringList rewritten =
+        namesOf(fields, [](const RowField &f) { return f.differsInWriting(); });
     if (m_person.last()) {
         say(QStringLiteral("The plugin compares with the row as it was before the earlier lines "
                            "changed it."));
@@ -149,6 +159,12 @@ void RecordExplanation::explainComparison(const MirovaRonRecord &updated)
     say(differing.isEmpty() ? QStringLiteral("No field differs from the row.")
                             : QStringLiteral("These fields differ from the row: %1.")
                                   .arg(differing.join(QStringLiteral(", "))));
+    if (!rewritten.isEmpty()) {
+        say(QStringLiteral("The plugin compares a text in the form that the statement needs, with "
+                           "apostrophes and backslashes doubled. Only that makes the difference "
+                           "here, and the same text is written again: %1.")
+                .arg(rewritten.join(QStringLiteral(", "))));
+    }
     m_context.report.table(fieldTable(fields));
 }
 

@@ -1,6 +1,7 @@
 #include "mirovahrctl/explain/rowfields.h"
 
 #include "db/tepdbcontract.h"
+#include "mirovahrctl/export/sqltexts.h"
 #include "worker/recordcomparison.h"
 
 #include <array>
@@ -53,18 +54,20 @@ QString name(const char *label)
 }
 
 template <size_t... Indices>
-QVector<RowField> compare(const Fields &updated, const Fields &known,
+QVector<RowField> compare(const Fields &updated, const Fields &shown, const Fields &known,
                           std::index_sequence<Indices...>)
 {
-    return {RowField{name(kNames[Indices]), value(std::get<Indices>(updated)),
+    return {RowField{name(kNames[Indices]), value(std::get<Indices>(shown)),
                      value(std::get<Indices>(known)),
                      std::get<Indices>(updated) != std::get<Indices>(known)}...};
 }
 
 } // namespace
 
-QVector<RowField> compareRowFields(const MirovaRonRecord &updated, const MirovaRonRecord &known)
+QVector<RowField> compareRowFields(const MirovaRonRecord &updated, const MirovaRonRecord &known,
+                                   Backslash backslash)
 {
-    return compare(RecordComparison::rowFields(updated), RecordComparison::rowFields(known),
-                   std::make_index_sequence<kNames.size()>());
+    const MirovaRonRecord shown = SqlTexts::shown(updated, backslash);
+    return compare(RecordComparison::rowFields(updated), RecordComparison::rowFields(shown),
+                   RecordComparison::rowFields(known), std::make_index_sequence<kNames.size()>());
 }

@@ -1,6 +1,5 @@
 #include "mirovahrctl/export/exportscan.h"
 
-#include "mirovahrctl/export/personname.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
@@ -46,9 +45,9 @@ Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 p
 
 } // namespace
 
-ExportScan::ExportScan(QFile &file, const ColumnWidths &widths)
+ExportScan::ExportScan(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route)
     : m_file(file)
-    , m_lineCheck(widths)
+    , m_lineCheck(widths, route)
     , m_size(file.size())
     , m_pids(m_size)
 {
@@ -146,7 +145,7 @@ void ExportScan::checkRepetition(CheckedLine &line)
         return;
     Finding &finding = isSameRelationship(*first, record) ? addDuplicate(line, *first)
                                                           : addClash(line, *first, record.getPid());
-    finding.subject = personName(record);
+    finding.subject = m_lineCheck.personOf(record);
 }
 
 void ExportScan::report(const CheckedLine &line, const LineListener &listener)

@@ -23,8 +23,8 @@ public:
     /// Gets the bytes done, of the total of both passes.
     using ProgressListener = std::function<void(qint64 done, qint64 total)>;
 
-    /// The file must be open and at its beginning.
-    ExportScan(QFile &file, const ColumnWidths &widths);
+    /// The file must be open and at its beginning. \a route: how its texts get into the database.
+    ExportScan(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route);
 
     /// Without a listener no progress is reported.
     void setProgressListener(const ProgressListener &listener) { m_progress = listener; }

@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/export/fieldreading.h"
 #include "mirovahrctl/export/sqlhazards.h"
+#include "mirovahrctl/export/sqltexts.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/exportline.h"
@@ -33,10 +34,11 @@ QString balanceAdvice(const QString &text)
 } // namespace
 
 FieldRules::FieldRules(const ExportLine::Parts &parts, const MirovaRonRecord &record,
-                       const ColumnWidths &widths, CheckedLine &line)
+                       const ColumnWidths &widths, Backslash backslash, CheckedLine &line)
     : m_parts(parts)
     , m_record(record)
     , m_widths(widths)
+    , m_backslash(backslash)
     , m_line(line)
 {
 }
@@ -101,6 +103,22 @@ void FieldRules::checkTexts()
 void FieldRules::checkText(int field, const char *column)
 {
     const QString text = this->text(field);
+    const auto meant = SqlTexts::meant(text, m_backslash);
+    if (!meant)
+        checkHazards(field, text);
+    if (SqlHazards::hasWideCharacter(text)) {
+        add(field, CheckFileRules::kWideCharacter,
+            QStringLiteral("The text %1 contains a character above U+FFFF, such as an emoji. The "
+                           "connection to the database cannot carry it: the person is not written, "
+                           "or the text is truncated there.")
+                .arg(Wording::quoted(meant.value_or(text))));
+    }
+    checkWidth(field, meant.value_or(text), column);
+}
+
+/// The text is not written as a statement needs it.
+void FieldRules::checkHazards(int field, const QString &text)
+{
     if (text.contains(QLatin1Char('\''))) {
         add(field, CheckFileRules::kQuoteInText,
             QStringLiteral(
@@ -108,7 +126,7 @@ void FieldRules::checkText(int field, const char *column)
                 "the statement fails or does something else: the person is not written.")
                 .arg(Wording::quoted(text)));
     }
-    if (text.contains(QLatin1Char('\\'))) {
+    if (m_backslash == Backslash::Escapes && text.contains(QLatin1Char('\\'))) {
         add(field, CheckFileRules::kBackslashInText,
             QStringLiteral("The text %1 contains a backslash. It enters the SQL statement "
                            "unescaped: the text arrives changed, or the statement fails.")
@@ -121,22 +139,14 @@ void FieldRules::checkText(int field, const char *column)
                 "two with another value: wrong data is written, or the statement fails.")
                 .arg(Wording::quoted(text)));
     }
-    if (SqlHazards::hasWideCharacter(text)) {
-        add(field, CheckFileRules::kWideCharacter,
-            QStringLiteral("The text %1 contains a character above U+FFFF, such as an emoji. The "
-                           "connection to the database cannot carry it: the person is not written, "
-                           "or the text is truncated there.")
-                .arg(Wording::quoted(text)));
-    }
-    checkWidth(field, column);
 }
 
-void FieldRules::checkWidth(int field, const char *column)
+void FieldRules::checkWidth(int field, const QString &stored, const char *column)
 {
     const auto width = m_widths.constFind(QString::fromLatin1(column));
     if (width == m_widths.constEnd())
         return;
-    const int length = m_parts.at(field).toUcs4().size();
+    const int length = stored.toUcs4().size();
     if (length <= *width)
         return;
     add(field, CheckFileRules::kTextTooLong,

@@ -5,10 +5,10 @@
 /// The rules for the fields of one line with the right number of fields.
 class FieldRules {
 public:
-    /// \a record: what the plugin reads from the parts; \a line gets the findings. All four must
-    /// outlive the object.
+    /// \a record: what the plugin reads from the parts; \a line gets the findings. All references
+    /// must outlive the object.
     FieldRules(const ExportLine::Parts &parts, const MirovaRonRecord &record,
-               const ColumnWidths &widths, CheckedLine &line);
+               const ColumnWidths &widths, Backslash backslash, CheckedLine &line);
 
     /// Applies all rules.
     void check();
@@ -18,7 +18,8 @@ private:
     void checkPid();
     void checkTexts();
     void checkText(int field, const char *column);
-    void checkWidth(int field, const char *column);
+    void checkHazards(int field, const QString &text);
+    void checkWidth(int field, const QString &stored, const char *column);
     void checkDates();
     void checkDate(int field, const QDate &date);
     void checkNumber(int field);
@@ -33,5 +34,6 @@ private:
     const ExportLine::Parts &m_parts;
     const MirovaRonRecord &m_record;
     const ColumnWidths &m_widths;
+    const Backslash m_backslash;
     CheckedLine &m_line;
 };

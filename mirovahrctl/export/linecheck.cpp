@@ -14,15 +14,12 @@ namespace {
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 constexpr char kReplacementCharacter[] = "\xEF\xBF\xBD";
 
-/// The bytes of the reader's line without its line ending.
-QByteArray rawLine(const BoundedLineReader &reader)
+/// The bytes without this at their end.
+QByteArray without(char end, QByteArray bytes)
 {
-    QByteArray raw(reader.line(), reader.length());
-    if (raw.endsWith('\n'))
-        raw.chop(1);
-    if (raw.endsWith('\r'))
-        raw.chop(1);
-    return raw;
+    if (bytes.endsWith(end))
+        bytes.chop(1);
+    return bytes;
 }
 
 bool isUtf16(const QByteArray &raw)
@@ -56,6 +53,13 @@ void checkBytes(const QString &text, CheckedLine &line)
         line.add(CheckFileRules::kNotUtf8,
                  QStringLiteral("Some bytes are not UTF-8; each is read as the character \uFFFD."));
     }
+}
+
+void addTooLong(CheckedLine &line)
+{
+    line.add(CheckFileRules::kLineTooLong,
+             QStringLiteral("The line is longer than %1 bytes; the plugin skips it.")
+                 .arg(BoundedLineReader::kLongestLine));
 }
 
 QString fieldCountAdvice(const ExportLine::Parts &parts, int expected)
@@ -93,9 +97,10 @@ Finding &CheckedLine::add(const Rule &rule, const QString &message, const QStrin
     return findings.last();
 }
 
-LineCheck::LineCheck(const ColumnWidths &widths)
+LineCheck::LineCheck(const ColumnWidths &widths, const SqlTexts::Route &route)
     : m_fieldNames(ExportLine::fieldNames())
     , m_widths(widths)
+    , m_route(route)
 {
 }
 
@@ -103,10 +108,10 @@ CheckedLine LineCheck::check(const BoundedLineReader &reader) const
 {
     CheckedLine line;
     line.number = reader.lineNumber();
-    line.raw = rawLine(reader);
-    const QString text = ExportLine::decode(reader.line());
-    checkBytes(text, line);
-    checkText(text, line);
+    const QByteArray bytes = without('\n', QByteArray(reader.line(), reader.length()));
+    line.raw = without('\r', bytes);
+    checkBytes(ExportLine::decode(reader.line()), line);
+    checkArriving(m_route.atPlugin(bytes), line);
     for (Finding &finding : line.findings)
         finding.dropped = line.isDropped();
     return line;
@@ -116,11 +121,23 @@ CheckedLine LineCheck::tooLong(qint64 number)
 {
     CheckedLine line;
     line.number = number;
-    line.add(CheckFileRules::kLineTooLong,
-             QStringLiteral("The line is longer than %1 bytes; the plugin skips it.")
-                 .arg(BoundedLineReader::kLongestLine))
-        .dropped = true;
+    addTooLong(line);
+    line.findings.last().dropped = true;
     return line;
+}
+
+QString LineCheck::personOf(const MirovaRonRecord &record) const
+{
+    return personName(SqlTexts::shown(record, m_route.server));
+}
+
+/// \a arriving: the line without its line feed, as the plugin gets it.
+void LineCheck::checkArriving(const QByteArray &arriving, CheckedLine &line) const
+{
+    if (arriving.size() > BoundedLineReader::kLongestLine)
+        addTooLong(line);
+    else
+        checkText(ExportLine::decode(arriving.constData()), line);
 }
 
 void LineCheck::checkText(const QString &text, CheckedLine &line) const
@@ -154,7 +171,7 @@ void LineCheck::checkParts(const ExportLine::Parts &parts, CheckedLine &line) co
                      "This is a header line; the plugin reads it as a person without a number."));
         return;
     }
-    FieldRules(parts, record, m_widths, line).check();
+    FieldRules(parts, record, m_widths, m_route.server, line).check();
     for (Finding &finding : line.findings)
-        finding.subject = personName(record);
+        finding.subject = personOf(record);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mirovahrctl/export/sqltexts.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/site/columnwidths.h"
 #include "worker/exportline.h"
@@ -16,9 +17,10 @@ class BoundedLineReader;
 /// One line of an export with its findings.
 struct CheckedLine {
     qint64 number = 0; ///< counted from 1
-    QByteArray raw; ///< its bytes without the line ending; empty for a line that is too long
+    /// Its bytes in the export without the line ending; empty for a line that is too long.
+    QByteArray raw;
     bool isBlank = false; ///< only white space: the plugin ignores the line
-    /// What the plugin reads; nothing when it drops the line.
+    /// What the plugin reads, with texts as the gate writes them; nothing when it drops the line.
     std::optional<MirovaRonRecord> record;
     QVector<Finding> findings;
 
@@ -35,8 +37,8 @@ struct CheckedLine {
 /// Checks the lines of an export one by one. Checks that compare lines are in ExportScan.
 class LineCheck {
 public:
-    /// \a widths: the maximum lengths of the texts.
-    explicit LineCheck(const ColumnWidths &widths);
+    /// \a widths: the maximum lengths of the texts; \a route: how they get into the database.
+    LineCheck(const ColumnWidths &widths, const SqlTexts::Route &route);
 
     /// Checks the reader's current line.
     CheckedLine check(const BoundedLineReader &reader) const;
@@ -44,10 +46,15 @@ public:
     /// The result for a line that the reader skipped because it is too long.
     static CheckedLine tooLong(qint64 number);
 
+    /// Payroll id and name of a record that the plugin reads, as HR meant them.
+    QString personOf(const MirovaRonRecord &record) const;
+
 private:
+    void checkArriving(const QByteArray &arriving, CheckedLine &line) const;
     void checkText(const QString &text, CheckedLine &line) const;
     void checkParts(const ExportLine::Parts &parts, CheckedLine &line) const;
 
     const QStringList m_fieldNames;
     const ColumnWidths m_widths;
+    const SqlTexts::Route m_route;
 };

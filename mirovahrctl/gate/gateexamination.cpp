@@ -34,8 +34,10 @@ bool isBroken(const CheckedLine &line)
 
 } // namespace
 
-GateExamination::GateExamination(GateFolder &folder, Console &console)
+GateExamination::GateExamination(GateFolder &folder, const std::optional<Backslash> &texts,
+                                 Console &console)
     : m_folder(folder)
+    , m_texts(texts)
     , m_console(console)
 {
 }
@@ -101,7 +103,7 @@ bool GateExamination::readOld(QFile &file, GateComparison &comparison)
 
 bool GateExamination::readNew(QFile &file, GateComparison &comparison, RejectsWriter &rejects)
 {
-    ExportScan check(file, ColumnWidths());
+    ExportScan check(file, ColumnWidths(), {m_texts, m_texts.value_or(Backslash::Escapes)});
     Progress progress(m_console, QStringLiteral("Checking HR's file"));
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "mirovahrctl/gate/gateassessment.h"
+#include "mirovahrctl/site/backslash.h"
 
 #include <QString>
+
+#include <optional>
 
 class Console;
 class GateFolder;
@@ -13,7 +16,8 @@ class RejectsWriter;
 /// compare with.
 class GateExamination {
 public:
-    GateExamination(GateFolder &folder, Console &console);
+    /// \a texts: how the texts of the new file are written before the plugin reads them.
+    GateExamination(GateFolder &folder, const std::optional<Backslash> &texts, Console &console);
 
     /// Both files are in the folder; the second may be missing. False when one cannot be read;
     /// errorString() then says why, a sentence without its full stop.
@@ -33,6 +37,7 @@ private:
     bool failReading(const QString &what, const QString &reason);
 
     GateFolder &m_folder;
+    const std::optional<Backslash> m_texts;
     Console &m_console;
     GateFacts m_facts;
     bool m_unchanged = false;

@@ -1,6 +1,6 @@
 #include "mirovahrctl/gate/gatepublication.h"
 
-#include "mirovahrctl/gate/gatesource.h"
+#include "worker/boundedlinereader.h"
 
 #include <QFileInfo>
 
@@ -10,11 +10,15 @@ namespace {
 /// everybody, since it holds personal data.
 constexpr mode_t kPermissions = 0640;
 
+/// The longest line that the plugin reads, and its line feed.
+constexpr int kLineCapacity = BoundedLineReader::kLongestLine + 1;
+
 } // namespace
 
-GatePublication::GatePublication(const QString &path)
+GatePublication::GatePublication(const QString &path, const std::optional<Backslash> &texts)
     : m_path(path)
     , m_name(QFileInfo(path).fileName())
+    , m_texts{texts}
     , m_file(m_folder, m_name, kPermissions)
 {
 }
@@ -31,10 +35,9 @@ bool GatePublication::prepare(GateFolder &folder, const QString &copyName)
     bool missing = false;
     if (!folder.openForReading(copyName, source, missing))
         return fail(folder.errorString());
-    if (!m_file.create() || !copy(source) || !m_file.finish())
-        return fail(source.error() == QFileDevice::NoError ? m_file.errorString()
-                                                           : source.errorString());
-    return true;
+    if (!m_file.create())
+        return fail(m_file.errorString());
+    return write(source) && (m_file.finish() || fail(m_file.errorString()));
 }
 
 bool GatePublication::publish()
@@ -42,16 +45,21 @@ bool GatePublication::publish()
     return m_file.putInPlace() || fail(m_file.errorString());
 }
 
-bool GatePublication::copy(QFile &source)
+bool GatePublication::write(QFile &source)
 {
-    for (;;) {
-        const QByteArray piece = source.read(kPieceSize);
-        if (piece.isEmpty())
-            return source.error() == QFileDevice::NoError;
+    for (qint64 size = 0; size <= BoundedLineReader::kMostBytes;) {
+        // A longer line comes in pieces: the plugin skips it, whatever becomes of its texts.
+        const QByteArray line = source.readLine(kLineCapacity);
+        if (line.isEmpty())
+            return source.error() == QFileDevice::NoError || fail(source.errorString());
+        const QByteArray written = m_texts.atPlugin(line);
+        size += written.size();
         // finish() reports why it failed.
-        if (m_file.device().write(piece) != piece.size())
+        if (m_file.device().write(written) != written.size())
             return true;
     }
+    return fail(QStringLiteral("With its texts written for the plugin the file is longer than 1 "
+                               "GiB, and the plugin reads no further"));
 }
 
 bool GatePublication::fail(const QString &error)

@@ -39,11 +39,11 @@ GateRun::GateRun(const CommandLine &line, const GateOptions &options, Report &re
     , m_options(options)
     , m_console(console)
     , m_report(report)
-    , m_publication(options.to)
+    , m_publication(options.to, options.texts)
     , m_source(options.from)
     , m_copy(m_folder, GateCopies::lastAdmitted(), kForOwner)
     , m_rejects(m_rejectsFolder, QFileInfo(options.rejects).fileName(), kForGroup)
-    , m_examination(m_folder, console)
+    , m_examination(m_folder, options.texts, console)
 {
 }
 
@@ -181,7 +181,7 @@ bool GateRun::recordAdmission(const QStringList &overridden)
 {
     const GateStatus::Admission admission{QFileInfo(m_options.from).absoluteFilePath(),
                                           m_examination.facts().counts.lines, m_source.modified(),
-                                          overridden};
+                                          overridden, m_options.texts};
     if (m_examination.isUnchanged())
         m_status.admitAgain(admission);
     else

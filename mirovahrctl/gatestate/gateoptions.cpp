@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/gateoptions.h"
 
+#include "mirovahrctl/gatestate/gatetexts.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/outputfile.h"
@@ -67,6 +68,18 @@ QString readNumbers(const CommandLine &line, GateOptions &options)
     return reader.problem();
 }
 
+QString readTexts(const CommandLine &line, GateOptions &options)
+{
+    if (!line.isSet("texts"))
+        return {};
+    const QString word = line.value("texts");
+    options.texts = GateTexts::ofWord(word);
+    if (GateTexts::words().contains(word))
+        return {};
+    return QStringLiteral("--texts takes one of: %1")
+        .arg(GateTexts::words().join(QStringLiteral(", ")));
+}
+
 QString pathProblem(const GateOptions &options)
 {
     if (options.from.isEmpty())
@@ -127,6 +140,10 @@ void GateOptions::addTo(CommandLine &line)
                    "How many dated copies of admitted files to keep; default: 30.");
     line.addOption("settle", "seconds",
                    "Refuse a file that was written less than this many seconds ago; default: 0.");
+    line.addOption("texts", "form",
+                   "How to write apostrophes, backslashes and placeholders in the texts for the "
+                   "plugin's statements: escaped (default), no-backslash-escapes for a server with "
+                   "that SQL mode, or as-is.");
     line.addFlag("may-end-open",
                  "Accept a last line without a line feed, which otherwise counts as truncated.");
     line.addFlag("accept",
@@ -144,6 +161,8 @@ std::optional<ExitStatus> GateOptions::read(const CommandLine &line, Console &co
     mayEndOpen = line.isSet("may-end-open");
     accept = line.isSet("accept");
     QString problem = readNumbers(line, *this);
+    if (problem.isEmpty())
+        problem = readTexts(line, *this);
     if (problem.isEmpty())
         problem = pathProblem(*this);
     if (problem.isEmpty())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mirovahrctl/report/exitstatus.h"
+#include "mirovahrctl/site/backslash.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -39,6 +40,8 @@ struct GateOptions {
     qint64 copies = 30; ///< dated copies to keep
     qint64 settleSeconds = 0; ///< minimum age of HR's file
     bool mayEndOpen = false; ///< a last line without a line feed does not count as truncated
+    /// How the texts are written in the file that the plugin reads; nothing: as they are.
+    std::optional<Backslash> texts = Backslash::Escapes;
     bool accept = false; ///< admit the file this once, whatever has changed
 
     /// Adds the options to a command line.

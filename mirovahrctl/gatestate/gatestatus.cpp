@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/gatestate/gatefile.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
+#include "mirovahrctl/gatestate/gatetexts.h"
 #include "mirovahrctl/report/moment.h"
 
 #include <QFile>
@@ -18,6 +19,7 @@ const QLatin1String kLastAdmitted("lastAdmitted");
 const QLatin1String kFile("file");
 const QLatin1String kLines("lines");
 const QLatin1String kDelivered("delivered");
+const QLatin1String kTexts("texts");
 
 constexpr char kAdmitted[] = "admitted";
 constexpr char kRefused[] = "refused";
@@ -127,6 +129,11 @@ std::optional<qint64> GateStatus::admittedLines() const
     return readNumber(lastAdmitted().value(kLines));
 }
 
+std::optional<Backslash> GateStatus::admittedTexts() const
+{
+    return GateTexts::ofWord(lastAdmitted().value(kTexts).toString());
+}
+
 bool GateStatus::load(GateFolder &folder)
 {
     const auto content = folder.contentOf(fileName());
@@ -149,15 +156,19 @@ void GateStatus::admit(const Admission &admission)
                {kLines, admission.lines},
                {kDelivered, Moment::exactText(admission.delivered)},
                {kOverridden, withoutFullStops(admission.overridden)},
+               {kTexts, GateTexts::word(admission.texts)},
            });
 }
 
 void GateStatus::admitAgain(const Admission &admission)
 {
-    if (readMoment(lastAdmitted().value(kDelivered)) == admission.delivered)
-        finish(kAdmitted, {}, {}, lastAdmitted());
-    else
+    QJsonObject last = lastAdmitted();
+    if (readMoment(last.value(kDelivered)) != admission.delivered) {
         admit(admission);
+        return;
+    }
+    last.insert(kTexts, GateTexts::word(admission.texts));
+    finish(kAdmitted, {}, {}, last);
 }
 
 bool GateStatus::write(GateFolder &folder, QString &error) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mirovahrctl/site/backslash.h"
+
 #include <QDateTime>
 #include <QJsonObject>
 #include <QString>
@@ -15,7 +17,8 @@ class GateFolder;
 ///     {"result": "admitted" or "refused", "time": when the gate ran last,
 ///      "reasons": [why it refused, ...], "overridden": [what --accept set aside, ...],
 ///      "lastAdmitted": {"time": when, "file": path, "lines": number,
-///                       "delivered": when HR wrote the file, "overridden": [...]}}
+///                       "delivered": when HR wrote the file, "overridden": [...],
+///                       "texts": how they were written for the plugin, see GateTexts}}
 ///
 /// Times are texts such as "2026-11-21T05:10:00+01:00", "delivered" has milliseconds. Reasons are
 /// sentences without their full stops. Members that are missing or of another kind count as not
@@ -42,6 +45,9 @@ public:
     /// The path of the file that was admitted last; empty when it is not known.
     QString admittedFile() const;
     std::optional<qint64> admittedLines() const;
+    /// How the texts of the file that was admitted last are written in the published one; nothing:
+    /// as they are.
+    std::optional<Backslash> admittedTexts() const;
 
     /// Loads what the last run wrote into the gate's folder; nothing of it is known when the file
     /// is missing or is no JSON object. False when reading fails; the folder then says why.
@@ -52,13 +58,14 @@ public:
         qint64 lines = 0;
         QDateTime delivered;
         QStringList overridden;
+        std::optional<Backslash> texts;
     };
     /// This run refuses its file.
     void refuse(const QStringList &reasons);
     /// This run admits its file, which becomes the last admitted one.
     void admit(const Admission &admission);
     /// This run admits a file with the content of the last admitted one. The last admission stays
-    /// unless HR has delivered the same anew.
+    /// unless HR has delivered the same anew; how the texts are written does not.
     void admitAgain(const Admission &admission);
 
     /// Writes the file. False when that fails; \a error then says why, a sentence without its full

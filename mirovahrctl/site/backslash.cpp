@@ -1,9 +1,6 @@
 #include "mirovahrctl/site/backslash.h"
 
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QStringList>
-#include <QVariant>
+#include "mirovahrctl/site/sqlsession.h"
 
 namespace {
 
@@ -11,14 +8,12 @@ constexpr char kSelectSqlMode[] = "SELECT @@SESSION.sql_mode";
 
 } // namespace
 
-std::optional<Backslash> readBackslash(const QSqlDatabase &database, QString &error)
+std::optional<Backslash> readBackslash(SqlSession &site)
 {
-    QSqlQuery query(database);
-    if (!query.exec(QLatin1String(kSelectSqlMode)) || !query.next()) {
-        error = QStringLiteral("The SQL mode cannot be read: %1").arg(query.lastError().text());
+    const QString modes = site.value(QLatin1String(kSelectSqlMode));
+    if (site.failed())
         return std::nullopt;
-    }
-    const QStringList modes = query.value(0).toString().split(QLatin1Char(','));
-    return modes.contains(QLatin1String("NO_BACKSLASH_ESCAPES")) ? Backslash::IsLiteral
-                                                                 : Backslash::Escapes;
+    return modes.split(QLatin1Char(',')).contains(QLatin1String("NO_BACKSLASH_ESCAPES"))
+        ? Backslash::IsLiteral
+        : Backslash::Escapes;
 }

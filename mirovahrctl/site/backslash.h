@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QString>
-
 #include <optional>
 
-class QSqlDatabase;
+class SqlSession;
 
 /// What a backslash in a text is to the database server.
 enum class Backslash {
@@ -12,6 +10,5 @@ enum class Backslash {
     IsLiteral ///< in the SQL mode NO_BACKSLASH_ESCAPES
 };
 
-/// Reads it from the SQL mode of this connection. Nothing when that fails; `error` then says why, a
-/// sentence without its full stop.
-std::optional<Backslash> readBackslash(const QSqlDatabase &database, QString &error);
+/// Reads it from the SQL mode of this connection. Nothing when that fails; the session says why.
+std::optional<Backslash> readBackslash(SqlSession &site);

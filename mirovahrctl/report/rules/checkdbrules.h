@@ -187,7 +187,8 @@ inline constexpr Rule kSeveralStatements{
 
 inline constexpr Rule kSqlModeBackslash{
     "sql-mode-backslash", Severity::Note,
-    "The SQL mode NO_BACKSLASH_ESCAPES is on, so a backslash is stored literally."};
+    "The SQL mode NO_BACKSLASH_ESCAPES is on, so a backslash is stored literally.",
+    "Run the gate with --texts no-backslash-escapes: otherwise it doubles backslashes."};
 
 inline constexpr Rule kSqlModeEmptyNull{
     "sql-mode-empty-null", Severity::Error,

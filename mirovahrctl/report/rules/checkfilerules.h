@@ -44,7 +44,8 @@ inline constexpr Rule kNulByte{"nul-byte", Severity::Error,
 inline constexpr Rule kBackslashInText{
     "backslash-in-text", Severity::Error,
     "A text contains a backslash: it arrives changed, or its statement fails.",
-    "Write the text without \\."};
+    "mirovahrctl gate writes such a text so that it arrives; without the gate, write it without "
+    "\\."};
 
 inline constexpr Rule kPidClash{
     "pid-clash", Severity::Error,
@@ -61,12 +62,14 @@ inline constexpr Rule kPlaceholderInText{
     "placeholder-in-text", Severity::Error,
     "A text contains a percent sign and a digit, which the plugin replaces with another "
     "value.",
-    "Write the text without %."};
+    "mirovahrctl gate writes such a text so that it arrives; without the gate, write it without "
+    "%."};
 
 inline constexpr Rule kQuoteInText{
     "quote-in-text", Severity::Error,
     "A text contains an apostrophe, which breaks its statement: the person is not written.",
-    "Write the text without ', or with the character \u2019."};
+    "mirovahrctl gate writes such a text so that it arrives; without the gate, write it without ', "
+    "or with the character \u2019."};
 
 inline constexpr Rule kTextTooLong{"text-too-long", Severity::Error,
                                    "A text is longer than its column.", "Shorten the text."};

@@ -745,6 +745,9 @@ void TestCheckDb::aLiteralBackslashIsNoted()
     QCOMPARE(run.findings().first().toObject().value("message").toString(),
              QString("The SQL mode NO_BACKSLASH_ESCAPES is on: a backslash in a text of the export "
                      "is stored literally. Without the mode it escapes the next character."));
+    QCOMPARE(run.findings().first().toObject().value("advice").toString(),
+             QString("Run the gate with --texts no-backslash-escapes: otherwise it doubles "
+                     "backslashes."));
 }
 
 void TestCheckDb::everyTableIsRequired_data()

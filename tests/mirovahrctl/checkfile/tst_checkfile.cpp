@@ -497,7 +497,8 @@ void TestCheckFile::theRejectsHoldTheLinesUnchanged()
             "",
             "# Line 4: Jmeno: The text \"O'Neil\" contains an apostrophe. It enters the "
             "SQL statement unescaped, and the statement fails or does something else: the person "
-            "is not written. Write the text without ', or with the character ’.",
+            "is not written. mirovahrctl gate writes such a text so that it arrives; without the "
+            "gate, write it without ', or with the character ’.",
             ExportRow().with(&ExportRow::jmeno, "O'Neil").text().toUtf8(),
             "",
             "# Line 5: The line is longer than 65536 bytes; the plugin skips it. The "

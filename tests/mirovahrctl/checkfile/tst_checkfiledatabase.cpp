@@ -1,4 +1,5 @@
 #include "mirovahrctl/export/sqlhazards.h"
+#include "mirovahrctl/export/sqltexts.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
@@ -7,6 +8,8 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(Backslash)
 
 /// check-file with a database, and its findings about texts in SQL compared with what a database
 /// does to them.
@@ -26,15 +29,41 @@ private Q_SLOTS:
     void aServerThatIsNotThereIsNoDatabase();
     void aWrongPasswordIsNoDatabase();
     void aDatabaseWithoutPeopleBreaksTheContract();
-    void aTextArrivesAsItIsUnlessItIsFlagged();
+    void aTextIsFlaggedUnlessItArrivesAsMeant_data();
+    void aTextIsFlaggedUnlessItArrivesAsMeant();
+    void aWrittenTextIsShortEnoughWhenItIsSoInTheDatabase();
+    void theServerSaysWhatABackslashIs();
 
 private:
+    /// The SQL mode of the connections to come.
+    void setServer(Backslash backslash);
+    /// The surname of a new person, as the plugin writes it and as it is in the database then.
+    QString addPerson(MHRWorker &worker, const QString &surname);
     QStringList databaseOptions();
     ToolRun check(const ExportRow &line, const QStringList &options);
 
     TestDatabase m_db;
     ExportFile m_export;
+    quint32 m_personalNumber = 500000; ///< of the last person added
 };
+
+void TestCheckFileDatabase::setServer(Backslash backslash)
+{
+    m_db.run(backslash == Backslash::Escapes
+                 ? "SET GLOBAL sql_mode = REPLACE(@@GLOBAL.sql_mode, 'NO_BACKSLASH_ESCAPES', '')"
+                 : "SET GLOBAL sql_mode = CONCAT(@@GLOBAL.sql_mode, ',NO_BACKSLASH_ESCAPES')");
+}
+
+QString TestCheckFileDatabase::addPerson(MHRWorker &worker, const QString &surname)
+{
+    MirovaRonRecord record;
+    record.osobniCislo = ++m_personalNumber;
+    record.poradoveCisloPP = 1;
+    record.prijmeni = surname;
+    worker.dbAddPerson(record);
+    return m_db.value(QString("SELECT surname FROM people WHERE pid = %1").arg(record.getPid()))
+        .toString();
+}
 
 void TestCheckFileDatabase::initTestCase()
 {
@@ -123,9 +152,10 @@ void TestCheckFileDatabase::nothingIsWritten()
     m_db.clearStatements();
     COMPARE_EXIT(check(ExportRow(), databaseOptions()), ExitStatus::Fine);
     const QStringList statements = m_db.statements();
-    QCOMPARE(statements.size(), 2);
+    QCOMPARE(statements.size(), 3);
     QCOMPARE(statements[0], QString("SET SESSION TRANSACTION READ ONLY"));
     QVERIFY2(statements[1].startsWith("SELECT COLUMN_NAME, "), qPrintable(statements[1]));
+    QCOMPARE(statements[2], QString("SELECT @@SESSION.sql_mode"));
 }
 
 void TestCheckFileDatabase::thePasswordMayComeFromTheEnvironment()
@@ -162,36 +192,72 @@ void TestCheckFileDatabase::aDatabaseWithoutPeopleBreaksTheContract()
                      "columns, or the account may not see it.\n"));
 }
 
-void TestCheckFileDatabase::aTextArrivesAsItIsUnlessItIsFlagged()
+void TestCheckFileDatabase::aTextIsFlaggedUnlessItArrivesAsMeant_data()
 {
+    QTest::addColumn<Backslash>("backslash");
+    QTest::newRow("a backslash escapes") << Backslash::Escapes;
+    QTest::newRow("a backslash is literal") << Backslash::IsLiteral;
+}
+
+void TestCheckFileDatabase::aTextIsFlaggedUnlessItArrivesAsMeant()
+{
+    QFETCH(Backslash, backslash);
     static const QStringList pieces{"a",   "'", "\\", "%",  "1", "9", "L", "\"", "`",  ";",
                                     "-- ", "ž", "👤",  "/*", "_", "0", "?", ":x", "\t", "{"};
+    setServer(backslash);
     MHRWorker worker;
     worker.setTepDb(m_db.openPluginConnection());
     QVERIFY(worker.dbCheckOpen());
     worker.init();
     QRandomGenerator random(7);
-    for (quint32 number = 1; number <= 600; ++number) {
+    for (int number = 1; number <= 400; ++number) {
         QString text;
         for (int i = random.bounded(1, 6); i > 0; --i)
             text += pieces.at(random.bounded(pieces.size()));
-        MirovaRonRecord record;
-        record.osobniCislo = 500000 + number;
-        record.poradoveCisloPP = 1;
-        record.prijmeni = text;
 
-        worker.dbAddPerson(record);
-
-        const QString written =
-            m_db.value(QString("SELECT surname FROM people WHERE pid = %1").arg(record.getPid()))
-                .toString();
+        const QString arrived = addPerson(worker, text);
+        const auto meant = SqlTexts::meant(text, backslash);
+        const bool fits = !SqlHazards::hasWideCharacter(text);
         // Before these two a backslash is kept literally, if nothing else is wrong.
         const bool spared = text.contains("\\%") || text.contains("\\_");
-        if (!SqlHazards::breaksStatement(text))
-            QCOMPARE(written, text);
+        if (meant && fits)
+            QCOMPARE(arrived, *meant);
         else if (!spared)
-            QVERIFY2(written != text, qPrintable(text));
+            QVERIFY2(arrived != text, qPrintable(text));
+
+        if (fits)
+            QCOMPARE(addPerson(worker, SqlTexts::written(text, backslash)), text);
     }
+    worker.dbClose();
+    setServer(Backslash::Escapes);
+}
+
+void TestCheckFileDatabase::aWrittenTextIsShortEnoughWhenItIsSoInTheDatabase()
+{
+    m_db.resetEmpty();
+    m_db.run("ALTER TABLE people MODIFY surname VARCHAR(7) NOT NULL DEFAULT ''");
+    COMPARE_EXIT(check(ExportRow().with(&ExportRow::prijmeni, "O''Brien"), databaseOptions()),
+                 ExitStatus::Fine);
+    const ToolRun run =
+        check(ExportRow().with(&ExportRow::prijmeni, "O''Briens"), databaseOptions());
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.findingsOf("text-too-long").value(0)["subject"].toString(),
+             QString("1234.1 Jana O'Briens"));
+    QVERIFY2(run.findingsOf("text-too-long")
+                 .value(0)["message"]
+                 .toString()
+                 .startsWith("The text has 8 characters, but the column holds 7."),
+             run.report().constData());
+}
+
+void TestCheckFileDatabase::theServerSaysWhatABackslashIs()
+{
+    const ExportRow line = ExportRow().with(&ExportRow::telefon, "12\\34");
+    COMPARE_EXIT(check(line, databaseOptions()), ExitStatus::Findings);
+    setServer(Backslash::IsLiteral);
+    const ToolRun run = check(line, databaseOptions());
+    setServer(Backslash::Escapes);
+    COMPARE_EXIT(run, ExitStatus::Fine);
 }
 
 QTEST_GUILESS_MAIN(TestCheckFileDatabase)

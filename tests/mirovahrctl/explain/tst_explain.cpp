@@ -70,6 +70,8 @@ private Q_SLOTS:
     void theExportMayBeNamed();
     void whatTheDatabaseHolds();
     void theFieldsAreComparedOneByOne();
+    void textsAreShownAsHrMeantThem();
+    void theServerSaysWhatABackslashIs();
     void numbersAndFlagsKeepTheirTypeInJson();
     void theConfigurationIsThatOfTheFile();
     void withoutAConfigurationThePluginHasItsDefaults();
@@ -327,6 +329,17 @@ void TestExplain::sentences_data()
     add("two fields differ", jana().with(&R::prijmeni, "Malá").with(&R::telefon, "7"), "row",
         {notARs, "These fields differ from the row: Surname, Telephone.", "The row is updated.",
          terminal});
+    const QString inWriting =
+        "The plugin compares a text in the form that the statement needs, with apostrophes and "
+        "backslashes doubled. Only that makes the difference here, and the same text is written "
+        "again: %1.";
+    add("a text differs in writing only",
+        jana().with(&R::prijmeni, "O''Hara").with(&R::telefon, "7"), "row",
+        {notARs, "These fields differ from the row: Surname, Telephone.", inWriting.arg("Surname"),
+         "The row is updated.", terminal},
+        {"UPDATE people SET surname = 'O''Hara' WHERE uid = 4"});
+    add("a text differs, however it is written", jana().with(&R::prijmeni, "O''Hara"), "row",
+        {notARs, "These fields differ from the row: Surname.", "The row is updated.", terminal});
     add("the branch differs", jana().with(&R::stredisko, 130), "row",
         {notARs, "These fields differ from the row: Cost centre.", "The row is updated.",
          terminal});
@@ -951,6 +964,33 @@ void TestExplain::theFieldsAreComparedOneByOne()
                         {"Relationship state from", "", "", "false"},
                         {"Relationship state until", "", "", "false"},
                         {"Relationship state", "", "", "false"}}));
+}
+
+void TestExplain::textsAreShownAsHrMeantThem()
+{
+    m_db.run("UPDATE people SET surname = 'O''Hara', title = '100%1\\\\' WHERE uid = 4");
+    const ToolRun run = explain(SampleExport::jana()
+                                    .with(&ExportRow::prijmeni, "O''Hara")
+                                    .with(&ExportRow::titul, "100%' '1\\\\"));
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    const TableRows fields =
+        ExplainedSite::table(run, "row", "fields", {"field", "export", "database", "differs"});
+    QCOMPARE(fields.value(2), QStringList({"Title", "100%1\\", "100%1\\", "true"}));
+    QCOMPARE(fields.value(4), QStringList({"Surname", "O'Hara", "O'Hara", "true"}));
+    QVERIFY2(ExplainedSite::sentences(run, "export")
+                 .last()
+                 .endsWith(" is about 1234.1 Jana O'Hara, pid 12341."),
+             run.report().constData());
+}
+
+void TestExplain::theServerSaysWhatABackslashIs()
+{
+    const QString mode = m_db.value("SELECT @@GLOBAL.sql_mode").toString();
+    m_db.run("SET GLOBAL sql_mode = '" + mode + ",NO_BACKSLASH_ESCAPES'");
+    const ToolRun run = explain(SampleExport::jana().with(&ExportRow::prijmeni, "A\\B"));
+    m_db.run("SET GLOBAL sql_mode = '" + mode + "'");
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(ExplainedSite::facts(run).value("person").toString(), QString("updated"));
 }
 
 void TestExplain::numbersAndFlagsKeepTheirTypeInJson()

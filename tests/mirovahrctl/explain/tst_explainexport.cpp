@@ -22,6 +22,8 @@ private Q_SLOTS:
     void theExportThatIsThereComesFirst();
     void aRefusalOfTheGateIsReported();
     void aGateThatHasAdmittedNothingIsNoExport();
+    void theAdmittedFileIsExplainedAsTheGatePublishesIt_data();
+    void theAdmittedFileIsExplainedAsTheGatePublishesIt();
     void namesAreSearchedInTheAdmittedFile();
 
 private:
@@ -192,6 +194,35 @@ void TestExplainExport::aGateThatHasAdmittedNothingIsNoExport()
     QCOMPARE(run.err,
              "mirovahrctl: explain: The gate has admitted no file yet: there is no '"
                  + m_gate->inState("admitted.data") + "'.\n");
+}
+
+void TestExplainExport::theAdmittedFileIsExplainedAsTheGatePublishesIt_data()
+{
+    QTest::addColumn<QStringList>("option");
+    QTest::addColumn<QStringList>("rules");
+    QTest::addColumn<QString>("person");
+    QTest::newRow("by default") << QStringList() << QStringList() << "updated";
+    QTest::newRow("as it is") << QStringList{"--texts", "as-is"} << QStringList{"quote-in-text"}
+                              << "uncertain";
+}
+
+void TestExplainExport::theAdmittedFileIsExplainedAsTheGatePublishesIt()
+{
+    QFETCH(QStringList, option);
+    QFETCH(QString, person);
+    m_gate->deliver({SampleExport::jana().with(&ExportRow::prijmeni, "O'Hara")});
+    COMPARE_EXIT(m_gate->run(option), ExitStatus::Fine);
+    m_gate->takePublished();
+    configure(command());
+    for (const char *name : {"1234.1", "o'hara"}) {
+        const ToolRun run = m_site.explain(name);
+        QTEST(run.rules(), "rules");
+        QCOMPARE(ExplainedSite::facts(run).value("person").toString(), person);
+        QVERIFY2(ExplainedSite::sentences(run, "export")
+                     .contains("Line 1 of " + m_gate->inState("admitted.data")
+                               + " is about 1234.1 Jana O'Hara, pid 12341."),
+                 run.report().constData());
+    }
 }
 
 void TestExplainExport::namesAreSearchedInTheAdmittedFile()

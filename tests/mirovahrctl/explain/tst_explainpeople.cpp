@@ -19,6 +19,7 @@ private Q_SLOTS:
     void onePersonIsExplained();
     void severalPeopleAreListed_data();
     void severalPeopleAreListed();
+    void peopleAreListedAsHrMeantTheirNames();
     void findingNobodyIsReported_data();
     void findingNobodyIsReported();
     void aLineWithoutNumbersIsListed();
@@ -160,6 +161,16 @@ void TestExplainPeople::severalPeopleAreListed()
         QCOMPARE(m_site.explain(row.first()).json().value("title").toString(),
                  "What happens to " + row.first());
     }
+}
+
+void TestExplainPeople::peopleAreListedAsHrMeantTheirNames()
+{
+    const auto obrien = [](int number) {
+        return SampleExport::newcomer(number).with(&ExportRow::prijmeni, "O''Brien").text();
+    };
+    m_site.exportFile().write({obrien(3803), obrien(3804)});
+    QCOMPARE(people(m_site.explain("o'brien")),
+             TableRows({{"3803.1", "Eva O'Brien", "1", ""}, {"3804.1", "Eva O'Brien", "2", ""}}));
 }
 
 void TestExplainPeople::findingNobodyIsReported_data()

@@ -132,6 +132,9 @@ void TestExplainWorker::whatIsExplainedHappens_data()
         "updated equal none member kept no", {}, "[MES]\n21=\"materská dovolenka\"\n");
     add("a text that breaks the statement", jana().with(&R::prijmeni, "O'Hara"),
         "uncertain equal none member kept no");
+    add("a text that is written for the statement", jana().with(&R::prijmeni, "O''Hara"),
+        "updated equal none member kept no",
+        {"UPDATE people SET surname = 'O''Hara' WHERE uid = 4"});
     add("test mode", jana().with(&R::prijmeni, "Malá"), "test-mode equal none member kept no", {},
         "testMode=1\n");
 
@@ -155,6 +158,11 @@ void TestExplainWorker::whatIsExplainedHappens_data()
     add("somebody who comes back with a text that breaks the statement",
         newcomer(1237).with(&R::jmeno, "E'va").with(&R::nadrizenyOsobniCislo, 1002),
         "uncertain none none joins planned no");
+    add("somebody new with a text that is written for the statement",
+        newcomer(3111).with(&R::jmeno, "E''va\\\\").with(&R::nadrizenyOsobniCislo, 1002),
+        "created none set joins planned no");
+    add("somebody who comes back with a text that is written for the statement",
+        newcomer(1237).with(&R::jmeno, "100%' '1"), "merged none none joins planned no");
     add("somebody new in test mode", newcomer(3107).with(&R::nadrizenyOsobniCislo, 1002),
         "test-mode none none none none no", {}, "testMode=1\n");
     add("somebody new in an unknown branch in test mode", newcomer(3108).with(&R::stredisko, 999),

@@ -550,7 +550,7 @@ void TestGate::theReportForPeople()
     m_site->admit(GatePeople::some(4));
     QVector<Row> people = GatePeople::some(3);
     people[0].with(&Row::stredisko, "130");
-    people[1].with(&Row::prijmeni, "O'Neil");
+    people[1].with(&Row::prijmeni, "Néil👤");
     m_site->deliver(people);
     writeFile(m_site->target(), "unread");
 
@@ -648,6 +648,9 @@ void TestGate::badUsageIsRefused_data()
         << paths + QStringList{"--rejects", "/a//hr.txt"} << over;
     QTest::newRow("the rejects over the plugin's file")
         << paths + QStringList{"--rejects", "/a/ron.data"} << over;
+    QTest::newRow("a form of the texts that there is not")
+        << paths + QStringList{"--texts", "quoted"}
+        << "--texts takes one of: escaped, no-backslash-escapes, as-is.";
     QTest::newRow("an argument") << paths + QStringList("x") << "Unexpected argument 'x'.";
     for (const char *option : {"max-lost-lines", "max-leaving", "max-moving", "keep", "settle"}) {
         for (const char *value : {"", "x", "-1", "1.5", "1000000001"}) {

@@ -107,6 +107,11 @@ private Q_SLOTS:
     void init() { m_site.reset(new GateSite); }
 
     void thePublishedFileIsHrsByteForByte();
+    void textsArePublishedInTheirWrittenForm_data();
+    void textsArePublishedInTheirWrittenForm();
+    void theFormOfTheTextsMayChangeWithoutANewFile();
+    void aWrittenTextIsNoError();
+    void aLineThatIsTooLongOnceItIsWrittenIsRejected();
     void hrsFileIsLeftAlone();
     void thePublishedFileIsForOwnerAndGroup();
     void theGatesFilesAreForTheirReaders();
@@ -174,6 +179,82 @@ void TestGateFiles::thePublishedFileIsHrsByteForByte()
     QCOMPARE(m_site->names(m_site->state()),
              QStringList({m_site->copies().value(0), "admitted.data", "lock", "rejects.txt",
                           "status.json"}));
+}
+
+void TestGateFiles::textsArePublishedInTheirWrittenForm_data()
+{
+    QTest::addColumn<QStringList>("option");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QString>("surname");
+    QTest::addColumn<QString>("phone");
+    QTest::newRow("by default") << QStringList() << "escaped"
+                                << "O''Brien"
+                                << "\\\\ 100%' '1";
+    QTest::newRow("escaped") << QStringList{"--texts", "escaped"} << "escaped"
+                             << "O''Brien"
+                             << "\\\\ 100%' '1";
+    QTest::newRow("no backslash escapes")
+        << QStringList{"--texts", "no-backslash-escapes"} << "no-backslash-escapes"
+        << "O''Brien"
+        << "\\ 100%' '1";
+    QTest::newRow("as is") << QStringList{"--texts", "as-is"} << "as-is"
+                           << "O'Brien"
+                           << "\\ 100%1";
+}
+
+void TestGateFiles::textsArePublishedInTheirWrittenForm()
+{
+    QFETCH(QStringList, option);
+    QFETCH(QString, surname);
+    QFETCH(QString, phone);
+    const Row own = Row().with(&Row::prijmeni, "O'Brien").with(&Row::telefon, "\\ 100%1");
+    const Row written = Row().with(&Row::prijmeni, surname).with(&Row::telefon, phone);
+    const QByteArray others = GatePeople::file(GatePeople::some(2)) + "broken ' line\r\n";
+    m_site->deliver(others + GatePeople::file({own}));
+    COMPARE_EXIT(m_site->run(QStringList{"--accept"} + option), ExitStatus::Fine);
+    QCOMPARE(m_site->published(), others + GatePeople::file({written}));
+    // What later files are compared with is HR's own.
+    QCOMPARE(contentOf(m_site->inState("admitted.data")), others + GatePeople::file({own}));
+    QTEST(m_site->status()["lastAdmitted"].toObject()["texts"].toString(), "word");
+}
+
+void TestGateFiles::theFormOfTheTextsMayChangeWithoutANewFile()
+{
+    const Row own = Row().with(&Row::prijmeni, "O'Brien");
+    m_site->admit({own});
+    const ToolRun run = m_site->run({"--texts", "as-is"});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QCOMPARE(run.rules(), QStringList({"rejected-lines", "unchanged"}));
+    QCOMPARE(m_site->published(), GatePeople::file({own}));
+    QCOMPARE(m_site->status()["lastAdmitted"].toObject()["texts"].toString(), QString("as-is"));
+}
+
+void TestGateFiles::aWrittenTextIsNoError()
+{
+    m_site->admit({Row().with(&Row::prijmeni, "O'Brien").with(&Row::titul, "%1\\")});
+    const ToolRun run = m_site->run();
+    QCOMPARE(run.rules(), QStringList("unchanged"));
+    QVERIFY(contentOf(m_site->inState("rejects.txt")).endsWith("\n\n# 0 lines.\n"));
+}
+
+void TestGateFiles::aLineThatIsTooLongOnceItIsWrittenIsRejected()
+{
+    const auto lineOf = [](int length) {
+        const QByteArray rest = Row().with(&Row::prijmeni, "").text().toUtf8();
+        const Row row = Row().with(&Row::prijmeni, "'" + QString(length - rest.size() - 1, 'x'));
+        return row.text().toUtf8();
+    };
+    // With the apostrophe doubled it has 65536 bytes.
+    m_site->admit(lineOf(65535) + '\n');
+    QCOMPARE(m_site->run().rules(), QStringList("unchanged"));
+
+    m_site->admit(lineOf(65536) + '\n' + GatePeople::file({Row()}));
+    QCOMPARE(m_site->run().rules(), QStringList({"rejected-lines", "unchanged"}));
+    QVERIFY(contentOf(m_site->inState("rejects.txt"))
+                .contains("# Line 1: The line is longer than 65536 bytes; the plugin skips it."));
+
+    m_site->admit(lineOf(65535) + "\r\n" + GatePeople::file({Row()}));
+    QCOMPARE(m_site->run().rules(), QStringList({"rejected-lines", "unchanged"}));
 }
 
 void TestGateFiles::hrsFileIsLeftAlone()
