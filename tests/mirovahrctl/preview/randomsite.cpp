@@ -202,7 +202,8 @@ QByteArray RandomSite::exportContent()
 QString RandomSite::text()
 {
     return chance(90) ? one({"", "Eva", "Ján", "Malá", "Ing.", "Nováková", "PhD."})
-                      : one({"O'Hara", "a\\", "%1", "\xF0\x9F\x98\x80", "a%8b", QString(90, 'w')});
+                      : one({"O'Hara", "O''Hara", "a\\", "\\\\", "%1", "%' '1", "\xF0\x9F\x98\x80",
+                             "a%8b", QString(90, 'w')});
 }
 
 QString RandomSite::date()

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void cleanup();
 
     void thePluginItselfDoesWhatWasPredicted();
+    void textsThatTheGateHasWrittenArriveAsHrMeantThem();
     void theExportStaysAndNoCommandIsRun();
     void aMissingExportCommandIsWarnedOfAsByThePlugin();
     void theReportNamesItsConfiguration();
@@ -142,6 +143,28 @@ void TestPreview::thePluginItselfDoesWhatWasPredicted()
     const QString log = QString::fromUtf8(content(path("preview.log")));
     QVERIFY(log.contains("debug\tMHRWorker: BEGIN synchronization #1 (force: YES)\n"));
     QVERIFY(log.contains("warning\tMHRWorker: Branch '199' NOT FOUND for employee: '1002.1 "));
+}
+
+void TestPreview::textsThatTheGateHasWrittenArriveAsHrMeantThem()
+{
+    m_bench.site().run("UPDATE people SET surname = 'D''Arc' WHERE pid = 10021");
+    m_bench.writeExport({SampleExport::jana().with(&ExportRow::prijmeni, "O''Brien"),
+                         SampleExport::peter().with(&ExportRow::prijmeni, "D''Arc"),
+                         SampleExport::newcomer(3901).with(&ExportRow::telefon, "100%' '1")});
+    const PreviewResult result = m_bench.preview();
+    QCOMPARE(result.warned(), QStringList());
+    const QString lines = result.described().join('\n');
+    QVERIFY2(lines.contains("1234.1 Jana O'Brien | surname | Nováková -> O'Brien"),
+             qPrintable(lines));
+    QVERIFY2(lines.contains("100%1"), qPrintable(lines));
+    QVERIFY2(!lines.contains("''"), qPrintable(lines));
+    // The plugin writes the row again, with the name that it has.
+    const auto peter =
+        std::find_if(result.rows.cbegin(), result.rows.cend(), [](const PreviewedRow &row) {
+            return row.table == "people" && row.cell("pid") == "10021";
+        });
+    QVERIFY(peter != result.rows.cend());
+    QVERIFY(peter->changes("edited") && !peter->changes("surname"));
 }
 
 void TestPreview::theExportStaysAndNoCommandIsRun()
