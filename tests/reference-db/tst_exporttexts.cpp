@@ -36,6 +36,9 @@ private Q_SLOTS:
     void twoTextsReachEachOtherWithoutAnApostrophe();
     void aTextCanAddAStatement();
     void aTextCanFillAnotherColumn();
+    void aTextCanMakeAllThatFollowsVanish_data();
+    void aTextCanMakeAllThatFollowsVanish();
+    void aTextCanCallAFunctionThatWaits();
     void whatTheAccountMayNotDoTheTextMayNotDo_data();
     void whatTheAccountMayNotDoTheTextMayNotDo();
 
@@ -100,6 +103,34 @@ void TestExportTexts::aTextCanFillAnotherColumn()
                       " WHERE pid=12341 -- ")});
     QVERIFY(
         m_db.value("SELECT phone FROM people WHERE pid = 12341").toString().startsWith("10011,"));
+}
+
+void TestExportTexts::aTextCanMakeAllThatFollowsVanish_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::newRow("a transaction") << "BEGIN";
+    QTest::newRow("no automatic commits") << "SET autocommit=0";
+    QTest::newRow("a distributed transaction") << "XA START 'x'";
+}
+
+void TestExportTexts::aTextCanMakeAllThatFollowsVanish()
+{
+    QFETCH(QString, statement);
+    const QStringList log =
+        synchronise({jana("x' WHERE pid=12341; " + statement + "; -- "),
+                     SampleExport::maria().with(&ExportRow::prijmeni, QStringLiteral("Malá")),
+                     SampleExport::newcomer(newPersonalNumber())})
+            .log;
+    QCOMPARE(surname(12341), QString("x"));
+    QCOMPARE(surname(10011), QString("Kováčová"));
+    QCOMPARE(m_db.value("SELECT COUNT(*) FROM people").toInt(), 8);
+    QCOMPARE(log.filter(QRegularExpression("^[WC] ")), QStringList());
+}
+
+void TestExportTexts::aTextCanCallAFunctionThatWaits()
+{
+    synchronise({jana("x', phone=SLEEP(0.001) WHERE pid=12341 -- ")});
+    QCOMPARE(m_db.value("SELECT phone FROM people WHERE pid = 12341").toString(), QString("0"));
 }
 
 void TestExportTexts::whatTheAccountMayNotDoTheTextMayNotDo_data()
