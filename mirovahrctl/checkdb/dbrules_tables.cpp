@@ -107,7 +107,7 @@ void checkInserts(DbAssessment &check, const DbSchema &schema)
     }
 }
 
-bool seesAllColumns(DbAssessment &check, const QString &table)
+bool seesAllColumns(const DbAssessment &check, const QString &table)
 {
     return !check.attempt(QStringLiteral("SELECT * FROM `%1` LIMIT 0").arg(table)).failed();
 }
