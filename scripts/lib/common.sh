@@ -6,7 +6,7 @@ script=$(basename -- "$0")
 
 # What it takes to build the project and to run its tests and its demo.
 project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-server-core
-    mariadb-client-core util-linux)
+    mariadb-client-core mount util-linux)
 
 # What the tests take besides: a browser for the pages, a clock that can be moved, readers for the
 # manual pages.
