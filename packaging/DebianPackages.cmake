@@ -16,7 +16,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_SOURCE_DIR}/finish.cmake")
 
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_RELEASE "${MIROVAHR_PACKAGE_RELEASE}")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION admin)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
@@ -50,7 +50,7 @@ The service is neither enabled nor started when the package is installed.
 .
 mirovahr-demo shows the plugin at work beside a database server of its own.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS
-    "libqt5sql5-mysql, systemd | systemd-standalone-sysusers | systemd-sysusers, systemd | systemd-standalone-tmpfiles | systemd-tmpfiles")
+    "libqt5sql5-mysql, mount, systemd | systemd-standalone-sysusers | systemd-sysusers, systemd | systemd-standalone-tmpfiles | systemd-tmpfiles")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS
     "mirovahr-plugin (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}), mariadb-server-core, mariadb-client-core")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS bash-completion)
