@@ -2,8 +2,8 @@
 -- They run with the rights of the caller. Days and months are those of the session's time zone.
 --
 -- A routine keeps the SQL mode in which it was created, so this file sets it. It is not strict because
--- FROM_UNIXTIME up to MariaDB 11.4 knows the time from 1970 to 19 January 2038 only. For other times
--- the results are NULL; a strict mode would make that an error, and one day of attendance with a
+-- FROM_UNIXTIME up to MariaDB 11.4 knows the time from 1970 to 19 January 2038 only, later to 2106. For
+-- other times the results are NULL; a strict mode would make that an error, and one day of attendance with a
 -- mistyped year would keep all months of the person from being filled.
 
 SET NAMES utf8mb4;

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryFile>
 #include <QTimeZone>
+#include <QVersionNumber>
 
 namespace {
 
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void theMonthIsThatOfTheLocalDay();
     void daysAndMonthsThatTheServerDoesNotKnowAreNull_data();
     void daysAndMonthsThatTheServerDoesNotKnowAreNull();
+    void daysFrom2038OnAreKnownToMariaDb11_5();
     void daysAndMonthsFollowTheTimeZoneOfTheSession();
     void theCurrentGroupIsTheLatestPlannedOneThatHasBegun_data();
     void theCurrentGroupIsTheLatestPlannedOneThatHasBegun();
@@ -400,7 +402,8 @@ void TestReferenceDb::theMonthIsThatOfTheLocalDay_data()
     QTest::newRow("last second of a year") << "2024-12-31T23:59:59" << 202412;
     QTest::newRow("month in which the clock goes forward") << "2024-03-31T23:59:59" << 202403;
     QTest::newRow("month in which the clock goes back") << "2024-10-31T23:59:59" << 202410;
-    QTest::newRow("the epoch") << "1970-01-01T01:00:00" << 197001;
+    // Newer servers do not know the second 0.
+    QTest::newRow("the first second that every server knows") << "1970-01-01T01:00:01" << 197001;
 }
 
 void TestReferenceDb::theMonthIsThatOfTheLocalDay()
@@ -416,12 +419,11 @@ void TestReferenceDb::theMonthIsThatOfTheLocalDay()
 void TestReferenceDb::daysAndMonthsThatTheServerDoesNotKnowAreNull_data()
 {
     QTest::addColumn<QString>("moment");
-    QTest::newRow("after the last second of 32 bits with sign") << "2147483648";
+    QTest::newRow("after the last second of 32 bits") << "4294967296";
     QTest::newRow("the year 9999") << "253402210800";
     QTest::newRow("before 1970") << "-1";
 }
 
-/// The server that the tests run on knows the time up to January 2038.
 void TestReferenceDb::daysAndMonthsThatTheServerDoesNotKnowAreNull()
 {
     QFETCH(QString, moment);
@@ -435,6 +437,18 @@ void TestReferenceDb::daysAndMonthsThatTheServerDoesNotKnowAreNull()
     m_db.run(QStringLiteral("INSERT INTO vars (name, value) SELECT 'b', monthFromTimestamp(%1)")
                  .arg(moment));
     QCOMPARE(m_db.dump("vars"), QString("name=a value=NULL\nname=b value=NULL"));
+}
+
+/// Up to MariaDB 11.4 the server's time has 32 bits with sign, later without.
+void TestReferenceDb::daysFrom2038OnAreKnownToMariaDb11_5()
+{
+    const auto version = QVersionNumber::fromString(m_db.value("SELECT VERSION()").toString());
+    const qint64 moment = timestamp("2040-03-01T12:00:00", "Europe/Bratislava");
+    const TableRows known{
+        {QString::number(timestamp("2040-03-01T00:00:00", "Europe/Bratislava")), "204003"}};
+    QCOMPARE(
+        m_db.rows(QStringLiteral("SELECT midnightFromTs(%1), monthFromTimestamp(%1)").arg(moment)),
+        version < QVersionNumber(11, 5) ? TableRows({{"NULL", "NULL"}}) : known);
 }
 
 void TestReferenceDb::daysAndMonthsFollowTheTimeZoneOfTheSession()
