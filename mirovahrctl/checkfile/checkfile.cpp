@@ -137,7 +137,7 @@ void CheckFileRun::report(const CheckedLine &line)
 {
     for (const Finding &finding : line.findings)
         report(finding);
-    if (m_rejectsFile.isOpen() && line.isRejected())
+    if (m_rejectsFile.isOpen() && (line.isRejected() || line.hasWarnings()))
         m_rejects.add(line);
 }
 

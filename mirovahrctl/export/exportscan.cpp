@@ -155,6 +155,7 @@ void ExportScan::report(const CheckedLine &line, const LineListener &listener)
     m_counts.records += line.record ? 1 : 0;
     m_counts.dropped += line.isDropped() ? 1 : 0;
     m_counts.rejected += line.isRejected() ? 1 : 0;
+    m_counts.warned += line.hasWarnings() && !line.isRejected() ? 1 : 0;
     listener(line);
 }
 

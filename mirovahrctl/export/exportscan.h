@@ -17,6 +17,7 @@ public:
         qint64 records = 0; ///< lines that the plugin reads as a person
         qint64 dropped = 0; ///< lines that it skips because of an error
         qint64 rejected = 0; ///< lines with errors, dropped ones included
+        qint64 warned = 0; ///< lines with warnings and no errors
     };
 
     using LineListener = std::function<void(const CheckedLine &)>;

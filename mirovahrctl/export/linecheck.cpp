@@ -75,6 +75,12 @@ QString fieldCountAdvice(const ExportLine::Parts &parts, int expected)
     return QStringLiteral("Write empty fields too, each with its |.");
 }
 
+bool hasFindings(const QVector<Finding> &findings, Severity severity)
+{
+    return std::any_of(findings.cbegin(), findings.cend(),
+                       [severity](const Finding &finding) { return finding.severity == severity; });
+}
+
 bool isHeader(const ExportLine::Parts &parts, const QStringList &fieldNames)
 {
     return parts.constFirst().trimmed().compare(fieldNames.constFirst(), Qt::CaseInsensitive) == 0;
@@ -84,8 +90,12 @@ bool isHeader(const ExportLine::Parts &parts, const QStringList &fieldNames)
 
 bool CheckedLine::isRejected() const
 {
-    return std::any_of(findings.cbegin(), findings.cend(),
-                       [](const Finding &finding) { return finding.severity == Severity::Error; });
+    return hasFindings(findings, Severity::Error);
+}
+
+bool CheckedLine::hasWarnings() const
+{
+    return hasFindings(findings, Severity::Warning);
 }
 
 Finding &CheckedLine::add(const Rule &rule, const QString &message, const QString &advice)

@@ -29,6 +29,8 @@ struct CheckedLine {
     /// True when the line has an error: it is dropped, its statement fails, or it overwrites
     /// another person.
     bool isRejected() const;
+    /// True when the line has a warning: a value is misread, or hardly intended.
+    bool hasWarnings() const;
 
     /// Adds a finding about this line.
     Finding &add(const Rule &rule, const QString &message, const QString &advice = QString());

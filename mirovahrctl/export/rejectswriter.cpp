@@ -15,8 +15,8 @@ RejectsWriter::RejectsWriter(QIODevice &device, const QString &exportName)
 
 void RejectsWriter::begin()
 {
-    comment(QStringLiteral("Lines of the export %1 with errors: the attendance system drops them, "
-                           "or cannot store them correctly.")
+    comment(QStringLiteral("Lines of the export %1 that the attendance system drops, cannot store "
+                           "correctly, or misreads.")
                 .arg(m_exportName));
     comment(QStringLiteral("Checked on %1. Each line follows its reasons.")
                 .arg(Moment::text(QDateTime::currentDateTime())));
@@ -27,7 +27,7 @@ void RejectsWriter::add(const CheckedLine &line)
     ++m_count;
     m_device.write("\n");
     for (const Finding &finding : line.findings) {
-        if (finding.severity != Severity::Error)
+        if (finding.severity == Severity::Note)
             continue;
         const QString field =
             finding.field.isEmpty() ? QString() : finding.field + QLatin1String(": ");

@@ -15,7 +15,7 @@ public:
 
     /// Writes the heading.
     void begin();
-    /// Writes one rejected line, with its errors above it.
+    /// Writes one line, with its errors and warnings above it.
     void add(const CheckedLine &line);
     /// Writes how many lines there were.
     void end();

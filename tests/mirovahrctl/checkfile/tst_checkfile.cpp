@@ -473,38 +473,46 @@ void TestCheckFile::theRejectsHoldTheLinesUnchanged()
 {
     const QString path = m_dir->filePath("rejects.txt");
     const QByteArray broken("1|Ji\xF8\xED|\"x\\\r");
-    const ToolRun run =
-        check(good() + broken + "\n" + line(&ExportRow::dovolenaZustatek, "1,5")
-                  + line(&ExportRow::jmeno, "O'Neil") + QByteArray(70000, 'x') + "\n",
-              {"--rejects", path});
+    const ExportRow other =
+        ExportRow().with(&ExportRow::osobniCislo, 7).with(&ExportRow::jmeno, "O'Neil");
+    const ToolRun run = check(broken + "\n" + line(&ExportRow::dovolenaZustatek, "1,5")
+                                  + other.text().toUtf8() + "\n" + QByteArray(70000, 'x') + "\n",
+                              {"--rejects", path});
     COMPARE_EXIT(run, ExitStatus::Findings);
 
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().split('\n');
-    QCOMPARE(
-        lines.value(0),
-        "# Lines of the export " + QFileInfo(m_export->path()).fileName().toUtf8()
-            + " with errors: the attendance system drops them, or cannot store them correctly.");
+    QCOMPARE(lines.value(0),
+             "# Lines of the export " + QFileInfo(m_export->path()).fileName().toUtf8()
+                 + " that the attendance system drops, cannot store correctly, or misreads.");
     QVERIFY(lines.value(1).startsWith("# Checked on "));
     QCOMPARE(
         lines.mid(2),
         QList<QByteArray>({
             "",
-            "# Line 2: The line has 3 fields instead of 18. Write empty fields too, each with "
+            "# Line 1: Some bytes are not UTF-8; each is read as the character \uFFFD. Save the "
+            "export "
+            "as UTF-8.",
+            "# Line 1: The line has 3 fields instead of 18. Write empty fields too, each with "
             "its |.",
             broken.chopped(1),
             "",
-            "# Line 4: Jmeno: The text \"O'Neil\" contains an apostrophe. It enters the "
+            "# Line 2: DovolenaZustatek: The plugin cannot read \"1,5\" as a number. It is read as "
+            "0: the vacation balance is set to 0 days. Write the balance with a decimal point, as "
+            "in 12.5.",
+            line(&ExportRow::dovolenaZustatek, "1,5").chopped(1),
+            "",
+            "# Line 3: Jmeno: The text \"O'Neil\" contains an apostrophe. It enters the "
             "SQL statement unescaped, and the statement fails or does something else: the person "
             "is not written. mirovahrctl gate writes such a text so that it arrives; without the "
             "gate, write it without ', or with the character ’.",
-            ExportRow().with(&ExportRow::jmeno, "O'Neil").text().toUtf8(),
+            other.text().toUtf8(),
             "",
-            "# Line 5: The line is longer than 65536 bytes; the plugin skips it. The "
+            "# Line 4: The line is longer than 65536 bytes; the plugin skips it. The "
             "export is damaged; perhaps line feeds are missing.",
             "",
-            "# 3 lines.",
+            "# 4 lines.",
             "",
         }));
 }

@@ -530,9 +530,8 @@ void TestGateFiles::theRejectsAreWritten()
     const ToolRun run = m_site->run();
     COMPARE_EXIT(run, ExitStatus::Fine);
     const QByteArray rejects = contentOf(m_site->inState("rejects.txt"));
-    QVERIFY(
-        rejects.startsWith("# Lines of the export export.txt with errors: the attendance system "
-                           "drops them, or cannot store them correctly.\n# Checked on "));
+    QVERIFY(rejects.startsWith("# Lines of the export export.txt that the attendance system drops, "
+                               "cannot store correctly, or misreads.\n# Checked on "));
     QVERIFY(rejects.endsWith("\n# Line 1: The line has 3 fields instead of 18. Write empty fields "
                              "too, each with its |.\n1|2|\xFF\n\n# 1 line.\n"));
     QCOMPARE(run.findingsOf("rejected-lines").value(0)["advice"].toString(),
