@@ -69,6 +69,27 @@ void DifferenceTables::people(const char *id, const QString &what, const QVector
     m_report.table(table);
 }
 
+void DifferenceTables::moving(const QVector<int> &list)
+{
+    if (list.isEmpty())
+        return;
+    sentence(QStringLiteral("Moving"), list.size());
+    Table table{QStringLiteral("moving"),
+                {kPerson,
+                 kName,
+                 {QStringLiteral("from"), QStringLiteral("From cost centre")},
+                 {QStringLiteral("to"), QStringLiteral("To cost centre")}},
+                {}};
+    const QVector<int> people = shown(list);
+    for (const int person : people) {
+        const MirovaRonRecord record = m_people.latest(person);
+        table.rows.append({record.getPamId(), nameOf(record),
+                           m_people.record(ComparedPeople::Before, person).stredisko,
+                           record.stredisko});
+    }
+    m_report.table(table);
+}
+
 void DifferenceTables::values(const QString &id, const QString &what, const QVector<int> &list,
                               int field)
 {

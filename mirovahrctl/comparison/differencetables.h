@@ -27,6 +27,8 @@ public:
 
     /// Who they are and their cost centre. \a id of the table; an empty list writes nothing.
     void people(const char *id, const QString &what, const QVector<int> &list);
+    /// Who they are, and both cost centres.
+    void moving(const QVector<int> &list);
     /// Who they are, and the values of one field in both exports.
     void values(const QString &id, const QString &what, const QVector<int> &list, int field);
 

@@ -31,12 +31,12 @@ struct Records {
     MirovaRonRecord now;
 };
 
-/// Whether the person goes on working in the same place and state.
+/// Whether the person goes on working in the same place and state, without a last day.
 bool staysInPlace(const Records &records, const QDate &today)
 {
     const MirovaRonRecord &before = records.before;
     const MirovaRonRecord &now = records.now;
-    return RecordCodes::isActive(now, today) && !endsEarlier(before, now)
+    return RecordCodes::isActive(now, today) && !now.datumVystupu.isValid()
         && now.stredisko == before.stredisko && now.evidencniStav == before.evidencniStav;
 }
 
@@ -108,6 +108,7 @@ void Comparison::compareRecords(int person)
     ++m_differences.inBoth;
     const Records records{m_people.record(People::Before, person),
                           m_people.record(People::Now, person)};
+    m_differences.withBalance += records.before.dovolenaZustatek != 0 ? 1 : 0;
     m_stays[records.before.osobniCislo] |= staysInPlace(records, m_today);
     if (!RecordCodes::isActive(records.before, m_today)) {
         if (RecordCodes::isActive(records.now, m_today))

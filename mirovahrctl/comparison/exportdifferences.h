@@ -31,6 +31,7 @@ struct ExportDifferences {
     static ExportDifferences of(const ComparedPeople &people, const QDate &today);
 
     int inBoth = 0; ///< people
+    int withBalance = 0; ///< people of both exports who had a vacation balance other than 0
     int working = 0; ///< people of the older export who are employed
     QVector<int> added; ///< not in the older export
     QVector<int> gone; ///< not in the newer export
@@ -39,7 +40,7 @@ struct ExportDifferences {
     QVector<int> returning; ///< in the older export not employed, and now they are
     QVector<int> moving; ///< employed before, not leaving, with another cost centre
     /// With another supervisor or none, for no reason that the exports show: the people stay in
-    /// their cost centre, and their former supervisor still works there in the same state.
+    /// their cost centre, and their former supervisor works on in the same place and state.
     QVector<int> reassigned;
     std::array<FieldDifferences, ExportLine::kFieldCount> fields;
     BalanceDifferences balances;

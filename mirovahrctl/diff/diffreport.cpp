@@ -93,8 +93,7 @@ void DiffReport::writePeople()
     tables.people("gone", QStringLiteral("Missing from the newer export"), m_differences.gone);
     tables.people("leaving", QStringLiteral("Leaving"), m_differences.leaving);
     tables.people("returning", QStringLiteral("Returning"), m_differences.returning);
-    tables.values(QStringLiteral("moving"), QStringLiteral("Moving to another cost centre"),
-                  m_differences.moving, ExportLine::Stredisko);
+    tables.moving(m_differences.moving);
 }
 
 void DiffReport::writeFields()

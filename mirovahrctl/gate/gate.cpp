@@ -8,9 +8,10 @@ namespace {
 constexpr char kDescription[] =
     "Takes HR's file, checks it as check-file does, compares it with the last admitted one,\n"
     "and publishes it in one step where the plugin reads it. Refuses a file that is empty,\n"
-    "truncated or being written, or in which more lines are missing, more people leave or\n"
-    "more people get another cost centre than the limits allow. Each limit is a number and\n"
-    "a percentage; exceeding either is enough. Of a refused file nothing is published.\n\n"
+    "truncated or being written, or in which more differs than the limits allow: people who\n"
+    "leave, move, return or are new, values that change, are emptied or misread, balances and\n"
+    "supervisors that no life of a firm explains. Each limit is a number and a percentage;\n"
+    "exceeding either is enough. Of a refused file nothing is published.\n\n"
     "Intended as the syncCommand of the plugin's INI file. Run it as the attendance server's\n"
     "user. The first file has no other to compare with and is refused, too: admit it with\n"
     "--accept.";

@@ -1,31 +1,14 @@
 #include "mirovahrctl/gate/gateassessment.h"
 
+#include "mirovahrctl/gate/gatevalues.h"
 #include "mirovahrctl/report/rules/gaterules.h"
 #include "mirovahrctl/report/wording.h"
 
 namespace GateAssessment {
 
+using namespace GateWording;
+
 namespace {
-
-/// "60 people (12.5 %)"
-QString share(qint64 part, qint64 whole, const QString &one, const QString &many)
-{
-    const double percent = whole > 0 ? double(part) * 100 / double(whole) : 0;
-    return QStringLiteral("%1 (%2 %)")
-        .arg(Wording::counted(part, one, many), QString::number(percent, 'f', 1));
-}
-
-QString people(qint64 part, qint64 whole)
-{
-    return share(part, whole, QStringLiteral("person"), QStringLiteral("people"));
-}
-
-/// ", where at most 50 and 5 % may."
-QString allowance(const GateLimit &limit)
-{
-    return QStringLiteral("; the limits are %1 and %2 %.")
-        .arg(QString::number(limit.count), QString::number(limit.percent));
-}
 
 GateReason empty()
 {
@@ -44,37 +27,38 @@ GateReason noBaseline()
             true};
 }
 
-GateReason linesLost(const GateComparison::Result &changes, const GateLimit &limit)
+GateReason linesLost(const GateFacts &facts, const GateLimit &limit)
 {
-    const qint64 lost = changes.lostLines();
-    const QString lines =
-        share(lost, changes.oldLines, QStringLiteral("line"), QStringLiteral("lines"));
+    const qint64 lost = facts.lostLines();
     return {makeFinding(GateRules::kLinesLost,
-                        lines + QStringLiteral(" with people ")
+                        lines(lost, facts.oldLines) + QStringLiteral(" with people ")
                             + (lost == 1 ? QStringLiteral("is") : QStringLiteral("are"))
                             + QStringLiteral(" missing compared with the last admitted file")
                             + allowance(limit)),
             true};
 }
 
-GateReason peopleLeaving(const GateComparison::Result &changes, const GateLimit &limit)
-{
-    const int count = changes.leaving.size();
-    return {makeFinding(GateRules::kPeopleLeaving,
-                        people(count, changes.working)
-                            + (count == 1 ? QStringLiteral(" leaves") : QStringLiteral(" leave"))
-                            + allowance(limit)),
-            true};
-}
+/// People of one kind, and the limit that is held against them.
+struct Kind {
+    const Rule &rule;
+    const GateLimit &limit;
+    const QVector<int> &list;
+    int whole;
+    const char *oneDoes;
+    const char *manyDo;
+};
 
-GateReason peopleMoving(const GateComparison::Result &changes, const GateLimit &limit)
+void assessKind(const Kind &kind, const GateLimits &limits, QVector<GateReason> &reasons)
 {
-    const int count = changes.moving.size();
-    return {makeFinding(GateRules::kPeopleMoving,
-                        people(count, changes.working)
-                            + (count == 1 ? QStringLiteral(" gets") : QStringLiteral(" get"))
-                            + QStringLiteral(" another cost centre") + allowance(limit)),
-            true};
+    const int count = kind.list.size();
+    if (!limits.isExceeded(kind.limit, count, kind.whole))
+        return;
+    reasons << GateReason{makeFinding(kind.rule,
+                                      QStringLiteral("%1 %2%3").arg(
+                                          people(count, kind.whole),
+                                          QLatin1String(count == 1 ? kind.oneDoes : kind.manyDo),
+                                          allowance(kind.limit))),
+                          true};
 }
 
 void assessEnd(const GateFacts &facts, bool mayEndOpen, QVector<GateReason> &reasons)
@@ -85,15 +69,29 @@ void assessEnd(const GateFacts &facts, bool mayEndOpen, QVector<GateReason> &rea
         reasons << truncated(QStringLiteral("The last line does not end with a line feed."));
 }
 
-void assessChanges(const GateComparison::Result &changes, const GateLimits &limits,
-                   QVector<GateReason> &reasons)
+void assessPeople(const ExportDifferences &changes, const GateLimits &limits,
+                  QVector<GateReason> &reasons)
 {
-    if (limits.lostLines.isExceeded(changes.lostLines(), changes.oldLines))
-        reasons << linesLost(changes, limits.lostLines);
-    if (limits.leaving.isExceeded(changes.leaving.size(), changes.working))
-        reasons << peopleLeaving(changes, limits.leaving);
-    if (limits.moving.isExceeded(changes.moving.size(), changes.working))
-        reasons << peopleMoving(changes, limits.moving);
+    const int known = changes.inBoth + changes.gone.size();
+    assessKind({GateRules::kPeopleLeaving, limits.leaving, changes.leaving, changes.working,
+                "leaves", "leave"},
+               limits, reasons);
+    assessKind({GateRules::kPeopleMoving, limits.moving, changes.moving, changes.working,
+                "gets another cost centre", "get another cost centre"},
+               limits, reasons);
+    assessKind({GateRules::kPeopleNew, limits.added, changes.added, known, "is new", "are new"},
+               limits, reasons);
+    assessKind({GateRules::kPeopleReturning, limits.returning, changes.returning, changes.working,
+                "returns who had left", "return who had left"},
+               limits, reasons);
+}
+
+void assessChanges(const GateFacts &facts, const GateLimits &limits, QVector<GateReason> &reasons)
+{
+    if (limits.isExceeded(limits.lostLines, facts.lostLines(), facts.oldLines))
+        reasons << linesLost(facts, limits.lostLines);
+    assessPeople(facts.changes, limits, reasons);
+    reasons << GateValues::assessChanged(facts.changes, limits);
 }
 
 } // namespace
@@ -105,9 +103,10 @@ QVector<GateReason> assess(const GateFacts &facts, const GateLimits &limits, boo
         reasons << empty();
     assessEnd(facts, mayEndOpen, reasons);
     if (facts.hasBaseline)
-        assessChanges(facts.changes, limits, reasons);
+        assessChanges(facts, limits, reasons);
     else
         reasons << noBaseline();
+    reasons << GateValues::assessMisread(facts.changes, limits);
     return reasons;
 }
 

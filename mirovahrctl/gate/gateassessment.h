@@ -1,17 +1,11 @@
 #pragma once
 
+#include "mirovahrctl/comparison/exportdifferences.h"
 #include "mirovahrctl/export/exportscan.h"
-#include "mirovahrctl/gate/gatecomparison.h"
-#include "mirovahrctl/gatestate/gateoptions.h"
-#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/gate/gatereason.h"
+#include "mirovahrctl/gatestate/gatelimits.h"
 
 #include <QVector>
-
-/// Why the gate refuses a file.
-struct GateReason {
-    Finding finding;
-    bool mayBeOverridden = false; ///< by --accept
-};
 
 /// What is known about a file that was read to its end.
 struct GateFacts {
@@ -19,7 +13,11 @@ struct GateFacts {
     bool endsOpen = false; ///< without a final line feed
     bool isLastLineBroken = false;
     bool hasBaseline = false; ///< an admitted file exists, and the file was compared with it
-    GateComparison::Result changes;
+    qint64 oldLines = 0; ///< of the last admitted file, read as people
+    qint64 newLines = 0; ///< read as people
+    ExportDifferences changes; ///< from the last admitted file, or from an empty one
+
+    qint64 lostLines() const { return qMax(qint64(0), oldLines - newLines); }
 };
 
 /// The rules that refuse a file. Pure functions.

@@ -6,7 +6,6 @@
 #include "mirovahrctl/program/progress.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "worker/boundedlinereader.h"
-#include "worker/exportline.h"
 
 #include <QFile>
 
@@ -48,12 +47,13 @@ bool GateExamination::run(const QString &copy, const QString &lastAdmitted, Reje
     QFile oldFile;
     if (!openFiles(copy, newFile, lastAdmitted, oldFile))
         return false;
-    GateComparison comparison(QDate::currentDate());
-    if (m_facts.hasBaseline && !(compareContents(newFile, oldFile) && readOld(oldFile, comparison)))
+    if (m_facts.hasBaseline && !(compareContents(newFile, oldFile) && readOld(oldFile)))
         return false;
-    if (!readNew(newFile, comparison, rejects))
+    if (!readNew(newFile, rejects))
         return false;
-    m_facts.changes = comparison.result();
+    m_facts.oldLines = m_people.lines(ComparedPeople::Before);
+    m_facts.newLines = m_people.lines(ComparedPeople::Now);
+    m_facts.changes = ExportDifferences::of(m_people, QDate::currentDate());
     return true;
 }
 
@@ -85,32 +85,23 @@ bool GateExamination::compareContents(QFile &newFile, QFile &oldFile)
     return true;
 }
 
-bool GateExamination::readOld(QFile &file, GateComparison &comparison)
+bool GateExamination::readOld(QFile &file)
 {
-    const int fieldCount = ExportLine::fieldNames().size();
     BoundedLineReader reader(file);
-    while (reader.next()) {
-        const QString line = ExportLine::decode(reader.line());
-        const ExportLine::Parts parts = ExportLine::split(line, ExportLine::kSeparator);
-        if (parts.size() != fieldCount)
-            continue;
-        const MirovaRonRecord record = ExportLine::toRecord(parts);
-        if (ExportLine::isUsable(record))
-            comparison.addOld(record);
-    }
+    while (reader.next())
+        m_people.add(ComparedPeople::Before, reader.line());
     return !reader.hasFailed() || failReading(kLastAdmitted, reader.errorString());
 }
 
-bool GateExamination::readNew(QFile &file, GateComparison &comparison, RejectsWriter &rejects)
+bool GateExamination::readNew(QFile &file, RejectsWriter &rejects)
 {
     ExportScan check(file, ColumnWidths(), {m_texts, m_texts.value_or(Backslash::Escapes)});
     Progress progress(m_console, QStringLiteral("Checking HR's file"));
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
-    const bool isRead = check.run([this, &comparison, &rejects](const CheckedLine &line) {
-        if (line.record)
-            comparison.addNew(*line.record);
-        if (line.isRejected())
+    const bool isRead = check.run([this, &rejects](const CheckedLine &line) {
+        m_people.add(ComparedPeople::Now, line.raw.constData());
+        if (line.isRejected() || line.hasWarnings())
             rejects.add(line);
         m_facts.isLastLineBroken = isBroken(line);
     });

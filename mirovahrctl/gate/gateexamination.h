@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mirovahrctl/comparison/comparedpeople.h"
 #include "mirovahrctl/gate/gateassessment.h"
 #include "mirovahrctl/site/backslash.h"
 
@@ -24,6 +25,8 @@ public:
     bool run(const QString &copy, const QString &lastAdmitted, RejectsWriter &rejects);
 
     const GateFacts &facts() const { return m_facts; }
+    /// The people of both files.
+    const ComparedPeople &people() const { return m_people; }
     /// Whether the two files are equal, byte for byte.
     bool isUnchanged() const { return m_unchanged; }
     QString errorString() const { return m_error; }
@@ -32,13 +35,14 @@ private:
     bool openFiles(const QString &copy, QFile &newFile, const QString &lastAdmitted,
                    QFile &oldFile);
     bool compareContents(QFile &newFile, QFile &oldFile);
-    bool readOld(QFile &file, GateComparison &comparison);
-    bool readNew(QFile &file, GateComparison &comparison, RejectsWriter &rejects);
+    bool readOld(QFile &file);
+    bool readNew(QFile &file, RejectsWriter &rejects);
     bool failReading(const QString &what, const QString &reason);
 
     GateFolder &m_folder;
     const std::optional<Backslash> m_texts;
     Console &m_console;
+    ComparedPeople m_people;
     GateFacts m_facts;
     bool m_unchanged = false;
     QString m_error;

@@ -1,53 +1,18 @@
 #include "mirovahrctl/gate/gatereport.h"
 
+#include "mirovahrctl/comparison/comparedpeople.h"
+#include "mirovahrctl/comparison/differencetables.h"
+#include "mirovahrctl/comparison/fieldwords.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/rules/gaterules.h"
 #include "mirovahrctl/report/wording.h"
+
+#include <algorithm>
 
 namespace {
 
 /// So many changes of each kind are shown.
 constexpr int kMostShown = 20;
-
-/// The sentence above a list of changes.
-void reportShown(Report &report, const QString &what, int count)
-{
-    if (count > kMostShown) {
-        report.sentence(QStringLiteral("%1: the first %2 of %3.")
-                            .arg(what, QString::number(kMostShown), QString::number(count)));
-    } else {
-        report.sentence(what + QLatin1Char(':'));
-    }
-}
-
-void reportLeaving(Report &report, const QVector<GateComparison::Change> &changes)
-{
-    if (changes.isEmpty())
-        return;
-    reportShown(report, QStringLiteral("Leaving"), changes.size());
-    Table table{QStringLiteral("leaving"),
-                {{QStringLiteral("person"), QStringLiteral("Person")},
-                 {QStringLiteral("costCentre"), QStringLiteral("Cost centre")}},
-                {}};
-    for (const GateComparison::Change &change : changes.mid(0, kMostShown))
-        table.rows.append({change.person(), change.oldCostCentre});
-    report.table(table);
-}
-
-void reportMoving(Report &report, const QVector<GateComparison::Change> &changes)
-{
-    if (changes.isEmpty())
-        return;
-    reportShown(report, QStringLiteral("Moving"), changes.size());
-    Table table{QStringLiteral("moving"),
-                {{QStringLiteral("person"), QStringLiteral("Person")},
-                 {QStringLiteral("from"), QStringLiteral("From cost centre")},
-                 {QStringLiteral("to"), QStringLiteral("To cost centre")}},
-                {}};
-    for (const GateComparison::Change &change : changes.mid(0, kMostShown))
-        table.rows.append({change.person(), change.oldCostCentre, change.newCostCentre});
-    report.table(table);
-}
 
 Finding rejectedLines(qint64 count, const QString &path)
 {
@@ -58,20 +23,20 @@ Finding rejectedLines(qint64 count, const QString &path)
         QStringLiteral("Send HR the file %1.").arg(path));
 }
 
-void reportChanges(Report &report, const GateComparison::Result &changes)
+Finding warnedLines(qint64 count, const QString &path)
 {
-    report.section(QStringLiteral("changes"),
-                   QStringLiteral("Compared with the last admitted file"));
-    report.fact(QStringLiteral("oldRecords"), QStringLiteral("People in the last admitted file"),
-                changes.oldLines);
-    report.fact(QStringLiteral("working"), QStringLiteral("Employed people in it"),
-                changes.working);
-    report.fact(QStringLiteral("lostLines"), QStringLiteral("Lines lost"), changes.lostLines());
-    report.fact(QStringLiteral("leaving"), QStringLiteral("People leaving"),
-                changes.leaving.size());
-    report.fact(QStringLiteral("moving"), QStringLiteral("People moving"), changes.moving.size());
-    reportLeaving(report, changes.leaving);
-    reportMoving(report, changes.moving);
+    return makeFinding(
+        GateRules::kWarnedLines,
+        QStringLiteral("The file has %1 with warnings: values that the plugin misreads, or that "
+                       "are hardly intended.")
+            .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"))),
+        QStringLiteral("Send HR the file %1.").arg(path));
+}
+
+bool mayAllBeOverridden(const QVector<GateReason> &reasons)
+{
+    return std::all_of(reasons.cbegin(), reasons.cend(),
+                       [](const GateReason &reason) { return reason.mayBeOverridden; });
 }
 
 } // namespace
@@ -90,12 +55,21 @@ QVector<Finding> GateReport::reasonFindings() const
     QVector<Finding> findings;
     for (const GateReason &reason : reasons) {
         findings << reason.finding;
-        if (isAdmitted) {
+        findings.last().advice = adviceOn(reason);
+        if (isAdmitted)
             findings.last().severity = Severity::Warning;
-            findings.last().advice = QStringLiteral("Overridden by --accept.");
-        }
     }
     return findings;
+}
+
+/// Advises --accept only where that admits the file.
+QString GateReport::adviceOn(const GateReason &reason) const
+{
+    if (isAdmitted)
+        return QStringLiteral("Overridden by --accept.");
+    if (!reason.mayBeOverridden || mayAllBeOverridden(reasons))
+        return reason.finding.advice;
+    return QStringLiteral("Ask HR. For another reason the file cannot be admitted at all.");
 }
 
 QVector<Finding> GateReport::notes() const
@@ -116,6 +90,8 @@ QVector<Finding> GateReport::notes() const
     }
     if (facts != nullptr && facts->counts.rejected > 0)
         notes << rejectedLines(facts->counts.rejected, rejects);
+    if (facts != nullptr && facts->counts.warned > 0)
+        notes << warnedLines(facts->counts.warned, rejects);
     return notes;
 }
 
@@ -128,8 +104,56 @@ void GateReport::reportFacts(Report &report) const
                 facts->counts.dropped);
     report.fact(QStringLiteral("rejected"), QStringLiteral("Lines with errors"),
                 facts->counts.rejected);
+    report.fact(QStringLiteral("warned"), QStringLiteral("Lines with warnings"),
+                facts->counts.warned);
     if (facts->hasBaseline)
-        reportChanges(report, facts->changes);
+        reportChanges(report);
+    reportPeople(report);
+}
+
+void GateReport::reportChanges(Report &report) const
+{
+    const auto fact = [&report](const char *id, const char *label, qint64 value) {
+        report.fact(QString::fromLatin1(id), QString::fromLatin1(label), value);
+    };
+    const ExportDifferences &changes = facts->changes;
+    report.section(QStringLiteral("changes"),
+                   QStringLiteral("Compared with the last admitted file"));
+    fact("oldRecords", "People in the last admitted file", facts->oldLines);
+    fact("working", "Employed people in it", changes.working);
+    fact("lostLines", "Lines lost", facts->lostLines());
+    fact("leaving", "People leaving", changes.leaving.size());
+    fact("moving", "People moving", changes.moving.size());
+    fact("new", "New people", changes.added.size());
+    fact("returning", "People returning", changes.returning.size());
+    fact("reassigned", "Supervisors changed without a visible reason", changes.reassigned.size());
+    DifferenceTables tables(*people, report, kMostShown);
+    tables.people("leaving", QStringLiteral("Leaving"), changes.leaving);
+    tables.moving(changes.moving);
+    tables.people("new", QStringLiteral("New"), changes.added);
+    tables.people("returning", QStringLiteral("Returning"), changes.returning);
+    const Table values = fieldTable(changes);
+    if (values.rows.isEmpty())
+        return;
+    report.sentence(QStringLiteral("Values:"));
+    report.table(values);
+}
+
+/// Whose values are a reason.
+void GateReport::reportPeople(Report &report) const
+{
+    bool hasSection = false;
+    for (const GateReason &reason : reasons) {
+        if (reason.people.isEmpty())
+            continue;
+        if (!hasSection)
+            report.section(QStringLiteral("people"), QStringLiteral("Whose values these are"));
+        hasSection = true;
+        const QString id = reason.finding.rule + QLatin1Char('-') + reason.finding.field;
+        const QString what =
+            QStringLiteral("%1 [%2]").arg(FieldWords::heading(reason.field), reason.finding.rule);
+        DifferenceTables(*people, report, kMostShown).values(id, what, reason.people, reason.field);
+    }
 }
 
 QString GateReport::verdict() const

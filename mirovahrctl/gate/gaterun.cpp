@@ -137,6 +137,8 @@ std::optional<ExitStatus> GateRun::examine()
     if (!m_rejects.finish() || !m_rejects.putInPlace())
         return fail(m_rejects.errorString());
     m_isExamined = true;
+    const ExportScan::Counts &counts = m_examination.facts().counts;
+    m_status.setLines(counts.rejected, counts.warned);
     return std::nullopt;
 }
 
@@ -208,6 +210,7 @@ ExitStatus GateRun::report(bool isAdmitted, const QVector<GateReason> &reasons)
     gateReport.isUnchanged = m_examination.isUnchanged();
     gateReport.wasTaken = m_wasTaken;
     gateReport.facts = m_isExamined ? &m_examination.facts() : nullptr;
+    gateReport.people = &m_examination.people();
     gateReport.rejects = m_options.rejects;
     gateReport.reasons = reasons;
     return gateReport.writeTo(m_report);

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr double kLargestNumber = 1e9;
+constexpr auto kLargestNumber = double(GateLimit::kAny);
 
 /// Reads numeric options, and keeps the first problem.
 class NumberReader {
@@ -54,15 +54,20 @@ private:
     QString m_problem;
 };
 
+QByteArray percentOption(const GateLimitOption &option)
+{
+    return QByteArray(option.name) + "-percent";
+}
+
 QString readNumbers(const CommandLine &line, GateOptions &options)
 {
     NumberReader reader(line);
-    reader.read("max-lost-lines", options.limits.lostLines.count);
-    reader.readPercent("max-lost-lines-percent", options.limits.lostLines.percent);
-    reader.read("max-leaving", options.limits.leaving.count);
-    reader.readPercent("max-leaving-percent", options.limits.leaving.percent);
-    reader.read("max-moving", options.limits.moving.count);
-    reader.readPercent("max-moving-percent", options.limits.moving.percent);
+    for (const GateLimitOption &option : kGateLimitOptions) {
+        GateLimit &limit = options.limits.*option.limit;
+        reader.read(option.name, limit.count);
+        reader.readPercent(percentOption(option).constData(), limit.percent);
+    }
+    reader.read("few", options.limits.few);
     reader.read("keep", options.copies);
     reader.read("settle", options.settleSeconds);
     return reader.problem();
@@ -95,21 +100,30 @@ QString pathProblem(const GateOptions &options)
     return {};
 }
 
+/// The default of a limit's number, in a help text.
+QString shownCount(qint64 count)
+{
+    return count == GateLimit::kAny ? QStringLiteral("any number") : QString::number(count);
+}
+
 void addLimits(CommandLine &line)
 {
-    line.addOption("max-lost-lines", "number",
-                   "Refuse a file that has lost more lines than this; default: 50.");
-    line.addOption("max-lost-lines-percent", "percent",
-                   "The same in percent of the lines; default: 5.");
-    line.addOption("max-leaving", "number",
-                   "Refuse a file in which more people leave than this; default: 50.");
-    line.addOption("max-leaving-percent", "percent",
-                   "The same in percent of the employed people; default: 5.");
-    line.addOption(
-        "max-moving", "number",
-        "Refuse a file in which more people than this get another cost centre; default: 100.");
-    line.addOption("max-moving-percent", "percent",
-                   "The same in percent of the employed people; default: 10.");
+    const auto add = [&line](const QByteArray &name, const char *value, const QString &text) {
+        line.addOption(name.constData(), value, text.toUtf8().constData());
+    };
+    const GateLimits defaults;
+    for (const GateLimitOption &option : kGateLimitOptions) {
+        const GateLimit &limit = defaults.*option.limit;
+        add(option.name, "number",
+            QStringLiteral("Refuse a file that %1; default: %2.")
+                .arg(QLatin1String(option.refuses), shownCount(limit.count)));
+        add(percentOption(option), "percent",
+            QStringLiteral("The same in percent of the %1; default: %2.")
+                .arg(QLatin1String(option.whole), QString::number(limit.percent)));
+    }
+    add("few", "number",
+        QStringLiteral("So many may always change, whatever percentage they are; default: %1.")
+            .arg(defaults.few));
 }
 
 /// The arguments of the gate among the words of a command; nothing when it runs no gate.
@@ -133,8 +147,8 @@ void GateOptions::addTo(CommandLine &line)
                    "The folder of the gate's own files, created when it is missing; default: the "
                    "path of --to with .gate appended.");
     line.addOption("rejects", "file",
-                   "Where to write the lines with errors, to send to HR; default: rejects.txt in "
-                   "the gate's folder.");
+                   "Where to write the lines with errors or warnings, to send to HR; default: "
+                   "rejects.txt in the gate's folder.");
     addLimits(line);
     line.addOption("keep", "number",
                    "How many dated copies of admitted files to keep; default: 30.");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mirovahrctl/gatestate/gatelimits.h"
 #include "mirovahrctl/report/exitstatus.h"
 #include "mirovahrctl/site/backslash.h"
 
@@ -10,25 +11,6 @@
 
 class CommandLine;
 class Console;
-
-/// How much may change from one file to the next.
-struct GateLimit {
-    qint64 count = 0;
-    double percent = 0;
-
-    /// True when \a changed exceeds the count, or the percentage of \a whole.
-    bool isExceeded(qint64 changed, qint64 whole) const
-    {
-        return changed > count || double(changed) * 100 > percent * double(whole);
-    }
-};
-
-/// What the gate allows. The defaults suit a few hundred to a few thousand people.
-struct GateLimits {
-    GateLimit lostLines{50, 5}; ///< of the lines that the plugin reads as people
-    GateLimit leaving{50, 5}; ///< of the employed people
-    GateLimit moving{100, 10}; ///< of the employed people
-};
 
 /// The options of the gate's command line.
 struct GateOptions {

@@ -20,6 +20,8 @@ const QLatin1String kFile("file");
 const QLatin1String kLines("lines");
 const QLatin1String kDelivered("delivered");
 const QLatin1String kTexts("texts");
+const QLatin1String kLinesWithErrors("linesWithErrors");
+const QLatin1String kLinesWithWarnings("linesWithWarnings");
 
 constexpr char kAdmitted[] = "admitted";
 constexpr char kRefused[] = "refused";
@@ -57,6 +59,14 @@ QStringList readTexts(const QJsonArray &values)
             texts += value.toString();
     }
     return texts;
+}
+
+/// The object with the members of another one.
+QJsonObject with(QJsonObject object, const QJsonObject &members)
+{
+    for (auto member = members.begin(); member != members.end(); ++member)
+        object.insert(member.key(), member.value());
+    return object;
 }
 
 /// Readers join the reasons to one sentence.
@@ -134,12 +144,27 @@ std::optional<Backslash> GateStatus::admittedTexts() const
     return GateTexts::ofWord(lastAdmitted().value(kTexts).toString());
 }
 
+std::optional<qint64> GateStatus::linesWithErrors() const
+{
+    return readNumber(m_document.value(kLinesWithErrors));
+}
+
+std::optional<qint64> GateStatus::linesWithWarnings() const
+{
+    return readNumber(m_document.value(kLinesWithWarnings));
+}
+
 bool GateStatus::load(GateFolder &folder)
 {
     const auto content = folder.contentOf(fileName());
     if (content)
         *this = parse(*content).value_or(GateStatus());
     return content.has_value();
+}
+
+void GateStatus::setLines(qint64 withErrors, qint64 withWarnings)
+{
+    m_lines = {{kLinesWithErrors, withErrors}, {kLinesWithWarnings, withWarnings}};
 }
 
 void GateStatus::refuse(const QStringList &reasons)
@@ -150,14 +175,13 @@ void GateStatus::refuse(const QStringList &reasons)
 void GateStatus::admit(const Admission &admission)
 {
     finish(kAdmitted, {}, admission.overridden,
-           {
-               {kTime, now()},
-               {kFile, admission.file},
-               {kLines, admission.lines},
-               {kDelivered, Moment::exactText(admission.delivered)},
-               {kOverridden, withoutFullStops(admission.overridden)},
-               {kTexts, GateTexts::word(admission.texts)},
-           });
+           with({{kTime, now()},
+                 {kFile, admission.file},
+                 {kLines, admission.lines},
+                 {kDelivered, Moment::exactText(admission.delivered)},
+                 {kOverridden, withoutFullStops(admission.overridden)},
+                 {kTexts, GateTexts::word(admission.texts)}},
+                m_lines));
 }
 
 void GateStatus::admitAgain(const Admission &admission)
@@ -191,12 +215,11 @@ QJsonObject GateStatus::lastAdmitted() const
 void GateStatus::finish(const char *result, const QStringList &reasons,
                         const QStringList &overridden, const QJsonObject &lastAdmitted)
 {
-    m_document = {
-        {kResult, QLatin1String(result)},
-        {kTime, now()},
-        {kReasons, withoutFullStops(reasons)},
-        {kOverridden, withoutFullStops(overridden)},
-    };
+    m_document = with({{kResult, QLatin1String(result)},
+                       {kTime, now()},
+                       {kReasons, withoutFullStops(reasons)},
+                       {kOverridden, withoutFullStops(overridden)}},
+                      m_lines);
     if (!lastAdmitted.isEmpty())
         m_document.insert(kLastAdmitted, lastAdmitted);
 }

@@ -16,13 +16,15 @@ class GateFolder;
 ///
 ///     {"result": "admitted" or "refused", "time": when the gate ran last,
 ///      "reasons": [why it refused, ...], "overridden": [what --accept set aside, ...],
+///      "linesWithErrors": number, "linesWithWarnings": number,
 ///      "lastAdmitted": {"time": when, "file": path, "lines": number,
+///                       "linesWithErrors": number, "linesWithWarnings": number,
 ///                       "delivered": when HR wrote the file, "overridden": [...],
 ///                       "texts": how they were written for the plugin, see GateTexts}}
 ///
 /// Times are texts such as "2026-11-21T05:10:00+01:00", "delivered" has milliseconds. Reasons are
-/// sentences without their full stops. Members that are missing or of another kind count as not
-/// known; further ones do not matter.
+/// sentences without their full stops. The lines of a file that was not examined are not counted.
+/// Members that are missing or of another kind count as not known; further ones do not matter.
 class GateStatus {
 public:
     /// The file's name in the gate's folder.
@@ -48,6 +50,10 @@ public:
     /// How the texts of the file that was admitted last are written in the published one; nothing:
     /// as they are.
     std::optional<Backslash> admittedTexts() const;
+    /// Lines of the file that the gate examined last: those with errors, and those with warnings
+    /// and no errors.
+    std::optional<qint64> linesWithErrors() const;
+    std::optional<qint64> linesWithWarnings() const;
 
     /// Loads what the last run wrote into the gate's folder; nothing of it is known when the file
     /// is missing or is no JSON object. False when reading fails; the folder then says why.
@@ -60,6 +66,9 @@ public:
         QStringList overridden;
         std::optional<Backslash> texts;
     };
+    /// How many lines of this run's file have errors, and how many only warnings. Comes before
+    /// refuse() or admit(); without it they are not known.
+    void setLines(qint64 withErrors, qint64 withWarnings);
     /// This run refuses its file.
     void refuse(const QStringList &reasons);
     /// This run admits its file, which becomes the last admitted one.
@@ -78,4 +87,5 @@ private:
                 const QJsonObject &lastAdmitted);
 
     QJsonObject m_document;
+    QJsonObject m_lines; ///< of this run's file
 };

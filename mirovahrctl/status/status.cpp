@@ -85,6 +85,13 @@ void reportGate(Report &report, const GateStatus &gate)
     if (gate.admittedLines())
         report.fact(QStringLiteral("admittedLines"), QStringLiteral("Lines in the admitted file"),
                     *gate.admittedLines());
+    if (gate.linesWithErrors())
+        report.fact(QStringLiteral("linesWithErrors"),
+                    QStringLiteral("Lines with errors in the last file"), *gate.linesWithErrors());
+    if (gate.linesWithWarnings())
+        report.fact(QStringLiteral("linesWithWarnings"),
+                    QStringLiteral("Lines with warnings in the last file"),
+                    *gate.linesWithWarnings());
 }
 
 /// Answers the monitoring system although the subcommand has failed.

@@ -43,6 +43,46 @@ inline constexpr Rule kPeopleMoving{
     "people-moving", Severity::Error, "More people than the limits allow get another cost centre.",
     "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
 
+inline constexpr Rule kPeopleNew{
+    "people-new", Severity::Error, "More people than the limits allow are new.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
+inline constexpr Rule kPeopleReturning{
+    "people-returning", Severity::Error, "More people than the limits allow return who had left.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
+inline constexpr Rule kSupervisorsChanged{
+    "supervisors-changed", Severity::Error,
+    "More people than the limits allow lose a supervisor who still works in the same place.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
+inline constexpr Rule kBalancesZero{
+    "balances-zero", Severity::Error, "More vacation balances than the limits allow become 0.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
+inline constexpr Rule kBalancesImplausible{
+    "balances-implausible", Severity::Error,
+    "More vacation balances than the limits allow leave the plausible range.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
+inline constexpr Rule kBalancesMultiplied{
+    "balances-multiplied", Severity::Error,
+    "More vacation balances than the limits allow are the same multiple of what they were.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
+inline constexpr Rule kValuesChanged{
+    "values-changed", Severity::Error, "More values of a field than the limits allow change.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
+inline constexpr Rule kValuesEmptied{
+    "values-emptied", Severity::Error, "More values of a field than the limits allow are emptied.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
+inline constexpr Rule kValuesMisread{
+    "values-misread", Severity::Error,
+    "More values of a field than the limits allow are newly misread by the plugin.",
+    "Ask HR for a correct file.", Severity::Warning};
+
 inline constexpr Rule kTruncated{"truncated", Severity::Error,
                                  "The last line is damaged or has no line feed.",
                                  "Ask HR for the complete file.", Severity::Warning};
@@ -50,6 +90,11 @@ inline constexpr Rule kTruncated{"truncated", Severity::Error,
 inline constexpr Rule kRejectedLines{
     "rejected-lines", Severity::Note,
     "The file has lines with errors, which do not keep it from being admitted.",
+    "Send HR the file of these lines."};
+
+inline constexpr Rule kWarnedLines{
+    "warned-lines", Severity::Note,
+    "The file has lines with values that the plugin misreads or that are hardly intended.",
     "Send HR the file of these lines."};
 
 inline constexpr Rule kUnchanged{"unchanged", Severity::Note,
@@ -61,9 +106,30 @@ inline constexpr Rule kUnread{
 
 /// All of them, in the order of `mirovahrctl rules`.
 inline constexpr const Rule *kAll[] = {
-    &kBusy,      &kChangedMeanwhile, &kEmpty,      &kFileTooLong,   &kJustWritten,
-    &kLinesLost, &kMissing,          &kNoBaseline, &kPeopleLeaving, &kPeopleMoving,
-    &kTruncated, &kRejectedLines,    &kUnchanged,  &kUnread,
+    &kBusy,
+    &kChangedMeanwhile,
+    &kEmpty,
+    &kFileTooLong,
+    &kJustWritten,
+    &kLinesLost,
+    &kMissing,
+    &kNoBaseline,
+    &kPeopleLeaving,
+    &kPeopleMoving,
+    &kPeopleNew,
+    &kPeopleReturning,
+    &kSupervisorsChanged,
+    &kBalancesZero,
+    &kBalancesImplausible,
+    &kBalancesMultiplied,
+    &kValuesChanged,
+    &kValuesEmptied,
+    &kValuesMisread,
+    &kTruncated,
+    &kRejectedLines,
+    &kWarnedLines,
+    &kUnchanged,
+    &kUnread,
 };
 
 } // namespace GateRules

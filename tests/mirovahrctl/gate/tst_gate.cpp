@@ -1,4 +1,5 @@
 #include "mirovahrctl/gate/gatesource.h"
+#include "mirovahrctl/gatestate/gatelimits.h"
 #include "tests/mirovahrctl/gate/gatesite.h"
 #include "tests/mirovahrctl/program/rulefixtures.h"
 
@@ -27,6 +28,8 @@ QVector<Row> formerPeople(int count)
     rows[0].with(&Row::stavPracovnihoPomeru, "1");
     return rows;
 }
+
+const QDate kTomorrow = QDate::currentDate().addDays(1);
 
 } // namespace
 
@@ -68,9 +71,16 @@ private Q_SLOTS:
 
     void theReportForPeople();
     void theFirstTwentyChangesAreShown();
+    void theReportNamesWhoseValuesAreTheReason();
+    void theStatusFileNamesNobody();
+    void linesWithWarningsAreCounted();
+    void acceptIsAdvisedOnlyWhereItHelps();
+    void theFirstFileIsCheckedForMisreadValues();
+    void whatWasMisreadBeforeIsNoReason();
     void aRunWithoutFindingsIsPlain();
     void badUsageIsRefused_data();
     void badUsageIsRefused();
+    void balancesThatAreMultipliedAlikeAreRefused();
     void everyRuleHasItsFixtures();
 
 private:
@@ -139,57 +149,119 @@ void TestGate::theDefaultLimitsHoldToThePoint()
     compare(m_site->run(), reasons);
 }
 
+/// A kind of change that has a limit, in a firm of 40.
+struct LimitedKind {
+    const char *option;
+    const char *rule;
+    QVector<Row> before;
+    QVector<Row> (*change)(int count);
+};
+
+/// All of them. What \a count people do counts 2.5 percent for each of them.
+static QVector<LimitedKind> limitedKinds()
+{
+    const QVector<Row> forty = GatePeople::some(40);
+    return {
+        {"max-lost-lines", "lines-lost", forty,
+         [](int count) {
+             return GatePeople::some(40 - count);
+         }},
+        {"max-leaving", "people-leaving", forty,
+         [](int count) {
+             return changed(40, count, &Row::datumVystupu, exportDate(kTomorrow));
+         }},
+        {"max-moving", "people-moving", forty,
+         [](int count) {
+             return changed(40, count, &Row::stredisko, "130");
+         }},
+        {"max-new", "people-new", forty,
+         [](int count) {
+             return GatePeople::some(40 + count);
+         }},
+        {"max-returning", "people-returning", changed(80, 40, &Row::stavPracovnihoPomeru, "4"),
+         [](int count) {
+             return changed(80, 40 - count, &Row::stavPracovnihoPomeru, "4");
+         }},
+        {"max-supervisors", "supervisors-changed", changed(40, 40, &Row::nadrizenyOsobniCislo, "7"),
+         [](int count) {
+             const auto supervisor = &Row::nadrizenyOsobniCislo;
+             QVector<Row> people = changed(40, 40, supervisor, "7");
+             for (int i = 0; i < count; ++i)
+                 people[i].with(supervisor, i % 2 == 0 ? "8" : "0");
+             return people;
+         }},
+        {"max-balances", "balances-zero", forty,
+         [](int count) {
+             return changed(40, count, &Row::dovolenaZustatek, "0");
+         }},
+        {"max-balances", "balances-implausible", forty,
+         [](int count) {
+             return changed(40, count, &Row::dovolenaZustatek, "101");
+         }},
+        {"max-changed", "values-changed", forty,
+         [](int count) {
+             return changed(40, count, &Row::telefon, "1");
+         }},
+        {"max-emptied", "values-emptied", forty,
+         [](int count) {
+             return changed(40, count, &Row::telefon, "");
+         }},
+        {"max-misread", "values-misread", forty,
+         [](int count) {
+             return changed(40, count, &Row::dovolenaZustatek, "12,5");
+         }},
+    };
+}
+
 void TestGate::aLimitHoldsToThePoint_data()
 {
-    QTest::addColumn<QVector<ExportRow>>("after"); // of 40 people
+    QTest::addColumn<QVector<ExportRow>>("before");
+    QTest::addColumn<QVector<ExportRow>>("after");
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QStringList>("reasons");
 
-    struct Kind {
-        const char *name;
-        const char *option;
-        const char *rule;
-        QVector<Row> (*change)(int count);
-    };
-    const Kind kinds[] = {{"lines", "--max-lost-lines", "lines-lost",
-                           [](int count) {
-                               return GatePeople::some(40).mid(0, 40 - count);
-                           }},
-                          {"leaving", "--max-leaving", "people-leaving",
-                           [](int count) {
-                               return changed(40, count, &Row::stavPracovnihoPomeru, "4");
-                           }},
-                          {"moving", "--max-moving", "people-moving", [](int count) {
-                               return changed(40, count, &Row::stredisko, "130");
-                           }}};
-    for (const Kind &kind : kinds) {
+    for (const LimitedKind &kind : limitedKinds()) {
         const auto row = [&kind](const char *name, int count, const QString &limit,
-                                 const QString &percent, bool trips) {
-            // Lost lines count as leaving people, too: not in this test.
-            QStringList options{"--max-leaving", "40", "--max-leaving-percent", "100"};
-            options << kind.option << limit << QString(kind.option) + "-percent" << percent;
-            QTest::addRow("%s: %s", kind.name, name)
-                << kind.change(count) << options
+                                 const QString &percent, const QString &few, bool trips) {
+            // Lost lines count as leaving people, too, and last days as changed ones: not here.
+            const QStringList options{"--max-leaving",
+                                      "40",
+                                      "--max-leaving-percent",
+                                      "100",
+                                      "--max-changed-percent",
+                                      "100",
+                                      "--few",
+                                      few,
+                                      QString("--") + kind.option,
+                                      limit,
+                                      QString("--%1-percent").arg(kind.option),
+                                      percent};
+            QTest::addRow("%s: %s", kind.rule, name)
+                << kind.before << kind.change(count) << options
                 << (trips ? QStringList(kind.rule) : QStringList());
         };
-        row("as many as the number", 3, "3", "100", false);
-        row("one more than the number", 4, "3", "100", true);
-        row("none when the number is 0", 0, "0", "100", false);
-        row("one when the number is 0", 1, "0", "100", true);
-        row("exactly the percentage", 5, "40", "12.5", false);
-        row("one more than the percentage", 6, "40", "12.5", true);
-        row("none when the percentage is 0", 0, "40", "0", false);
-        row("one when the percentage is 0", 1, "40", "0", true);
-        row("all but one", 39, "39", "97.5", false);
+        row("as many as the number", 3, "3", "100", "0", false);
+        row("one more than the number", 4, "3", "100", "0", true);
+        row("none when the number is 0", 0, "0", "100", "0", false);
+        row("one when the number is 0", 1, "0", "100", "0", true);
+        row("exactly the percentage", 5, "40", "12.5", "0", false);
+        row("one more than the percentage", 6, "40", "12.5", "0", true);
+        row("none when the percentage is 0", 0, "40", "0", "0", false);
+        row("one when the percentage is 0", 1, "40", "0", "0", true);
+        row("few", 4, "40", "0", "4", false);
+        row("one more than few", 5, "40", "0", "4", true);
+        row("few, but more than the number", 4, "3", "100", "4", true);
+        row("all but one", 39, "39", "97.5", "0", false);
     }
 }
 
 void TestGate::aLimitHoldsToThePoint()
 {
+    QFETCH(QVector<ExportRow>, before);
     QFETCH(QVector<ExportRow>, after);
     QFETCH(QStringList, options);
     QFETCH(QStringList, reasons);
-    m_site->admit(GatePeople::some(40));
+    m_site->admit(before);
     m_site->deliver(after);
     compare(m_site->run(options), reasons);
 }
@@ -298,7 +370,8 @@ void TestGate::aDroppedLineIsALineLost()
     QVector<Row> people = GatePeople::some(10);
     people[4].with(&Row::jmeno, "").with(&Row::prijmeni, "");
     m_site->deliver(people);
-    const QStringList options{"--max-leaving-percent", "10", "--max-lost-lines-percent"};
+    const QStringList options{"--few", "0", "--max-leaving-percent", "10",
+                              "--max-lost-lines-percent"};
     compare(m_site->run(options + QStringList("9.9")), {"lines-lost"});
     compare(m_site->run(options + QStringList("10")), {});
 }
@@ -481,8 +554,8 @@ void TestGate::acceptOverridesWhatHasChanged_data()
                                        "10 lines (50.0 %) with people are missing compared with "
                                        "the last admitted file; the limits are 50 and 5 %",
                                        "10 people (50.0 %) leave; the limits are 50 and 5 %"};
-    QTest::newRow("leaving") << GatePeople::file(changed(20, 20, state, "4"))
-                             << QStringList("20 people (100.0 %) leave; the limits are 50 and 5 %");
+    QTest::newRow("leaving") << GatePeople::file(changed(20, 4, state, "4"))
+                             << QStringList("4 people (20.0 %) leave; the limits are 50 and 5 %");
     QTest::newRow("moving")
         << GatePeople::file(changed(20, 3, &Row::stredisko, "9"))
         << QStringList("3 people (15.0 %) get another cost centre; the limits are 100 and 10 %");
@@ -551,10 +624,11 @@ void TestGate::theReportForPeople()
     QVector<Row> people = GatePeople::some(3);
     people[0].with(&Row::stredisko, "130");
     people[1].with(&Row::prijmeni, "Néil👤");
+    people[2].with(&Row::dovolenaZustatek, "12,5");
     m_site->deliver(people);
     writeFile(m_site->target(), "unread");
 
-    const ToolRun run = runTool(m_site->arguments());
+    const ToolRun run = runTool(m_site->arguments({"--few", "0", "--max-misread-percent", "100"}));
 
     COMPARE_EXIT(run, ExitStatus::GuardTripped);
     QCOMPARE(run.err, QString());
@@ -571,22 +645,43 @@ void TestGate::theReportForPeople()
             "error: 1 person (25.0 %) gets another cost centre; the limits are 100 and 10 %. "
             "[people-moving]\n"
             "    Ask HR; if the change is intended, run the gate once with --accept.\n"
+            "Prijmeni: error: The surname of 1 person (33.3 %) changes; the limits are 1000 and "
+            "20 %. [values-changed]\n"
+            "    Ask HR; if the change is intended, run the gate once with --accept.\n"
             "note: An earlier file was still in place, which the plugin has not read or does not "
             "remove. It remains. [unread]\n"
             "note: The file has 1 line with errors, dropped or not written correctly. "
             "[rejected-lines]\n"
+            "    Send HR the file %4.\n"
+            "note: The file has 1 line with warnings: values that the plugin misreads, or that are "
+            "hardly intended. [warned-lines]\n"
             "    Send HR the file %4.\n\n"
             "HR's file\n---------\n"
             "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
-            "Lines with errors: 1\n\n"
+            "Lines with errors: 1\nLines with warnings: 1\n\n"
             "Compared with the last admitted file\n------------------------------------\n"
             "People in the last admitted file: 4\nEmployed people in it: 4\nLines lost: 1\n"
-            "People leaving: 1\nPeople moving: 1\n"
+            "People leaving: 1\nPeople moving: 1\nNew people: 0\nPeople returning: 0\n"
+            "Supervisors changed without a visible reason: 0\n"
             "Leaving:\n"
-            "Person  Cost centre\n------  -----------\n1003.1  120\n"
+            "Person  Name           Cost centre\n"
+            "------  -------------  -----------\n"
+            "1003.1  Jana Nováková  120\n"
             "Moving:\n"
-            "Person  From cost centre  To cost centre\n"
-            "------  ----------------  --------------\n1000.1  120               130\n\n"
+            "Person  Name           From cost centre  To cost centre\n"
+            "------  -------------  ----------------  --------------\n"
+            "1000.1  Jana Nováková  120               130\n"
+            "Values:\n"
+            "Field             Meaning           Changed  Emptied  Misread  Repaired\n"
+            "----------------  ----------------  -------  -------  -------  --------\n"
+            "Prijmeni          surname           1        0        0        0\n"
+            "Stredisko         cost centre       1        0        0        0\n"
+            "DovolenaZustatek  vacation balance  0        0        1        0\n\n"
+            "Whose values these are\n----------------------\n"
+            "Surname [values-changed]:\n"
+            "Person  Name         Before    Now\n"
+            "------  -----------  --------  ------\n"
+            "1001.1  Jana Néil👤  Nováková  Néil👤\n\n"
             "The file was refused. Nothing was published.\n")
             .arg(m_site->hrFile(), m_site->target(),
                  QString(14 + m_site->hrFile().size() + m_site->target().size(), '='),
@@ -602,9 +697,113 @@ void TestGate::theFirstTwentyChangesAreShown()
     const ToolRun run = m_site->run();
     const QJsonObject section = run.json()["sections"].toArray().last().toObject();
     QCOMPARE(section["sentences"].toVariant().toStringList(),
-             QStringList("Moving: the first 20 of 21."));
+             QStringList({"Moving: the first 20 of 21.", "Values:"}));
     const QJsonArray rows = section["tables"].toObject()["moving"].toArray();
     QCOMPARE(rows.size(), 20);
+}
+
+void TestGate::theReportNamesWhoseValuesAreTheReason()
+{
+    m_site->admit(GatePeople::some(60));
+    m_site->deliver(changed(60, 21, &Row::dovolenaZustatek, "12,5"));
+    const ToolRun run = m_site->run();
+    compare(run, {"values-misread"});
+    const QJsonObject finding = run.findingsOf("values-misread").value(0);
+    QCOMPARE(finding["message"].toString(),
+             QString("The vacation balance of 21 people (35.0 %) is misread: the vacation balance "
+                     "is set to 0 days; the limits are 100 and 5 %."));
+    QCOMPARE(finding["field"].toString(), QString("DovolenaZustatek"));
+    const QJsonObject section = run.json()["sections"].toArray().last().toObject();
+    QCOMPARE(section["sentences"].toVariant().toStringList(),
+             QStringList("Vacation balance [values-misread]: the first 20 of 21."));
+    const QJsonArray rows =
+        section["tables"].toObject()["values-misread-DovolenaZustatek"].toArray();
+    QCOMPARE(rows.size(), 20);
+    QCOMPARE(rows[0].toObject(),
+             QJsonObject({{"person", "1000.1"},
+                          {"name", "Jana Nováková"},
+                          {"before", "12.5"},
+                          {"now", "12,5"}}));
+}
+
+void TestGate::theStatusFileNamesNobody()
+{
+    m_site->admit(GatePeople::some(60));
+    m_site->deliver(changed(60, 21, &Row::prijmeni, "Tóthová"));
+    compare(m_site->run(), {"values-changed"});
+    const QByteArray status = contentOf(m_site->inState("status.json"));
+    QVERIFY2(!status.contains("1001") && !status.contains("Tóth"), status.constData());
+}
+
+void TestGate::linesWithWarningsAreCounted()
+{
+    m_site->admit(GatePeople::some(60));
+    QVector<Row> people = changed(60, 2, &Row::dovolenaZustatek, "12,5");
+    people[1].with(&Row::prijmeni, "Néil👤");
+    m_site->deliver(people);
+    const ToolRun run = m_site->run();
+    compare(run, {});
+    QCOMPARE(run.rules(), QStringList({"rejected-lines", "warned-lines"}));
+    QCOMPARE(run.json()["facts"].toObject()["warned"].toInt(), 1);
+    for (const QJsonObject &status :
+         {m_site->status(), m_site->status()["lastAdmitted"].toObject()}) {
+        QCOMPARE(status["linesWithErrors"].toInt(), 1);
+        QCOMPARE(status["linesWithWarnings"].toInt(), 1);
+    }
+    const QByteArray rejects = contentOf(m_site->inState("rejects.txt"));
+    QVERIFY2(rejects.contains("\n# Line 1: DovolenaZustatek: The plugin cannot read \"12,5\" as a "
+                              "number."),
+             rejects.constData());
+    QVERIFY(rejects.endsWith("\n\n# 2 lines.\n"));
+}
+
+void TestGate::acceptIsAdvisedOnlyWhereItHelps()
+{
+    const QString accept = "--accept";
+    const auto advises = [&](const ToolRun &run) {
+        QStringList rules;
+        for (const QJsonValue &finding : run.findings()) {
+            if (finding.toObject()["advice"].toString().contains(accept))
+                rules << finding.toObject()["rule"].toString();
+        }
+        return rules;
+    };
+    m_site->deliver(QByteArray("\n"));
+    QCOMPARE(advises(m_site->run()), QStringList());
+    m_site->admit(GatePeople::some(40));
+    m_site->deliver(GatePeople::some(20));
+    QCOMPARE(advises(m_site->run()), QStringList({"lines-lost", "people-leaving"}));
+    // No --accept for a file of which most values are misread.
+    m_site->deliver(changed(20, 11, &Row::dovolenaZustatek, "12,5"));
+    const QStringList reasons{"lines-lost", "people-leaving", "values-misread"};
+    const ToolRun refused = m_site->run({accept});
+    compare(refused, reasons);
+    QCOMPARE(advises(refused), QStringList());
+    m_site->deliver(changed(20, 10, &Row::dovolenaZustatek, "12,5"));
+    compare(m_site->run({accept}), {});
+}
+
+void TestGate::theFirstFileIsCheckedForMisreadValues()
+{
+    m_site->deliver(changed(20, 20, &Row::dovolenaZustatek, "12,5"));
+    compare(m_site->run(), {"no-baseline", "values-misread"});
+    compare(m_site->run({"--accept"}), {"no-baseline", "values-misread"});
+    // Unless that is what the site wants.
+    compare(m_site->run({"--accept", "--max-misread-percent", "100"}), {});
+}
+
+void TestGate::whatWasMisreadBeforeIsNoReason()
+{
+    const QVector<Row> people = changed(20, 20, &Row::dovolenaZustatek, "12,5");
+    m_site->deliver(people);
+    compare(m_site->run({"--accept", "--max-misread-percent", "100"}), {});
+    m_site->takePublished();
+    m_site->deliver(changed(20, 20, &Row::dovolenaZustatek, "13,5"));
+    compare(m_site->run(), {});
+    m_site->takePublished();
+    // Nor is that it is read again.
+    m_site->deliver(GatePeople::some(20));
+    compare(m_site->run(), {});
 }
 
 void TestGate::aRunWithoutFindingsIsPlain()
@@ -617,11 +816,16 @@ void TestGate::aRunWithoutFindingsIsPlain()
         run.out.section('\n', 2),
         QString("\nHR's file\n---------\n"
                 "Lines: 3\nRead as people: 3\nDropped by the plugin: 0\n"
-                "Lines with errors: 0\n\n"
+                "Lines with errors: 0\nLines with warnings: 0\n\n"
                 "Compared with the last admitted file\n"
                 "------------------------------------\n"
                 "People in the last admitted file: 2\nEmployed people in it: 2\nLines lost: 0\n"
-                "People leaving: 0\nPeople moving: 0\n\n"
+                "People leaving: 0\nPeople moving: 0\nNew people: 1\nPeople returning: 0\n"
+                "Supervisors changed without a visible reason: 0\n"
+                "New:\n"
+                "Person  Name           Cost centre\n"
+                "------  -------------  -----------\n"
+                "1002.1  Jana Nováková  120\n\n"
                 "The file was admitted and published: 3 people.\n"));
 }
 
@@ -652,17 +856,22 @@ void TestGate::badUsageIsRefused_data()
         << paths + QStringList{"--texts", "quoted"}
         << "--texts takes one of: escaped, no-backslash-escapes, as-is.";
     QTest::newRow("an argument") << paths + QStringList("x") << "Unexpected argument 'x'.";
-    for (const char *option : {"max-lost-lines", "max-leaving", "max-moving", "keep", "settle"}) {
+    QStringList numbers{"few", "keep", "settle"};
+    QStringList percentages;
+    for (const GateLimitOption &option : kGateLimitOptions) {
+        numbers << option.name;
+        percentages << QString("%1-percent").arg(option.name);
+    }
+    for (const QString &option : qAsConst(numbers)) {
         for (const char *value : {"", "x", "-1", "1.5", "1000000001"}) {
-            QTest::addRow("--%s %s", option, value)
-                << paths + QStringList{QString("--") + option, value} << number.arg(option);
+            QTest::addRow("--%s %s", qPrintable(option), value)
+                << paths + QStringList{"--" + option, value} << number.arg(option);
         }
     }
-    for (const char *option :
-         {"max-lost-lines-percent", "max-leaving-percent", "max-moving-percent"}) {
+    for (const QString &option : qAsConst(percentages)) {
         for (const char *value : {"", "x", "-0.1", "100.1", "nan", "5%"}) {
-            QTest::addRow("--%s %s", option, value)
-                << paths + QStringList{QString("--") + option, value} << percent.arg(option);
+            QTest::addRow("--%s %s", qPrintable(option), value)
+                << paths + QStringList{"--" + option, value} << percent.arg(option);
         }
     }
 }
@@ -676,6 +885,23 @@ void TestGate::badUsageIsRefused()
     QCOMPARE(run.err, "mirovahrctl: gate: " + error + '\n');
     QCOMPARE(run.out, QString());
     QVERIFY(!QFile::exists("/a"));
+}
+
+void TestGate::balancesThatAreMultipliedAlikeAreRefused()
+{
+    const auto people = [](double factor) {
+        QVector<Row> rows = GatePeople::some(12);
+        for (int i = 0; i < rows.size(); ++i)
+            rows[i].with(&Row::dovolenaZustatek, QString::number((1 + i % 4) * factor));
+        return rows;
+    };
+    m_site->admit(people(1));
+    m_site->deliver(people(8));
+    const ToolRun run = m_site->run();
+    compare(run, {"balances-multiplied"});
+    QCOMPARE(run.findings()[0].toObject()["message"].toString(),
+             QString("The vacation balance of 12 people (100.0 %) is 8 times what it was; the "
+                     "limit is 25 %."));
 }
 
 void TestGate::everyRuleHasItsFixtures()

@@ -395,6 +395,8 @@ void TestGateWorker::statusReportsTheGate()
     QCOMPARE(facts["gateResult"].toString(), QString("admitted"));
     QCOMPARE(facts["admittedFile"].toString(), site.hrFile());
     QCOMPARE(facts["admittedLines"].toInt(), 30);
+    QCOMPARE(facts["linesWithErrors"].toInt(-1), 0);
+    QCOMPARE(facts["linesWithWarnings"].toInt(-1), 0);
 
     site.deliver(QByteArray(GatePeople::file(GatePeople::some(27)).chopped(1)));
     COMPARE_EXIT(site.run(), ExitStatus::GuardTripped);
