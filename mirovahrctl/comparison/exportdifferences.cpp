@@ -172,6 +172,8 @@ void Comparison::findReassigned()
     const QVector<int> people = m_people.inOrder(supervisors.changed + supervisors.emptied);
     for (const int person : people) {
         const MirovaRonRecord before = m_people.record(People::Before, person);
+        if (before.nadrizenyOsobniCislo == 0)
+            continue;
         const bool moves = m_people.record(People::Now, person).stredisko != before.stredisko;
         // A supervisor who is in neither export may still be there.
         if (!moves && m_stays.value(before.nadrizenyOsobniCislo, true))

@@ -3,6 +3,14 @@
 #include "mirovahrctl/gatestate/gatelimits.h"
 #include "mirovahrctl/report/wording.h"
 
+#include <algorithm>
+
+bool mayAllBeOverridden(const QVector<GateReason> &reasons)
+{
+    return std::all_of(reasons.cbegin(), reasons.cend(),
+                       [](const GateReason &reason) { return reason.mayBeOverridden; });
+}
+
 namespace GateWording {
 
 namespace {

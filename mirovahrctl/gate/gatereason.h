@@ -14,6 +14,9 @@ struct GateReason {
     QVector<int> people{}; ///< whose values are the reason, as indexes of ComparedPeople
 };
 
+/// Whether --accept admits a file with these reasons.
+bool mayAllBeOverridden(const QVector<GateReason> &reasons);
+
 /// Texts of reasons.
 namespace GateWording {
 

@@ -7,8 +7,6 @@
 #include "mirovahrctl/report/rules/gaterules.h"
 #include "mirovahrctl/report/wording.h"
 
-#include <algorithm>
-
 namespace {
 
 /// So many changes of each kind are shown.
@@ -31,12 +29,6 @@ Finding warnedLines(qint64 count, const QString &path)
                        "are hardly intended.")
             .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"))),
         QStringLiteral("Send HR the file %1.").arg(path));
-}
-
-bool mayAllBeOverridden(const QVector<GateReason> &reasons)
-{
-    return std::all_of(reasons.cbegin(), reasons.cend(),
-                       [](const GateReason &reason) { return reason.mayBeOverridden; });
 }
 
 } // namespace

@@ -10,8 +10,6 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace {
 
 constexpr mode_t kForOwner = 0600;
@@ -23,12 +21,6 @@ QStringList messages(const QVector<GateReason> &reasons)
     for (const GateReason &reason : reasons)
         messages << reason.finding.message;
     return messages;
-}
-
-bool mayAllBeOverridden(const QVector<GateReason> &reasons)
-{
-    return std::all_of(reasons.cbegin(), reasons.cend(),
-                       [](const GateReason &reason) { return reason.mayBeOverridden; });
 }
 
 } // namespace
