@@ -149,12 +149,15 @@ QVector<int> *Comparison::listFor(int person, int field, FieldDifferences &diffe
     if (!m_people.isInBoth(person))
         return now == Kind::Misread ? &differences.misread : nullptr;
     const QString &textBefore = text(People::Before, person, field);
+    if (textBefore == textNow)
+        return nullptr;
+    const bool wasMisread = FieldReading::kindOf(field, textBefore) == Kind::Misread;
+    if (now == Kind::Misread)
+        return wasMisread ? nullptr : &differences.misread;
+    if (wasMisread)
+        return &differences.repaired;
     if (FieldReading::isSame(field, textBefore, textNow))
         return nullptr;
-    if (FieldReading::kindOf(field, textBefore) == Kind::Misread)
-        return now == Kind::Misread ? nullptr : &differences.repaired;
-    if (now == Kind::Misread)
-        return &differences.misread;
     const bool isEmptied = now == Kind::None && !isExtension(person, field);
     return isEmptied ? &differences.emptied : &differences.changed;
 }

@@ -83,22 +83,6 @@ bool readBalance(const QString &text, qint32 &hundredths)
     return VacationBalance::correction(days, 0, hundredths) && isNumber;
 }
 
-bool isSameValue(int field, const QString &a, const QString &b)
-{
-    switch (formOf(field)) {
-    case Form::Text:
-        return a == b;
-    case Form::Date:
-        return dateOf(a) == dateOf(b);
-    case Form::Number:
-    case Form::Code:
-        return toNumber(a) == toNumber(b);
-    case Form::Balance:
-        return hundredthsOf(a) == hundredthsOf(b);
-    }
-    Q_UNREACHABLE();
-}
-
 } // namespace
 
 Kind kindOf(int field, const QString &text)
@@ -128,12 +112,18 @@ bool isNone(int field, const QString &text)
 
 bool isSame(int field, const QString &a, const QString &b)
 {
-    if (a == b)
-        return true;
-    const bool isMisread = kindOf(field, a) == Kind::Misread;
-    if (isMisread != (kindOf(field, b) == Kind::Misread))
-        return false;
-    return isMisread ? formOf(field) != Form::Text : isSameValue(field, a, b);
+    switch (formOf(field)) {
+    case Form::Text:
+        return a == b;
+    case Form::Date:
+        return dateOf(a) == dateOf(b);
+    case Form::Number:
+    case Form::Code:
+        return toNumber(a) == toNumber(b);
+    case Form::Balance:
+        return hundredthsOf(a) == hundredthsOf(b);
+    }
+    Q_UNREACHABLE();
 }
 
 qint32 hundredthsOf(const QString &balance)

@@ -17,8 +17,7 @@ Kind kindOf(int field, const QString &text);
 /// As kindOf() == Kind::None, but cheaper.
 bool isNone(int field, const QString &text);
 
-/// Whether the plugin reads the same from both texts, and misreads both or none. Two texts that are
-/// no numbers are the same to it, two damaged names are not.
+/// Whether the plugin reads the same value from both texts.
 bool isSame(int field, const QString &a, const QString &b);
 
 /// The balance in hundredths of a day, as the plugin stores it; 0 for a text that it cannot read.
