@@ -67,7 +67,7 @@ void DiffReport::write()
 
 void DiffReport::writeFindings()
 {
-    m_report.section(QStringLiteral("findings"), QStringLiteral("What to look at"));
+    m_report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
     bool hasFindings = false;
     for (int field = 0; field < ExportLine::kFieldCount; ++field) {
         const int count = m_differences.fields.at(size_t(field)).misread.size();

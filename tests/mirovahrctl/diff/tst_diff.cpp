@@ -405,7 +405,7 @@ void TestDiff::theTextReport()
     QCOMPARE(run.err, QString());
     QCOMPARE(
         run.out.section('\n', 2),
-        QString("\nWhat to look at\n---------------\n"
+        QString("\nFindings\n--------\n"
                 "DovolenaZustatek: warning: The plugin misreads the vacation balance of 1 person: "
                 "the vacation balance is set to 0 days. [values-misread]\n"
                 "    check-file names the lines and what is wrong with each.\n\n"
