@@ -48,6 +48,8 @@ private Q_SLOTS:
     void leavingPeopleAreRecognised();
     void movingPeopleAreRecognised_data();
     void movingPeopleAreRecognised();
+    void aSupervisorsReasonIsRecognised_data();
+    void aSupervisorsReasonIsRecognised();
     void theLastLineOfARelationshipCounts();
     void aDroppedLineIsALineLost();
     void everyReasonIsReported();
@@ -351,6 +353,53 @@ void TestGate::movingPeopleAreRecognised()
     const ToolRun run = m_site->run({"--max-moving", "0"});
     compare(run, moves ? QStringList("people-moving") : QStringList());
     QCOMPARE(run.json()["facts"].toObject()["moving"].toInt(), moves ? 1 : 0);
+}
+
+void TestGate::aSupervisorsReasonIsRecognised_data()
+{
+    QTest::addColumn<ExportRow>("before"); // the former supervisor, 2000, who has people
+    QTest::addColumn<ExportRow>("after");
+    QTest::addColumn<QString>("former");
+    QTest::addColumn<QString>("costCentre"); // of the people afterwards
+    QTest::addColumn<bool>("counts");
+    const Row boss = Row().with(&Row::osobniCislo, 2000);
+    const auto row = [&boss](const char *name, const Row &after, bool counts) {
+        QTest::newRow(name) << boss << after << "2000"
+                            << "120" << counts;
+    };
+    row("the former one stays", boss, true);
+    row("the former one gets another name", Row(boss).with(&Row::prijmeni, "Tóthová"), true);
+    row("the former one is gone", Row().with(&Row::osobniCislo, 2001), false);
+    row("the former one has an ended state", Row(boss).with(&Row::stavPracovnihoPomeru, 4), false);
+    row("the former one has a last day", Row(boss).with(&Row::datumVystupu, kTomorrow), false);
+    row("the former one moves", Row(boss).with(&Row::stredisko, 130), false);
+    row("the former one is ill for long", Row(boss).with(&Row::evidencniStav, 21), false);
+    const Row leaving = Row(boss).with(&Row::datumVystupu, kTomorrow);
+    QTest::newRow("the former one has had a last day before") << leaving << leaving << "2000"
+                                                              << "120" << false;
+    QTest::newRow("the former one is in no file") << boss << boss << "7"
+                                                  << "120" << true;
+    QTest::newRow("there was none") << boss << boss << "0"
+                                    << "120" << false;
+    QTest::newRow("the people move") << boss << boss << "2000"
+                                     << "130" << false;
+}
+
+void TestGate::aSupervisorsReasonIsRecognised()
+{
+    QFETCH(ExportRow, before);
+    QFETCH(ExportRow, after);
+    QFETCH(QString, former);
+    QFETCH(QString, costCentre);
+    QFETCH(bool, counts);
+    QVector<Row> people = changed(9, 9, &Row::nadrizenyOsobniCislo, former);
+    m_site->admit(people + QVector<Row>{before});
+    for (Row &person : people)
+        person.with(&Row::nadrizenyOsobniCislo, "3000").with(&Row::stredisko, costCentre);
+    m_site->deliver(people + QVector<Row>{after});
+    const ToolRun run = m_site->run({"--max-moving-percent", "100"});
+    compare(run, counts ? QStringList("supervisors-changed") : QStringList());
+    QCOMPARE(run.json()["facts"].toObject()["reassigned"].toInt(), counts ? 9 : 0);
 }
 
 void TestGate::theLastLineOfARelationshipCounts()
