@@ -44,8 +44,8 @@ QString ConnectionFile::read(const QString &path)
 QString ConnectionFile::readPassword(QString &password, QString &warning) const
 {
     if (!m_passwordFile.isEmpty())
-        return readPasswordFile(m_passwordFile, password);
-    if (!m_password.isEmpty() && QFileInfo(m_path).permission(QFileDevice::ReadOther)) {
+        return readPasswordFile(m_passwordFile, password, warning);
+    if (!m_password.isEmpty() && isReadableForAll(m_path)) {
         warning = QStringLiteral("Every user of the machine can read '%1': the password in it is "
                                  "not used. Remove the permission (chmod o-r)")
                       .arg(m_path);

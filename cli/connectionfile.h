@@ -20,9 +20,9 @@ public:
     /// The options in the file, without the password.
     const DatabaseOptions &options() const { return m_options; }
 
-    /// Reads the password: the file's own, or that of the file that it names. Its own is ignored
-    /// when every user of the machine can read it; \a warning then says so, a sentence without its
-    /// full stop. Returns what is wrong, as read() does.
+    /// Reads the password: the file's own, or that of the file that it names. \a warning, a
+    /// sentence without its full stop, says when every user of the machine can read it; the file's
+    /// own is ignored then. Returns what is wrong, as read() does.
     QString readPassword(QString &password, QString &warning) const;
 
 private:

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstdlib>
+#include <cstring>
 #include <iterator>
 
 namespace {
@@ -81,13 +83,25 @@ QString unreadFile(const QString &file, const DatabaseSources &sources)
         : QStringLiteral(", or in the file %1").arg(sources.file);
 }
 
+/// The value of an environment variable, which is then gone. It is also overwritten: /proc shows
+/// the environment with which a program was started.
+QString takeVariable(const char *name)
+{
+    const QString value = qEnvironmentVariable(name);
+    if (char *const bytes = std::getenv(name))
+        explicit_bzero(bytes, std::strlen(bytes));
+    qunsetenv(name);
+    return value;
+}
+
 QString readPassword(const QCommandLineParser &parser, const char *variable,
                      const ConnectionFile &file, DatabaseOptions &options, QString &warning)
 {
-    options.password = qEnvironmentVariable(variable);
-    qunsetenv(variable);
-    if (parser.isSet(QStringLiteral("password-file")))
-        return readPasswordFile(parser.value(QStringLiteral("password-file")), options.password);
+    options.password = takeVariable(variable);
+    if (parser.isSet(QStringLiteral("password-file"))) {
+        return readPasswordFile(parser.value(QStringLiteral("password-file")), options.password,
+                                warning);
+    }
     const QString fileUser = file.options().user;
     if (!options.password.isEmpty() || (!fileUser.isEmpty() && fileUser != options.user))
         return {};

@@ -37,10 +37,10 @@ bool hasDatabaseOptions(const QCommandLineParser &parser);
 /// command line names, or else that of the sources if it exists.
 ///
 /// The password is that of --password-file, or else of the environment variable, or else of the
-/// connection file when the user is the file's, too. The variable is removed, so that child
-/// processes do not inherit it.
+/// connection file when the user is the file's, too. The variable is overwritten and removed, so
+/// that nobody sees it and child processes do not inherit it.
 ///
 /// Returns what is wrong, a sentence without its full stop; empty on success. \a warning is such a
-/// sentence when something was ignored on purpose.
+/// sentence when every user of the machine can read the password.
 QString readDatabaseOptions(const QCommandLineParser &parser, const DatabaseSources &sources,
                             DatabaseOptions &options, QString &warning);

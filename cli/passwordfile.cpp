@@ -1,8 +1,9 @@
 #include "cli/passwordfile.h"
 
 #include <QFile>
+#include <QFileInfo>
 
-QString readPasswordFile(const QString &path, QString &password)
+QString readPasswordFile(const QString &path, QString &password, QString &warning)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -13,5 +14,16 @@ QString readPasswordFile(const QString &path, QString &password)
     if (line.endsWith('\n'))
         line.chop(1);
     password = QString::fromUtf8(line);
+    if (isReadableForAll(path)) {
+        warning = QStringLiteral("Every user of the machine can read the password file '%1'. "
+                                 "Remove the permission (chmod o-r)")
+                      .arg(path);
+    }
     return {};
+}
+
+bool isReadableForAll(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isFile() && info.permission(QFileDevice::ReadOther);
 }

@@ -50,6 +50,8 @@ private Q_SLOTS:
     void thePasswordCanComeFromTheEnvironment();
     void thePasswordFileWinsOverTheEnvironment();
     void programsOfThePluginDoNotInheritThePassword();
+    void thePasswordOfTheEnvironmentIsOverwritten();
+    void aPasswordFileThatEverybodyCanReadIsWarnedOf();
     void connectOptionsReachTheConnectionOfThePlugin();
     void theConnectionCanComeFromAFile();
     void theConnectionFileOfTheToolsIsNotRead();
@@ -345,6 +347,39 @@ void TestYavHost::programsOfThePluginDoNotInheritThePassword()
     COMPARE_STATUS(host, 0);
     QVERIFY(host.output().contains("YAVHOST_OTHER=seen\n"));
     QVERIFY(!host.output().contains("YAVHOST_PASSWORD"));
+}
+
+void TestYavHost::thePasswordOfTheEnvironmentIsOverwritten()
+{
+    const QTemporaryDir folder;
+    QFile script(folder.filePath("environment-of-the-host"));
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\ntr '\\0' '\\n' </proc/$PPID/environ\n");
+    script.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    script.close();
+    writeIni("syncCommand=" + script.fileName() + "\nsyncCommandRun=2");
+    ProgramRun host;
+    host.setVariable("YAVHOST_PASSWORD", m_db.server().password());
+    host.setVariable("YAVHOST_OTHER", "seen");
+    QVERIFY(host.run(kHost, QStringList{kPlugin, "--once"} + databaseArguments()));
+    COMPARE_STATUS(host, 0);
+    QVERIFY2(host.output().contains("YAVHOST_OTHER=seen\n"), host.report().constData());
+    QVERIFY(!host.output().contains(m_db.server().password()));
+}
+
+void TestYavHost::aPasswordFileThatEverybodyCanReadIsWarnedOf()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("password");
+    QVERIFY(QFile::copy(m_db.server().passwordFile(), path));
+    QVERIFY(QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::ReadOther));
+    ProgramRun host;
+    QVERIFY(host.run(
+        kHost, QStringList{kPlugin, "--once", "--password-file", path} + databaseArguments()));
+    COMPARE_STATUS(host, 0);
+    QVERIFY2(host.errors().contains("Every user of the machine can read the password file '" + path
+                                    + "'. Remove the permission (chmod o-r)"),
+             host.report().constData());
 }
 
 void TestYavHost::connectOptionsReachTheConnectionOfThePlugin()

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void aPasswordInThePrivateFileIsTaken_data();
     void aPasswordInThePrivateFileIsTaken();
     void aPasswordThatEverybodyCanReadIsNotUsed();
+    void aPasswordFileThatEverybodyCanReadIsWarnedOf_data();
+    void aPasswordFileThatEverybodyCanReadIsWarnedOf();
     void aPasswordFileIsRelativeToTheFileThatNamesIt();
     void thePasswordOfTheCommandLineCountsMoreThanTheFile();
     void thePasswordOfTheEnvironmentCountsMoreThanTheFile();
@@ -185,6 +187,33 @@ void TestConnectionFile::aPasswordThatEverybodyCanReadIsNotUsed()
                                     .arg(named())),
              run.report().constData());
     QVERIFY2(run.err.contains("(using password: NO)"), run.report().constData());
+}
+
+void TestConnectionFile::aPasswordFileThatEverybodyCanReadIsWarnedOf_data()
+{
+    QTest::addColumn<int>("permissions");
+    QTest::addColumn<bool>("isWarned");
+    QTest::newRow("for the owner") << int(kForOwner) << false;
+    QTest::newRow("for the group") << int(kForOwner | QFileDevice::ReadGroup) << false;
+    QTest::newRow("for everybody") << int(kForOwner | QFileDevice::ReadOther) << true;
+}
+
+void TestConnectionFile::aPasswordFileThatEverybodyCanReadIsWarnedOf()
+{
+    QFETCH(int, permissions);
+    QFETCH(bool, isWarned);
+    const QString path = m_folder->filePath("password");
+    QVERIFY(QFile::copy(m_db.server().passwordFile(), path));
+    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions(permissions)));
+    write(named(), lines().mid(0, 3) + QStringList{"password-file = password"});
+    const QString warning = "mirovahrctl: status: Warning: Every user of the machine can read the "
+                            "password file '"
+        + path + "'. Remove the permission (chmod o-r).\n";
+    for (const QStringList &option : {QStringList(), QStringList{"--password-file", path}}) {
+        const ToolRun run = runTool(QStringList{"status", "--defaults-file", named()} + option);
+        COMPARE_EXIT(run, ExitStatus::Fine);
+        QCOMPARE(run.err, isWarned ? warning : QString());
+    }
 }
 
 void TestConnectionFile::aPasswordFileIsRelativeToTheFileThatNamesIt()
