@@ -15,11 +15,11 @@ namespace {
 
 constexpr char kDescription[] =
     "Shows what a forced synchronisation with an export would change in the attendance\n"
-    "database, by doing it: copies the tables and routines that the plugin touches into a\n"
+    "database, by doing it: copies the rows and routines that the plugin reaches into a\n"
     "private database server, lets the plugin's own code synchronise the copy, and reports\n"
     "every difference. Only reads the site's database, keeps the export, and removes the\n"
     "copy afterwards. Needs MariaDB's server programs on this machine, and twice the room of\n"
-    "the tables in the folder for temporary files.";
+    "these rows in the folder for temporary files.";
 
 class PreviewCommand {
 public:
@@ -57,11 +57,12 @@ ExitStatus PreviewCommand::run()
     if (const auto end = prepare())
         return *end;
     PreviewServer server;
-    PreviewWork work(m_console, server);
+    PreviewWork work(m_console, server, m_configuration.values(), m_export,
+                     m_line.isSet("all-rows") ? PreviewSelection::Extent::All
+                                              : PreviewSelection::Extent::Reached);
     if (const auto end = copySite(work))
         return *end;
-    if (const auto refused =
-            work.synchronise(m_configuration.values(), m_export, m_log.isOpen() ? &m_log : nullptr))
+    if (const auto refused = work.synchronise(m_log.isOpen() ? &m_log : nullptr))
         return fail(*refused);
     if (m_sql.isOpen())
         PreviewSql(work.schema(), work.moments()).write(work.changes(), m_sql);
@@ -115,6 +116,7 @@ ExitStatus runPreview(const QStringList &arguments, Console &console)
     PluginConfiguration::addTo(line);
     line.addOption("sql", "file", "Also write the differences as SQL statements.");
     line.addOption("log", "file", "Also write the plugin's whole log of the synchronisation.");
+    line.addFlag("all-rows", "Also copy the rows that a synchronisation does not reach.");
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

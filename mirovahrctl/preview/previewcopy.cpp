@@ -1,6 +1,7 @@
 #include "mirovahrctl/preview/previewcopy.h"
 
 #include "mirovahrctl/preview/previewschema.h"
+#include "mirovahrctl/preview/previewselection.h"
 
 namespace {
 
@@ -15,8 +16,10 @@ constexpr char kChecks[] = "SET SESSION foreign_key_checks = 1, unique_checks = 
 
 } // namespace
 
-PreviewCopy::PreviewCopy(const PreviewSchema &schema, const QSqlDatabase &server)
+PreviewCopy::PreviewCopy(const PreviewSchema &schema, const PreviewSelection &selection,
+                         const QSqlDatabase &server)
     : m_schema(schema)
+    , m_selection(selection)
     , m_server(server)
 {
 }
@@ -68,7 +71,9 @@ bool PreviewCopy::copyRows(SqlSession &site, const PreviewTable &table, const Li
         listener(++m_copied, m_schema.rowEstimate());
         return m_tuples.size() < kBatch || flush(table);
     };
-    if (site.forEachRow(QStringLiteral("SELECT %1 FROM %2").arg(table.expressions(name), name),
+    const QString rows = m_selection.rowsOf(table.name);
+    if (site.forEachRow(QStringLiteral("SELECT %1 FROM %2").arg(table.expressions(name), name)
+                            + (rows.isEmpty() ? QString() : QStringLiteral(" WHERE ") + rows),
                         take)
         && flush(table))
         return true;

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class PreviewSelection;
 class SqlSession;
 struct PreviewProgram;
 struct PreviewSchema;
@@ -19,10 +20,12 @@ public:
     /// Called with the number of rows that are copied, of how many.
     using Listener = std::function<void(qint64 done, qint64 total)>;
 
-    /// \a server: a connection to the other server as its administrator.
-    PreviewCopy(const PreviewSchema &schema, const QSqlDatabase &server);
+    /// \a selection: which rows are copied. \a server: a connection to the other server as its
+    /// administrator.
+    PreviewCopy(const PreviewSchema &schema, const PreviewSelection &selection,
+                const QSqlDatabase &server);
 
-    /// Creates both databases, without routines and triggers, and copies all rows.
+    /// Creates both databases, without routines and triggers, and copies the rows.
     bool copyTables(SqlSession &site, const Listener &listener);
     /// Creates routines and triggers.
     bool createPrograms();
@@ -42,6 +45,7 @@ private:
     bool fail(const QString &what, const SqlSession &session);
 
     const PreviewSchema &m_schema;
+    const PreviewSelection &m_selection;
     SqlSession m_server;
     QString m_tuples; ///< rows that are not written yet
     qint64 m_copied = 0;

@@ -132,6 +132,9 @@ void PreviewReport::noteCopy()
             QStringLiteral("Routines or triggers seem to use views, which are not copied: %1.")
                 .arg(schema.namedViews.join(QStringLiteral(", "))));
     }
+    for (const QString &doubt : m_work.doubts()) {
+        m_report.finding(makeFinding(PreviewRules::kWholeTables, doubt + QLatin1Char('.')));
+    }
     if (release(schema.serverVersion) != release(m_work.copyVersion())) {
         m_report.add(PreviewRules::kOtherServer,
                      QStringLiteral("The site's server is version %1, the copy was on version %2.")

@@ -33,6 +33,7 @@ struct PreviewTable {
     QString definition; ///< CREATE TABLE ...
     QVector<PreviewColumn> columns; ///< without those that the server computes
     QStringList key; ///< columns that identify a row; empty: rows may repeat
+    QStringList parents; ///< tables that foreign keys refer to
     qint64 rowEstimate = 0;
 
     /// Position of a column; -1 when there is none.
@@ -51,6 +52,8 @@ struct PreviewProgram {
     QString definition; ///< CREATE ..., without its definer: that becomes the copy's administrator
     QString sqlMode;
     QString collation;
+    QStringList tables; ///< that its text seems to name
+    bool runsTexts = false; ///< whether it seems to run statements that it makes
 };
 
 /// What is copied of the site's database, and the server settings that matter.

@@ -203,7 +203,7 @@ void PreviewSchemaReader::takeTable(const QString &key)
                    .arg(entry.name, entry.kind.toLower()));
         return;
     }
-    const PreviewTable table = readTable(entry);
+    PreviewTable table = readTable(entry);
     if (m_site.failed()) {
         refuseRead(QStringLiteral("the table %1").arg(entry.name),
                    QStringLiteral("SELECT on the whole table"));
@@ -211,8 +211,8 @@ void PreviewSchemaReader::takeTable(const QString &key)
     }
     if (!entry.transactional)
         m_schema.tablesOutsideSnapshot += entry.name;
-    m_schema.tables += table;
     requireReferences(table);
+    m_schema.tables += table;
     noteHiddenTriggers(entry.name);
     takeTriggers(key);
 }
@@ -238,7 +238,7 @@ void PreviewSchemaReader::readColumns(PreviewTable &table)
     }
 }
 
-void PreviewSchemaReader::requireReferences(const PreviewTable &table)
+void PreviewSchemaReader::requireReferences(PreviewTable &table)
 {
     static const QRegularExpression reference(
         QStringLiteral("^\\s*CONSTRAINT .* FOREIGN KEY .* REFERENCES (?:`([^`]+)`\\.)?`([^`]+)`"),
@@ -252,6 +252,7 @@ void PreviewSchemaReader::requireReferences(const PreviewTable &table)
                        .arg(table.name, match.captured(1)));
             return;
         }
+        table.parents += match.captured(2);
         require(m_tables, match.captured(2),
                 QStringLiteral("table that %1 refers to,").arg(table.name));
     }
@@ -271,22 +272,22 @@ void PreviewSchemaReader::takeTriggers(const QString &table)
 {
     const QStringList triggers = m_triggers.value(table);
     for (const QString &name : triggers) {
-        const auto trigger = readProgram(QStringLiteral("TRIGGER"), name);
+        auto trigger = readProgram(QStringLiteral("TRIGGER"), name);
         if (!trigger)
             return;
+        requireNamed(*trigger);
         m_schema.triggers += *trigger;
-        requireNamed(trigger->definition);
     }
 }
 
 void PreviewSchemaReader::takeRoutine(const QString &key)
 {
     const Entry entry = m_routines.value(key);
-    const auto routine = readProgram(entry.kind, entry.name);
+    auto routine = readProgram(entry.kind, entry.name);
     if (!routine)
         return;
+    requireNamed(*routine);
     m_schema.routines += *routine;
-    requireNamed(routine->definition);
 }
 
 std::optional<PreviewProgram> PreviewSchemaReader::readProgram(const QString &kind,
@@ -300,15 +301,18 @@ std::optional<PreviewProgram> PreviewSchemaReader::readProgram(const QString &ki
                                                     : QStringLiteral("SELECT on mysql.proc"));
         return std::nullopt;
     }
-    return PreviewProgram{name, withoutDefiner(row.at(2)), row.at(1), row.value(4)};
+    return PreviewProgram{name, withoutDefiner(row.at(2)), row.at(1), row.value(4), {}};
 }
 
-void PreviewSchemaReader::requireNamed(const QString &text)
+void PreviewSchemaReader::requireNamed(PreviewProgram &program)
 {
+    const QString &text = program.definition;
     const QSet<QString> all = words(text);
+    program.runsTexts = all.contains(QStringLiteral("execute"));
     for (auto it = m_tables.cbegin(); it != m_tables.cend(); ++it) {
         if (!names(all, text, it.key()))
             continue;
+        program.tables += it->name;
         if (it->kind == kBaseTable)
             require(m_tables, it.key(), QString());
         else if (!m_schema.namedViews.contains(it->name))

@@ -48,8 +48,8 @@ private:
     PreviewTable readTable(const Entry &entry);
     void readColumns(PreviewTable &table);
     std::optional<PreviewProgram> readProgram(const QString &kind, const QString &name);
-    void requireReferences(const PreviewTable &table);
-    void requireNamed(const QString &text);
+    void requireReferences(PreviewTable &table);
+    void requireNamed(PreviewProgram &program);
     void noteHiddenTriggers(const QString &table);
 
     void refuse(ExitStatus status, const QString &sentence);

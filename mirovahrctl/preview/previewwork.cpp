@@ -48,9 +48,15 @@ PreviewRefusal cannotForce(const QString &error)
 
 } // namespace
 
-PreviewWork::PreviewWork(Console &console, PreviewServer &server)
+PreviewWork::PreviewWork(Console &console, PreviewServer &server,
+                         const Configuration &configuration, const QString &exportFile,
+                         PreviewSelection::Extent extent)
     : m_console(console)
     , m_server(server)
+    , m_configuration(configuration)
+    , m_exportFile(exportFile)
+    , m_extent(extent)
+    , m_people(PreviewPeople::of(exportFile, configuration))
 {
 }
 
@@ -77,8 +83,11 @@ std::optional<PreviewRefusal> PreviewWork::copyFrom(SqlSession &site)
     m_schema = reader.schema();
     if (auto refused = startServer())
         return refused;
+    PreviewSelection selection(m_schema, m_people, m_extent);
+    selection.read(site);
+    m_doubts = selection.doubts();
     Progress progress(m_console, QStringLiteral("Copying the database"));
-    PreviewCopy copy(m_schema, m_server.administrator());
+    PreviewCopy copy(m_schema, selection, m_server.administrator());
     if (copy.copyTables(site, [&](qint64 done, qint64 total) { progress.update(done, total); })
         && copy.createPrograms())
         return std::nullopt;
@@ -94,10 +103,9 @@ std::optional<PreviewRefusal> PreviewWork::startServer()
     return std::nullopt;
 }
 
-std::optional<PreviewRefusal> PreviewWork::synchronise(const Configuration &configuration,
-                                                       const QString &exportFile, QIODevice *log)
+std::optional<PreviewRefusal> PreviewWork::synchronise(QIODevice *log)
 {
-    PreviewRun run(configuration, exportFile);
+    PreviewRun run(m_configuration, m_exportFile);
     {
         Progress progress(m_console, QStringLiteral("Synchronising the copy"));
         if (!run.run(
@@ -108,6 +116,11 @@ std::optional<PreviewRefusal> PreviewWork::synchronise(const Configuration &conf
     }
     if (auto refused = run.refusal())
         return refused;
+    if (!(PreviewPeople::of(m_exportFile, m_configuration) == m_people)) {
+        return PreviewRefusal{
+            ExitStatus::Usage,
+            QStringLiteral("'%1' was changed meanwhile. Run preview again").arg(m_exportFile)};
+    }
     m_moments = std::make_unique<PreviewMoments>(run.begin(), run.end());
     m_names = std::make_unique<PreviewNames>(m_server.attendance());
     return compare();

@@ -6,6 +6,7 @@
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/site/sitedatabase.h"
+#include "mirovahrctl/site/sqlsession.h"
 #include "tests/support/programrun.h"
 
 #include <QBuffer>
@@ -99,18 +100,21 @@ QStringList PreviewBench::arguments(const QString &user) const
     return arguments + QStringList{"--config", iniPath()};
 }
 
-PreviewResult PreviewBench::preview(const QString &user)
+PreviewResult PreviewBench::preview(const QString &user, PreviewSelection::Extent extent)
 {
     QBuffer out;
     QBuffer err;
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
+    QBuffer log;
+    log.open(QIODevice::WriteOnly);
     Console console(out, err, false);
     CommandLine line("preview", "");
     PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
-    PreviewWork work(console, m_server);
+    const Configuration configuration = Configuration::read(*Configuration::open(iniPath()));
+    PreviewWork work(console, m_server, configuration, m_export.path(), extent);
     PreviewResult result;
     SiteDatabase site;
     if (line.parse(arguments(user), console)
@@ -119,10 +123,8 @@ PreviewResult PreviewBench::preview(const QString &user)
         return result;
     }
     result.refusal = work.copy(site.sql());
-    if (!result.refusal) {
-        const Configuration configuration = Configuration::read(*Configuration::open(iniPath()));
-        result.refusal = work.synchronise(configuration, m_export.path(), nullptr);
-    }
+    if (!result.refusal)
+        result.refusal = work.synchronise(&log);
     if (result.refusal)
         return result;
     result.schema = work.schema();
@@ -131,7 +133,15 @@ PreviewResult PreviewBench::preview(const QString &user)
     result.rows = rowsOf(work);
     result.changes = work.changes().size();
     result.sql = sqlOf(work);
+    result.log = log.data();
+    result.doubts = work.doubts();
     return result;
+}
+
+int PreviewBench::copiedRows(const char *table) const
+{
+    SqlSession copy(m_server.administrator());
+    return copy.value(QStringLiteral("SELECT COUNT(*) FROM `%1`").arg(table)).toInt();
 }
 
 QString PreviewBench::synchroniseSite()

@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/preview/previewrefusal.h"
 #include "mirovahrctl/preview/previewschema.h"
+#include "mirovahrctl/preview/previewselection.h"
 #include "mirovahrctl/preview/previewserver.h"
 #include "mirovahrctl/preview/previewwords.h"
 #include "mirovahrctl/report/finding.h"
@@ -36,6 +37,8 @@ struct PreviewResult {
     QVector<PreviewedRow> rows;
     int changes = 0;
     QString sql;
+    QByteArray log;
+    QStringList doubts;
 
     /// Lines as "kind | who | what | before -> after".
     QStringList described() const;
@@ -62,7 +65,10 @@ public:
     QStringList arguments(const QString &user = QStringLiteral("mirovahrctl")) const;
 
     /// A preview as one of these accounts.
-    PreviewResult preview(const QString &user = QStringLiteral("mirovahrctl"));
+    PreviewResult preview(const QString &user = QStringLiteral("mirovahrctl"),
+                          PreviewSelection::Extent extent = PreviewSelection::Extent::Reached);
+    /// The number of rows of a table that the last preview copied.
+    int copiedRows(const char *table) const;
 
     /// One forced synchronisation of the site's database itself, in a process of its own. What that
     /// process printed when it failed, else empty.

@@ -26,8 +26,11 @@ public:
 
     /// Fills the database, which holds the sample data, with more, and changes what is there.
     void fill(TestDatabase &db, Programs programs = Programs::Some);
+    /// Whether texts of an export may break the statements that they get into.
+    enum class Texts { Any, Harmless };
+
     /// Lines of an export, each with a line feed.
-    QByteArray exportContent();
+    QByteArray exportContent(Texts texts = Texts::Any);
     /// The same of a few people who have several lines each: equal ones, ones that differ in a few
     /// fields, ones in which they have left, in any order. Few texts break a statement.
     QByteArray exportOfFewPeople();
@@ -43,6 +46,8 @@ private:
     void fillPeople(TestDatabase &db);
     void fillRelations(TestDatabase &db);
     void fillAttendance(TestDatabase &db);
+    void fillYears(TestDatabase &db);
+    void fillLeftBehind(TestDatabase &db);
     void fillSettings(TestDatabase &db);
     void addRoutinesAndTriggers(TestDatabase &db);
     QString text();
@@ -53,5 +58,6 @@ private:
     QStringList varied(const QStringList &fields);
 
     std::mt19937 m_random;
+    Texts m_texts = Texts::Any;
     const int m_firstNumber; ///< of people who are not of the sample
 };

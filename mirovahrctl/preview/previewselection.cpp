@@ -1,0 +1,325 @@
+#include "mirovahrctl/preview/previewselection.h"
+
+#include "mirovahrctl/preview/previewpeople.h"
+#include "mirovahrctl/preview/previewschema.h"
+#include "mirovahrctl/site/sqlsession.h"
+#include "worker/recorddates.h"
+
+#include <QDate>
+#include <QRegularExpression>
+#include <QVector>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct Reduction {
+    const char *table;
+    /// The rows that are copied. {people}: the uids of the people of the export. {moving}: of those
+    /// who may get another calendar group. {next}: the next uid. {day}: the first day that is
+    /// calculated again when a person has moved or the balance was corrected.
+    const char *rows;
+};
+
+// All other tables are copied whole: they grow with the people, not with the years.
+//
+// Whose rows: the plugin finds a person by the pid of a record, and its statements on these tables
+// name one uid each. A person who is created gets a new uid, for which there may be rows that
+// somebody who was deleted has left behind.
+constexpr Reduction kReductions[] = {
+    // A change of the calendar group makes the months of all days of the person and resets the open
+    // days since any date. Of anybody else the plugin counts the open days that are to be
+    // calculated, and resets those since the first day of the previous month.
+    {"atten",
+     "uid IN ({moving}) OR uid >= {next} OR "
+     "uid IN ({people}) AND `lock` = 0 AND (ok < 0 OR `date` >= {day})"},
+    // Written for the months of a person whose calendar group changes, and not read.
+    {"groups_month", "uid IN ({moving}) OR uid >= {next}"},
+    // The balance is the sum of all moves of a person.
+    {"funds_move", "uid IN ({people}) OR uid >= {next}"},
+    // The plugin adds to the queue, and does not read it.
+    {"term_sync", "FALSE"},
+};
+
+/// Tables whose rows a reduced table may refer to: copied whole, and the plugin never changes what
+/// identifies a row.
+constexpr const char *kHarmlessParents[] = {"people", "groups", "funds"};
+
+struct NumberColumns {
+    const char *table;
+    const char *columns; ///< separated by blanks
+};
+
+/// What the selection compares as numbers.
+constexpr NumberColumns kNumbers[] = {
+    {"people", "uid pid"},
+    {"atten", "uid date ok lock"},
+    {"groups_month", "uid"},
+    {"funds_move", "uid"},
+    {"branches", "number mgid"},
+    {"mastergroups", "mgid"},
+    {"groups", "gid parent calendarID"},
+    {"groups_plan", "gid uid since"},
+};
+
+constexpr char kPeople[] = "SELECT uid, pid FROM `people`";
+
+constexpr char kGroups[] = "SELECT b.number, g.calendarID, g.gid FROM branches b JOIN mastergroups "
+                           "mg ON mg.mgid = b.mgid JOIN `groups` g ON g.parent = mg.mgid WHERE "
+                           "b.number IS NOT NULL AND g.calendarID IS NOT NULL";
+
+constexpr char kPlans[] = "SELECT uid, since, gid FROM groups_plan";
+
+const Reduction *reductionOf(const QString &table)
+{
+    const auto *const end = std::end(kReductions);
+    const auto *const found =
+        std::find_if(std::begin(kReductions), end, [&table](const Reduction &reduction) {
+            return table == QLatin1String(reduction.table);
+        });
+    return found == end ? nullptr : found;
+}
+
+QString listed(const QSet<quint32> &uids)
+{
+    QVector<quint32> sorted(uids.cbegin(), uids.cend());
+    std::sort(sorted.begin(), sorted.end());
+    QStringList texts;
+    for (const quint32 uid : qAsConst(sorted))
+        texts += QString::number(uid);
+    return texts.isEmpty() ? QStringLiteral("NULL") : texts.join(QLatin1Char(','));
+}
+
+/// The columns of each unique key.
+QVector<QStringList> uniqueKeys(const QString &definition)
+{
+    static const QRegularExpression key(
+        QStringLiteral("^\\s*(?:PRIMARY KEY|UNIQUE KEY `(?:[^`]|``)+`) \\((.*)\\)"),
+        QRegularExpression::MultilineOption);
+    static const QRegularExpression column(QStringLiteral("`((?:[^`]|``)+)`"));
+    QVector<QStringList> keys;
+    auto matches = key.globalMatch(definition);
+    while (matches.hasNext()) {
+        QStringList columns;
+        auto names = column.globalMatch(matches.next().captured(1));
+        while (names.hasNext())
+            columns += names.next().captured(1);
+        keys += columns;
+    }
+    return keys;
+}
+
+/// Whether the server fills in the column when a row is added.
+bool isCounted(const QString &definition, const QString &column)
+{
+    const QRegularExpression counted(
+        QStringLiteral("^\\s*`%1` .* AUTO_INCREMENT").arg(QRegularExpression::escape(column)),
+        QRegularExpression::MultilineOption);
+    return counted.match(definition).hasMatch();
+}
+
+/// The next value of a column that the server fills in.
+quint64 nextValue(const QString &definition)
+{
+    static const QRegularExpression option(QStringLiteral("^\\) .*\\bAUTO_INCREMENT=(\\d+)"),
+                                           QRegularExpression::MultilineOption);
+    return option.match(definition).captured(1).toULongLong();
+}
+
+} // namespace
+
+PreviewSelection::PreviewSelection(const PreviewSchema &schema, const PreviewPeople &people,
+                                   Extent extent)
+    : m_schema(schema)
+    , m_people(people)
+    , m_extent(extent)
+{
+    if (m_extent == Extent::All)
+        return;
+    doubtStatements();
+    doubtPrograms();
+    for (const PreviewTable &table : m_schema.tables)
+        doubtTable(table);
+}
+
+void PreviewSelection::doubtStatements()
+{
+    if (m_people.harmfulLine != 0) {
+        doubtAll(QStringLiteral("a text in line %1 of the export changes the plugin's statements")
+                     .arg(m_people.harmfulLine));
+    }
+    if (m_people.hasHarmfulState) {
+        doubtAll(QStringLiteral("a relationship state of the configuration changes the plugin's "
+                                "statements"));
+    }
+}
+
+void PreviewSelection::doubtPrograms()
+{
+    if (!m_schema.triggers.isEmpty()) {
+        doubtAll(QStringLiteral("the site has triggers, such as %1")
+                     .arg(m_schema.triggers.first().name));
+    }
+    for (const PreviewProgram &routine : m_schema.routines) {
+        if (routine.runsTexts)
+            doubtAll(
+                QStringLiteral("the routine %1 runs statements that it makes").arg(routine.name));
+        for (const QString &table : routine.tables)
+            doubt(table, QStringLiteral("the routine %1 uses it").arg(routine.name));
+    }
+}
+
+void PreviewSelection::doubtTable(const PreviewTable &table)
+{
+    doubtColumns(table);
+    if (table.name == QLatin1String("people"))
+        noteNextUid(table);
+    if (reductionOf(table.name))
+        doubtKeys(table);
+    doubtReferences(table);
+}
+
+/// A missing or differently typed column is compared in another way than here.
+void PreviewSelection::doubtColumns(const PreviewTable &table)
+{
+    for (const NumberColumns &numbers : kNumbers) {
+        if (table.name != QLatin1String(numbers.table))
+            continue;
+        const QStringList names = QString::fromLatin1(numbers.columns).split(QLatin1Char(' '));
+        for (const QString &name : names) {
+            const int at = table.indexOf(name);
+            if (at < 0 || table.columns.at(at).kind != PreviewColumn::Kind::Number)
+                doubtAll(QStringLiteral("%1.%2 is not a number").arg(table.name, name));
+        }
+    }
+}
+
+void PreviewSelection::noteNextUid(const PreviewTable &people)
+{
+    if (isCounted(people.definition, QStringLiteral("uid")))
+        m_nextUid = nextValue(people.definition);
+    else
+        doubtAll(QStringLiteral("the server does not count people.uid"));
+}
+
+/// A row that is left out must not stand in the way of one that is written.
+void PreviewSelection::doubtKeys(const PreviewTable &table)
+{
+    const auto keys = uniqueKeys(table.definition);
+    for (const QStringList &key : keys) {
+        const bool isOfPerson =
+            key.contains(QStringLiteral("uid")) && !key.contains(QStringLiteral("ok"));
+        const bool isNumber = key.size() == 1 && isCounted(table.definition, key.first());
+        if (!isOfPerson && !isNumber) {
+            doubt(table.name,
+                  QStringLiteral("it has the unique key %1").arg(key.join(QStringLiteral(", "))));
+        }
+    }
+}
+
+void PreviewSelection::doubtReferences(const PreviewTable &table)
+{
+    for (const QString &parent : table.parents) {
+        doubt(parent, QStringLiteral("%1 refers to it").arg(table.name));
+        const bool isHarmless = std::any_of(
+            std::begin(kHarmlessParents), std::end(kHarmlessParents),
+            [&parent](const char *harmless) { return parent == QLatin1String(harmless); });
+        if (!isHarmless)
+            doubt(table.name, QStringLiteral("it refers to %1").arg(parent));
+    }
+}
+
+void PreviewSelection::doubt(const QString &table, const QString &reason)
+{
+    if (!reductionOf(table))
+        return;
+    m_whole += table;
+    note(QStringLiteral("All rows of %1 were copied, because %2").arg(table, reason));
+}
+
+void PreviewSelection::doubtAll(const QString &reason)
+{
+    for (const Reduction &reduction : kReductions)
+        m_whole += QString::fromLatin1(reduction.table);
+    note(QStringLiteral("All rows of all tables were copied, because ") + reason);
+}
+
+void PreviewSelection::note(const QString &doubt)
+{
+    if (!m_doubts.contains(doubt))
+        m_doubts += doubt;
+}
+
+void PreviewSelection::read(SqlSession &site)
+{
+    if (m_extent == Extent::All)
+        return;
+    readPeople(site);
+    readMoving(site);
+}
+
+void PreviewSelection::readPeople(SqlSession &site)
+{
+    site.forEachRow(QLatin1String(kPeople), [this](const QStringList &row) {
+        const quint32 uid = numberOf(row.at(0));
+        const quint32 pid = numberOf(row.at(1));
+        if (m_people.pids.contains(pid)) {
+            m_uids += uid;
+            m_uidsOfPid[pid] += uid;
+        }
+        return true;
+    });
+}
+
+/// Finds the people whose lines name a calendar group that they are not planned for. The plugin
+/// writes no other plans, and what is planned for one person depends on that person's lines only:
+/// if the plan has the groups of all of them now, no line changes it.
+void PreviewSelection::readMoving(SqlSession &site)
+{
+    QHash<QPair<quint32, quint32>, QSet<quint32>> groups;
+    site.forEachRow(QLatin1String(kGroups), [&](const QStringList &row) {
+        groups[{numberOf(row.at(0)), numberOf(row.at(1))}] += numberOf(row.at(2));
+        return true;
+    });
+    QHash<QPair<quint32, quint32>, quint32> plans;
+    site.forEachRow(QLatin1String(kPlans), [&](const QStringList &row) {
+        plans.insert({numberOf(row.at(0)), numberOf(row.at(1))}, numberOf(row.at(2)));
+        return true;
+    });
+    for (const PreviewPeople::Placement &line : m_people.placements) {
+        const QSet<quint32> possible = groups.value({line.costCentre, line.calendar});
+        const QVector<quint32> uids = m_uidsOfPid.value(line.pid);
+        for (const quint32 uid : uids) {
+            const auto planned = plans.constFind({uid, line.since});
+            const bool isPlanned =
+                planned != plans.constEnd() && possible == QSet<quint32>{*planned};
+            if (!possible.isEmpty() && !isPlanned)
+                m_movingUids += uid;
+        }
+    }
+}
+
+quint32 PreviewSelection::numberOf(const QString &cell)
+{
+    bool isNumber = false;
+    const quint32 number = cell.toUInt(&isNumber);
+    if (!isNumber && !cell.isNull())
+        doubtAll(QStringLiteral("there are ids that are no whole numbers of 32 bits"));
+    return number;
+}
+
+QString PreviewSelection::rowsOf(const QString &table) const
+{
+    const Reduction *const reduction = reductionOf(table);
+    if (m_extent == Extent::All || !reduction || m_whole.contains(table))
+        return QString();
+    const qint64 firstDay =
+        RecordDates::midnight(RecordDates::firstDayOfPreviousMonth(QDate::currentDate()));
+    QString condition = QString::fromLatin1(reduction->rows);
+    condition.replace(QLatin1String("{people}"), listed(m_uids));
+    condition.replace(QLatin1String("{moving}"), listed(m_movingUids));
+    condition.replace(QLatin1String("{next}"), QString::number(m_nextUid));
+    condition.replace(QLatin1String("{day}"), QString::number(firstDay));
+    return condition;
+}
