@@ -65,6 +65,17 @@ QString order(const PreviewTable &table, const QString &owner)
     return columns.join(QStringLiteral(", "));
 }
 
+/// The row, with the texts of the other one where they are equal: there may be hundreds of
+/// thousands of changes, most of them alike.
+QStringList sharing(QStringList row, const QStringList &other)
+{
+    for (int i = 0; i < qMin(row.size(), other.size()); ++i) {
+        if (row.at(i) == other.at(i) && row.at(i).isNull() == other.at(i).isNull())
+            row[i] = other.at(i);
+    }
+    return row;
+}
+
 } // namespace
 
 QString PreviewChange::cell(const char *column) const
@@ -113,7 +124,7 @@ void PreviewDiff::compareByKey(const PreviewTable &table)
             .arg(table.expressions(QStringLiteral("b")), before, after, key, first,
                  order(table, QStringLiteral("b"))),
         [&](const QStringList &row) {
-            m_changes.append({&table, row, {}});
+            add(table, row, {});
             return true;
         });
     m_server.forEachRow(
@@ -123,8 +134,7 @@ void PreviewDiff::compareByKey(const PreviewTable &table)
                  after, before, key, first, sameRow(table), order(table, QStringLiteral("a"))),
         [&](const QStringList &row) {
             const bool isNew = row.last() == QLatin1String("1");
-            m_changes.append(
-                {&table, isNew ? QStringList() : row.mid(count, count), row.mid(0, count)});
+            add(table, isNew ? QStringList() : row.mid(count, count), row.mid(0, count));
             return true;
         });
 }
@@ -152,10 +162,18 @@ void PreviewDiff::compareWithoutKey(const PreviewTable &table)
     count(name, 1);
     for (const Bag &bag : qAsConst(bags)) {
         for (qint64 i = bag.surplus; i < 0; ++i)
-            m_changes.append({&table, bag.row, {}});
+            add(table, bag.row, {});
         for (qint64 i = 0; i < bag.surplus; ++i)
-            m_changes.append({&table, {}, bag.row});
+            add(table, {}, bag.row);
     }
+}
+
+void PreviewDiff::add(const PreviewTable &table, const QStringList &before,
+                      const QStringList &after)
+{
+    const PreviewChange last = m_changes.isEmpty() ? PreviewChange() : m_changes.constLast();
+    m_changes.append(
+        {&table, sharing(before, last.before), sharing(sharing(after, last.after), before)});
 }
 
 bool PreviewMoments::isNow(const PreviewChange &change, int column) const

@@ -39,6 +39,7 @@ public:
 private:
     void compareByKey(const PreviewTable &table);
     void compareWithoutKey(const PreviewTable &table);
+    void add(const PreviewTable &table, const QStringList &before, const QStringList &after);
 
     PreviewSchema &m_schema;
     SqlSession m_server;

@@ -79,7 +79,8 @@ void PreviewReport::writeDifferences()
         if (!m_lines.contains(kind))
             continue;
         m_report.section(PreviewWords::idOf(kind), PreviewWords::headingOf(kind));
-        m_report.table(tableOf(m_lines.value(kind)));
+        const Table table = tableOf(m_lines.take(kind)); // there may be hundreds of thousands
+        m_report.table(table);
     }
 }
 

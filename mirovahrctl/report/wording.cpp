@@ -1,5 +1,7 @@
 #include "mirovahrctl/report/wording.h"
 
+#include <algorithm>
+
 namespace Wording {
 
 namespace {
@@ -23,6 +25,9 @@ QString escaped(QChar c)
 
 QString visible(const QString &text)
 {
+    // Most texts: a table of hundreds of thousands of rows must not copy them.
+    if (std::none_of(text.cbegin(), text.cend(), isInvisible))
+        return text;
     QString result;
     result.reserve(text.size());
     for (const QChar c : text) {
