@@ -1,6 +1,6 @@
 """Tries the mutants of this folder: see scripts/mutants.
 
-    run.py PROJECT [NAME...]
+    run.py PROJECT [--dry-run] [NAME...]
 """
 
 import collections
@@ -23,6 +23,7 @@ SURVIVED = "survived"
 DOES_NOT_APPLY = "does not apply"
 DOES_NOT_BUILD = "does not build"
 TEST_FAILS = "test fails"
+APPLIES = "applies"
 
 
 class Failure(Exception):
@@ -107,6 +108,27 @@ def choose(mutants, names):
         raise Failure("there is no mutant and no list " + ", ".join(sorted(unknown)))
     return [mutant for mutant in mutants
             if not names or mutant.name in names or mutant.list in names]
+
+
+def dry_run(project, mutants):
+    """Reports the mutants whose text or whose test is not there."""
+    listed = subprocess.run(["git", "-C", project, "ls-files", "-z"], check=True,
+                            stdout=subprocess.PIPE, text=True).stdout
+    paths = [path for path in listed.split("\0") if (project / path).is_file()]
+    code = {path: (project / path).read_text(encoding="utf-8")
+            for path in paths if CODE.fullmatch(path)}
+    tests = {pathlib.Path(path).stem: (project / path).read_text(encoding="utf-8")
+             for path in paths if re.fullmatch(r"tests/.*/tst_\w+\.cpp", path)}
+    outcomes = collections.Counter()
+    for mutant in mutants:
+        found = mutant.find(code)
+        function = mutant.function.partition(":")[0]
+        applies = len(found) == 1 and f"::{function}(" in tests.get(mutant.program, "")
+        outcomes[APPLIES if applies else DOES_NOT_APPLY] += 1
+        if not applies:
+            print(f"{mutant.list}: {mutant.name} does not apply: {mutant.test}, found in "
+                  + (", ".join(found) or "no file"))
+    return outcomes
 
 
 class Copy:
@@ -229,6 +251,9 @@ class Trial:
 def main(project, *names):
     project = pathlib.Path(project)
     try:
+        if "--dry-run" in names:
+            mutants = choose(read_lists(project / "tests/mutants"), set(names) - {"--dry-run"})
+            return 0 if dry_run(project, mutants)[APPLIES] == len(mutants) else 1
         mutants = choose(read_lists(project / "tests/mutants"), names)
         trial = Trial(Copy(project, project / "build/mutants"))
         trial.run(mutants)
