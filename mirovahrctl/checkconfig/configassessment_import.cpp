@@ -141,5 +141,9 @@ void ConfigAssessment::checkGate()
         add(CheckConfigRules::kGateElsewhere, key,
             QStringLiteral("The gate publishes to %1, but the plugin reads %2.")
                 .arg(gate->to, path));
+    } else if (!gate->texts) {
+        add(CheckConfigRules::kGateTexts, key,
+            QStringLiteral("The gate publishes texts as HR wrote them: they enter SQL statements "
+                           "unescaped."));
     }
 }

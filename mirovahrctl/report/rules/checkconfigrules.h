@@ -44,6 +44,11 @@ inline constexpr Rule kGateOptions{
     "Run the command by hand: it says which option is wrong. Compare it with the sample "
     "MirovaHR.ini."};
 
+inline constexpr Rule kGateTexts{
+    "gate-texts", Severity::Warning,
+    "The gate publishes texts as HR wrote them, so that a name can become a statement.",
+    "Leave out --texts as-is, unless HR writes the texts for SQL already."};
+
 inline constexpr Rule kImportFileNoFile{
     "import-file-no-file", Severity::Error,
     "importFile names something other than a regular file, which the plugin never reads.",
@@ -185,6 +190,7 @@ inline constexpr const Rule *kAll[] = {
     &kFlagReadsAsTrue,
     &kGateElsewhere,
     &kGateOptions,
+    &kGateTexts,
     &kImportFileNoFile,
     &kImportFileRelative,
     &kImportFileWorldWritable,

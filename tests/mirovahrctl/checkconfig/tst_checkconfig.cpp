@@ -210,6 +210,14 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
         "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in\n"
         "syncCommandRun=2",
         "gate-options", QString());
+    key("a gate that leaves the texts alone",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in --texts "
+        "as-is\nsyncCommandRun=2",
+        "gate-texts", "syncCommand");
+    key("a gate that writes the texts",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in --texts "
+        "no-backslash-escapes\nsyncCommandRun=2",
+        "gate-texts", QString());
 
     message("no message", "", "no-messages", "MES");
     message("one message", "21=\"x\"", "no-messages", QString());
