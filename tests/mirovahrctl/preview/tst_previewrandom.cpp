@@ -178,8 +178,13 @@ PreviewResult TestPreviewRandom::preview()
 void TestPreviewRandom::tryExport()
 {
     TestDatabase &site = m_bench.site();
-    age(site.server().databaseName());
-    age(kKept);
+    // Only the site's own triggers would run, and with triggers previews are not compared.
+    const QString triggers =
+        "SELECT COUNT(*) FROM information_schema.TRIGGERS WHERE TRIGGER_SCHEMA = DATABASE()";
+    if (site.value(triggers).toInt() == 0) {
+        age(site.server().databaseName());
+        age(kKept);
+    }
     const DatabaseState before = site.dumpAll();
     const PreviewResult preview = this->preview();
     if (QTest::currentTestFailed())
