@@ -39,10 +39,9 @@ inline constexpr Rule kViewNotCopied{
     "A routine or trigger seems to use a view, which is not copied.",
     "Check whether the plugin's warnings above mention them."};
 
-inline constexpr Rule kWholeTables{
-    "whole-tables", Severity::Note,
-    "Something lets the plugin reach more rows of large tables than it would by itself, so all of "
-    "them were copied: that takes longer."};
+inline constexpr Rule kWholeTables{"whole-tables", Severity::Note,
+                                   "Something may let the plugin reach more rows than by itself, "
+                                   "so all were copied: it took longer."};
 
 /// All of them, in the order of `mirovahrctl rules`.
 inline constexpr const Rule *kAll[] = {
