@@ -71,6 +71,8 @@ void PreviewReport::collect()
         for (const PreviewKind kind : seen)
             ++m_rows[kind];
     }
+    m_changes = m_work.changes().size();
+    m_work.forgetChanges();
 }
 
 void PreviewReport::writeDifferences()
@@ -171,8 +173,7 @@ void PreviewReport::writeLimits()
 void PreviewReport::writeSummary()
 {
     m_report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
-    m_report.fact(QStringLiteral("rows"), QStringLiteral("Rows that would change"),
-                  m_work.changes().size());
+    m_report.fact(QStringLiteral("rows"), QStringLiteral("Rows that would change"), m_changes);
     for (const PreviewKind kind : PreviewWords::kinds())
         m_report.fact(PreviewWords::idOf(kind), PreviewWords::headingOf(kind), m_rows.value(kind));
     m_report.fact(QStringLiteral("pluginWarnings"), QStringLiteral("The plugin's warnings"),
@@ -181,11 +182,10 @@ void PreviewReport::writeSummary()
 
 QString PreviewReport::verdict() const
 {
-    const int changes = m_work.changes().size();
     const int warnings = m_work.warnings().size();
-    QString text = changes == 0
+    QString text = m_changes == 0
         ? QStringLiteral("A synchronisation would change nothing.")
-        : QStringLiteral("A synchronisation would change %1.").arg(rows(changes));
+        : QStringLiteral("A synchronisation would change %1.").arg(rows(m_changes));
     if (warnings > 0) {
         text +=
             QStringLiteral(" The plugin would warn %1.")

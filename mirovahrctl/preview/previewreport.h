@@ -18,7 +18,7 @@ class PreviewReport {
 public:
     PreviewReport(PreviewWork &work, const PluginConfiguration &configuration, Report &report);
 
-    /// Writes everything but the verdict.
+    /// Writes everything but the verdict. Then the work has forgotten its changes.
     void write();
     QString verdict() const;
 
@@ -35,5 +35,6 @@ private:
     const PluginConfiguration &m_configuration;
     Report &m_report;
     QMap<PreviewKind, QVector<PreviewLine>> m_lines;
+    int m_changes = 0;
     QMap<PreviewKind, int> m_rows; ///< rows with a line of that kind
 };

@@ -41,6 +41,8 @@ public:
     /// The version of the copy's server.
     const QString &copyVersion() const { return m_copyVersion; }
     const QVector<PreviewChange> &changes() const { return m_changes; }
+    /// Frees the memory of the changes, which may be hundreds of thousands.
+    void forgetChanges() { m_changes = {}; }
     /// The warnings and errors that the plugin logged.
     const QVector<Finding> &warnings() const { return m_warnings; }
     /// Why more is copied than the synchronisation seems to reach; see PreviewSelection.
