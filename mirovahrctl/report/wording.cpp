@@ -8,6 +8,15 @@ namespace {
 
 constexpr int kLongest = 60;
 
+struct Unit {
+    qint64 seconds;
+    const char *one;
+    const char *many;
+};
+
+constexpr Unit kUnits[] = {
+    {86400, "day", "days"}, {3600, "hour", "hours"}, {60, "minute", "minutes"}};
+
 bool isInvisible(QChar c)
 {
     return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format
@@ -61,6 +70,17 @@ QString sentence(const QString &text)
 QString counted(qint64 count, const QString &one, const QString &many)
 {
     return QStringLiteral("%1 %2").arg(QString::number(count), count == 1 ? one : many);
+}
+
+QString span(qint64 seconds)
+{
+    for (const Unit &unit : kUnits) {
+        if (seconds >= 2 * unit.seconds) {
+            return counted(seconds / unit.seconds, QString::fromLatin1(unit.one),
+                           QString::fromLatin1(unit.many));
+        }
+    }
+    return counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"));
 }
 
 } // namespace Wording

@@ -22,4 +22,7 @@ QString sentence(const QString &text);
 /// "1 line", "2 lines".
 QString counted(qint64 count, const QString &one, const QString &many);
 
+/// "12 seconds", "3 hours".
+QString span(qint64 seconds);
+
 } // namespace Wording

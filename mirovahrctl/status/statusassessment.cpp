@@ -7,15 +7,6 @@
 
 namespace {
 
-struct Unit {
-    qint64 seconds;
-    const char *one;
-    const char *many;
-};
-
-constexpr Unit kUnits[] = {
-    {86400, "day", "days"}, {3600, "hour", "hours"}, {60, "minute", "minutes"}};
-
 void findAge(StatusAssessment &assessment, const StatusData &data, const GateStatus *gate,
              qint64 now)
 {
@@ -42,7 +33,7 @@ void assessAge(StatusAssessment &assessment, const AgeLimits &limits)
         return;
     const QString message = assessment.age
         ? QStringLiteral("The last %1 was %2 ago.")
-              .arg(assessment.ageOf, StatusAssessment::span(*assessment.age))
+              .arg(assessment.ageOf, Wording::span(*assessment.age))
         : QStringLiteral("There is no %1 yet.").arg(assessment.ageOf);
     Finding finding = makeFinding(StatusRules::kTooOld, message);
     if (critical)
@@ -71,15 +62,4 @@ StatusAssessment StatusAssessment::of(const StatusData &data, const GateStatus *
     if (gate != nullptr)
         assessGate(assessment, *gate);
     return assessment;
-}
-
-QString StatusAssessment::span(qint64 seconds)
-{
-    for (const Unit &unit : kUnits) {
-        if (seconds >= 2 * unit.seconds) {
-            return Wording::counted(seconds / unit.seconds, QString::fromLatin1(unit.one),
-                                    QString::fromLatin1(unit.many));
-        }
-    }
-    return Wording::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"));
 }

@@ -27,7 +27,4 @@ struct StatusAssessment {
     /// \a now: Unix time by this machine's clock, for the gate's times. \a gate may be null.
     static StatusAssessment of(const StatusData &data, const GateStatus *gate,
                                const AgeLimits &limits, qint64 now);
-
-    /// "12 seconds", "3 hours".
-    static QString span(qint64 seconds);
 };

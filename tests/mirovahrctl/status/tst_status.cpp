@@ -1,4 +1,5 @@
 #include "mirovahrctl/gatestate/gatestatus.h"
+#include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/status/statusassessment.h"
 #include "mirovahrctl/status/statusdata.h"
 #include "tests/mirovahrctl/program/rulefixtures.h"
@@ -496,7 +497,7 @@ void TestStatus::spansAreRoundedDown()
 {
     QFETCH(qint64, seconds);
     QFETCH(QString, text);
-    QCOMPARE(StatusAssessment::span(seconds), text);
+    QCOMPARE(Wording::span(seconds), text);
 }
 
 void TestStatus::everyRuleHasItsFixtures()
