@@ -45,8 +45,7 @@ CREATE TABLE people (
     calc       BIGINT            NOT NULL DEFAULT 0,     -- last calculation (timestamp), 0 = one is due
     gid        INT UNSIGNED      NULL,                   -- calendar group where groups_plan has none
     PRIMARY KEY (uid),
-    UNIQUE KEY (pid),
-    KEY (bid)
+    UNIQUE KEY (pid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
 -- Payroll export of a person.
@@ -90,7 +89,7 @@ CREATE TABLE branches (
     wh7e    SMALLINT UNSIGNED NULL,
     mgid    INT UNSIGNED      NULL,                      -- master group, NULL = none
     PRIMARY KEY (bid),
-    KEY (number)
+    KEY (number)                                         -- all that the plugin loads of the branches
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
 -- People of a branch.
@@ -99,15 +98,14 @@ CREATE TABLE brape (
     uid   INT UNSIGNED      NOT NULL,
     since BIGINT            NOT NULL DEFAULT 0,          -- timestamp
     PRIMARY KEY (bid, uid),
-    KEY (uid)
+    KEY (uid)                                            -- administrators of a person
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
 -- Administrators of a branch.
 CREATE TABLE bradm (
     bid SMALLINT UNSIGNED NOT NULL,
     aid SMALLINT UNSIGNED NOT NULL,
-    PRIMARY KEY (bid, aid),
-    KEY (aid)
+    PRIMARY KEY (bid, aid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
 CREATE TABLE sections (
@@ -119,8 +117,7 @@ CREATE TABLE sections (
 CREATE TABLE sec_branch (
     secid INT UNSIGNED      NOT NULL,
     bid   SMALLINT UNSIGNED NOT NULL,
-    PRIMARY KEY (secid),
-    KEY (bid)
+    PRIMARY KEY (secid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
 -- Attributes of a branch's sections.
@@ -224,7 +221,7 @@ CREATE TABLE term_sync (
     ref_id2  INT UNSIGNED NULL,
     created  BIGINT       NOT NULL,                      -- timestamp
     flags    INT UNSIGNED NOT NULL,                      -- the bit of the kind of data
-    KEY (tid, created)
+    KEY (tid, created)                                   -- what a terminal fetches, in its order
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
 CREATE TABLE people_term (
