@@ -94,6 +94,13 @@ struct Routine {
     int argumentCount;
 };
 
+/// How the plugin finds rows of a table that may be large. Without a key for it each such statement
+/// walks the whole table.
+struct Lookup {
+    const char *table;
+    const char *columns; ///< compared for equality; by the last of them alone few rows remain
+};
+
 inline constexpr double kUnsigned16 = 65535.0;
 inline constexpr double kUnsigned32 = 4294967295.0;
 
@@ -310,6 +317,25 @@ inline constexpr Routine kRoutines[] = {
     {"monthFromTimestamp", RoutineKind::Function,  1}, // timestamp: its month, yyyyMM
     {"getCurrentGid",      RoutineKind::Function,  3}, // uid, month, default gid: gid in force or NULL
     {"updateTermsSync",    RoutineKind::Procedure, 2}, // uid, bit of term.flags: marks terminals
+};
+
+inline constexpr Lookup kLookups[] = {
+    {"people",        "uid"},
+    {"people",        "pid"},
+    {"atten",         "uid"},
+    {"branches",      "bid"},
+    {"brape",         "bid uid"},
+    {"bradm",         "bid"},
+    {"mastergroups",  "mgid"},
+    {"groups",        "calendarID parent"},
+    {"groups_plan",   "uid"},
+    {"funds_move",    "fid uid"},
+    {"admins",        "personalNumber"},
+    {"admins_people", "uid"},
+    {"term",          "tid"},
+    {"term",          "bid"},
+    {"people_term",   "uid"},
+    {"vars",          "name"},
 };
 // clang-format on
 

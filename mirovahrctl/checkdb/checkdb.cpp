@@ -38,6 +38,7 @@ bool checkSchema(DbAssessment &check, DbRules::Account account,
     DbRules::checkColumns(check, schema, configuration != nullptr);
     DbRules::checkKeys(check, schema);
     DbRules::checkKeylessTables(check, schema, DbRules::readKeySettings(check));
+    DbRules::checkStatements(check, schema);
     if (account == DbRules::Account::OfThePlugin)
         DbRules::checkRights(check, schema);
     const bool readable = check.violationCount() == violationsBefore;

@@ -44,6 +44,8 @@ void checkKeys(DbAssessment &check, const DbSchema &schema);
 ServerSettings readKeySettings(DbAssessment &check);
 void checkKeylessTables(DbAssessment &check, const DbSchema &schema,
                         const ServerSettings &settings);
+/// Whether the plugin's statements find their rows by keys.
+void checkStatements(DbAssessment &check, const DbSchema &schema);
 void checkRoutines(DbAssessment &check, Account account);
 void checkRights(DbAssessment &check, const DbSchema &schema);
 /// For a database that has all tables and columns.

@@ -14,9 +14,11 @@ constexpr char kSelectColumns[] =
     " ORDER BY TABLE_NAME, ORDINAL_POSITION";
 
 constexpr char kSelectKeys[] =
-    "SELECT TABLE_NAME, INDEX_NAME, COLUMN_NAME FROM information_schema.STATISTICS"
-    " WHERE TABLE_SCHEMA = DATABASE() AND NON_UNIQUE = 0"
+    "SELECT TABLE_NAME, INDEX_NAME, COLUMN_NAME, NON_UNIQUE = 0, INDEX_TYPE <> 'FULLTEXT' AND %1"
+    " FROM information_schema.STATISTICS WHERE TABLE_SCHEMA = DATABASE()"
     " ORDER BY TABLE_NAME, INDEX_NAME, SEQ_IN_INDEX";
+/// Only MariaDB has it, from 10.6 on.
+constexpr char kNotIgnored[] = "IGNORED = 'NO'";
 
 constexpr char kSelectTransactional[] =
     "SELECT TABLE_NAME FROM information_schema.TABLES t JOIN information_schema.ENGINES e"
@@ -66,9 +68,7 @@ bool DbSchema::load(SqlSession &site)
     const QVector<QStringList> columns = site.rows(QLatin1String(kSelectColumns));
     for (const QStringList &row : columns)
         m_columns[row.at(0)].append(readColumn(row));
-    const QVector<QStringList> keys = site.rows(QLatin1String(kSelectKeys));
-    for (const QStringList &row : keys)
-        addKeyColumn(row);
+    loadKeys(site);
     m_transactional = site.column(QLatin1String(kSelectTransactional));
     return !site.failed();
 }
@@ -90,10 +90,31 @@ const DbColumn *DbSchema::column(const TepDbContract::Column &column) const
     return this->column(QString::fromLatin1(column.table), QString::fromLatin1(column.name));
 }
 
+QVector<DbKey> DbSchema::uniqueKeys(const QString &table) const
+{
+    QVector<DbKey> keys = m_keys.value(table);
+    const auto end =
+        std::remove_if(keys.begin(), keys.end(), [](const DbKey &key) { return !key.unique; });
+    keys.erase(end, keys.end());
+    return keys;
+}
+
+void DbSchema::loadKeys(SqlSession &site)
+{
+    const QString sql = QString::fromLatin1(kSelectKeys);
+    SqlSession attempt(site.database());
+    QVector<QStringList> keys = attempt.rows(sql.arg(QLatin1String(kNotIgnored)));
+    if (attempt.failed())
+        keys = site.rows(sql.arg(QLatin1String("TRUE")));
+    for (const QStringList &row : qAsConst(keys))
+        addKeyColumn(row);
+}
+
 void DbSchema::addKeyColumn(const QStringList &row)
 {
     QVector<DbKey> &keys = m_keys[row.at(0)];
     if (keys.isEmpty() || keys.constLast().name != row.at(1))
-        keys.append({row.at(1), {}});
+        keys.append(
+            {row.at(1), row.at(3) == QLatin1String("1"), row.at(4) == QLatin1String("1"), {}});
     keys.last().columns += row.at(2).toLower();
 }

@@ -27,9 +27,11 @@ struct DbColumn {
     QStringList rights; ///< of this account: "select", "insert", "update", "references"
 };
 
-/// A unique or primary key.
+/// A key of a table.
 struct DbKey {
     QString name;
+    bool unique = false; ///< the primary key, too
+    bool findsRows = false; ///< the server considers it when it looks for rows
     QStringList columns; ///< in lower case, in the order of the key
 };
 
@@ -47,12 +49,15 @@ public:
     /// Null when it does not exist. The column's name is case-insensitive, as it is for the server.
     const DbColumn *column(const QString &table, const QString &column) const;
     const DbColumn *column(const TepDbContract::Column &column) const;
+    /// The keys of a table.
+    QVector<DbKey> keys(const QString &table) const { return m_keys.value(table); }
     /// The primary and unique keys of a table.
-    QVector<DbKey> uniqueKeys(const QString &table) const { return m_keys.value(table); }
+    QVector<DbKey> uniqueKeys(const QString &table) const;
     /// Whether the table takes part in transactions.
     bool isTransactional(const QString &table) const { return m_transactional.contains(table); }
 
 private:
+    void loadKeys(SqlSession &site);
     void addKeyColumn(const QStringList &row);
 
     QHash<QString, QVector<DbColumn>> m_columns;

@@ -215,6 +215,11 @@ inline constexpr Rule kStateTextTooLong{
     "The column of the relationship state is shorter than a text in the configuration.",
     "Shorten the text in the group MES, or widen the column."};
 
+inline constexpr Rule kStatementScans{
+    "statement-scans", Severity::Warning,
+    "Without a key, statements that the plugin sends for each person walk a large table.",
+    "Add the key of reference-db/schema.sql."};
+
 inline constexpr Rule kStatusDefault{
     "status-default", Severity::Error,
     "The default of people.status is not 1, so new people are inactive.",
@@ -302,6 +307,7 @@ inline constexpr const Rule *kAll[] = {
     &kSqlModeNotStrict,
     &kStateTextLetters,
     &kStateTextTooLong,
+    &kStatementScans,
     &kStatusDefault,
     &kSupervisorTwice,
     &kTableMissing,
