@@ -309,8 +309,8 @@ void TestCheckDbStatements::theFindingSaysWhatItIsBasedOn()
         message,
         QString("The table atten has no key on uid: for each person or branch the plugin sends 4 "
                 "statements that walk up to 2000 of its rows. A synchronisation in which all "
-                "2000 people have changed takes up to about 8 seconds longer, estimated with "
-                "2000000 rows a second."));
+                "2000 people have changed takes up to about 16 seconds longer, estimated with "
+                "1000000 rows a second."));
 }
 
 void TestCheckDbStatements::everyMissingKeyOfATableIsNamed()
