@@ -101,7 +101,6 @@ StatementTap::StatementTap()
     QSqlDatabase::registerSqlDriver(kName, new TapCreator(m_tap));
     QSqlDatabase tapped = QSqlDatabase::addDatabase(kName, kName);
     tapped.setDatabaseName(kName);
-    tapped.open();
 }
 
 StatementTap::~StatementTap()
