@@ -96,16 +96,18 @@ public:
             report(it.key(), *it);
     }
 
-    bool hasExplainedAll() const { return m_unexplained == 0; }
+    /// Why the server has not explained a statement; empty when it has explained all.
+    QString errorString() const { return m_error; }
 
 private:
     double count(const char *table) const { return m_counts.value(QLatin1String(table), 1); }
 
     void explain(const PluginStatement &statement)
     {
-        const auto plan = StatementPlan::of(m_site, statement.query);
+        SqlSession session(m_site);
+        const auto plan = StatementPlan::of(session, statement.query);
         if (!plan) {
-            ++m_unexplained;
+            m_error = session.errorString();
             return;
         }
         const double times = count(statement.sent == Sent::ForEachPerson ? "people" : "branches");
@@ -158,7 +160,7 @@ private:
     const QSqlDatabase m_site;
     QHash<QString, double> m_counts;
     QMap<QString, Walk> m_walks;
-    int m_unexplained = 0;
+    QString m_error;
 };
 
 } // namespace
@@ -168,12 +170,11 @@ void DbRules::checkStatements(DbAssessment &check, const DbSchema &schema)
     check.begin("statements", "Statements for a person");
     StatementCheck statements(check, schema);
     statements.run();
-    if (statements.hasExplainedAll()) {
+    if (statements.errorString().isEmpty()) {
         check.end(QStringLiteral("The server finds their rows without walking a large table."));
         return;
     }
     check.setPartlySeen();
-    check.writer().sentence(
-        QStringLiteral("The server does not explain all of them to this account: tables, columns, "
-                       "routines or rights are missing."));
+    check.writer().sentence(QStringLiteral("The server does not explain all of them: %1.")
+                                .arg(statements.errorString()));
 }

@@ -40,11 +40,10 @@ QHash<QString, QString> tablesOf(const QString &query)
 
 } // namespace
 
-std::optional<StatementPlan> StatementPlan::of(const QSqlDatabase &site, const QString &query)
+std::optional<StatementPlan> StatementPlan::of(SqlSession &site, const QString &query)
 {
-    SqlSession session(site);
-    const QVector<QStringList> explained = session.rows(QStringLiteral("EXPLAIN ") + query);
-    if (session.failed())
+    const QVector<QStringList> explained = site.rows(QStringLiteral("EXPLAIN ") + query);
+    if (site.failed())
         return std::nullopt;
     const QHash<QString, QString> tables = tablesOf(query);
     StatementPlan plan;

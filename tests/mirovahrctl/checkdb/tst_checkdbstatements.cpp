@@ -423,8 +423,7 @@ void TestCheckDbStatements::statementsThatAreNotExplainedAreMentioned()
                                  m_db.server().passwordFile()});
     m_db.restoreTable("term");
     COMPARE_EXIT(run, ExitStatus::ContractBroken);
-    QVERIFY2(run.out.contains("The server does not explain all of them to this account: tables, "
-                              "columns, routines or rights are missing.\n"),
+    QVERIFY2(run.out.contains("The server does not explain all of them: "),
              run.report().constData());
 }
 
