@@ -19,7 +19,7 @@ QString word(const std::optional<Backslash> &texts)
 {
     if (!texts)
         return kAsIs;
-    return texts == Backslash::Escapes ? kEscaped : kNoBackslashEscapes;
+    return *texts == Backslash::Escapes ? kEscaped : kNoBackslashEscapes;
 }
 
 std::optional<Backslash> ofWord(const QString &word)
