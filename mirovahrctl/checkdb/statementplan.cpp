@@ -26,8 +26,9 @@ struct Step {
 /// The tables of a query by their aliases, and by their names.
 QHash<QString, QString> tablesOf(const QString &query)
 {
+    // The word behind a name may be its alias, and may be the JOIN before the next one.
     static const QRegularExpression source(
-        QStringLiteral("\\b(?:FROM|JOIN) `?(\\w+)`?(?: (\\w+))?"));
+        QStringLiteral("\\b(?:FROM|JOIN) `?(\\w+)`?(?= (\\w+)|)"));
     QHash<QString, QString> tables;
     QRegularExpressionMatchIterator it = source.globalMatch(query);
     while (it.hasNext()) {
