@@ -100,7 +100,8 @@ QStringList PreviewBench::arguments(const QString &user) const
     return arguments + QStringList{"--config", iniPath()};
 }
 
-PreviewResult PreviewBench::preview(const QString &user, PreviewSelection::Extent extent)
+PreviewResult PreviewBench::preview(const QString &user, PreviewSelection::Extent extent,
+                                    const std::function<void()> &meanwhile)
 {
     QBuffer out;
     QBuffer err;
@@ -123,6 +124,7 @@ PreviewResult PreviewBench::preview(const QString &user, PreviewSelection::Exten
         return result;
     }
     result.refusal = work.copy(site.sql());
+    meanwhile();
     if (!result.refusal)
         result.refusal = work.synchronise(&log);
     if (result.refusal)

@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QVector>
 
+#include <functional>
 #include <optional>
 
 /// A row that a preview shows as changed.
@@ -64,9 +65,12 @@ public:
     /// another one with the same password, or as `root`, which has none.
     QStringList arguments(const QString &user = QStringLiteral("mirovahrctl")) const;
 
-    /// A preview as one of these accounts.
-    PreviewResult preview(const QString &user = QStringLiteral("mirovahrctl"),
-                          PreviewSelection::Extent extent = PreviewSelection::Extent::Reached);
+    /// A preview as one of these accounts. \a meanwhile is called between copying and
+    /// synchronising.
+    PreviewResult preview(
+        const QString &user = QStringLiteral("mirovahrctl"),
+        PreviewSelection::Extent extent = PreviewSelection::Extent::Reached,
+        const std::function<void()> &meanwhile = [] {});
     /// The number of rows of a table that the last preview copied.
     int copiedRows(const char *table) const;
 

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void movesOfThePeopleOfTheExportAreCopied();
     void theQueueIsLeftOut();
     void rowsOfTheNextPersonAreCopied();
+    void anExportThatChangesMeanwhileIsRefused();
     void whatCouldReachOtherRowsHasAllRowsCopied_data();
     void whatCouldReachOtherRowsHasAllRowsCopied();
     void aTextThatChangesAStatementHasAllRowsCopied();
@@ -127,6 +128,17 @@ void TestPreviewSelection::rowsOfTheNextPersonAreCopied()
     m_bench.writeExport({SampleExport::newcomer(5555)});
     QCOMPARE(accepted().doubts, QStringList());
     QCOMPARE(m_bench.copiedRows("atten"), 1);
+}
+
+void TestPreviewSelection::anExportThatChangesMeanwhileIsRefused()
+{
+    const PreviewResult result = m_bench.preview("root", PreviewSelection::Extent::Reached, [this] {
+        m_bench.writeExport({SampleExport::jan()});
+    });
+    QVERIFY(result.refusal);
+    QCOMPARE(result.refusal->status, ExitStatus::Usage);
+    QCOMPARE(result.refusal->sentence,
+             "'" + m_bench.exportFile().path() + "' was changed meanwhile. Run preview again");
 }
 
 void TestPreviewSelection::whatCouldReachOtherRowsHasAllRowsCopied_data()
