@@ -34,8 +34,7 @@ QString performance(const StatusData &data, const StatusAssessment &assessment,
 QString summary(const StatusData &data, const StatusAssessment &assessment)
 {
     const QString age = assessment.age
-        ? QStringLiteral("last %1 %2 ago")
-              .arg(assessment.ageOf, Wording::span(*assessment.age))
+        ? QStringLiteral("last %1 %2 ago").arg(assessment.ageOf, Wording::span(*assessment.age))
         : QStringLiteral("no %1 yet").arg(assessment.ageOf);
     return QStringLiteral("%1, %2, %3 in the terminal queue")
         .arg(age,
