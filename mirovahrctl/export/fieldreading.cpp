@@ -2,11 +2,9 @@
 
 #include "mirovahrctl/export/encodedtwice.h"
 #include "worker/exportline.h"
-#include "worker/recorddates.h"
 #include "worker/vacationbalance.h"
 
-#include <QDateTime>
-
+#include <cmath>
 #include <limits>
 
 namespace FieldReading {
@@ -52,35 +50,24 @@ QDate dateOf(const QString &text)
     return parseDate(text, QString(kDateFormat));
 }
 
-Kind kindOfText(const QString &text)
-{
-    return text.contains(QChar::ReplacementCharacter) || isEncodedTwice(text) ? Kind::Misread
-                                                                              : Kind::Value;
-}
-
-Kind kindOfDate(int field, const QString &text)
-{
-    const QDate date = dateOf(text);
-    return date.isValid() && (field == KalendarPlatnostOd || isKept(date)) ? Kind::Value
-                                                                           : Kind::Misread;
-}
-
-Kind kindOfNumber(int field, const QString &text)
+/// Whether the plugin reads a number of days, be it one that can be stored or not.
+bool isBalance(const QString &text)
 {
     bool isNumber = false;
-    const quint32 number = toNumber(text, &isNumber);
-    if (!isNumber)
-        return Kind::Misread;
-    const bool wraps = formOf(field) == Form::Code && number > std::numeric_limits<quint16>::max();
-    return wraps ? Kind::Misread : Kind::Value;
+    toBalance(text, &isNumber);
+    return isNumber;
 }
 
-/// False when the plugin can read or store no such balance.
-bool readBalance(const QString &text, qint32 &hundredths)
+bool isNumber(const QString &text)
 {
     bool isNumber = false;
-    const double days = toBalance(text, &isNumber);
-    return VacationBalance::correction(days, 0, hundredths) && isNumber;
+    toNumber(text, &isNumber);
+    return isNumber;
+}
+
+Kind misreadUnless(bool isRead)
+{
+    return isRead ? Kind::Value : Kind::Misread;
 }
 
 } // namespace
@@ -91,23 +78,21 @@ Kind kindOf(int field, const QString &text)
         return Kind::None;
     switch (formOf(field)) {
     case Form::Text:
-        return kindOfText(text);
+        return misreadUnless(!text.contains(QChar::ReplacementCharacter) && !isEncodedTwice(text));
     case Form::Date:
-        return kindOfDate(field, text);
+        return misreadUnless(dateOf(text).isValid());
     case Form::Number:
     case Form::Code:
-        return kindOfNumber(field, text);
+        return misreadUnless(isNumber(text));
     case Form::Balance:
-        break;
+        return misreadUnless(isBalance(text));
     }
-    qint32 hundredths = 0;
-    return readBalance(text, hundredths) ? Kind::Value : Kind::Misread;
+    Q_UNREACHABLE();
 }
 
 bool isNone(int field, const QString &text)
 {
-    bool isNumber = false;
-    return text.isEmpty() || (zeroIsNone(field) && toNumber(text, &isNumber) == 0 && isNumber);
+    return text.isEmpty() || (zeroIsNone(field) && toNumber(text) == 0 && isNumber(text));
 }
 
 bool isSame(int field, const QString &a, const QString &b)
@@ -118,8 +103,10 @@ bool isSame(int field, const QString &a, const QString &b)
     case Form::Date:
         return dateOf(a) == dateOf(b);
     case Form::Number:
-    case Form::Code:
         return toNumber(a) == toNumber(b);
+    case Form::Code:
+        // The plugin keeps the low 16 bits.
+        return quint16(toNumber(a)) == quint16(toNumber(b));
     case Form::Balance:
         return hundredthsOf(a) == hundredthsOf(b);
     }
@@ -128,16 +115,12 @@ bool isSame(int field, const QString &a, const QString &b)
 
 qint32 hundredthsOf(const QString &balance)
 {
+    const double days = toBalance(balance);
+    if (std::isnan(days))
+        return std::numeric_limits<qint32>::max();
     qint32 hundredths = 0;
-    return readBalance(balance, hundredths) ? hundredths : 0;
-}
-
-bool isKept(const QDate &day)
-{
-    if (day.year() > 1970 && day.year() < 2106)
-        return true;
-    return RecordDates::midnight(day) > 0
-        && RecordDates::midnight(day.addDays(1)) <= qint64(std::numeric_limits<quint32>::max());
+    VacationBalance::correction(days, 0, hundredths);
+    return hundredths;
 }
 
 QString consequence(int field)

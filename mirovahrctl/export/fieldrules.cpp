@@ -6,7 +6,10 @@
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/exportline.h"
+#include "worker/recorddates.h"
 #include "worker/vacationbalance.h"
+
+#include <limits>
 
 namespace {
 
@@ -29,6 +32,16 @@ QString balanceAdvice(const QString &text)
     return text.contains(QLatin1Char(','))
         ? QStringLiteral("Write the balance with a decimal point, as in 12.5.")
         : QStringLiteral("Write the balance as a number of days, as in 12.5.");
+}
+
+/// Whether the day survives being stored: the plugin reads Unix times as unsigned 32-bit numbers,
+/// and 0 as no time.
+bool isKept(const QDate &day)
+{
+    if (day.year() > 1970 && day.year() < 2106)
+        return true;
+    return RecordDates::midnight(day) > 0
+        && RecordDates::midnight(day.addDays(1)) <= qint64(std::numeric_limits<quint32>::max());
 }
 
 } // namespace
@@ -183,7 +196,7 @@ void FieldRules::checkDate(int field, const QDate &date)
             QStringLiteral("The plugin cannot read %1 as a date: %2")
                 .arg(Wording::quoted(text), consequence(field)),
             dateAdvice(text));
-    } else if (field != KalendarPlatnostOd && !FieldReading::isKept(date)) {
+    } else if (field != KalendarPlatnostOd && !isKept(date)) {
         add(field, CheckFileRules::kDateOutOfRange,
             QStringLiteral("The plugin can store days from 1970 to 2106; %1 comes back from the "
                            "database as another day.")

@@ -161,7 +161,9 @@ void TestDiff::aValueIsRecognised_data()
     row("the same day at another hour", &Row::datumNastupu, day, "2019-04-01 12:00:00.000", "");
     row("a first day in Czech", &Row::datumNastupu, day, "1.4.2019", "DatumNastupu misread");
     row("a first day before the clock began", &Row::datumNastupu, day, "1969-04-01 00:00:00.000",
-        "DatumNastupu misread");
+        "DatumNastupu changed");
+    row("a last day for those who stay", &Row::datumVystupu, "", "9999-12-31 00:00:00.000",
+        "DatumVystupu changed");
     row("a calendar's start before the clock began", &Row::kalendarPlatnostOd, day,
         "1969-04-01 00:00:00.000", "KalendarPlatnostOd changed");
     row("no calendar's start", &Row::kalendarPlatnostOd, day, "", "KalendarPlatnostOd emptied");
@@ -185,7 +187,8 @@ void TestDiff::aValueIsRecognised_data()
     row("state 0", &Row::stavPracovnihoPomeru, "1", "0", "StavPracovnihoPomeru changed");
     row("no state", &Row::stavPracovnihoPomeru, "1", "", "StavPracovnihoPomeru emptied");
     row("a state that wraps", &Row::stavPracovnihoPomeru, "1", "65540",
-        "StavPracovnihoPomeru misread");
+        "StavPracovnihoPomeru changed");
+    row("a state that wraps to the same", &Row::stavPracovnihoPomeru, "1", "65537", "");
     row("register state 0 and none", &Row::evidencniStav, "0", "", "");
 
     row("another balance", &Row::dovolenaZustatek, "12.5", "12", "DovolenaZustatek changed");
@@ -198,9 +201,9 @@ void TestDiff::aValueIsRecognised_data()
         "DovolenaZustatek repaired");
     row("no balance", &Row::dovolenaZustatek, "12.5", "", "DovolenaZustatek emptied");
     row("a balance that cannot be stored", &Row::dovolenaZustatek, "12.5", "1e9",
-        "DovolenaZustatek misread");
-    row("a balance that is no number", &Row::dovolenaZustatek, "12.5", "nan",
-        "DovolenaZustatek misread");
+        "DovolenaZustatek changed");
+    row("a balance that is no quantity", &Row::dovolenaZustatek, "12.5", "nan",
+        "DovolenaZustatek changed");
 }
 
 void TestDiff::aValueIsRecognised()
