@@ -129,7 +129,8 @@ void ConfigAssessment::checkGate()
     const QString key = QStringLiteral("syncCommand");
     if (!GateOptions::isRunBy(m_config.syncCommand)) {
         add(CheckConfigRules::kNoGate, key,
-            QStringLiteral("No gate: what HR exports reaches the database unexamined."));
+            QStringLiteral("syncCommand runs no gate. Unless another program runs one, what HR "
+                           "exports reaches the database unexamined."));
         return;
     }
     const auto gate = GateOptions::ofCommand(m_config.syncCommand);
@@ -137,7 +138,9 @@ void ConfigAssessment::checkGate()
     if (!gate) {
         add(CheckConfigRules::kGateOptions, key,
             QStringLiteral("The gate does not understand its options, so it publishes nothing."));
-    } else if (!gate->publishesTo(path)) {
+        return;
+    }
+    if (!gate->publishesTo(path)) {
         add(CheckConfigRules::kGateElsewhere, key,
             QStringLiteral("The gate publishes to %1, but the plugin reads %2.")
                 .arg(gate->to, path));
@@ -145,5 +148,10 @@ void ConfigAssessment::checkGate()
         add(CheckConfigRules::kGateTexts, key,
             QStringLiteral("The gate publishes texts as HR wrote them: they enter SQL statements "
                            "unescaped."));
+    }
+    if (gate->accept) {
+        add(CheckConfigRules::kGateAccepts, key,
+            QStringLiteral("With --accept the gate admits a file whatever is missing or has "
+                           "changed in it."));
     }
 }

@@ -34,6 +34,10 @@ inline constexpr Rule kFlagReadsAsTrue{"flag-reads-as-true", Severity::Warning,
                                        "A flag has an unusual value and is read as true.",
                                        "Write true or false."};
 
+inline constexpr Rule kGateAccepts{"gate-accepts", Severity::Error,
+                                   "The gate in syncCommand admits whatever has changed.",
+                                   "Remove --accept from syncCommand: it is for one run by hand."};
+
 inline constexpr Rule kGateElsewhere{
     "gate-elsewhere", Severity::Error,
     "The gate publishes to another file than the one that the plugin reads.",
@@ -188,6 +192,7 @@ inline constexpr const Rule *kAll[] = {
     &kFileWorldWritable,
     &kFlagEmpty,
     &kFlagReadsAsTrue,
+    &kGateAccepts,
     &kGateElsewhere,
     &kGateOptions,
     &kGateTexts,

@@ -203,6 +203,14 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
         "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv//in\n"
         "syncCommandRun=2",
         "gate-elsewhere", QString());
+    key("a gate that admits every file",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in --accept\n"
+        "syncCommandRun=2",
+        "gate-accepts", "syncCommand");
+    key("a gate that admits only what it examined",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in\n"
+        "syncCommandRun=2",
+        "gate-accepts", QString());
     key("a gate without HR's file",
         "importFile=/srv/in\nsyncCommand=mirovahrctl gate --to /srv/in\nsyncCommandRun=2",
         "gate-options", "syncCommand");
