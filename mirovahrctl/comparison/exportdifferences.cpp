@@ -31,12 +31,17 @@ struct Records {
     MirovaRonRecord now;
 };
 
-/// Whether the person goes on working in the same place and state, without a last day.
+/// A later last day is the end of a contract for a fixed term, of which nobody takes notice yet.
+constexpr int kMonthsOfNotice = 3;
+
+/// Whether the person goes on working in the same place and state, and has not given notice.
 bool staysInPlace(const Records &records, const QDate &today)
 {
     const MirovaRonRecord &before = records.before;
     const MirovaRonRecord &now = records.now;
-    return RecordCodes::isActive(now, today) && !now.datumVystupu.isValid()
+    const bool leavesSoon =
+        now.datumVystupu.isValid() && now.datumVystupu <= today.addMonths(kMonthsOfNotice);
+    return RecordCodes::isActive(now, today) && !leavesSoon && !endsEarlier(before, now)
         && now.stredisko == before.stredisko && now.evidencniStav == before.evidencniStav;
 }
 

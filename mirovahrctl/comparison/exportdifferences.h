@@ -40,7 +40,8 @@ struct ExportDifferences {
     QVector<int> returning; ///< in the older export not employed, and now they are
     QVector<int> moving; ///< employed before, not leaving, with another cost centre
     /// With another supervisor or none, for no reason that the exports show: the people stay in
-    /// their cost centre, and their former supervisor works on in the same place and state.
+    /// their cost centre, and their former supervisor works on in the same place and state
+    /// and has given no notice.
     QVector<int> reassigned;
     std::array<FieldDifferences, ExportLine::kFieldCount> fields;
     BalanceDifferences balances;

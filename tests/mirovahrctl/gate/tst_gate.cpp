@@ -377,6 +377,12 @@ void TestGate::aSupervisorsReasonIsRecognised_data()
     const Row leaving = Row(boss).with(&Row::datumVystupu, kTomorrow);
     QTest::newRow("the former one has had a last day before") << leaving << leaving << "2000"
                                                               << "120" << false;
+    const QDate later = QDate::currentDate().addMonths(4);
+    const Row inTerm = Row(boss).with(&Row::datumVystupu, later);
+    row("the former one has a new last day, which is far ahead", inTerm, false);
+    QTest::newRow("the former one has had a last day far ahead before")
+        << inTerm << inTerm << "2000"
+        << "120" << true;
     QTest::newRow("the former one is in no file") << boss << boss << "7"
                                                   << "120" << true;
     QTest::newRow("there was none") << boss << boss << "0"
