@@ -15,9 +15,15 @@ struct GateFacts {
     bool hasBaseline = false; ///< an admitted file exists, and the file was compared with it
     qint64 oldLines = 0; ///< of the last admitted file, read as people
     qint64 newLines = 0; ///< read as people
+    qint64 oldRepetitions = 0; ///< of the older lines, those about somebody of an earlier one
+    qint64 newRepetitions = 0; ///< of the newer ones
+    /// Lines with texts that look as if HR's program had written them for SQL, before the gate
+    /// does.
+    qint64 writtenTexts = 0;
     ExportDifferences changes; ///< from the last admitted file, or from an empty one
 
     qint64 lostLines() const { return qMax(qint64(0), oldLines - newLines); }
+    qint64 repeatedLines() const { return qMax(qint64(0), newRepetitions - oldRepetitions); }
 };
 
 /// The rules that refuse a file. Pure functions.

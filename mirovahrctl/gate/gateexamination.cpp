@@ -1,6 +1,7 @@
 #include "mirovahrctl/gate/gateexamination.h"
 
 #include "mirovahrctl/export/rejectswriter.h"
+#include "mirovahrctl/export/sqltexts.h"
 #include "mirovahrctl/gate/gatesource.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
 #include "mirovahrctl/program/progress.h"
@@ -29,6 +30,13 @@ bool isBroken(const CheckedLine &line)
     return hasRule(line.findings, CheckFileRules::kFieldCount)
         || hasRule(line.findings, CheckFileRules::kLineTooLong)
         || hasRule(line.findings, CheckFileRules::kNulByte);
+}
+
+/// Whether a text of HR's is the written form of another one. \a record: as the gate writes it.
+bool hasWrittenText(const MirovaRonRecord &record, Backslash texts)
+{
+    const MirovaRonRecord asHrWroteIt = SqlTexts::shown(record, texts);
+    return SqlTexts::shown(asHrWroteIt, texts) != asHrWroteIt;
 }
 
 } // namespace
@@ -104,6 +112,8 @@ bool GateExamination::readNew(QFile &file, RejectsWriter &rejects)
         if (line.isRejected() || line.hasWarnings())
             rejects.add(line);
         m_facts.isLastLineBroken = isBroken(line);
+        if (m_texts && line.record && hasWrittenText(*line.record, *m_texts))
+            ++m_facts.writtenTexts;
     });
     m_facts.counts = check.counts();
     m_facts.endsOpen = hasRule(check.fileFindings(), CheckFileRules::kNoFinalLineFeed);

@@ -31,6 +31,15 @@ Finding warnedLines(qint64 count, const QString &path)
         QStringLiteral("Send HR the file %1.").arg(path));
 }
 
+Finding writtenTexts(qint64 count)
+{
+    return makeFinding(
+        GateRules::kTextsWritten,
+        QStringLiteral("The file has %1 with texts that look as if they were written for SQL "
+                       "already, such as O''Brien. The database gets them as they are here.")
+            .arg(Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"))));
+}
+
 } // namespace
 
 ExitStatus GateReport::writeTo(Report &report) const
@@ -84,6 +93,8 @@ QVector<Finding> GateReport::notes() const
         notes << rejectedLines(facts->counts.rejected, rejects);
     if (facts != nullptr && facts->counts.warned > 0)
         notes << warnedLines(facts->counts.warned, rejects);
+    if (facts != nullptr && facts->writtenTexts > 0)
+        notes << writtenTexts(facts->writtenTexts);
     return notes;
 }
 

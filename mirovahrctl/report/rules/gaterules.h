@@ -97,6 +97,12 @@ inline constexpr Rule kWarnedLines{
     "The file has lines with values that the plugin misreads or that are hardly intended.",
     "Send HR the file of these lines."};
 
+inline constexpr Rule kTextsWritten{
+    "texts-written", Severity::Note,
+    "The file has texts that look as if they were written for SQL already, such as O''Brien.",
+    "Ask HR whether its program doubles apostrophes or backslashes; it should leave that to the "
+    "gate."};
+
 inline constexpr Rule kUnchanged{"unchanged", Severity::Note,
                                  "The file equals the last admitted one and is published again."};
 
@@ -128,6 +134,7 @@ inline constexpr const Rule *kAll[] = {
     &kTruncated,
     &kRejectedLines,
     &kWarnedLines,
+    &kTextsWritten,
     &kUnchanged,
     &kUnread,
 };

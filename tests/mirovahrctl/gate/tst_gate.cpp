@@ -76,6 +76,7 @@ private Q_SLOTS:
     void theReportNamesWhoseValuesAreTheReason();
     void theStatusFileNamesNobody();
     void linesWithWarningsAreCounted();
+    void textsThatHrWritesForSqlAreNoted();
     void acceptIsAdvisedOnlyWhereItHelps();
     void theFirstFileIsCheckedForMisreadValues();
     void whatWasMisreadBeforeIsNoReason();
@@ -810,6 +811,22 @@ void TestGate::linesWithWarningsAreCounted()
                               "number."),
              rejects.constData());
     QVERIFY(rejects.endsWith("\n\n# 2 lines.\n"));
+}
+
+void TestGate::textsThatHrWritesForSqlAreNoted()
+{
+    QVector<Row> people = GatePeople::some(3);
+    people[0].with(&Row::prijmeni, "O'Brien").with(&Row::telefon, "100%1");
+    m_site->admit(people);
+    m_site->deliver(people);
+    QVERIFY(!m_site->run().rules().contains("texts-written"));
+    people[1].with(&Row::prijmeni, "O''Brien");
+    people[2].with(&Row::titul, "100%' '1");
+    m_site->deliver(people);
+    const ToolRun run = m_site->run();
+    QVERIFY(run.rules().contains("texts-written"));
+    QVERIFY2(run.out.contains("The file has 2 lines with texts"), qPrintable(run.out));
+    QVERIFY(!m_site->run({"--texts", "as-is"}).rules().contains("texts-written"));
 }
 
 void TestGate::acceptIsAdvisedOnlyWhereItHelps()
