@@ -38,6 +38,19 @@ GateReason linesLost(const GateFacts &facts, const GateLimit &limit)
             true};
 }
 
+/// The comparison sees the last line about a person only, and the plugin carries out all of them.
+GateReason linesRepeated(const GateFacts &facts, const GateLimit &limit)
+{
+    const qint64 repeated = facts.repeatedLines();
+    return {makeFinding(
+                GateRules::kLinesRepeated,
+                lines(repeated, facts.oldLines)
+                    + (repeated == 1 ? QStringLiteral(" repeats a person of an earlier line")
+                                     : QStringLiteral(" repeat people of earlier lines"))
+                    + QStringLiteral(", more than in the last admitted file") + allowance(limit)),
+            true};
+}
+
 /// People of one kind, and the limit that is held against them.
 struct Kind {
     const Rule &rule;
@@ -90,6 +103,8 @@ void assessChanges(const GateFacts &facts, const GateLimits &limits, QVector<Gat
 {
     if (limits.isExceeded(limits.lostLines, facts.lostLines(), facts.oldLines))
         reasons << linesLost(facts, limits.lostLines);
+    if (limits.isExceeded(limits.repeatedLines, facts.repeatedLines(), facts.oldLines))
+        reasons << linesRepeated(facts, limits.repeatedLines);
     assessPeople(facts.changes, limits, reasons);
     reasons << GateValues::assessChanged(facts.changes, limits);
 }

@@ -61,6 +61,8 @@ bool GateExamination::run(const QString &copy, const QString &lastAdmitted, Reje
         return false;
     m_facts.oldLines = m_people.lines(ComparedPeople::Before);
     m_facts.newLines = m_people.lines(ComparedPeople::Now);
+    m_facts.oldRepetitions = m_people.repetitions(ComparedPeople::Before);
+    m_facts.newRepetitions = m_people.repetitions(ComparedPeople::Now);
     m_facts.changes = ExportDifferences::of(m_people, QDate::currentDate());
     return true;
 }

@@ -125,6 +125,7 @@ void GateReport::reportChanges(Report &report) const
     fact("oldRecords", "People in the last admitted file", facts->oldLines);
     fact("working", "Employed people in it", changes.working);
     fact("lostLines", "Lines lost", facts->lostLines());
+    fact("repeatedLines", "Lines repeated", facts->repeatedLines());
     fact("leaving", "People leaving", changes.leaving.size());
     fact("moving", "People moving", changes.moving.size());
     fact("new", "New people", changes.added.size());

@@ -20,6 +20,7 @@ struct GateLimits {
     qint64 few = 2;
 
     GateLimit lostLines{50, 5}; ///< of the lines that the plugin reads as people
+    GateLimit repeatedLines{50, 5}; ///< of the same lines
     GateLimit leaving{50, 5}; ///< of the employed people
     GateLimit moving{100, 10}; ///< of the employed people
     GateLimit added{500, 10}; ///< of the people of the last admitted file
@@ -52,6 +53,8 @@ struct GateLimitOption {
 inline constexpr std::array kGateLimitOptions{
     GateLimitOption{"max-lost-lines", &GateLimits::lostLines, "has lost more lines than this",
                     "lines"},
+    GateLimitOption{"max-repeated-lines", &GateLimits::repeatedLines,
+                    "has more lines than this about people of earlier lines", "lines"},
     GateLimitOption{"max-leaving", &GateLimits::leaving, "lets more people leave than this",
                     "employed people"},
     GateLimitOption{"max-moving", &GateLimits::moving,

@@ -27,6 +27,11 @@ inline constexpr Rule kLinesLost{
     "lines-lost", Severity::Error, "More lines with people than the limits allow are missing.",
     "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
 
+inline constexpr Rule kLinesRepeated{
+    "lines-repeated", Severity::Error,
+    "More lines than the limits allow are about people of earlier lines.",
+    "Ask HR; if the change is intended, run the gate once with --accept.", Severity::Warning};
+
 inline constexpr Rule kMissing{"missing", Severity::Error, "HR's file does not exist.",
                                "Ask HR whether the export has run."};
 
@@ -118,6 +123,7 @@ inline constexpr const Rule *kAll[] = {
     &kFileTooLong,
     &kJustWritten,
     &kLinesLost,
+    &kLinesRepeated,
     &kMissing,
     &kNoBaseline,
     &kPeopleLeaving,

@@ -169,6 +169,10 @@ static QVector<LimitedKind> limitedKinds()
          [](int count) {
              return GatePeople::some(40 - count);
          }},
+        {"max-repeated-lines", "lines-repeated", forty,
+         [](int count) {
+             return GatePeople::some(40) + GatePeople::some(count);
+         }},
         {"max-leaving", "people-leaving", forty,
          [](int count) {
              return changed(40, count, &Row::datumVystupu, exportDate(kTomorrow));
@@ -717,6 +721,7 @@ void TestGate::theReportForPeople()
             "Lines with errors: 1\nLines with warnings: 1\n\n"
             "Compared with the last admitted file\n------------------------------------\n"
             "People in the last admitted file: 4\nEmployed people in it: 4\nLines lost: 1\n"
+            "Lines repeated: 0\n"
             "People leaving: 1\nPeople moving: 1\nNew people: 0\nPeople returning: 0\n"
             "Supervisors changed without a visible reason: 0\n"
             "Leaving:\n"
@@ -892,6 +897,7 @@ void TestGate::aRunWithoutFindingsIsPlain()
                 "Compared with the last admitted file\n"
                 "------------------------------------\n"
                 "People in the last admitted file: 2\nEmployed people in it: 2\nLines lost: 0\n"
+                "Lines repeated: 0\n"
                 "People leaving: 0\nPeople moving: 0\nNew people: 1\nPeople returning: 0\n"
                 "Supervisors changed without a visible reason: 0\n"
                 "New:\n"

@@ -172,6 +172,10 @@ const Damage kDamages[] = {
          }
          return content;
      }},
+    {"the damaged lines above the good ones", "lines-repeated",
+     [](const Rows &people) {
+         return emptied<&Row::dovolenaZustatek>(people) + GatePeople::file(people);
+     }},
     {"another cost centre for all", "people-moving",
      [](const Rows &people) {
          return each(people, [](Row &person) { person.with(&Row::stredisko, 999); });
