@@ -97,8 +97,8 @@ bool PreviewCopy::keepBaseline(const PreviewTable &table)
     const QString name = SqlSession::name(table.name);
     const QString copy = baselineName(m_schema) + QLatin1Char('.') + name;
     return (m_server.run(QStringLiteral("CREATE TABLE %1 LIKE %2").arg(copy, name))
-            && m_server.run(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM %3")
-                                .arg(copy, table.columnList(), name)))
+            && m_server.run(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM %3 t")
+                                .arg(copy, table.columnList(), table.changingRows())))
         || fail(QStringLiteral("The table %1 cannot be kept for comparison").arg(table.name),
                 m_server);
 }

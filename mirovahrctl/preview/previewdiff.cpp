@@ -131,7 +131,8 @@ void PreviewDiff::compareByKey(const PreviewTable &table)
         QStringLiteral("SELECT %1, %2, b.%6 IS NULL FROM %3 a LEFT JOIN %4 b ON %5 WHERE b.%6 IS "
                        "NULL OR NOT (%7) ORDER BY %8")
             .arg(table.expressions(QStringLiteral("a")), table.expressions(QStringLiteral("b")),
-                 after, before, key, first, sameRow(table), order(table, QStringLiteral("a"))),
+                 table.changingRows(), before, key, first, sameRow(table),
+                 order(table, QStringLiteral("a"))),
         [&](const QStringList &row) {
             const bool isNew = row.last() == QLatin1String("1");
             add(table, isNew ? QStringList() : row.mid(count, count), row.mid(0, count));
@@ -159,7 +160,7 @@ void PreviewDiff::compareWithoutKey(const PreviewTable &table)
     };
     const QString name = SqlSession::name(table.name);
     count(PreviewCopy::baselineName(m_schema) + QLatin1Char('.') + name, -1);
-    count(name, 1);
+    count(table.changingRows(), 1);
     for (const Bag &bag : qAsConst(bags)) {
         for (qint64 i = bag.surplus; i < 0; ++i)
             add(table, bag.row, {});

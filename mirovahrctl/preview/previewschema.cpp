@@ -104,6 +104,13 @@ QString PreviewTable::expressions(const QString &owner) const
     return expressions.join(QStringLiteral(", "));
 }
 
+QString PreviewTable::changingRows() const
+{
+    const QString table = SqlSession::name(name);
+    return changing.isEmpty() ? table
+                              : QStringLiteral("(SELECT * FROM %1 WHERE %2)").arg(table, changing);
+}
+
 QString PreviewTable::tuple(const QStringList &row) const
 {
     QStringList values;

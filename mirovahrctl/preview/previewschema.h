@@ -34,6 +34,7 @@ struct PreviewTable {
     QVector<PreviewColumn> columns; ///< without those that the server computes
     QStringList key; ///< columns that identify a row; empty: rows may repeat
     QStringList parents; ///< tables that foreign keys refer to
+    QString changing; ///< condition for the copied rows that may change; empty: all
     qint64 rowEstimate = 0;
 
     /// Position of a column; -1 when there is none.
@@ -42,6 +43,8 @@ struct PreviewTable {
     QString columnList() const;
     /// The expressions that select a row.
     QString expressions(const QString &owner) const;
+    /// The rows that may change, to be selected from: the table, or a subquery.
+    QString changingRows() const;
     /// A row as in INSERT: "(1, 'text')".
     QString tuple(const QStringList &row) const;
 };

@@ -20,6 +20,11 @@ struct Reduction {
     /// who may get another calendar group. {next}: the next uid. {day}: the first day that is
     /// calculated again when a person has moved or the balance was corrected.
     const char *rows;
+    /// Columns of every unique key, separated by blanks: with another key, an insert could hit a
+    /// row that is left out, or change one that is not compared. Empty: no such key is harmless.
+    const char *identity;
+    /// Of these, the ones that may change; all when empty. {today}: the day.
+    const char *changing = "";
 };
 
 // All other tables are copied whole: they grow with the people, not with the years.
@@ -33,13 +38,14 @@ constexpr Reduction kReductions[] = {
     // calculated, and resets those since the first day of the previous month.
     {"atten",
      "uid IN ({moving}) OR uid >= {next} OR "
-     "uid IN ({people}) AND `lock` = 0 AND (ok < 0 OR `date` >= {day})"},
+     "uid IN ({people}) AND `lock` = 0 AND (ok < 0 OR `date` >= {day})",
+     "uid"},
     // Written for the months of a person whose calendar group changes, and not read.
-    {"groups_month", "uid IN ({moving}) OR uid >= {next}"},
-    // The balance is the sum of all moves of a person.
-    {"funds_move", "uid IN ({people}) OR uid >= {next}"},
+    {"groups_month", "uid IN ({moving}) OR uid >= {next}", "uid"},
+    // The balance is the sum of all moves of a person; the plugin writes the correction of today.
+    {"funds_move", "uid IN ({people}) OR uid >= {next}", "uid day", "`day` >= {today}"},
     // The plugin adds to the queue, and does not read it.
-    {"term_sync", "FALSE"},
+    {"term_sync", "FALSE", ""},
 };
 
 /// Tables whose rows a reduced table may refer to: copied whole, and the plugin never changes what
@@ -56,7 +62,7 @@ constexpr NumberColumns kNumbers[] = {
     {"people", "uid pid"},
     {"atten", "uid date ok lock"},
     {"groups_month", "uid"},
-    {"funds_move", "uid"},
+    {"funds_move", "uid day"},
     {"branches", "number mgid"},
     {"mastergroups", "mgid"},
     {"groups", "gid parent calendarID"},
@@ -203,13 +209,17 @@ void PreviewSelection::noteNextUid(const PreviewTable &people)
         doubtAll(QStringLiteral("the server does not count people.uid"));
 }
 
-/// A row that is left out must not stand in the way of one that is written.
 void PreviewSelection::doubtKeys(const PreviewTable &table)
 {
+    const QStringList identity =
+        QString::fromLatin1(reductionOf(table.name)->identity).split(QLatin1Char(' '));
     const auto keys = uniqueKeys(table.definition);
     for (const QStringList &key : keys) {
-        const bool isOfPerson =
-            key.contains(QStringLiteral("uid")) && !key.contains(QStringLiteral("ok"));
+        const bool hasIdentity =
+            std::all_of(identity.cbegin(), identity.cend(),
+                        [&key](const QString &column) { return key.contains(column); });
+        // A calculated day must not collide with another that is reset.
+        const bool isOfPerson = hasIdentity && !key.contains(QStringLiteral("ok"));
         const bool isNumber = key.size() == 1 && isCounted(table.definition, key.first());
         if (!isOfPerson && !isNumber) {
             doubt(table.name,
@@ -309,17 +319,30 @@ quint32 PreviewSelection::numberOf(const QString &cell)
     return number;
 }
 
+bool PreviewSelection::isReduced(const QString &table) const
+{
+    return m_extent == Extent::Reached && reductionOf(table) && !m_whole.contains(table);
+}
+
 QString PreviewSelection::rowsOf(const QString &table) const
 {
-    const Reduction *const reduction = reductionOf(table);
-    if (m_extent == Extent::All || !reduction || m_whole.contains(table))
+    if (!isReduced(table))
         return QString();
     const qint64 firstDay =
         RecordDates::midnight(RecordDates::firstDayOfPreviousMonth(QDate::currentDate()));
-    QString condition = QString::fromLatin1(reduction->rows);
+    QString condition = QString::fromLatin1(reductionOf(table)->rows);
     condition.replace(QLatin1String("{people}"), listed(m_uids));
     condition.replace(QLatin1String("{moving}"), listed(m_movingUids));
     condition.replace(QLatin1String("{next}"), QString::number(m_nextUid));
     condition.replace(QLatin1String("{day}"), QString::number(firstDay));
     return condition;
+}
+
+QString PreviewSelection::changingRowsOf(const QString &table) const
+{
+    if (!isReduced(table))
+        return QString();
+    const qint64 today = RecordDates::midnight(QDate::currentDate());
+    QString condition = QString::fromLatin1(reductionOf(table)->changing);
+    return condition.replace(QLatin1String("{today}"), QString::number(today));
 }

@@ -29,6 +29,8 @@ public:
 
     /// The condition for the rows of a table that are copied; empty for all.
     QString rowsOf(const QString &table) const;
+    /// The condition for those of them that may change; empty for all.
+    QString changingRowsOf(const QString &table) const;
 
     /// Why tables are copied with rows that would be left out otherwise: sentences without their
     /// full stops.
@@ -46,6 +48,7 @@ private:
     void doubtAll(const QString &reason);
     void note(const QString &doubt);
 
+    bool isReduced(const QString &table) const;
     void readPeople(SqlSession &site);
     void readMoving(SqlSession &site);
     quint32 numberOf(const QString &cell);

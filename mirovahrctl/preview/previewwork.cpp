@@ -86,6 +86,8 @@ std::optional<PreviewRefusal> PreviewWork::copyFrom(SqlSession &site)
     PreviewSelection selection(m_schema, m_people, m_extent);
     selection.read(site);
     m_doubts = selection.doubts();
+    for (PreviewTable &table : m_schema.tables)
+        table.changing = selection.changingRowsOf(table.name);
     Progress progress(m_console, QStringLiteral("Copying the database"));
     PreviewCopy copy(m_schema, selection, m_server.administrator());
     if (copy.copyTables(site, [&](qint64 done, qint64 total) { progress.update(done, total); })

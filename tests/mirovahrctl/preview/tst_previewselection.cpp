@@ -166,6 +166,10 @@ void TestPreviewSelection::whatCouldReachOtherRowsHasAllRowsCopied_data()
         << "ALTER TABLE atten ADD UNIQUE KEY (uid, `date`, ok)"
         << ""
         << "All rows of atten were copied, because it has the unique key uid, date, ok";
+    QTest::newRow("a key without the day")
+        << "ALTER TABLE funds_move ADD UNIQUE KEY (uid, fid, value)"
+        << ""
+        << "All rows of funds_move were copied, because it has the unique key uid, fid, value";
     QTest::newRow("a table that refers to it")
         << "ALTER TABLE groups_plan ADD FOREIGN KEY (uid) REFERENCES atten (uid)"
         << ""
