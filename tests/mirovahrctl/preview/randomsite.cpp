@@ -54,7 +54,6 @@ void RandomSite::fill(TestDatabase &db, Programs programs)
     fillRelations(db);
     fillAttendance(db);
     fillYears(db);
-    fillLeftBehind(db);
     fillSettings(db);
     if (chance(40) && programs == Programs::Some)
         addRoutinesAndTriggers(db);
@@ -178,7 +177,6 @@ void RandomSite::fillYears(TestDatabase &db)
         db.run("REPLACE INTO atten VALUES " + days.join(", "));
 }
 
-/// Rows of uids that nobody has, or that the next people get.
 void RandomSite::fillLeftBehind(TestDatabase &db)
 {
     const int next = db.value("SELECT AUTO_INCREMENT FROM information_schema.TABLES WHERE "

@@ -26,6 +26,9 @@ public:
 
     /// Fills the database, which holds the sample data, with more, and changes what is there.
     void fill(TestDatabase &db, Programs programs = Programs::Some);
+    /// Adds rows of uids that nobody has, or that the next people get.
+    void fillLeftBehind(TestDatabase &db);
+
     /// Whether texts of an export may break the statements that they get into.
     enum class Texts { Any, Harmless };
 
@@ -47,7 +50,6 @@ private:
     void fillRelations(TestDatabase &db);
     void fillAttendance(TestDatabase &db);
     void fillYears(TestDatabase &db);
-    void fillLeftBehind(TestDatabase &db);
     void fillSettings(TestDatabase &db);
     void addRoutinesAndTriggers(TestDatabase &db);
     QString text();

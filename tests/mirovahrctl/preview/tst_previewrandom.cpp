@@ -136,6 +136,7 @@ void TestPreviewRandom::thePredictionIsWhatHappens()
     m_begin = QDateTime::currentSecsSinceEpoch();
     site.reset();
     random.fill(site);
+    random.fillLeftBehind(site);
     m_bench.writeIni(random.ini());
     keep();
     for (int i = 0; i < kExports && !QTest::currentTestFailed(); ++i) {
