@@ -1,4 +1,5 @@
 #include "cli/connectionfile.h"
+#include "mirovahrctl/log/logtext.h"
 #include "mirovahrctl/subcommand.h"
 #include "plugin/configuration.h"
 #include "tests/docs/markdown.h"
@@ -18,21 +19,60 @@ namespace {
 const QString kOperations = QStringLiteral("docs/operations.md");
 const QString kReadme = QStringLiteral("README.md");
 
-/// The levels of a row of the log tables: "info 1 or debug 2", "info 1, critical".
-QSet<QString> levels(const QStringList &row)
+/// The levels of a log text: "info 1 or debug 2", "info 1, critical".
+QSet<QString> levels(const QString &words)
 {
     static const QRegularExpression separator(" or |, ");
-    const QStringList levels = row.at(1).split(separator);
+    const QStringList levels = words.split(separator);
     return QSet<QString>(levels.cbegin(), levels.cend());
 }
 
-/// The log texts of docs/operations.md and their levels.
-QMap<QString, QSet<QString>> documentedTexts()
+/// The log texts that mirovahrctl knows, and their levels.
+QMap<QString, QSet<QString>> catalogue()
 {
     QMap<QString, QSet<QString>> texts;
-    for (const QStringList &row : Markdown::rows(kOperations, "Text"))
-        texts[Markdown::code(row.constFirst())] = levels(row);
+    for (const LogTextGroup &group : logTextGroups()) {
+        for (const LogText &text : group.texts)
+            texts[text.text] = levels(text.level);
+    }
     return texts;
+}
+
+/// The rows of the log tables that the catalogue makes: text, level, meaning and advice.
+QVector<QStringList> catalogueRows()
+{
+    QVector<QStringList> rows;
+    for (const LogTextGroup &group : logTextGroups()) {
+        for (const LogText &text : group.texts) {
+            const QString cell =
+                QString::fromUtf8(text.meaning) + ' ' + QString::fromUtf8(text.advice);
+            rows << QStringList{text.text, text.level, cell.trimmed()};
+        }
+    }
+    return rows;
+}
+
+/// Those of docs/operations.md, without the marks of code.
+QVector<QStringList> documentedRows()
+{
+    QVector<QStringList> rows;
+    for (const QStringList &row : Markdown::rows(kOperations, "Text")) {
+        QString cell = row.at(2);
+        rows << QStringList{Markdown::code(row.at(0)), row.at(1), cell.remove('`')};
+    }
+    return rows;
+}
+
+/// The headings in front of the log tables of docs/operations.md.
+QStringList documentedHeadings()
+{
+    static const QRegularExpression heading("^### ([^\n]+)\n(?:(?!#)[^\n]*\n)*?\\| Text \\|",
+                                            QRegularExpression::MultilineOption);
+    QStringList headings;
+    auto matches = heading.globalMatch(Markdown::text(kOperations));
+    while (matches.hasNext())
+        headings << matches.next().captured(1);
+    return headings;
 }
 
 /// The keys that the plugin's own code reads, in its order; group MES as the documents name it.
@@ -91,10 +131,11 @@ class TestDocuments : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyLogTextIsDocumentedWithItsLevel();
-    void everyTextThatReachesTheLogThroughAFunctionIsDocumented();
-    void everyDocumentedLogTextIsInTheCode();
-    void everyDocumentedLogTextSaysWhatToDo();
+    void everyLogTextIsKnownWithItsLevel();
+    void everyTextThatReachesTheLogThroughAFunctionIsKnown();
+    void everyKnownLogTextIsInTheCode();
+    void everyKnownLogTextHasAMeaningAndALevel();
+    void theLogTablesAreThoseOfTheCatalogue();
     void everyKeyIsDocumentedWithItsDefault_data();
     void everyKeyIsDocumentedWithItsDefault();
     void everyVariableOfTheDatabaseIsDocumented_data();
@@ -108,46 +149,59 @@ private Q_SLOTS:
     void theSampleConnectionNamesEveryOption();
 };
 
-void TestDocuments::everyLogTextIsDocumentedWithItsLevel()
+void TestDocuments::everyLogTextIsKnownWithItsLevel()
 {
-    const auto documented = documentedTexts();
+    const auto known = catalogue();
     const auto logged = SourceTexts::loggedDirectly();
     QVERIFY2(logged.size() > 100, "the scan of the sources finds too little");
     for (auto it = logged.cbegin(); it != logged.cend(); ++it) {
-        QVERIFY2(documented.contains(it.key()), qPrintable(it.key()));
-        QVERIFY2(documented.value(it.key()) == it.value(),
+        QVERIFY2(known.contains(it.key()), qPrintable(it.key()));
+        QVERIFY2(known.value(it.key()) == it.value(),
                  qPrintable(it.key() + ": " + it.value().values().join(", ")));
     }
 }
 
-void TestDocuments::everyTextThatReachesTheLogThroughAFunctionIsDocumented()
+void TestDocuments::everyTextThatReachesTheLogThroughAFunctionIsKnown()
 {
-    const auto documented = documentedTexts();
+    const auto known = catalogue();
     const QSet<QString> texts = SourceTexts::handedOn();
     QVERIFY2(texts.size() > 60, "the scan of the sources finds too little");
     for (const QString &text : texts)
-        QVERIFY2(documented.contains(text), qPrintable(text));
+        QVERIFY2(known.contains(text), qPrintable(text));
 }
 
-void TestDocuments::everyDocumentedLogTextIsInTheCode()
+void TestDocuments::everyKnownLogTextIsInTheCode()
 {
     const QStringList logged = SourceTexts::loggedDirectly().keys();
-    const QStringList documented = documentedTexts().keys();
-    const QSet<QString> unknown = QSet<QString>(documented.cbegin(), documented.cend())
+    const QStringList known = catalogue().keys();
+    const QSet<QString> unknown = QSet<QString>(known.cbegin(), known.cend())
         - QSet<QString>(logged.cbegin(), logged.cend()) - SourceTexts::handedOn();
     QVERIFY2(unknown.isEmpty(), qPrintable(lines(unknown)));
 }
 
-void TestDocuments::everyDocumentedLogTextSaysWhatToDo()
+void TestDocuments::everyKnownLogTextHasAMeaningAndALevel()
 {
-    for (const QStringList &row : Markdown::rows(kOperations, "Text")) {
-        QVERIFY2(row.size() == 3 && !row.at(2).isEmpty(), qPrintable(row.join(" | ")));
-        for (const QString &level : levels(row)) {
-            static const QRegularExpression known(
-                "^((debug|info|warning) [123]|warning|critical)$");
-            QVERIFY2(level.contains(known), qPrintable(row.join(" | ")));
-        }
+    static const QRegularExpression sentence("[.?]$");
+    static const QRegularExpression level("^((debug|info|warning) [123]|warning|critical)$");
+    for (const QStringList &row : catalogueRows()) {
+        QVERIFY2(row.at(2).contains(sentence), qPrintable(row.join(" | ")));
+        for (const QString &one : levels(row.at(1)))
+            QVERIFY2(one.contains(level), qPrintable(row.join(" | ")));
     }
+}
+
+void TestDocuments::theLogTablesAreThoseOfTheCatalogue()
+{
+    QStringList headings;
+    for (const LogTextGroup &group : logTextGroups())
+        headings << group.heading;
+    QCOMPARE(documentedHeadings(), headings);
+
+    const QVector<QStringList> expected = catalogueRows();
+    const QVector<QStringList> actual = documentedRows();
+    for (int i = 0; i < expected.size(); ++i)
+        QCOMPARE(actual.value(i), expected.at(i));
+    QCOMPARE(actual.size(), expected.size());
 }
 
 void TestDocuments::everyKeyIsDocumentedWithItsDefault_data()

@@ -1,0 +1,182 @@
+// The texts of the repositories, which other components of the server log, too.
+
+#include "mirovahrctl/log/logtextgroups.h"
+
+#include <iterator>
+
+namespace {
+
+constexpr LogText kSettings[] = {
+    {"variableSet ERROR:", "critical", Form::MessageFollows,
+     "A setting (force flag, selection) was not written. The force flag stays: the next tick is "
+     "forced again.",
+     "Mend the cause; a new person who is not in the selection is to be entered by hand."},
+    {"TepDbSettings::variableGet - SQL ERROR:", "critical", Form::MessageFollows,
+     "A setting was not read; the force flag counts as not set.", "If it goes on, mend the cause."},
+    {"TepDbSettings::variableGetMultiple - SQL ERROR:", "critical", Form::MessageFollows,
+     "The payroll exports were not read: new people join none.", "Enter the pids by hand."},
+    {"TepDbSettings::variableDel - SQL ERROR:", "critical", Form::MessageFollows,
+     "A setting was not deleted (other components).", "Repeat what deleted it."},
+    {"TepDbSettings Database Error:", "critical", Form::Whole,
+     "The connection of the settings could not be opened (other components).",
+     "If it goes on: is the database server up, the password right?"},
+};
+
+constexpr LogText kBranchMembersTerminalsAdministrators[] = {
+    {"BranchesRepository::addPeopleToBranch",
+     "info 1, critical",
+     Form::BranchOperation,
+     "People (uids) join a branch; with an error, they did not.",
+     "After an error: provide the export again, and force.",
+     {},
+     Event::RecordsOver},
+    {"BranchesRepository::slotAddedPeopleToBranch",
+     "info 1",
+     Form::BranchOperation,
+     "People have joined a branch; its terminals and administrators follow.",
+     "",
+     {},
+     Event::Joined},
+    {"BranchesRepository::slotAddedPeopleToBranch() - AddPeopleToTerms() FAILED!", "warning",
+     Form::Whole, "Not all terminals of the branch got its new people. Also after a removal.",
+     "See the error above, and add them by hand."},
+    {"BranchesRepository::slotAddedPeopleToBranch() - AddPeopleToAdmins() FAILED!", "warning",
+     Form::Whole, "Not all administrators of the branch got its new people. Also after a removal.",
+     "See the error above, and add them by hand."},
+    {"BranchesRepository::getTids4Branch", "info 1, critical", Form::BranchOperation,
+     "The terminals of a branch; with an error, they could not be looked up, and people are not "
+     "added to them.",
+     "After an error: add them by hand."},
+    {"BranchesRepository::getAids4Branch", "info 1, critical", Form::BranchOperation,
+     "The administrators of a branch; with an error, they could not be looked up, and people are "
+     "not given to them. An error may come from those of a person as well.",
+     "After an error: add them by hand."},
+    {"BranchesRepository::getUids4Branch", "info 1, critical", Form::BranchOperation,
+     "The people of a branch; with an error, they could not be looked up (other components).",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::getAids4Uid", "info 1", Form::BranchOperation,
+     "The administrators of a person."},
+    {"BranchesRepository::AddPeopleToTerm", "critical", Form::BranchOperation,
+     "People were not added to a terminal.", "Add them by hand."},
+    {"BranchesRepository::AddPeopleToAdmins", "critical", Form::BranchOperation,
+     "People were not given to administrators.", "Add them by hand."},
+    {"BranchesRepository::delPeopleFromBranch", "info 1, critical", Form::BranchOperation,
+     "People leave a branch (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::slotDeletedPeopleFromBranch", "info 1", Form::BranchOperation,
+     "People have left a branch, and leave its terminals and administrators."},
+    {"BranchesRepository::deletePeopleFromTerms", "info 1", Form::BranchOperation,
+     "People leave the terminals of a branch."},
+    {"BranchesRepository::deletePeopleFromTerm", "info 1, critical", Form::BranchOperation,
+     "People leave a terminal (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::deletePeopleFromAdmins", "info 1", Form::BranchOperation,
+     "People are taken from the administrators of a branch."},
+    {"BranchesRepository::deletePeopleFromAdmin", "info 1, critical", Form::BranchOperation,
+     "People are taken from an administrator (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::deletePeopleFromAdmin(aid: %u, uid: %u)", "info 1", Form::Whole,
+     "One person is taken from one administrator."},
+    {"BranchesRepository::addBranchToTerms", "info 1, critical", Form::BranchOperation,
+     "Terminals join a branch (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::slotAddedBranchToTerms", "info 1", Form::BranchOperation,
+     "Terminals have joined a branch, and get its people."},
+    {"BranchesRepository::delBranchFromTerms", "info 1, critical", Form::BranchOperation,
+     "Terminals leave a branch (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::slotDeletedBranchFromTerms", "info 1", Form::BranchOperation,
+     "Terminals have left a branch, and lose its people."},
+    {"BranchesRepository::addAdminsToBranch", "info 1, critical", Form::BranchOperation,
+     "Administrators join a branch (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::slotAddedAdminsToBranch", "info 1", Form::BranchOperation,
+     "Administrators have joined a branch, and get its people."},
+    {"BranchesRepository::delAdminsFromBranch", "info 1, critical", Form::BranchOperation,
+     "Administrators leave a branch (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::slotDeletedAdminsFromBranch", "info 1", Form::BranchOperation,
+     "Administrators have left a branch, and lose its people."},
+    {"BranchesRepository::addSectionsToBranch", "info 1, critical", Form::BranchOperation,
+     "Sections join a branch (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::delSectionsFromBranch", "info 1", Form::BranchOperation,
+     "Sections leave a branch."},
+    {"BranchesRepository::delSectionsFromBranch [bas]", "critical", Form::BranchOperation,
+     "The attributes of sections that leave a branch stayed (other components).",
+     "Repeat the operation."},
+    {"BranchesRepository::delSectionsFromBranch [sec_branch]", "critical", Form::BranchOperation,
+     "Sections stayed in a branch (other components).", "Repeat the operation."},
+    {"BranchesRepository::addBranch", "critical", Form::BranchOperation,
+     "A branch was not created (other components).", "Repeat the operation."},
+    {"BranchesRepository::addBranch() -  branch name can not be empty!", "warning", Form::Whole,
+     "A branch without a name was not created (other components).", "Give it a name."},
+    {"BranchesRepository::updateBranch", "critical", Form::BranchOperation,
+     "A branch was not changed (other components).", "Repeat the operation."},
+    {"BranchesRepository::addBAS", "info 1, critical", Form::TripleOperation,
+     "Attributes of sections are set (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+    {"BranchesRepository::deleteBAS", "info 1, critical", Form::TripleOperation,
+     "Attributes of sections are removed (other components); with an error, that failed.",
+     "After an error: repeat the operation."},
+};
+
+constexpr LogText kTerminalQueue[] = {
+    {"TermSyncRepository::addTermSyncPeople() ERROR:", "critical", Form::MessageFollows,
+     "People, or interval types, were not queued for a terminal.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::setTermSyn() ERROR:", "critical", Form::MessageFollows,
+     "The change is queued, but the terminal was not notified.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::addTermSyncPerson() ERROR:", "critical", Form::MessageFollows,
+     "A person was not queued.", "Let the attendance system send the change again."},
+    {"TermSyncRepository::addTermSyncPerson() - updateTermsSync() FAILED! ERROR:", "critical",
+     Form::MessageFollows, "The change is queued, but the terminals were not notified.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::addTermSyncInter() ERROR:", "critical", Form::MessageFollows,
+     "An interval type was not queued.", "Let the attendance system send the change again."},
+    {"TermSyncRepository::addTermSyncInter() - updateTermsSync() FAILED! ERROR:", "critical",
+     Form::MessageFollows, "The change is queued, but the terminals were not notified.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::addTermSyncTimezone() ERROR:", "critical", Form::MessageFollows,
+     "A time zone of a terminal was not queued.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::addTermSyncTimezone() - update terminals FAILED! ERROR:", "critical",
+     Form::MessageFollows, "The change is queued, but the terminals were not notified.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::addTermSyncPZT() ERROR:", "critical", Form::MessageFollows,
+     "A person's time zone was not queued.", "Let the attendance system send the change again."},
+    {"TermSyncRepository::addTermSyncPZT() - update terminals FAILED! ERROR:", "critical",
+     Form::MessageFollows, "The change is queued, but the terminal was not notified.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::addColorGroup() ERROR:", "critical", Form::MessageFollows,
+     "A person's colour group was not queued.", "Let the attendance system send the change again."},
+    {"TermSyncRepository::addColorGroup() - INSERT INTO `term_sync` FAILED! ERROR:", "critical",
+     Form::MessageFollows, "The colour groups of several people were not queued.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::addColorGroupsToTermSync() - INSERT INTO `term_sync` FAILED! ERROR:",
+     "critical", Form::MessageFollows, "The colour groups were not queued.",
+     "Let the attendance system send the change again."},
+    {"TermSyncRepository::addColorGroupsToTermSync() - Update `term` FAILED! ERROR:", "critical",
+     Form::MessageFollows, "The terminals were not notified of the colour groups.",
+     "Let the attendance system send the change again."},
+};
+
+} // namespace
+
+LogTextGroup LogTextGroups::settings()
+{
+    return {"Settings", {std::begin(kSettings), std::end(kSettings)}};
+}
+
+LogTextGroup LogTextGroups::branchMembersTerminalsAdministrators()
+{
+    return {"Branch members, terminals, administrators",
+            {std::begin(kBranchMembersTerminalsAdministrators),
+             std::end(kBranchMembersTerminalsAdministrators)}};
+}
+
+LogTextGroup LogTextGroups::terminalQueue()
+{
+    return {"Terminal queue", {std::begin(kTerminalQueue), std::end(kTerminalQueue)}};
+}
