@@ -21,6 +21,8 @@ ExitStatus runExplain(const QStringList &arguments, Console &console);
 ExitStatus runForce(const QStringList &arguments, Console &console);
 /// Publishes HR's file for the plugin, or refuses it.
 ExitStatus runGate(const QStringList &arguments, Console &console);
+/// Reports what the attendance server's log says of the plugin's work.
+ExitStatus runLog(const QStringList &arguments, Console &console);
 /// Reports what a synchronisation would change, by running it on a copy of the database.
 ExitStatus runPreview(const QStringList &arguments, Console &console);
 /// Lists the rules of the other subcommands.
@@ -104,6 +106,7 @@ const QVector<Subcommand> &subcommands()
         {"gate", "Publish HR's file for the plugin, or hold it back", runGate},
         {"force", "Make the plugin synchronise everybody at its next tick", runForce},
         {"status", "Show what is known of the plugin's work, for people and monitoring", runStatus},
+        {"log", "Show what the attendance server's log says of the plugin's work", runLog},
         {"rules", "List the rules behind the findings, or explain one", runRules},
     };
     return all;

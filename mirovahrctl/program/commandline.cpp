@@ -39,6 +39,12 @@ void CommandLine::addOptionalArgument(const char *name, const char *description)
     m_parser.addPositionalArgument(m_optional.constLast(), text(description));
 }
 
+void CommandLine::addRepeatedArgument(const char *name, const char *description)
+{
+    m_repeated = text(name).toUpper();
+    m_parser.addPositionalArgument(m_repeated, text(description));
+}
+
 void CommandLine::addFlag(const char *name, const char *description)
 {
     m_parser.addOption({text(name), text(description)});
@@ -104,6 +110,11 @@ QString CommandLine::argument(int position) const
     return m_parser.positionalArguments().value(position);
 }
 
+QStringList CommandLine::arguments() const
+{
+    return m_parser.positionalArguments();
+}
+
 QString CommandLine::pagePath() const
 {
     return m_offersPage ? value("html") : QString();
@@ -133,6 +144,8 @@ QString CommandLine::usage() const
         usage += QLatin1Char(' ') + name;
     for (const QString &name : m_optional)
         usage += QStringLiteral(" [%1]").arg(name);
+    if (!m_repeated.isEmpty())
+        usage += QStringLiteral(" [%1...]").arg(m_repeated);
     return usage;
 }
 
@@ -150,7 +163,7 @@ QString CommandLine::argumentError() const
     const int count = m_parser.positionalArguments().size();
     if (count < m_required.size())
         return QStringLiteral("Missing argument %1; see --help").arg(m_required.at(count));
-    if (count > m_required.size() + m_optional.size()) {
+    if (m_repeated.isEmpty() && count > m_required.size() + m_optional.size()) {
         return QStringLiteral("Unexpected argument '%1'")
             .arg(argument(m_required.size() + m_optional.size()));
     }

@@ -30,6 +30,8 @@ public:
     void addArgument(const char *name, const char *description);
     /// An optional argument, after all required ones.
     void addOptionalArgument(const char *name, const char *description);
+    /// An argument that may be missing and may be given several times, after all others.
+    void addRepeatedArgument(const char *name, const char *description);
     /// An option without a value.
     void addFlag(const char *name, const char *description);
     /// An option with a value.
@@ -51,6 +53,8 @@ public:
     QString value(const char *option) const;
     /// An argument by its position; empty when it was not given.
     QString argument(int position) const;
+    /// All arguments.
+    QStringList arguments() const;
     /// The parser itself, for what this class does not offer.
     const QCommandLineParser &parser() const { return m_parser; }
 
@@ -71,6 +75,7 @@ private:
     QString m_description;
     QStringList m_required;
     QStringList m_optional;
+    QString m_repeated; ///< empty when there is none
     bool m_offersPage = false;
     QCommandLineParser m_parser;
 };

@@ -7,6 +7,7 @@
 #include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/rules/forcerules.h"
 #include "mirovahrctl/report/rules/gaterules.h"
+#include "mirovahrctl/report/rules/logrules.h"
 #include "mirovahrctl/report/rules/previewrules.h"
 #include "mirovahrctl/report/rules/statusrules.h"
 
@@ -33,6 +34,7 @@ const QVector<RuleGroup> &ruleGroups()
         {"gate", listOf(GateRules::kAll)},
         {"force", listOf(ForceRules::kAll)},
         {"status", listOf(StatusRules::kAll)},
+        {"log", listOf(LogRules::kAll)},
     };
     return groups;
 }

@@ -1,0 +1,173 @@
+#include "mirovahrctl/log/loghistorybuilder.h"
+#include "mirovahrctl/log/logreport.h"
+#include "mirovahrctl/log/logsource.h"
+#include "mirovahrctl/program/commandline.h"
+#include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/report.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+constexpr char kDescription[] =
+    "Shows what the log of the attendance server says of the plugin's work: for each\n"
+    "synchronisation when it ran, how long, and what it did; then every warning and error\n"
+    "with what it means, whom it concerns, what was lost and what to do; and what is missing.\n"
+    "Whatever stands before the plugin's texts is allowed, and so are lines of others. Reads\n"
+    "files, also those that gzip, xz or zstd has compressed, and without one standard input.";
+
+/// So many synchronisations are shown without --last.
+constexpr int kMostShown = 50;
+
+/// A time is looked for in so many lines.
+constexpr int kLinesWithTime = 1000;
+
+constexpr int kSecondsPerMinute = 60;
+constexpr int kSecondsPerHour = 60 * kSecondsPerMinute;
+constexpr int kSecondsPerDay = 24 * kSecondsPerHour;
+
+/// The time that "2026-11-22", "2026-11-22 18:00" or "12h" names; invalid for other texts.
+QDateTime pointInTime(const QString &text, const QDateTime &now)
+{
+    static const QRegularExpression span(QStringLiteral("^(\\d{1,8})(min|h|d)$"));
+    const QRegularExpressionMatch match = span.match(text);
+    if (!match.hasMatch())
+        return QDateTime::fromString(QString(text).replace(QLatin1Char(' '), QLatin1Char('T')),
+                                     Qt::ISODate);
+    const QString unit = match.captured(2);
+    const int seconds = unit == QLatin1String("d") ? kSecondsPerDay
+        : unit == QLatin1String("h")               ? kSecondsPerHour
+                                                   : kSecondsPerMinute;
+    return now.addSecs(-match.captured(1).toLongLong() * seconds);
+}
+
+class LogRun {
+public:
+    LogRun(const CommandLine &line, Report &report, Console &console)
+        : m_line(line)
+        , m_console(console)
+        , m_report(report)
+        , m_now(QDateTime::currentDateTime())
+        , m_history(m_now)
+    {
+    }
+
+    ExitStatus run();
+
+private:
+    std::optional<ExitStatus> readOptions();
+    std::optional<ExitStatus> readLogs();
+    QStringList paths() const;
+    std::optional<QDateTime> firstTime(const QString &path) const;
+
+    const CommandLine &m_line;
+    Console &m_console;
+    Report &m_report;
+    const QDateTime m_now;
+    int m_last = 0; ///< 0: all
+    LogHistoryBuilder m_history;
+};
+
+ExitStatus LogRun::run()
+{
+    if (const auto end = readOptions())
+        return *end;
+    if (const auto end = readLogs())
+        return *end;
+    LogHistory history = m_history.finish();
+    if (m_line.isSet("since") && history.lines > 0 && !history.hasTimes) {
+        return m_console.fail(
+            ExitStatus::Usage,
+            QStringLiteral("The plugin's lines have no times, which --since needs"));
+    }
+    if (m_last > 0)
+        history.keepLast(m_last);
+    m_report.begin(m_line.subcommand(), QStringLiteral("What the log says of the plugin's work"));
+    LogReport report(history, m_last > 0 ? m_last : kMostShown, m_report);
+    report.write();
+    return m_report.conclude(report.verdict());
+}
+
+std::optional<ExitStatus> LogRun::readOptions()
+{
+    if (m_line.isSet("since")) {
+        const QDateTime since = pointInTime(m_line.value("since"), m_now);
+        if (!since.isValid()) {
+            return m_console.fail(ExitStatus::Usage,
+                                  QStringLiteral("--since takes a time such as 2026-11-22, "
+                                                 "2026-11-22T18:00, 90min, 12h or 7d"));
+        }
+        m_history.setSince(since);
+    }
+    if (m_line.isSet("last")) {
+        bool isNumber = false;
+        m_last = m_line.value("last").toInt(&isNumber);
+        if (!isNumber || m_last < 1)
+            return m_console.fail(ExitStatus::Usage,
+                                  QStringLiteral("--last takes a number above 0"));
+    }
+    return std::nullopt;
+}
+
+std::optional<ExitStatus> LogRun::readLogs()
+{
+    const QStringList all = paths();
+    for (const QString &path : all) {
+        LogSource source(path);
+        const bool isRead = source.forEachLine([this](std::string_view line) {
+            m_history.take(line);
+            return true;
+        });
+        if (!isRead)
+            return m_console.fail(ExitStatus::Usage, source.errorString());
+    }
+    return std::nullopt;
+}
+
+/// The logs, the oldest one first when their lines have times: the shell names log.1 after log.
+QStringList LogRun::paths() const
+{
+    QStringList paths = m_line.arguments();
+    if (paths.isEmpty())
+        return {QString()};
+    QHash<QString, QDateTime> begins;
+    for (const QString &path : qAsConst(paths)) {
+        const auto begin = paths.size() > 1 ? firstTime(path) : std::nullopt;
+        if (!begin)
+            return paths;
+        begins.insert(path, *begin);
+    }
+    std::stable_sort(paths.begin(), paths.end(), [&begins](const QString &a, const QString &b) {
+        return begins.value(a) < begins.value(b);
+    });
+    return paths;
+}
+
+std::optional<QDateTime> LogRun::firstTime(const QString &path) const
+{
+    LineTime times(m_now);
+    std::optional<QDateTime> first;
+    int lines = 0;
+    LogSource(path).forEachLine([&](std::string_view line) {
+        first = times.of(line);
+        return !first && ++lines < kLinesWithTime;
+    });
+    return first;
+}
+
+} // namespace
+
+ExitStatus runLog(const QStringList &arguments, Console &console)
+{
+    CommandLine line("log", kDescription);
+    line.addRepeatedArgument("file", "The logs. Without one, standard input is read.");
+    line.addOption("since", "time",
+                   "Leave out what was logged before: 2026-11-22, 2026-11-22T18:00, or so long ago "
+                   "as 90min, 12h or 7d.");
+    line.addOption("last", "count", "Leave out all but the last synchronisations.");
+    line.addReportOptions(CommandLine::Page::Offered);
+    return Report::run(line, arguments, console,
+                       [&](Report &report) { return LogRun(line, report, console).run(); });
+}

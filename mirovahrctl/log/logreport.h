@@ -1,0 +1,41 @@
+#pragma once
+
+#include "mirovahrctl/log/loghistory.h"
+
+#include <QString>
+
+class ReportWriter;
+struct MissingTick;
+
+/// Writes what a log says of the plugin's work.
+class LogReport {
+public:
+    /// \a most: how many synchronisations the table shows at most; the last ones.
+    LogReport(const LogHistory &history, int most, ReportWriter &report);
+
+    /// Writes the sections, findings and facts.
+    void write();
+    /// The result in one sentence.
+    QString verdict() const;
+
+private:
+    void writeSynchronisations();
+    void writeProblems();
+    void writeProblem(const LoggedProblem &problem);
+    void writeMissing();
+    void writeMissingEnds();
+    void writeMissingTicks();
+    void writeNoSynchronisation();
+    void writeUnknownLines();
+    void writeKnowledge();
+    void writeFacts();
+
+    /// A person by the payroll id or the pid of a line, with the name if the log has it.
+    QString personName(const QByteArray &id) const;
+    QString peopleNames(const QHash<QByteArray, qint64> &people) const;
+
+    const LogHistory &m_history;
+    const LoggedProblems m_problems;
+    const int m_most;
+    ReportWriter &m_report;
+};

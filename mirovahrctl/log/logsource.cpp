@@ -1,0 +1,157 @@
+#include "mirovahrctl/log/logsource.h"
+
+#include <QFile>
+#include <QProcess>
+
+#include <utility>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int kBlock = 256 * 1024;
+
+/// What a compressed file begins with, and the program that unpacks it.
+constexpr struct {
+    const char *magic;
+    const char *program;
+} kCompressions[] = {
+    {"\x1f\x8b", "zcat"},
+    {"\xfd\x37zXZ", "xzcat"},
+    {"\x28\xb5\x2f\xfd", "zstdcat"},
+};
+
+const char *programFor(const QByteArray &beginning)
+{
+    for (const auto &compression : kCompressions) {
+        if (beginning.startsWith(compression.magic))
+            return compression.program;
+    }
+    return nullptr;
+}
+
+/// The next bytes, at most a block; empty at the end of the log.
+QByteArray nextBlock(QIODevice &device)
+{
+    QByteArray block = device.read(kBlock);
+    auto *const process = qobject_cast<QProcess *>(&device);
+    while (process != nullptr && block.isEmpty() && process->waitForReadyRead(-1))
+        block = device.read(kBlock);
+    return block;
+}
+
+/// Cuts blocks of bytes into lines.
+class LineCutter {
+public:
+    explicit LineCutter(const LogSource::Visitor &visit)
+        : m_visit(visit)
+    {
+    }
+
+    /// False when the visitor does not want to go on.
+    bool take(std::string_view block)
+    {
+        size_t end = 0;
+        while ((end = block.find('\n')) != std::string_view::npos) {
+            if (!endLine(block.substr(0, end)))
+                return false;
+            block.remove_prefix(end + 1);
+        }
+        keep(block);
+        return true;
+    }
+
+    /// Visits the last line, which may have no line feed.
+    void finish()
+    {
+        if (!m_rest.empty())
+            endLine({});
+    }
+
+private:
+    void keep(std::string_view part)
+    {
+        m_rest.append(part.substr(0, LogSource::kLongestLine - m_rest.size()));
+    }
+
+    bool endLine(std::string_view line)
+    {
+        if (m_rest.empty())
+            return m_visit(line.substr(0, LogSource::kLongestLine));
+        keep(line);
+        const bool goesOn = m_visit(m_rest);
+        m_rest.clear();
+        return goesOn;
+    }
+
+    const LogSource::Visitor &m_visit;
+    std::string m_rest; ///< the beginning of a line that has not ended
+};
+
+} // namespace
+
+LogSource::LogSource(QString path)
+    : m_path(std::move(path))
+{
+}
+
+bool LogSource::forEachLine(const Visitor &visit)
+{
+    const std::unique_ptr<QIODevice> device = open();
+    if (!device)
+        return false;
+    LineCutter lines(visit);
+    for (QByteArray block = nextBlock(*device); !block.isEmpty(); block = nextBlock(*device)) {
+        if (!lines.take({block.constData(), size_t(block.size())}))
+            return true;
+    }
+    lines.finish();
+    return finish(*device);
+}
+
+std::unique_ptr<QIODevice> LogSource::open()
+{
+    auto file = std::make_unique<QFile>(m_path);
+    const bool isOpen = m_path.isEmpty() ? file->open(STDIN_FILENO, QIODevice::ReadOnly)
+                                         : file->open(QIODevice::ReadOnly);
+    if (!isOpen) {
+        fail(file->errorString());
+        return nullptr;
+    }
+    const char *const program = m_path.isEmpty() ? nullptr : programFor(file->peek(6));
+    return program == nullptr ? std::move(file) : decompress(program);
+}
+
+std::unique_ptr<QIODevice> LogSource::decompress(const char *program)
+{
+    auto process = std::make_unique<QProcess>();
+    process->setStandardInputFile(m_path);
+    process->start(QString::fromLatin1(program), QStringList(), QIODevice::ReadOnly);
+    if (!process->waitForStarted(-1)) {
+        fail(QStringLiteral("%1, which unpacks it, cannot be started: %2")
+                 .arg(QLatin1String(program), process->errorString()));
+        return nullptr;
+    }
+    return process;
+}
+
+bool LogSource::finish(QIODevice &device)
+{
+    if (auto *const process = qobject_cast<QProcess *>(&device)) {
+        process->waitForFinished(-1);
+        if (process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0)
+            return true;
+        return fail(QStringLiteral("it cannot be unpacked: ")
+                    + QString::fromLocal8Bit(process->readAllStandardError()).trimmed());
+    }
+    const auto &file = static_cast<const QFile &>(device);
+    return file.error() == QFileDevice::NoError || fail(file.errorString());
+}
+
+bool LogSource::fail(const QString &reason)
+{
+    m_error = m_path.isEmpty()
+        ? QStringLiteral("Standard input cannot be read: ") + reason
+        : QStringLiteral("The log '%1' cannot be read: %2").arg(m_path, reason);
+    return false;
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "mirovahrctl/report/rule.h"
+
+/// The rules of log.
+namespace LogRules {
+
+inline constexpr Rule kLoggedError{
+    "logged-error", Severity::Error, "The plugin logged an error.",
+    "The finding says what was lost and what to do; docs/operations.md lists every text."};
+
+inline constexpr Rule kLoggedWarning{
+    "logged-warning", Severity::Warning,
+    "The plugin logged a warning. It is a note when nothing has to be done.",
+    "The finding says what was lost and what to do; docs/operations.md lists every text.",
+    Severity::Note};
+
+inline constexpr Rule kNoEnd{
+    "no-end", Severity::Error,
+    "A synchronisation began and did not end. It is a note when it may still be running.",
+    "Look for what ended the attendance server; then provide the export again, and force.",
+    Severity::Note};
+
+inline constexpr Rule kNoBegin{
+    "no-begin", Severity::Note,
+    "The log begins within a synchronisation: its counts are not known."};
+
+inline constexpr Rule kNoTick{
+    "no-tick", Severity::Warning, "A tick that was due did not come.",
+    "Look for what stopped the attendance server, or the machine, at that time."};
+
+inline constexpr Rule kNoSynchronisation{
+    "no-synchronisation", Severity::Warning,
+    "The log shows no synchronisation, or none when one was due.",
+    "See whether the attendance server runs with the plugin, at debug level 1 at least."};
+
+inline constexpr Rule kUnknownLine{
+    "unknown-line", Severity::Warning,
+    "Lines begin like those of the plugin, but are none that this program knows.",
+    "They are cut, or the plugin is of another version: read them yourself."};
+
+/// All of them, in the order of `mirovahrctl rules`.
+inline constexpr const Rule *kAll[] = {
+    &kLoggedError, &kLoggedWarning,     &kNoEnd,       &kNoBegin,
+    &kNoTick,      &kNoSynchronisation, &kUnknownLine,
+};
+
+} // namespace LogRules
