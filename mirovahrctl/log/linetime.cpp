@@ -65,7 +65,6 @@ std::optional<QDateTime> LineTime::of(std::string_view prefix)
 {
     prefix = prefix.substr(0, kLongestPrefix);
     const std::string_view last(m_lastText.constData(), size_t(m_lastText.size()));
-    // A further digit or sign could belong to the time.
     if (!last.empty() && prefix.substr(0, last.size()) == last)
         return m_lastTime;
     return parsed(QString::fromUtf8(prefix.data(), int(prefix.size())));
@@ -98,7 +97,9 @@ std::optional<QDateTime> LineTime::parsed(const QString &prefix)
     m_lastText.clear();
     if (!time.isValid())
         return std::nullopt;
-    m_lastText = prefix.leftRef(match.capturedEnd()).toUtf8();
+    const int second = match.capturedEnd(QStringLiteral("second"));
+    m_lastText =
+        prefix.leftRef(second > 0 ? second : match.capturedEnd(QStringLiteral("unix"))).toUtf8();
     m_lastTime = time;
     return time;
 }

@@ -24,6 +24,6 @@ private:
     std::optional<QDateTime> parsed(const QString &prefix);
 
     const QDateTime m_now;
-    QByteArray m_lastText; ///< up to the end of the last time found: many lines share it
+    QByteArray m_lastText; ///< up to the second of the last time found: many lines share it
     std::optional<QDateTime> m_lastTime;
 };

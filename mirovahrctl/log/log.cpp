@@ -50,7 +50,6 @@ public:
         , m_console(console)
         , m_report(report)
         , m_now(QDateTime::currentDateTime())
-        , m_history(m_now)
     {
     }
 
@@ -58,7 +57,7 @@ public:
 
 private:
     std::optional<ExitStatus> readOptions();
-    std::optional<ExitStatus> readLogs();
+    std::optional<ExitStatus> readLogs(LogHistoryBuilder &builder);
     QStringList paths() const;
     std::optional<QDateTime> firstTime(const QString &path) const;
 
@@ -66,18 +65,21 @@ private:
     Console &m_console;
     Report &m_report;
     const QDateTime m_now;
+    std::optional<QDateTime> m_since;
     int m_last = 0; ///< 0: all
-    LogHistoryBuilder m_history;
 };
 
 ExitStatus LogRun::run()
 {
     if (const auto end = readOptions())
         return *end;
-    if (const auto end = readLogs())
+    LogHistoryBuilder builder(m_now);
+    if (m_since)
+        builder.setSince(*m_since);
+    if (const auto end = readLogs(builder))
         return *end;
-    LogHistory history = m_history.finish();
-    if (m_line.isSet("since") && history.lines > 0 && !history.hasTimes) {
+    LogHistory history = builder.finish();
+    if (m_since && history.lines > 0 && !history.hasTimes) {
         return m_console.fail(
             ExitStatus::Usage,
             QStringLiteral("The plugin's lines have no times, which --since needs"));
@@ -99,7 +101,7 @@ std::optional<ExitStatus> LogRun::readOptions()
                                   QStringLiteral("--since takes a time such as 2026-11-22, "
                                                  "2026-11-22T18:00, 90min, 12h or 7d"));
         }
-        m_history.setSince(since);
+        m_since = since;
     }
     if (m_line.isSet("last")) {
         bool isNumber = false;
@@ -111,13 +113,13 @@ std::optional<ExitStatus> LogRun::readOptions()
     return std::nullopt;
 }
 
-std::optional<ExitStatus> LogRun::readLogs()
+std::optional<ExitStatus> LogRun::readLogs(LogHistoryBuilder &builder)
 {
     const QStringList all = paths();
     for (const QString &path : all) {
         LogSource source(path);
-        const bool isRead = source.forEachLine([this](std::string_view line) {
-            m_history.take(line);
+        const bool isRead = source.forEachLine([&builder](std::string_view line) {
+            builder.take(line);
             return true;
         });
         if (!isRead)

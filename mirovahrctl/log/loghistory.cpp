@@ -74,6 +74,7 @@ void LogHistory::keepLast(int count)
     if (synchronisations.size() <= count)
         return;
     synchronisations = synchronisations.mid(synchronisations.size() - count);
+    from = synchronisations.first().begin;
     problemsBefore.clear();
 }
 

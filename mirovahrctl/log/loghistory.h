@@ -94,6 +94,7 @@ struct LogHistory {
     LoggedProblems problemsBefore; ///< before the first synchronisation
     QVector<LoggedSynchronisation> synchronisations;
     QVector<LoggedRun> runs;
+    std::optional<QDateTime> from; ///< nothing before it matters, see keepLast()
     QHash<QByteArray, QByteArray> names; ///< of people, by payroll id and by pid
 
     /// Leaves only the last ones, and what was logged from then on.

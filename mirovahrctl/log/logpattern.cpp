@@ -141,37 +141,39 @@ LogPattern::LogPattern(const LogText &text, const QByteArray &format, Level leve
 
 LogPattern::Fit LogPattern::match(std::string_view line, LogValues &values) const
 {
-    size_t position = 0;
     for (size_t i = 0; i < m_pieces.size(); ++i) {
-        const std::string_view rest = line.substr(position);
         const std::string_view literal = view(m_pieces[i].literal);
-        if (!startsWith(rest, literal))
-            return startsWith(literal, rest) ? Fit::Cut : Fit::None;
-        position += literal.size();
-        const char kind = m_pieces[i].value;
-        if (kind == 0)
+        if (!startsWith(line, literal))
+            return startsWith(literal, line) ? Fit::Cut : Fit::None;
+        line.remove_prefix(literal.size());
+        if (m_pieces[i].value == 0)
             break;
-
-        const std::string_view next = view(m_pieces[i + 1].literal);
-        const bool isLast = m_pieces[i + 1].value == 0;
-        const std::string_view from = line.substr(position);
-        size_t length = 0;
-        if (kind != 's') {
-            length = lengthOfNumber(from, kind == 'i');
-            if (length == 0)
-                return from.empty() || from == "-" ? Fit::Cut : Fit::None;
-        } else if (isLast) {
-            // The text may itself hold what follows it.
-            if (!endsWith(from, next))
-                return Fit::Cut;
-            length = from.size() - next.size();
-        } else {
-            length = from.find(next);
-            if (length == std::string_view::npos)
-                return Fit::Cut;
-        }
-        values[i] = from.substr(0, length);
-        position += length;
+        const Fit fit = findValue(i, line, values[i]);
+        if (fit != Fit::Whole)
+            return fit;
+        line.remove_prefix(values[i].size());
     }
-    return position == line.size() ? Fit::Whole : Fit::None;
+    return line.empty() ? Fit::Whole : Fit::None;
+}
+
+LogPattern::Fit LogPattern::findValue(size_t piece, std::string_view rest,
+                                      std::string_view &value) const
+{
+    const char kind = m_pieces[piece].value;
+    if (kind != 's') {
+        value = rest.substr(0, lengthOfNumber(rest, kind == 'i'));
+        if (!value.empty())
+            return Fit::Whole;
+        return rest.empty() || rest == "-" ? Fit::Cut : Fit::None;
+    }
+    const Piece &next = m_pieces[piece + 1];
+    const std::string_view literal = view(next.literal);
+    // The last text may itself hold what follows it.
+    const size_t end = next.value != 0 ? rest.find(literal)
+        : endsWith(rest, literal)      ? rest.size() - literal.size()
+                                       : std::string_view::npos;
+    if (end == std::string_view::npos)
+        return Fit::Cut;
+    value = rest.substr(0, end);
+    return Fit::Whole;
 }

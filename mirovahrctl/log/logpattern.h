@@ -49,6 +49,8 @@ private:
     };
 
     LogPattern(const LogText &text, const QByteArray &format, Level level);
+    /// Finds the value behind a literal in the rest of the line.
+    Fit findValue(size_t piece, std::string_view rest, std::string_view &value) const;
 
     const LogText *m_text;
     Level m_level;

@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kBlock = 256 * 1024;
 
+constexpr int kLongestMagic = 6;
+
 /// What a compressed file begins with, and the program that unpacks it.
 constexpr struct {
     const char *magic;
@@ -118,8 +120,14 @@ std::unique_ptr<QIODevice> LogSource::open()
         fail(file->errorString());
         return nullptr;
     }
-    const char *const program = m_path.isEmpty() ? nullptr : programFor(file->peek(6));
-    return program == nullptr ? std::move(file) : decompress(program);
+    const char *const program = programFor(file->peek(kLongestMagic));
+    if (program == nullptr)
+        return file;
+    if (m_path.isEmpty()) {
+        fail(QStringLiteral("it is compressed; unpack it with %1").arg(QLatin1String(program)));
+        return nullptr;
+    }
+    return decompress(program);
 }
 
 std::unique_ptr<QIODevice> LogSource::decompress(const char *program)

@@ -94,6 +94,8 @@ private:
 
     void note(qint64 last, qint64 next, bool isOpen)
     {
+        if (m_history.from && last < m_history.from->toSecsSinceEpoch())
+            return;
         const qint64 gap = next - last;
         if (isMissing(gap, m_period) && isMissing(gap - busy(m_history, last, next), m_period))
             m_missing.append({m_ofSynchronisations, last, next, isOpen, m_period});

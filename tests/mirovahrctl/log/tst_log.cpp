@@ -69,6 +69,7 @@ private Q_SLOTS:
     void cutLines_data();
     void cutLines();
     void onlyTheLastAreShown();
+    void aGapBeforeTheLastDoesNotMatter();
     void onlyTheLatestAreShown_data();
     void onlyTheLatestAreShown();
     void sinceNeedsTimes();
@@ -80,6 +81,7 @@ private Q_SLOTS:
     void aMissingFileIsAFailure();
     void rotatedLogsAreReadInTheOrderOfTheirTimes();
     void standardInputIsRead();
+    void compressedStandardInputIsAFailure();
     void anyBytesAreRead();
     void everyRuleIsRaisedAndNot();
 
@@ -353,6 +355,16 @@ void TestLog::onlyTheLastAreShown()
     QCOMPARE(numbers(run), (QVector<int>{2, 3}));
 }
 
+void TestLog::aGapBeforeTheLastDoesNotMatter()
+{
+    QStringList lines;
+    int number = 0;
+    for (const char *hour : {"01", "02", "03", "06", "07", "08"})
+        lines += synchronisation(++number, hour + QString(":00"), hour + QString(":01"));
+    COMPARE_EXIT(read(lines), ExitStatus::Findings);
+    COMPARE_EXIT(read(lines, {"--last", "2"}), ExitStatus::Fine);
+}
+
 void TestLog::onlyTheLatestAreShown_data()
 {
     QTest::addColumn<QString>("since");
@@ -443,6 +455,15 @@ void TestLog::standardInputIsRead()
     COMPARE_STATUS(run, 0);
     QVERIFY2(run.output().contains("The log shows 1 synchronisation, 0 errors and 0 warnings."),
              run.report().constData());
+}
+
+void TestLog::compressedStandardInputIsAFailure()
+{
+    const QString path = write("input", "\x1f\x8b is no log");
+    ProgramRun run;
+    QVERIFY(run.run("sh", {"-c", QString("'%1' log < '%2'").arg(MIROVAHRCTL, path)}));
+    COMPARE_STATUS(run, 2);
+    QVERIFY2(run.errors().contains("unpack it with zcat"), run.report().constData());
 }
 
 void TestLog::anyBytesAreRead()
