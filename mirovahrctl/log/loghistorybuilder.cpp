@@ -101,6 +101,7 @@ void LogHistoryBuilder::take(std::string_view line)
         noteFirstTime(message.prefix);
     m_history.debugLevel = std::max(m_history.debugLevel, message.pattern->debugLevel());
     notePerson(message);
+    notePersonOfStep(message);
     noteEvent(message);
     if (message.pattern->isProblem())
         noteProblem(message);
@@ -158,6 +159,20 @@ void LogHistoryBuilder::notePerson(const LoggedText &message)
     }
 }
 
+void LogHistoryBuilder::notePersonOfStep(const LoggedText &message)
+{
+    switch (message.pattern->text().event) {
+    case Event::SupervisorBegun:
+        m_personOfStep = m_mentioned;
+        break;
+    case Event::SupervisorStep:
+    case Event::SupervisorSet:
+        break;
+    default:
+        m_personOfStep.clear();
+    }
+}
+
 QByteArray LogHistoryBuilder::personOf(std::string_view record)
 {
     const std::string_view name =
@@ -186,9 +201,12 @@ void LogHistoryBuilder::noteProblem(const LoggedText &message)
     }
     if (time)
         problem.last = time;
-    const QByteArray &person = m_mentioned.isEmpty() ? m_person : m_mentioned;
-    if (!person.isEmpty())
-        ++problem.people[person];
+    for (const QByteArray *person : {&m_mentioned, &m_personOfStep, &m_person}) {
+        if (!person->isEmpty()) {
+            ++problem.people[*person];
+            break;
+        }
+    }
 }
 
 LoggedProblems &LogHistoryBuilder::currentProblems()

@@ -23,6 +23,7 @@ private:
     void noteUnknown(const LoggedText &message);
     void noteFirstTime(std::string_view prefix);
     void notePerson(const LoggedText &message);
+    void notePersonOfStep(const LoggedText &message);
     QByteArray personOf(std::string_view record);
     void noteProblem(const LoggedText &message);
     LoggedProblems &currentProblems();
@@ -42,6 +43,7 @@ private:
     std::optional<QDateTime> m_since;
     bool m_isWithin = false; ///< the last synchronisation has not ended
     QByteArray m_person; ///< whom the lines are about; empty when that is not known
+    QByteArray m_personOfStep; ///< whose supervisor is set; empty when no supervisor is
     QByteArray m_mentioned; ///< whom the current line names; empty for nobody
     bool m_correctionPending = false; ///< the last line is about a correction that is written
     QByteArray m_lastPrefix; ///< of the last line of the plugin

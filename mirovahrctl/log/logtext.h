@@ -54,6 +54,8 @@ enum class Event {
     Correct,
     CorrectionFailed,
     NotCorrected,
+    SupervisorBegun, ///< the steps that follow are about this person
+    SupervisorStep,
     SupervisorSet,
     Joined,
 };

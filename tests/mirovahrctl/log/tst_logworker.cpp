@@ -17,6 +17,7 @@ private Q_SLOTS:
     void whoCouldNotBeWrittenDoesNotCount();
     void inTestModeNobodyIsWritten();
     void anErrorIsAboutThePersonOfItsRecord();
+    void anUnknownSupervisorIsAboutThePersonOfItsStep();
     void everyLineOfTheWorkerIsKnown_data();
     void everyLineOfTheWorkerIsKnown();
     void withoutAnExportNothingIsRead();
@@ -166,6 +167,22 @@ void TestLogWorker::anErrorIsAboutThePersonOfItsRecord()
     const QString message = errors.first()["message"].toString();
     QVERIFY2(message.contains("1234.1 Nováková Jana"), qPrintable(message));
     QVERIFY2(message.contains("error 1146"), qPrintable(message));
+}
+
+void TestLogWorker::anUnknownSupervisorIsAboutThePersonOfItsStep()
+{
+    newWorker(1);
+    using R = ExportRow;
+    const ToolRun run = read(synchronise({SampleExport::jan().with(&R::nadrizenyOsobniCislo, 4711),
+                                          SampleExport::jana().with(&R::stredisko, 999)})
+                                 .log);
+    const auto warnings = run.findingsOf("logged-warning");
+    QCOMPARE(warnings.size(), 2);
+    for (const QJsonObject &warning : warnings) {
+        const bool isSupervisor = warning["message"].toString().contains("supervisor 4711");
+        QCOMPARE(warning["subject"].toString(),
+                 QString(isSupervisor ? "1235.1" : "1234.1 Nováková Jana"));
+    }
 }
 
 void TestLogWorker::everyLineOfTheWorkerIsKnown_data()
