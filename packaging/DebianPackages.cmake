@@ -53,7 +53,7 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS
     "libqt5sql5-mysql, mount, systemd | systemd-standalone-sysusers | systemd-sysusers, systemd | systemd-standalone-tmpfiles | systemd-tmpfiles")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS
     "mirovahr-plugin (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}), mariadb-server-core, mariadb-client-core")
-set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS bash-completion)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "bash-completion, xz-utils, zstd")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA
     "${CMAKE_CURRENT_SOURCE_DIR}/tools/conffiles;${CMAKE_CURRENT_SOURCE_DIR}/tools/postinst;${CMAKE_CURRENT_SOURCE_DIR}/tools/prerm;${CMAKE_CURRENT_SOURCE_DIR}/tools/postrm")
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 
 namespace {
 
@@ -12,7 +13,7 @@ constexpr size_t kLongestName = 80;
 constexpr size_t kShortestCut = 12;
 
 /// What only the plugin's own lines begin with.
-constexpr std::string_view kWorker = "MHRWorker";
+constexpr std::string_view kOwnBeginnings[] = {"MHRWorker: ", "MHRWorker::", "MHRWorker - "};
 
 bool isLetter(char c)
 {
@@ -26,6 +27,14 @@ std::string_view nameOf(std::string_view text)
     while (end < text.size() && end < kLongestName && (isLetter(text[end]) || text[end] == ':'))
         ++end;
     return text.substr(0, end);
+}
+
+bool beginsLikeThePlugin(std::string_view text)
+{
+    return std::any_of(std::begin(kOwnBeginnings), std::end(kOwnBeginnings),
+                       [text](std::string_view beginning) {
+                           return text.substr(0, beginning.size()) == beginning;
+                       });
 }
 
 std::string_view withoutEnd(std::string_view line)
@@ -77,8 +86,7 @@ LogMatcher::Outcome LogMatcher::findAt(std::string_view text, LoggedText &messag
 {
     const std::string_view name = nameOf(text);
     const auto named = m_byName.find(std::string(name));
-    const Outcome otherwise =
-        name.substr(0, kWorker.size()) == kWorker ? Outcome::Unknown : Outcome::Foreign;
+    const Outcome otherwise = beginsLikeThePlugin(text) ? Outcome::Unknown : Outcome::Foreign;
     if (named == m_byName.end())
         return otherwise;
     message.text = text;

@@ -9,8 +9,8 @@ project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-ser
     mariadb-client-core mount util-linux)
 
 # What the tests take besides: a browser for the pages, a clock that can be moved, readers for the
-# manual pages.
-test_packages=(chromium libfaketime man-db mandoc)
+# manual pages, compressed logs.
+test_packages=(chromium libfaketime man-db mandoc xz-utils zstd)
 
 # What it takes to measure the plugin.
 bench_packages=(binutils gnuplot-nox libmariadb-dev python3 valgrind)

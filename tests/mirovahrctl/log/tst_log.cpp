@@ -152,12 +152,13 @@ void TestLog::theLinesOfOthersAreNoMatter()
     QStringList lines;
     for (const QString &line : synchronisation(1, "01:00", "01:01")) {
         lines << "Nov 22 01:00:00 host systemd[1]: Started MirovaHR attendance" << line
+              << "the key YAV.MHRWorker.forceSync, see MHRWorker"
               << "Directory of others" << QString() << "Start of Stop in the MHR";
     }
     const ToolRun run = read(lines);
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(fact(run)["pluginLines"].toInt(), 3);
-    QCOMPARE(fact(run)["lines"].toInt(), 15);
+    QCOMPARE(fact(run)["lines"].toInt(), 18);
     QCOMPARE(numbers(run), QVector<int>{1});
 }
 
