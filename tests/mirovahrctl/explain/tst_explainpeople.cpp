@@ -35,6 +35,11 @@ private:
         return ExplainedSite::table(run, "people", "people",
                                     {"person", "name", "line", "database"});
     }
+    /// Whom a run explains, as the title names the person.
+    static QString explained(const ToolRun &run)
+    {
+        return run.json().value("title").toString().remove("What happens to ");
+    }
 
     TestDatabase m_db;
     ExplainedSite m_site{m_db};
@@ -91,38 +96,38 @@ void TestExplainPeople::spellingsOfANameHaveTheSameWords()
 void TestExplainPeople::onePersonIsExplained_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("person");
     QTest::newRow("a name of the export") << "Malá"
-                                          << "What happens to 3801.1";
+                                          << "3801.1";
     QTest::newRow("another spelling") << "MALA"
-                                      << "What happens to 3801.1";
+                                      << "3801.1";
     QTest::newRow("two words in any order") << "malá  Eva"
-                                            << "What happens to 3801.1";
+                                            << "3801.1";
     QTest::newRow("a part of a double name") << "odegard"
-                                             << "What happens to 3802.1";
+                                             << "3802.1";
     QTest::newRow("a name of the database") << "žiak"
-                                            << "What happens to 1237.1";
+                                            << "1237.1";
     QTest::newRow("with a title") << "ing. Kováčová"
-                                  << "What happens to 1001.1";
+                                  << "1001.1";
     QTest::newRow("a personal number") << "3801"
-                                       << "What happens to 3801.1";
+                                       << "3801.1";
     QTest::newRow("a personal number of the database") << "2001"
-                                                       << "What happens to 2001.2";
+                                                       << "2001.2";
     QTest::newRow("a pid") << "12342"
-                           << "What happens to 1234.2";
+                           << "1234.2";
     QTest::newRow("a row with a strange payroll id") << "Szabó"
-                                                     << "What happens to pid 12351";
+                                                     << "pid 12351";
 }
 
 void TestExplainPeople::onePersonIsExplained()
 {
     QFETCH(QString, text);
-    QFETCH(QString, title);
+    QFETCH(QString, person);
     m_db.run("UPDATE people SET pamId = 'x' WHERE uid = 5");
     const ToolRun run = m_site.explain(text);
     QVERIFY2(run.status == ExitStatus::Fine || run.status == ExitStatus::Findings,
              run.report().constData());
-    QCOMPARE(run.json().value("title").toString(), title);
+    QCOMPARE(explained(run), person);
     QVERIFY(ExplainedSite::sections(run).contains("database"));
 }
 
@@ -157,10 +162,8 @@ void TestExplainPeople::severalPeopleAreListed()
     QCOMPARE(ExplainedSite::facts(run), QJsonObject({{"matches", 2}}));
     QCOMPARE(ExplainedSite::verdict(run), QString("2 people match: name one of them."));
     // Naming one of them explains this person.
-    for (const QStringList &row : rows) {
-        QCOMPARE(m_site.explain(row.first()).json().value("title").toString(),
-                 "What happens to " + row.first());
-    }
+    for (const QStringList &row : rows)
+        QCOMPARE(explained(m_site.explain(row.first())), row.first());
 }
 
 void TestExplainPeople::peopleAreListedAsHrMeantTheirNames()
@@ -238,10 +241,8 @@ void TestExplainPeople::onlyTheFirstPeopleAreListed()
 void TestExplainPeople::withoutAnExportTheDatabaseIsSearched()
 {
     m_site.exportFile().remove();
-    QCOMPARE(m_site.explain("novakova").json().value("title").toString(),
-             QString("What happens to 1234.1"));
-    QCOMPARE(m_site.explain("1234").json().value("title").toString(),
-             QString("What happens to 1234.1"));
+    QCOMPARE(explained(m_site.explain("novakova")), QString("1234.1"));
+    QCOMPARE(explained(m_site.explain("1234")), QString("1234.1"));
 }
 
 void TestExplainPeople::aDatabaseWithoutPeopleBreaksTheContract()
