@@ -29,6 +29,7 @@ private Q_SLOTS:
 private:
     QByteArray command(const QString &more = {}) const;
     void configure(const QByteArray &command);
+    static QString surname(const ToolRun &run);
 
     TestDatabase m_db;
     ExplainedSite m_site{m_db};
@@ -60,6 +61,16 @@ void TestExplainExport::configure(const QByteArray &command)
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("importFile=\"" + m_gate->target().toUtf8() + "\"\nsyncCommand=\"" + command
                + "\"\nsyncCommandRun=2\n");
+}
+
+/// The surname in the explained line.
+QString TestExplainExport::surname(const ToolRun &run)
+{
+    for (const QStringList &row : ExplainedSite::table(run, "row", "fields", {"field", "export"})) {
+        if (row.first() == "Surname")
+            return row.last();
+    }
+    return {};
 }
 
 void TestExplainExport::theGateOfACommandIsFound_data()
@@ -155,8 +166,7 @@ void TestExplainExport::anUnusableGateIsReported()
     const ToolRun run = m_site.explain("1234.1");
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(ExplainedSite::facts(run).value("exportSource").toString(), QString("none"));
-    QCOMPARE(ExplainedSite::sentences(run, "export").mid(1),
-             QStringList({sentence, "What follows uses the database only."}));
+    QCOMPARE(ExplainedSite::sentences(run, "export").value(1), sentence);
 }
 
 void TestExplainExport::theExportThatIsThereComesFirst()
@@ -165,11 +175,7 @@ void TestExplainExport::theExportThatIsThereComesFirst()
     writeFile(m_gate->target(), GatePeople::file({SampleExport::jana()}));
     const ToolRun run = m_site.explain("1234.1", {"--gate-folder", m_gate->state()});
     QCOMPARE(ExplainedSite::facts(run).value("exportSource").toString(), QString("importFile"));
-    QCOMPARE(ExplainedSite::sentences(run, "export"),
-             QStringList(
-                 {"The plugin runs its export command first, and may then find another "
-                  "file than this.",
-                  "Line 1 of " + m_gate->target() + " is about 1234.1 Jana Nováková, pid 12341."}));
+    QCOMPARE(surname(run), QString("Nováková"));
 }
 
 void TestExplainExport::aRefusalOfTheGateIsReported()
@@ -218,10 +224,7 @@ void TestExplainExport::theAdmittedFileIsExplainedAsTheGatePublishesIt()
         const ToolRun run = m_site.explain(name);
         QTEST(run.rules(), "rules");
         QCOMPARE(ExplainedSite::facts(run).value("person").toString(), person);
-        QVERIFY2(ExplainedSite::sentences(run, "export")
-                     .contains("Line 1 of " + m_gate->inState("admitted.data")
-                               + " is about 1234.1 Jana O'Hara, pid 12341."),
-                 run.report().constData());
+        QCOMPARE(surname(run), QString("O'Hara"));
     }
 }
 
