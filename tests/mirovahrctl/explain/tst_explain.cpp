@@ -333,90 +333,80 @@ void TestExplain::sentences_data()
 
     const QString notARs = "The register state 0 is not among the relationship states of the "
                            "configuration: a current one ends.";
+    const QString isARs =
+        "The register state 21 is a relationship state of the configuration: \"materská\".";
+    const QString nothingDiffers = "No field differs from the row.";
+    const QString differing = "These fields differ from the row: %1.";
+    const QString updated = "The row is updated.";
+    const QString writtenAllTheSame =
+        "The row is written all the same: the plugin does not know yet which codes of employment "
+        "type and register state it was last written with.";
+    const QString breaks =
+        "But a text of the line, reported above, breaks the statement: it fails or writes "
+        "something else.";
     const QString terminal = "The change is queued for terminal 1.";
-    add("nothing differs", jana(), "row",
-        {notARs, "No field differs from the row.",
-         "The row is written all the same: the plugin does not know yet which codes of employment "
-         "type and register state it was last written with.",
-         terminal});
+    add("nothing differs", jana(), "row", {notARs, nothingDiffers, writtenAllTheSame, terminal});
     add("two fields differ", jana().with(&R::prijmeni, "Malá").with(&R::telefon, "7"), "row",
-        {notARs, "These fields differ from the row: Surname, Telephone.", "The row is updated.",
-         terminal});
+        {notARs, differing.arg("Surname, Telephone"), updated, terminal});
     const QString inWriting =
         "The plugin compares a text in the form that the statement needs, with apostrophes and "
         "backslashes doubled. Only that makes the difference here, and the same text is written "
         "again: %1.";
     add("a text differs in writing only",
         jana().with(&R::prijmeni, "O''Hara").with(&R::telefon, "7"), "row",
-        {notARs, "These fields differ from the row: Surname, Telephone.", inWriting.arg("Surname"),
-         "The row is updated.", terminal},
+        {notARs, differing.arg("Surname, Telephone"), inWriting.arg("Surname"), updated, terminal},
         {"UPDATE people SET surname = 'O''Hara' WHERE uid = 4"});
     add("a text differs, however it is written", jana().with(&R::prijmeni, "O''Hara"), "row",
-        {notARs, "These fields differ from the row: Surname.", "The row is updated.", terminal});
+        {notARs, differing.arg("Surname"), updated, terminal});
     add("the branch differs", jana().with(&R::stredisko, 130), "row",
-        {notARs, "These fields differ from the row: Cost centre.", "The row is updated.",
-         terminal});
+        {notARs, differing.arg("Cost centre"), updated, terminal});
     add("left", jana().with(&R::datumVystupu, QDate(2025, 1, 31)), "row",
-        {notARs, "These fields differ from the row: Employed until.", "The row is updated.",
+        {notARs, differing.arg("Employed until"), updated,
          "It stays active: the plugin never deactivates people, it only writes their last day.",
          terminal});
     add("a relationship state", jana().with(&R::evidencniStav, 21), "row",
-        {"The register state 21 is a relationship state of the configuration: \"materská\".",
-         "These fields differ from the row: Relationship state from, Relationship state.",
-         "The row is updated.",
+        {isARs, differing.arg("Relationship state from, Relationship state"), updated,
          "Attendance is calculated again from " + dayFromToday(0)
              + " on, where the relationship state begins.",
          terminal},
         {"UPDATE people SET lastCalc = UNIX_TIMESTAMP() WHERE uid = 4"});
     add("a relationship state after the last calculation", jana().with(&R::evidencniStav, 21),
         "row",
-        {"The register state 21 is a relationship state of the configuration: \"materská\".",
-         "These fields differ from the row: Relationship state from, Relationship state.",
-         "The row is updated.",
+        {isARs, differing.arg("Relationship state from, Relationship state"), updated,
          "The last calculation is set to the day before " + dayFromToday(0)
              + ", where the relationship state begins.",
          terminal});
     add("no terminal", tomas(), "row",
-        {notARs, "No field differs from the row.",
-         "The row is written all the same: the plugin does not know yet which codes of employment "
-         "type and register state it was last written with.",
+        {notARs, nothingDiffers, writtenAllTheSame,
          "No active terminal that handles people holds this person, so nothing is queued."});
     add("two terminals", jana(), "row",
-        {notARs, "No field differs from the row.",
-         "The row is written all the same: the plugin does not know yet which codes of employment "
-         "type and register state it was last written with.",
+        {notARs, nothingDiffers, writtenAllTheSame,
          "The change is queued for the terminals 1 and 7."},
         {"INSERT INTO people_term (tid, uid) VALUES (7, 4), (2, 4), (5, 4)"});
     add("a text that breaks the statement", jana().with(&R::prijmeni, "O'Hara"), "row",
-        {notARs, "These fields differ from the row: Surname.", "The row is updated.", terminal,
-         "But a text of the line, reported above, breaks the statement: it fails or writes "
-         "something else."});
+        {notARs, differing.arg("Surname"), updated, terminal, breaks});
 
+    const QString created = "The person is created.";
     const auto ifItFails = [](const QString &person) {
         return "If this fails, the log says why behind \"MHRWorker::dbAddPerson(" + person
             + ") - SQL ERROR:\", and the plugin does not try again until the line changes or a "
               "synchronisation is forced.";
     };
     const QString selection = "The person joins the selection of the payroll export 1.";
+    const QString settings = "The employment type 11 means the settings 1 of the payroll export.";
     const QString later =
         "The vacation balance of a new person is corrected by a later synchronisation.";
-    add("new", newcomer(3311), "row",
-        {"The person is created.", ifItFails("3311.1"), selection,
-         "The employment type 11 means the settings 1 of the payroll export.", later});
+    add("new", newcomer(3311), "row", {created, ifItFails("3311.1"), selection, settings, later});
     add("new without settings", newcomer(3312).with(&R::typPracovnihoPomeru, 99), "row",
-        {"The person is created.", ifItFails("3312.1"), selection,
+        {created, ifItFails("3312.1"), selection,
          "The employment type 99 has no settings of the payroll export.", later});
     add("new with a text that breaks the statement", newcomer(3315).with(&R::jmeno, "E'va"), "row",
-        {"The person is created.", ifItFails("3315.1"), selection,
-         "The employment type 11 means the settings 1 of the payroll export.", later,
-         "But a text of the line, reported above, breaks the statement: it fails or writes "
-         "something else.",
+        {created, ifItFails("3315.1"), selection, settings, later, breaks,
          "The following steps find no row to write to, and warn."});
     add("comes back", newcomer(1237), "row",
         {"The line is merged into the row with the uid 7, which becomes active. Relationship "
          "state, calendar and branch of the row stay unchanged, the department becomes 1.",
-         ifItFails("1237.1"), selection,
-         "The employment type 11 means the settings 1 of the payroll export.", later});
+         ifItFails("1237.1"), selection, settings, later});
 
     add("the balance is right", jana(), "balance",
         {"No: the fund holds 17.50 days, as the export says."});
@@ -449,71 +439,64 @@ void TestExplain::sentences_data()
         "supervisor", {"Administrator 1, who has the personal number 1001, and nobody else."},
         {"UPDATE admins_people SET request = 1 WHERE uid = 4"});
 
+    const QString branch = "The cost centre 120 is branch 1, Sklad.";
+    const QString member = "The person is already a member.";
+    const QString joins =
+        "The person joins it at the end of the synchronisation, and stays in every other branch.";
+    const QString group = "The calendar 3 is group 13 there.";
+    const QString noCalendar = "The line names no calendar.";
     add("no cost centre", tomas(), "place",
         {"The line names no cost centre: neither branch nor calendar is set."});
     add("as now", jana(), "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.",
-         "The calendar 3 is group 13 there.", "It is already planned from month 202301 on."});
+        {branch, member, group, "It is already planned from month 202301 on."});
     add("another branch",
         jana().with(&R::stredisko, 130).with(&R::kalendarPlatnostOd, QDate(2025, 2, 10)), "place",
-        {"The cost centre 130 is branch 2, Predajňa.",
-         "The person joins it at the end of the synchronisation, and stays in every other branch.",
-         "This adds the terminals 4 and 5.", "It has the administrator 2.",
-         "The calendar 3 is group 23 there.", "It is planned from month 202502 on.",
+        {"The cost centre 130 is branch 2, Predajňa.", joins, "This adds the terminals 4 and 5.",
+         "It has the administrator 2.", "The calendar 3 is group 23 there.",
+         "It is planned from month 202502 on.",
          "Attendance is calculated again from 2025-02-10 on."});
     add("a calendar from tomorrow on",
         jana().with(&R::kalendar, 1).with(&R::kalendarPlatnostOd, QDate::currentDate().addDays(1)),
         "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.",
-         "The calendar 1 is group 11 there.",
+        {branch, member, "The calendar 1 is group 11 there.",
          "It is planned from month " + QDate::currentDate().addDays(1).toString("yyyyMM")
              + " on."});
     add("a calendar without a first day", jana().with(&R::kalendarPlatnostOd, ""), "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.",
-         "The calendar 3 is group 13 there.", "It is planned from month 0 on.",
+        {branch, member, group, "It is planned from month 0 on.",
          "All attendance is calculated again, because the start of the calendar is no date."});
     add("a branch without terminals and administrators", newcomer(3313).with(&R::kalendar, 0),
         "place",
-        {"The cost centre 120 is branch 1, Sklad.",
-         "The person joins it at the end of the synchronisation, and stays in every other branch.",
-         "This adds no terminals.", "It has no administrators.", "The line names no calendar."},
+        {branch, joins, "This adds no terminals.", "It has no administrators.", noCalendar},
         {"DELETE FROM term", "DELETE FROM bradm"});
     add("a member without a calendar", jana().with(&R::kalendar, 0), "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.",
-         "The line names no calendar.",
+        {branch, member, noCalendar,
          "Nothing needs to be done, but the plugin counts the record as waiting all the same."});
     const QString waits =
         "The record waits: the plugin tries it again as long as exactly this line arrives.";
     add("an unknown branch", jana().with(&R::stredisko, 999), "place", {waits});
-    add("an unknown calendar", jana().with(&R::kalendar, 77), "place",
-        {"The cost centre 120 is branch 1, Sklad.", "The person is already a member.", waits});
+    add("an unknown calendar", jana().with(&R::kalendar, 77), "place", {branch, member, waits});
 
+    const QString moved = "calendar, its start or the cost centre differ from what the plugin "
+                          "remembers (it does not know the start at first)";
+    const QString planned = "the calendar group is planned from a day on that is over";
     add("a recalculation for the place", jana(), "recalculation",
-        {"Yes, from " + previousMonth()
-         + " on, because calendar, its start or the cost centre differ from what the plugin "
-           "remembers (it does not know the start at first)."});
+        {"Yes, from " + previousMonth() + " on, because " + moved + "."});
     add("a recalculation for the balance", tomas().with(&R::dovolenaZustatek, "1"), "recalculation",
         {"Yes, from " + previousMonth() + " on, because the balance is corrected."});
     add("no recalculation", tomas(), "recalculation", {"No."});
     add("a recalculation for the calendar of somebody new",
         newcomer(3317).with(&R::kalendarPlatnostOd, QDate(2026, 1, 1)), "recalculation",
-        {"Yes, from 2026-01-01 on, because the calendar group is planned from a day on that is "
-         "over."});
+        {"Yes, from 2026-01-01 on, because " + planned + "."});
     add("a recalculation of everything", tomas().with(&R::stredisko, 120).with(&R::kalendar, 1),
-        "recalculation",
-        {"Yes, all of it, because the calendar group is planned from a day on that is over; "
-         "calendar, its start or the cost centre differ from what the plugin remembers (it does "
-         "not know the start at first)."});
+        "recalculation", {"Yes, all of it, because " + planned + "; " + moved + "."});
 
-    add("who is active", jana(), "database",
-        {"The database has the person as uid 4: 1234.1 Jana Nováková, active.",
-         "The row was created on 2019-03-25."});
+    const QString row = "The database has the person as uid 4: 1234.1 Jana Nováková, active.";
+    add("who is active", jana(), "database", {row, "The row was created on 2019-03-25."});
     add("who was changed by the plugin", jana(), "database",
-        {"The database has the person as uid 4: 1234.1 Jana Nováková, active.",
-         "The row was created on 2019-03-25. The plugin changed it last, on 2024-05-06."},
+        {row, "The row was created on 2019-03-25. The plugin changed it last, on 2024-05-06."},
         {"UPDATE people SET edited = UNIX_TIMESTAMP('2024-05-06'), editor = 0 WHERE uid = 4"});
     add("who was changed by an administrator", jana(), "database",
-        {"The database has the person as uid 4: 1234.1 Jana Nováková, active.",
+        {row,
          "It is not known when the row was created. An administrator changed it last, on "
          "2024-05-06."},
         {"UPDATE people SET created = 0, edited = UNIX_TIMESTAMP('2024-05-06'), editor = 3 WHERE"
