@@ -40,7 +40,7 @@ private:
     ExitStatus answer(SqlSession &site);
     std::optional<ExitStatus> readTexts(SqlSession &site);
     std::optional<ExitStatus> search(SqlSession &site);
-    ExitStatus explain(SqlSession &site);
+    ExitStatus explain(const SqlSession &site);
     std::optional<ExitStatus> readExport(SqlSession &site);
     bool hasExport() const { return m_source.file.source() != ExplainedExport::Source::None; }
     ExitStatus failExport(const QString &error);
@@ -139,7 +139,7 @@ std::optional<ExitStatus> ExplainRun::search(SqlSession &site)
     return m_report.conclude(verdict);
 }
 
-ExitStatus ExplainRun::explain(SqlSession &site)
+ExitStatus ExplainRun::explain(const SqlSession &site)
 {
     PluginView view;
     const auto failView = [&] {

@@ -213,8 +213,8 @@ LoggedProblems &LogHistoryBuilder::currentProblems()
 {
     if (m_history.synchronisations.isEmpty())
         return m_history.problemsBefore;
-    LoggedSynchronisation &last = m_history.synchronisations.last();
-    return m_isWithin ? last.problems : last.problemsAfter;
+    return m_isWithin ? m_history.synchronisations.last().problems
+                      : m_history.synchronisations.last().problemsAfter;
 }
 
 void LogHistoryBuilder::noteEvent(const LoggedText &message)

@@ -7,7 +7,7 @@
 namespace {
 
 /// No name is longer; a line of any bytes must not take long.
-constexpr size_t kLongestName = 80;
+constexpr size_t kLongestFunction = 80;
 
 /// A shorter beginning of a text is not taken for one.
 constexpr size_t kShortestCut = 12;
@@ -24,7 +24,7 @@ bool isLetter(char c)
 std::string_view nameOf(std::string_view text)
 {
     size_t end = 0;
-    while (end < text.size() && end < kLongestName && (isLetter(text[end]) || text[end] == ':'))
+    while (end < text.size() && end < kLongestFunction && (isLetter(text[end]) || text[end] == ':'))
         ++end;
     return text.substr(0, end);
 }
