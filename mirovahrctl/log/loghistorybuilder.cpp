@@ -305,17 +305,15 @@ LoggedRun &LogHistoryBuilder::runOf(const QVector<LoggedTick> &sofar, quint32 nu
 void LogHistoryBuilder::noteEnd(const LoggedText &message)
 {
     const auto ended = quint32(number(message.values[0]));
-    const auto &all = m_history.synchronisations;
-    if (!m_isWithin || all.last().number != ended) {
-        LoggedSynchronisation unbegun;
-        unbegun.number = ended;
-        m_history.synchronisations.append(unbegun);
-    }
-    LoggedSynchronisation &current = m_history.synchronisations.last();
+    QVector<LoggedSynchronisation> &all = m_history.synchronisations;
+    const bool hasBegun = m_isWithin && all.constLast().number == ended;
+    LoggedSynchronisation current = hasBegun ? all.takeLast() : LoggedSynchronisation();
+    current.number = ended;
     current.hasEnded = true;
     current.end = m_times.of(message.prefix);
     if (!message.values[1].empty())
         current.waiting = number(message.values[1]);
+    all.append(current);
     m_isWithin = false;
     m_person.clear();
 }

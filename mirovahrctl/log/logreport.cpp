@@ -218,7 +218,7 @@ void LogReport::writeMissingEnds()
 
 void LogReport::writeMissingTicks()
 {
-    const QVector<MissingTick> missing = missingTicks(m_history);
+    const std::vector<MissingTick> missing = missingTicks(m_history);
     for (const MissingTick &one : missing) {
         const QString what =
             one.ofSynchronisation ? QStringLiteral("synchronisation") : QStringLiteral("tick");

@@ -36,24 +36,24 @@ qint64 busy(const LogHistory &history, qint64 from, qint64 to)
 
 class Search {
 public:
-    Search(const LogHistory &history, bool ofSynchronisations)
+    Search(const LogHistory &history, bool ofSynchronisations, std::vector<MissingTick> &missing)
         : m_history(history)
         , m_ofSynchronisations(ofSynchronisations)
+        , m_missing(missing)
     {
     }
 
-    QVector<MissingTick> run()
+    void run()
     {
         QVector<qint64> periods;
         for (const LoggedRun &run : m_history.runs)
             periods += periodsOf(run);
         if (periods.size() < kLeastPeriods)
-            return {};
+            return;
         m_period = std::max(qint64(1), median(periods));
         for (const LoggedRun &run : m_history.runs)
             searchRun(run);
         searchEnd();
-        return m_missing;
     }
 
 private:
@@ -98,18 +98,21 @@ private:
             return;
         const qint64 gap = next - last;
         if (isMissing(gap, m_period) && isMissing(gap - busy(m_history, last, next), m_period))
-            m_missing.append({m_ofSynchronisations, last, next, isOpen, m_period});
+            m_missing.push_back({m_ofSynchronisations, last, next, isOpen, m_period});
     }
 
     const LogHistory &m_history;
     const bool m_ofSynchronisations;
+    std::vector<MissingTick> &m_missing;
     qint64 m_period = 0;
-    QVector<MissingTick> m_missing;
 };
 
 } // namespace
 
-QVector<MissingTick> missingTicks(const LogHistory &history)
+std::vector<MissingTick> missingTicks(const LogHistory &history)
 {
-    return Search(history, false).run() + Search(history, true).run();
+    std::vector<MissingTick> missing;
+    Search(history, false, missing).run();
+    Search(history, true, missing).run();
+    return missing;
 }

@@ -2,6 +2,8 @@
 
 #include "mirovahrctl/log/loghistory.h"
 
+#include <vector>
+
 /// A time without a tick, or without a synchronisation, although one was due.
 struct MissingTick {
     bool ofSynchronisation = false;
@@ -13,4 +15,4 @@ struct MissingTick {
 
 /// Those of a log, judged by its own usual periods: what comes too seldom to have one, or has no
 /// times, misses nothing.
-QVector<MissingTick> missingTicks(const LogHistory &history);
+std::vector<MissingTick> missingTicks(const LogHistory &history);
