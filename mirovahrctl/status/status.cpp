@@ -4,11 +4,13 @@
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/site/sitedatabase.h"
+#include "mirovahrctl/status/metrics.h"
 #include "mirovahrctl/status/nagios.h"
 #include "mirovahrctl/status/statusassessment.h"
 #include "mirovahrctl/status/statusdata.h"
 
 #include <QDateTime>
+#include <QSaveFile>
 
 namespace {
 
@@ -19,7 +21,9 @@ constexpr char kDescription[] =
     "that nothing happened. Changes nothing.\n\n"
     "With --nagios the answer is one line for a monitoring system, and the exit status\n"
     "follows that convention: 0 OK, 1 WARNING, 2 CRITICAL (also: no database), 3 UNKNOWN\n"
-    "(also: wrong usage).";
+    "(also: wrong usage).\n\n"
+    "With --metrics the same is written for a system that collects samples, also when\n"
+    "the database cannot be reached.";
 
 constexpr double kSecondsPerHour = 3600.0;
 
@@ -35,17 +39,23 @@ public:
     ExitStatus run();
 
 private:
-    std::optional<ExitStatus> prepare();
+    std::optional<ExitStatus> readOptions();
     std::optional<ExitStatus> readLimit(const char *option, std::optional<qint64> &limit);
+    std::optional<ExitStatus> readSources();
     std::optional<ExitStatus> readGate();
-    ExitStatus answer(const StatusData &data);
-    ExitStatus report(const StatusData &data, const StatusAssessment &assessment);
+    std::optional<ExitStatus> readDatabase();
+    /// The reason of a failure, a sentence without its full stop; empty without any.
+    QString writeMetrics(bool complete) const;
+    ExitStatus answer();
+    ExitStatus report();
 
     const CommandLine &m_line;
     Console &m_console;
     Report &m_report;
     AgeLimits m_limits;
     std::optional<GateStatus> m_gate;
+    std::optional<StatusData> m_data;
+    StatusAssessment m_assessment;
 };
 
 void reportTime(Report &report, const char *id, const char *label,
@@ -105,26 +115,37 @@ ExitStatus failForNagios(ExitStatus status, const QString &sentence, Console &co
 
 ExitStatus StatusRun::run()
 {
-    if (const auto end = prepare())
+    if (const auto end = readOptions())
         return *end;
-    SiteDatabase site;
-    if (const auto end = site.open(m_line, DatabaseAccess::ReadOnly, m_console))
+    const auto end = readSources();
+    const QString error = writeMetrics(!end);
+    if (end) {
+        if (!error.isEmpty())
+            m_console.warn(error);
         return *end;
-    QString error;
-    const auto data = StatusData::read(site.sql(), error);
-    return data ? answer(*data) : m_console.fail(ExitStatus::NoDatabase, error);
+    }
+    return error.isEmpty() ? answer() : m_console.fail(ExitStatus::Usage, error);
 }
 
-std::optional<ExitStatus> StatusRun::prepare()
+std::optional<ExitStatus> StatusRun::readOptions()
 {
     if (m_line.isSet("nagios") && m_line.isSet("json"))
         return m_console.fail(ExitStatus::Usage,
                               QStringLiteral("Give --nagios or --json, not both"));
     if (const auto end = readLimit("warning", m_limits.warning))
         return end;
-    if (const auto end = readLimit("critical", m_limits.critical))
+    return readLimit("critical", m_limits.critical);
+}
+
+std::optional<ExitStatus> StatusRun::readSources()
+{
+    if (const auto end = readGate())
         return end;
-    return readGate();
+    if (const auto end = readDatabase())
+        return end;
+    m_assessment = StatusAssessment::of(*m_data, m_gate ? &*m_gate : nullptr, m_limits,
+                                        QDateTime::currentSecsSinceEpoch());
+    return std::nullopt;
 }
 
 std::optional<ExitStatus> StatusRun::readLimit(const char *option, std::optional<qint64> &limit)
@@ -153,25 +174,49 @@ std::optional<ExitStatus> StatusRun::readGate()
     return m_console.fail(ExitStatus::Usage, error);
 }
 
-ExitStatus StatusRun::answer(const StatusData &data)
+std::optional<ExitStatus> StatusRun::readDatabase()
 {
-    const StatusAssessment assessment = StatusAssessment::of(
-        data, m_gate ? &*m_gate : nullptr, m_limits, QDateTime::currentSecsSinceEpoch());
-    if (!m_line.isSet("nagios"))
-        return report(data, assessment);
-    m_console.print(Nagios::statusLine(data, assessment, m_limits));
-    return Nagios::exitStatus(Nagios::level(assessment));
+    SiteDatabase site;
+    if (const auto end = site.open(m_line, DatabaseAccess::ReadOnly, m_console))
+        return end;
+    QString error;
+    m_data = StatusData::read(site.sql(), error);
+    if (m_data)
+        return std::nullopt;
+    return m_console.fail(ExitStatus::NoDatabase, error);
 }
 
-ExitStatus StatusRun::report(const StatusData &data, const StatusAssessment &assessment)
+QString StatusRun::writeMetrics(bool complete) const
+{
+    if (!m_line.isSet("metrics"))
+        return {};
+    // No personal data: unlike a page, the file is for everybody whom the umask lets read it.
+    QSaveFile file(m_line.value("metrics"));
+    const QByteArray text = Metrics::text({m_data ? &*m_data : nullptr, m_gate ? &*m_gate : nullptr,
+                                           complete ? &m_assessment : nullptr},
+                                          complete);
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+        return {};
+    return QStringLiteral("'%1' cannot be written: %2").arg(file.fileName(), file.errorString());
+}
+
+ExitStatus StatusRun::answer()
+{
+    if (!m_line.isSet("nagios"))
+        return report();
+    m_console.print(Nagios::statusLine(*m_data, m_assessment, m_limits));
+    return Nagios::exitStatus(Nagios::level(m_assessment));
+}
+
+ExitStatus StatusRun::report()
 {
     m_report.begin(m_line.subcommand(), QStringLiteral("Status of the plugin"));
-    reportDatabase(m_report, data);
+    reportDatabase(m_report, *m_data);
     if (m_gate)
         reportGate(m_report, *m_gate);
     m_report.addSection(QStringLiteral("findings"), QStringLiteral("Findings"),
-                        assessment.findings);
-    return m_report.conclude(assessment.findings.isEmpty()
+                        m_assessment.findings);
+    return m_report.conclude(m_assessment.findings.isEmpty()
                                  ? QStringLiteral("No findings.")
                                  : QStringLiteral("The plugin's work needs attention."));
 }
@@ -186,6 +231,9 @@ void addOptions(CommandLine &line)
                    "The same as an error, which --nagios reports as CRITICAL.");
     line.addFlag("nagios",
                  "Print one line for a monitoring system, in the convention of its plugins.");
+    line.addOption("metrics", "file",
+                   "Also write OpenMetrics text to this file, at one stroke, for a monitoring "
+                   "system that collects it.");
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
 }

@@ -9,6 +9,8 @@
 #include "tests/support/testdatabase.h"
 
 #include <QDateTime>
+#include <QDir>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -16,6 +18,12 @@ namespace {
 
 /// The server's time for the account of the tool, so that ages are the same in every run.
 constexpr qint64 kNow = 1800000000;
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 } // namespace
 
@@ -53,6 +61,13 @@ private Q_SLOTS:
     void anUnreadableStatusFileIsReported();
     void theLineForMonitoringStaysOneLine();
 
+    void theSamplesForACollector();
+    void theSamplesAreForEverybodyAndAlone();
+    void theSamplesWithoutADatabase();
+    void theSamplesWithoutTheGatesStatus();
+    void samplesThatCannotBeWritten();
+    void theExampleAlertsUseSamplesThatExist();
+
     void wrongUsage_data();
     void wrongUsage();
     void aServerThatIsNotThere();
@@ -69,6 +84,7 @@ private:
     ToolRun nagios(const QStringList &more = {});
     QJsonObject facts(const ToolRun &run) { return run.json().value("facts").toObject(); }
     QString writeGate(const QByteArray &content);
+    QString metricsPath() const { return m_folder.filePath("mirovahr.prom"); }
 
     const LocalZone m_zone{"UTC"};
     TestDatabase m_db;
@@ -410,6 +426,133 @@ void TestStatus::theLineForMonitoringStaysOneLine()
     QCOMPARE(nagios({"--gate-status", file}).out,
              QString("MIROVAHR WARNING - The gate has refused the last file: a/b c\\x1bd. | "
                      "age=7200s;;;0 people=7;;;0 queue=0;;;0 corrections=0;;;0 force=0;;;0;1\n"));
+}
+
+void TestStatus::theSamplesForACollector()
+{
+    m_db.run("INSERT INTO term_sync (tid, type, ref, ref_col, ref_id, created, flags) VALUES"
+             " (1, 'U', 'people', 'uid', 4, 1799990000, 2)");
+    const QString gate = writeGate(R"({"result": "refused", "time": "2027-01-15T07:00:00Z",
+        "linesWithErrors": 3, "linesWithWarnings": 5,
+        "lastAdmitted": {"time": "2027-01-15T06:59:58Z", "lines": 1200}})");
+    const ToolRun run = status({"--gate-status", gate, "--metrics", metricsPath()});
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(facts(run).value("activePeople").toInt(), 7);
+    QCOMPARE(QString(readFile(metricsPath())), QString(R"(# TYPE mirovahr_status_success gauge
+# HELP mirovahr_status_success Whether the database, and the gate's status where it is named, could be read.
+mirovahr_status_success 1
+# TYPE mirovahr_force_pending gauge
+# HELP mirovahr_force_pending Whether a forced synchronisation is pending.
+mirovahr_force_pending 0
+# TYPE mirovahr_active_people gauge
+# HELP mirovahr_active_people People who are switched on.
+mirovahr_active_people 7
+# TYPE mirovahr_person_created_timestamp_seconds gauge
+# HELP mirovahr_person_created_timestamp_seconds When a person was created last.
+mirovahr_person_created_timestamp_seconds 1799740800
+# TYPE mirovahr_person_edited_timestamp_seconds gauge
+# HELP mirovahr_person_edited_timestamp_seconds When the plugin last changed a person.
+mirovahr_person_edited_timestamp_seconds 1799992800
+# TYPE mirovahr_balance_corrections_today gauge
+# HELP mirovahr_balance_corrections_today Vacation balances corrected today.
+mirovahr_balance_corrections_today 0
+# TYPE mirovahr_terminal_queue_entries gauge
+# HELP mirovahr_terminal_queue_entries Entries in the terminal queue.
+mirovahr_terminal_queue_entries 1
+# TYPE mirovahr_terminal_queue_oldest_timestamp_seconds gauge
+# HELP mirovahr_terminal_queue_oldest_timestamp_seconds When the oldest entry of the terminal queue was made.
+mirovahr_terminal_queue_oldest_timestamp_seconds 1799990000
+# TYPE mirovahr_gate_refused gauge
+# HELP mirovahr_gate_refused Whether the gate refused the last file.
+mirovahr_gate_refused 1
+# TYPE mirovahr_gate_run_timestamp_seconds gauge
+# HELP mirovahr_gate_run_timestamp_seconds When the gate ran last.
+mirovahr_gate_run_timestamp_seconds 1799996400
+# TYPE mirovahr_gate_admitted_timestamp_seconds gauge
+# HELP mirovahr_gate_admitted_timestamp_seconds When the gate last admitted a file.
+mirovahr_gate_admitted_timestamp_seconds 1799996398
+# TYPE mirovahr_gate_admitted_lines gauge
+# HELP mirovahr_gate_admitted_lines Lines in the file that was admitted last.
+mirovahr_gate_admitted_lines 1200
+# TYPE mirovahr_gate_lines_with_errors gauge
+# HELP mirovahr_gate_lines_with_errors Lines with errors in the last file.
+mirovahr_gate_lines_with_errors 3
+# TYPE mirovahr_gate_lines_with_warnings gauge
+# HELP mirovahr_gate_lines_with_warnings Lines with warnings and no errors in the last file.
+mirovahr_gate_lines_with_warnings 5
+# TYPE mirovahr_findings gauge
+# HELP mirovahr_findings Findings of the status.
+mirovahr_findings{severity="warning"} 1
+mirovahr_findings{severity="error"} 0
+# EOF
+)"));
+}
+
+void TestStatus::theSamplesAreForEverybodyAndAlone()
+{
+    QVERIFY(QDir(m_folder.path()).removeRecursively() && QDir().mkpath(m_folder.path()));
+    COMPARE_EXIT(status({"--metrics", metricsPath()}), ExitStatus::Fine);
+    COMPARE_EXIT(nagios({"--metrics", metricsPath()}), ExitStatus::Fine);
+    QCOMPARE(QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             QStringList{"mirovahr.prom"});
+    QVERIFY(QFile::permissions(metricsPath()).testFlag(QFile::ReadOther));
+}
+
+void TestStatus::theSamplesWithoutADatabase()
+{
+    const QString gate = writeGate(R"({"result": "admitted"})");
+    const ToolRun run =
+        runTool({"status", "--socket", "/nowhere/s", "--database", "tepdb", "--user", "yav",
+                 "--gate-status", gate, "--metrics", metricsPath()});
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    const QByteArray text = readFile(metricsPath());
+    QVERIFY(text.contains("\nmirovahr_status_success 0\n"));
+    QVERIFY(text.contains("\nmirovahr_gate_refused 0\n"));
+    QVERIFY(!text.contains("people"));
+    QVERIFY(!text.contains("findings"));
+}
+
+void TestStatus::theSamplesWithoutTheGatesStatus()
+{
+    COMPARE_EXIT(status({"--gate-status", "/nowhere/status.json", "--metrics", metricsPath()}),
+                 ExitStatus::Usage);
+    const QByteArray text = readFile(metricsPath());
+    QVERIFY(text.contains("\nmirovahr_status_success 0\n"));
+    QVERIFY(!text.contains("mirovahr_gate"));
+}
+
+void TestStatus::samplesThatCannotBeWritten()
+{
+    const QString path = m_folder.filePath("nowhere/mirovahr.prom");
+    const QString reason =
+        QString("'%1' cannot be written: No such file or directory.\n").arg(path);
+    const ToolRun run = status({"--metrics", path});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QCOMPARE(run.err, "mirovahrctl: status: " + reason);
+    QCOMPARE(nagios({"--metrics", path}).out, "MIROVAHR UNKNOWN - " + reason);
+
+    // The first failure stays the one that counts.
+    const ToolRun both = runTool({"status", "--socket", "/nowhere/s", "--database", "tepdb",
+                                  "--user", "yav", "--metrics", path});
+    COMPARE_EXIT(both, ExitStatus::NoDatabase);
+    QVERIFY2(both.err.endsWith(reason), both.report().constData());
+}
+
+void TestStatus::theExampleAlertsUseSamplesThatExist()
+{
+    m_db.run("INSERT INTO term_sync (tid, type, ref, ref_col, ref_id, created, flags) VALUES"
+             " (1, 'U', 'people', 'uid', 4, 1799990000, 2)");
+    const QString gate = writeGate(R"({"linesWithErrors": 0,
+        "lastAdmitted": {"time": "2027-01-15T06:59:58Z"}})");
+    COMPARE_EXIT(status({"--gate-status", gate, "--metrics", metricsPath()}), ExitStatus::Fine);
+    const QString samples = readFile(metricsPath());
+    const QString alerts = readFile(MIROVAHR_ALERTS);
+    auto names = QRegularExpression("\\bmirovahr_\\w+").globalMatch(alerts);
+    QVERIFY(names.hasNext());
+    while (names.hasNext()) {
+        const QString name = names.next().captured();
+        QVERIFY2(samples.contains('\n' + name + ' '), qPrintable(name));
+    }
 }
 
 void TestStatus::wrongUsage_data()
