@@ -15,6 +15,8 @@ ExitStatus runCheckDb(const QStringList &arguments, Console &console);
 ExitStatus runCheckFile(const QStringList &arguments, Console &console);
 /// Reports what differs between two exports.
 ExitStatus runDiff(const QStringList &arguments, Console &console);
+/// Runs the checks that can be run here, and reports what to do first.
+ExitStatus runDoctor(const QStringList &arguments, Console &console);
 /// Reports what the plugin makes of one person, step by step.
 ExitStatus runExplain(const QStringList &arguments, Console &console);
 /// Sets or clears the flag that forces a synchronisation.
@@ -58,6 +60,19 @@ QString overview()
     return lines.join(QLatin1Char('\n'));
 }
 
+/// For whoever calls the program for the first time: the questions that it answers.
+QString questions()
+{
+    return QStringLiteral(
+        "mirovahrctl answers these questions:\n\n"
+        "  Is everything set up as it should be?   mirovahrctl doctor\n"
+        "  What is wrong with HR's file?           mirovahrctl check-file FILE\n"
+        "  Why did this person not arrive?         mirovahrctl explain PERSON\n"
+        "  What will this file change?             mirovahrctl preview FILE\n"
+        "  What did last night do?                 mirovahrctl log --since 12h LOGFILE\n\n"
+        "\"mirovahrctl help\" lists the other subcommands and says how to see their options.");
+}
+
 ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Console &console)
 {
     const auto &all = subcommands();
@@ -69,10 +84,8 @@ ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Cons
         return found->run(arguments, console);
     if (name == kJson || arguments.contains(kJson))
         console.startJson();
-    return console.fail(
-        ExitStatus::Usage,
-        name.isEmpty() ? QStringLiteral("No subcommand given; --help lists them")
-                       : QStringLiteral("Unknown subcommand '%1'; --help lists them").arg(name));
+    return console.fail(ExitStatus::Usage,
+                        QStringLiteral("Unknown subcommand '%1'; --help lists them").arg(name));
 }
 
 ExitStatus runHelp(const QStringList &arguments, Console &console)
@@ -107,6 +120,7 @@ const QVector<Subcommand> &subcommands()
         {"force", "Make the plugin synchronise everybody at its next tick", runForce},
         {"status", "Show what is known of the plugin's work, for people and monitoring", runStatus},
         {"log", "Show what the attendance server's log says of the plugin's work", runLog},
+        {"doctor", "Run every check that can be run here, and name what to do first", runDoctor},
         {"rules", "List the rules behind the findings, or explain one", runRules},
     };
     return all;
@@ -124,6 +138,10 @@ ExitStatus runMirovahrctl(const QStringList &arguments, Console &console)
     if (name == QLatin1String("--version") || name == QLatin1String("-v")) {
         console.print(StandardOptions::versionText(QStringLiteral("mirovahrctl")));
         return ExitStatus::Fine;
+    }
+    if (arguments.isEmpty()) {
+        console.print(questions());
+        return ExitStatus::Usage;
     }
     return runSubcommand(name, arguments.mid(1), console);
 }

@@ -24,6 +24,8 @@ public:
     /// What is in force: the defaults without a file.
     const Configuration &values() const { return m_values; }
 
+    /// The file, which may be missing.
+    const QString &path() const { return m_path; }
     /// Whether there is a file.
     bool exists() const { return m_exists; }
     /// Where the values come from: a whole sentence for the report.

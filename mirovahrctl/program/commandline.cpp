@@ -6,11 +6,10 @@
 
 namespace {
 
-constexpr char kPasswordVariable[] = "MIROVAHRCTL_PASSWORD";
 
 DatabaseSources databaseSources()
 {
-    return {kPasswordVariable, QStringLiteral("/etc/yav/mirovahrctl.ini")};
+    return {CommandLine::kPasswordVariable, QStringLiteral("/etc/yav/mirovahrctl.ini")};
 }
 
 QString text(const char *utf8)

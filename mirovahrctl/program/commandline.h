@@ -22,6 +22,10 @@ class CommandLine {
 public:
     enum class Page { Offered, NotOffered };
 
+    /// The environment variable that may hold the database password. Whoever reads it overwrites
+    /// and removes it.
+    static inline constexpr char kPasswordVariable[] = "MIROVAHRCTL_PASSWORD";
+
     /// \a description says in a few sentences what the subcommand does, in lines of at most 88
     /// characters.
     CommandLine(const char *subcommand, const char *description);

@@ -4,6 +4,7 @@
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/rules/diffrules.h"
+#include "mirovahrctl/report/rules/doctorrules.h"
 #include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/rules/forcerules.h"
 #include "mirovahrctl/report/rules/gaterules.h"
@@ -29,12 +30,13 @@ const QVector<RuleGroup> &ruleGroups()
         {"check-file", listOf(CheckFileRules::kAll)},
         {"diff", listOf(DiffRules::kAll)},
         {"check-db", listOf(CheckDbRules::kAll)},
-        {"explain", listOf(ExplainRules::kAll), "check-file"},
+        {"explain", listOf(ExplainRules::kAll), {"check-file"}},
         {"preview", listOf(PreviewRules::kAll)},
         {"gate", listOf(GateRules::kAll)},
         {"force", listOf(ForceRules::kAll)},
         {"status", listOf(StatusRules::kAll)},
         {"log", listOf(LogRules::kAll)},
+        {"doctor", listOf(DoctorRules::kAll), {"check-config", "check-db", "check-file", "status"}},
     };
     return groups;
 }

@@ -8,8 +8,7 @@
 struct RuleGroup {
     const char *subcommand; ///< as on the command line
     QVector<const Rule *> rules;
-    /// A subcommand whose rules this one reports as well; null for none.
-    const char *otherSubcommand = nullptr;
+    QVector<const char *> others = {}; ///< subcommands whose rules this one reports as well
 };
 
 /// All rules, in the order of the subcommands in the overview.

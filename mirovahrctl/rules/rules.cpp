@@ -45,9 +45,12 @@ void listGroup(const RuleGroup &group, Report &report)
     for (const Rule *const rule : group.rules)
         table.rows.append(listedRow(*rule));
     report.table(table);
-    if (group.otherSubcommand != nullptr) {
-        report.sentence(QStringLiteral("Also reports rules of %1.")
-                            .arg(QString::fromLatin1(group.otherSubcommand)));
+    QStringList others;
+    for (const char *const other : group.others)
+        others += QString::fromLatin1(other);
+    if (!others.isEmpty()) {
+        report.sentence(
+            QStringLiteral("Also reports rules of %1.").arg(others.join(QStringLiteral(", "))));
     }
 }
 

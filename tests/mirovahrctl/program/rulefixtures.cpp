@@ -51,7 +51,9 @@ bool isRegistered(const QString &subcommand, const QJsonObject &finding)
     const QString id = finding.value("rule").toString();
     const QString severity = finding.value("severity").toString();
     const RuleGroup group = groupOf(subcommand);
-    return has(group, id, severity) || has(groupOf(group.otherSubcommand), id, severity);
+    return has(group, id, severity)
+        || std::any_of(group.others.cbegin(), group.others.cend(),
+                       [&](const char *other) { return has(groupOf(other), id, severity); });
 }
 
 RuleFixtures RuleFixtures::ofReports(const QString &subcommand)

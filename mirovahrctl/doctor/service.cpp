@@ -1,0 +1,123 @@
+#include "mirovahrctl/doctor/service.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QProcess>
+#include <QVector>
+
+#include <algorithm>
+#include <grp.h>
+#include <pwd.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int kGroupLimit = 1024;
+
+/// The properties that `systemctl show` prints; none when it cannot be run.
+QHash<QString, QString> properties()
+{
+    QProcess systemctl;
+    systemctl.start(QStringLiteral("systemctl"),
+                    {QStringLiteral("show"), QStringLiteral("yavhost.service"),
+                     QStringLiteral("--property=LoadState,ActiveState,UnitFileState,User,"
+                                    "ProtectSystem,ReadWritePaths")});
+    systemctl.closeWriteChannel();
+    systemctl.waitForFinished();
+    QHash<QString, QString> all;
+    const QStringList lines =
+        QString::fromUtf8(systemctl.readAllStandardOutput()).split(QLatin1Char('\n'));
+    for (const QString &line : lines)
+        all.insert(line.section(QLatin1Char('='), 0, 0), line.section(QLatin1Char('='), 1));
+    return all;
+}
+
+bool isIn(gid_t group, const passwd &user)
+{
+    QVector<gid_t> groups(kGroupLimit);
+    int count = groups.size();
+    if (getgrouplist(user.pw_name, user.pw_gid, groups.data(), &count) < 0)
+        return false;
+    return std::find(groups.cbegin(), groups.cbegin() + count, group) != groups.cbegin() + count;
+}
+
+/// Whether a folder's mode grants these rights of S_IRWXO, as the kernel decides: the first class
+/// that the user is in counts.
+bool grants(const passwd &user, const struct stat &folder, mode_t rights)
+{
+    mode_t granted = folder.st_mode;
+    if (folder.st_uid == user.pw_uid)
+        granted >>= 6;
+    else if (isIn(folder.st_gid, user))
+        granted >>= 3;
+    return (granted & rights) == rights;
+}
+
+/// Whether the user may write to a folder, and reach it.
+bool mayWrite(const passwd &user, const QString &path)
+{
+    mode_t rights = S_IWOTH | S_IXOTH;
+    QDir folder(path);
+    do {
+        struct stat status = {};
+        if (stat(QFile::encodeName(folder.path()).constData(), &status) != 0
+            || !grants(user, status, rights))
+            return false;
+        rights = S_IXOTH;
+    } while (folder.cdUp());
+    return true;
+}
+
+bool isBelow(const QString &folder, const QString &path)
+{
+    return (folder + QLatin1Char('/')).startsWith(QDir::cleanPath(path) + QLatin1Char('/'));
+}
+
+} // namespace
+
+std::optional<Service> Service::load()
+{
+    const QHash<QString, QString> all = properties();
+    if (all.value(QStringLiteral("LoadState")) != QLatin1String("loaded"))
+        return std::nullopt;
+    Service service;
+    service.activeState = all.value(QStringLiteral("ActiveState"));
+    service.unitFileState = all.value(QStringLiteral("UnitFileState"));
+    service.user = all.value(QStringLiteral("User"));
+    service.isStrict = all.value(QStringLiteral("ProtectSystem")) == QLatin1String("strict");
+    const QStringList paths =
+        all.value(QStringLiteral("ReadWritePaths")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &path : paths) {
+        // A "-" says that the path may be missing.
+        service.writablePaths += path.startsWith(QLatin1Char('-')) ? path.mid(1) : path;
+    }
+    return service;
+}
+
+bool Service::isWanted() const
+{
+    return activeState == QLatin1String("failed") || unitFileState == QLatin1String("enabled");
+}
+
+QString Service::whyNotWriting(const QString &folder) const
+{
+    const QString path = QDir::cleanPath(folder);
+    const auto allows = [&path](const QString &one) {
+        return isBelow(path, one);
+    };
+    if (isStrict && !std::any_of(writablePaths.cbegin(), writablePaths.cend(), allows))
+        return QStringLiteral("ReadWritePaths of yavhost.service does not name %1").arg(path);
+    if (!QDir(path).exists())
+        return QStringLiteral("There is no folder %1").arg(path);
+    if (user.isEmpty() || user == QLatin1String("root"))
+        return {};
+    const passwd *const account = getpwnam(user.toLocal8Bit().constData());
+    if (account == nullptr)
+        return QStringLiteral("There is no user %1, as which yavhost.service would run").arg(user);
+    if (!mayWrite(*account, path)) {
+        return QStringLiteral("The user %1, as which yavhost.service runs, may not write to %2")
+            .arg(user, path);
+    }
+    return {};
+}
