@@ -120,8 +120,8 @@ void TestCommandLine::withoutASubcommandTheQuestionsAreShown()
 {
     const ToolRun run = runTool({});
     COMPARE_EXIT(run, ExitStatus::Usage);
-    for (const QString &subcommand : {"doctor", "check-file", "explain", "preview", "log"})
-        QVERIFY2(run.out.contains("mirovahrctl " + subcommand), run.report().constData());
+    for (const char *const subcommand : {"doctor", "check-file", "explain", "preview", "log"})
+        QVERIFY2(run.out.contains(QString("mirovahrctl ") + subcommand), run.report().constData());
 }
 
 void TestCommandLine::anUnknownSubcommandIsRefused()
