@@ -6,7 +6,10 @@
 #include "privatedb/serverfolder.h"
 #include "privatedb/serveroptions.h"
 
+#include <QFile>
+
 #include <csignal>
+#include <filesystem>
 
 namespace {
 
@@ -36,4 +39,15 @@ bool makeDataFolder(const ServerFolder &folder, QString &error)
     error = QStringLiteral("The data folder of the private MariaDB server could not be made.\n%1")
                 .arg(lastLines(QString::fromUtf8(install.readAll())));
     return false;
+}
+
+bool copyDataFolder(const QString &from, const QString &to, QString &error)
+{
+    std::error_code failure;
+    std::filesystem::copy(QFile::encodeName(from).constData(), QFile::encodeName(to).constData(),
+                          std::filesystem::copy_options::recursive, failure);
+    if (failure)
+        error = QStringLiteral("%1 could not be copied: %2")
+                    .arg(from, QString::fromStdString(failure.message()));
+    return !failure;
 }

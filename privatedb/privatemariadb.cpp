@@ -186,7 +186,11 @@ bool PrivateMariaDb::makeFolder()
 {
     const auto atTheEnd =
         m_keepFiles ? ServerFolder::AtTheEnd::Kept : ServerFolder::AtTheEnd::Removed;
-    return m_folder.make(m_baseDir, atTheEnd, m_error) && makeDataFolder(m_folder, m_error);
+    if (!m_folder.make(m_baseDir, atTheEnd, m_error))
+        return false;
+    return m_madeDataFolder.isEmpty()
+        ? makeDataFolder(m_folder, m_error)
+        : copyDataFolder(m_madeDataFolder, m_folder.dataDir(), m_error);
 }
 
 bool PrivateMariaDb::launch()

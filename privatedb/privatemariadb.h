@@ -47,6 +47,9 @@ public:
     void setDatabaseName(const QString &name) { m_databaseName = name; }
     /// What the first start() grants to Account::Host; everything by default.
     void setHostRights(HostRights rights) { m_hostRights = rights; }
+    /// Copies this data folder (makeDataFolder()) at the first start() instead of making one: for
+    /// programs that start so many servers that it matters.
+    void setMadeDataFolder(const QString &folder) { m_madeDataFolder = folder; }
     /// Keeps the folder, to examine the data and the error log. To be called before the first
     /// start().
     void setKeepFiles(bool keep) { m_keepFiles = keep; }
@@ -97,6 +100,7 @@ private:
     QString errorLogTail() const;
 
     QString m_baseDir;
+    QString m_madeDataFolder; ///< empty: none
     QStringList m_serverOptions;
     QString m_databaseName;
     HostRights m_hostRights = HostRights::All;

@@ -108,6 +108,7 @@ bool TestDatabase::start(const QStringList &serverOptions)
                                           "--lock-wait-timeout=60", "--automatic-sp-privileges=0"}
                               + serverOptions);
     m_server.setHostRights(PrivateMariaDb::HostRights::None);
+    m_server.setMadeDataFolder(MIROVAHR_MADE_DATA_FOLDER);
     if (!m_server.start() || !openAdministrator())
         return false;
     loadSchema();
