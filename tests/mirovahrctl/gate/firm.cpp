@@ -1,5 +1,7 @@
 #include "tests/mirovahrctl/gate/firm.h"
 
+#include "tests/support/environmentnumber.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -22,6 +24,11 @@ double rounded(double days)
 }
 
 } // namespace
+
+int peopleOfALargeFirm()
+{
+    return int(environmentNumber("MIROVAHR_FIRM", 2000));
+}
 
 ExportRow Firm::Person::exported() const
 {

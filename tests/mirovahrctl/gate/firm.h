@@ -6,6 +6,10 @@
 #include <QRandomGenerator>
 #include <QVector>
 
+/// How many people the largest firm of a test has: MIROVAHR_FIRM of the environment, or else so
+/// many that the suite can wait for them.
+int peopleOfALargeFirm();
+
 /// The people of a firm as HR exports them, and what happens to them from day to day: hires, last
 /// days, returns, moves, marriages, vacations, bosses who leave, the turns of months and of years.
 /// The same size and seed give the same life.

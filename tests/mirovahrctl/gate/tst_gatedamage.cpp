@@ -232,7 +232,7 @@ void TestGateDamage::theDamageIsRefused_data()
 {
     QTest::addColumn<int>("size");
     QTest::addColumn<int>("damage");
-    for (const int size : {12, 400, 10000}) {
+    for (const int size : {12, 400, peopleOfALargeFirm()}) {
         for (int i = 0; i < int(std::size(kDamages)); ++i)
             QTest::addRow("%d people: %s", size, kDamages[i].name) << size << i;
     }

@@ -63,7 +63,7 @@ void TestGateLife::nothingIsRefused_data()
     rows(10, 20, spring);
     rows(400, 4, winter);
     rows(400, 2, spring);
-    rows(10000, 2, winter);
+    rows(peopleOfALargeFirm(), 2, winter);
 }
 
 void TestGateLife::nothingIsRefused()
