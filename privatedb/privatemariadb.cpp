@@ -68,12 +68,16 @@ bool PrivateMariaDb::start()
 {
     if (isRunning())
         return true;
-    if (!m_prepared && !(findPrograms() && makeFolder()))
-        return false;
     if (!launch() || !waitUntilReady())
         return false;
-    m_prepared = m_prepared || makeAccount();
-    return m_prepared;
+    m_hasAccount = m_hasAccount || makeAccount();
+    return m_hasAccount;
+}
+
+bool PrivateMariaDb::prepare()
+{
+    m_hasData = m_hasData || (findPrograms() && makeFolder());
+    return m_hasData;
 }
 
 bool PrivateMariaDb::stop()
@@ -86,6 +90,13 @@ bool PrivateMariaDb::stop()
     kill();
     return fail(QStringLiteral("The private MariaDB server did not shut down and was killed.\n%1")
                     .arg(errorLogTail()));
+}
+
+bool PrivateMariaDb::waitUntilEnded()
+{
+    if (!isRunning() || m_server->waitForFinished(kStopTimeoutMs))
+        return true;
+    return fail(QStringLiteral("The private MariaDB server goes on running."));
 }
 
 bool PrivateMariaDb::restart()
@@ -195,6 +206,8 @@ bool PrivateMariaDb::makeFolder()
 
 bool PrivateMariaDb::launch()
 {
+    if (!prepare())
+        return false;
     m_server = std::make_unique<MariaDbProcess>(m_folder, BoundProcess::Group::OfItsOwn);
     m_server->setProcessChannelMode(QProcess::MergedChannels);
     m_server->setStandardOutputFile(errorLogPath(), QIODevice::Append);

@@ -47,8 +47,9 @@ public:
     void setDatabaseName(const QString &name) { m_databaseName = name; }
     /// What the first start() grants to Account::Host; everything by default.
     void setHostRights(HostRights rights) { m_hostRights = rights; }
-    /// Copies this data folder (makeDataFolder()) at the first start() instead of making one: for
-    /// programs that start so many servers that it matters.
+    /// Copies this data folder at the first start() instead of making one: that of
+    /// makeDataFolder(), for programs that start so many servers that it matters, or that of a
+    /// server that does not run, with its database and accounts.
     void setMadeDataFolder(const QString &folder) { m_madeDataFolder = folder; }
     /// Keeps the folder, to examine the data and the error log. To be called before the first
     /// start().
@@ -57,6 +58,15 @@ public:
     /// Starts the server; true once it answers queries. The first call makes the data folder, the
     /// database and the accounts; after stop() or kill() it goes on with the same data and socket.
     bool start();
+    /// Makes the folder with the data folder, if it is not there yet. start() does it, too.
+    bool prepare();
+    /// Starts the server, which may not answer yet; without the account that start() makes. For
+    /// servers that wait for each other.
+    bool launch();
+    /// True once a launched server answers queries.
+    bool waitUntilReady();
+    /// Waits for a server that ends of its own accord. False when it does not within two minutes.
+    bool waitUntilEnded();
     /// Asks the server to shut down and waits until it has. True also when it was not running.
     bool stop();
     /// stop() and start().
@@ -94,8 +104,6 @@ private:
     bool fail(const QString &error);
     bool findPrograms();
     bool makeFolder();
-    bool launch();
-    bool waitUntilReady();
     bool makeAccount();
     QString errorLogTail() const;
 
@@ -105,7 +113,8 @@ private:
     QString m_databaseName;
     HostRights m_hostRights = HostRights::All;
     bool m_keepFiles = false;
-    bool m_prepared = false; ///< Data folder, database and account are there.
+    bool m_hasData = false; ///< The data folder is there.
+    bool m_hasAccount = false; ///< Database and account are there.
     ServerFolder m_folder;
     QString m_error;
     std::unique_ptr<MariaDbProcess> m_server;

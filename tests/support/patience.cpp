@@ -1,10 +1,17 @@
 #include "tests/support/patience.h"
 
 #include <QDeadlineTimer>
+#include <QThread>
 
 #include <cerrno>
 
 #include <poll.h>
+
+namespace {
+
+constexpr unsigned long kPollingPeriodMs = 20;
+
+} // namespace
 
 bool waitUntilReadable(int descriptor)
 {
@@ -15,4 +22,15 @@ bool waitUntilReadable(int descriptor)
         if (ready >= 0 || errno != EINTR) // the end of a child interrupts it
             return ready == 1;
     }
+}
+
+bool pollUntil(const std::function<bool()> &reached)
+{
+    const QDeadlineTimer deadline(kPatienceMs);
+    while (!reached()) {
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(kPollingPeriodMs);
+    }
+    return true;
 }
