@@ -12,6 +12,9 @@ project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-ser
 # manual pages, compressed logs.
 test_packages=(chromium libfaketime man-db mandoc xz-utils zstd)
 
+# What the tests of clusters take besides: Galera, what transfers a node's state, the proxy.
+cluster_packages=(galera-4 haproxy iproute2 lsof rsync)
+
 # What it takes to measure the plugin.
 bench_packages=(binutils gnuplot-nox libmariadb-dev python3 valgrind)
 

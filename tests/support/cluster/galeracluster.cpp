@@ -52,8 +52,9 @@ bool GaleraCluster::makeData(const QStringList &sqlFiles, PrivateMariaDb::HostRi
         || fail(m_origin.errorString());
 }
 
-/// The accounts of "localhost" can only connect to a node's socket; they become those of 127.0.0.1,
-/// which is where connections in the loopback range come from.
+/// The accounts of "localhost" can only connect to a node's socket. The host's and others become
+/// those of 127.0.0.1, which is where connections in the loopback range come from. The
+/// administrator, who has no password, stays at the socket.
 bool GaleraCluster::letAccountsConnectByAddress()
 {
     const QString name = "galeracluster.accounts";
@@ -62,13 +63,16 @@ bool GaleraCluster::letAccountsConnectByAddress()
         QSqlDatabase database =
             m_origin.addConnection(name, PrivateMariaDb::Account::Administrator);
         database.open();
-        QSqlQuery names(database);
+        QSqlQuery changes(database);
         QSqlQuery query(database);
-        names.exec("SELECT user FROM mysql.user WHERE host = 'localhost'"
-                   " AND user NOT IN ('', 'root', 'mariadb.sys')");
-        while (names.next() && error.isEmpty()) {
-            const QString user = names.value(0).toString();
-            if (!query.exec("RENAME USER '" + user + "'@'localhost' TO '" + user + "'@'127.0.0.1'"))
+        changes.exec(
+            "SELECT CONCAT('DROP USER ', QUOTE(user), '@', QUOTE(host)) FROM mysql.user"
+            " WHERE host <> 'localhost'"
+            " UNION SELECT CONCAT('RENAME USER ', QUOTE(user), '@localhost TO ', QUOTE(user),"
+            " '@127.0.0.1') FROM mysql.user"
+            " WHERE host = 'localhost' AND user NOT IN ('', 'root', 'mariadb.sys')");
+        while (changes.next() && error.isEmpty()) {
+            if (!query.exec(changes.value(0).toString()))
                 error = query.lastError().text();
         }
     }
