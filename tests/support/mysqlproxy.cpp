@@ -1,4 +1,4 @@
-#include "tests/worker/faults/mysqlproxy.h"
+#include "tests/support/mysqlproxy.h"
 
 #include "tests/support/patience.h"
 
@@ -96,11 +96,19 @@ void MySqlProxy::disturb(int number, const Disturbance &disturbance)
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_commands.clear();
     m_disturbed = number;
+    m_disturbedText.clear();
     m_disturbance = disturbance;
     m_arrived = false;
     m_released = false;
     m_over = false;
     m_resumed = false;
+}
+
+void MySqlProxy::disturb(const QString &text, const Disturbance &disturbance)
+{
+    disturb(0, disturbance);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_disturbedText = text;
 }
 
 bool MySqlProxy::waitForArrival()
@@ -249,19 +257,22 @@ bool MySqlProxy::treat(const Command &command, const MySqlPacket &request, MySql
     }
 
     const bool cut = disturbance.way != Disturbance::Way::Forward;
+    const bool hushed = disturbance.way == Disturbance::Way::Hush;
     MySqlPacket answer;
     bool done = false;
     if (disturbance.way != Disturbance::Way::CutBefore) {
         done = server.write(request)
             && (!command.hasAnswer || exchange(cut ? nullptr : &client, answer));
     }
-    if (cut) {
+    if (cut && !hushed) {
         client.close();
         server.close();
     }
     leave(index, done && !answer.isError(), answer.errorNumber());
     if (!cut)
         holdUntilResumed(index);
+    if (hushed)
+        client.swallow();
     return done && !cut;
 }
 
@@ -282,6 +293,8 @@ int MySqlProxy::arrive(const Command &command, Disturbance &disturbance)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     m_commands.append(command);
+    if (!m_disturbedText.isEmpty() && m_disturbed == 0 && command.text.startsWith(m_disturbedText))
+        m_disturbed = m_commands.size();
     if (m_commands.size() == m_disturbed) {
         disturbance = m_disturbance;
         m_arrived = true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/worker/faults/mysqlwire.h"
+#include "tests/support/mysqlwire.h"
 
 #include <QByteArray>
 #include <QString>
@@ -21,6 +21,10 @@ struct Disturbance {
         Refuse, ///< An error is the answer, and the server never gets the command.
         CutBefore, ///< The connection ends, and the server never gets the command.
         CutAfter, ///< The server carries the command out; then, unanswered, the connection ends.
+        /// The server carries the command out, and the client hears no more, nor does the
+        /// connection
+        /// end before the client ends it. Clients that connect meanwhile are not greeted.
+        Hush,
     };
 
     Way way = Way::Forward;
@@ -65,6 +69,8 @@ public:
     /// Counts from 1 again, and disturbs the command of this number, once: holds it from its
     /// arrival until release(). Call it while the proxy is idle.
     void disturb(int number, const Disturbance &disturbance);
+    /// The same for the first command whose text begins so.
+    void disturb(const QString &text, const Disturbance &disturbance);
     bool waitForArrival();
     void release();
     /// Waits until the disturbed command is over.
@@ -109,6 +115,7 @@ private:
     QVector<Command> m_commands;
     Disturbance m_disturbance;
     int m_disturbed = 0; ///< number of the command, 0 for none
+    QString m_disturbedText; ///< how a command begins that gets the number; empty for none
     bool m_arrived = false;
     bool m_released = false;
     bool m_over = false;

@@ -1,4 +1,4 @@
-#include "tests/worker/faults/mysqlwire.h"
+#include "tests/support/mysqlwire.h"
 
 #include <cstring>
 
@@ -187,6 +187,12 @@ bool MySqlWire::write(const MySqlPacket &packet)
         return true;
     close();
     return false;
+}
+
+void MySqlWire::swallow()
+{
+    char byte = 0;
+    while (readBytes(&byte, 1)) { }
 }
 
 bool MySqlWire::readBytes(char *bytes, int count)

@@ -33,6 +33,8 @@ public:
     bool isConnected() const { return m_descriptor >= 0; }
     bool read(MySqlPacket &packet);
     bool write(const MySqlPacket &packet);
+    /// Reads whatever comes and answers nothing, until the other side is gone.
+    void swallow();
     void close();
 
 private:

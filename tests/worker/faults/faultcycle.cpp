@@ -14,6 +14,10 @@ const QStringList kWritten = {"people",      "people_pam",   "atten",      "brap
                               "groups_plan", "groups_month", "funds_move", "admins_people",
                               "people_term", "term",         "term_sync",  "vars"};
 
+/// Seconds in which a healthy server answers on a busy machine, too.
+constexpr char kLimits[] =
+    ";MYSQL_OPT_CONNECT_TIMEOUT=2;MYSQL_OPT_READ_TIMEOUT=2;MYSQL_OPT_WRITE_TIMEOUT=2";
+
 QDate today()
 {
     return QDate::currentDate();
@@ -34,6 +38,8 @@ bool FaultCycle::start()
     m_proxy = std::make_unique<MySqlProxy>(m_db.server().socketPath());
     m_server = m_db.pluginConnection();
     m_server.setConnectOptions("UNIX_SOCKET=" + m_proxy->socketPath());
+    m_impatient = m_db.pluginConnection();
+    m_impatient.setConnectOptions(m_server.connectOptions() + kLimits);
     m_changes = std::make_unique<StateChanges>(m_db);
 
     // Attendance is calculated up to yesterday, and uids have five digits from here on.

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tests/support/exportfile.h"
+#include "tests/support/mysqlproxy.h"
 #include "tests/support/testdatabase.h"
-#include "tests/worker/faults/mysqlproxy.h"
 #include "tests/worker/support/statechanges.h"
 
 #include <QStringList>
@@ -30,6 +30,8 @@ public:
     QString exportPath() const { return m_export.path(); }
     /// The attendance server's connection, which leads through the proxy.
     QSqlDatabase serverConnection() const { return m_server; }
+    /// The same with limits for a silent server.
+    QSqlDatabase impatientConnection() const { return m_impatient; }
 
     /// Restores the tables, the export and the force flag to their initial state, once the clients
     /// of the previous run are gone. False when one stays connected.
@@ -51,6 +53,7 @@ private:
     ExportFile m_export;
     std::unique_ptr<MySqlProxy> m_proxy;
     QSqlDatabase m_server;
+    QSqlDatabase m_impatient;
     std::unique_ptr<StateChanges> m_changes;
     int m_newNumber = 40000;
 };

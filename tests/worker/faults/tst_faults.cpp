@@ -135,6 +135,9 @@ private Q_SLOTS:
     void aLossBeforeTheAnswerIsSurvived();
     void aServerThatStopsAndComesBackIsSurvived_data() { addRows(m_commands, 37, any); }
     void aServerThatStopsAndComesBackIsSurvived();
+    void aServerThatFallsSilentIsSurvived_data() { addRows(m_commands, 37, any); }
+    void aServerThatFallsSilentIsSurvived();
+    void aWorkerIsUnloadedWhileItsServerIsSilent();
     void aLockTimeoutIsSurvived_data() { addRows(m_commands, 9, needsTables); }
     void aLockTimeoutIsSurvived();
     void aDeadlockIsSurvived_data() { addRows(m_commands, 13, needsTables); }
@@ -308,7 +311,9 @@ TestFaults::Run TestFaults::disturb(const Disturbance &disturbance,
         const LogCapture log;
         QVERIFY2(m_cycle.begin(), kStillConnected);
         m_cycle.proxy().disturb(number, disturbance);
-        const ServingWorker worker(m_cycle.serverConnection(), m_cycle.exportPath());
+        const ServingWorker worker(disturbance.way == Way::Hush ? m_cycle.impatientConnection()
+                                                                : m_cycle.serverConnection(),
+                                   m_cycle.exportPath());
         QVERIFY(passFault(log, whileHeld, afterwards));
         run.commands = plainCommands();
         run.problems = problems(log.lines());
@@ -461,6 +466,35 @@ void TestFaults::aServerThatStopsAndComesBackIsSurvived()
     const Run run = disturb(of(Way::CutBefore), stop, comeBack);
     checkLogOfLoss(run);
     checkState(run, m_commands);
+}
+
+void TestFaults::aServerThatFallsSilentIsSurvived()
+{
+    const Run run = disturb(of(Way::Hush));
+    checkLogOfLoss(run);
+    checkState(run, m_commands);
+}
+
+void TestFaults::aWorkerIsUnloadedWhileItsServerIsSilent()
+{
+    const auto loading = std::find_if(m_commands.cbegin(), m_commands.cend(),
+                                      [](const MySqlProxy::Command &command) {
+                                          return command.text.startsWith("SELECT p.pid, ");
+                                      });
+    QVERIFY(loading != m_commands.cend());
+    const LogCapture log;
+    QVERIFY2(m_cycle.begin(), kStillConnected);
+    m_cycle.proxy().disturb(int(loading - m_commands.cbegin()) + 1, of(Way::Hush));
+    {
+        const ServingWorker worker(m_cycle.impatientConnection(), m_cycle.exportPath());
+        QVERIFY(m_cycle.proxy().waitForArrival());
+        m_cycle.proxy().release();
+        QVERIFY(m_cycle.proxy().waitForEnd());
+    }
+    // The worker is gone, and has ended its tick before.
+    const QStringList lines = log.lines();
+    QCOMPARE(lines.filter("MHRWorker::dbLoadPeople() - SQL ERROR [2013]").size(), 1);
+    QCOMPARE(lines.filter("END synchronization #1 ").size(), 1);
 }
 
 // Locks -------------------------------------------------------------------------------------------
