@@ -86,6 +86,12 @@ QString ConnectionFile::take(const QString &key, const QVariant &value)
             ? QString()
             : QStringLiteral("the port is a number from 0 to %1").arg(kLargestPort);
     }
+    if (key == QLatin1String("read-timeout")) {
+        return readNumber(text, kLongestReadTimeout, m_options.readTimeout)
+            ? QString()
+            : QStringLiteral("the read timeout is a number of seconds from 0 to %1")
+                  .arg(kLongestReadTimeout);
+    }
     if (key == QLatin1String("password")) {
         m_password = text;
         return {};

@@ -5,14 +5,33 @@
 #include <QSqlError>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace {
 
 constexpr char kDriver[] = "QMYSQL";
 
-// "localhost" alone means the client library's default socket, so a socket is always named.
+/// A healthy server greets at once, whatever its statements take.
+constexpr uint kLongestConnectTimeout = 30;
+
+/// The limits for a server that neither answers nor closes the connection. The read timeout alone
+/// would not suffice: the client library awaits the greeting of a server with the connect timeout
+/// only, and a statement that exceeds the buffer of the socket with the write timeout only.
+QStringList timeouts(uint seconds)
+{
+    if (seconds == 0)
+        return {};
+    return {QStringLiteral("MYSQL_OPT_CONNECT_TIMEOUT=%1")
+                .arg(std::min(seconds, kLongestConnectTimeout)),
+            QStringLiteral("MYSQL_OPT_READ_TIMEOUT=%1").arg(seconds),
+            QStringLiteral("MYSQL_OPT_WRITE_TIMEOUT=%1").arg(seconds)};
+}
+
+// "localhost" alone means the client library's default socket, so a socket is always named. Of an
+// option that occurs twice Qt's driver takes the last one: the user's.
 QString connectOptions(const DatabaseOptions &options)
 {
-    QStringList parts;
+    QStringList parts = timeouts(options.readTimeout);
     if (!options.socket.isEmpty())
         parts << QStringLiteral("UNIX_SOCKET=") + options.socket;
     if (!options.connectOptions.isEmpty())
@@ -23,7 +42,8 @@ QString connectOptions(const DatabaseOptions &options)
 } // namespace
 
 Database::Database(const DatabaseOptions &options, const QString &connectionName)
-    : m_connection(QSqlDatabase::addDatabase(QLatin1String(kDriver), connectionName))
+    : m_server(options.server())
+    , m_connection(QSqlDatabase::addDatabase(QLatin1String(kDriver), connectionName))
 {
     m_connection.setHostName(options.socket.isEmpty() ? options.host : QStringLiteral("localhost"));
     m_connection.setPort(options.port == 0 ? -1 : static_cast<int>(options.port));
@@ -48,7 +68,7 @@ bool Database::open()
 
 QString Database::errorString() const
 {
-    return m_connection.lastError().text();
+    return QStringLiteral("%1 (server %2)").arg(m_connection.lastError().text(), m_server);
 }
 
 QSqlDatabase Database::handle() const

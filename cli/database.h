@@ -17,7 +17,7 @@ public:
     /// Opens the connection. False when that fails; errorString() then says why.
     bool open();
 
-    /// Why open() failed, in the database's or the driver's words.
+    /// Why open() failed, in the database's or the driver's words, and which server it was.
     QString errorString() const;
 
     /// The handle to work with. Every copy must be gone before this object is.
@@ -30,5 +30,6 @@ public:
     static QString missingDriverText();
 
 private:
+    const QString m_server;
     QSqlDatabase m_connection;
 };

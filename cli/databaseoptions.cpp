@@ -58,6 +58,11 @@ QString readCommandLine(const QCommandLineParser &parser, DatabaseOptions &optio
     readText(parser, "connect-options", options.connectOptions);
     if (!readNumberOption(parser, QStringLiteral("port"), kLargestPort, options.port))
         return QStringLiteral("The port is a number from 0 to %1").arg(kLargestPort);
+    if (!readNumberOption(parser, QStringLiteral("read-timeout"), kLongestReadTimeout,
+                          options.readTimeout)) {
+        return QStringLiteral("The read timeout is a number of seconds from 0 to %1")
+            .arg(kLongestReadTimeout);
+    }
     return {};
 }
 
@@ -110,6 +115,13 @@ QString readPassword(const QCommandLineParser &parser, const char *variable,
 
 } // namespace
 
+QString DatabaseOptions::server() const
+{
+    constexpr uint kUsualPort = 3306;
+    return socket.isEmpty() ? QStringLiteral("%1:%2").arg(host).arg(port == 0 ? kUsualPort : port)
+                            : socket;
+}
+
 void addDatabaseOptions(QCommandLineParser &parser, const DatabaseSources &sources)
 {
     const auto add = [&parser](const char *name, const char *text, const char *valueName) {
@@ -122,6 +134,11 @@ void addDatabaseOptions(QCommandLineParser &parser, const DatabaseSources &sourc
     add("user", "The database user.", "user");
     add("password-file", "A file whose first line is the password.", "file");
     add("connect-options", "Options of Qt's MySQL driver, joined by ';'.", "options");
+    parser.addOption(valueOption(
+        "read-timeout",
+        QStringLiteral("How long the server may be silent, 0 for any time. Default: %1.")
+            .arg(DatabaseOptions().readTimeout),
+        "seconds"));
     parser.addOption(valueOption("defaults-file", fileOptionText(sources), "file"));
 }
 

@@ -8,6 +8,9 @@ class QCommandLineParser;
 /// The largest TCP port.
 constexpr uint kLargestPort = 65535;
 
+/// The longest read timeout in seconds, a day.
+constexpr uint kLongestReadTimeout = 86400;
+
 /// How to reach the attendance database.
 struct DatabaseOptions {
     QString host; ///< empty when a socket is used
@@ -17,6 +20,13 @@ struct DatabaseOptions {
     QString user;
     QString password;
     QString connectOptions; ///< as QSqlDatabase::setConnectOptions takes them
+    /// Seconds that the server may be silent before the connection counts as lost, unless the
+    /// connect options say otherwise; 0 for any time. Far more than a statement takes on a healthy
+    /// site.
+    uint readTimeout = 120;
+
+    /// The server as a user knows it: the path of the socket, or host:port.
+    QString server() const;
 };
 
 /// Where a program finds its connection besides on its command line.

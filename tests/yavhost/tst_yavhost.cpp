@@ -1,5 +1,6 @@
 #include "tests/support/exportfile.h"
 #include "tests/support/programrun.h"
+#include "tests/support/silentserver.h"
 #include "tests/support/testdatabase.h"
 
 #include <QFile>
@@ -69,6 +70,7 @@ private Q_SLOTS:
     void aSignalEndsTheHostCleanly();
     void oneSignalPausesAndAnotherResumes();
     void aDatabaseThatIsDownAtStartIsOnlyAWarning();
+    void aDatabaseServerThatSaysNothingHoldsNeitherTickNorUnload();
 
 private:
     QStringList databaseArguments() const;
@@ -139,8 +141,9 @@ void TestYavHost::helpNamesTheOptionsAndEveryExitStatus()
     for (const char *text :
          {"--version-info", "--once", "--debug-level <level>", "--host <host>", "--port <port>",
           "--socket <path>", "--database <name>", "--user <user>", "--password-file <file>",
-          "--connect-options <options>", "--defaults-file <file>", "--version", "YAVHOST_PASSWORD",
-          "leave CLIENT_FOUND_ROWS off", "SIGUSR1 pauses it, SIGUSR2 resumes it",
+          "--connect-options <options>", "--read-timeout <seconds>", "--defaults-file <file>",
+          "--version", "YAVHOST_PASSWORD", "leave CLIENT_FOUND_ROWS off",
+          "SIGUSR1 pauses it, SIGUSR2 resumes it",
           "  0  Everything went well\n"
           "  1  The library is not a plugin of the attendance server\n"
           "  2  The command line is not understood\n"
@@ -194,6 +197,9 @@ void TestYavHost::aCommandLineThatMakesNoSenseIsRefused_data()
                                        << "The debug level is a number from 0 to 255";
     QTest::newRow("a port above 65535")
         << complete + QStringList{"--port", "65536"} << "The port is a number from 0 to 65535";
+    QTest::newRow("a timeout of more than a day")
+        << complete + QStringList{"--read-timeout", "86401"}
+        << "The read timeout is a number of seconds from 0 to 86400";
     QTest::newRow("no such password file")
         << complete + QStringList{"--password-file", "/nowhere"}
         << "The password file '/nowhere' cannot be read: No such file or directory";
@@ -576,6 +582,23 @@ void TestYavHost::aDatabaseThatIsDownAtStartIsOnlyAWarning()
     QVERIFY(host.waitForEnd());
     COMPARE_STATUS(host, 0);
     QCOMPARE(countPeople("4711.1"), 1);
+}
+
+void TestYavHost::aDatabaseServerThatSaysNothingHoldsNeitherTickNorUnload()
+{
+    const SilentServer silent;
+    ProgramRun host;
+    host.start(kHost,
+               {kPlugin, "--host", "127.0.0.1", "--port", QString::number(silent.port()),
+                "--database", "tepdb", "--user", "yav", "--read-timeout", "1"});
+    QVERIFY2(host.waitForText("MHRWorker::checkSync() - database not open!", 2),
+             host.report().constData());
+    host.sendSignal(SIGTERM);
+    QVERIFY(host.waitForEnd());
+    COMPARE_STATUS(host, 0);
+    QVERIFY2(host.errors().contains(QStringLiteral("(server 127.0.0.1:%1).\n").arg(silent.port())),
+             host.report().constData());
+    QVERIFY(host.output().endsWith("yavhost: The plugin is unloaded.\n"));
 }
 
 QTEST_GUILESS_MAIN(TestYavHost)
