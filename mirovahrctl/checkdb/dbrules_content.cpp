@@ -70,7 +70,7 @@ void checkVacationFund(DbAssessment &check)
 
 void checkPayrollExport(DbAssessment &check)
 {
-    const QStringList exports = payrollExports(check.sql().database());
+    const QStringList exports = payrollExports(check.sql());
     if (exports.size() == 1)
         return;
     const QString found = exports.isEmpty()

@@ -284,7 +284,7 @@ void RecordExplanation::explainAddition()
 
 void RecordExplanation::explainPayroll()
 {
-    const QStringList exports = payrollExports(m_context.view.database());
+    const QStringList exports = payrollExports(m_context.view.sql());
     if (exports.size() != 1 || m_record.getPid() == 0) {
         m_context.report.add(
             ExplainRules::kNoPayrollExport,

@@ -1,13 +1,23 @@
 #include "mirovahrctl/site/payrollexports.h"
 
 #include "db/tepdbsettings.h"
+#include "mirovahrctl/site/sqlsession.h"
 
-#include <QMap>
 #include <QVariant>
 
-QStringList payrollExports(const QSqlDatabase &database)
+namespace {
+
+/// The plugin's condition, which also fits names that go on after it.
+constexpr char kSelect[] =
+    "SELECT name FROM vars WHERE name LIKE 'exportPam.%.active%' ORDER BY name";
+
+} // namespace
+
+QStringList payrollExports(SqlSession &site)
 {
-    return TepDbSettings(database).variableGetMultiple(QStringLiteral("exportPam.%.active")).keys();
+    QStringList names = site.column(QLatin1String(kSelect));
+    names.removeDuplicates();
+    return names;
 }
 
 bool isInPayrollSelection(const QSqlDatabase &database, const QString &payrollExport, quint32 pid)

@@ -3,10 +3,11 @@
 #include <QStringList>
 
 class QSqlDatabase;
+class SqlSession;
 
-/// The keys of the payroll exports in `vars`, by the plugin's own query: with exactly one, new
-/// people join its selection.
-QStringList payrollExports(const QSqlDatabase &database);
+/// The keys in `vars` that the plugin takes for payroll exports: with exactly one, new people join
+/// its selection. Empty also when reading fails, which the session then says.
+QStringList payrollExports(SqlSession &site);
 
 /// Whether the selection of the payroll export with this key contains the person (pid).
 bool isInPayrollSelection(const QSqlDatabase &database, const QString &payrollExport, quint32 pid);
