@@ -47,11 +47,11 @@ bool checkSchema(DbAssessment &check, DbRules::Account account,
     return readable;
 }
 
-void checkAll(DbAssessment &check, DbRules::Account account,
+void checkAll(DbAssessment &check, DbRules::Account account, const QString &connectOptions,
               const PluginConfiguration *configuration)
 {
     DbRules::checkServer(check);
-    DbRules::checkConnection(check);
+    DbRules::checkConnection(check, account, connectOptions);
     DbRules::checkTime(check);
     const bool readable = checkSchema(check, account, configuration);
     DbRules::checkRoutines(check, account);
@@ -90,8 +90,10 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
     const QSqlDatabase &db = site.sql().database();
     report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
     DbAssessment check(db, report);
-    checkAll(check, accountOf(line), line.isSet("config") ? &configuration : nullptr);
-    if (check.sql().failed())
+    checkAll(check, accountOf(line), site.givenConnectOptions(),
+             line.isSet("config") ? &configuration : nullptr);
+    // A statement that may fail may have been the last one.
+    if (check.sql().failed() || !site.loss().isEmpty())
         return console.fail(ExitStatus::NoDatabase, check.sql().failure());
     return report.conclude(check.isContractBroken() ? ExitStatus::ContractBroken
                                                     : report.findingsStatus(),

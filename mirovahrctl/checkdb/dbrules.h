@@ -32,7 +32,9 @@ enum class Account { OfThePlugin, Another };
 using ServerSettings = QHash<QString, QString>;
 
 void checkServer(DbAssessment &check);
-void checkConnection(DbAssessment &check);
+/// \a connectOptions: those that the user gave, which for the plugin's account are the attendance
+/// server's.
+void checkConnection(DbAssessment &check, Account account, const QString &connectOptions);
 void checkTime(DbAssessment &check);
 void checkTables(DbAssessment &check, const DbSchema &schema);
 /// Leaves the values of the INI file to checkConfiguration() when they are known.

@@ -57,9 +57,9 @@ bool countsFoundRows(const QString &connectOptions)
     return false;
 }
 
-void checkAffectedRows(DbAssessment &check)
+void checkAffectedRows(DbAssessment &check, const QString &connectOptions)
 {
-    if (!countsFoundRows(check.sql().database().connectOptions()))
+    if (!countsFoundRows(connectOptions))
         return;
     check.reportViolation(
         CheckDbRules::kFoundRows, {},
@@ -67,9 +67,41 @@ void checkAffectedRows(DbAssessment &check)
                        "that it left unchanged as changed"));
 }
 
+/// Whether the option limits a wait. Qt's driver takes the last of several; 0 is no limit.
+bool isLimited(const QString &connectOptions, const QString &limit)
+{
+    bool limited = false;
+    const QStringList options = connectOptions.split(QLatin1Char(';'));
+    for (const QString &option : options) {
+        if (option.section(QLatin1Char('='), 0, 0).trimmed() == limit)
+            limited = option.section(QLatin1Char('='), 1).trimmed().toInt() > 0;
+    }
+    return limited;
+}
+
+void checkTimeouts(DbAssessment &check, const QString &connectOptions)
+{
+    QStringList missing;
+    for (const QString &limit :
+         {QStringLiteral("MYSQL_OPT_CONNECT_TIMEOUT"), QStringLiteral("MYSQL_OPT_READ_TIMEOUT"),
+          QStringLiteral("MYSQL_OPT_WRITE_TIMEOUT")}) {
+        if (!isLimited(connectOptions, limit))
+            missing += limit;
+    }
+    if (missing.isEmpty())
+        return;
+    check.report(
+        CheckDbRules::kNoTimeout, {},
+        QStringLiteral("The connect options that this check was given lack %1. When the attendance "
+                       "server connects like this, a database server that neither answers nor "
+                       "closes the connection freezes the plugin's tick, and the attendance server "
+                       "when it unloads the plugin")
+            .arg(missing.join(QStringLiteral(", "))));
+}
+
 } // namespace
 
-void DbRules::checkConnection(DbAssessment &check)
+void DbRules::checkConnection(DbAssessment &check, Account account, const QString &connectOptions)
 {
     const QStringList row = check.sql().row(QLatin1String(kSelectConnection));
     check.begin("connection", "Connection");
@@ -77,6 +109,8 @@ void DbRules::checkConnection(DbAssessment &check)
     check.writer().fact(QStringLiteral("charset"), QStringLiteral("Character set"), row.value(1));
     checkCharset(check, row);
     checkSeveralStatements(check);
-    checkAffectedRows(check);
+    checkAffectedRows(check, connectOptions);
+    if (account == Account::OfThePlugin)
+        checkTimeouts(check, connectOptions);
     check.end(QStringLiteral("The connection works as the plugin requires."));
 }

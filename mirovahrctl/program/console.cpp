@@ -32,6 +32,12 @@ void Console::print(const QString &text)
 
 ExitStatus Console::fail(ExitStatus status, const QString &sentence)
 {
+    const QString loss = m_loss ? m_loss() : QString();
+    return loss.isEmpty() ? end(status, sentence) : end(ExitStatus::NoDatabase, loss);
+}
+
+ExitStatus Console::end(ExitStatus status, const QString &sentence)
+{
     const QString reason = Wording::sentence(sentence);
     if (m_failure)
         return m_failure(status, reason);

@@ -32,6 +32,13 @@ public:
     /// From now on fail() leaves everything to this function.
     void setFailure(Failure failure) { m_failure = std::move(failure); }
 
+    /// Why the subcommand's connection is lost, a sentence without its full stop; empty when it
+    /// works.
+    using Loss = std::function<QString()>;
+    /// From now on fail() asks this function first. Of a lost connection everything fails that
+    /// comes after it, with reasons of all kinds: the loss is the reason that it prints.
+    void setLoss(Loss loss) { m_loss = std::move(loss); }
+
     /// Names the subcommand that runs, for the messages.
     void setSubcommand(const QString &name);
 
@@ -51,6 +58,7 @@ public:
     void warn(const QString &sentence);
 
 private:
+    ExitStatus end(ExitStatus status, const QString &sentence);
     void writeMessage(const QString &sentence);
 
     QIODevice &m_out;
@@ -59,5 +67,6 @@ private:
     const int m_columns;
     QString m_subcommand;
     Failure m_failure;
+    Loss m_loss;
     std::unique_ptr<JsonReport> m_json;
 };

@@ -16,7 +16,8 @@ enum class DatabaseAccess {
     ReadWrite
 };
 
-/// The connection of a subcommand to the site's database.
+/// The connection of a subcommand to the site's database. As long as it is open, a failure of the
+/// subcommand is reported as the loss of the connection when that is lost.
 class SiteDatabase {
 public:
     SiteDatabase();
@@ -33,7 +34,17 @@ public:
     /// Only after a successful open().
     SqlSession &sql() { return *m_sql; }
 
+    /// The connect options that the user gave.
+    QString givenConnectOptions() const { return m_givenConnectOptions; }
+
+    /// Asks the server. Which one has closed the connection or fallen silent, a sentence without
+    /// its full stop; empty when it answers.
+    QString loss() const;
+
 private:
+    Console *m_console = nullptr; ///< null unless the connection is open
+    QString m_server;
+    QString m_givenConnectOptions;
     std::unique_ptr<Database> m_database;
     std::optional<SqlSession> m_sql; ///< destroyed before the connection
 };

@@ -108,6 +108,13 @@ inline constexpr Rule kMissingElsewhere{
     "missing-elsewhere", Severity::Note,
     "A table or column is missing that only other components of the attendance server use."};
 
+inline constexpr Rule kNoTimeout{
+    "no-timeout", Severity::Warning,
+    "The connect options set no time limit: a silent server freezes the plugin.",
+    "Give the attendance server's connection the connect options MYSQL_OPT_CONNECT_TIMEOUT=30, "
+    "MYSQL_OPT_READ_TIMEOUT=120 and MYSQL_OPT_WRITE_TIMEOUT=120, and this check the same with "
+    "--connect-options. yavhost sets them by itself."};
+
 inline constexpr Rule kNotAutomatic{
     "not-automatic", Severity::Error,
     "A column is not AUTO_INCREMENT, but the plugin leaves its value to the server.",
@@ -284,6 +291,7 @@ inline constexpr const Rule *kAll[] = {
     &kKeyMissingElsewhere,
     &kKeyUnexpected,
     &kMissingElsewhere,
+    &kNoTimeout,
     &kNotAutomatic,
     &kNotTransactional,
     &kPayrollExportNone,

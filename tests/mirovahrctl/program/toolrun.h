@@ -27,6 +27,12 @@ struct ToolRun {
     QByteArray report() const;
 };
 
+/// The connect options of an attendance server that does not wait for a silent server for ever.
+inline const QStringList kTimeouts{
+    QStringLiteral("--connect-options"),
+    QStringLiteral("MYSQL_OPT_CONNECT_TIMEOUT=30;MYSQL_OPT_READ_TIMEOUT=120;"
+                   "MYSQL_OPT_WRITE_TIMEOUT=120")};
+
 /// Runs `mirovahrctl` with these arguments. Standard error is no terminal unless \a interactive,
 /// and standard output is as wide as any text.
 ToolRun runTool(const QStringList &arguments, bool interactive = false);

@@ -1,3 +1,4 @@
+#include "cli/connectionfile.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/testdatabase.h"
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void aNamedFileIsReadInsteadOfTheOneInItsPlace();
     void aServerOfTheCommandLineReplacesThatOfTheFile();
     void optionsOfTheDriverMayStandInTheFile();
+    void theReadTimeoutMayStandInTheFile();
     void commentsAndOtherGroupsAreLeftAlone();
 
     void aPasswordInThePrivateFileIsTaken_data();
@@ -150,6 +152,14 @@ void TestConnectionFile::optionsOfTheDriverMayStandInTheFile()
     QVERIFY2(run.rules().contains("found-rows"), run.report().constData());
 }
 
+void TestConnectionFile::theReadTimeoutMayStandInTheFile()
+{
+    write(named(), lines() + QStringList{"read-timeout = 7"});
+    ConnectionFile file;
+    QCOMPARE(file.read(named()), QString());
+    QCOMPARE(file.options().readTimeout, 7U);
+}
+
 void TestConnectionFile::commentsAndOtherGroupsAreLeftAlone()
 {
     write(named(),
@@ -259,6 +269,9 @@ void TestConnectionFile::anUnusableFileIsAFailure_data()
         << "the value of 'password' has a comma; put it in quotation marks";
     QTest::newRow("a port that is none") << "port = 65536"
                                          << "the port is a number from 0 to 65535";
+    QTest::newRow("a timeout that is none")
+        << "read-timeout = two minutes"
+        << "the read timeout is a number of seconds from 0 to 86400";
     QTest::newRow("two servers") << "host = a\nsocket = b"
                                  << "it names both a host and a socket";
     QTest::newRow("two passwords") << "password = a\npassword-file = b"
