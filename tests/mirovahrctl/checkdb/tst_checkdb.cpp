@@ -1,5 +1,6 @@
 #include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
+#include "tests/support/mysqlproxy.h"
 #include "tests/support/testdatabase.h"
 
 #include <QJsonDocument>
@@ -87,9 +88,14 @@ private Q_SLOTS:
     void countingFoundRowsIsAViolation_data();
     void countingFoundRowsIsAViolation();
 
+    void aConnectionThatWaitsForEverIsReported_data();
+    void aConnectionThatWaitsForEverIsReported();
+    void theConnectionOfAnotherAccountMayWait();
+
     void nothingIsWritten();
     void aProcedureThatWritesForEverybodyIsStopped();
 
+    void aPayrollExportThatCannotBeReadIsNotMissing();
     void anUnreachableServerIsNoDatabase();
     void withoutAServerTheUsageIsWrong();
     void theHelpSaysHowToConnect();
@@ -135,7 +141,7 @@ QStringList TestCheckDb::connection()
 
 ToolRun TestCheckDb::check(const QStringList &more)
 {
-    return runTool(QStringList{"check-db", "--json"} + connection() + more);
+    return runTool(QStringList{"check-db", "--json"} + connection() + kTimeouts + more);
 }
 
 ToolRun TestCheckDb::checkWithConfiguration(const QString &text)
@@ -171,7 +177,7 @@ void TestCheckDb::theReferenceDatabaseIsFine()
 
 void TestCheckDb::theTextReportNamesWhatWasChecked()
 {
-    const ToolRun run = runTool(QStringList{"check-db"} + connection());
+    const ToolRun run = runTool(QStringList{"check-db"} + connection() + kTimeouts);
     COMPARE_EXIT(run, ExitStatus::Fine);
     QVERIFY2(
         run.out.startsWith("Database tepdb\n==============\n\nServer\n------\nServer: MariaDB "),
@@ -973,9 +979,47 @@ void TestCheckDb::countingFoundRowsIsAViolation()
 {
     QFETCH(QString, options);
     QFETCH(bool, counts);
-    const ToolRun run = check({"--connect-options", options});
+    const ToolRun run = check({"--connect-options", options + ';' + kTimeouts.last()});
     COMPARE_EXIT(run, counts ? ExitStatus::ContractBroken : ExitStatus::Fine);
     QCOMPARE(run.rules(), counts ? QStringList("found-rows") : QStringList());
+}
+
+void TestCheckDb::aConnectionThatWaitsForEverIsReported_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("missing");
+    const QString limits = kTimeouts.last();
+    QTest::newRow("no options") << QString()
+                                << "MYSQL_OPT_CONNECT_TIMEOUT, MYSQL_OPT_READ_TIMEOUT, "
+                                   "MYSQL_OPT_WRITE_TIMEOUT";
+    QTest::newRow("reading only") << "MYSQL_OPT_READ_TIMEOUT=120"
+                                  << "MYSQL_OPT_CONNECT_TIMEOUT, MYSQL_OPT_WRITE_TIMEOUT";
+    QTest::newRow("all") << limits << QString();
+    QTest::newRow("all, with blanks")
+        << " MYSQL_OPT_CONNECT_TIMEOUT = 5 ; MYSQL_OPT_READ_TIMEOUT = 5; MYSQL_OPT_WRITE_TIMEOUT=5"
+        << QString();
+    QTest::newRow("0") << limits + ";MYSQL_OPT_READ_TIMEOUT=0"
+                       << "MYSQL_OPT_READ_TIMEOUT";
+    QTest::newRow("0, replaced") << "MYSQL_OPT_READ_TIMEOUT=0;" + limits << QString();
+    QTest::newRow("below 0") << limits + ";MYSQL_OPT_WRITE_TIMEOUT=-1"
+                             << "MYSQL_OPT_WRITE_TIMEOUT";
+}
+
+void TestCheckDb::aConnectionThatWaitsForEverIsReported()
+{
+    QFETCH(QString, options);
+    QFETCH(QString, missing);
+    // The limit of the tool itself is not that of the attendance server.
+    const ToolRun run = check({"--connect-options", options, "--read-timeout", "60"});
+    COMPARE_EXIT(run, missing.isEmpty() ? ExitStatus::Fine : ExitStatus::Findings);
+    QCOMPARE(run.rules(), missing.isEmpty() ? QStringList() : QStringList("no-timeout"));
+    const QString message = run.findings().first().toObject().value("message").toString();
+    QCOMPARE(message.section(" lack ", 1).section('.', 0, 0), missing);
+}
+
+void TestCheckDb::theConnectionOfAnotherAccountMayWait()
+{
+    COMPARE_EXIT(check({"--connect-options", QString(), "--other-account"}), ExitStatus::Fine);
 }
 
 void TestCheckDb::nothingIsWritten()
@@ -1003,6 +1047,25 @@ void TestCheckDb::aProcedureThatWritesForEverybodyIsStopped()
     const DatabaseState before = m_db.dumpAll();
     COMPARE_EXIT(check(), ExitStatus::Fine);
     QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
+}
+
+void TestCheckDb::aPayrollExportThatCannotBeReadIsNotMissing()
+{
+    MySqlProxy proxy(m_db.server().socketPath());
+    Disturbance damage;
+    damage.way = Disturbance::Way::Refuse;
+    damage.errorNumber = 1034;
+    damage.sqlState = "HY000";
+    damage.errorText = "Index for table 'vars' is corrupt; try to repair it";
+    proxy.disturb("SELECT name", damage);
+    proxy.release();
+    const ToolRun run = check({"--socket", proxy.socketPath()});
+    COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QCOMPARE(
+        run.failure(),
+        QString("The database cannot be used: Index for table 'vars' is corrupt; try to repair "
+                "it."));
+    QCOMPARE(run.rules(), QStringList());
 }
 
 void TestCheckDb::anUnreachableServerIsNoDatabase()

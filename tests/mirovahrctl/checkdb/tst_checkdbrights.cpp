@@ -87,7 +87,7 @@ ToolRun TestCheckDbRights::check(const char *account, const QStringList &more)
     return runTool(QStringList{"check-db", "--json", "--socket", m_db.server().socketPath(),
                                "--database", m_db.server().databaseName(), "--user", account,
                                "--password-file", m_db.server().passwordFile()}
-                   + more);
+                   + kTimeouts + more);
 }
 
 void TestCheckDbRights::theAccountOfThePluginIsFine()

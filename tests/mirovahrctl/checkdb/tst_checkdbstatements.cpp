@@ -137,7 +137,7 @@ ToolRun TestCheckDbStatements::check(const QString &user, const QStringList &mor
     return runTool(QStringList{"check-db", "--json", "--socket", m_db.server().socketPath(),
                                "--database", m_db.server().databaseName(), "--user", user,
                                "--password-file", m_db.server().passwordFile()}
-                   + more);
+                   + kTimeouts + more);
 }
 
 QMap<QString, QString> TestCheckDbStatements::scans(const ToolRun &run) const
