@@ -78,7 +78,7 @@ void TestManuals::aManualKnowsEveryOption_data()
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("program");
     QTest::addColumn<int>("options");
-    QTest::newRow("yavhost") << "yavhost" << YAVHOST << 13;
+    QTest::newRow("yavhost") << "yavhost" << YAVHOST << 14;
     QTest::newRow("private-mariadb") << "private-mariadb" << PRIVATE_MARIADB << 7;
 }
 

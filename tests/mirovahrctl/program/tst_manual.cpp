@@ -109,7 +109,7 @@ void TestManual::completion_data()
     QTest::newRow("the beginning of an option")
         << QStringList{"check-file", "x", "--pass"} << QStringList{"--password-file"};
     QTest::newRow("an option behind a flag")
-        << QStringList{"check-file", "--json", "--re"} << QStringList{"--rejects"};
+        << QStringList{"check-file", "--json", "--rej"} << QStringList{"--rejects"};
     QTest::newRow("a file") << QStringList{"check-file", "/etc/hostnam"}
                             << QStringList{"/etc/hostname"};
     QTest::newRow("a file behind a flag")
