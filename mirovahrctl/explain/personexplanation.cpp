@@ -331,8 +331,9 @@ void PersonExplanation::writeRecalculation()
                 m_outcome->recalculation.text());
     report.fact(QStringLiteral("recalculationCauses"), QStringLiteral("Recalculation because of"),
                 causes.isEmpty() ? QStringLiteral("none") : causes.join(QStringLiteral(", ")));
+    const auto days = m_context.person.recalculatedDays();
     report.fact(QStringLiteral("recalculatedDays"), QStringLiteral("Days of attendance to mark"),
-                m_context.person.recalculatedDays());
+                days ? QVariant(*days) : QVariant(QStringLiteral("uncertain")));
     const qint64 before = m_context.person.lastCalculationBefore();
     const qint64 after = m_context.person.lastCalculation();
     if (after > before && before != 0) {

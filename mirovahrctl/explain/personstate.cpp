@@ -92,10 +92,12 @@ bool PersonState::hasOpenDays()
 void PersonState::add(const MirovaRonRecord &record)
 {
     // Creating a row does not set `edited`, so the first merging always changes the row.
-    if (exists())
+    if (exists()) {
         m_added = record;
-    else
-        m_isCreated = true;
+        return;
+    }
+    m_isCreated = true;
+    m_leftBehind = RowsLeftBehind::read(m_view.sql());
 }
 
 bool PersonState::isAddedAs(const MirovaRonRecord &record) const
@@ -185,10 +187,12 @@ void PersonState::recalculate(const QDate &firstDay)
     }
 }
 
-int PersonState::recalculatedDays()
+std::optional<int> PersonState::recalculatedDays()
 {
     if (!m_recalculatedFrom)
         return 0;
+    if (m_leftBehind.areIn("atten"))
+        return std::nullopt;
     return m_view.sql()
         .value(QString(QLatin1String(kCountDaysToMark)).arg(uid()).arg(*m_recalculatedFrom))
         .toInt();

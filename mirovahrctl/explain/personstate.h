@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mirovahrctl/explain/rowsleftbehind.h"
 #include "mirovahrctl/site/personrow.h"
 #include "worker/mirovaronrecord.h"
 #include "worker/recorddecisions.h"
@@ -46,6 +47,8 @@ public:
     void add(const MirovaRonRecord &record);
     /// Whether an earlier record has created the row, or was merged into it.
     bool isAdded() const { return m_isCreated || m_added; }
+    /// What a person whom a record has created may take over; none for everybody else.
+    const RowsLeftBehind &leftBehind() const { return m_leftBehind; }
     /// Whether merging this record writes what an earlier one has just written. Within the same
     /// second that changes no row, which the plugin treats as a failure.
     bool isAddedAs(const MirovaRonRecord &record) const;
@@ -85,8 +88,9 @@ public:
     /// The last calculation (Unix time) as it was, and as it is now.
     qint64 lastCalculationBefore() const { return m_row ? m_row->lastCalc : 0; }
     qint64 lastCalculation() const { return m_lastCalc; }
-    /// The number of days of attendance that recalculate() newly marks as not calculated.
-    int recalculatedDays();
+    /// The number of days of attendance that recalculate() newly marks as not calculated; nothing
+    /// when there may be days that were left behind.
+    std::optional<int> recalculatedDays();
 
     /// Whether the record waits for its branch or calendar group.
     bool waits(const MirovaRonRecord &record) const { return m_waiting.contains(record); }
@@ -106,6 +110,7 @@ private:
     std::optional<MirovaRonRecord> m_last;
     std::optional<MirovaRonRecord> m_added; ///< what the last merging has written
     bool m_isCreated = false;
+    RowsLeftBehind m_leftBehind;
     bool m_isSelected = false;
     std::optional<uint> m_payrollSettings;
     bool m_fundRetry = false; ///< the previous record could not correct the balance

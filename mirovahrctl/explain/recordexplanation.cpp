@@ -8,6 +8,19 @@
 
 namespace {
 
+/// What the plugin does not do where a new person has a row already.
+struct Step {
+    const char *table;
+    QString RecordOutcome::*word;
+};
+
+constexpr Step kSteps[] = {
+    {"admins_people", &RecordOutcome::supervisor},
+    {"brape", &RecordOutcome::branch},
+    {"groups_plan", &RecordOutcome::calendar},
+    {"people_pam", &RecordOutcome::payrollSettings},
+};
+
 /// Whether the last day of the record is over.
 bool isOver(const MirovaRonRecord &record, const QDate &today)
 {
@@ -34,6 +47,7 @@ RecordOutcome RecordExplanation::explain()
         explainSteps();
     else
         explainRepetition();
+    doubtOutcome();
     m_outcome.waits = m_person.waits(m_record);
     m_person.remember(m_record);
     return m_outcome;
@@ -62,6 +76,16 @@ void RecordExplanation::explainRepetition()
         m_person.exists() ? QStringLiteral("unchanged") : QStringLiteral("never-created");
     if (m_active && m_person.waits(m_record))
         explainPlace();
+}
+
+void RecordExplanation::doubtOutcome()
+{
+    const RowsLeftBehind &rows = m_person.leftBehind();
+    for (const Step &step : kSteps) {
+        if (rows.areIn(step.table) && m_outcome.*step.word != QLatin1String("none"))
+            m_outcome.*step.word = QStringLiteral("uncertain");
+    }
+    m_outcome.recalculation.isUncertain = rows.areIn("groups_plan");
 }
 
 void RecordExplanation::explainState()

@@ -48,6 +48,7 @@ private:
     void explainPayrollSettings();
     void explainKeptSettings(ushort settings);
     void explainHarmfulText(const QString &stateText);
+    void explainRowsLeftBehind();
     void explainTestMode(const char *operation, const char *what);
 
     // Balance and supervisor
@@ -68,6 +69,8 @@ private:
     void explainWaiting(bool isPlaced);
     void explainRecalculation();
     void requestRecalculation(bool moves, bool isCorrected);
+    /// Takes back what does not hold for somebody who takes over rows of a deleted person.
+    void doubtOutcome();
 
     void section(const char *id, const char *heading);
     void say(const QString &sentence);

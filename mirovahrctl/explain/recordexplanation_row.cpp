@@ -278,8 +278,24 @@ void RecordExplanation::explainAddition()
     say(QStringLiteral(
         "The vacation balance of a new person is corrected by a later synchronisation."));
     explainHarmfulText(stateText);
-    if (!m_isHarmful)
-        m_person.add(m_record);
+    if (m_isHarmful)
+        return;
+    m_person.add(m_record);
+    if (isPerson("created"))
+        explainRowsLeftBehind();
+}
+
+void RecordExplanation::explainRowsLeftBehind()
+{
+    const RowsLeftBehind &rows = m_person.leftBehind();
+    if (rows.tables().isEmpty())
+        return;
+    m_context.report.add(
+        ExplainRules::kRowsLeftBehind,
+        QStringLiteral("The person gets the uid %1 or a later one. Under those uids there are rows "
+                       "of %2, which somebody who was deleted has left behind. The person takes "
+                       "over those of the own uid, and what follows may turn out differently.")
+            .arg(QString::number(rows.nextUid()), rows.tables().join(QStringLiteral(", "))));
 }
 
 void RecordExplanation::explainPayroll()

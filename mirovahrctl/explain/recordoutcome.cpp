@@ -30,9 +30,11 @@ const QVector<Weight> &weights()
          {QStringLiteral("uncertain"), QStringLiteral("set"), QStringLiteral("unknown"),
           QStringLiteral("kept")}},
         {&RecordOutcome::branch,
-         {QStringLiteral("joins"), QStringLiteral("unknown"), QStringLiteral("member")}},
+         {QStringLiteral("uncertain"), QStringLiteral("joins"), QStringLiteral("unknown"),
+          QStringLiteral("member")}},
         {&RecordOutcome::calendar,
-         {QStringLiteral("planned"), QStringLiteral("unknown"), QStringLiteral("kept")}},
+         {QStringLiteral("uncertain"), QStringLiteral("planned"), QStringLiteral("unknown"),
+          QStringLiteral("kept")}},
     };
     return all;
 }
@@ -57,6 +59,7 @@ void addTo(RecordOutcome &sum, const RecordOutcome &outcome)
         for (const QString &cause : outcome.recalculation.causes)
             sum.recalculation.add(*outcome.recalculation.from, cause);
     }
+    sum.recalculation.isUncertain |= outcome.recalculation.isUncertain;
     sum.waits = sum.waits || outcome.waits;
 }
 
@@ -74,6 +77,8 @@ QString Recalculation::text() const
 {
     if (!from)
         return QStringLiteral("none");
+    if (isUncertain)
+        return QStringLiteral("uncertain");
     return from->isValid() ? from->toString(Qt::ISODate) : QStringLiteral("all");
 }
 

@@ -11,10 +11,11 @@
 struct Recalculation {
     std::optional<QDate> from; ///< nothing: not at all; an invalid date: all of it
     QStringList causes; ///< state, calendar, moved, balance
+    bool isUncertain = false; ///< it may not be needed
 
     /// Adds a cause; the earliest day counts.
     void add(const QDate &day, const QString &cause);
-    /// "2026-03-01", "all" or "none".
+    /// "2026-03-01", "all", "none" or "uncertain".
     QString text() const;
 };
 
@@ -26,8 +27,8 @@ struct RecordOutcome {
     QString payrollSettings; ///< set, kept, none, uncertain
     QString balance; ///< corrected, equal, later, impossible, kept, no-fund, none
     QString supervisor; ///< set, kept, unknown, none, uncertain
-    QString branch; ///< joins, member, unknown, none
-    QString calendar; ///< planned, kept, unknown, none
+    QString branch; ///< joins, member, unknown, none, uncertain
+    QString calendar; ///< planned, kept, unknown, none, uncertain
     Recalculation recalculation;
     bool waits = false; ///< the record waits for its branch or calendar afterwards
 

@@ -87,6 +87,11 @@ inline constexpr Rule kPersonMissing{"person-missing", Severity::Warning,
                                      "The person has no row to which a step could apply.",
                                      "See above why the person has no row with this pid."};
 
+inline constexpr Rule kRowsLeftBehind{
+    "rows-left-behind", Severity::Warning,
+    "Rows of somebody who was deleted lie under a uid that the new person may get.",
+    "Delete them, or raise AUTO_INCREMENT of people above their uids."};
+
 inline constexpr Rule kStateBreaksStatement{
     "state-breaks-statement", Severity::Warning,
     "The text of the relationship state breaks the statement that writes the row.",
@@ -103,13 +108,12 @@ inline constexpr Rule kTestMode{"test-mode", Severity::Warning,
 
 /// All of them, in the order of `mirovahrctl rules`.
 inline constexpr const Rule *kAll[] = {
-    &kBalanceNotWritten,  &kBranchIdLarge,    &kBranchUnknown,
-    &kCalculationForward, &kCalendarUnknown,  &kDisabled,
-    &kGateRefused,        &kLeftAlready,      &kLinesNotExplained,
-    &kNoPayrollExport,    &kNobodyFound,      &kNotInDatabase,
-    &kNotInExport,        &kPayrollIdStrange, &kPayrollSettingsKept,
-    &kPersonAmbiguous,    &kPersonMissing,    &kStateBreaksStatement,
-    &kSupervisorUnknown,  &kTestMode,
+    &kBalanceNotWritten, &kBranchIdLarge,    &kBranchUnknown,        &kCalculationForward,
+    &kCalendarUnknown,   &kDisabled,         &kGateRefused,          &kLeftAlready,
+    &kLinesNotExplained, &kNoPayrollExport,  &kNobodyFound,          &kNotInDatabase,
+    &kNotInExport,       &kPayrollIdStrange, &kPayrollSettingsKept,  &kPersonAmbiguous,
+    &kPersonMissing,     &kRowsLeftBehind,   &kStateBreaksStatement, &kSupervisorUnknown,
+    &kTestMode,
 };
 
 } // namespace ExplainRules

@@ -624,6 +624,13 @@ void TestExplain::findings_data()
         "this person, but writes by pid: it changes nobody, or somebody else.",
         {"UPDATE people SET pamId = '3403.1' WHERE uid = 4"}, {}, "warning",
         "another row with the payroll id");
+    add("rows-left-behind", newcomer(3406),
+        "The person gets the uid 4000000 or a later one. Under those uids there are rows of atten, "
+        "brape, which somebody who was deleted has left behind",
+        {"ALTER TABLE people AUTO_INCREMENT = 4000000",
+         "INSERT INTO atten (uid, `date`) VALUES (4000000, 1754949600)",
+         "INSERT INTO brape (uid, bid) VALUES (4000001, 1)",
+         "INSERT INTO groups_plan (uid, since, gid) VALUES (3999999, 202504, 2)"});
     add("quote-in-text", jana().with(&R::prijmeni, "O'Hara"), "The text \"O'Hara\" contains an", {},
         {}, "error");
 }

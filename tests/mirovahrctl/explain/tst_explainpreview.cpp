@@ -190,6 +190,8 @@ void TestExplainPreview::compare(const Explained &person, const QVector<Previewe
             return some.after["value"].split(',').contains(person.pid)
                 && !some.before["value"].split(',').contains(person.pid);
         }));
+    if (person.facts.value("recalculatedDays") == "uncertain")
+        return;
     const int days = own.value("atten").size();
     QVERIFY2(person.facts.value("recalculatedDays").toInt() == days, qPrintable(person.payrollId));
 }

@@ -15,6 +15,9 @@ class TestExplainWorker : public WorkerTest {
 private Q_SLOTS:
     void whatIsExplainedHappens_data();
     void whatIsExplainedHappens();
+    void attendanceThatADeletedPersonLeftBehindMayBeMarked();
+    void whatDependsOnRowsLeftBehindIsUncertain_data();
+    void whatDependsOnRowsLeftBehindIsUncertain();
     void aDroppedLineDoesNothing();
     void aSecondLineIsWrittenWhenSomethingDiffers_data();
     void aSecondLineIsWrittenWhenSomethingDiffers();
@@ -23,6 +26,8 @@ private Q_SLOTS:
 
 private:
     ToolRun explain(const QVector<ExportRow> &lines, const QByteArray &configuration = {});
+    /// The uid of the next new person.
+    QString nextUid();
     static void compareWarnings(const ToolRun &run, const QStringList &log);
     Trace synchroniseAs(const QByteArray &configuration);
     void configureAs(const QByteArray &configuration);
@@ -214,6 +219,61 @@ void TestExplainWorker::whatIsExplainedHappens()
     QCOMPARE(facts.join(' '), words);
 
     compareWarnings(run, trace.log);
+}
+
+QString TestExplainWorker::nextUid()
+{
+    return m_db
+        .value("SELECT AUTO_INCREMENT FROM information_schema.TABLES WHERE TABLE_SCHEMA ="
+               " DATABASE() AND TABLE_NAME = 'people'")
+        .toString();
+}
+
+void TestExplainWorker::attendanceThatADeletedPersonLeftBehindMayBeMarked()
+{
+    const ExportRow line = SampleExport::newcomer(3112).with(&ExportRow::kalendarPlatnostOd,
+                                                             "2025-04-01 00:00:00.000");
+    QCOMPARE(ExplainedSite::facts(explain({line})).value("recalculatedDays"), QJsonValue(0));
+    m_db.run("INSERT INTO atten (uid, `date`, ok) VALUES (" + nextUid() + ", 1754949600, 1)");
+    const ToolRun run = explain({line});
+    QCOMPARE(ExplainedSite::facts(run).value("recalculatedDays"), QJsonValue("uncertain"));
+    QCOMPARE(run.findingsOf("rows-left-behind").size(), 1);
+    synchronise();
+    QCOMPARE(m_db.value("SELECT ok FROM people JOIN atten USING (uid) WHERE pid = 31121").toInt(),
+             -1);
+}
+
+void TestExplainWorker::whatDependsOnRowsLeftBehindIsUncertain_data()
+{
+    QTest::addColumn<QString>("row"); // that lies under the next uid
+    QTest::addColumn<QStringList>("facts"); // that depend on it
+    QTest::newRow("calendar group") << "groups_plan (uid, since, gid) VALUES (%1, 202504, 2)"
+                                    << QStringList{"calendar", "recalculation"};
+    QTest::newRow("administrator")
+        << "admins_people (uid, aid, request) VALUES (%1, 2, 1)" << QStringList{"supervisor"};
+    QTest::newRow("branch") << "brape (uid, bid) VALUES (%1, 1)" << QStringList{"branch"};
+    QTest::newRow("payroll export")
+        << "people_pam (uid, id) VALUES (%1, 1)" << QStringList{"payrollSettings"};
+}
+
+void TestExplainWorker::whatDependsOnRowsLeftBehindIsUncertain()
+{
+    QFETCH(QString, row);
+    QFETCH(QStringList, facts);
+    m_db.run("INSERT INTO " + row.arg(nextUid()));
+    const ToolRun run =
+        explain({SampleExport::newcomer(3112)
+                     .with(&ExportRow::nadrizenyOsobniCislo, 1002)
+                     .with(&ExportRow::kalendarPlatnostOd, "2025-04-01 00:00:00.000")});
+    QStringList uncertain;
+    const QJsonObject all = ExplainedSite::facts(run);
+    for (auto fact = all.begin(); fact != all.end(); ++fact) {
+        if (fact.value() == QJsonValue("uncertain"))
+            uncertain += fact.key();
+    }
+    uncertain.sort();
+    facts.sort();
+    QCOMPARE(uncertain, facts);
 }
 
 void TestExplainWorker::aDroppedLineDoesNothing()
