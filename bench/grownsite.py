@@ -132,11 +132,19 @@ def move(person, today):
     return person
 
 
+def is_moved(uid):
+    return uid % MOVED == 1
+
+
+def moved_uids(people):
+    return [uid for uid in range(1, people + 1) if is_moved(uid)]
+
+
 def write_export(file, people, today):
     for person in data.people(people):
         if person.uid % CHANGED == 0:
             change(person, person.uid // CHANGED)
-        elif person.uid % MOVED == 1:
+        elif is_moved(person.uid):
             move(person, today)
         file.write(person.line() + "\n")
 

@@ -1,9 +1,10 @@
 """Runs the programs of this folder beside a private database server and writes what they measured.
 
-    measure.py [--quick] BUILD FOLDER [SECTION...]
+    measure.py [--quick] BUILD FOLDER [SECTION...] [--people N --years Y]
 
 BUILD is the build folder, FOLDER where runs.csv and facts.json are kept. Sections that are not named
-keep what an earlier run has measured. See scripts/bench.
+keep what an earlier run has measured, and so do the other sites when one is named by its people and
+years. See scripts/bench.
 """
 
 import argparse
@@ -19,6 +20,7 @@ import tempfile
 import time
 
 import data
+from sitebench import SiteBench
 
 #: What is measured how often and for how long at most (rounds, seconds), by size.
 FULL = {
@@ -27,6 +29,9 @@ FULL = {
     "serve": {1_000: (51, 20), 10_000: (15, 40), 100_000: (7, 60)},
     "load": {1_000: (9, 90), 3_000: (7, 210), 10_000: (7, 900)},
     "start": {0: (31, 30)},
+    # Years, rounds and seconds by people; rounds by lines of a file.
+    "site": {500: (5, 5, 300), 5_000: (10, 3, 900)},
+    "files": {5_000: 9, 1_000_000: 3},
 }
 QUICK = {
     "reading": {10_000: (5, 5)},
@@ -34,6 +39,8 @@ QUICK = {
     "serve": {1_000: (5, 5)},
     "load": {200: (1, 10)},
     "start": {0: (5, 5)},
+    "site": {100: (1, 1, 5)},
+    "files": {1_000: 1},
 }
 #: Small, and the same in both forms: the counts are compared with those kept.
 COUNTED = {"reading": 10_000, "serve": 1_000, "load": 200}
@@ -45,6 +52,7 @@ class Bench:
     def __init__(self, build, scratch, plan):
         self.programs = build / "bench"
         self.plugin = build / "lib/libmirovahr.so"
+        self.tool = build / "bin/mirovahrctl"
         self.scratch = scratch
         self.plan = plan
         self.runs = []
@@ -52,11 +60,21 @@ class Bench:
 
     # ---- the database ----------------------------------------------------------------------
 
+    @staticmethod
+    def client(*options):
+        return ["mariadb", "--no-defaults", "--user=root", "--default-character-set=utf8mb4",
+                "--socket=" + os.environ["MIROVAHR_DB_SOCKET"], *options,
+                os.environ["MIROVAHR_DB_NAME"]]
+
     def sql(self, text):
-        subprocess.run(
-            ["mariadb", "--no-defaults", "--user=root", "--default-character-set=utf8mb4",
-             "--socket=" + os.environ["MIROVAHR_DB_SOCKET"], os.environ["MIROVAHR_DB_NAME"]],
-            input=text.encode(), check=True)
+        subprocess.run(self.client(), input=text.encode(), check=True)
+
+    def sql_file(self, path):
+        with open(path, "rb") as file:
+            subprocess.run(self.client(), stdin=file, check=True)
+
+    def value(self, query):
+        return output_of(*self.client("--skip-column-names", "--batch", "--execute", query)).strip()
 
     # ---- the programs ----------------------------------------------------------------------
 
@@ -155,6 +173,14 @@ class Bench:
             "all": len(output_of("ldd", library).splitlines()),
         }
 
+    def site(self):
+        site = SiteBench(self)
+        for people, limits in self.plan["site"].items():
+            site.measure_site(people, *limits)
+        for lines, rounds in self.plan["files"].items():
+            site.measure_files(lines, rounds)
+        self.sql(data.frame_sql())
+
     def instructions(self):
         export = self.scratch / "plain"
         data.write_export(export, COUNTED["reading"])
@@ -188,7 +214,7 @@ class Bench:
         counts.rmdir()
 
 
-SECTIONS = ["reading", "idle", "serve", "load", "start", "instructions"]
+SECTIONS = ["reading", "idle", "serve", "load", "start", "site", "instructions"]
 
 
 def output_of(*command):
@@ -223,7 +249,8 @@ class Results:
             self.facts = json.loads(self.facts_file.read_text(encoding="utf-8"))
 
     def replace(self, section, bench):
-        self.runs = [run for run in self.runs if run[0] != section] + bench.runs
+        measured = {(run[0], str(run[1])) for run in bench.runs}
+        self.runs = [run for run in self.runs if (run[0], str(run[1])) not in measured] + bench.runs
         for group, facts in bench.facts.items():
             self.facts.setdefault(group, {}).update(facts)
         self.facts.setdefault("machine", {})[section] = machine()
@@ -246,15 +273,21 @@ def main():
     parser.add_argument("build", type=pathlib.Path)
     parser.add_argument("folder", type=pathlib.Path)
     parser.add_argument("sections", nargs="*")
-    arguments = parser.parse_args()
+    parser.add_argument("--people", type=int)
+    parser.add_argument("--years", type=int)
+    arguments = parser.parse_intermixed_args()
     if not set(arguments.sections) <= set(SECTIONS):
         sys.exit("sections: " + " ".join(SECTIONS))
+    if (arguments.people is None) != (arguments.years is None):
+        sys.exit("--people and --years go together")
 
     results = Results(arguments.folder)
     # In the server's own folder, which goes away with the server in any case.
     folder = os.path.dirname(os.environ["MIROVAHR_DB_SOCKET"])
     with tempfile.TemporaryDirectory(prefix="bench-", dir=folder) as scratch:
         plan = QUICK if arguments.quick else FULL
+        if arguments.people:
+            plan = {**plan, "site": {arguments.people: (arguments.years, 1, 1)}, "files": {}}
         Bench(arguments.build.resolve(), pathlib.Path(scratch), plan).sql(data.frame_sql())
         for section in arguments.sections or SECTIONS:
             begin = time.monotonic()

@@ -51,9 +51,29 @@ class Measured:
     def comparisons(self):
         for section, what in (("reading", "reading"), ("idle", "idle"), ("serve", "unchanged"),
                               ("serve", "waiting"), ("serve", "funds"), ("serve", "changed"),
-                              ("load", "load"), ("load", "payroll"), ("start", "start")):
+                              ("load", "load"), ("load", "payroll"), ("site", "site"),
+                              ("start", "start")):
             for size in self.sizes(section, what):
                 yield section, size, what
+
+
+    def tool(self, what, size):
+        """The median of the wall times of an operator's tool, or of the dump."""
+        return statistics.median(run[0] for run in self.runs["site", size, what, "tool"])
+
+    def preview_ratio(self, people):
+        """The times of preview to those of the dump and the synchronisation that followed it."""
+        preview, dump, plugin = (self.runs["site", people, *who] for who in (
+            ("preview", "tool"), ("dump", "tool"), ("site", "plugin")))
+        return statistics.median(a[0] / (b[0] + c[0]) for a, b, c in zip(preview, dump, plugin))
+
+    def sites(self):
+        """What was noted of each site, by its people."""
+        return {int(people): facts for people, facts in self.facts.get("site", {}).items()}
+
+    def files(self):
+        """What was noted of each file, by its lines."""
+        return {int(lines): facts for lines, facts in self.facts.get("files", {}).items()}
 
 
 # ---- Texts -----------------------------------------------------------------------------------
@@ -117,11 +137,77 @@ def aims_table(measured):
         ("1 % changed, CPU time to (q)", 1.3, worst("cpu_qt", *changed)),
         ("idle tick, wall time to (q)", 1.05, worst("ratio_qt", ("idle", "idle"))),
         ("memory between cycles to the size of the file", 3, max(kept) if kept else None),
+        *site_aims(measured),
     ]
     rows = [(name, aim, f"{value[0]:.2f}", f"{value[1]:,}" if value[1] else "",
              "yes" if round(value[0], 2) <= aim else "**no**")
             for name, aim, value in aims if value]
     return table(["", "aim, at most", "measured, largest", "at size", "reached"], rows)
+
+
+def site_aims(measured):
+    """Those for a site with years of attendance: seconds, and millions of bytes."""
+    sites, files = measured.sites(), measured.files()
+
+    def longest(what, sizes):
+        return max(((measured.tool(what, size), size) for size in sizes), default=None)
+
+    def largest(find):
+        return max(((find(facts), people) for people, facts in sites.items()), default=None)
+
+    return [
+        ("preview, time to one dump and one synchronisation", 2,
+         max(((measured.preview_ratio(people), people) for people in sites), default=None)),
+        *((f"preview of {people:,} people, seconds", aim, (measured.tool("preview", people), people))
+          for people, aim in ((500, 8), (5000, 60)) if people in sites),
+        ("preview, memory with its server, MB", 300,
+         largest(lambda facts: facts["memory"]["preview"] / 1e6)),
+        ("preview, room below TMPDIR, MB", 500,
+         largest(lambda facts: facts["room"]["preview"] / 1e6)),
+        ("preview, seconds of a connection to the site's server", 20,
+         largest(lambda facts: facts["connected"])),
+        ("preview, how often all of `atten` is read", 1, largest(lambda facts: facts["scans"])),
+        ("explain, seconds", 1, longest("explain", sites)),
+        ("check-db, seconds", 3, longest("check-db", sites)),
+        ("status, seconds", 0.5, longest("status", sites)),
+        *((f"{what} of {lines:,} lines, seconds", 1 if lines <= 5000 else 20,
+           (measured.tool(what, lines), lines))
+          for what in ("check-file", "gate") for lines in files),
+        *((f"{what}, memory to the size of the file", 3,
+           max((facts["memory"][what] / facts["bytes"], lines)
+               for lines, facts in files.items() if lines > 5000))
+          for what in ("check-file", "gate") if any(lines > 5000 for lines in files)),
+    ]
+
+
+def preview_table(measured):
+    return table(
+        ["people", "years", "days of attendance", "preview", "one dump", "one synchronisation",
+         "preview to both", "connected to the site", "of that its server is busy",
+         "`atten` is read", "memory", "below TMPDIR"],
+        [(f"{people:,}", facts["years"], f"{facts['days']:,}",
+          duration(measured.tool("preview", people)), duration(measured.tool("dump", people)),
+          duration(measured.figures("site", people, "site").wall),
+          f"**{measured.preview_ratio(people):.2f}**", f"{facts['connected']} s",
+          duration(facts["busy"]), f"{facts['scans']:.2f} times",
+          megabytes(facts["memory"]["preview"]), megabytes(facts["room"]["preview"]))
+         for people, facts in sorted(measured.sites().items())])
+
+
+def tools_table(measured):
+    rows = [(what, f"{people:,} people", duration(measured.tool(what, people)),
+             megabytes(facts["memory"][what]))
+            for what in ("explain", "check-db", "status")
+            for people, facts in sorted(measured.sites().items())]
+    rows += [(what, f"{lines:,} lines, {megabytes(facts['bytes'])}",
+              duration(measured.tool(what, lines)), megabytes(facts["memory"][what]))
+             for what in ("check-file", "gate", "diff")
+             for lines, facts in sorted(measured.files().items())]
+    return table(["", "", "time", "memory"], rows)
+
+
+def megabytes(count):
+    return f"{count / 1e6:.3g} MB"
 
 
 def memory_table(measured):
@@ -138,7 +224,8 @@ def memory_table(measured):
 
 def statements_table(measured):
     names = {"unchanged": "nothing changed", "waiting": "a tenth waits", "funds": "funds on",
-             "changed": "1 % changed", "load": "first load", "payroll": "first load, payroll export"}
+             "changed": "1 % changed", "load": "first load", "payroll": "first load, payroll export",
+             "site": "a site of years, forced"}
     rows = []
     for key, count in measured.facts["statements"].items():
         what, size = key.rsplit(" ", 1)
@@ -296,6 +383,9 @@ def write_page(measured, folder):
         load=comparison_table(
             measured, "load", {"load": "", "payroll": "with a payroll export,"}, "an employee"),
         payroll=payroll_table(measured),
+        preview=preview_table(measured),
+        tools=tools_table(measured),
+        site=comparison_table(measured, "site", {"site": ""}, "an employee"),
         idle=comparison_table(measured, "idle", {"idle": "idle tick"}),
         memory=memory_table(measured),
         start=comparison_table(measured, "start", {"start": "start"}),

@@ -16,7 +16,7 @@ test_packages=(chromium libfaketime man-db mandoc xz-utils zstd)
 cluster_packages=(galera-4 haproxy iproute2 lsof rsync)
 
 # What it takes to measure the plugin.
-bench_packages=(binutils gnuplot-nox libmariadb-dev python3 valgrind)
+bench_packages=(binutils gnuplot-nox libmariadb-dev mariadb-client python3 valgrind)
 
 # What it takes to make the Debian packages.
 package_packages=(dpkg-dev git)
