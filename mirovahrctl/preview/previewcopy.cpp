@@ -1,7 +1,10 @@
 #include "mirovahrctl/preview/previewcopy.h"
 
+#include "mirovahrctl/preview/previewreading.h"
 #include "mirovahrctl/preview/previewschema.h"
 #include "mirovahrctl/preview/previewselection.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -64,18 +67,19 @@ bool PreviewCopy::copyTable(SqlSession &site, const PreviewTable &table, const L
 
 bool PreviewCopy::copyRows(SqlSession &site, const PreviewTable &table, const Listener &listener)
 {
-    const QString name = SqlSession::name(table.name);
     const auto take = [&](const QStringList &row) {
         m_tuples += m_tuples.isEmpty() ? QString() : QStringLiteral(", ");
         m_tuples += table.tuple(row);
         listener(++m_copied, m_schema.rowEstimate());
         return m_tuples.size() < kBatch || flush(table);
     };
-    const QString rows = m_selection.rowsOf(table.name);
-    if (site.forEachRow(QStringLiteral("SELECT %1 FROM %2").arg(table.expressions(name), name)
-                            + (rows.isEmpty() ? QString() : QStringLiteral(" WHERE ") + rows),
-                        take)
-        && flush(table))
+    PreviewReading reading(site, table);
+    const QStringList portions = m_selection.portionsOf(table);
+    const bool isRead =
+        std::all_of(portions.cbegin(), portions.cend(), [&](const QString &condition) {
+            return condition.isEmpty() ? reading.readAll(take) : reading.readWhere(condition, take);
+        });
+    if (isRead && flush(table))
         return true;
     const QString what = QStringLiteral("The table %1 cannot be copied").arg(table.name);
     return fail(what, site.failed() ? site : m_server);

@@ -2,6 +2,8 @@
 
 #include "mirovahrctl/site/sqlsession.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <iterator>
 
@@ -27,6 +29,28 @@ constexpr TypeKind kTypeKinds[] = {
     {"time", PreviewColumn::Kind::Other},       {"uuid", PreviewColumn::Kind::Other},
     {"inet4", PreviewColumn::Kind::Other},      {"inet6", PreviewColumn::Kind::Other},
 };
+
+constexpr char kPrimaryKey[] = "PRIMARY KEY";
+constexpr char kUniqueKey[] = "PRIMARY KEY|UNIQUE KEY `(?:[^`]|``)+`";
+constexpr char kKey[] = "PRIMARY KEY|(?:UNIQUE )?KEY `(?:[^`]|``)+`";
+
+/// The columns of each key of a kind, in the order of the definition.
+QVector<QStringList> keysOf(const QString &definition, const char *kind)
+{
+    const QRegularExpression key(QStringLiteral("^\\s*(?:%1) \\((.*)\\)").arg(QLatin1String(kind)),
+                                 QRegularExpression::MultilineOption);
+    static const QRegularExpression column(QStringLiteral("`((?:[^`]|``)+)`"));
+    QVector<QStringList> keys;
+    auto matches = key.globalMatch(definition);
+    while (matches.hasNext()) {
+        QStringList columns;
+        auto names = column.globalMatch(matches.next().captured(1));
+        while (names.hasNext())
+            columns += names.next().captured(1);
+        keys += columns;
+    }
+    return keys;
+}
 
 } // namespace
 
@@ -77,6 +101,23 @@ QString PreviewColumn::literal(const QString &cell) const
         break;
     }
     return SqlSession::literal(cell);
+}
+
+QStringList PreviewTable::primaryKey() const
+{
+    return keysOf(definition, kPrimaryKey).value(0);
+}
+
+QVector<QStringList> PreviewTable::uniqueKeys() const
+{
+    return keysOf(definition, kUniqueKey);
+}
+
+bool PreviewTable::isFoundBy(const QString &column) const
+{
+    const auto keys = keysOf(definition, kKey);
+    return std::any_of(keys.cbegin(), keys.cend(),
+                       [&column](const QStringList &some) { return some.first() == column; });
 }
 
 int PreviewTable::indexOf(const QString &column) const

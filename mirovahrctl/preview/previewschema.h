@@ -37,6 +37,12 @@ struct PreviewTable {
     QString changing; ///< condition for the copied rows that may change; empty: all
     qint64 rowEstimate = 0;
 
+    /// The columns of the primary key; none without one.
+    QStringList primaryKey() const;
+    /// The columns of each unique key, the primary one among them.
+    QVector<QStringList> uniqueKeys() const;
+    /// Whether rows are found by this column: a key begins with it.
+    bool isFoundBy(const QString &column) const;
     /// Position of a column; -1 when there is none.
     int indexOf(const QString &column) const;
     /// The columns' names as an SQL list.

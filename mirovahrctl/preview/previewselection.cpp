@@ -16,8 +16,8 @@ namespace {
 
 struct Reduction {
     const char *table;
-    /// The rows that are copied. {people}: the uids of the people of the export. {moving}: of those
-    /// who may get another calendar group. {next}: the next uid. {day}: the first day that is
+    /// The rows of the people of the export that are copied; none when empty. {people}: their uids.
+    /// {moving}: of those who may get another calendar group. {day}: the first day that is
     /// calculated again when a person has moved or the balance was corrected.
     const char *rows;
     /// Columns of every unique key, separated by blanks: with another key, an insert could hit a
@@ -31,21 +31,20 @@ struct Reduction {
 //
 // Whose rows: the plugin finds a person by the pid of a record, and its statements on these tables
 // name one uid each. A person who is created gets a new uid, for which there may be rows that
-// somebody who was deleted has left behind.
+// somebody who was deleted has left behind: all of these are copied.
 constexpr Reduction kReductions[] = {
     // A change of the calendar group makes the months of all days of the person and resets the open
     // days since any date. Of anybody else the plugin counts the open days that are to be
     // calculated, and resets those since the first day of the previous month.
     {"atten",
-     "uid IN ({moving}) OR uid >= {next} OR "
-     "uid IN ({people}) AND `lock` = 0 AND (ok < 0 OR `date` >= {day})",
+     "uid IN ({moving}) OR uid IN ({people}) AND `lock` = 0 AND (ok < 0 OR `date` >= {day})",
      "uid"},
     // Written for the months of a person whose calendar group changes, and not read.
-    {"groups_month", "uid IN ({moving}) OR uid >= {next}", "uid"},
+    {"groups_month", "uid IN ({moving})", "uid"},
     // The balance is the sum of all moves of a person; the plugin writes the correction of today.
-    {"funds_move", "uid IN ({people}) OR uid >= {next}", "uid day", "`day` >= {today}"},
+    {"funds_move", "uid IN ({people})", "uid day", "`day` >= {today}"},
     // The plugin adds to the queue, and does not read it.
-    {"term_sync", "FALSE", ""},
+    {"term_sync", "", ""},
 };
 
 /// Tables whose rows a reduced table may refer to: copied whole, and the plugin never changes what
@@ -87,33 +86,22 @@ const Reduction *reductionOf(const QString &table)
     return found == end ? nullptr : found;
 }
 
-QString listed(const QSet<quint32> &uids)
+/// People whose rows one query reads: some ten thousand days for each of those who are moving.
+constexpr int kPeopleOfPortion = 100;
+
+QVector<quint32> inOrder(const QSet<quint32> &uids)
 {
     QVector<quint32> sorted(uids.cbegin(), uids.cend());
     std::sort(sorted.begin(), sorted.end());
-    QStringList texts;
-    for (const quint32 uid : qAsConst(sorted))
-        texts += QString::number(uid);
-    return texts.isEmpty() ? QStringLiteral("NULL") : texts.join(QLatin1Char(','));
+    return sorted;
 }
 
-/// The columns of each unique key.
-QVector<QStringList> uniqueKeys(const QString &definition)
+QString listed(const QVector<quint32> &uids)
 {
-    static const QRegularExpression key(
-        QStringLiteral("^\\s*(?:PRIMARY KEY|UNIQUE KEY `(?:[^`]|``)+`) \\((.*)\\)"),
-        QRegularExpression::MultilineOption);
-    static const QRegularExpression column(QStringLiteral("`((?:[^`]|``)+)`"));
-    QVector<QStringList> keys;
-    auto matches = key.globalMatch(definition);
-    while (matches.hasNext()) {
-        QStringList columns;
-        auto names = column.globalMatch(matches.next().captured(1));
-        while (names.hasNext())
-            columns += names.next().captured(1);
-        keys += columns;
-    }
-    return keys;
+    QStringList texts;
+    for (const quint32 uid : uids)
+        texts += QString::number(uid);
+    return texts.isEmpty() ? QStringLiteral("NULL") : texts.join(QLatin1Char(','));
 }
 
 /// Whether the server fills in the column when a row is added.
@@ -213,7 +201,7 @@ void PreviewSelection::doubtKeys(const PreviewTable &table)
 {
     const QStringList identity =
         QString::fromLatin1(reductionOf(table.name)->identity).split(QLatin1Char(' '));
-    const auto keys = uniqueKeys(table.definition);
+    const auto keys = table.uniqueKeys();
     for (const QStringList &key : keys) {
         const bool hasIdentity =
             std::all_of(identity.cbegin(), identity.cend(),
@@ -324,18 +312,32 @@ bool PreviewSelection::isReduced(const QString &table) const
     return m_extent == Extent::Reached && reductionOf(table) && !m_whole.contains(table);
 }
 
-QString PreviewSelection::rowsOf(const QString &table) const
+QStringList PreviewSelection::portionsOf(const PreviewTable &table) const
 {
-    if (!isReduced(table))
-        return QString();
+    if (!isReduced(table.name))
+        return {QString()};
+    const QString rows = QString::fromLatin1(reductionOf(table.name)->rows);
+    if (rows.isEmpty())
+        return {};
+    QStringList portions{QStringLiteral("uid >= %1").arg(m_nextUid)};
+    const QVector<quint32> uids = inOrder(m_uids);
+    // Without a key each query would walk the table.
+    const int count = table.isFoundBy(QStringLiteral("uid")) ? kPeopleOfPortion : uids.size();
+    for (int first = 0; first < uids.size(); first += count)
+        portions += rowsOfPeople(rows, uids.mid(first, count));
+    return portions;
+}
+
+QString PreviewSelection::rowsOfPeople(QString condition, const QVector<quint32> &uids) const
+{
     const qint64 firstDay =
         RecordDates::midnight(RecordDates::firstDayOfPreviousMonth(QDate::currentDate()));
-    QString condition = QString::fromLatin1(reductionOf(table)->rows);
-    condition.replace(QLatin1String("{people}"), listed(m_uids));
-    condition.replace(QLatin1String("{moving}"), listed(m_movingUids));
-    condition.replace(QLatin1String("{next}"), QString::number(m_nextUid));
-    condition.replace(QLatin1String("{day}"), QString::number(firstDay));
-    return condition;
+    QVector<quint32> moving;
+    std::copy_if(uids.cbegin(), uids.cend(), std::back_inserter(moving),
+                 [this](quint32 uid) { return m_movingUids.contains(uid); });
+    condition.replace(QLatin1String("{people}"), listed(uids));
+    condition.replace(QLatin1String("{moving}"), listed(moving));
+    return condition.replace(QLatin1String("{day}"), QString::number(firstDay));
 }
 
 QString PreviewSelection::changingRowsOf(const QString &table) const

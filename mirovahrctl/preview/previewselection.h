@@ -27,9 +27,10 @@ public:
     /// Looks up the people at the site. Failures are those of the session.
     void read(SqlSession &site);
 
-    /// The condition for the rows of a table that are copied; empty for all.
-    QString rowsOf(const QString &table) const;
-    /// The condition for those of them that may change; empty for all.
+    /// The conditions for the rows of a table that are copied, each for a portion of moderate size;
+    /// no row is in two of them. A single empty one: all rows.
+    QStringList portionsOf(const PreviewTable &table) const;
+    /// The condition for those of the rows that may change; empty for all.
     QString changingRowsOf(const QString &table) const;
 
     /// Why tables are copied with rows that would be left out otherwise: sentences without their
@@ -48,6 +49,7 @@ private:
     void doubtAll(const QString &reason);
     void note(const QString &doubt);
 
+    QString rowsOfPeople(QString condition, const QVector<quint32> &uids) const;
     bool isReduced(const QString &table) const;
     void readPeople(SqlSession &site);
     void readMoving(SqlSession &site);

@@ -49,9 +49,13 @@ private Q_SLOTS:
     void aTextThatChangesAStatementHasAllRowsCopied();
     void whatCannotReachOtherRowsHasNot_data();
     void whatCannotReachOtherRowsHasNot();
+    void aWholeTableIsReadInPortions();
+    void daysOfManyPeopleAreReadInPortions_data();
+    void daysOfManyPeopleAreReadInPortions();
 
 private:
-    PreviewResult accepted();
+    PreviewResult accepted(PreviewSelection::Extent extent = PreviewSelection::Extent::Reached);
+    int queriesOfAttendance();
 
     PreviewBench m_bench;
 };
@@ -69,9 +73,9 @@ void TestPreviewSelection::init()
     m_bench.writeExport({SampleExport::jana()});
 }
 
-PreviewResult TestPreviewSelection::accepted()
+PreviewResult TestPreviewSelection::accepted(PreviewSelection::Extent extent)
 {
-    const PreviewResult result = m_bench.preview("root");
+    const PreviewResult result = m_bench.preview("root", extent);
     if (result.refusal)
         QTest::qFail(qPrintable(result.refusal->sentence), __FILE__, __LINE__);
     return result;
@@ -244,6 +248,55 @@ void TestPreviewSelection::whatCannotReachOtherRowsHasNot()
     m_bench.site().run(change);
     QCOMPARE(accepted().doubts, QStringList());
     QCOMPARE(m_bench.copiedRows("atten"), 0);
+}
+
+int TestPreviewSelection::queriesOfAttendance()
+{
+    return m_bench.site()
+        .value("SELECT COUNT(*) FROM mysql.general_log WHERE user_host LIKE 'root%' AND argument "
+               "LIKE 'SELECT CAST(% FROM `atten` t%'")
+        .toInt();
+}
+
+void TestPreviewSelection::aWholeTableIsReadInPortions()
+{
+    TestDatabase &site = m_bench.site();
+    // The portions end within the days of a person, and with the last row.
+    site.run("DELETE FROM atten");
+    site.run("INSERT INTO atten SELECT 4 + seq % 3, 86400 * (seq DIV 3), 1, 1, 0 FROM "
+             "seq_0_to_39999");
+    site.clearStatements();
+    accepted(PreviewSelection::Extent::All);
+    QCOMPARE(m_bench.copiedRows("atten"), 40000);
+    QCOMPARE(queriesOfAttendance(), 3);
+}
+
+void TestPreviewSelection::daysOfManyPeopleAreReadInPortions_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("queries");
+    QTest::newRow("found by a key") << "ADD PRIMARY KEY (uid, `date`)" << 4;
+    QTest::newRow("found by walking the table") << "ADD KEY (`date`)" << 2;
+}
+
+void TestPreviewSelection::daysOfManyPeopleAreReadInPortions()
+{
+    QFETCH(QString, key);
+    QFETCH(int, queries);
+    TestDatabase &site = m_bench.site();
+    site.run("DELETE FROM atten");
+    site.run("ALTER TABLE atten DROP PRIMARY KEY, " + key);
+    QVector<ExportRow> lines;
+    for (int number = 2001; number <= 2250; ++number)
+        lines += SampleExport::newcomer(number);
+    m_bench.writeExport(lines);
+    site.run("INSERT INTO people (uid, pid, pamId, surname, bid) SELECT 100 + seq, 10 * seq + 1, "
+             "CONCAT(seq, '.1'), 'Malá', 1 FROM seq_2001_to_2250");
+    site.run("INSERT INTO atten SELECT uid, 86400, -1, 0, 0 FROM people WHERE uid > 2000");
+    site.clearStatements();
+    QCOMPARE(accepted().doubts, QStringList());
+    QCOMPARE(m_bench.copiedRows("atten"), 250);
+    QCOMPARE(queriesOfAttendance(), queries);
 }
 
 QTEST_GUILESS_MAIN(TestPreviewSelection)
