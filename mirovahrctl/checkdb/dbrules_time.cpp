@@ -12,7 +12,9 @@
 
 namespace {
 
-constexpr char kSelectZone[] = "SELECT @@SESSION.time_zone, @@system_time_zone, UNIX_TIMESTAMP()";
+// MariaDB up to 11.4 counts time in 31 bits, later versions until 2106, and MySQL 8 for longer.
+constexpr char kSelectTime[] = "SELECT @@SESSION.time_zone, @@system_time_zone, UNIX_TIMESTAMP(), "
+                               "FROM_UNIXTIME(2147483648) IS NOT NULL";
 
 /// Seconds. A person's attendance counts as being calculated for 900 seconds, by the plugin's
 /// clock.
@@ -54,7 +56,7 @@ void checkClock(DbAssessment &check, qint64 serverNow)
 
 void DbRules::checkTime(DbAssessment &check)
 {
-    const QStringList row = check.sql().row(QLatin1String(kSelectZone));
+    const QStringList row = check.sql().row(QLatin1String(kSelectTime));
     const QString setting = row.value(0);
     const QString serverZone = setting == QLatin1String("SYSTEM") ? row.value(1) : setting;
     const QString ownZone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
@@ -63,6 +65,9 @@ void DbRules::checkTime(DbAssessment &check)
                         serverZone);
     check.writer().fact(QStringLiteral("timeZone"), QStringLiteral("Time zone of this program"),
                         ownZone);
+    check.writer().fact(QStringLiteral("timeAfter2038"),
+                        QStringLiteral("Server knows the time after 19 January 2038"),
+                        row.value(3) == QLatin1String("1"));
     checkMidnights(check, serverZone, ownZone);
     checkClock(check, row.value(2).toLongLong());
     check.end(QStringLiteral("The server and this program agree about time."));

@@ -173,6 +173,8 @@ void TestCheckDb::theReferenceDatabaseIsFine()
     QCOMPARE(facts.value("account").toString(), QString("yav@localhost"));
     QCOMPARE(facts.value("severalStatements"), QJsonValue(true));
     QCOMPARE(facts.value("timeZone").toString(), QString(kZone));
+    const auto version = QVersionNumber::fromString(m_db.value("SELECT VERSION()").toString());
+    QCOMPARE(facts.value("timeAfter2038"), QJsonValue(version >= QVersionNumber(11, 5)));
 }
 
 void TestCheckDb::theTextReportNamesWhatWasChecked()
