@@ -96,6 +96,7 @@ void TestExplainPreview::bothSayTheSame()
     RandomSite random(seed);
     site.reset();
     random.fill(site, RandomSite::Programs::None);
+    RandomSite(seed).fillLeftBehind(site);
     m_bench.writeIni(random.ini());
     // The synchronisation of preview is always a forced one.
     const bool isForced = seed % 4 != 0;
