@@ -1,4 +1,4 @@
-#include "mirovahrctl/explain/rowfields.h"
+#include "mirovahrctl/comparison/rowfields.h"
 
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/export/sqltexts.h"

@@ -42,7 +42,7 @@ private:
     std::optional<ExitStatus> search(SqlSession &site);
     ExitStatus explain(const SqlSession &site);
     std::optional<ExitStatus> readExport(SqlSession &site);
-    bool hasExport() const { return m_source.file.source() != ExplainedExport::Source::None; }
+    bool hasExport() const { return m_source.file.source() != SiteExport::Source::None; }
     ExitStatus failExport(const QString &error);
 
     const CommandLine &m_line;
@@ -91,9 +91,9 @@ std::optional<ExitStatus> ExplainRun::readPerson()
 
 std::optional<ExitStatus> ExplainRun::openExport()
 {
-    ExplainedExport &file = m_source.file;
-    if (!file.open(m_line.argument(1), m_line.value("gate-folder"),
-                   m_source.configuration.values()))
+    SiteExport &file = m_source.file;
+    if (!file.open(m_line.argument(1), m_line.value("gate-folder"), m_source.configuration.values(),
+                   SiteExport::Preference::ImportFile))
         return m_console.fail(ExitStatus::Usage, file.errorString());
     return hasExport() ? refuseOverwriting(file.path(), {m_line.pagePath()}, m_console)
                        : std::nullopt;

@@ -87,8 +87,8 @@ QString PersonExplanation::explain(const PersonLines *lines)
     m_hasExport = lines != nullptr;
     explainConfiguration();
     m_context.report.section(QStringLiteral("export"), QStringLiteral("Export"));
-    if (m_source.file.source() != ExplainedExport::Source::Named
-        && m_source.file.source() != ExplainedExport::Source::ImportFile)
+    if (m_source.file.source() != SiteExport::Source::Named
+        && m_source.file.source() != SiteExport::Source::ImportFile)
         explainAbsentExport();
     if (lines)
         explainExport(*lines);
@@ -127,14 +127,14 @@ void PersonExplanation::explainConfiguration()
 
 void PersonExplanation::explainAbsentExport()
 {
-    const ExplainedExport &file = m_source.file;
+    const SiteExport &file = m_source.file;
     m_context.report.sentence(QStringLiteral("There is no export %1%2.")
                                   .arg(file.importFile(),
                                        m_context.configuration.deleteFile
                                            ? QStringLiteral(": the plugin removes it after it has "
                                                             "read it")
                                            : QString()));
-    if (file.source() == ExplainedExport::Source::Gate) {
+    if (file.source() == SiteExport::Source::Gate) {
         explainGate();
         return;
     }
@@ -146,7 +146,7 @@ void PersonExplanation::explainAbsentExport()
 void PersonExplanation::explainGate()
 {
     Report &report = m_context.report;
-    const ExplainedExport &file = m_source.file;
+    const SiteExport &file = m_source.file;
     const auto &status = file.gateStatus();
     const auto admitted = status ? status->admittedTime() : std::nullopt;
     report.sentence(

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "mirovahrctl/explain/explainedexport.h"
 #include "mirovahrctl/explain/personid.h"
 #include "mirovahrctl/explain/personlines.h"
 #include "mirovahrctl/explain/recordexplanation.h"
+#include "mirovahrctl/gatestate/siteexport.h"
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
 
 #include <QString>
@@ -11,7 +11,7 @@
 /// What a person's explanation is based on, besides the database.
 struct ExplainedSource {
     PluginConfiguration configuration;
-    ExplainedExport file; ///< the export
+    SiteExport file; ///< the export
     SqlTexts::Route texts; ///< how its texts get into the database
     bool isForced = false; ///< the next synchronisation is a forced one
 };

@@ -2,8 +2,8 @@
 
 #include "mirovahrctl/explain/personexplanation.h"
 
+#include "mirovahrctl/comparison/rowfields.h"
 #include "mirovahrctl/explain/phrases.h"
-#include "mirovahrctl/explain/rowfields.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/rules/explainrules.h"
 

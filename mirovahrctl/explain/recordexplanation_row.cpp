@@ -1,8 +1,8 @@
 // The row of `people`: created, updated, or left alone.
 
+#include "mirovahrctl/comparison/rowfields.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
-#include "mirovahrctl/explain/rowfields.h"
 #include "mirovahrctl/export/sqlhazards.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/rules/explainrules.h"

@@ -1,4 +1,4 @@
-#include "mirovahrctl/explain/explainedexport.h"
+#include "mirovahrctl/gatestate/siteexport.h"
 
 #include "mirovahrctl/gatestate/gatecopies.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
@@ -9,8 +9,8 @@
 
 #include <QDir>
 
-bool ExplainedExport::open(const QString &named, const QString &gateFolder,
-                           const Configuration &configuration)
+bool SiteExport::open(const QString &named, const QString &gateFolder,
+                      const Configuration &configuration, Preference preference)
 {
     m_importFile = ImportFile::path(configuration.importFile);
     if (!named.isEmpty() && !gateFolder.isEmpty())
@@ -19,15 +19,30 @@ bool ExplainedExport::open(const QString &named, const QString &gateFolder,
         return openFile(named, Source::Named)
             || (m_error.isEmpty() && fail(QStringLiteral("There is no file '%1'").arg(named)));
     }
-    if (openFile(m_importFile, Source::ImportFile) || !m_error.isEmpty())
-        return m_error.isEmpty();
+    if (preference == Preference::Admitted) {
+        return openAdmitted(gateFolder, configuration)
+            && (m_source != Source::None || openImportFile());
+    }
+    return openImportFile()
+        && (m_source != Source::None || openAdmitted(gateFolder, configuration));
+}
+
+/// True also when there is none, without a source then.
+bool SiteExport::openImportFile()
+{
+    return openFile(m_importFile, Source::ImportFile) || m_error.isEmpty();
+}
+
+/// True also when no gate is named and that of the configuration cannot be used.
+bool SiteExport::openAdmitted(const QString &gateFolder, const Configuration &configuration)
+{
     if (!gateFolder.isEmpty())
         return openGate(gateFolder);
     openGateOfCommand(configuration.syncCommand);
     return true;
 }
 
-QString ExplainedExport::sourceWord() const
+QString SiteExport::sourceWord() const
 {
     switch (m_source) {
     case Source::None:
@@ -42,14 +57,14 @@ QString ExplainedExport::sourceWord() const
     Q_UNREACHABLE();
 }
 
-std::optional<Backslash> ExplainedExport::gateTexts() const
+std::optional<Backslash> SiteExport::gateTexts() const
 {
     // The gate keeps HR's own bytes.
     return m_source == Source::Gate && m_gateStatus ? m_gateStatus->admittedTexts() : std::nullopt;
 }
 
 /// False also when there is none, without an error then.
-bool ExplainedExport::openFile(const QString &path, Source source)
+bool SiteExport::openFile(const QString &path, Source source)
 {
     QString error;
     switch (ImportFile::open(path, m_file, error)) {
@@ -65,7 +80,7 @@ bool ExplainedExport::openFile(const QString &path, Source source)
     Q_UNREACHABLE();
 }
 
-bool ExplainedExport::openGate(const QString &folder)
+bool SiteExport::openGate(const QString &folder)
 {
     GateFolder gate;
     bool missing = false;
@@ -84,7 +99,7 @@ bool ExplainedExport::openGate(const QString &folder)
     return true;
 }
 
-void ExplainedExport::openGateOfCommand(const QString &command)
+void SiteExport::openGateOfCommand(const QString &command)
 {
     const auto gate = GateOptions::ofCommand(command);
     if (!gate)
@@ -103,7 +118,7 @@ void ExplainedExport::openGateOfCommand(const QString &command)
     }
 }
 
-bool ExplainedExport::fail(const QString &error)
+bool SiteExport::fail(const QString &error)
 {
     m_error = error;
     return false;

@@ -9,17 +9,23 @@
 
 struct Configuration;
 
-/// The export that explain reads: the one that is named, or else the one that the plugin reads.
-/// When that is gone, because the plugin removes it after reading it, the one that the gate
-/// admitted last.
-class ExplainedExport {
+/// The export of a site: the one that is named, or else the one that the plugin reads or that the
+/// gate admitted last. The plugin may remove an export after reading it; the gate keeps a copy.
+class SiteExport {
 public:
     enum class Source { None, Named, ImportFile, Gate };
+
+    /// Which one is taken when none is named and both are there.
+    enum class Preference {
+        ImportFile, ///< what the plugin will read next
+        Admitted ///< what the gate let pass last
+    };
 
     /// Opens it. \a named and \a gateFolder may be empty; the gate's folder is then that of the
     /// configuration's syncCommand, if that runs a gate. False when a file that is there, or was
     /// named, cannot be used; errorString() then says why, a sentence without its full stop.
-    bool open(const QString &named, const QString &gateFolder, const Configuration &configuration);
+    bool open(const QString &named, const QString &gateFolder, const Configuration &configuration,
+              Preference preference);
 
     Source source() const { return m_source; }
     /// A stable word for scripts: "named", "importFile", "gate" or "none".
@@ -46,6 +52,8 @@ public:
 
 private:
     bool openFile(const QString &path, Source source);
+    bool openImportFile();
+    bool openAdmitted(const QString &gateFolder, const Configuration &configuration);
     bool openGate(const QString &folder);
     void openGateOfCommand(const QString &command);
     bool fail(const QString &error);
