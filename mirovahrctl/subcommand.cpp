@@ -17,6 +17,8 @@ ExitStatus runCheckFile(const QStringList &arguments, Console &console);
 ExitStatus runDiff(const QStringList &arguments, Console &console);
 /// Runs the checks that can be run here, and reports what to do first.
 ExitStatus runDoctor(const QStringList &arguments, Console &console);
+/// Reports what the database lacks although the plugin counts it as done.
+ExitStatus runDrift(const QStringList &arguments, Console &console);
 /// Reports what the plugin makes of one person, step by step.
 ExitStatus runExplain(const QStringList &arguments, Console &console);
 /// Sets or clears the flag that forces a synchronisation.
@@ -116,6 +118,7 @@ const QVector<Subcommand> &subcommands()
         {"explain", "Explain what the plugin makes of a person, step by step", runExplain},
         {"preview", "Show what a synchronisation would change, by running it on a copy",
          runPreview},
+        {"drift", "Find what the database lacks although the plugin counts it as done", runDrift},
         {"gate", "Publish HR's file for the plugin, or hold it back", runGate},
         {"force", "Make the plugin synchronise everybody at its next tick", runForce},
         {"status", "Show what is known of the plugin's work, for people and monitoring", runStatus},

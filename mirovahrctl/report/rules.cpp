@@ -5,6 +5,7 @@
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/rules/diffrules.h"
 #include "mirovahrctl/report/rules/doctorrules.h"
+#include "mirovahrctl/report/rules/driftrules.h"
 #include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/rules/forcerules.h"
 #include "mirovahrctl/report/rules/gaterules.h"
@@ -32,6 +33,7 @@ const QVector<RuleGroup> &ruleGroups()
         {"check-db", listOf(CheckDbRules::kAll)},
         {"explain", listOf(ExplainRules::kAll), {"check-file"}},
         {"preview", listOf(PreviewRules::kAll)},
+        {"drift", listOf(DriftRules::kAll)},
         {"gate", listOf(GateRules::kAll)},
         {"force", listOf(ForceRules::kAll)},
         {"status", listOf(StatusRules::kAll)},

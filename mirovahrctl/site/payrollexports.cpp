@@ -20,10 +20,16 @@ QStringList payrollExports(SqlSession &site)
     return names;
 }
 
-bool isInPayrollSelection(const QSqlDatabase &database, const QString &payrollExport, quint32 pid)
+QString payrollSelectionKey(const QString &payrollExport)
 {
     QString key = payrollExport;
-    key.replace(QLatin1String("active"), QLatin1String("selPeople"));
-    const QString selection = TepDbSettings(database).variableGet(key, QVariant()).toString();
+    return key.replace(QLatin1String("active"), QLatin1String("selPeople"));
+}
+
+bool isInPayrollSelection(const QSqlDatabase &database, const QString &payrollExport, quint32 pid)
+{
+    const QString selection = TepDbSettings(database)
+                                  .variableGet(payrollSelectionKey(payrollExport), QVariant())
+                                  .toString();
     return selection.split(QLatin1Char(',')).contains(QString::number(pid));
 }

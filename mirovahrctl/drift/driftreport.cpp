@@ -1,0 +1,184 @@
+#include "mirovahrctl/drift/driftreport.h"
+
+#include "mirovahrctl/gatestate/siteexport.h"
+#include "mirovahrctl/pluginside/pluginconfiguration.h"
+#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/rules/driftrules.h"
+#include "mirovahrctl/report/wording.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+using namespace DriftRules;
+
+constexpr int kMostRules = 8;
+
+/// How a difference can be mended, and the rules of those that can be mended so.
+struct Remedy {
+    const char *id;
+    const char *heading;
+    const char *sentence;
+    const char *verdict; ///< after their number
+    const Rule *rules[kMostRules];
+};
+
+constexpr Remedy kRemedies[] = {
+    {"force",
+     "What a forced synchronisation brings",
+     "Run mirovahrctl force with the same export, and drift again afterwards. The next export "
+     "brings these only for people whose lines change.",
+     "by a forced synchronisation",
+     {&kPersonMissing, &kPersonDiffers, &kNotMember, &kGroupNotPlanned, &kBalanceDiffers}},
+    {"start",
+     "What the next start of the attendance server brings",
+     "A forced synchronisation does not bring these. The statements of --sql mend them at once.",
+     "by the next start of the attendance server or --sql",
+     {&kSupervisorMissing, &kSupervisorOther, &kEmploymentType}},
+    {"never",
+     "What never comes by itself",
+     "The plugin does this only once. The statements of --sql mend it.",
+     "only by --sql",
+     {&kPayrollSelection, &kPayrollBinding, &kTerminalMissing, &kTerminalNotMarked,
+      &kAdministratorMissing, &kMonthsDiffer}},
+};
+
+bool isMendedBy(const Drift &drift, const Remedy &remedy)
+{
+    return std::find(std::begin(remedy.rules), std::end(remedy.rules), drift.rule)
+        != std::end(remedy.rules);
+}
+
+QString differences(qint64 count)
+{
+    return Wording::counted(count, QStringLiteral("difference"), QStringLiteral("differences"));
+}
+
+QString people(qint64 count)
+{
+    return Wording::counted(count, QStringLiteral("person"), QStringLiteral("people"));
+}
+
+} // namespace
+
+DriftReport::DriftReport(const QVector<Drift> &found, Report &report)
+    : m_found(found)
+    , m_report(report)
+{
+}
+
+void DriftReport::writeDifferences()
+{
+    for (int i = 0; i < int(std::size(kRemedies)); ++i) {
+        const Remedy &remedy = kRemedies[i];
+        m_report.fact(QString::fromLatin1(remedy.id), QString::fromLatin1(remedy.heading),
+                      countOf(i));
+        if (countOf(i) == 0)
+            continue;
+        m_report.section(QString::fromLatin1(remedy.id), QString::fromLatin1(remedy.heading));
+        m_report.sentence(QString::fromLatin1(remedy.sentence));
+        for (const Drift &drift : m_found) {
+            if (!isMendedBy(drift, remedy))
+                continue;
+            Finding finding = makeFinding(*drift.rule, drift.message);
+            finding.subject = drift.subject;
+            m_report.finding(finding);
+        }
+    }
+}
+
+void DriftReport::writeLimits(const PluginConfiguration &configuration, const SiteExport &source,
+                              int waiting, int leftOut, bool isForced)
+{
+    m_report.section(QStringLiteral("limits"), QStringLiteral("What is left out"));
+    m_report.sentence(configuration.origin());
+    m_report.sentence(QStringLiteral("The export is %1.").arg(source.path()));
+    if (!configuration.values().enabled)
+        m_report.add(kDisabled, QStringLiteral("The plugin is disabled in the configuration."));
+    if (configuration.values().testMode)
+        m_report.add(kTestMode,
+                     QStringLiteral("Test mode is on: people are only logged, not "
+                                    "written."));
+    writePending(configuration, source, isForced);
+    writeLeftOut(leftOut);
+    if (waiting > 0) {
+        m_report.sentence(
+            QStringLiteral(
+                "The database lacks the branch or calendar group of %1. The plugin tries "
+                "again at every synchronisation in which their lines are the same.")
+                .arg(people(waiting)));
+    }
+    m_report.sentence(QStringLiteral(
+        "The database does not say who changed it: what somebody removed or changed by hand looks "
+        "like what the plugin has lost. Of people who have left, only personal data are compared; "
+        "of people who are not in the export, nothing is."));
+    m_report.sentence(QStringLiteral(
+        "Not visible in the database are: changes of people that were not queued for their "
+        "terminals, days of attendance that were not marked to be calculated again, and, in the "
+        "selection of the payroll export, people who are not in the export."));
+}
+
+void DriftReport::writePending(const PluginConfiguration &configuration, const SiteExport &source,
+                               bool isForced)
+{
+    if (isForced)
+        m_report.add(kSynchronisationPending,
+                     QStringLiteral("A forced synchronisation is pending."));
+    if (configuration.values().deleteFile && QFileInfo::exists(source.importFile())) {
+        m_report.add(
+            kSynchronisationPending,
+            QStringLiteral("The plugin has not read the export %1 yet.").arg(source.importFile()));
+    }
+}
+
+void DriftReport::writeLeftOut(int leftOut)
+{
+    if (leftOut > 0) {
+        m_report.add(kLeftOut,
+                     QStringLiteral("Left out: %1 whose line has an error, who have several lines, "
+                                    "or whose payroll id and pid do not belong together.")
+                         .arg(people(leftOut)));
+    }
+}
+
+int DriftReport::countOf(int remedy) const
+{
+    return int(std::count_if(m_found.cbegin(), m_found.cend(), [remedy](const Drift &drift) {
+        return isMendedBy(drift, kRemedies[remedy]);
+    }));
+}
+
+QString DriftReport::verdict() const
+{
+    if (m_found.isEmpty()) {
+        return QStringLiteral(
+            "The database holds what the export says of the people that were compared.");
+    }
+    QStringList parts;
+    for (int i = 0; i < int(std::size(kRemedies)); ++i) {
+        const int count = countOf(i);
+        if (count > 0)
+            parts += QStringLiteral("%1 %2").arg(QString::number(count),
+                                                 QString::fromLatin1(kRemedies[i].verdict));
+    }
+    return QStringLiteral("%1, to be mended: %2.")
+        .arg(differences(m_found.size()), parts.join(QStringLiteral(", ")));
+}
+
+QString DriftReport::statements() const
+{
+    QString statements;
+    for (const Drift &drift : m_found) {
+        if (drift.sql.isEmpty())
+            continue;
+        // One line, whatever characters a name has.
+        statements += QStringLiteral("-- %1: %2\n")
+                          .arg(Wording::visible(drift.subject), Wording::visible(drift.message));
+        statements += drift.sql;
+    }
+    return statements;
+}
