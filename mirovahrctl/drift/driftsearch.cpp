@@ -129,7 +129,7 @@ QString DriftSearch::describeDifferences(const Case &person) const
             || (exported == ExportLine::Stredisko && !hasBranch))
             continue;
         differing += QStringLiteral("%1 %2 and %3")
-                         .arg(field.name.toLower(), shown(field.held), shown(field.exported));
+                         .arg(field.name, shown(field.held), shown(field.exported));
     }
     return differing.join(QStringLiteral(", "));
 }
