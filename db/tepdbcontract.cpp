@@ -38,4 +38,11 @@ const Column *findColumn(const QString &table, const QString &name)
     return found == end ? nullptr : found;
 }
 
+bool rowsMayRepeat(const QString &table)
+{
+    return std::any_of(std::begin(kTables), std::end(kTables), [&table](const Table &candidate) {
+        return table == QLatin1String(candidate.name) && candidate.keys[0].use == KeyUse::None;
+    });
+}
+
 } // namespace TepDbContract

@@ -33,6 +33,9 @@ struct Table {
     const char *generatedColumn = "";
     /// The columns that only other components of the attendance server use, by the classes here.
     const char *columnsElsewhere = "";
+    /// The primary key of a table whose rows may repeat, AUTO_INCREMENT and invisible. No statement
+    /// names it: a site may lack it, or call it otherwise.
+    const char *ownNumber = "";
 };
 
 /// Privileges of the plugin's account on a column; they add up.
@@ -201,13 +204,13 @@ inline constexpr Table kTables[] = {
     {"admins",        {{"aid", KeyUse::Identity}}},
     {"admins_people", {{"aid uid", KeyUse::Upsert}}},
 
-    // Terminals; the queue and the time zones have no key: their rows may repeat
+    // Terminals
     {"term",          {{"tid", KeyUse::Identity}}},
-    {"term_sync",     {}, "", "ref_col2 ref_id2"},
+    {"term_sync",     {}, "", "ref_col2 ref_id2", "id"},
     {"people_term",   {{"tid uid", KeyUse::Upsert}}},
     {"inters",        {{"iid", KeyUse::Identity}}, "", "iid"},
     {"inters_term",   {{"iid tid", KeyUse::Identity}}, "", "iid tid"},
-    {"pzt",           {}, "", "zid tid"},
+    {"pzt",           {}, "", "zid tid", "id"},
 
     // Settings
     {"vars",          {{"name", KeyUse::Upsert}}},
@@ -351,6 +354,9 @@ QStringList columnsWith(unsigned rights, const QString &table);
 
 /// Null for a column that the plugin does not use. Capitals count.
 const Column *findColumn(const QString &table, const QString &name);
+
+/// Whether a table of the contract may have equal rows, as a queue has.
+bool rowsMayRepeat(const QString &table);
 
 /// Whether the plugin reads or writes a table.
 inline bool isUsed(const QString &table)

@@ -10,8 +10,10 @@
 -- repositories (db/) keep no more: in wider columns they would confuse 65537 with 1. Here the server
 -- refuses such an id. Only `bas` takes 32 bits, as its operations do.
 --
--- term_sync and pzt have no primary key: their rows may repeat. Where the server requires one on every
--- table, add a column `id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY KEY` to both.
+-- term_sync and pzt have a column `id` only to have a primary key: their rows may repeat. Servers can be
+-- configured to refuse tables without one, and on a cluster two inserts into such a table conflict though
+-- their rows differ. The column is invisible, so that statements without a list of columns still see the
+-- others only. A site may do without it.
 --
 -- Load into an empty database, then routines.sql.
 
@@ -221,6 +223,8 @@ CREATE TABLE term_sync (
     ref_id2  INT UNSIGNED NULL,
     created  BIGINT       NOT NULL,                      -- timestamp
     flags    INT UNSIGNED NOT NULL,                      -- the bit of the kind of data
+    id       BIGINT UNSIGNED NOT NULL INVISIBLE AUTO_INCREMENT,
+    PRIMARY KEY (id),
     KEY (tid, created)                                   -- what a terminal fetches, in its order
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 
@@ -246,6 +250,8 @@ CREATE TABLE inters_term (
 CREATE TABLE pzt (
     zid INT UNSIGNED NOT NULL,
     tid INT UNSIGNED NOT NULL,
+    id  BIGINT UNSIGNED NOT NULL INVISIBLE AUTO_INCREMENT,
+    PRIMARY KEY (id),
     KEY (zid, tid)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_slovak_ci;
 

@@ -148,8 +148,9 @@ QString PreviewTable::expressions(const QString &owner) const
 QString PreviewTable::changingRows() const
 {
     const QString table = SqlSession::name(name);
-    return changing.isEmpty() ? table
-                              : QStringLiteral("(SELECT * FROM %1 WHERE %2)").arg(table, changing);
+    return changing.isEmpty()
+        ? table
+        : QStringLiteral("(SELECT %1 FROM %2 WHERE %3)").arg(columnList(), table, changing);
 }
 
 QString PreviewTable::tuple(const QStringList &row) const

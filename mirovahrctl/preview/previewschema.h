@@ -31,7 +31,7 @@ struct PreviewColumn {
 struct PreviewTable {
     QString name;
     QString definition; ///< CREATE TABLE ...
-    QVector<PreviewColumn> columns; ///< without those that the server computes
+    QVector<PreviewColumn> columns; ///< without those that the server computes or numbers rows by
     QStringList key; ///< columns that identify a row; empty: rows may repeat
     QStringList parents; ///< tables that foreign keys refer to
     QString changing; ///< condition for the copied rows that may change; empty: all

@@ -62,6 +62,14 @@ bool isComputed(const QString &extra)
         || extra.contains(QLatin1String("PERSISTENT"), Qt::CaseInsensitive);
 }
 
+/// Whether a column only tells apart rows that may repeat: every server numbers them by itself, and
+/// the plugin knows them without it.
+bool onlyNumbersRows(const QString &table, const QString &extra)
+{
+    return extra.contains(QLatin1String("auto_increment"), Qt::CaseInsensitive)
+        && TepDbContract::rowsMayRepeat(table);
+}
+
 /// All words of a text that can be names, in lower case.
 QSet<QString> words(const QString &text)
 {
@@ -233,7 +241,8 @@ void PreviewSchemaReader::readColumns(PreviewTable &table)
     const QVector<QStringList> columns =
         m_site.rows(QStringLiteral("SHOW FULL COLUMNS FROM ") + SqlSession::name(table.name));
     for (const QStringList &column : columns) {
-        if (!isComputed(column.value(6)))
+        const QString extra = column.value(6);
+        if (!isComputed(extra) && !onlyNumbersRows(table.name, extra))
             table.columns += {column.at(0), PreviewColumn::kindOf(column.at(1))};
     }
 }

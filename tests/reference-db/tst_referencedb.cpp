@@ -50,7 +50,9 @@ private Q_SLOTS:
     void everyTableHasTheColumnsOfTheContractAndNoOther_data();
     void everyTableHasTheColumnsOfTheContractAndNoOther();
     void theSchemaHasTheUniqueKeysOfTheContractAndNoOther();
+    void everyTableHasAPrimaryKey();
     void generatedColumnsAreFilledByTheDatabase();
+    void numbersOfRowsAreFilledByTheDatabaseAndSeenByName();
     void theRoutinesAreThoseOfTheContractAndNoOther();
     void columnsOfTheContractAreNamedAndReferToEachOther();
     void textsOfTheConfigurationHaveTheRoomOfTheContract();
@@ -138,7 +140,8 @@ void TestReferenceDb::everyTableHasTheColumnsOfTheContractAndNoOther_data()
     QTest::addColumn<QString>("table");
     QTest::addColumn<QStringList>("columns");
     for (const TepDbContract::Table &table : TepDbContract::kTables)
-        QTest::newRow(table.name) << QString(table.name) << TepDbContract::columnsOf(table);
+        QTest::newRow(table.name) << QString(
+            table.name) << TepDbContract::columnsOf(table) + TepDbContract::names(table.ownNumber);
 }
 
 void TestReferenceDb::everyTableHasTheColumnsOfTheContractAndNoOther()
@@ -160,6 +163,8 @@ void TestReferenceDb::theSchemaHasTheUniqueKeysOfTheContractAndNoOther()
             if (key.use != TepDbContract::KeyUse::None)
                 expected += keyText(table.name, TepDbContract::names(key.columns));
         }
+        if (*table.ownNumber != '\0')
+            expected += keyText(table.name, {table.ownNumber});
     }
     QStringList found;
     const TableRows keys = m_db.rows("SELECT table_name, GROUP_CONCAT(column_name SEPARATOR ' ')"
@@ -169,6 +174,32 @@ void TestReferenceDb::theSchemaHasTheUniqueKeysOfTheContractAndNoOther()
     for (const QStringList &key : keys)
         found += keyText(key[0], key[1].split(' '));
     QCOMPARE(sorted(found), sorted(expected));
+}
+
+void TestReferenceDb::everyTableHasAPrimaryKey()
+{
+    QCOMPARE(m_db.rows("SELECT table_name FROM information_schema.tables WHERE table_schema ="
+                       " DATABASE() AND table_name NOT IN (SELECT table_name FROM"
+                       " information_schema.table_constraints WHERE table_schema = DATABASE() AND"
+                       " constraint_type = 'PRIMARY KEY')"),
+             TableRows());
+}
+
+void TestReferenceDb::numbersOfRowsAreFilledByTheDatabaseAndSeenByName()
+{
+    QStringList numbered;
+    for (const TepDbContract::Table &table : TepDbContract::kTables) {
+        if (*table.ownNumber == '\0')
+            continue;
+        numbered += table.name;
+        QCOMPARE(m_db.rows(QStringLiteral("SELECT column_type, extra FROM"
+                                          " information_schema.columns WHERE table_schema ="
+                                          " DATABASE() AND table_name = '%1' AND column_name ="
+                                          " '%2'")
+                               .arg(table.name, table.ownNumber)),
+                 TableRows({{"bigint(20) unsigned", "auto_increment, INVISIBLE"}}));
+    }
+    QCOMPARE(numbered, QStringList({"term_sync", "pzt"}));
 }
 
 void TestReferenceDb::generatedColumnsAreFilledByTheDatabase()
@@ -344,6 +375,8 @@ void TestReferenceDb::theQueueTakesTheSameRowTwice()
                                 "NULL", "NULL", "1700000000", "2"};
     QCOMPARE(m_db.rows("SELECT * FROM term_sync"), TableRows({queued, queued}));
     QCOMPARE(m_db.value("SELECT COUNT(*) FROM pzt").toInt(), 2);
+    for (const char *table : {"term_sync", "pzt"})
+        QCOMPARE(m_db.value(QString("SELECT COUNT(DISTINCT id) FROM ") + table).toInt(), 2);
 }
 
 void TestReferenceDb::settingsTakeLongTexts()

@@ -53,6 +53,18 @@ QString quoted(const QString &name)
     return QStringLiteral("`%1`").arg(name);
 }
 
+/// All columns of a table, the invisible ones too, as an SQL list.
+QString columns(const QSqlDatabase &administrator, const QString &table)
+{
+    const QStringList names =
+        lines(administrator,
+              QStringLiteral("SELECT CONCAT('`', column_name, '`') FROM information_schema.columns"
+                             " WHERE table_schema = DATABASE() AND table_name = '%1'"
+                             " ORDER BY ordinal_position")
+                  .arg(table));
+    return names.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 bool DatabaseBaseline::takeEmpty(const QSqlDatabase &administrator, const QString &folder)
@@ -72,8 +84,8 @@ bool DatabaseBaseline::takeRows(const QSqlDatabase &administrator)
         if (m_full.value(table) != m_empty.value(table)) {
             done = done
                 && run(administrator,
-                       QStringLiteral("CREATE OR REPLACE TABLE %1.%2 AS SELECT * FROM %2")
-                           .arg(kRows, quoted(table)));
+                       QStringLiteral("CREATE OR REPLACE TABLE %1.%2 AS SELECT %3 FROM %2")
+                           .arg(kRows, quoted(table), columns(administrator, table)));
         }
     }
     return done && m_full.size() == m_tables.size();
@@ -118,7 +130,8 @@ bool DatabaseBaseline::fill(const QSqlDatabase &administrator, const QString &ta
     return run(administrator, QStringLiteral("TRUNCATE TABLE ") + quoted(table))
         && (wanted.value(table) == m_empty.value(table)
             || run(administrator,
-                   QStringLiteral("INSERT INTO %2 SELECT * FROM %1.%2").arg(kRows, quoted(table))));
+                   QStringLiteral("INSERT INTO %2 (%3) SELECT %3 FROM %1.%2")
+                       .arg(kRows, quoted(table), columns(administrator, table))));
 }
 
 DatabaseBaseline::Content DatabaseBaseline::content(const QSqlDatabase &administrator) const

@@ -244,18 +244,22 @@ QString TestDatabase::difference(const DatabaseState &before, const DatabaseStat
 void TestDatabase::addOwnNumbers()
 {
     const TableRows numbered = rows("SELECT table_name FROM information_schema.columns WHERE"
-                                    " table_schema = DATABASE() AND extra = 'auto_increment'");
+                                    " table_schema = DATABASE() AND extra LIKE 'auto_increment%'");
     for (const TepDbContract::Table &table : TepDbContract::kTables) {
         if (numbered.contains({table.name}))
             continue;
-        QString columns = table.keys[0].columns;
-        const QString uniqueKey = columns.isEmpty()
-            ? QString()
-            : QStringLiteral("DROP PRIMARY KEY, ADD UNIQUE KEY (`%1`), ")
-                  .arg(columns.replace(' ', "`, `"));
-        run(QStringLiteral("ALTER TABLE `%1` %2ADD own_number INT UNSIGNED NOT NULL INVISIBLE"
-                           " AUTO_INCREMENT PRIMARY KEY")
-                .arg(table.name, uniqueKey));
+        run(QStringLiteral(
+                "ALTER TABLE `%1` DROP PRIMARY KEY, ADD UNIQUE KEY (`%2`), ADD own_number"
+                " INT UNSIGNED NOT NULL INVISIBLE AUTO_INCREMENT PRIMARY KEY")
+                .arg(table.name, QString(table.keys[0].columns).replace(' ', "`, `")));
+    }
+}
+
+void TestDatabase::removeOwnNumbers()
+{
+    for (const TepDbContract::Table &table : TepDbContract::kTables) {
+        if (*table.ownNumber != '\0')
+            run(QStringLiteral("ALTER TABLE `%1` DROP `%2`").arg(table.name, table.ownNumber));
     }
 }
 

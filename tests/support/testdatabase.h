@@ -111,6 +111,9 @@ public:
     /// out.
     void addOwnNumbers();
 
+    /// Drops the columns that only number the rows of a table.
+    void removeOwnNumbers();
+
     /// Gives the ids of branches and administrators 32 bits in every table.
     void widenIds();
 

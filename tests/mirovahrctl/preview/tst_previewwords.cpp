@@ -33,6 +33,8 @@ private Q_SLOTS:
     void whatThePluginWarnsOf();
     void whatOthersHaveDoneIsNoDifference();
     void theStatementsMakeExactlyTheDescribedChanges();
+    void numbersOfRowsAreLeftToTheServer();
+    void aNumberOfItsOwnInEveryRowIsNoDifference();
 
 private:
     /// The lines of a preview with one line of an export.
@@ -271,6 +273,38 @@ void TestPreviewWords::theStatementsMakeExactlyTheDescribedChanges()
     QCOMPARE(statements.join('\n'), expected.join('\n'));
     QVERIFY(sql.contains("-- The effects of triggers are included: triggers must not fire again "
                          "when this is run.\n"));
+}
+
+void TestPreviewWords::numbersOfRowsAreLeftToTheServer()
+{
+    m_bench.writeExport({SampleExport::jana().with(&ExportRow::jmeno, "Ján"),
+                         SampleExport::jan().with(&ExportRow::dovolenaZustatek, "3.5")});
+    const auto changes = [this] {
+        const PreviewResult result = m_bench.preview();
+        return result.refusal
+            ? result.refusal->sentence
+            : result.described().join('\n') + result.sql.section("START TRANSACTION;", 1);
+    };
+    const QString usual = changes();
+    QVERIFY2(usual.contains("INSERT INTO `term_sync` (`tid`, "), qPrintable(usual));
+    QVERIFY2(usual.contains("INSERT INTO `funds_move` ("), qPrintable(usual));
+    QVERIFY2(!usual.contains("`id`"), qPrintable(usual));
+    m_bench.site().removeOwnNumbers();
+    QCOMPARE(changes(), usual);
+    m_bench.site().run("ALTER TABLE term_sync ADD number INT NOT NULL AUTO_INCREMENT UNIQUE FIRST");
+    QCOMPARE(changes(), usual);
+}
+
+void TestPreviewWords::aNumberOfItsOwnInEveryRowIsNoDifference()
+{
+    m_bench.writeExport({SampleExport::jana().with(&ExportRow::jmeno, "Ján"),
+                         SampleExport::jan().with(&ExportRow::dovolenaZustatek, "3.5")});
+    const QStringList usual = m_bench.preview().described();
+    QVERIFY(usual.size() > 2);
+    m_bench.site().addOwnNumbers();
+    const PreviewResult result = m_bench.preview();
+    QCOMPARE(result.refusal ? result.refusal->sentence : QString(), QString());
+    QCOMPARE(result.described().join('\n'), usual.join('\n'));
 }
 
 QTEST_GUILESS_MAIN(TestPreviewWords)

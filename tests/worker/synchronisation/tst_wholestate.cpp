@@ -90,6 +90,8 @@ private Q_SLOTS:
 
     void aDatabaseWithoutAnythingTakesPeopleOnly();
     void aNumberOfItsOwnInEveryRowChangesNothing();
+    void rowsWithoutANumberOfTheirOwnChangeNothing();
+    void aServerThatForcesPrimaryKeysTakesTablesAndSynchronisations();
 
 private:
     /// The sample as it is in daily use: calculated up to yesterday.
@@ -452,6 +454,26 @@ void TestWholeState::aNumberOfItsOwnInEveryRowChangesNothing()
     m_db.reset();
     newWorker();
     m_db.addOwnNumbers();
+    QCOMPARE(changesOfTwoCycles().join('\n'), usual.join('\n'));
+}
+
+void TestWholeState::rowsWithoutANumberOfTheirOwnChangeNothing()
+{
+    const QStringList usual = changesOfTwoCycles();
+    m_db.reset();
+    newWorker();
+    m_db.removeOwnNumbers();
+    QCOMPARE(changesOfTwoCycles().join('\n'), usual.join('\n'));
+}
+
+void TestWholeState::aServerThatForcesPrimaryKeysTakesTablesAndSynchronisations()
+{
+    const QStringList usual = changesOfTwoCycles();
+    m_db.run("SET GLOBAL innodb_force_primary_key = 1");
+    const auto allow = qScopeGuard([this] { m_db.run("SET GLOBAL innodb_force_primary_key = 0"); });
+    m_db.run("DROP TABLE term_sync, pzt");
+    m_db.reset(); // loads the schema anew
+    newWorker();
     QCOMPARE(changesOfTwoCycles().join('\n'), usual.join('\n'));
 }
 
