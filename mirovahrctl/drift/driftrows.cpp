@@ -114,7 +114,7 @@ void DriftRows::readCalendars(SqlSession &site)
 void DriftRows::readPayroll(PluginView &view)
 {
     each(view.sql(), kBindings, [this](const QStringList &row) { payrollBindings += id(row, 0); });
-    const QStringList exports = payrollExports(view.database());
+    const QStringList exports = payrollExports(view.sql());
     if (exports.size() != 1)
         return;
     payrollSelection = payrollSelectionKey(exports.first());
