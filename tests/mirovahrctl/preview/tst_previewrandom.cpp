@@ -2,6 +2,7 @@
 #include "tests/mirovahrctl/preview/randomsite.h"
 #include "tests/support/environmentnumber.h"
 #include "tests/worker/support/middayzone.h"
+#include "worker/exportline.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -59,12 +60,15 @@ public:
 
 private Q_SLOTS:
     void initTestCase();
+    void whoIsExportedBySeveralSeedsHasTheSameUid();
     void thePredictionIsWhatHappens_data();
     void thePredictionIsWhatHappens();
     void everyKindOfDifferenceOccurred();
     void rowsWereLeftOut();
 
 private:
+    /// The uids of the people whom a seed exports, by pid; empty for people who are new.
+    QMap<quint32, QString> uidsOfExported(quint32 seed);
     /// The whole content of a database, with moments since the begin of the test as "now".
     DatabaseState state(const QString &database);
     void keep();
@@ -120,6 +124,49 @@ void TestPreviewRandom::keep()
         site.run("CREATE TABLE " + copy + " LIKE " + name);
         site.run("INSERT INTO " + copy + (isComputed ? '(' + columns + ')' : QString()) + " SELECT "
                  + (isComputed ? columns : "*") + " FROM " + name);
+    }
+}
+
+QMap<quint32, QString> TestPreviewRandom::uidsOfExported(quint32 seed)
+{
+    TestDatabase &site = m_bench.site();
+    site.reset();
+    RandomSite random(seed);
+    random.fill(site, RandomSite::Programs::None);
+    QMap<quint32, QString> uids;
+    const QList<QByteArray> lines = [&random] {
+        QByteArray content;
+        for (int i = 0; i < 50; ++i)
+            content += random.exportContent();
+        return content.split('\n');
+    }();
+    for (const QByteArray &line : lines) {
+        const QString text = ExportLine::decode(line.constData());
+        const ExportLine::Parts parts = ExportLine::split(text, ExportLine::kSeparator);
+        if (parts.size() != ExportLine::kFieldCount)
+            continue;
+        const MirovaRonRecord record = ExportLine::toRecord(parts);
+        if (ExportLine::isUsable(record))
+            uids.insert(record.getPid(), QString());
+    }
+    for (auto person = uids.begin(); person != uids.end(); ++person) {
+        *person =
+            site.value(QStringLiteral("SELECT uid FROM people WHERE pid = %1").arg(person.key()))
+                .toString();
+    }
+    return uids;
+}
+
+void TestPreviewRandom::whoIsExportedBySeveralSeedsHasTheSameUid()
+{
+    const QMap<quint32, QString> some = uidsOfExported(1);
+    const QMap<quint32, QString> others = uidsOfExported(2);
+    QVERIFY(some.contains(0)); // whose number is too large
+    for (auto person = some.cbegin(); person != some.cend(); ++person) {
+        if (!others.contains(person.key()))
+            continue;
+        QVERIFY2(!person->isEmpty(), qPrintable(QString::number(person.key())));
+        QCOMPARE(others[person.key()], *person);
     }
 }
 
