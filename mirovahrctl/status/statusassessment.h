@@ -7,7 +7,7 @@
 
 #include <optional>
 
-struct GateStatus;
+class GateStatus;
 struct StatusData;
 
 /// The age in seconds from which the latest sign of the plugin's work is too old.
