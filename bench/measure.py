@@ -53,6 +53,7 @@ class Bench:
         self.programs = build / "bench"
         self.plugin = build / "lib/libmirovahr.so"
         self.tool = build / "bin/mirovahrctl"
+        self.server = build / "bin/private-mariadb"
         self.scratch = scratch
         self.plan = plan
         self.runs = []

@@ -182,11 +182,12 @@ def site_aims(measured):
 
 def preview_table(measured):
     return table(
-        ["people", "years", "days of attendance", "preview", "one dump", "one synchronisation",
-         "preview to both", "connected to the site", "of that its server is busy",
+        ["people", "years", "days of attendance", "preview", "of that its own server", "one dump",
+         "one synchronisation", "preview to both", "connected to the site", "of that its server is busy",
          "`atten` is read", "memory", "below TMPDIR"],
         [(f"{people:,}", facts["years"], f"{facts['days']:,}",
-          duration(measured.tool("preview", people)), duration(measured.tool("dump", people)),
+          duration(measured.tool("preview", people)), duration(measured.tool("server", people)),
+          duration(measured.tool("dump", people)),
           duration(measured.figures("site", people, "site").wall),
           f"**{measured.preview_ratio(people):.2f}**", f"{facts['connected']} s",
           duration(facts["busy"]), f"{facts['scans']:.2f} times",

@@ -55,6 +55,7 @@ class SiteBench:
             if nth > 0 and time.monotonic() - begin > seconds:
                 break
             self.preview()
+            self.run_program("server", self.bench.server, "--", "true")
             self.dump()
             for who in ("plugin", "qt", "c")[::1 if nth % 2 == 0 else -1]:
                 self.synchronise(who)
