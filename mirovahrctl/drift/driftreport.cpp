@@ -28,12 +28,17 @@ struct Remedy {
 };
 
 constexpr Remedy kRemedies[] = {
+    {"next",
+     "What the next synchronisation may bring",
+     "The plugin does not say which balances it will compare again by itself.",
+     "by the next or a forced synchronisation",
+     {&kBalanceDiffers}},
     {"force",
      "What a forced synchronisation brings",
      "Run mirovahrctl force with the same export, and drift again afterwards. The next export "
      "brings these only for people whose lines change.",
      "by a forced synchronisation",
-     {&kPersonMissing, &kPersonDiffers, &kNotMember, &kGroupNotPlanned, &kBalanceDiffers}},
+     {&kPersonMissing, &kPersonDiffers, &kNotMember, &kGroupNotPlanned}},
     {"start",
      "What the next start of the attendance server brings",
      "A forced synchronisation does not bring these. The statements of --sql mend them at once.",

@@ -21,6 +21,7 @@ void LoggedProblem::add(const LoggedProblem &other)
         return;
     }
     count += other.count;
+    interruptions += other.interruptions;
     if (other.last)
         last = other.last;
     if (!first)

@@ -17,6 +17,7 @@ struct LoggedProblem {
     bool isError = false;
     QByteArray thing; ///< such as "branch 150"; may be empty
     qint64 count = 0;
+    qint64 interruptions = 0; ///< of these: a deadlock, a lock's timeout, a lost connection
     std::optional<QDateTime> first;
     std::optional<QDateTime> last;
     QHash<QByteArray, qint64> people; ///< how often for whom: payroll ids or pids

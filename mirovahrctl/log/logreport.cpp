@@ -175,6 +175,7 @@ void LogReport::writeMissing()
     writeNoSynchronisation();
     writeMissingEnds();
     writeMissingTicks();
+    writeInterruptions();
     writeUnknownLines();
 }
 
@@ -230,6 +231,20 @@ void LogReport::writeMissingTicks()
         m_report.add(one.ofSynchronisation ? LogRules::kNoSynchronisation : LogRules::kNoTick,
                      message);
     }
+}
+
+void LogReport::writeInterruptions()
+{
+    qint64 count = 0;
+    for (const LoggedProblem &problem : m_problems)
+        count += problem.interruptions;
+    if (count == 0)
+        return;
+    m_report.add(
+        LogRules::kInterrupted,
+        QStringLiteral("%1 through a deadlock, the timeout of a lock or a lost connection.")
+            .arg(Wording::counted(count, QStringLiteral("statement failed"),
+                                  QStringLiteral("statements failed"))));
 }
 
 void LogReport::writeUnknownLines()

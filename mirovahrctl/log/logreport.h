@@ -25,6 +25,7 @@ private:
     void writeMissing();
     void writeMissingEnds();
     void writeMissingTicks();
+    void writeInterruptions();
     void writeNoSynchronisation();
     void writeUnknownLines();
     void writeKnowledge();

@@ -11,10 +11,11 @@ inline constexpr Rule kAdministratorMissing{
     "The plugin adds people only when they join. Use --sql, unless somebody removed the person."};
 
 inline constexpr Rule kBalanceDiffers{
-    "balance-differs", Severity::Warning,
+    "balance-differs", Severity::Note,
     "The vacation balance is not HR's, and nothing keeps the plugin from correcting it.",
-    "A forced synchronisation corrects it; otherwise it is corrected when HR's balance changes, or "
-    "next time if the plugin could not correct it last time."};
+    "The next synchronisation corrects it if the last one could not, as for a new employee; "
+    "otherwise a forced one does, or HR's next balance. Days that were taken last month count from "
+    "this month on."};
 
 inline constexpr Rule kDisabled{"disabled", Severity::Warning,
                                 "The plugin is switched off, so nothing comes by itself.",

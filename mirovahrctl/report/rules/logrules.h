@@ -5,6 +5,13 @@
 /// The rules of log.
 namespace LogRules {
 
+inline constexpr Rule kInterrupted{
+    "interrupted", Severity::Warning,
+    "Statements failed through a deadlock, a lock's timeout or a lost connection.",
+    "What they were to write may be missing for good: force a synchronisation with the same "
+    "export, "
+    "then run mirovahrctl drift. Look out for more: a failed COMMIT is not logged."};
+
 inline constexpr Rule kLoggedError{
     "logged-error", Severity::Error, "The plugin logged an error.",
     "The finding says what was lost and what to do; docs/operations.md lists every text."};
@@ -41,8 +48,8 @@ inline constexpr Rule kUnknownLine{
 
 /// All of them, in the order of `mirovahrctl rules`.
 inline constexpr const Rule *kAll[] = {
-    &kLoggedError, &kLoggedWarning,     &kNoEnd,       &kNoBegin,
-    &kNoTick,      &kNoSynchronisation, &kUnknownLine,
+    &kInterrupted, &kLoggedError, &kLoggedWarning,     &kNoEnd,
+    &kNoBegin,     &kNoTick,      &kNoSynchronisation, &kUnknownLine,
 };
 
 } // namespace LogRules

@@ -107,7 +107,7 @@ private Q_SLOTS:
 private:
     void addRows(int quickStep);
     void learn();
-    void synchronise(const std::function<void()> &disturbed);
+    void synchronise(const std::function<void()> &meanwhile, const std::function<void()> &then);
     void disturb(const Disturbance &disturbance);
     void checkDrift();
     QStringList found();
@@ -115,7 +115,7 @@ private:
 
     FaultCycle m_cycle;
     DriftedSite m_site{m_cycle.db()};
-    QStringList m_commands; ///< of the undisturbed cycle
+    QVector<MySqlProxy::Command> m_commands; ///< of the undisturbed cycle
     DatabaseState m_state; ///< after it
     QStringList m_found; ///< then: the sample's own
     QSet<QString> m_rules;
@@ -135,7 +135,7 @@ void TestDriftFaults::learn()
 {
     QVERIFY(m_cycle.begin());
     m_cycle.proxy().restartCount();
-    synchronise([] {});
+    synchronise([] {}, [this] { m_commands = m_cycle.proxy().commands(); });
     m_state = m_cycle.state();
     m_found = found();
 }
@@ -144,13 +144,18 @@ void TestDriftFaults::addRows(int quickStep)
 {
     const bool all = qgetenv("MIROVAHR_FAULTS") == "all";
     QTest::addColumn<int>("number");
-    for (int i = 0; i < m_commands.size(); i += all ? 1 : quickStep)
-        QTest::addRow("%d %s", i + 1, qPrintable(m_commands.at(i).left(70))) << i + 1;
+    for (int i = 0; i < m_commands.size(); i += all ? 1 : quickStep) {
+        const MySqlProxy::Command &command = m_commands.at(i);
+        if (command.hasAnswer)
+            QTest::addRow("%d %s", i + 1, qPrintable(command.text.left(70))) << i + 1;
+    }
 }
 
 /// A synchronisation, two more ticks, and a forced synchronisation of the same export, by a worker
-/// that is gone afterwards. Calls \a disturbed in another thread meanwhile.
-void TestDriftFaults::synchronise(const std::function<void()> &disturbed)
+/// that is gone afterwards. Calls \a meanwhile in another thread during the first one, and \a then
+/// after it.
+void TestDriftFaults::synchronise(const std::function<void()> &meanwhile,
+                                  const std::function<void()> &then)
 {
     const LogCapture log;
     {
@@ -161,16 +166,10 @@ void TestDriftFaults::synchronise(const std::function<void()> &disturbed)
         worker.setMes({{22, QStringLiteral("rodičovská dovolenka")}});
         worker.setTepDb(m_cycle.serverConnection());
         worker.init();
-        const auto other = std::async(std::launch::async, disturbed);
+        const auto other = std::async(std::launch::async, meanwhile);
         worker.checkSync();
         other.wait();
-        if (m_commands.isEmpty() || m_state.isEmpty())
-            m_commands.clear();
-        if (m_commands.isEmpty()) {
-            const auto commands = m_cycle.proxy().commands();
-            for (const MySqlProxy::Command &command : commands)
-                m_commands += m_cycle.plain(command.text);
-        }
+        then();
         worker.checkSync();
         worker.checkSync();
         m_cycle.repeat();
@@ -186,12 +185,16 @@ void TestDriftFaults::disturb(const Disturbance &disturbance)
     MySqlProxy &proxy = m_cycle.proxy();
     QVERIFY(m_cycle.begin());
     proxy.disturb(number, disturbance);
-    synchronise([&proxy] {
-        proxy.waitForArrival();
-        proxy.release();
-        proxy.waitForEnd();
-        proxy.resume();
-    });
+    bool isDisturbed = false;
+    synchronise(
+        [&] {
+            isDisturbed = proxy.waitForArrival();
+            proxy.release();
+            isDisturbed = isDisturbed && proxy.waitForEnd();
+            proxy.resume();
+        },
+        [] {});
+    QVERIFY(isDisturbed);
     checkDrift();
 }
 
@@ -248,7 +251,7 @@ void TestDriftFaults::checkDrift()
 void TestDriftFaults::withoutAFaultThereIsNone()
 {
     QVERIFY(m_cycle.begin());
-    synchronise([] {});
+    synchronise([] {}, [] {});
     checkDrift();
     QCOMPARE(m_rules, QSet<QString>());
     // The mending of the sample's own differences stays out of the other tests.
@@ -263,7 +266,7 @@ void TestDriftFaults::aServerErrorIsMended()
     disturbance.errorNumber = 1030;
     disturbance.sqlState = "HY000";
     disturbance.errorText = "Got error 28 from storage engine";
-    disturbance.rollsBack = m_commands.at(number - 1) == "COMMIT";
+    disturbance.rollsBack = m_commands.at(number - 1).text == "COMMIT";
     disturb(disturbance);
 }
 

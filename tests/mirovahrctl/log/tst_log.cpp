@@ -57,6 +57,8 @@ private Q_SLOTS:
     void aProblemSaysWhatItMeansAndWhomItConcerns();
     void problemsOfOneThingAreOneFinding();
     void whatNeedsNoActionIsANote();
+    void anInterruptedStatementPointsToDrift_data();
+    void anInterruptedStatementPointsToDrift();
     void aSynchronisationWithoutEndIsFound();
     void aSynchronisationThatStillRunsIsANote();
     void anEndWithoutBeginIsANote();
@@ -204,6 +206,58 @@ void TestLog::whatNeedsNoActionIsANote()
              + QStringList{"MHRWorker::loadAndParseData() - file '/tmp/ron.data' NOT found!"});
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.findingsOf("logged-warning").value(0)["severity"].toString(), QString("note"));
+}
+
+void TestLog::anInterruptedStatementPointsToDrift_data()
+{
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<bool>("isInterruption");
+
+    const QString execute = " QMYSQL: Unable to execute query";
+    QTest::newRow("a deadlock")
+        << "MHRWorker::dbSetAdminPeopleRequest() - SQL ERROR [1213]: Deadlock found when trying to "
+           "get lock; try restarting transaction"
+            + execute
+        << true;
+    QTest::newRow("without a number")
+        << "MHRWorker::dbUpdatePerson(1235.1) - SQL ERROR: Deadlock found when trying to get lock; "
+           "try restarting transaction"
+            + execute
+        << true;
+    QTest::newRow("a lock's timeout")
+        << "GroupsPlanRepo::add - ERROR[1205]: Lock wait timeout exceeded; try restarting "
+           "transaction"
+            + execute
+        << true;
+    QTest::newRow("a lost connection")
+        << "BranchesRepository::addPeopleToBranch - ERROR: Lost connection to server during query"
+            + execute
+        << true;
+    QTest::newRow("a server that is gone")
+        << "MHRWorker::dbLoadBranches() - SQL ERROR [2006]: Server has gone away" + execute << true;
+    QTest::newRow("another error")
+        << "MHRWorker::dbUpdatePerson(1235.1) - SQL ERROR: Data too long" + execute << false;
+    QTest::newRow("a name that says so")
+        << "MHRWorker: Branch '150' NOT FOUND for employee: '1235.1 Deadlock found (S: 150, K: 1 "
+           "from ) N-V:  - '"
+        << false;
+}
+
+void TestLog::anInterruptedStatementPointsToDrift()
+{
+    QFETCH(QString, error);
+    QFETCH(bool, isInterruption);
+    const QString line = "2021-11-22 01:00:30 " + error;
+    const QStringList whole = synchronisation(1, "01:00", "01:01");
+    const ToolRun run = read(QStringList{whole.first(), line, line} + whole.mid(1));
+    const auto found = run.findingsOf("interrupted");
+    QCOMPARE(found.size(), isInterruption ? 1 : 0);
+    if (!isInterruption)
+        return;
+    QCOMPARE(found.first()["message"].toString(),
+             QString("2 statements failed through a deadlock, the timeout of a lock or a lost "
+                     "connection."));
+    QVERIFY(found.first()["advice"].toString().contains("mirovahrctl drift"));
 }
 
 void TestLog::aSynchronisationWithoutEndIsFound()
