@@ -121,7 +121,7 @@ void TestCheckDbServer::aConnectionThatIsNotUnicodeIsReported()
     QVERIFY(QSqlQuery(db).exec(statement));
     FindingList report;
     DbAssessment check(db, report);
-    DbRules::checkConnection(check);
+    DbRules::checkConnection(check, DbRules::Account::OfThePlugin, kTimeouts.last());
     QCOMPARE(report.findings.size(), 1);
     QCOMPARE(report.findings.first().rule, QString("connection-charset"));
     QCOMPARE(report.findings.first().message, message + '.');
@@ -135,7 +135,7 @@ void TestCheckDbServer::aConnectionThatTakesOneStatementAtATimeIsReported()
     QVERIFY(refuseSeveralStatements(db));
     FindingList report;
     DbAssessment check(db, report);
-    DbRules::checkConnection(check);
+    DbRules::checkConnection(check, DbRules::Account::OfThePlugin, kTimeouts.last());
     QCOMPARE(report.findings.size(), 1);
     QCOMPARE(report.findings.first().rule, QString("several-statements"));
     QCOMPARE(report.findings.first().message,
@@ -149,7 +149,7 @@ void TestCheckDbServer::anOrdinaryConnectionIsFine()
 {
     FindingList report;
     DbAssessment check(m_db.openPluginConnection(), report);
-    DbRules::checkConnection(check);
+    DbRules::checkConnection(check, DbRules::Account::OfThePlugin, kTimeouts.last());
     QCOMPARE(report.findings.size(), 0);
     QCOMPARE(check.sql().errorString(), QString());
 }
