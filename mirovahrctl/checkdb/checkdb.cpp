@@ -1,3 +1,4 @@
+#include "mirovahrctl/checkdb/clusternodes.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
@@ -21,42 +22,73 @@ constexpr char kDescription[] =
     "With --config the check is about the department and the relationship states of that\n"
     "configuration, and otherwise about any.";
 
-DbRules::Account accountOf(const CommandLine &line)
+/// What the command line asks for.
+struct Request {
+    DbRules::Account account;
+    bool everyNode;
+    const PluginConfiguration *configuration; ///< null: any
+};
+
+Request requestOf(const CommandLine &line, const PluginConfiguration &configuration)
 {
-    return line.isSet("other-account") ? DbRules::Account::Another : DbRules::Account::OfThePlugin;
+    return {line.isSet("other-account") ? DbRules::Account::Another : DbRules::Account::OfThePlugin,
+            line.isSet("every-node"), line.isSet("config") ? &configuration : nullptr};
 }
 
 /// False when the tables are not complete enough for their data to be checked.
-bool checkSchema(DbAssessment &check, DbRules::Account account,
-                 const PluginConfiguration *configuration)
+bool checkSchema(DbAssessment &check, const Request &request, const ServerSettings &settings)
 {
     DbSchema schema;
     if (!schema.load(check.sql()))
         return false;
     const int violationsBefore = check.violationCount();
     DbRules::checkTables(check, schema);
-    DbRules::checkColumns(check, schema, configuration != nullptr);
+    DbRules::checkColumns(check, schema, request.configuration != nullptr);
     DbRules::checkKeys(check, schema);
-    DbRules::checkKeylessTables(check, schema, DbRules::readKeySettings(check));
+    DbRules::checkKeylessTables(check, schema, settings);
+    if (isClusterNode(settings))
+        DbRules::checkClusterTables(check, schema);
     DbRules::checkStatements(check, schema);
-    if (account == DbRules::Account::OfThePlugin)
+    if (request.account == DbRules::Account::OfThePlugin)
         DbRules::checkRights(check, schema);
     const bool readable = check.violationCount() == violationsBefore;
-    if (configuration != nullptr)
-        DbRules::checkConfiguration(check, schema, *configuration);
+    if (request.configuration != nullptr)
+        DbRules::checkConfiguration(check, schema, *request.configuration);
     return readable;
 }
 
-void checkAll(DbAssessment &check, DbRules::Account account, const QString &connectOptions,
-              const PluginConfiguration *configuration)
+/// False when the node of a cluster refuses statements.
+bool checkCluster(DbAssessment &check, SiteDatabase &site, const Request &request,
+                  const ServerSettings &settings)
 {
+    if (!isClusterNode(settings)) {
+        DbRules::checkNoCluster(check, settings, request.everyNode);
+        return true;
+    }
+    if (!DbRules::checkCluster(check, settings, readClusterStatus(check.sql())))
+        return false;
+    if (request.everyNode) {
+        const ClusterNodes nodes = ClusterNodes::ask(site);
+        DbRules::checkNodes(check, nodes.own(), nodes.others(), nodes.unnamed());
+    }
+    return true;
+}
+
+/// False when the node of a cluster refuses statements: then only its state was checked.
+bool checkAll(DbAssessment &check, SiteDatabase &site, const Request &request)
+{
+    // The cluster first: a node that has lost it may answer nothing but SHOW.
+    const ServerSettings settings = readSettings(check.sql());
+    if (!checkCluster(check, site, request, settings))
+        return false;
     DbRules::checkServer(check);
-    DbRules::checkConnection(check, account, connectOptions);
+    DbRules::checkConnection(check, request.account, site.givenConnectOptions());
     DbRules::checkTime(check);
-    const bool readable = checkSchema(check, account, configuration);
-    DbRules::checkRoutines(check, account);
+    const bool readable = checkSchema(check, request, settings);
+    DbRules::checkRoutines(check, request.account);
     if (readable)
         DbRules::checkContent(check);
+    return true;
 }
 
 QString verdict(const DbAssessment &check)
@@ -90,10 +122,9 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
     const QSqlDatabase &db = site.sql().database();
     report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
     DbAssessment check(db, report);
-    checkAll(check, accountOf(line), site.givenConnectOptions(),
-             line.isSet("config") ? &configuration : nullptr);
+    const bool answers = checkAll(check, site, requestOf(line, configuration));
     // A statement that may fail may have been the last one.
-    if (check.sql().failed() || !site.loss().isEmpty())
+    if (check.sql().failed() || (answers && !site.loss().isEmpty()))
         return console.fail(ExitStatus::NoDatabase, check.sql().failure());
     return report.conclude(check.isContractBroken() ? ExitStatus::ContractBroken
                                                     : report.findingsStatus(),
@@ -106,6 +137,7 @@ ExitStatus runCheckDb(const QStringList &arguments, Console &console)
 {
     CommandLine line("check-db", kDescription);
     line.addFlag("other-account", "The account is not the plugin's: do not check its rights.");
+    line.addFlag("every-node", "On a cluster: ask the other nodes, too, and report what differs.");
     line.addOption("config", "file", "The plugin's INI file, whose values must fit the columns.");
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();

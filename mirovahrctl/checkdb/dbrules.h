@@ -1,11 +1,14 @@
 #pragma once
 
-#include <QHash>
+#include "mirovahrctl/checkdb/serversettings.h"
+
 #include <QString>
+#include <QVector>
 
 class DbAssessment;
 class DbSchema;
 class PluginConfiguration;
+struct AskedNode;
 
 /// What a database server is, by what its VERSION() returns.
 struct ServerVersion {
@@ -28,10 +31,19 @@ namespace DbRules {
 /// Whose account the connection uses. The rights of another account say nothing about the plugin.
 enum class Account { OfThePlugin, Another };
 
-/// Settings of the server by name; names are in lower case.
-using ServerSettings = QHash<QString, QString>;
-
 void checkServer(DbAssessment &check);
+/// For a node of a cluster: its state and its settings. \a status: of readClusterStatus(). False
+/// when the node refuses statements on tables, so that nothing else can be checked.
+bool checkCluster(DbAssessment &check, const ServerSettings &settings,
+                  const ServerSettings &status);
+/// For a server that is none. \a nodesWanted: a cluster was expected.
+void checkNoCluster(DbAssessment &check, const ServerSettings &settings, bool nodesWanted);
+/// For a node of a cluster: the engines of the tables.
+void checkClusterTables(DbAssessment &check, const DbSchema &schema);
+/// Compares the other nodes of a cluster with this one. \a unnamed: how many of its members have
+/// no address.
+void checkNodes(DbAssessment &check, const AskedNode &own, const QVector<AskedNode> &others,
+                int unnamed);
 /// \a connectOptions: those that the user gave, which for the plugin's account are the attendance
 /// server's.
 void checkConnection(DbAssessment &check, Account account, const QString &connectOptions);
@@ -42,8 +54,6 @@ void checkColumns(DbAssessment &check, const DbSchema &schema, bool configuratio
 void checkConfiguration(DbAssessment &check, const DbSchema &schema,
                         const PluginConfiguration &configuration);
 void checkKeys(DbAssessment &check, const DbSchema &schema);
-/// Reads the settings that decide whether tables without a primary key work.
-ServerSettings readKeySettings(DbAssessment &check);
 void checkKeylessTables(DbAssessment &check, const DbSchema &schema,
                         const ServerSettings &settings);
 /// Whether the plugin's statements find their rows by keys.

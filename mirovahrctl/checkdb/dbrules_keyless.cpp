@@ -3,6 +3,7 @@
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/checkdb/serversettings.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/dbschema.h"
 
@@ -11,30 +12,12 @@
 
 namespace {
 
-constexpr char kSelectSettings[] =
-    "SHOW VARIABLES WHERE Variable_name IN ('default_storage_engine', 'default_tmp_storage_engine',"
-    " 'enforce_storage_engine', 'innodb_force_primary_key', 'sql_mode', 'wsrep_certify_nonPK',"
-    " 'wsrep_mode', 'wsrep_on')";
-
-using DbRules::ServerSettings;
-
 /// A setting that makes a statement fail.
 struct Refusal {
     QString setting;
     int error;
     QString remedy;
 };
-
-bool isOn(const ServerSettings &settings, const char *name)
-{
-    return settings.value(QLatin1String(name)) == QLatin1String("ON");
-}
-
-bool has(const ServerSettings &settings, const char *name, const char *word)
-{
-    const QStringList words = settings.value(QLatin1String(name)).split(QLatin1Char(','));
-    return words.contains(QLatin1String(word));
-}
 
 QString temporaryEngine(const ServerSettings &settings)
 {
@@ -55,7 +38,7 @@ std::optional<Refusal> refusalOfTemporaryTable(const ServerSettings &settings)
     if (isOn(settings, "innodb_force_primary_key") && engine == QLatin1String("InnoDB"))
         return Refusal{QStringLiteral("innodb_force_primary_key = ON"), 1173,
                        QStringLiteral("Turn it off, or set default_tmp_storage_engine to Aria.")};
-    if (isOn(settings, "wsrep_on") && has(settings, "wsrep_mode", "REQUIRED_PRIMARY_KEY"))
+    if (isClusterNode(settings) && has(settings, "wsrep_mode", "REQUIRED_PRIMARY_KEY"))
         return Refusal{QStringLiteral("wsrep_mode = REQUIRED_PRIMARY_KEY"), 4165,
                        QStringLiteral("Remove the mode from wsrep_mode.")};
     return std::nullopt;
@@ -87,47 +70,62 @@ bool hasPrimaryKey(const DbSchema &schema, const QString &table)
     });
 }
 
-void checkWrites(DbAssessment &check, const DbSchema &schema, const ServerSettings &settings)
+/// The tables on which this account sees no primary key. \a written: only those that the plugin
+/// writes.
+QStringList tablesWithoutKey(const DbSchema &schema, bool written)
 {
-    if (!isOn(settings, "wsrep_on") || isOn(settings, "wsrep_certify_nonpk"))
-        return;
     QStringList tables;
     for (const TepDbContract::Table &entry : TepDbContract::kTables) {
         const QString table = QString::fromLatin1(entry.name);
-        if (schema.hasTable(table) && TepDbContract::isWritten(table)
+        if (schema.hasTable(table) && (!written || TepDbContract::isWritten(table))
             && !hasPrimaryKey(schema, table))
             tables += table;
     }
+    return tables;
+}
+
+void reportWithoutKey(DbAssessment &check, const Rule &rule, const QString &message,
+                      const QStringList &tables)
+{
     if (tables.isEmpty())
         return;
-    Finding finding = makeFinding(
-        CheckDbRules::kPrimaryKeyWanted,
-        QStringLiteral("The server has wsrep_certify_nonPK = OFF, and this account sees "
-                       "no primary key on these tables: %1. Without one, each of the "
-                       "plugin's writes to them fails with error 1213 (deadlock).")
-            .arg(tables.join(QStringLiteral(", "))));
+    Finding finding = makeFinding(rule, message.arg(tables.join(QStringLiteral(", "))));
     // Keys on columns that the account cannot see are hidden as well.
     if (check.isPartlySeen())
-        finding.severity = CheckDbRules::kPrimaryKeyWanted.otherSeverity;
+        finding.severity = rule.otherSeverity;
     check.report(finding);
 }
 
-} // namespace
-
-DbRules::ServerSettings DbRules::readKeySettings(DbAssessment &check)
+void checkReplication(DbAssessment &check, const DbSchema &schema, const ServerSettings &settings)
 {
-    ServerSettings settings;
-    const QVector<QStringList> rows = check.sql().rows(QLatin1String(kSelectSettings));
-    for (const QStringList &row : rows)
-        settings.insert(row.at(0).toLower(), row.at(1));
-    return settings;
+    if (!isClusterNode(settings))
+        return;
+    if (!isOn(settings, "wsrep_certify_nonpk")) {
+        reportWithoutKey(
+            check, CheckDbRules::kPrimaryKeyWanted,
+            QStringLiteral("The server has wsrep_certify_nonPK = OFF, and this account "
+                           "sees no primary key on these tables: %1. Without one, each "
+                           "of the plugin's writes to them fails with error 1213 "
+                           "(deadlock)."),
+            tablesWithoutKey(schema, true));
+        return;
+    }
+    reportWithoutKey(
+        check, CheckDbRules::kClusterKeyless,
+        QStringLiteral("This account sees no primary key on these tables: %1. On a "
+                       "cluster, new rows of two nodes conflict in such a table though "
+                       "they differ, and one of the two is refused with error 1213 "
+                       "(deadlock)."),
+        tablesWithoutKey(schema, false));
 }
+
+} // namespace
 
 void DbRules::checkKeylessTables(DbAssessment &check, const DbSchema &schema,
                                  const ServerSettings &settings)
 {
     check.begin("keyless-tables", "Tables without a primary key");
     checkTemporaryTable(check, settings);
-    checkWrites(check, schema, settings);
+    checkReplication(check, schema, settings);
     check.end(QStringLiteral("The server accepts them where they are used."));
 }

@@ -20,9 +20,9 @@ constexpr char kSelectKeys[] =
 /// Only MariaDB has it, from 10.6 on.
 constexpr char kNotIgnored[] = "IGNORED = 'NO'";
 
-constexpr char kSelectTransactional[] =
-    "SELECT TABLE_NAME FROM information_schema.TABLES t JOIN information_schema.ENGINES e"
-    " ON e.ENGINE = t.ENGINE WHERE TABLE_SCHEMA = DATABASE() AND e.TRANSACTIONS = 'YES'";
+constexpr char kSelectEngines[] =
+    "SELECT TABLE_NAME, e.ENGINE, e.TRANSACTIONS = 'YES' FROM information_schema.TABLES t"
+    " JOIN information_schema.ENGINES e ON e.ENGINE = t.ENGINE WHERE TABLE_SCHEMA = DATABASE()";
 
 /// MariaDB shows a default as in the table's definition, other servers as the bare text.
 QString bareDefault(const QString &text)
@@ -69,7 +69,7 @@ bool DbSchema::load(SqlSession &site)
     for (const QStringList &row : columns)
         m_columns[row.at(0)].append(readColumn(row));
     loadKeys(site);
-    m_transactional = site.column(QLatin1String(kSelectTransactional));
+    loadEngines(site);
     return !site.failed();
 }
 
@@ -108,6 +108,16 @@ void DbSchema::loadKeys(SqlSession &site)
         keys = site.rows(sql.arg(QLatin1String("TRUE")));
     for (const QStringList &row : qAsConst(keys))
         addKeyColumn(row);
+}
+
+void DbSchema::loadEngines(SqlSession &site)
+{
+    const QVector<QStringList> tables = site.rows(QLatin1String(kSelectEngines));
+    for (const QStringList &row : tables) {
+        m_engines.insert(row.at(0), row.at(1));
+        if (row.at(2) == QLatin1String("1"))
+            m_transactional += row.at(0);
+    }
 }
 
 void DbSchema::addKeyColumn(const QStringList &row)

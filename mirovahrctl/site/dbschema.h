@@ -53,14 +53,18 @@ public:
     QVector<DbKey> keys(const QString &table) const { return m_keys.value(table); }
     /// The primary and unique keys of a table.
     QVector<DbKey> uniqueKeys(const QString &table) const;
+    /// The engine of the table; empty for a view.
+    QString engine(const QString &table) const { return m_engines.value(table); }
     /// Whether the table takes part in transactions.
     bool isTransactional(const QString &table) const { return m_transactional.contains(table); }
 
 private:
     void loadKeys(SqlSession &site);
+    void loadEngines(SqlSession &site);
     void addKeyColumn(const QStringList &row);
 
     QHash<QString, QVector<DbColumn>> m_columns;
     QHash<QString, QVector<DbKey>> m_keys;
+    QHash<QString, QString> m_engines;
     QStringList m_transactional;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/databaseoptions.h"
 #include "mirovahrctl/report/exitstatus.h"
 #include "mirovahrctl/site/sqlsession.h"
 
@@ -31,20 +32,23 @@ public:
     std::optional<ExitStatus> open(const CommandLine &line, DatabaseAccess access,
                                    Console &console);
 
-    /// Only after a successful open().
+    /// Opens, for reading, the same database on another server: with the account and the connect
+    /// options with which \a site was opened. Why that failed, empty when it did not.
+    QString openNode(const SiteDatabase &site, const QString &host, uint port);
+
+    /// Only after one of them has succeeded.
     SqlSession &sql() { return *m_sql; }
 
     /// The connect options that the user gave.
-    QString givenConnectOptions() const { return m_givenConnectOptions; }
+    QString givenConnectOptions() const { return m_options.connectOptions; }
 
     /// Asks the server. Which one has closed the connection or fallen silent, a sentence without
     /// its full stop; empty when it answers.
     QString loss() const;
 
 private:
-    Console *m_console = nullptr; ///< null unless the connection is open
-    QString m_server;
-    QString m_givenConnectOptions;
+    Console *m_console = nullptr; ///< null unless open() has succeeded
+    DatabaseOptions m_options;
     std::unique_ptr<Database> m_database;
     std::optional<SqlSession> m_sql; ///< destroyed before the connection
 };

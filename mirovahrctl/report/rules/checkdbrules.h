@@ -29,6 +29,79 @@ inline constexpr Rule kClock{
     "clock", Severity::Warning, "The clocks of the server and of this machine differ.",
     "Synchronise both with the same time server: the plugin compares times of the two."};
 
+inline constexpr Rule kClusterAutoincLockMode{
+    "cluster-autoinc-lock-mode", Severity::Warning,
+    "innodb_autoinc_lock_mode is not 2, so inserts of several nodes can block each other for good.",
+    "Set innodb_autoinc_lock_mode = 2 on every node."};
+
+inline constexpr Rule kClusterBinlogFormat{
+    "cluster-binlog-format", Severity::Error,
+    "binlog_format is not ROW, the only one that a Galera cluster replicates.",
+    "Set binlog_format = ROW on every node."};
+
+inline constexpr Rule kClusterDonorBlocked{
+    "cluster-donor-blocked", Severity::Warning,
+    "A node that is being copied to a joining one does not work meanwhile.",
+    "Set wsrep_sst_method = mariabackup and wsrep_sst_donor_rejects_queries = OFF on every node."};
+
+inline constexpr Rule kClusterEngine{"cluster-engine", Severity::Error,
+                                     "A table has an engine that the cluster does not replicate.",
+                                     "Convert the table: ALTER TABLE ... ENGINE = InnoDB."};
+
+inline constexpr Rule kClusterFewRetries{
+    "cluster-few-retries", Severity::Warning,
+    "wsrep_retry_autocommit is below 5, so statements fail at conflicts with other nodes.",
+    "Set wsrep_retry_autocommit = 5, or more, on every node."};
+
+inline constexpr Rule kClusterKeyless{
+    "cluster-keyless", Severity::Warning,
+    "A table has no primary key, so different new rows of two nodes conflict.",
+    "Add a column id BIGINT UNSIGNED NOT NULL INVISIBLE AUTO_INCREMENT PRIMARY KEY.",
+    Severity::Note};
+
+inline constexpr Rule kClusterNodeIncrement{
+    "cluster-node-increment", Severity::Warning,
+    "Another node counts automatic numbers in other steps than this one.",
+    "Set wsrep_auto_increment_control = ON, or the same auto_increment_increment, on every node."};
+
+inline constexpr Rule kClusterNodeNotAsked{
+    "cluster-node-not-asked", Severity::Warning,
+    "A member of the cluster could not be asked, so this check says nothing about it.",
+    "Check it by itself. Here the account must be allowed to connect to it."};
+
+inline constexpr Rule kClusterNodeSqlMode{
+    "cluster-node-sql-mode", Severity::Warning, "Another node has another SQL mode than this one.",
+    "Give every node the same sql_mode: the plugin works with each of them after a fail-over."};
+
+inline constexpr Rule kClusterNodeTimeZone{
+    "cluster-node-time-zone", Severity::Error,
+    "Another node is in another time zone than this one.",
+    "Give every node, and the attendance server, the same time zone by its name."};
+
+inline constexpr Rule kClusterNodeVersion{"cluster-node-version", Severity::Note,
+                                          "Another node has another version than this one.",
+                                          "Finish the upgrade of the cluster."};
+
+inline constexpr Rule kClusterNotPrimary{
+    "cluster-not-primary", Severity::Error,
+    "The node has lost the majority of its cluster, and refuses every statement.",
+    "Use another node. See to the network and the other nodes."};
+
+inline constexpr Rule kClusterNotSynced{
+    "cluster-not-synced", Severity::Error,
+    "A node of the cluster is not in step with the others, or refuses statements.",
+    "Wait until it is Synced, or use another node.", Severity::Warning};
+
+inline constexpr Rule kClusterOff{
+    "cluster-off", Severity::Warning,
+    "The server is prepared for a cluster, and does not replicate.",
+    "Set wsrep_on = ON, or remove wsrep_provider from a server that is to be alone."};
+
+inline constexpr Rule kClusterStaleReads{
+    "cluster-stale-reads", Severity::Warning,
+    "wsrep_sync_wait lacks the bit 1, so a query may miss what other nodes have committed.",
+    "Set wsrep_sync_wait = 1 on every node."};
+
 inline constexpr Rule kColumnCharset{"column-charset", Severity::Warning,
                                      "A text column has a character set that lacks letters.",
                                      "Convert the column to utf8mb4."};
@@ -142,7 +215,8 @@ inline constexpr Rule kPayrollIdStrange{
 inline constexpr Rule kPrimaryKeyWanted{
     "primary-key-wanted", Severity::Error,
     "The cluster refuses writes to tables without a primary key, and there is such a table.",
-    "Add a column id BIGINT UNSIGNED NOT NULL AUTO_INCREMENT PRIMARY KEY.", Severity::Note};
+    "Add a column id BIGINT UNSIGNED NOT NULL INVISIBLE AUTO_INCREMENT PRIMARY KEY.",
+    Severity::Note};
 
 inline constexpr Rule kRightExcess{
     "right-excess", Severity::Warning, "The account has more rights than the plugin needs.",
@@ -275,6 +349,21 @@ inline constexpr const Rule *kAll[] = {
     &kBranchNumberTwice,
     &kCalendarTwice,
     &kClock,
+    &kClusterAutoincLockMode,
+    &kClusterBinlogFormat,
+    &kClusterDonorBlocked,
+    &kClusterEngine,
+    &kClusterFewRetries,
+    &kClusterKeyless,
+    &kClusterNodeIncrement,
+    &kClusterNodeNotAsked,
+    &kClusterNodeSqlMode,
+    &kClusterNodeTimeZone,
+    &kClusterNodeVersion,
+    &kClusterNotPrimary,
+    &kClusterNotSynced,
+    &kClusterOff,
+    &kClusterStaleReads,
     &kColumnCharset,
     &kColumnKind,
     &kColumnMissing,

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void theSiteMayHaveMore();
     void everyRowMayHaveANumberOfItsOwn();
     void noRowNeedsANumberOfItsOwn();
+    void aServerThatIsAloneHasNoOtherNodes();
     void aLiteralBackslashIsNoted();
 
     void everyTableIsRequired_data();
@@ -754,6 +755,15 @@ void TestCheckDb::noRowNeedsANumberOfItsOwn()
     QCOMPARE(run.findings(), QJsonArray());
 }
 
+void TestCheckDb::aServerThatIsAloneHasNoOtherNodes()
+{
+    const ToolRun run = runTool(QStringList{"check-db", "--every-node"} + connection());
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QVERIFY2(run.out.contains("\nCluster\n-------\nThe server does not belong to a cluster: there "
+                              "are no other nodes.\n"),
+             run.report().constData());
+}
+
 void TestCheckDb::aLiteralBackslashIsNoted()
 {
     m_db.run("SET GLOBAL sql_mode = 'STRICT_TRANS_TABLES,NO_BACKSLASH_ESCAPES'");
@@ -1049,6 +1059,7 @@ void TestCheckDb::nothingIsWritten()
             others += statement;
     }
     QCOMPARE(others, QStringList("CALL updateTermsSync(0, 2)"));
+    QCOMPARE(statements.filter(QRegularExpression("^SHOW VARIABLES ")).size(), 1);
     QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
 }
 
@@ -1111,11 +1122,16 @@ void TestCheckDb::theHelpSaysHowToConnect()
 
 void TestCheckDb::everyRuleHasItsFixtures()
 {
-    // These take other accounts, servers or more rows: see TestCheckDbRights, TestCheckDbServer and
-    // TestCheckDbStatements.
-    const QSet<QString> others{"columns-hidden",     "connection-charset", "groups-reserved",
-                               "primary-key-wanted", "right-excess",       "right-missing",
-                               "routine-unseen",     "several-statements", "statement-scans"};
+    // These take other accounts, servers or more rows: see TestCheckDbRights, TestCheckDbServer,
+    // TestCheckDbStatements and, for all rules of clusters, TestCheckDbCluster.
+    QSet<QString> others{"columns-hidden",     "connection-charset", "groups-reserved",
+                         "primary-key-wanted", "right-excess",       "right-missing",
+                         "routine-unseen",     "several-statements", "statement-scans"};
+    const QStringList rules = registeredRules("check-db");
+    for (const QString &rule : rules) {
+        if (rule.startsWith("cluster-"))
+            others += rule;
+    }
     QCOMPARE(RuleFixtures::ofReports("check-db").missing("check-db", others), QStringList());
 }
 

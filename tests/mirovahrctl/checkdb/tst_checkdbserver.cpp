@@ -1,8 +1,8 @@
 #include "db/termsyncrepository.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
-#include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/site/dbschema.h"
+#include "tests/mirovahrctl/checkdb/findinglist.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testdatabase.h"
@@ -13,31 +13,9 @@
 
 #include <dlfcn.h>
 
-Q_DECLARE_METATYPE(DbRules::ServerSettings)
+Q_DECLARE_METATYPE(ServerSettings)
 
 namespace {
-
-/// Keeps the findings and forgets the rest.
-class FindingList : public ReportWriter {
-public:
-    void begin(const QString &, const QString &) override { }
-    void section(const QString &, const QString &) override { }
-    void sentence(const QString &) override { }
-    void table(const Table &) override { }
-    void finding(const Finding &finding) override { findings += finding; }
-    void fact(const QString &, const QString &, const QVariant &) override { }
-    void end(ExitStatus, const QString &) override { }
-
-    QString messages() const
-    {
-        QStringList messages;
-        for (const Finding &finding : findings)
-            messages += finding.message;
-        return messages.join('\n');
-    }
-
-    QVector<Finding> findings;
-};
 
 /// Makes the server accept one statement in a text only, as a proxy would.
 bool refuseSeveralStatements(const QSqlDatabase &db)
@@ -88,7 +66,8 @@ void TestCheckDbServer::initTestCase()
 {
     QVERIFY2(m_db.start(), qPrintable(m_db.errorString()));
     m_db.grant("grants-repositories.sql");
-    m_db.run("GRANT SELECT ON term_sync TO yav@localhost");
+    for (const char *table : {"term_sync", "pzt"})
+        m_db.run(QStringLiteral("GRANT SELECT ON %1 TO yav@localhost").arg(table));
 }
 
 void TestCheckDbServer::cleanup()
@@ -206,7 +185,7 @@ void TestCheckDbServer::theTemporaryTableFailsWhereCheckDbSaysSo()
     const QSqlDatabase db = m_db.openPluginConnection();
     FindingList report;
     DbAssessment check(db, report);
-    DbRules::checkKeylessTables(check, DbSchema(), DbRules::readKeySettings(check));
+    DbRules::checkKeylessTables(check, DbSchema(), readSettings(check.sql()));
     QCOMPARE(check.sql().errorString(), QString());
     QCOMPARE(report.findings.size(), error.isEmpty() ? 0 : 1);
 
@@ -224,15 +203,16 @@ void TestCheckDbServer::theTemporaryTableFailsWhereCheckDbSaysSo()
 
 void TestCheckDbServer::clustersThatRequirePrimaryKeysAreReported_data()
 {
-    QTest::addColumn<DbRules::ServerSettings>("settings");
+    QTest::addColumn<ServerSettings>("settings");
     QTest::addColumn<QString>("change");
     QTest::addColumn<QString>("message");
-    const DbRules::ServerSettings cluster = {{"wsrep_on", "ON"}, {"wsrep_certify_nonpk", "ON"}};
-    const auto with = [](DbRules::ServerSettings settings, const char *name, const char *value) {
+    const ServerSettings cluster = {{"wsrep_on", "ON"}, {"wsrep_certify_nonpk", "ON"}};
+    const auto with = [](ServerSettings settings, const char *name, const char *value) {
         settings.insert(name, value);
         return settings;
     };
     const QString noChange = "DO 1";
+    const QString noNumbers = "ALTER TABLE term_sync DROP id";
     const QString queue = "The server has wsrep_certify_nonPK = OFF, and this account sees no "
                           "primary key on these tables: %1. Without one, each of the plugin's "
                           "writes to them fails with error 1213 (deadlock).";
@@ -245,26 +225,37 @@ void TestCheckDbServer::clustersThatRequirePrimaryKeysAreReported_data()
            "terminals.";
     QTest::newRow("other modes") << with(cluster, "wsrep_mode", "STRICT_REPLICATION") << noChange
                                  << "";
+    QTest::newRow("a key for each row")
+        << with(cluster, "wsrep_certify_nonpk", "OFF") << noChange << "";
     QTest::newRow("wanted of rows that are written")
-        << with(cluster, "wsrep_certify_nonpk", "OFF") << noChange << queue.arg("term_sync");
-    QTest::newRow("a key that takes NULL") << with(cluster, "wsrep_certify_nonpk", "OFF")
-                                           << "ALTER TABLE vars DROP PRIMARY KEY, MODIFY name "
-                                              "VARCHAR(160) NULL, ADD UNIQUE KEY (name)"
-                                           << queue.arg("term_sync, vars");
-    QTest::newRow("a number of its own for each row")
+        << with(cluster, "wsrep_certify_nonpk", "OFF") << noNumbers << queue.arg("term_sync");
+    QTest::newRow("a key that takes NULL")
         << with(cluster, "wsrep_certify_nonpk", "OFF")
-        << "ALTER TABLE term_sync ADD id INT NOT NULL AUTO_INCREMENT UNIQUE"
+        << "ALTER TABLE vars DROP PRIMARY KEY, MODIFY name VARCHAR(160) NULL, ADD UNIQUE KEY (name)"
+        << queue.arg("vars");
+    QTest::newRow("rows of two nodes that conflict")
+        << cluster << noNumbers
+        << "This account sees no primary key on these tables: term_sync. On a cluster, new rows of "
+           "two nodes conflict in such a table though they differ, and one of the two is refused "
+           "with error 1213 (deadlock).";
+    QTest::newRow("no key of a table that the plugin does not write")
+        << cluster << "ALTER TABLE bradm DROP PRIMARY KEY"
+        << "This account sees no primary key on these tables: bradm. On a cluster, new rows of two "
+           "nodes conflict in such a table though they differ, and one of the two is refused with "
+           "error 1213 (deadlock).";
+    QTest::newRow("a server that was built for clusters")
+        << with(with(cluster, "wsrep_provider", "none"), "wsrep_certify_nonpk", "OFF") << noNumbers
         << "";
     QTest::newRow("a server that is no cluster")
-        << DbRules::ServerSettings({{"wsrep_on", "OFF"},
-                                    {"wsrep_certify_nonpk", "OFF"},
-                                    {"wsrep_mode", "REQUIRED_PRIMARY_KEY"}})
+        << ServerSettings({{"wsrep_on", "OFF"},
+                           {"wsrep_certify_nonpk", "OFF"},
+                           {"wsrep_mode", "REQUIRED_PRIMARY_KEY"}})
         << noChange << "";
 }
 
 void TestCheckDbServer::clustersThatRequirePrimaryKeysAreReported()
 {
-    QFETCH(DbRules::ServerSettings, settings);
+    QFETCH(ServerSettings, settings);
     QFETCH(QString, change);
     QFETCH(QString, message);
     m_db.run(change);
@@ -282,10 +273,12 @@ void TestCheckDbServer::clustersThatRequirePrimaryKeysAreReported()
 
 void TestCheckDbServer::anAccountThatCannotSeeAllColumnsOnlyNotesAMissingKey()
 {
+    m_db.run("ALTER TABLE term_sync DROP id");
     const QSqlDatabase db = m_db.openPluginConnection();
     DbSchema schema;
     SqlSession site(db);
     QVERIFY2(schema.load(site), qPrintable(site.errorString()));
+    m_db.reset();
     for (const bool seesAll : {true, false}) {
         FindingList report;
         DbAssessment check(db, report);
