@@ -12,6 +12,9 @@ from usage import run_measured
 #: Whom explain is asked about: somebody who is moved.
 PERSON = "10001.1"
 
+#: In a file: the gate refuses one in which much more changes.
+MOST_CHANGES = 500
+
 #: The rows that a synchronisation may change, of those tables of which it changes few.
 CHANGEABLE = {
     "atten": "`lock` = 0",
@@ -147,14 +150,12 @@ class SiteBench:
     # ---- files ---------------------------------------------------------------------------------
 
     def measure_files(self, lines, rounds):
-        """check-file, diff and gate with an export of so many lines, in 1 % of which the phone changes.
-
-        The gate refuses a file in which more than a hundred people move."""
+        """check-file, diff and gate with an export of so many lines, in some of which the phone changes."""
         self.size = lines
         self.facts = {}
         files = [self.bench.scratch / name for name in ("before", "now")]
         data.write_export(files[0], lines)
-        data.write_export(files[1], lines, 100, with_another_phone)
+        data.write_export(files[1], lines, max(100, lines // MOST_CHANGES), with_another_phone)
         self.facts["bytes"] = files[1].stat().st_size
         state = self.bench.scratch / "gate"
         gate = ["--to", self.bench.scratch / "published", "--state", state]
