@@ -100,16 +100,22 @@ TestDatabase::~TestDatabase()
         QSqlDatabase::removeDatabase(name);
 }
 
+bool TestDatabase::attach(PrivateMariaDb &server)
+{
+    m_server = &server;
+    return openAdministrator();
+}
+
 bool TestDatabase::start(const QStringList &serverOptions)
 {
     // A test that leaves a transaction open must fail at the next reset, not hang. The right to
     // call a routine outlives the routine, so that a test may put another one in its place.
-    m_server.setServerOptions(QStringList{"--general-log=1", "--log-output=TABLE",
-                                          "--lock-wait-timeout=60", "--automatic-sp-privileges=0"}
-                              + serverOptions);
-    m_server.setHostRights(PrivateMariaDb::HostRights::None);
-    m_server.setMadeDataFolder(MIROVAHR_MADE_DATA_FOLDER);
-    if (!m_server.start() || !openAdministrator())
+    m_server->setServerOptions(QStringList{"--general-log=1", "--log-output=TABLE",
+                                           "--lock-wait-timeout=60", "--automatic-sp-privileges=0"}
+                               + serverOptions);
+    m_server->setHostRights(PrivateMariaDb::HostRights::None);
+    m_server->setMadeDataFolder(MIROVAHR_MADE_DATA_FOLDER);
+    if (!m_server->start() || !openAdministrator())
         return false;
     loadSchema();
     loadFiles({referenceFile("sample.sql")});
@@ -121,8 +127,8 @@ bool TestDatabase::start(const QStringList &serverOptions)
 void TestDatabase::grant(const char *file)
 {
     // Once is enough: the server keeps rights on the tables and routines of a dropped database.
-    const bool loaded = m_server.load(referenceFile(file));
-    check(loaded, m_server.errorString(), __FILE__, __LINE__);
+    const bool loaded = m_server->load(referenceFile(file));
+    check(loaded, m_server->errorString(), __FILE__, __LINE__);
 }
 
 void TestDatabase::reset()
@@ -143,19 +149,19 @@ void TestDatabase::resetEmpty()
 
 void TestDatabase::loadSchema()
 {
-    run(QStringLiteral("DROP DATABASE `%1`").arg(m_server.databaseName()));
-    run(QStringLiteral("CREATE DATABASE `%1` CHARACTER SET utf8mb4").arg(m_server.databaseName()));
-    run(QStringLiteral("USE `%1`").arg(m_server.databaseName()));
+    run(QStringLiteral("DROP DATABASE `%1`").arg(m_server->databaseName()));
+    run(QStringLiteral("CREATE DATABASE `%1` CHARACTER SET utf8mb4").arg(m_server->databaseName()));
+    run(QStringLiteral("USE `%1`").arg(m_server->databaseName()));
     loadFiles({referenceFile("schema.sql"), referenceFile("routines.sql")});
     const bool taken =
-        m_baseline.takeEmpty(m_administrator, m_server.dataDir() + '/' + m_server.databaseName());
+        m_baseline.takeEmpty(m_administrator, m_server->dataDir() + '/' + m_server->databaseName());
     check(taken, "The database cannot be read", __FILE__, __LINE__);
 }
 
 void TestDatabase::loadFiles(const QStringList &files)
 {
-    const bool loaded = m_server.load(files);
-    check(loaded, m_server.errorString(), __FILE__, __LINE__);
+    const bool loaded = m_server->load(files);
+    check(loaded, m_server->errorString(), __FILE__, __LINE__);
 }
 
 QSqlDatabase TestDatabase::pluginConnection(const QString &name)
@@ -164,7 +170,7 @@ QSqlDatabase TestDatabase::pluginConnection(const QString &name)
         name.isEmpty() ? QStringLiteral("%1.%2").arg(m_prefix).arg(++m_connectionCount) : name;
     if (!m_connectionNames.contains(unique))
         m_connectionNames += unique;
-    return m_server.addConnection(unique);
+    return m_server->addConnection(unique);
 }
 
 QSqlDatabase TestDatabase::openPluginConnection(const QString &name)
@@ -299,7 +305,7 @@ QVector<ServerEvent> TestDatabase::events()
     execute(query,
             "SELECT command_type, CONVERT(argument USING utf8mb4), thread_id"
             " FROM mysql.general_log WHERE user_host LIKE '"
-                + m_server.userName() + "[%' OR user_host LIKE '[" + m_server.userName() + "]%'",
+                + m_server->userName() + "[%' OR user_host LIKE '[" + m_server->userName() + "]%'",
             __FILE__, __LINE__);
     while (query.next())
         events.append(
@@ -310,8 +316,8 @@ QVector<ServerEvent> TestDatabase::events()
 void TestDatabase::stopServer()
 {
     closeAdministrator();
-    const bool stopped = m_server.stop();
-    check(stopped, m_server.errorString(), __FILE__, __LINE__);
+    const bool stopped = m_server->stop();
+    check(stopped, m_server->errorString(), __FILE__, __LINE__);
 }
 
 void TestDatabase::killServer()
@@ -321,13 +327,13 @@ void TestDatabase::killServer()
     run("SET GLOBAL innodb_flush_log_at_trx_commit = 1");
     run("FLUSH ENGINE LOGS");
     closeAdministrator();
-    m_server.kill();
+    m_server->kill();
 }
 
 void TestDatabase::startServer()
 {
-    const bool started = m_server.start() && openAdministrator();
-    check(started, m_server.errorString(), __FILE__, __LINE__);
+    const bool started = m_server->start() && openAdministrator();
+    check(started, m_server->errorString(), __FILE__, __LINE__);
 }
 
 void TestDatabase::hideTable(const QString &table)
@@ -356,8 +362,8 @@ void TestDatabase::allow(const QString &event, const QString &table)
 bool TestDatabase::openAdministrator()
 {
     m_administrator =
-        m_server.addConnection(m_prefix + ".root", PrivateMariaDb::Account::Administrator);
-    m_administrator.setDatabaseName(m_server.databaseName());
+        m_server->addConnection(m_prefix + ".root", PrivateMariaDb::Account::Administrator);
+    m_administrator.setDatabaseName(m_server->databaseName());
     return m_administrator.open();
 }
 

@@ -49,7 +49,10 @@ public:
     /// Starts the server and loads the reference database with its sample data. Use as
     /// `QVERIFY2(m_db.start(), qPrintable(m_db.errorString()))`.
     bool start(const QStringList &serverOptions = {});
-    QString errorString() const { return m_server.errorString(); }
+    /// Uses a running server instead, that of another owner, which has the reference database; for
+    /// what the administrator can do and see. False when it cannot be reached.
+    bool attach(PrivateMariaDb &server);
+    QString errorString() const { return m_server->errorString(); }
 
     /// Grants what a file of the reference database says, to stay; after start().
     void grant(const char *file);
@@ -61,7 +64,7 @@ public:
     /// As reset(), without sample data: every table is empty.
     void resetEmpty();
 
-    PrivateMariaDb &server() { return m_server; }
+    PrivateMariaDb &server() { return *m_server; }
 
     /// A registered connection as the attendance server would hand it over, not yet opened, under a
     /// name of its own unless one is given. Removed with this object at the latest.
@@ -143,7 +146,8 @@ private:
     bool execute(QSqlQuery &query, const QString &sql, const char *file, int line);
     bool check(bool ok, const QString &error, const char *file, int line);
 
-    PrivateMariaDb m_server;
+    PrivateMariaDb m_own;
+    PrivateMariaDb *m_server = &m_own;
     DatabaseBaseline m_baseline;
     QString m_prefix; ///< Of the names of this object's connections.
     QStringList m_connectionNames;

@@ -35,7 +35,21 @@ bool FaultCycle::start()
     // Committed changes survive a crash of the server. Its general log is not needed.
     if (!m_db.start({"--innodb-flush-log-at-trx-commit=2", "--general-log=0"}))
         return false;
-    m_proxy = std::make_unique<MySqlProxy>(m_db.server().socketPath());
+    prepare(m_db.server().socketPath());
+    return !QTest::currentTestFailed();
+}
+
+bool FaultCycle::startWith(PrivateMariaDb &server, const QString &socketPath)
+{
+    if (!m_db.attach(server))
+        return false;
+    prepare(socketPath);
+    return !QTest::currentTestFailed();
+}
+
+void FaultCycle::prepare(const QString &socketPath)
+{
+    m_proxy = std::make_unique<MySqlProxy>(socketPath);
     m_server = m_db.pluginConnection();
     m_server.setConnectOptions("UNIX_SOCKET=" + m_proxy->socketPath());
     m_impatient = m_db.pluginConnection();
@@ -48,7 +62,6 @@ bool FaultCycle::start()
     m_db.run("INSERT INTO atten (uid, `date`, ok) VALUES (4, " + yesterday + ", 1)");
     m_db.run("ALTER TABLE people AUTO_INCREMENT = 70000");
     copyTables();
-    return !QTest::currentTestFailed();
 }
 
 void FaultCycle::copyTables()

@@ -23,6 +23,9 @@ class FaultCycle {
 public:
     /// True when the server runs; errorString() otherwise.
     bool start();
+    /// As above, with a server that runs and has the reference database, which clients reach at \a
+    /// socketPath.
+    bool startWith(PrivateMariaDb &server, const QString &socketPath);
     QString errorString() const { return m_db.errorString(); }
 
     TestDatabase &db() { return m_db; }
@@ -47,6 +50,7 @@ public:
 
 private:
     QVector<ExportRow> lines() const;
+    void prepare(const QString &socketPath);
     void copyTables();
 
     TestDatabase m_db;

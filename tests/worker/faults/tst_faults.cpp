@@ -3,6 +3,7 @@
 #include "tests/support/programrun.h"
 #include "tests/worker/faults/expectations.h"
 #include "tests/worker/faults/faultcycle.h"
+#include "tests/worker/faults/runs.h"
 #include "tests/worker/faults/servingprocess.h"
 #include "tests/worker/faults/servingworker.h"
 #include "tests/worker/support/middayzone.h"
@@ -19,7 +20,6 @@
 
 namespace {
 
-using Commands = QVector<MySqlProxy::Command>;
 using Way = Disturbance::Way;
 
 constexpr int kLockWaitTimeout = 1205;
@@ -28,52 +28,6 @@ constexpr char kDeadlockText[] =
     "Deadlock found when trying to get lock; try restarting transaction";
 
 constexpr char kStillConnected[] = "A client of the previous run is still connected.";
-
-const QString kTick = "MHRWorker::checkSync(): #";
-
-QStringList problems(const QStringList &lines)
-{
-    return lines.filter(QRegularExpression("^[WCF] "));
-}
-
-/// The texts of those commands that the server carried out.
-QStringList carriedOut(const Commands &commands)
-{
-    QStringList texts;
-    for (const MySqlProxy::Command &command : commands) {
-        if (command.carriedOut)
-            texts += command.text;
-    }
-    return texts;
-}
-
-/// The texts that \a others lack; a text that occurs twice counts twice.
-QStringList without(QStringList texts, const QStringList &others)
-{
-    for (const QString &text : others)
-        texts.removeOne(text);
-    return texts;
-}
-
-/// The number behind the last occurrence of a text.
-int lastNumber(const QStringList &lines, const QString &text)
-{
-    const QString line = lines.filter(text).last();
-    const QString rest = line.mid(line.indexOf(text) + text.size());
-    return rest.section(QRegularExpression("\\D"), 0, 0).toInt();
-}
-
-/// Up to the first closing of the connection.
-Commands firstTick(const Commands &commands)
-{
-    Commands first;
-    for (const MySqlProxy::Command &command : commands) {
-        first += command;
-        if (command.text == "QUIT")
-            break;
-    }
-    return first;
-}
 
 Disturbance refusal(int number, const char *sqlState, const char *text)
 {
@@ -103,11 +57,6 @@ QString selectForUpdate(const QStringList &key)
 bool isReady(const std::future<void> &future)
 {
     return future.wait_for(std::chrono::milliseconds(kPatienceMs)) == std::future_status::ready;
-}
-
-bool waitForNextTick(const LogCapture &log)
-{
-    return log.waitForText(kTick + QString::number(lastNumber(log.lines(), kTick) + 1));
 }
 
 } // namespace
