@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/support/logcapture.h"
-#include "tests/worker/faults/mysqlproxy.h"
+#include "tests/support/mysqlproxy.h"
 
 #include <QString>
 #include <QStringList>
