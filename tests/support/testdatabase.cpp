@@ -1,6 +1,7 @@
 #include "tests/support/testdatabase.h"
 
 #include "db/tepdbcontract.h"
+#include "tests/support/sqlscript.h"
 
 #include <QFile>
 #include <QSqlError>
@@ -127,8 +128,7 @@ bool TestDatabase::start(const QStringList &serverOptions)
 void TestDatabase::grant(const char *file)
 {
     // Once is enough: the server keeps rights on the tables and routines of a dropped database.
-    const bool loaded = m_server->load(referenceFile(file));
-    check(loaded, m_server->errorString(), __FILE__, __LINE__);
+    loadFiles({referenceFile(file)});
 }
 
 void TestDatabase::reset()
@@ -160,8 +160,20 @@ void TestDatabase::loadSchema()
 
 void TestDatabase::loadFiles(const QStringList &files)
 {
-    const bool loaded = m_server->load(files);
-    check(loaded, m_server->errorString(), __FILE__, __LINE__);
+    const QString name = m_prefix + ".load";
+    {
+        // The files set the session's character set and SQL mode.
+        QSqlDatabase session =
+            m_server->addConnection(name, PrivateMariaDb::Account::Administrator);
+        session.setDatabaseName(m_server->databaseName());
+        check(session.open(), session.lastError().text(), __FILE__, __LINE__);
+        for (const QString &file : files) {
+            QSqlQuery query(session);
+            for (const QString &statement : statementsOf(file))
+                execute(query, statement, __FILE__, __LINE__);
+        }
+    }
+    QSqlDatabase::removeDatabase(name);
 }
 
 QSqlDatabase TestDatabase::pluginConnection(const QString &name)
