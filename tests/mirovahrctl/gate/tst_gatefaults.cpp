@@ -42,7 +42,7 @@ QVector<ExportRow> longPeople(int count)
 
 QByteArray lastFile()
 {
-    return GatePeople::file(longPeople(140));
+    return GatePeople::file(longPeople(80));
 }
 
 QByteArray newFile(const Scenario &scenario)
