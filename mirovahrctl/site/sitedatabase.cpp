@@ -55,7 +55,9 @@ std::optional<ExitStatus> SiteDatabase::open(const CommandLine &line, DatabaseAc
 
 QString SiteDatabase::loss() const
 {
-    if (SqlSession(m_sql->database()).run(QLatin1String(kAnswer)))
+    SqlSession question(m_sql->database());
+    question.run(QLatin1String(kAnswer));
+    if (!question.isLost())
         return {};
     return QStringLiteral("The database server %1 has closed the connection or did not answer in "
                           "time (see --read-timeout)")

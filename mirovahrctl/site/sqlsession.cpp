@@ -101,6 +101,12 @@ QString SqlSession::failure() const
     return QStringLiteral("The database cannot be used: %1").arg(m_error);
 }
 
+bool SqlSession::isLost() const
+{
+    // The client library's numbers, CR_MIN_ERROR to CR_MAX_ERROR.
+    return m_errorNumber >= 2000 && m_errorNumber < 3000;
+}
+
 QString SqlSession::name(const QString &identifier)
 {
     QString doubled = identifier;

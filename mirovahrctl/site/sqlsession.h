@@ -46,8 +46,10 @@ public:
     QString errorString() const { return m_error; }
     /// The same as a sentence for the user, without its full stop.
     QString failure() const;
-    /// The server's error number; 0 for an error that is not the server's.
+    /// The number of the server's or the client library's error; 0 for another one.
     int errorNumber() const { return m_errorNumber; }
+    /// Whether the connection has failed: the error is not the server's.
+    bool isLost() const;
 
     /// An identifier in backquotes.
     static QString name(const QString &identifier);
