@@ -143,7 +143,7 @@ void TestSilence::aServerThatFallsSilentIsNamed_data()
     QTest::newRow("check-file") << QStringList{"check-file", file} << "SELECT COLUMN_NAME, ";
     QTest::newRow("preview, at the list of tables")
         << QStringList{"preview", file} << "SELECT t.TABLE_NAME";
-    QTest::newRow("preview, in the rows") << QStringList{"preview", file} << "SELECT `";
+    QTest::newRow("preview, in the rows") << QStringList{"preview", file} << "SELECT CAST(t.";
 }
 
 void TestSilence::aServerThatFallsSilentIsNamed()
@@ -169,11 +169,19 @@ void TestSilence::aLossAtTheLastStatementIsNoFinding()
     COMPARE_EXIT(run, ExitStatus::NoDatabase);
 }
 
+/// A node that has lost its cluster refuses the question whether it answers.
 void TestSilence::aFailureOfAServerThatAnswersKeepsItsReason()
 {
+    MySqlProxy proxy(m_db.server().socketPath());
+    Disturbance refusal;
+    refusal.way = Disturbance::Way::Refuse;
+    refusal.errorNumber = 1047;
+    refusal.sqlState = "08S01";
+    refusal.errorText = "WSREP has not yet prepared node for application use";
+    proxy.disturb("SELECT 1", refusal);
+    proxy.release();
     m_db.hideTable("people");
-    const ToolRun run =
-        runTool(QStringList{"status", "--socket", m_db.server().socketPath()} + account());
+    const ToolRun run = runTool(QStringList{"status", "--socket", proxy.socketPath()} + account());
     m_db.restoreTable("people");
     COMPARE_EXIT(run, ExitStatus::NoDatabase);
     QVERIFY2(run.err.startsWith("mirovahrctl: status: The database cannot be used: Table"),
