@@ -56,17 +56,20 @@ bool ComparedPeople::isUnchanged(int person) const
     return m_people.at(person).rows[Before] == m_people.at(person).rows[Now];
 }
 
-const QString &ComparedPeople::text(Side side, int person, int field) const
+QString ComparedPeople::text(Side side, int person, int field) const
 {
     return m_texts.at(m_rows.at(m_people.at(person).rows[side]).at(size_t(field)));
 }
 
 MirovaRonRecord ComparedPeople::record(Side side, int person) const
 {
+    std::array<QString, ExportLine::kFieldCount> texts;
     ExportLine::Parts parts;
     parts.reserve(ExportLine::kFieldCount);
-    for (int field = 0; field < ExportLine::kFieldCount; ++field)
-        parts.append(QStringRef(&text(side, person, field)));
+    for (int field = 0; field < ExportLine::kFieldCount; ++field) {
+        texts[size_t(field)] = text(side, person, field);
+        parts.append(QStringRef(&texts[size_t(field)]));
+    }
     return ExportLine::toRecord(parts);
 }
 
@@ -79,7 +82,7 @@ ComparedPeople::Row ComparedPeople::rowOf(const ExportLine::Parts &parts)
 {
     Row row{};
     std::transform(parts.cbegin(), parts.cend(), row.begin(),
-                   [this](const QStringRef &part) { return m_texts.add(part.toString()); });
+                   [this](const QStringRef &part) { return m_texts.add(part); });
     return row;
 }
 

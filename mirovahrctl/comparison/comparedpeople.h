@@ -39,7 +39,7 @@ public:
     bool isUnchanged(int person) const;
 
     /// The text of an ExportLine::Field. The person must be in the export.
-    const QString &text(Side side, int person, int field) const;
+    QString text(Side side, int person, int field) const;
     /// What the plugin reads. The person must be in the export.
     MirovaRonRecord record(Side side, int person) const;
     /// That of the newer export that has the person.

@@ -65,7 +65,7 @@ private:
     QVector<int> *listFor(int person, int field, FieldDifferences &differences) const;
     bool isExtension(int person, int field) const;
     void findReassigned();
-    const QString &text(People::Side side, int person, int field) const
+    QString text(People::Side side, int person, int field) const
     {
         return m_people.text(side, person, field);
     }
@@ -149,11 +149,11 @@ QVector<int> *Comparison::listFor(int person, int field, FieldDifferences &diffe
 {
     if (m_people.isUnchanged(person))
         return nullptr;
-    const QString &textNow = text(People::Now, person, field);
+    const QString textNow = text(People::Now, person, field);
     const Kind now = FieldReading::kindOf(field, textNow);
     if (!m_people.isInBoth(person))
         return now == Kind::Misread ? &differences.misread : nullptr;
-    const QString &textBefore = text(People::Before, person, field);
+    const QString textBefore = text(People::Before, person, field);
     if (textBefore == textNow)
         return nullptr;
     const bool wasMisread = FieldReading::kindOf(field, textBefore) == Kind::Misread;
