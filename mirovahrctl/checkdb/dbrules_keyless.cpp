@@ -58,15 +58,19 @@ void checkTemporaryTable(DbAssessment &check, const ServerSettings &settings)
                  refusal->remedy);
 }
 
-/// Whether the table has a primary key, or a unique key on NOT NULL columns.
+/// Whether the table has a primary key, or a unique key that the server takes for one: on whole
+/// columns that are NOT NULL.
 bool hasPrimaryKey(const DbSchema &schema, const QString &table)
 {
     const QVector<DbKey> keys = schema.uniqueKeys(table);
+    const auto isFilled = [&](const QString &name) {
+        const DbColumn *const column = schema.column(table, name);
+        return column != nullptr && !column->nullable;
+    };
     return std::any_of(keys.cbegin(), keys.cend(), [&](const DbKey &key) {
-        return std::all_of(key.columns.cbegin(), key.columns.cend(), [&](const QString &name) {
-            const DbColumn *const column = schema.column(table, name);
-            return column != nullptr && !column->nullable;
-        });
+        return key.name == QLatin1String("PRIMARY")
+            || (key.wholeColumns
+                && std::all_of(key.columns.cbegin(), key.columns.cend(), isFilled));
     });
 }
 

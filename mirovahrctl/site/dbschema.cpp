@@ -14,8 +14,8 @@ constexpr char kSelectColumns[] =
     " ORDER BY TABLE_NAME, ORDINAL_POSITION";
 
 constexpr char kSelectKeys[] =
-    "SELECT TABLE_NAME, INDEX_NAME, COLUMN_NAME, NON_UNIQUE = 0, INDEX_TYPE <> 'FULLTEXT' AND %1"
-    " FROM information_schema.STATISTICS WHERE TABLE_SCHEMA = DATABASE()"
+    "SELECT TABLE_NAME, INDEX_NAME, COLUMN_NAME, NON_UNIQUE = 0, INDEX_TYPE <> 'FULLTEXT' AND %1,"
+    " SUB_PART IS NULL FROM information_schema.STATISTICS WHERE TABLE_SCHEMA = DATABASE()"
     " ORDER BY TABLE_NAME, INDEX_NAME, SEQ_IN_INDEX";
 /// Only MariaDB has it, from 10.6 on.
 constexpr char kNotIgnored[] = "IGNORED = 'NO'";
@@ -124,7 +124,11 @@ void DbSchema::addKeyColumn(const QStringList &row)
 {
     QVector<DbKey> &keys = m_keys[row.at(0)];
     if (keys.isEmpty() || keys.constLast().name != row.at(1))
-        keys.append(
-            {row.at(1), row.at(3) == QLatin1String("1"), row.at(4) == QLatin1String("1"), {}});
+        keys.append({row.at(1),
+                     row.at(3) == QLatin1String("1"),
+                     row.at(4) == QLatin1String("1"),
+                     true,
+                     {}});
+    keys.last().wholeColumns &= row.at(5) == QLatin1String("1");
     keys.last().columns += row.at(2).toLower();
 }

@@ -32,6 +32,7 @@ struct DbKey {
     QString name;
     bool unique = false; ///< the primary key, too
     bool findsRows = false; ///< the server considers it when it looks for rows
+    bool wholeColumns = true; ///< no column is in it by its beginning only
     QStringList columns; ///< in lower case, in the order of the key
 };
 

@@ -233,6 +233,13 @@ void TestCheckDbServer::clustersThatRequirePrimaryKeysAreReported_data()
         << with(cluster, "wsrep_certify_nonpk", "OFF")
         << "ALTER TABLE vars DROP PRIMARY KEY, MODIFY name VARCHAR(160) NULL, ADD UNIQUE KEY (name)"
         << queue.arg("vars");
+    QTest::newRow("a key on the beginning of a text")
+        << with(cluster, "wsrep_certify_nonpk", "OFF")
+        << "ALTER TABLE vars DROP PRIMARY KEY, ADD UNIQUE KEY (name(100))" << queue.arg("vars");
+    QTest::newRow("a primary key on the beginning of a text")
+        << with(cluster, "wsrep_certify_nonpk", "OFF")
+        << "ALTER TABLE vars DROP PRIMARY KEY, ADD PRIMARY KEY (name(100))"
+        << "";
     QTest::newRow("rows of two nodes that conflict")
         << cluster << noNumbers
         << "This account sees no primary key on these tables: term_sync. On a cluster, new rows of "
