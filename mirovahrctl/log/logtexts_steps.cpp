@@ -98,7 +98,8 @@ constexpr LogText kSupervisor[] = {
      "warning",
      Form::Whole,
      "No administrator has this personal number: the person keeps the supervisor that is set.",
-     "Set the administrator's personal number; a start of the server repeats the step.",
+     "Set the administrator's personal number; mirovahrctl drift or a start of the server repeats "
+     "the step.",
      {Role::Supervisor},
      Event::SupervisorStep},
     {RecordLog::kPersonNotFound,
@@ -113,7 +114,7 @@ constexpr LogText kSupervisor[] = {
      "warning",
      Form::Whole,
      "The supervisor was not set. Rolled back: the old one stays.",
-     "See the error above; a start of the server repeats the step.",
+     "See the error above; mirovahrctl drift or a start of the server repeats the step.",
      {},
      Event::SupervisorStep},
     {"MHRWorker::dbGetAidByOsCis(uid: %u)",
