@@ -1,6 +1,6 @@
 #include "mirovahrctl/log/loghistorybuilder.h"
 #include "mirovahrctl/log/logreport.h"
-#include "mirovahrctl/log/logsource.h"
+#include "mirovahrctl/pluginside/logsource.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"

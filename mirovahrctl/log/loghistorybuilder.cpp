@@ -1,10 +1,11 @@
 #include "mirovahrctl/log/loghistorybuilder.h"
 
+#include "mirovahrctl/pluginside/interruptions.h"
+
 #include <QSet>
 
 #include <algorithm>
 #include <cstdlib>
-#include <iterator>
 
 namespace {
 
@@ -73,17 +74,6 @@ QByteArray thingOf(const LoggedText &message)
     if (text.form == Form::SqlError || text.form == Form::PlanOperation)
         words << "error " + bytes(message.values[size_t(message.pattern->ownValues())]);
     return words.join(", ");
-}
-
-/// Whether an error is one that passes by itself, and with it a write. Not every text has the
-/// server's number.
-bool isInterruption(std::string_view text)
-{
-    constexpr std::string_view kMessages[] = {"Deadlock found", "Lock wait timeout exceeded",
-                                              "gone away", "Lost connection"};
-    return std::any_of(
-        std::begin(kMessages), std::end(kMessages),
-        [text](std::string_view message) { return text.find(message) != std::string_view::npos; });
 }
 
 } // namespace
@@ -213,7 +203,7 @@ void LogHistoryBuilder::noteProblem(const LoggedText &message)
     }
     if (time)
         problem.last = time;
-    if (problem.isError && isInterruption(message.text))
+    if (problem.isError && Interruptions::isIn(message.text))
         ++problem.interruptions;
     for (const QByteArray *person : {&m_mentioned, &m_personOfStep, &m_person}) {
         if (!person->isEmpty()) {

@@ -3,6 +3,7 @@
 #include "mirovahrctl/log/logtext.h"
 #include "mirovahrctl/log/missingticks.h"
 #include "mirovahrctl/log/synchronisationtable.h"
+#include "mirovahrctl/pluginside/interruptions.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/report/reportwriter.h"
@@ -238,13 +239,8 @@ void LogReport::writeInterruptions()
     qint64 count = 0;
     for (const LoggedProblem &problem : m_problems)
         count += problem.interruptions;
-    if (count == 0)
-        return;
-    m_report.add(
-        LogRules::kInterrupted,
-        QStringLiteral("%1 through a deadlock, the timeout of a lock or a lost connection.")
-            .arg(Wording::counted(count, QStringLiteral("statement failed"),
-                                  QStringLiteral("statements failed"))));
+    if (count > 0)
+        m_report.add(LogRules::kInterrupted, Interruptions::sentence(count));
 }
 
 void LogReport::writeUnknownLines()

@@ -1,4 +1,4 @@
-#include "mirovahrctl/log/logsource.h"
+#include "mirovahrctl/pluginside/logsource.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,4 +1,6 @@
 #include "mirovahrctl/gatestate/gatestatus.h"
+#include "mirovahrctl/pluginside/interruptions.h"
+#include "mirovahrctl/pluginside/logsource.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
@@ -43,6 +45,7 @@ private:
     std::optional<ExitStatus> readLimit(const char *option, std::optional<qint64> &limit);
     std::optional<ExitStatus> readSources();
     std::optional<ExitStatus> readGate();
+    std::optional<ExitStatus> readLog();
     std::optional<ExitStatus> readDatabase();
     /// The reason of a failure, a sentence without its full stop; empty without any.
     QString writeMetrics(bool complete) const;
@@ -54,6 +57,7 @@ private:
     Report &m_report;
     AgeLimits m_limits;
     std::optional<GateStatus> m_gate;
+    qint64 m_interruptions = 0; ///< in the log
     std::optional<StatusData> m_data;
     StatusAssessment m_assessment;
 };
@@ -141,10 +145,13 @@ std::optional<ExitStatus> StatusRun::readSources()
 {
     if (const auto end = readGate())
         return end;
+    if (const auto end = readLog())
+        return end;
     if (const auto end = readDatabase())
         return end;
     m_assessment = StatusAssessment::of(*m_data, m_gate ? &*m_gate : nullptr, m_limits,
                                         QDateTime::currentSecsSinceEpoch());
+    m_assessment.noteInterruptions(m_interruptions);
     return std::nullopt;
 }
 
@@ -172,6 +179,20 @@ std::optional<ExitStatus> StatusRun::readGate()
     if (m_gate)
         return std::nullopt;
     return m_console.fail(ExitStatus::Usage, error);
+}
+
+std::optional<ExitStatus> StatusRun::readLog()
+{
+    if (!m_line.isSet("log"))
+        return std::nullopt;
+    LogSource log(m_line.value("log"));
+    const bool read = log.forEachLine([this](std::string_view line) {
+        m_interruptions += Interruptions::isLoggedIn(line) ? 1 : 0;
+        return true;
+    });
+    if (read)
+        return std::nullopt;
+    return m_console.fail(ExitStatus::Usage, log.errorString());
 }
 
 std::optional<ExitStatus> StatusRun::readDatabase()
@@ -224,6 +245,9 @@ ExitStatus StatusRun::report()
 void addOptions(CommandLine &line)
 {
     line.addOption("gate-status", "file", "The status file that the gate writes.");
+    line.addOption("log", "file",
+                   "The attendance server's log of today, in which to look for statements that a "
+                   "deadlock or a lost connection has interrupted.");
     line.addOption("warning", "hours",
                    "Warn when the last admission of a file, or without --gate-status the last "
                    "trace of the plugin, was this many hours ago.");

@@ -1,6 +1,7 @@
 #include "mirovahrctl/status/statusassessment.h"
 
 #include "mirovahrctl/gatestate/gatestatus.h"
+#include "mirovahrctl/pluginside/interruptions.h"
 #include "mirovahrctl/report/rules/statusrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/status/statusdata.h"
@@ -62,4 +63,10 @@ StatusAssessment StatusAssessment::of(const StatusData &data, const GateStatus *
     if (gate != nullptr)
         assessGate(assessment, *gate);
     return assessment;
+}
+
+void StatusAssessment::noteInterruptions(qint64 count)
+{
+    if (count > 0)
+        findings += makeFinding(StatusRules::kInterrupted, Interruptions::sentence(count));
 }

@@ -27,4 +27,7 @@ struct StatusAssessment {
     /// \a now: Unix time by this machine's clock, for the gate's times. \a gate may be null.
     static StatusAssessment of(const StatusData &data, const GateStatus *gate,
                                const AgeLimits &limits, qint64 now);
+
+    /// The log has so many statements that were interrupted: see Interruptions.
+    void noteInterruptions(qint64 count);
 };

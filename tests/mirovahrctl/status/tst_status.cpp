@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QtTest>
 
 namespace {
@@ -60,6 +61,9 @@ private Q_SLOTS:
     void anUnreadableStatusFileIsReported_data();
     void anUnreadableStatusFileIsReported();
     void theLineForMonitoringStaysOneLine();
+    void aLogWithAnInterruptionPointsToDrift_data();
+    void aLogWithAnInterruptionPointsToDrift();
+    void aLogThatIsMissingIsWrongUsage();
 
     void theSamplesForACollector();
     void theSamplesAreForEverybodyAndAlone();
@@ -641,6 +645,54 @@ void TestStatus::spansAreRoundedDown()
     QFETCH(qint64, seconds);
     QFETCH(QString, text);
     QCOMPARE(Wording::span(seconds), text);
+}
+
+void TestStatus::aLogWithAnInterruptionPointsToDrift_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<bool>("isInterruption");
+
+    const QByteArray deadlock = "Deadlock found when trying to get lock";
+    QTest::newRow("a deadlock of the plugin")
+        << "Nov 22 05:10:00 host yav[7]: MHRWorker::dbSetAdminPeopleRequest() - SQL ERROR [1213]: "
+            + deadlock
+        << true;
+    QTest::newRow("a lost connection of the plugin")
+        << QByteArray("BranchesRepository::addPeopleToBranch - ERROR: Lost connection to server")
+        << true;
+    QTest::newRow("another error of the plugin")
+        << QByteArray("MHRWorker::dbLoadBranches() - SQL ERROR [1146]: no such table") << false;
+    QTest::newRow("a deadlock of others")
+        << "Nov 22 05:10:00 host other[7]: ERROR [1213]: " + deadlock << false;
+    QTest::newRow("somebody with such a name")
+        << "MHRWorker: Branch '7' NOT FOUND for employee: '1.1 " + deadlock + "'" << false;
+}
+
+void TestStatus::aLogWithAnInterruptionPointsToDrift()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(bool, isInterruption);
+    QTemporaryFile log;
+    QVERIFY(log.open());
+    log.write("Nov 22 05:09:59 host yav[7]: MHRWorker: BEGIN synchronization #1 (force: NO)\n"
+              + line + "\n");
+    log.close();
+    const ToolRun run = status({"--log", log.fileName()});
+    COMPARE_EXIT(run, isInterruption ? ExitStatus::Findings : ExitStatus::Fine);
+    const QJsonObject finding = run.findingsOf("interrupted").value(0);
+    QCOMPARE(finding.value("message").toString(),
+             isInterruption
+                 ? QString("1 statement failed through a deadlock, the timeout of a lock "
+                           "or a lost connection.")
+                 : QString());
+    QCOMPARE(finding.value("advice").toString().contains("mirovahrctl drift"), isInterruption);
+}
+
+void TestStatus::aLogThatIsMissingIsWrongUsage()
+{
+    const ToolRun run = status({"--log", "/nowhere/log"});
+    COMPARE_EXIT(run, ExitStatus::Usage);
+    QVERIFY2(run.failure().contains("/nowhere/log"), run.report().constData());
 }
 
 void TestStatus::everyRuleHasItsFixtures()
