@@ -115,9 +115,9 @@ void DriftRows::readPayroll(PluginView &view)
 {
     each(view.sql(), kBindings, [this](const QStringList &row) { payrollBindings += id(row, 0); });
     const QStringList exports = payrollExports(view.sql());
-    if (exports.size() != 1)
+    payrollSelection = exports.size() == 1 ? payrollSelectionKey(exports.first()) : QString();
+    if (payrollSelection.isEmpty())
         return;
-    payrollSelection = payrollSelectionKey(exports.first());
     const QStringList pids = TepDbSettings(view.database())
                                  .variableGet(payrollSelection, QVariant())
                                  .toString()

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void statementsChangeNothingThatIsNotAsItWasFound();
     void everySupervisorComesHome();
     void monthsAreMendedWithTheirAttendance();
+    void aTerminalFetchesAMendedMember();
 
     void whatIsNoLoss_data();
     void whatIsNoLoss();
@@ -370,6 +371,17 @@ void TestDrift::monthsAreMendedWithTheirAttendance()
     QCOMPARE(drift().rules(), QStringList{"months-differ"});
     QVERIFY2(m_site.mend(), qPrintable(m_db.server().errorString()));
     QCOMPARE(TestDatabase::difference(before, lasting()), QString());
+}
+
+void TestDrift::aTerminalFetchesAMendedMember()
+{
+    lose("DELETE FROM people_term WHERE tid = 1 AND uid = %uid;DELETE FROM term_sync;"
+         "UPDATE term SET syn = 0");
+    QCOMPARE(drift().rules(), QStringList{"terminal-missing"});
+    QVERIFY2(m_site.mend(), qPrintable(m_db.server().errorString()));
+    QCOMPARE(m_db.rows("SELECT tid, type, ref, ref_col, ref_id, flags FROM term_sync"),
+             (TableRows{{"1", "I", "people_term", "uid", m_uid, "2"}}));
+    QCOMPARE(m_db.rows("SELECT tid FROM term WHERE syn & 2"), (TableRows{{"1"}}));
 }
 
 // What is not a loss ------------------------------------------------------------------------------
