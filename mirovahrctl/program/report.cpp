@@ -23,6 +23,8 @@ Report::Report(const CommandLine &line, Console &console)
     }
 }
 
+Report::~Report() = default;
+
 ExitStatus Report::run(CommandLine &line, const QStringList &arguments, Console &console,
                        const Work &work)
 {
@@ -38,6 +40,12 @@ void Report::begin(const QString &subcommand, const QString &title)
 {
     for (ReportWriter *const writer : m_writers)
         writer->begin(subcommand, title);
+}
+
+void Report::answer(const QString &verdict)
+{
+    for (ReportWriter *const writer : m_writers)
+        writer->answer(verdict);
 }
 
 void Report::section(const QString &id, const QString &heading)
@@ -58,6 +66,18 @@ void Report::table(const Table &table)
         writer->table(table);
 }
 
+void Report::card(const Card &card)
+{
+    for (ReportWriter *const writer : m_writers)
+        writer->card(card);
+}
+
+void Report::data(const Table &table)
+{
+    for (ReportWriter *const writer : m_writers)
+        writer->data(table);
+}
+
 void Report::finding(const Finding &finding)
 {
     m_hasSeriousFindings = m_hasSeriousFindings || finding.severity != Severity::Note;
@@ -71,10 +91,22 @@ void Report::fact(const QString &id, const QString &label, const QVariant &value
         writer->fact(id, label, value);
 }
 
+void Report::datum(const QString &id, const QVariant &value)
+{
+    for (ReportWriter *const writer : m_writers)
+        writer->datum(id, value);
+}
+
 void Report::end(ExitStatus status, const QString &verdict)
 {
     for (ReportWriter *const writer : m_writers)
         writer->end(status, verdict);
+}
+
+void Report::abbreviateText(const QString &hint)
+{
+    if (m_text)
+        m_text->abbreviate(hint);
 }
 
 ExitStatus Report::findingsStatus() const

@@ -11,6 +11,7 @@
 
 class CommandLine;
 class Console;
+class TextReport;
 
 /// The report of a subcommand in every format that its command line selects: text or JSON on the
 /// console, and the page of --html.
@@ -19,6 +20,8 @@ public:
     /// Writes the report of a subcommand and returns the status to end with.
     using Work = std::function<ExitStatus(Report &report)>;
 
+    ~Report() override;
+
     /// The course of a subcommand: parses its command line, opens the report that it selects, and
     /// runs \a work. Ends without it when only the help is requested, or when the command line or
     /// the page cannot be used: then the error was printed.
@@ -26,13 +29,20 @@ public:
                           const Work &work);
 
     void begin(const QString &subcommand, const QString &title) override;
+    void answer(const QString &verdict) override;
     void section(const QString &id, const QString &heading) override;
     void sentence(const QString &text) override;
     void table(const Table &table) override;
+    void card(const Card &card) override;
+    void data(const Table &table) override;
     /// Also counts for findingsStatus().
     void finding(const Finding &finding) override;
     void fact(const QString &id, const QString &label, const QVariant &value) override;
+    void datum(const QString &id, const QVariant &value) override;
     void end(ExitStatus status, const QString &verdict) override;
+
+    /// As TextReport::abbreviate(), if the console wants text.
+    void abbreviateText(const QString &hint);
 
     /// Findings after a warning or an error, otherwise Fine.
     ExitStatus findingsStatus() const;
@@ -48,7 +58,7 @@ private:
 
     Console &m_console;
     OutputFile m_page;
-    std::unique_ptr<ReportWriter> m_text; ///< null when the console wants JSON
+    std::unique_ptr<TextReport> m_text; ///< null when the console wants JSON
     std::unique_ptr<ReportWriter> m_html; ///< null without a page
     ReportWriter *m_main; ///< the text, or the console's JSON
     std::vector<ReportWriter *> m_writers; ///< all of them

@@ -42,6 +42,14 @@ td:last-child, .findings td:nth-child(2) { overflow-wrap: anywhere; }
 .warning { color: #8a5300; font-weight: 600; }
 .note { color: #50596a; }
 .advice { color: #33415c; }
+article { display: grid; grid-template-columns: 17rem 1fr; gap: 0 1rem; padding: .35rem .5rem;
+          border-bottom: 1px solid #d5dbe3; }
+.lead { background: #eef1f5; }
+h3 { font-size: 1rem; margin: 0; grid-row: span 2; overflow-wrap: anywhere; }
+ul { margin: 0; padding-left: 1.1rem; }
+li, details { overflow-wrap: anywhere; }
+details { grid-column: 2; color: #50596a; font-size: .9rem; }
+summary { cursor: pointer; }
 footer { margin-top: 2rem; color: #50596a; font-size: .85rem; }
 @media screen and (max-width: 44rem) {
   thead { display: none; }
@@ -49,12 +57,14 @@ footer { margin-top: 2rem; color: #50596a; font-size: .85rem; }
   tr { border: 1px solid #d5dbe3; border-radius: .4rem; margin: .6rem 0; padding: .2rem 0; }
   td { border: 0; padding: .2rem .6rem; overflow-wrap: anywhere; }
   td:empty { display: none; }
+  article { display: block; padding: .5rem 0; }
   td[data-label]::before { content: attr(data-label) ": "; color: #50596a; font-weight: 400; }
 }
 @media print {
   body { font-size: 10pt; max-width: none; padding: 0; }
   thead { display: table-header-group; }
-  tr { break-inside: avoid; }
+  tr, article { break-inside: avoid; }
+  details:not([open]) { display: none; }
   h2 { break-after: avoid; }
 }
 </style>
@@ -106,6 +116,17 @@ QString tableRow(const Table &table, const QVariantList &row)
     return text + QStringLiteral("</tr>\n");
 }
 
+/// Without the end tags that HTML lets a page leave out: there may be thousands of lists.
+QString list(const QStringList &items)
+{
+    if (items.isEmpty())
+        return QString();
+    QString text = QStringLiteral("<ul>");
+    for (const QString &item : items)
+        text += QStringLiteral("<li>") + html(item);
+    return text + QStringLiteral("</ul>");
+}
+
 } // namespace
 
 HtmlReport::HtmlReport(QIODevice &out)
@@ -121,27 +142,43 @@ void HtmlReport::begin(const QString &, const QString &title)
 void HtmlReport::section(const QString &id, const QString &heading)
 {
     endSection();
-    m_sections += QStringLiteral("<section id=\"%1\">\n<h2>%2</h2>\n").arg(html(id), html(heading));
-    m_inSection = true;
+    m_opening = QStringLiteral("<section id=\"%1\">\n<h2>%2</h2>\n").arg(html(id), html(heading));
 }
 
 void HtmlReport::sentence(const QString &text)
 {
     endFindings();
+    beginContent();
     m_sections += QStringLiteral("<p>%1</p>\n").arg(html(text));
 }
 
 void HtmlReport::table(const Table &table)
 {
     endFindings();
+    beginContent();
     m_sections += tableHead(table);
     for (const QVariantList &row : table.rows)
         m_sections += tableRow(table, row);
     m_sections += QStringLiteral("</tbody>\n</table>\n");
 }
 
+void HtmlReport::card(const Card &card)
+{
+    endFindings();
+    beginContent();
+    m_sections +=
+        card.leads ? QStringLiteral("<article class=\"lead\">") : QStringLiteral("<article>");
+    m_sections += QStringLiteral("<h3>%1</h3>\n%2").arg(html(card.who), list(card.what));
+    if (!card.details.isEmpty()) {
+        m_sections += QStringLiteral("<details><summary>Details</summary>%1</details>")
+                          .arg(list(card.details));
+    }
+    m_sections += QStringLiteral("</article>\n");
+}
+
 void HtmlReport::finding(const Finding &finding)
 {
+    beginContent();
     if (m_findingCount == kMostFindings) {
         ++m_leftOut;
         return;
@@ -177,6 +214,15 @@ void HtmlReport::end(ExitStatus status, const QString &verdict)
     m_out.write(page.toUtf8());
 }
 
+void HtmlReport::beginContent()
+{
+    if (m_opening.isEmpty())
+        return;
+    m_sections += m_opening;
+    m_opening.clear();
+    m_inSection = true;
+}
+
 void HtmlReport::endSection()
 {
     endFindings();
@@ -184,6 +230,7 @@ void HtmlReport::endSection()
     if (m_inSection)
         m_sections += QStringLiteral("</section>\n");
     m_inSection = false;
+    m_opening.clear();
 }
 
 void HtmlReport::beginFindings()

@@ -9,8 +9,9 @@ class QIODevice;
 /// A report as one self-contained web page: no network, no script, readable on a phone and in
 /// print. For somebody without a terminal.
 ///
-/// The verdict and the facts are at the top. The page is kept in memory and written by end(), so it
-/// shows only the first findings, and how many more there are.
+/// The verdict and the facts are at the top. The details of a card are closed until the reader
+/// opens them. The page is kept in memory and written by end(), so it shows only the first
+/// findings, and how many more there are.
 class HtmlReport : public ReportWriter {
 public:
     /// So many findings are shown.
@@ -19,14 +20,20 @@ public:
     explicit HtmlReport(QIODevice &out);
 
     void begin(const QString &subcommand, const QString &title) override;
+    void answer(const QString &) override { } // end() puts the verdict first
     void section(const QString &id, const QString &heading) override;
     void sentence(const QString &text) override;
     void table(const Table &table) override;
+    void card(const Card &card) override;
+    void data(const Table &) override { }
     void finding(const Finding &finding) override;
     void fact(const QString &id, const QString &label, const QVariant &value) override;
+    void datum(const QString &, const QVariant &) override { }
     void end(ExitStatus status, const QString &verdict) override;
 
 private:
+    /// Opens the section that section() began: one without content is not on the page.
+    void beginContent();
     void endSection();
     void beginFindings();
     void endFindings();
@@ -36,7 +43,8 @@ private:
     QString m_title;
     QString m_facts;
     QString m_sections;
-    bool m_inSection = false;
+    QString m_opening; ///< of the current section, until there is content
+    bool m_inSection = false; ///< a section is open
     bool m_inFindings = false;
     int m_findingCount = 0; ///< in the whole report
     qint64 m_leftOut = 0; ///< findings of the current section that are not shown

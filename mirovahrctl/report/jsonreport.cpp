@@ -86,6 +86,11 @@ void JsonReport::table(const Table &table)
     m_tables.insert(table.id, rows);
 }
 
+void JsonReport::data(const Table &table)
+{
+    this->table(table);
+}
+
 void JsonReport::finding(const Finding &finding)
 {
     m_out.write((m_hasFindings ? ",\n" : "\n") + compact(findingObject(finding)));
@@ -95,6 +100,11 @@ void JsonReport::finding(const Finding &finding)
 void JsonReport::fact(const QString &id, const QString &, const QVariant &value)
 {
     m_facts.insert(id, QJsonValue::fromVariant(value));
+}
+
+void JsonReport::datum(const QString &id, const QVariant &value)
+{
+    fact(id, QString(), value);
 }
 
 void JsonReport::end(ExitStatus status, const QString &verdict)

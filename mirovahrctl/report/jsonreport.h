@@ -22,11 +22,15 @@ public:
     explicit JsonReport(QIODevice &out);
 
     void begin(const QString &subcommand, const QString &title) override;
+    void answer(const QString &) override { } // end() has it
     void section(const QString &id, const QString &heading) override;
     void sentence(const QString &text) override;
     void table(const Table &table) override;
+    void card(const Card &) override { }
+    void data(const Table &table) override;
     void finding(const Finding &finding) override;
     void fact(const QString &id, const QString &label, const QVariant &value) override;
+    void datum(const QString &id, const QVariant &value) override;
     void end(ExitStatus status, const QString &verdict) override;
 
     /// Ends the report of a subcommand that failed, before begin() or after it. Does nothing after

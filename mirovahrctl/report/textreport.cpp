@@ -12,6 +12,10 @@ namespace {
 /// Of the lines below a finding's or a fact's first one.
 constexpr int kIndent = 4;
 
+// What an abbreviated section shows: so many findings, and cards until they fill so many lines.
+constexpr int kMostFindings = 8;
+constexpr int kMostCardLines = 10;
+
 /// "line 12, DatumNastupu (1234.1 Jana Nováková): warning: ".
 QString findingHead(const Finding &finding)
 {
@@ -36,6 +40,13 @@ QStringList cellTexts(const QVariantList &row)
     return texts;
 }
 
+/// "1234.1 Jana Malá: surname: Nováková → Malá; joins the branch Sklad."
+QString cardText(const Card &card, const QStringList &parts)
+{
+    return Wording::visible(
+        QStringLiteral("%1: %2.").arg(card.who, parts.join(QStringLiteral("; "))));
+}
+
 QStringList headings(const Table &table)
 {
     QStringList texts;
@@ -57,19 +68,30 @@ void TextReport::begin(const QString &, const QString &title)
     heading(title, QLatin1Char('='));
 }
 
+void TextReport::answer(const QString &verdict)
+{
+    m_isAnswered = true;
+    line(QString());
+    paragraph(Wording::visible(verdict), 0);
+}
+
 void TextReport::section(const QString &, const QString &title)
 {
-    line(QString());
-    heading(title, QLatin1Char('-'));
+    endSection();
+    m_heading = title;
+    m_findings = 0;
+    m_cardLines = 0;
 }
 
 void TextReport::sentence(const QString &text)
 {
+    beginContent();
     paragraph(Wording::visible(text), 0);
 }
 
 void TextReport::table(const Table &table)
 {
+    beginContent();
     QVector<QStringList> rows;
     for (const QVariantList &row : table.rows)
         rows << cellTexts(row);
@@ -78,8 +100,27 @@ void TextReport::table(const Table &table)
         line(text);
 }
 
+void TextReport::card(const Card &card)
+{
+    if (isAbbreviated() && card.what.isEmpty())
+        return;
+    if (isAbbreviated() && m_cardLines >= kMostCardLines) {
+        m_leftOut += card.leads ? 0 : 1;
+        return;
+    }
+    beginContent();
+    const QStringList parts = isAbbreviated() ? card.what : card.what + card.details;
+    m_cardLines += paragraph(cardText(card, parts), kIndent);
+}
+
 void TextReport::finding(const Finding &finding)
 {
+    if (isAbbreviated() && m_findings == kMostFindings) {
+        ++m_leftOut;
+        return;
+    }
+    ++m_findings;
+    beginContent();
     paragraph(QStringLiteral("%1%2 [%3]")
                   .arg(findingHead(finding), Wording::visible(finding.message), finding.rule),
               kIndent / 2);
@@ -93,14 +134,46 @@ void TextReport::finding(const Finding &finding)
 
 void TextReport::fact(const QString &, const QString &label, const QVariant &value)
 {
-    paragraph(QStringLiteral("%1: %2").arg(label, Wording::visible(Wording::plain(value))),
-              kIndent);
+    const QString text =
+        QStringLiteral("%1: %2").arg(label, Wording::visible(Wording::plain(value)));
+    if (isAbbreviated()) {
+        m_facts += text;
+        return;
+    }
+    beginContent();
+    paragraph(text, kIndent);
 }
 
 void TextReport::end(ExitStatus, const QString &verdict)
 {
+    endSection();
+    if (m_isAnswered)
+        return;
     line(QString());
-    sentence(verdict);
+    paragraph(Wording::visible(verdict), 0);
+}
+
+/// A section without content has no heading.
+void TextReport::beginContent()
+{
+    if (m_heading.isEmpty())
+        return;
+    line(QString());
+    heading(m_heading, QLatin1Char('-'));
+    m_heading.clear();
+}
+
+void TextReport::endSection()
+{
+    if (!m_facts.isEmpty()) {
+        beginContent();
+        paragraph(m_facts.join(QStringLiteral("; ")) + QLatin1Char('.'), 0);
+    }
+    m_facts.clear();
+    if (m_leftOut > 0)
+        paragraph(QStringLiteral("… and %1 more: %2.").arg(QString::number(m_leftOut), m_hint), 0);
+    m_leftOut = 0;
+    m_heading.clear();
 }
 
 void TextReport::heading(const QString &text, QChar underline)
@@ -114,11 +187,12 @@ void TextReport::heading(const QString &text, QChar underline)
     line(QString(width, underline));
 }
 
-void TextReport::paragraph(const QString &text, int indent)
+int TextReport::paragraph(const QString &text, int indent)
 {
     const QStringList lines = TextLayout::wrapped(text, m_columns, indent);
     for (const QString &part : lines)
         line(part);
+    return lines.size();
 }
 
 void TextReport::line(const QString &text)

@@ -87,6 +87,11 @@ private Q_SLOTS:
     void thePageHoldsEverythingEscaped();
     void thePageNeedsNothingButItself();
     void thePageShowsTheFirstFindingsOnly();
+    void aSectionWithoutContentHasNoHeading();
+    void aVerdictThatComesFirstIsNotRepeated();
+    void aCardIsASentenceInTextAndAListOnThePage();
+    void anAbbreviatedTextSaysHowMuchMoreThereIs();
+    void whatIsForScriptsIsInTheJsonFormOnly();
     void textIsMadeVisible_data();
     void textIsMadeVisible();
     void longTextIsCutWhenQuoted();
@@ -324,6 +329,7 @@ void TestReports::thePageShowsTheFirstFindingsOnly()
             for (int i = 0; i < count; ++i)
                 report.finding(finding("Wrong."));
             report.section("next", "Next");
+            report.sentence("More.");
         }));
     };
     QCOMPARE(findings(1000).count(">Wrong.<"), 1000);
@@ -333,6 +339,103 @@ void TestReports::thePageShowsTheFirstFindingsOnly()
     QVERIFY(page.contains("<p>Not shown on this page: 1 more finding.</p>"));
     QVERIFY(findings(1003).contains("<p>Not shown on this page: 3 more findings.</p>"));
     QVERIFY(page.contains("<h2>Next</h2>"));
+}
+
+void TestReports::aSectionWithoutContentHasNoHeading()
+{
+    const auto write = [](ReportWriter &report) {
+        report.section("empty", "Empty");
+        report.data(table());
+        report.datum("none", 0);
+        report.section("full", "Full");
+        report.sentence("Something.");
+        report.section("last", "Last");
+    };
+    QCOMPARE(QString::fromUtf8(written<TextReport>(write, 100)),
+             QString("A <title>\n=========\n\nFull\n----\nSomething.\n\nDone & dusted.\n"));
+    const QString page = QString::fromUtf8(written<HtmlReport>(write));
+    QCOMPARE(page.count("<h2>"), 1);
+    QCOMPARE(page.count("<section"), 1);
+    QCOMPARE(page.count("</section>"), 1);
+}
+
+void TestReports::aVerdictThatComesFirstIsNotRepeated()
+{
+    const QString text = QString::fromUtf8(written<TextReport>(
+        [](ReportWriter &report) {
+            report.answer("Done & dusted.");
+            report.section("one", "One");
+            report.sentence("Why.");
+        },
+        100));
+    QCOMPARE(text, QString("A <title>\n=========\n\nDone & dusted.\n\nOne\n---\nWhy.\n"));
+}
+
+void TestReports::aCardIsASentenceInTextAndAListOnThePage()
+{
+    const auto write = [](ReportWriter &report) {
+        report.section("people", "People");
+        report.card({"1.1 <Ján>", {"joins A & B", "leaves \x1b"}, {"uid: 7", "pid: 11"}});
+        report.card({"1.2 Eva", {"joins C"}, {}});
+    };
+    const QString text = QString::fromUtf8(written<TextReport>(write, 100));
+    QVERIFY2(text.contains("\n1.1 <Ján>: joins A & B; leaves \\x1b; uid: 7; pid: 11.\n"
+                           "1.2 Eva: joins C.\n"),
+             qPrintable(text));
+    const QString page = QString::fromUtf8(written<HtmlReport>(write));
+    QVERIFY2(page.contains(
+                 "<article><h3>1.1 &lt;Ján&gt;</h3>\n<ul><li>joins A &amp; B<li>leaves "
+                 "\\x1b</ul><details><summary>Details</summary><ul><li>uid: "
+                 "7<li>pid: 11</ul></details></article>\n<article><h3>1.2 Eva</h3>\n<ul><li>joins "
+                 "C</ul></article>\n"),
+             qPrintable(page));
+}
+
+void TestReports::anAbbreviatedTextSaysHowMuchMoreThereIs()
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    TextReport report(buffer, 100);
+    report.abbreviate("--all shows it");
+    report.begin("preview", "Long");
+    report.fact("a", "A", 1);
+    report.fact("b", "B", true);
+    report.section("findings", "Findings");
+    for (int i = 0; i < 20; ++i)
+        report.finding(finding("Wrong."));
+    report.section("people", "People");
+    report.card({"Everybody", {"stays"}, {}, true});
+    for (int i = 0; i < 100; ++i)
+        report.card({"Somebody", {"changes"}, {"uid: 7"}});
+    report.section("few", "Few");
+    report.card({"Somebody else", {"changes"}, {}});
+    report.section("details", "Details");
+    report.card({"Nobody", {}, {"uid: 8"}});
+    report.end(ExitStatus::Findings, "Done.");
+    const QString text = QString::fromUtf8(buffer.data());
+    QVERIFY2(text.contains("\nA: 1; B: yes.\n\nFindings\n"), qPrintable(text));
+    QCOMPARE(text.count("Wrong."), 8);
+    QVERIFY2(text.contains("\n… and 12 more: --all shows it.\n\nPeople\n"), qPrintable(text));
+    QCOMPARE(text.count("Somebody: changes."), 9);
+    QVERIFY2(text.contains("\n… and 91 more: --all shows it.\n\nFew\n"), qPrintable(text));
+    QCOMPARE(text.count("more: "), 2);
+    QVERIFY(!text.contains("uid") && !text.contains("Details"));
+}
+
+void TestReports::whatIsForScriptsIsInTheJsonFormOnly()
+{
+    const auto write = [](ReportWriter &report) {
+        report.section("rows", "Rows");
+        report.data(table());
+        report.datum("count", 2);
+        report.card({"Nováková", {"changes"}, {}});
+    };
+    const QJsonObject json = QJsonDocument::fromJson(written<JsonReport>(write)).object();
+    QCOMPARE(json["facts"].toObject(), QJsonObject({{"count", 2}}));
+    const QJsonObject section = json["sections"].toArray().first().toObject();
+    QCOMPARE(section["tables"].toObject()["people"].toArray().size(), 2);
+    QVERIFY(!written<TextReport>(write, 100).contains("12341"));
+    QVERIFY(!written<HtmlReport>(write).contains("12341"));
 }
 
 void TestReports::textIsMadeVisible_data()
