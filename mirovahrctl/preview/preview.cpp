@@ -17,9 +17,12 @@ constexpr char kDescription[] =
     "Shows what a forced synchronisation with an export would change in the attendance\n"
     "database, by doing it: copies the rows and routines that the plugin reaches into a\n"
     "private database server, lets the plugin's own code synchronise the copy, and reports\n"
-    "every difference. Only reads the site's database, keeps the export, and removes the\n"
+    "what happens to each person. Only reads the site's database, keeps the export, and removes "
+    "the\n"
     "copy afterwards. Needs MariaDB's server programs on this machine, and twice the room of\n"
     "these rows in the folder for temporary files.";
+
+constexpr char kWhereTheRestIs[] = "--details shows everything, --html a page, --person one person";
 
 class PreviewCommand {
 public:
@@ -38,6 +41,8 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> copySite(PreviewWork &work);
+    std::optional<ExitStatus> readView(PreviewWork &work, PreviewView &view);
+    QString title() const;
     ExitStatus fail(const PreviewRefusal &refusal)
     {
         return m_console.fail(refusal.status, refusal.sentence);
@@ -66,14 +71,42 @@ ExitStatus PreviewCommand::run()
         return fail(*refused);
     if (m_sql.isOpen())
         PreviewSql(work.schema(), work.moments()).write(work.changes(), m_sql);
-    m_report.begin(m_line.subcommand(), QStringLiteral("Preview of HR export %1").arg(m_export));
-    PreviewReport report(work, m_configuration, m_report);
+    PreviewView view;
+    if (const auto end = readView(work, view))
+        return *end;
+    m_report.begin(m_line.subcommand(), title());
+    if (!m_line.isSet("details"))
+        m_report.abbreviateText(QString::fromLatin1(kWhereTheRestIs));
+    PreviewReport report(work, m_configuration, view, m_report);
     report.write();
     for (OutputFile *const file : {&m_sql, &m_log}) {
         if (const auto end = file->finish(m_console))
             return *end;
     }
     return m_report.conclude(report.verdict());
+}
+
+/// The people are those of the copy after the synchronisation, new ones among them.
+std::optional<ExitStatus> PreviewCommand::readView(PreviewWork &work, PreviewView &view)
+{
+    view.isSummary = m_line.isSet("summary");
+    view.person = m_line.value("person");
+    if (!m_line.isSet("person"))
+        return std::nullopt;
+    view.uids = work.names().uidsNamed(view.person);
+    if (!view.uids.isEmpty())
+        return std::nullopt;
+    return m_console.fail(
+        ExitStatus::Usage,
+        QStringLiteral("Neither the database nor the export has a person '%1'").arg(view.person));
+}
+
+QString PreviewCommand::title() const
+{
+    const QString title = QStringLiteral("Preview of HR export %1").arg(m_export);
+    return m_line.isSet("person")
+        ? title + QStringLiteral(" for person %1").arg(m_line.value("person"))
+        : title;
 }
 
 /// The connection to the site is closed as soon as the copy exists.
@@ -114,6 +147,11 @@ ExitStatus runPreview(const QStringList &arguments, Console &console)
     CommandLine line("preview", kDescription);
     line.addArgument("file", "The export.");
     PluginConfiguration::addTo(line);
+    line.addFlag("summary", "Show only the verdict, the findings and the totals.");
+    line.addOption("person", "id",
+                   "Show only what happens to one person: a payroll id such as 1234.1, a personal "
+                   "number or a pid.");
+    line.addFlag("details", "Show everybody, not only the first, and the bookkeeping.");
     line.addOption("sql", "file", "Also write the differences as SQL statements.");
     line.addOption("log", "file", "Also write the plugin's whole log of the synchronisation.");
     line.addFlag("all-rows", "Also copy the rows that a synchronisation does not reach.");

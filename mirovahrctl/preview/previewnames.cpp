@@ -39,6 +39,30 @@ QString PreviewNames::personOfPid(const QString &pid)
     return nameOf(kPersonOfPid, QStringLiteral("the person with the pid"), pid);
 }
 
+quint32 PreviewNames::uidOfPid(const QString &pid)
+{
+    const auto known = m_uids.constFind(pid);
+    if (known != m_uids.constEnd())
+        return *known;
+    const QString sql = QStringLiteral("SELECT uid FROM people WHERE pid = ");
+    const quint32 uid = m_copy.value(sql + SqlSession::literal(pid)).toUInt();
+    m_uids.insert(pid, uid);
+    return uid;
+}
+
+QSet<quint32> PreviewNames::uidsNamed(const QString &id)
+{
+    QSet<quint32> uids;
+    const QString text = SqlSession::literal(id);
+    const QVector<QStringList> rows = m_copy.rows(
+        QStringLiteral("SELECT uid FROM people WHERE pamId = %1 OR SUBSTRING_INDEX(pamId, '.', 1) "
+                       "= %1 OR CAST(pid AS CHAR) = %1")
+            .replace(QLatin1String("%1"), text));
+    for (const QStringList &row : rows)
+        uids += row.constFirst().toUInt();
+    return uids;
+}
+
 QString PreviewNames::branch(const QString &bid)
 {
     return nameOf(kBranch, QStringLiteral("branch"), bid);

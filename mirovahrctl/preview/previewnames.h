@@ -3,6 +3,7 @@
 #include "mirovahrctl/site/sqlsession.h"
 
 #include <QHash>
+#include <QSet>
 #include <QSqlDatabase>
 #include <QString>
 
@@ -15,6 +16,11 @@ public:
 
     QString personOfUid(const QString &uid);
     QString personOfPid(const QString &pid);
+    /// 0 when there is nobody with the pid.
+    quint32 uidOfPid(const QString &pid);
+    /// The uids of the people whom \a id names: a payroll id such as "1234.1", a personal number,
+    /// or a pid.
+    QSet<quint32> uidsNamed(const QString &id);
     QString branch(const QString &bid);
     QString calendarGroup(const QString &gid);
     QString administrator(const QString &aid);
@@ -27,4 +33,5 @@ private:
 
     SqlSession m_copy;
     QHash<QString, QString> m_known;
+    QHash<QString, quint32> m_uids; ///< by pid
 };

@@ -1,9 +1,11 @@
 #include "mirovahrctl/preview/previewreport.h"
 
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
+#include "mirovahrctl/preview/previewcard.h"
 #include "mirovahrctl/preview/previewwork.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/report/rules/previewrules.h"
 #include "mirovahrctl/report/wording.h"
 
@@ -14,17 +16,43 @@
 
 namespace {
 
+QString people(int count)
+{
+    return Wording::counted(count, QStringLiteral("person"), QStringLiteral("people"));
+}
+
 Table tableOf(const QVector<PreviewLine> &lines)
 {
     Table table{QStringLiteral("differences"),
                 {{QStringLiteral("who"), QStringLiteral("Who")},
                  {QStringLiteral("what"), QStringLiteral("What")},
                  {QStringLiteral("before"), QStringLiteral("Now")},
-                 {QStringLiteral("after"), QStringLiteral("Afterwards")}},
+                 {QStringLiteral("after"), QStringLiteral("Afterwards")},
+                 {QStringLiteral("bookkeeping"), QStringLiteral("Bookkeeping")}},
                 {}};
     for (const PreviewLine &line : lines)
-        table.rows.append({line.who, line.what, line.before, line.after});
+        table.rows.append({line.who, line.text(), line.before, line.after, line.isBookkeeping});
     return table;
+}
+
+Table tableOf(const QVector<Card> &cards)
+{
+    Table table{QStringLiteral("people"), {{QStringLiteral("who"), QStringLiteral("Who")}}, {}};
+    for (const Card &card : cards)
+        table.rows.append({card.who});
+    return table;
+}
+
+/// One card in the place of those that have only details.
+Card allInOne(const QVector<Card> &cards)
+{
+    Card all;
+    all.who = people(cards.size());
+    for (const Card &card : cards) {
+        all.details +=
+            QStringLiteral("%1: %2").arg(card.who, card.details.join(QStringLiteral(", ")));
+    }
+    return all;
 }
 
 /// A server's version without the mark that it writes a log.
@@ -42,20 +70,26 @@ QString rows(int count)
 } // namespace
 
 PreviewReport::PreviewReport(PreviewWork &work, const PluginConfiguration &configuration,
-                             Report &report)
+                             const PreviewView &view, Report &report)
     : m_work(work)
     , m_configuration(configuration)
+    , m_view(view)
     , m_report(report)
 {
+    collect();
 }
 
 void PreviewReport::write()
 {
-    collect();
-    writeDifferences();
+    m_report.answer(verdict());
+    writeTotals();
     writeWarnings();
+    if (m_view.isSummary)
+        return;
+    for (const PreviewKind kind : PreviewWords::kinds())
+        writeDifferences(kind);
+    writeBookkeeping();
     writeLimits();
-    writeSummary();
 }
 
 void PreviewReport::collect()
@@ -65,25 +99,17 @@ void PreviewReport::collect()
         std::set<PreviewKind> seen;
         const PreviewWords::Lines lines = words.describe(change);
         for (const PreviewLine &line : lines) {
+            if (!m_view.person.isEmpty() && !m_view.uids.contains(line.uid))
+                continue;
             m_lines[line.kind] += line;
+            m_subjects.add(line);
             seen.insert(line.kind);
         }
         for (const PreviewKind kind : seen)
             ++m_rows[kind];
+        m_changes += seen.empty() ? 0 : 1;
     }
-    m_changes = m_work.changes().size();
     m_work.forgetChanges();
-}
-
-void PreviewReport::writeDifferences()
-{
-    for (const PreviewKind kind : PreviewWords::kinds()) {
-        if (!m_lines.contains(kind))
-            continue;
-        m_report.section(PreviewWords::idOf(kind), PreviewWords::headingOf(kind));
-        const Table table = tableOf(m_lines.take(kind)); // there may be hundreds of thousands
-        m_report.table(table);
-    }
 }
 
 void PreviewReport::writeWarnings()
@@ -93,9 +119,6 @@ void PreviewReport::writeWarnings()
     for (const Finding &warning : m_work.warnings())
         m_report.finding(warning);
     noteCopy();
-    m_report.sentence(
-        QStringLiteral("The plugin's warnings above are those of its log. check-file reports lines "
-                       "that it drops silently; check-db reports rights that its account lacks."));
 }
 
 void PreviewReport::warnOfConfiguration()
@@ -145,20 +168,77 @@ void PreviewReport::noteCopy()
     }
 }
 
+void PreviewReport::writeTotals()
+{
+    for (const PreviewKind kind : PreviewWords::kinds())
+        writeTotal(PreviewWords::idOf(kind), PreviewWords::headingOf(kind), totalOf(kind));
+    writeTotal(QStringLiteral("bookkeeping-people"), QStringLiteral("People with bookkeeping only"),
+               m_subjects.count(PreviewSubjects::Group::Bookkeeping));
+    writeTotal(QStringLiteral("rows"), QStringLiteral("Rows that would change"), m_changes);
+    writeTotal(QStringLiteral("pluginWarnings"), QStringLiteral("The plugin's warnings"),
+               m_work.warnings().size());
+}
+
+void PreviewReport::writeTotal(const QString &id, const QString &label, int count)
+{
+    if (count == 0)
+        m_report.datum(id, count);
+    else
+        m_report.fact(id, label, count);
+}
+
+/// People in whom something changes are more than the rows of people that change: a balance is in
+/// another table. Of a new person there is one row.
+int PreviewReport::totalOf(PreviewKind kind) const
+{
+    return kind == PreviewKind::ChangedPeople ? m_subjects.count(PreviewSubjects::Group::Changed)
+                                              : m_rows.value(kind);
+}
+
+void PreviewReport::writeDifferences(PreviewKind kind)
+{
+    const QVector<Card> cards = cardsOf(kind);
+    if (cards.isEmpty() && !m_lines.contains(kind))
+        return;
+    m_report.section(PreviewWords::idOf(kind), PreviewWords::headingOf(kind));
+    const Table table = tableOf(m_lines.take(kind)); // there may be hundreds of thousands
+    m_report.data(table);
+    for (const Card &card : cards)
+        m_report.card(card);
+}
+
+QVector<Card> PreviewReport::cardsOf(PreviewKind kind) const
+{
+    if (kind == PreviewKind::NewPeople)
+        return gathered(m_subjects.cards(PreviewSubjects::Group::New));
+    if (kind == PreviewKind::ChangedPeople)
+        return gathered(m_subjects.cards(PreviewSubjects::Group::Changed));
+    return m_subjects.thingCards(kind);
+}
+
+void PreviewReport::writeBookkeeping()
+{
+    const QVector<Card> cards = m_subjects.cards(PreviewSubjects::Group::Bookkeeping);
+    if (cards.isEmpty())
+        return;
+    m_report.section(QStringLiteral("bookkeeping-people"),
+                     QStringLiteral("People with bookkeeping only"));
+    m_report.data(tableOf(cards));
+    m_report.card(allInOne(cards));
+}
+
 void PreviewReport::writeLimits()
 {
     m_report.section(QStringLiteral("limits"), QStringLiteral("What is left out"));
-    m_report.sentence(m_configuration.origin());
-    m_report.sentence(QStringLiteral(
-        "This is the forced synchronisation of a plugin that was just started. The memory of a "
-        "running plugin is not known here: the last record of each person, who waits for a branch, "
-        "whose balance is still to be corrected, the uids that it has looked up. An ordinary "
-        "synchronisation skips people whose line has not changed."));
     m_report.sentence(
         QStringLiteral(
-            "It is valid for today, %1, and for the database as it was when it was copied. It "
-            "lacks what others write in the meantime, and shows moments of writing as \"now\".")
-            .arg(QDate::currentDate().toString(Qt::ISODate)));
+            "%1 This is the forced synchronisation of a plugin that was just started: an ordinary "
+            "one skips people whose line has not changed, and a running plugin remembers more than "
+            "the database holds. It is valid for today, %2, and for the database as it was when it "
+            "was copied; moments of writing are shown as \"now\". The plugin's warnings are those "
+            "of its log: check-file reports lines that it drops silently, check-db rights that its "
+            "account lacks.")
+            .arg(m_configuration.origin(), QDate::currentDate().toString(Qt::ISODate)));
     if (m_configuration.values().runsCommand(true)) {
         m_report.sentence(
             QStringLiteral("The plugin would run its export command first. It was not run: this is "
@@ -170,22 +250,23 @@ void PreviewReport::writeLimits()
     }
 }
 
-void PreviewReport::writeSummary()
-{
-    m_report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
-    m_report.fact(QStringLiteral("rows"), QStringLiteral("Rows that would change"), m_changes);
-    for (const PreviewKind kind : PreviewWords::kinds())
-        m_report.fact(PreviewWords::idOf(kind), PreviewWords::headingOf(kind), m_rows.value(kind));
-    m_report.fact(QStringLiteral("pluginWarnings"), QStringLiteral("The plugin's warnings"),
-                  m_work.warnings().size());
-}
-
 QString PreviewReport::verdict() const
 {
+    const int created = m_subjects.count(PreviewSubjects::Group::New);
+    const int changed = m_subjects.count(PreviewSubjects::Group::Changed);
+    QStringList deeds;
+    if (created > 0)
+        deeds += QStringLiteral("create ") + people(created);
+    if (changed > 0)
+        deeds += QStringLiteral("change ") + people(changed);
+    if (deeds.isEmpty()) {
+        deeds += m_changes == 0
+            ? QStringLiteral("change nothing")
+            : QStringLiteral("change nobody, only %1 besides").arg(rows(m_changes));
+    }
+    QString text =
+        QStringLiteral("A synchronisation would %1.").arg(deeds.join(QStringLiteral(" and ")));
     const int warnings = m_work.warnings().size();
-    QString text = m_changes == 0
-        ? QStringLiteral("A synchronisation would change nothing.")
-        : QStringLiteral("A synchronisation would change %1.").arg(rows(m_changes));
     if (warnings > 0) {
         text +=
             QStringLiteral(" The plugin would warn %1.")

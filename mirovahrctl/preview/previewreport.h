@@ -1,40 +1,54 @@
 #pragma once
 
+#include "mirovahrctl/preview/previewsubjects.h"
 #include "mirovahrctl/preview/previewwords.h"
-#include "mirovahrctl/report/exitstatus.h"
-#include "mirovahrctl/report/finding.h"
 
 #include <QMap>
+#include <QSet>
 #include <QString>
-#include <QStringList>
 #include <QVector>
 
+class PluginConfiguration;
 class PreviewWork;
 class Report;
-class PluginConfiguration;
 
-/// Reports the results of a preview.
+/// What of a preview is reported.
+struct PreviewView {
+    bool isSummary = false; ///< only the verdict, the findings and the totals
+    QString person; ///< only what happens to the people whom it names; empty: to all
+    QSet<quint32> uids; ///< of these people
+};
+
+/// Reports the results of a preview: the verdict, the findings and the totals, then a card for each
+/// person.
 class PreviewReport {
 public:
-    PreviewReport(PreviewWork &work, const PluginConfiguration &configuration, Report &report);
+    /// Takes the changes out of \a work.
+    PreviewReport(PreviewWork &work, const PluginConfiguration &configuration,
+                  const PreviewView &view, Report &report);
 
-    /// Writes everything but the verdict. Then the work has forgotten its changes.
     void write();
     QString verdict() const;
 
 private:
     void collect();
-    void writeDifferences();
     void writeWarnings();
-    void writeLimits();
-    void writeSummary();
     void warnOfConfiguration();
     void noteCopy();
+    void writeTotals();
+    void writeTotal(const QString &id, const QString &label, int count);
+    void writeDifferences(PreviewKind kind);
+    void writeBookkeeping();
+    void writeLimits();
+    int totalOf(PreviewKind kind) const;
+    QVector<Card> cardsOf(PreviewKind kind) const;
 
     PreviewWork &m_work;
     const PluginConfiguration &m_configuration;
+    const PreviewView m_view;
     Report &m_report;
-    QMap<PreviewKind, QVector<PreviewLine>> m_lines;
-    int m_changes = 0;
+    QMap<PreviewKind, PreviewWords::Lines> m_lines;
+    PreviewSubjects m_subjects;
+    int m_changes = 0; ///< rows
     QMap<PreviewKind, int> m_rows; ///< rows with a line of that kind
 };

@@ -41,6 +41,20 @@ bool isOfCalculation(const QString &column)
     return column == QLatin1String("lastCalc") || column == QLatin1String("calc");
 }
 
+/// Columns of people that HR would not recognise.
+bool isBookkeeping(const QString &column)
+{
+    static const QStringList names = TepDbContract::names("uid pid created edited editor calc");
+    return names.contains(column);
+}
+
+PreviewLine::Row rowOf(const PreviewChange &change)
+{
+    if (change.isInsert())
+        return PreviewLine::Row::Added;
+    return change.isDelete() ? PreviewLine::Row::Removed : PreviewLine::Row::Changed;
+}
+
 bool isEmptyCell(const QString &cell)
 {
     return cell.isEmpty() || cell == QLatin1String("0");
@@ -54,6 +68,20 @@ bool changesOnly(const PreviewChange &change, int column)
             return false;
     }
     return true;
+}
+
+/// What a row of admins_people that comes, goes or changes means; with a place for the
+/// administrator.
+QString requestWords(PreviewLine::Row row, bool hasRequests)
+{
+    if (row == PreviewLine::Row::Removed) {
+        return hasRequests ? QStringLiteral("is no longer shown to %1, who got the requests")
+                           : QStringLiteral("is no longer shown to %1");
+    }
+    if (hasRequests)
+        return QStringLiteral("requests go to %1");
+    return row == PreviewLine::Row::Added ? QStringLiteral("is shown to %1")
+                                          : QStringLiteral("requests no longer go to %1");
 }
 
 QStringList entries(const QString &selection)
@@ -73,8 +101,14 @@ QStringList missingIn(const QStringList &others, const QStringList &list)
 
 } // namespace
 
+QString PreviewLine::text() const
+{
+    return QString(what).replace(QLatin1String("%1"), thing);
+}
+
 PreviewWords::PreviewWords(PreviewNames &names, const PreviewMoments &moments)
     : m_names(names)
+    , m_moments(moments)
     , m_values(names, moments)
 {
 }
@@ -132,55 +166,65 @@ PreviewWords::Lines PreviewWords::describePerson(const PreviewChange &change) co
 {
     if (change.isDelete())
         return describePlainly(change);
-    const QString who = m_names.personOfUid(change.cell("uid"));
     Lines lines;
     if (change.isInsert())
-        lines.append({PreviewKind::NewPeople, who, QStringLiteral("is created"), {}, {}});
+        lines += lineAbout(PreviewKind::NewPeople, change, QStringLiteral("is created"));
     for (int i = 0; i < change.table->columns.size(); ++i) {
-        const QString &name = change.table->columns.at(i).name;
-        const TepDbContract::Column *const column =
-            TepDbContract::findColumn(change.table->name, name);
-        if (!change.changes(i) || (change.isInsert() && isEmptyCell(change.after.at(i))))
-            continue;
-        const PreviewKind kind = change.isInsert() ? PreviewKind::NewPeople
-            : isOfCalculation(name)                ? PreviewKind::Recalculation
-                                                   : PreviewKind::ChangedPeople;
-        lines.append({kind, who, column == nullptr ? name : QString::fromLatin1(column->label),
-                      m_values.before(change, i), m_values.after(change, i)});
+        if (change.changes(i) && !(change.isInsert() && isEmptyCell(change.after.at(i))))
+            lines += describePersonColumn(change, i);
     }
     return lines;
 }
 
+PreviewLine PreviewWords::describePersonColumn(const PreviewChange &change, int column) const
+{
+    const QString &name = change.table->columns.at(column).name;
+    const TepDbContract::Column *const known = TepDbContract::findColumn(change.table->name, name);
+    const PreviewKind kind = change.isInsert() ? PreviewKind::NewPeople
+        : isOfCalculation(name)                ? PreviewKind::Recalculation
+                                               : PreviewKind::ChangedPeople;
+    PreviewLine line =
+        lineAbout(kind, change, known == nullptr ? name : QString::fromLatin1(known->label));
+    line.isBookkeeping = isBookkeeping(name);
+    line.before = m_values.before(change, column);
+    line.after = m_values.after(change, column);
+    return line;
+}
+
 PreviewWords::Lines PreviewWords::describeAttendance(const PreviewChange &change) const
 {
-    return compare(PreviewKind::Recalculation, person(change),
-                   QStringLiteral("attendance of ") + PreviewValues::time(change.cell("date")),
+    return compare(lineAbout(PreviewKind::Recalculation, change, QStringLiteral("attendance of %1"),
+                             PreviewValues::time(change.cell("date"))),
                    change, "ok");
 }
 
 PreviewWords::Lines PreviewWords::describeBranchMember(const PreviewChange &change) const
 {
+    const int since = change.table->indexOf(QStringLiteral("since"));
+    const bool isAsUsual = change.isInsert() && since >= 0 && m_moments.isNow(change, since);
     const QString branch = m_names.branch(change.cell("bid"));
+    if (isAsUsual)
+        return {lineAbout(PreviewKind::Branches, change, QStringLiteral("joins the branch %1"),
+                          branch)};
     const QString what = change.isInsert() ? QStringLiteral("joins the branch %1, since")
-        : change.isDelete()                ? QStringLiteral("leaves the branch %1, since")
+        : change.isDelete()                ? QStringLiteral("leaves the branch %1, in it since")
                                            : QStringLiteral("is in the branch %1 since");
-    return compare(PreviewKind::Branches, person(change), what.arg(branch), change, "since");
+    return compare(lineAbout(PreviewKind::Branches, change, what, branch), change, "since");
 }
 
 PreviewWords::Lines PreviewWords::describePlan(const PreviewChange &change) const
 {
-    return compare(
-        PreviewKind::Calendars, person(change),
-        QStringLiteral("calendar group from %1 on").arg(PreviewValues::month(change.cell("since"))),
-        change, "gid");
+    return compare(lineAbout(PreviewKind::Calendars, change,
+                             QStringLiteral("calendar group from %1 on"),
+                             PreviewValues::month(change.cell("since"))),
+                   change, "gid");
 }
 
 PreviewWords::Lines PreviewWords::describeMonth(const PreviewChange &change) const
 {
-    return compare(
-        PreviewKind::Calendars, person(change),
-        QStringLiteral("calendar group in %1").arg(PreviewValues::month(change.cell("month"))),
-        change, "gid");
+    return compare(lineAbout(PreviewKind::Calendars, change, QStringLiteral("calendar group in %1"),
+                             PreviewValues::month(change.cell("month"))),
+                   change, "gid");
 }
 
 PreviewWords::Lines PreviewWords::describeMove(const PreviewChange &change) const
@@ -189,63 +233,76 @@ PreviewWords::Lines PreviewWords::describeMove(const PreviewChange &change) cons
     const QString what = change.cell("type") == QLatin1String("3")
         ? QStringLiteral("%1 balance corrected on %2 by")
         : QStringLiteral("%1 balance moved on %2 by");
-    return compare(PreviewKind::Balances, person(change),
-                   what.arg(fund, PreviewValues::time(change.cell("day"))), change, "value");
+    return compare(lineAbout(PreviewKind::Balances, change,
+                             what.arg(fund, PreviewValues::time(change.cell("day")))),
+                   change, "value");
 }
 
 PreviewWords::Lines PreviewWords::describeAdministrator(const PreviewChange &change) const
 {
     const QString administrator = m_names.administrator(change.cell("aid"));
-    if (change.isInsert() && change.cell("request") == QLatin1String("0")) {
-        return {{PreviewKind::Supervisors,
-                 person(change),
-                 QStringLiteral("is shown to %1").arg(administrator),
-                 {},
-                 {}}};
+    const bool hasRequests = change.cell("request") != QLatin1String("0");
+    const PreviewLine line = lineAbout(PreviewKind::Supervisors, change,
+                                       requestWords(rowOf(change), hasRequests), administrator);
+    Lines lines = compare(line, change, "request");
+    if (lines.constFirst().kind == PreviewKind::Supervisors) {
+        // The words say it.
+        lines.first().before.clear();
+        lines.first().after.clear();
     }
-    return compare(PreviewKind::Supervisors, person(change),
-                   QStringLiteral("requests go to %1").arg(administrator), change, "request");
+    return lines;
 }
 
 PreviewWords::Lines PreviewWords::describePayrollSettings(const PreviewChange &change) const
 {
-    return compare(PreviewKind::Payroll, person(change),
-                   QStringLiteral("settings of the payroll export"), change, "id");
+    return compare(
+        lineAbout(PreviewKind::Payroll, change, QStringLiteral("settings of the payroll export")),
+        change, "id");
 }
 
 PreviewWords::Lines PreviewWords::describeTerminal(const PreviewChange &change) const
 {
-    return compare(PreviewKind::Terminals, m_names.terminal(change.cell("tid")),
-                   QStringLiteral("has to fetch"), change, "syn");
+    PreviewLine line = lineAbout(PreviewKind::Terminals, change, QStringLiteral("has to fetch"));
+    line.isBookkeeping = true;
+    line.who = m_names.terminal(change.cell("tid"));
+    return compare(line, change, "syn");
 }
 
 PreviewWords::Lines PreviewWords::describeTerminalPerson(const PreviewChange &change) const
 {
-    const QString terminal = m_names.terminal(change.cell("tid"));
     const QString what =
         change.isDelete() ? QStringLiteral("is forgotten by %1") : QStringLiteral("is known to %1");
-    return {{PreviewKind::Terminals, person(change), what.arg(terminal), {}, {}}};
+    return {lineAbout(PreviewKind::Terminals, change, what, m_names.terminal(change.cell("tid")))};
 }
 
 PreviewWords::Lines PreviewWords::describeQueue(const PreviewChange &change) const
 {
     const QString id = change.cell("ref_id");
-    const bool isPerson = change.cell("ref_col") == QLatin1String("uid");
-    const QString what = isPerson
-        ? m_names.personOfUid(id)
-        : QStringLiteral("%1 %2 of %3").arg(change.cell("ref_col"), id, change.cell("ref"));
-    const QString verb = change.isDelete() ? QStringLiteral("no longer gets the change: %1")
-                                           : QStringLiteral("gets the change: %1");
-    return {{PreviewKind::Terminals, m_names.terminal(change.cell("tid")), verb.arg(what), {}, {}}};
+    PreviewLine line;
+    line.kind = PreviewKind::Terminals;
+    line.row = rowOf(change);
+    line.isBookkeeping = true;
+    line.what = change.isDelete() ? QStringLiteral("is no longer queued for %1")
+                                  : QStringLiteral("is queued for %1");
+    line.thing = m_names.terminal(change.cell("tid"));
+    if (change.cell("ref_col") == QLatin1String("uid")) {
+        line.uid = id.toUInt();
+        line.who = m_names.personOfUid(id);
+    } else {
+        line.who =
+            QStringLiteral("%1 %2 of %3").arg(change.cell("ref_col"), id, change.cell("ref"));
+    }
+    return {line};
 }
 
 PreviewWords::Lines PreviewWords::describeSetting(const PreviewChange &change) const
 {
     static const QRegularExpression selection(QStringLiteral("^exportPam\\..*\\.selPeople$"));
-    const QString name = change.cell("name");
-    if (selection.match(name).hasMatch())
+    if (selection.match(change.cell("name")).hasMatch())
         return describeSelection(change);
-    return compare(PreviewKind::Settings, name, QStringLiteral("value"), change, "value");
+    PreviewLine line = lineAbout(PreviewKind::Settings, change, QStringLiteral("value"));
+    line.who = change.cell("name");
+    return compare(line, change, "value");
 }
 
 PreviewWords::Lines PreviewWords::describeSelection(const PreviewChange &change) const
@@ -256,55 +313,72 @@ PreviewWords::Lines PreviewWords::describeSelection(const PreviewChange &change)
     const QString name = change.cell("name").section(QLatin1Char('.'), 0, 1);
     Lines lines;
     const QStringList added = missingIn(before, after);
-    for (const QString &pid : added) {
-        lines.append({PreviewKind::Payroll,
-                      m_names.personOfPid(pid),
-                      QStringLiteral("is selected for %1").arg(name),
-                      {},
-                      {}});
-    }
+    for (const QString &pid : added)
+        lines += lineAboutPid(pid, QStringLiteral("is selected for %1"), name);
     const QStringList gone = missingIn(after, before);
-    for (const QString &pid : gone) {
-        lines.append({PreviewKind::Payroll,
-                      m_names.personOfPid(pid),
-                      QStringLiteral("is no longer selected for %1").arg(name),
-                      {},
-                      {}});
-    }
+    for (const QString &pid : gone)
+        lines += lineAboutPid(pid, QStringLiteral("is no longer selected for %1"), name);
     return lines.isEmpty() ? describePlainly(change) : lines;
 }
 
 PreviewWords::Lines PreviewWords::describePlainly(const PreviewChange &change) const
 {
-    const QString verb = change.isInsert() ? QStringLiteral("new row: %1")
+    const QString what = change.isInsert() ? QStringLiteral("new row: %1")
         : change.isDelete()                ? QStringLiteral("removed row: %1")
                                            : QStringLiteral("%1");
     QStringList key;
     for (const QString &column : change.table->key)
         key += column + QLatin1Char(' ') + change.row().at(change.table->indexOf(column));
-    const QString who =
-        (change.table->name + QLatin1Char(' ') + key.join(QStringLiteral(", "))).trimmed();
+    PreviewLine line;
+    line.row = rowOf(change);
+    line.what = what;
+    line.who = (change.table->name + QLatin1Char(' ') + key.join(QStringLiteral(", "))).trimmed();
     Lines lines;
     for (int i = 0; i < change.table->columns.size(); ++i) {
-        if (change.changes(i)) {
-            lines.append({PreviewKind::Other, who, verb.arg(change.table->columns.at(i).name),
-                          change.before.value(i), change.after.value(i)});
-        }
+        if (!change.changes(i))
+            continue;
+        line.thing = change.table->columns.at(i).name;
+        line.before = change.before.value(i);
+        line.after = change.after.value(i);
+        lines += line;
     }
     return lines;
 }
 
-PreviewWords::Lines PreviewWords::compare(PreviewKind kind, const QString &who, const QString &what,
-                                          const PreviewChange &change, const char *column) const
+PreviewLine PreviewWords::lineAbout(PreviewKind kind, const PreviewChange &change,
+                                    const QString &what, const QString &thing) const
+{
+    const QString uid = change.cell("uid");
+    PreviewLine line;
+    line.kind = kind;
+    line.row = rowOf(change);
+    line.uid = uid.toUInt();
+    line.who = m_names.personOfUid(uid);
+    line.what = what;
+    line.thing = thing;
+    return line;
+}
+
+PreviewLine PreviewWords::lineAboutPid(const QString &pid, const QString &what,
+                                       const QString &thing) const
+{
+    PreviewLine line;
+    line.kind = PreviewKind::Payroll;
+    line.uid = m_names.uidOfPid(pid);
+    line.who = m_names.personOfPid(pid);
+    line.what = what;
+    line.thing = thing;
+    return line;
+}
+
+PreviewWords::Lines PreviewWords::compare(PreviewLine line, const PreviewChange &change,
+                                          const char *column) const
 {
     const int index = change.table->indexOf(QString::fromLatin1(column));
     const bool isUpdate = !change.isInsert() && !change.isDelete();
     if (index < 0 || (isUpdate && !changesOnly(change, index)))
         return describePlainly(change);
-    return {{kind, who, what, m_values.before(change, index), m_values.after(change, index)}};
-}
-
-QString PreviewWords::person(const PreviewChange &change) const
-{
-    return m_names.personOfUid(change.cell("uid"));
+    line.before = m_values.before(change, index);
+    line.after = m_values.after(change, index);
+    return {line};
 }

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QVector>
+#include <QtGlobal>
 
 class PreviewMoments;
 class PreviewNames;
@@ -26,11 +27,22 @@ enum class PreviewKind {
 
 /// One difference in readable form.
 struct PreviewLine {
+    /// What happens to the row.
+    enum class Row { Added, Changed, Removed };
+
     PreviewKind kind = PreviewKind::Other;
+    Row row = Row::Changed;
+    /// Something that HR would not recognise: an id, a moment of writing, a row of a queue.
+    bool isBookkeeping = false;
+    quint32 uid = 0; ///< of the person whom it concerns; 0: it concerns no person
     QString who; ///< whom or what it concerns: "1234.1 Jana Nováková", "terminal 1 (Sklad)"
-    QString what; ///< what happens, or what differs: "surname"
+    QString what; ///< what happens, or what differs: "surname", "is known to %1"
+    QString thing; ///< what belongs into the place in \a what; null: there is none
     QString before;
     QString after;
+
+    /// What happens, or what differs, with the thing in its place.
+    QString text() const;
 };
 
 /// Describes changed rows in readable form.
@@ -53,6 +65,8 @@ public:
 
 private:
     Lines describePerson(const PreviewChange &change) const;
+    /// One column of a person who is created or changed.
+    PreviewLine describePersonColumn(const PreviewChange &change, int column) const;
     Lines describeAttendance(const PreviewChange &change) const;
     Lines describeBranchMember(const PreviewChange &change) const;
     Lines describePlan(const PreviewChange &change) const;
@@ -68,11 +82,14 @@ private:
     /// For rows without a description of their own: the columns by name.
     Lines describePlainly(const PreviewChange &change) const;
 
-    /// One column before and after; describePlainly() when more columns differ.
-    Lines compare(PreviewKind kind, const QString &who, const QString &what,
-                  const PreviewChange &change, const char *column) const;
-    QString person(const PreviewChange &change) const;
+    /// A line about the person of the change's uid, or about nobody without one.
+    PreviewLine lineAbout(PreviewKind kind, const PreviewChange &change, const QString &what,
+                          const QString &thing = QString()) const;
+    PreviewLine lineAboutPid(const QString &pid, const QString &what, const QString &thing) const;
+    /// The line with one column before and after; describePlainly() when more columns differ.
+    Lines compare(PreviewLine line, const PreviewChange &change, const char *column) const;
 
     PreviewNames &m_names;
+    const PreviewMoments &m_moments;
     const PreviewValues m_values;
 };

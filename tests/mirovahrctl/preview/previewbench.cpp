@@ -57,7 +57,7 @@ QStringList PreviewResult::described() const
     for (const PreviewLine &line : lines) {
         texts +=
             QStringLiteral("%1 | %2 | %3 | %4 -> %5")
-                .arg(PreviewWords::idOf(line.kind), line.who, line.what, line.before, line.after);
+                .arg(PreviewWords::idOf(line.kind), line.who, line.text(), line.before, line.after);
     }
     return texts;
 }

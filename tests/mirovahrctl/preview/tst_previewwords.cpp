@@ -84,7 +84,7 @@ void TestPreviewWords::aNameThatChanges()
              QString("changed-people | 1234.1 Jana Malá | surname | Nováková -> Malá\n"
                      "changed-people | 1234.1 Jana Malá | last changed |  -> now\n"
                      "terminals | terminal 1 (Sklad) | has to fetch | nothing -> people\n"
-                     "terminals | terminal 1 (Sklad) | gets the change: 1234.1 Jana Malá |  -> "));
+                     "terminals | 1234.1 Jana Malá | is queued for terminal 1 (Sklad) |  -> "));
 }
 
 void TestPreviewWords::aNewPerson()
@@ -107,7 +107,7 @@ void TestPreviewWords::aNewPerson()
                      "new-people | 6001.1 Eva Malá | home branch |  -> Sklad\n"
                      "new-people | 6001.1 Eva Malá | active |  -> yes\n"
                      "payroll | 6001.1 Eva Malá | settings of the payroll export |  -> 1\n"
-                     "branches | 6001.1 Eva Malá | joins the branch Sklad, since |  -> now\n"
+                     "branches | 6001.1 Eva Malá | joins the branch Sklad |  -> \n"
                      "calendars | 6001.1 Eva Malá | calendar group from 2024-06 on |  -> group 11 "
                      "(calendar 1)\n"
                      "supervisors | 6001.1 Eva Malá | is shown to administrator 1 (1001.1 Mária "
@@ -115,8 +115,8 @@ void TestPreviewWords::aNewPerson()
                      "supervisors | 6001.1 Eva Malá | is shown to administrator 4 |  -> \n"
                      "terminals | terminal 1 (Sklad) | has to fetch | nothing -> people\n"
                      "terminals | terminal 2 (Sklad) | has to fetch | nothing -> people\n"
-                     "terminals | terminal 1 (Sklad) | gets the change: 6001.1 Eva Malá |  -> \n"
-                     "terminals | terminal 2 (Sklad) | gets the change: 6001.1 Eva Malá |  -> \n"
+                     "terminals | 6001.1 Eva Malá | is queued for terminal 1 (Sklad) |  -> \n"
+                     "terminals | 6001.1 Eva Malá | is queued for terminal 2 (Sklad) |  -> \n"
                      "terminals | 6001.1 Eva Malá | is known to terminal 1 (Sklad) |  -> \n"
                      "terminals | 6001.1 Eva Malá | is known to terminal 2 (Sklad) |  -> \n"
                      "payroll | 6001.1 Eva Malá | is selected for exportPam.1 |  -> "));
@@ -130,7 +130,7 @@ void TestPreviewWords::aPersonWhoMoves()
                 "changed-people | 1002.1 Peter Horváth | home branch | Predajňa -> Sklad\n"
                 "recalculation | 1002.1 Peter Horváth | attendance recalculated from | 2025-04-01 "
                 "-> 2016-09-01\n"
-                "branches | 1002.1 Peter Horváth | joins the branch Sklad, since |  -> now\n"
+                "branches | 1002.1 Peter Horváth | joins the branch Sklad |  -> \n"
                 "calendars | 1002.1 Peter Horváth | calendar group from 2016-09 on | group 21 "
                 "(calendar 1) -> group 11 (calendar 1)\n"
                 "supervisors | 1002.1 Peter Horváth | is shown to administrator 1 (1001.1 Mária "
@@ -139,9 +139,9 @@ void TestPreviewWords::aPersonWhoMoves()
                 "terminals | terminal 1 (Sklad) | has to fetch | nothing -> people\n"
                 "terminals | terminal 2 (Sklad) | has to fetch | nothing -> people\n"
                 "terminals | terminal 4 (Predajňa) | has to fetch | nothing -> people\n"
-                "terminals | terminal 1 (Sklad) | gets the change: 1002.1 Peter Horváth |  -> \n"
-                "terminals | terminal 2 (Sklad) | gets the change: 1002.1 Peter Horváth |  -> \n"
-                "terminals | terminal 4 (Predajňa) | gets the change: 1002.1 Peter Horváth |  -> \n"
+                "terminals | 1002.1 Peter Horváth | is queued for terminal 1 (Sklad) |  -> \n"
+                "terminals | 1002.1 Peter Horváth | is queued for terminal 2 (Sklad) |  -> \n"
+                "terminals | 1002.1 Peter Horváth | is queued for terminal 4 (Predajňa) |  -> \n"
                 "terminals | 1002.1 Peter Horváth | is known to terminal 1 (Sklad) |  -> \n"
                 "terminals | 1002.1 Peter Horváth | is known to terminal 2 (Sklad) |  -> "));
 }
@@ -155,7 +155,7 @@ void TestPreviewWords::aBalanceThatIsCorrected()
             "balances | 1001.1 Mária Kováčová | vacation balance corrected on %1 by |  -> +2.25 "
             "days\n"
             "terminals | terminal 1 (Sklad) | has to fetch | nothing -> people\n"
-            "terminals | terminal 1 (Sklad) | gets the change: 1001.1 Mária Kováčová |  -> ")
+            "terminals | 1001.1 Mária Kováčová | is queued for terminal 1 (Sklad) |  -> ")
             .arg(QDate::currentDate().toString(Qt::ISODate)));
 }
 
@@ -164,12 +164,12 @@ void TestPreviewWords::anotherSupervisor()
     QCOMPARE(
         described(SampleExport::jan().with(&ExportRow::nadrizenyOsobniCislo, 1002)),
         QString("changed-people | 1235.1 Ján Szabó | last changed |  -> now\n"
-                "supervisors | 1235.1 Ján Szabó | requests go to administrator 1 (1001.1 Mária "
-                "Kováčová) | yes -> no\n"
+                "supervisors | 1235.1 Ján Szabó | requests no longer go to administrator 1 (1001.1 "
+                "Mária Kováčová) |  -> \n"
                 "supervisors | 1235.1 Ján Szabó | requests go to administrator 2 (1002.1 Peter "
-                "Horváth) |  -> yes\n"
+                "Horváth) |  -> \n"
                 "terminals | terminal 1 (Sklad) | has to fetch | nothing -> people\n"
-                "terminals | terminal 1 (Sklad) | gets the change: 1235.1 Ján Szabó |  -> "));
+                "terminals | 1235.1 Ján Szabó | is queued for terminal 1 (Sklad) |  -> "));
 }
 
 void TestPreviewWords::anotherCalendar()
@@ -193,7 +193,7 @@ void TestPreviewWords::anotherCalendar()
                 "calendars | 1235.1 Ján Szabó | calendar group in 2025-03 | group 12 (calendar 2) "
                 "-> group 13 (calendar 3)\n"
                 "terminals | terminal 1 (Sklad) | has to fetch | nothing -> people\n"
-                "terminals | terminal 1 (Sklad) | gets the change: 1235.1 Ján Szabó |  -> "));
+                "terminals | 1235.1 Ján Szabó | is queued for terminal 1 (Sklad) |  -> "));
 }
 
 void TestPreviewWords::theForceFlagIsWrittenBack()
@@ -214,17 +214,17 @@ void TestPreviewWords::whatATriggerDoes()
                        "UPDATE brape SET since = UNIX_TIMESTAMP('2024-01-01') WHERE uid = 5; END");
     QCOMPARE(
         described(SampleExport::jana().with(&ExportRow::datumVystupu, QDate(2026, 1, 31)), "root"),
-        QString(
-            "changed-people | 1234.1 Jana Nováková | employed until |  -> 2026-01-31\n"
-            "changed-people | 1234.1 Jana Nováková | last changed |  -> now\n"
-            "other | branches bid 1 | note |  -> x\n"
-            "branches | 1234.1 Jana Nováková | leaves the branch Sklad, since | 2019-04-01 -> \n"
-            "branches | 1235.1 Ján Szabó | is in the branch Sklad since | 2020-06-15 -> "
-            "2024-01-01\n"
-            "other | bradm bid 2, aid 2 | removed row: bid | 2 -> \n"
-            "other | bradm bid 2, aid 2 | removed row: aid | 2 -> \n"
-            "terminals | 1234.1 Jana Nováková | is forgotten by terminal 1 (Sklad) |  -> \n"
-            "terminals | 1234.1 Jana Nováková | is forgotten by terminal 3 (Sklad) |  -> "));
+        QString("changed-people | 1234.1 Jana Nováková | employed until |  -> 2026-01-31\n"
+                "changed-people | 1234.1 Jana Nováková | last changed |  -> now\n"
+                "other | branches bid 1 | note |  -> x\n"
+                "branches | 1234.1 Jana Nováková | leaves the branch Sklad, in it since | "
+                "2019-04-01 -> \n"
+                "branches | 1235.1 Ján Szabó | is in the branch Sklad since | 2020-06-15 -> "
+                "2024-01-01\n"
+                "other | bradm bid 2, aid 2 | removed row: bid | 2 -> \n"
+                "other | bradm bid 2, aid 2 | removed row: aid | 2 -> \n"
+                "terminals | 1234.1 Jana Nováková | is forgotten by terminal 1 (Sklad) |  -> \n"
+                "terminals | 1234.1 Jana Nováková | is forgotten by terminal 3 (Sklad) |  -> "));
 }
 
 void TestPreviewWords::whatThePluginWarnsOf()
