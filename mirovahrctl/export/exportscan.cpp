@@ -117,6 +117,7 @@ bool ExportScan::checkLines(const LineListener &listener)
         checked = reader.lineNumber();
         CheckedLine line = m_lineCheck.check(reader);
         checkRepetition(line);
+        line.identify();
         report(line, listener);
         reportProgress(m_size + m_file.pos());
     }

@@ -1,6 +1,7 @@
 #include "mirovahrctl/export/linecheck.h"
 
 #include "mirovahrctl/export/fieldrules.h"
+#include "mirovahrctl/export/likelyperson.h"
 #include "mirovahrctl/export/personname.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/wording.h"
@@ -10,6 +11,9 @@
 #include <algorithm>
 
 namespace {
+
+/// A usual line is shorter.
+constexpr int kMostShown = 300;
 
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 constexpr char kReplacementCharacter[] = "\xEF\xBF\xBD";
@@ -96,6 +100,19 @@ bool CheckedLine::isRejected() const
 bool CheckedLine::hasWarnings() const
 {
     return hasFindings(findings, Severity::Warning);
+}
+
+void CheckedLine::identify()
+{
+    const QString text = QString::fromUtf8(raw).trimmed();
+    const QString likely = isDropped() ? LikelyPerson::of(text) : QString();
+    const QString shown = text.size() > kMostShown ? text.left(kMostShown) + QChar(0x2026) : text;
+    for (Finding &finding : findings) {
+        if (finding.severity == Severity::Note)
+            continue;
+        finding.likely = likely;
+        finding.lineText = shown;
+    }
 }
 
 Finding &CheckedLine::add(const Rule &rule, const QString &message, const QString &advice)

@@ -32,6 +32,10 @@ struct CheckedLine {
     /// True when the line has a warning: a value is misread, or hardly intended.
     bool hasWarnings() const;
 
+    /// Notes in the findings that are no mere notes what the line is and, when it is dropped, whom
+    /// it is most likely about: the file may be gone when they are read.
+    void identify();
+
     /// Adds a finding about this line.
     Finding &add(const Rule &rule, const QString &message, const QString &advice = QString());
 };

@@ -31,8 +31,12 @@ void RejectsWriter::add(const CheckedLine &line)
             continue;
         const QString field =
             finding.field.isEmpty() ? QString() : finding.field + QLatin1String(": ");
-        comment(QStringLiteral("Line %1: %2%3 %4")
-                    .arg(QString::number(line.number), field, finding.message, finding.advice));
+        const QString likely = finding.likely.isEmpty()
+            ? QString()
+            : QStringLiteral(" (%1)").arg(findingPerson(finding));
+        comment(
+            QStringLiteral("Line %1%2: %3%4 %5")
+                .arg(QString::number(line.number), likely, field, finding.message, finding.advice));
     }
     if (!line.raw.isEmpty())
         m_device.write(line.raw + '\n');

@@ -17,10 +17,9 @@ constexpr char kDescription[] =
     "Shows what a forced synchronisation with an export would change in the attendance\n"
     "database, by doing it: copies the rows and routines that the plugin reaches into a\n"
     "private database server, lets the plugin's own code synchronise the copy, and reports\n"
-    "what happens to each person. Only reads the site's database, keeps the export, and removes "
-    "the\n"
-    "copy afterwards. Needs MariaDB's server programs on this machine, and twice the room of\n"
-    "these rows in the folder for temporary files.";
+    "what happens to each person. Only reads the site's database, keeps the export, and\n"
+    "removes the copy afterwards. Needs MariaDB's server programs on this machine, and twice\n"
+    "the room of these rows in the folder for temporary files.";
 
 constexpr char kWhereTheRestIs[] = "--details shows everything, --html a page, --person one person";
 

@@ -11,3 +11,9 @@ Finding makeFinding(const Rule &rule, const QString &message, const QString &adv
     finding.advice = advice.isNull() ? QString::fromUtf8(rule.advice) : advice;
     return finding;
 }
+
+QString findingPerson(const Finding &finding)
+{
+    return finding.likely.isEmpty() ? finding.subject
+                                    : QStringLiteral("most likely ") + finding.likely;
+}

@@ -42,6 +42,7 @@ td:last-child, .findings td:nth-child(2) { overflow-wrap: anywhere; }
 .warning { color: #8a5300; font-weight: 600; }
 .note { color: #50596a; }
 .advice { color: #33415c; }
+.line { font: .85rem/1.4 "DejaVu Sans Mono", monospace; background: #f6f8fa; padding: .2rem .4rem; }
 article { display: grid; grid-template-columns: 17rem 1fr; gap: 0 1rem; padding: .35rem .5rem;
           border-bottom: 1px solid #d5dbe3; }
 .lead { background: #eef1f5; }
@@ -91,6 +92,14 @@ QString messageOf(const Finding &finding)
     if (!finding.advice.isEmpty())
         text += QStringLiteral("<p class=\"advice\">%1</p>").arg(html(finding.advice));
     return text;
+}
+
+/// The line itself, unless it was shown with another finding.
+QString lineOf(const Finding &finding, qint64 shown)
+{
+    if (finding.lineText.isEmpty() || finding.line == shown)
+        return QString();
+    return QStringLiteral("<p class=\"line\">%1</p>").arg(html(finding.lineText));
 }
 
 QString severityOf(const Finding &finding)
@@ -187,10 +196,13 @@ void HtmlReport::finding(const Finding &finding)
     beginFindings();
     m_sections += QStringLiteral("<tr>%1%2%3%4%5</tr>\n")
                       .arg(cell(QStringLiteral("Line"), placeOf(finding)),
-                           cell(QStringLiteral("Who"), html(finding.subject)),
+                           cell(QStringLiteral("Who"), html(findingPerson(finding))),
                            cell(QStringLiteral("Field"), html(finding.field)),
                            cell(QStringLiteral("Result"), severityOf(finding)),
-                           cell(QStringLiteral("What is wrong"), messageOf(finding)));
+                           cell(QStringLiteral("What is wrong"),
+                                messageOf(finding) + lineOf(finding, m_shownLine)));
+    if (!finding.lineText.isEmpty())
+        m_shownLine = finding.line;
 }
 
 void HtmlReport::fact(const QString &, const QString &label, const QVariant &value)

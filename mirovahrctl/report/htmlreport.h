@@ -46,6 +46,7 @@ private:
     QString m_opening; ///< of the current section, until there is content
     bool m_inSection = false; ///< a section is open
     bool m_inFindings = false;
+    qint64 m_shownLine = 0; ///< the line of the checked file that was shown last
     int m_findingCount = 0; ///< in the whole report
     qint64 m_leftOut = 0; ///< findings of the current section that are not shown
 };

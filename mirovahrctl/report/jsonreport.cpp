@@ -33,6 +33,8 @@ QJsonObject findingObject(const Finding &finding)
     insertText(object, "advice", finding.advice);
     insertText(object, "field", finding.field);
     insertText(object, "subject", finding.subject);
+    insertText(object, "likely", finding.likely);
+    insertText(object, "lineText", finding.lineText);
     if (finding.line > 0)
         object.insert(QStringLiteral("line"), finding.line);
     if (finding.forHr)

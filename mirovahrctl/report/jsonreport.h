@@ -11,7 +11,7 @@ class QIODevice;
 ///
 ///     {"mirovahrctl": version, "subcommand": ..., "title": ...,
 ///      "findings": [{"severity", "rule", "message", "advice", "line", "field", "subject",
-///                    "forHr", "dropped"}, ...],
+///                    "likely", "lineText", "forHr", "dropped"}, ...],
 ///      "sections": [{"id", "heading", "sentences": [...], "tables": {id: [{column: cell}, ...]}}],
 ///      "facts": {id: value}, "status": number, "result": word, "verdict": sentence}
 ///

@@ -25,8 +25,9 @@ QString findingHead(const Finding &finding)
     if (!finding.field.isEmpty())
         place << Wording::visible(finding.field);
     QString head = place.join(QStringLiteral(", "));
-    if (!finding.subject.isEmpty())
-        head += QStringLiteral(" (%1)").arg(Wording::visible(finding.subject));
+    const QString who = findingPerson(finding);
+    if (!who.isEmpty())
+        head += QStringLiteral(" (%1)").arg(Wording::visible(who));
     if (!head.isEmpty())
         head = head.trimmed() + QStringLiteral(": ");
     return head + severityWord(finding.severity) + QStringLiteral(": ");
@@ -128,6 +129,12 @@ void TextReport::finding(const Finding &finding)
         const QString indent(kIndent, QLatin1Char(' '));
         paragraph(indent + (finding.forHr ? QStringLiteral("Tell HR: ") : QString())
                       + Wording::visible(finding.advice),
+                  kIndent);
+    }
+    if (!finding.lineText.isEmpty() && finding.line != m_shownLine) {
+        m_shownLine = finding.line;
+        paragraph(QString(kIndent, QLatin1Char(' ')) + QStringLiteral("The line: ")
+                      + Wording::visible(finding.lineText),
                   kIndent);
     }
 }

@@ -45,6 +45,7 @@ private:
     // Of the current section
     int m_findings = 0; ///< that are shown
     int m_cardLines = 0; ///< of the cards that are shown
+    qint64 m_shownLine = 0; ///< the line of the checked file whose text was shown last
     QStringList m_facts; ///< of an abbreviated text
     int m_leftOut = 0; ///< findings or cards that are not
 };

@@ -15,6 +15,12 @@ QByteArray line(QString ExportRow::*field, const QString &value)
     return ExportRow().with(field, value).text().toUtf8() + '\n';
 }
 
+QByteArray line(QString ExportRow::*field, const QString &value, QString ExportRow::*other,
+                const QString &otherValue)
+{
+    return ExportRow().with(field, value).with(other, otherValue).text().toUtf8() + '\n';
+}
+
 QByteArray good()
 {
     return ExportRow().text().toUtf8() + '\n';
@@ -48,6 +54,9 @@ private Q_SLOTS:
     void notesAloneAreFine();
     void factsCountTheLines();
     void aFindingSaysWhoAndWhere();
+    void aDroppedLineSaysWhomItIsMostLikelyAbout_data();
+    void aDroppedLineSaysWhomItIsMostLikelyAbout();
+    void theLineItselfIsShown();
     void theTextReportIsComplete();
     void theAdviceFitsTheMistake_data();
     void theAdviceFitsTheMistake();
@@ -359,6 +368,64 @@ void TestCheckFile::aFindingSaysWhoAndWhere()
     QVERIFY(!finding.contains("dropped"));
 }
 
+void TestCheckFile::aDroppedLineSaysWhomItIsMostLikelyAbout_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("likely");
+    const QByteArray whole = good().chopped(1);
+    QTest::newRow("a field too few at the end")
+        << whole.left(whole.lastIndexOf('|')) << "1234.1 Jana Nováková";
+    QTest::newRow("a field too many at the end") << whole + "|"
+                                                 << "1234.1 Jana Nováková";
+    QTest::newRow("the title is missing")
+        << QByteArray("1246|1|Eva|Malá||0905|2026-11-01 00:00:00.000|") << "1246.1 Eva Malá";
+    QTest::newRow("a field too many before the names")
+        << QByteArray("1246|1||Ing.|Eva|Malá||0905|2026-11-01 00:00:00.000|") << "1246.1 Eva Malá";
+    QTest::newRow("cut in the middle") << QByteArray("1246|1|Ing.|Eva|Mal") << "1246.1 Eva Mal";
+    QTest::newRow("another separator")
+        << QByteArray("1246;1;;Eva;O'Malá-Nová;;;2026-11-01") << "1246.1 Eva O'Malá-Nová";
+    QTest::newRow("no personal number") << line(&ExportRow::osobniCislo, "abc") << "Jana Nováková";
+    QTest::newRow("no relationship")
+        << line(&ExportRow::poradoveCisloPP, "x") << "Jana Nováková, personal number 1234";
+    QTest::newRow("numbers only") << QByteArray("1246|1") << "1246.1";
+    QTest::newRow("a personal number only") << QByteArray("1246|") << "personal number 1246";
+    QTest::newRow("nothing to be believed") << QByteArray("x1|0|a|b7|c.|") << "";
+    QTest::newRow("a header") << QByteArray("OsobniCislo|PoradoveCisloPP|Titul|Jmeno|Prijmeni")
+                              << "";
+    QTest::newRow("a line that is too long") << QByteArray(70000, 'x') << "";
+}
+
+void TestCheckFile::aDroppedLineSaysWhomItIsMostLikelyAbout()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, likely);
+    const QJsonArray findings = check(good() + content + '\n').findings();
+    QVERIFY(!findings.isEmpty());
+    QCOMPARE(findings.first()["dropped"].toBool(), true);
+    QCOMPARE(findings.first()["likely"].toString(), likely);
+}
+
+void TestCheckFile::theLineItselfIsShown()
+{
+    const QByteArray broken = "1246|1||Eva|Mal\x1b[31m\xC3\xA1|" + QByteArray(400, 'x');
+    const QByteArray misread = line(&ExportRow::dovolenaZustatek, "12,5");
+    const ToolRun json = check(broken + "\n" + misread);
+    QCOMPARE(json.findingsOf("field-count").value(0)["lineText"].toString(),
+             QString::fromUtf8(broken).left(300) + "…");
+    const QJsonObject warning = json.findingsOf("bad-number").value(0);
+    QCOMPARE(warning["lineText"].toString(), QString::fromUtf8(misread).trimmed());
+    QVERIFY(!warning.contains("likely"));
+
+    const QString text =
+        check(line(&ExportRow::dovolenaZustatek, "x", &ExportRow::datumVystupu, "y") + broken
+                  + "\n",
+              {})
+            .out;
+    QCOMPARE(text.count("    The line: 1234|1|"), 1); // of two findings
+    QVERIFY2(text.contains("line 2 (most likely 1246.1 Eva): error: "), qPrintable(text));
+    QVERIFY2(text.contains("The line: 1246|1||Eva|Mal\\x1b[31má|xxx"), qPrintable(text));
+}
+
 void TestCheckFile::theTextReportIsComplete()
 {
     const ToolRun run = check(line(&ExportRow::datumVystupu, "31.3.2021").chopped(1), {});
@@ -370,6 +437,7 @@ void TestCheckFile::theTextReportIsComplete()
                 "\"31.3.2021\" as a "
                 "date: the person counts as not leaving. [bad-date]\n"
                 "    Tell HR: Write dates as in 2021-03-31 00:00:00.000.\n"
+                "    The line: %1\n"
                 "warning: The last line does not end with a line feed. The plugin reads it, but "
                 "the file may be truncated. [no-final-line-feed]\n"
                 "    Tell HR: Check whether the export is complete.\n"
@@ -380,7 +448,8 @@ void TestCheckFile::theTextReportIsComplete()
                 "no-final-line-feed  1\n"
                 "Lines: 1\nRead as people: 1\nDropped by the plugin: 0\n"
                 "Lines with errors: 0\n"
-                "\nEverybody in the export arrives, but there are findings.\n"));
+                "\nEverybody in the export arrives, but there are findings.\n")
+            .arg(QString::fromUtf8(line(&ExportRow::datumVystupu, "31.3.2021").trimmed())));
 }
 
 void TestCheckFile::theAdviceFitsTheMistake_data()
@@ -491,10 +560,12 @@ void TestCheckFile::theRejectsHoldTheLinesUnchanged()
         lines.mid(2),
         QList<QByteArray>({
             "",
-            "# Line 1: Some bytes are not UTF-8; each is read as the character \uFFFD. Save the "
+            "# Line 1 (most likely personal number 1): Some bytes are not UTF-8; each is read as "
+            "the character \uFFFD. Save the "
             "export "
             "as UTF-8.",
-            "# Line 1: The line has 3 fields instead of 18. Write empty fields too, each with "
+            "# Line 1 (most likely personal number 1): The line has 3 fields instead of 18. Write "
+            "empty fields too, each with "
             "its |.",
             broken.chopped(1),
             "",
