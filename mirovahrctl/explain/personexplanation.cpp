@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/export/personname.h"
+#include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/wording.h"
@@ -13,6 +14,12 @@ namespace {
 QString lineCount(qint64 count)
 {
     return Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"));
+}
+
+bool isSerious(const QVector<Finding> &findings)
+{
+    return std::any_of(findings.cbegin(), findings.cend(),
+                       [](const Finding &finding) { return finding.severity != Severity::Note; });
 }
 
 /// The verdict for each outcome of the person.
@@ -77,7 +84,8 @@ PersonExplanation::PersonExplanation(const PersonId &person, const ExplainedSour
                                      PluginView &view, Report &report)
     : m_person(person)
     , m_source(source)
-    , m_context{source.configuration.values(), view, report, source.texts.server,
+    , m_report(report)
+    , m_context{source.configuration.values(), view, m_details, source.texts.server,
                 PersonState(view, person.pid(), source.isForced)}
 {
 }
@@ -103,12 +111,14 @@ QString PersonExplanation::explain(const PersonLines *lines)
         explainRecords(lines->lines());
     explainMemory();
     writeFacts();
+    writeAnswer();
+    m_details.replay(m_report);
     return verdict();
 }
 
 void PersonExplanation::explainConfiguration()
 {
-    Report &report = m_context.report;
+    ReportWriter &report = m_context.report;
     const Configuration &configuration = m_context.configuration;
     report.section(QStringLiteral("configuration"), QStringLiteral("Configuration"));
     report.sentence(m_source.configuration.origin());
@@ -145,7 +155,7 @@ void PersonExplanation::explainAbsentExport()
 
 void PersonExplanation::explainGate()
 {
-    Report &report = m_context.report;
+    ReportWriter &report = m_context.report;
     const SiteExport &file = m_source.file;
     const auto &status = file.gateStatus();
     const auto admitted = status ? status->admittedTime() : std::nullopt;
@@ -224,7 +234,7 @@ void PersonExplanation::explainOthers(const PersonLines &lines)
 
 void PersonExplanation::explainLine(const CheckedLine &line)
 {
-    Report &report = m_context.report;
+    ReportWriter &report = m_context.report;
     report.sentence(line.record
                         ? QStringLiteral("Line %1 of %2 is about %3, pid %4.")
                               .arg(QString::number(line.number), m_source.file.path(),
@@ -283,7 +293,7 @@ RecordOutcome PersonExplanation::outcomeOfAll()
 
 void PersonExplanation::explainMemory()
 {
-    Report &report = m_context.report;
+    ReportWriter &report = m_context.report;
     report.section(QStringLiteral("memory"), QStringLiteral("What only the running plugin knows"));
     report.sentence(
         QStringLiteral("This is what a plugin does with its first export after it was started. "
@@ -300,7 +310,7 @@ void PersonExplanation::explainMemory()
 
 void PersonExplanation::writeFacts()
 {
-    Report &report = m_context.report;
+    ReportWriter &report = m_context.report;
     report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
     if (m_outcomes.size() > 1) {
         Table table = lineTable();
@@ -325,7 +335,7 @@ void PersonExplanation::writeFacts()
 
 void PersonExplanation::writeRecalculation()
 {
-    Report &report = m_context.report;
+    ReportWriter &report = m_context.report;
     const QStringList &causes = m_outcome->recalculation.causes;
     report.fact(QStringLiteral("recalculation"), QStringLiteral("Recalculation from"),
                 m_outcome->recalculation.text());
@@ -359,7 +369,7 @@ QString PersonExplanation::verdict() const
         if (m_outcome->person == QLatin1String(candidate.person))
             sentence = QString::fromLatin1(candidate.sentence).arg(name);
     }
-    if (m_context.report.findingsStatus() == ExitStatus::Findings)
+    if (isSerious(m_details.findings()))
         sentence += QStringLiteral(" There are findings.");
     return sentence;
 }

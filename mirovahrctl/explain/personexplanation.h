@@ -5,8 +5,11 @@
 #include "mirovahrctl/explain/recordexplanation.h"
 #include "mirovahrctl/gatestate/siteexport.h"
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
+#include "mirovahrctl/report/recordedreport.h"
 
 #include <QString>
+
+class Report;
 
 /// What a person's explanation is based on, besides the database.
 struct ExplainedSource {
@@ -16,7 +19,8 @@ struct ExplainedSource {
     bool isForced = false; ///< the next synchronisation is a forced one
 };
 
-/// Why a person did not arrive, or not as expected: the whole report but its frame.
+/// Why a person did not arrive, or not as expected: the whole report but its frame. It begins with
+/// the answer, although that depends on everything after it.
 class PersonExplanation {
 public:
     /// \a source must live longer than this object.
@@ -45,11 +49,18 @@ private:
     RecordOutcome outcomeOfAll();
     void writeFacts();
     void writeRecalculation();
+    /// Did the person arrive, what is different from HR, who must do what.
+    void writeAnswer();
+    QString arrival() const;
+    QString differences() const;
+    QStringList duties() const;
     QString verdict() const;
     QString verdictWithoutRecord() const;
 
     const PersonId m_person;
     const ExplainedSource &m_source;
+    Report &m_report;
+    RecordedReport m_details; ///< everything but the answer
     ExplainContext m_context;
     bool m_hasExport = false;
     bool m_isFound = false; ///< in the export, dropped or not

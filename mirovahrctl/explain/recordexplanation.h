@@ -4,14 +4,14 @@
 #include "mirovahrctl/explain/recordoutcome.h"
 #include "mirovahrctl/export/linecheck.h"
 #include "mirovahrctl/pluginside/pluginview.h"
-#include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/recordedreport.h"
 #include "plugin/configuration.h"
 
 /// What the steps of one person's explanation share.
 struct ExplainContext {
     const Configuration &configuration;
     PluginView &view;
-    Report &report;
+    RecordedReport &report;
     Backslash backslash; ///< what it is to the server
     PersonState person;
 };

@@ -65,6 +65,17 @@ QStringList firstColumn(const QVector<QStringList> &rows)
     return values;
 }
 
+/// "Surname (HR: Malá, here: Nováková)".
+QString differenceText(const RowField &field)
+{
+    const auto shown = [](const QVariant &value) {
+        const QString text = Wording::plain(value);
+        return text.isEmpty() ? QStringLiteral("none") : text;
+    };
+    return QStringLiteral("%1 (HR: %2, here: %3)")
+        .arg(field.name, shown(field.exported), shown(field.held));
+}
+
 } // namespace
 
 void RecordExplanation::explainRow()
@@ -166,6 +177,10 @@ void RecordExplanation::explainComparison(const MirovaRonRecord &updated)
                 .arg(rewritten.join(QStringLiteral(", "))));
     }
     m_context.report.table(fieldTable(fields));
+    for (const RowField &field : fields) {
+        if (field.differs && !field.differsInWriting())
+            m_outcome.differences += differenceText(field);
+    }
 }
 
 void RecordExplanation::explainWriting(const MirovaRonRecord &updated)

@@ -60,6 +60,10 @@ void addTo(RecordOutcome &sum, const RecordOutcome &outcome)
             sum.recalculation.add(*outcome.recalculation.from, cause);
     }
     sum.recalculation.isUncertain |= outcome.recalculation.isUncertain;
+    for (const QString &difference : outcome.differences) {
+        if (!sum.differences.contains(difference))
+            sum.differences += difference;
+    }
     sum.waits = sum.waits || outcome.waits;
 }
 

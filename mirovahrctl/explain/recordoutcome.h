@@ -30,6 +30,7 @@ struct RecordOutcome {
     QString branch; ///< joins, member, unknown, none, uncertain
     QString calendar; ///< planned, kept, unknown, none, uncertain
     Recalculation recalculation;
+    QStringList differences; ///< fields of the row, such as "Surname (HR: Malá, here: Nováková)"
     bool waits = false; ///< the record waits for its branch or calendar afterwards
 
     /// The outcome when nothing happens.

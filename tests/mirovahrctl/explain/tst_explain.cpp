@@ -51,6 +51,8 @@ private Q_SLOTS:
 
     void aPersonWhoArrivesIsFine();
     void theTextForPeopleIsPlain();
+    void theAnswerComesFirst_data();
+    void theAnswerComesFirst();
     void theSectionsComeInTheOrderOfTheDecisions_data();
     void theSectionsComeInTheOrderOfTheDecisions();
 
@@ -235,6 +237,11 @@ void TestExplain::theTextForPeopleIsPlain()
     COMPARE_EXIT(run, ExitStatus::Findings);
     const QString file = m_site.exportFile().path();
     QVERIFY2(run.out.startsWith("What happens to 3301.1\n======================\n\n"
+                                "A synchronisation creates 3301.1. There are findings.\n\n"
+                                "In short\n--------\n"
+                                "3301.1 has not arrived in the attendance database.\n"
+                                "Administrator: Give the branch this number, or ask HR to correct "
+                                "the cost centre.\n\n"
                                 "Configuration\n-------------\n"
                                 "The configuration is that of "
                                 + m_site.configurationPath()
@@ -261,9 +268,68 @@ void TestExplain::theTextForPeopleIsPlain()
                               "Payroll settings: set\nVacation balance: none\nSupervisor: none\n"
                               "Branch: unknown\nCalendar group: none\nRecalculation from: none\n"
                               "Recalculation because of: none\nDays of attendance to mark: 0\n"
-                              "Last calculation is set: kept\nWaits afterwards: yes\n\n"
-                              "A synchronisation creates 3301.1. There are findings.\n"),
+                              "Last calculation is set: kept\nWaits afterwards: yes\n"),
              run.report().constData());
+}
+
+void TestExplain::theAnswerComesFirst_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("person");
+    QTest::addColumn<QString>("arrival");
+    QTest::addColumn<QString>("difference");
+    QTest::addColumn<QString>("duty");
+    const QString arrived =
+        "1234.1 has arrived: the attendance database has the person as Jana Nováková, active.";
+    const QString none = "Nobody has to do anything";
+    using SampleExport::jana;
+    QTest::newRow("as HR says") << jana().text() << "1234.1" << arrived
+                                << "Nothing was found that is different from HR's line." << none;
+    QTest::newRow("another surname and supervisor")
+        << jana()
+               .with(&ExportRow::prijmeni, "Malá")
+               .with(&ExportRow::nadrizenyOsobniCislo, 1002)
+               .text()
+        << "1234.1" << arrived
+        << "Different from HR's line: Surname (HR: Malá, here: Nováková); who receives the "
+           "requests."
+        << none;
+    QTest::newRow("an unknown branch")
+        << jana().with(&ExportRow::stredisko, 999).text() << "1234.1" << arrived << "the branch"
+        << "Administrator: Give the branch this number";
+    QTest::newRow("a field that HR must mend") << QString(jana().text()).replace("17.5", "17,5")
+                                               << "1234.1" << arrived << "the vacation balance"
+                                               << "HR: Write the balance with a decimal point";
+    QTest::newRow("a broken line")
+        << jana().text() + "|"
+        << "1234.1" << arrived << "HR's line is broken, so nothing of it is compared."
+        << "HR: There must be no | after the last field.";
+    QTest::newRow("new") << SampleExport::newcomer(3301).text() << "3301.1"
+                         << "3301.1 has not arrived in the attendance database." << none << none;
+    QTest::newRow("not in the export") << SampleExport::maria().text() << "1234.1" << arrived
+                                       << "HR's export has no line of the person."
+                                       << "";
+    QTest::newRow("not active")
+        << SampleExport::newcomer(1237).text() << "1237.1"
+        << "1237.1 is in the attendance database as Štefan Žiak, but not active."
+        << ""
+        << "";
+}
+
+void TestExplain::theAnswerComesFirst()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, person);
+    QFETCH(QString, arrival);
+    QFETCH(QString, difference);
+    QFETCH(QString, duty);
+    m_site.exportFile().write(QStringList{line});
+    const ToolRun run = m_site.explain(person);
+    QCOMPARE(ExplainedSite::sections(run).value(0), QString("answer"));
+    const QStringList answer = ExplainedSite::sentences(run, "answer");
+    QCOMPARE(answer.value(0), arrival);
+    QVERIFY2(answer.value(1).contains(difference), run.report().constData());
+    QVERIFY2(answer.last().contains(duty), run.report().constData());
 }
 
 void TestExplain::theSectionsComeInTheOrderOfTheDecisions_data()
@@ -271,7 +337,7 @@ void TestExplain::theSectionsComeInTheOrderOfTheDecisions_data()
     QTest::addColumn<ExportRow>("line");
     QTest::addColumn<QByteArray>("configuration");
     QTest::addColumn<QStringList>("sections");
-    const QStringList before{"configuration", "export", "database"};
+    const QStringList before{"answer", "configuration", "export", "database"};
     const QStringList after{"memory", "summary"};
     const auto add = [&](const char *name, const ExportRow &line, const QStringList &steps,
                          const QByteArray &configuration = {}) {
@@ -833,7 +899,7 @@ void TestExplain::severalLinesAreExplainedOneByOne()
                           "Line 3 of " + file + " is about 1234.1 Jana Nováková, pid 12341.",
                           "Line 5 of " + file + " is about 123.41 Jana Nováková, pid 12341."}));
     QCOMPARE(run.rules(), QStringList({"duplicate-relationship", "field-count", "pid-clash"}));
-    QCOMPARE(ExplainedSite::sections(run).mid(3),
+    QCOMPARE(ExplainedSite::sections(run).mid(4),
              QStringList({"state-line1", "row-line1", "balance-line1", "supervisor-line1",
                           "place-line1", "recalculation-line1", "repetition-line3", "state-line5",
                           "row-line5", "balance-line5", "supervisor-line5", "place-line5",

@@ -60,7 +60,7 @@ void TestExplainPage::theBrowserUnderstandsThePage()
              qPrintable(dom));
     QVERIFY(dom.contains("<h1>What happens to 1234.1</h1>"));
     for (const char *heading :
-         {"Configuration", "Export", "Database", "Does the person work?",
+         {"In short", "Configuration", "Export", "Database", "Does the person work?",
           "Is the person created or updated?", "Is the vacation balance corrected?",
           "Who receives the person's requests?", "Which branch and calendar?",
           "Is attendance calculated again?", "What only the running plugin knows"})
