@@ -12,7 +12,7 @@
 /// The people of two exports side by side. A person is an employment relationship: personal number
 /// and relationship number. Of several lines about one person the last counts, as for the plugin.
 ///
-/// Needs some 150 bytes for each person: texts that occur more than once are kept once, and so is a
+/// Needs some 250 bytes for each person: texts that occur more than once are kept once, and so is a
 /// line that is the same in both exports.
 class ComparedPeople {
 public:
