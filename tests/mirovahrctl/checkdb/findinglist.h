@@ -9,11 +9,15 @@
 class FindingList : public ReportWriter {
 public:
     void begin(const QString &, const QString &) override { }
+    void answer(const QString &) override { }
     void section(const QString &, const QString &) override { }
     void sentence(const QString &) override { }
     void table(const Table &) override { }
+    void card(const Card &) override { }
+    void data(const Table &) override { }
     void finding(const Finding &finding) override { findings += finding; }
     void fact(const QString &, const QString &, const QVariant &) override { }
+    void datum(const QString &, const QVariant &) override { }
     void end(ExitStatus, const QString &) override { }
 
     QString messages() const
