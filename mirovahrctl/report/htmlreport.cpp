@@ -207,8 +207,10 @@ void HtmlReport::finding(const Finding &finding)
 
 void HtmlReport::fact(const QString &, const QString &label, const QVariant &value)
 {
-    m_facts += QStringLiteral("<div><dt>%1:</dt><dd>%2</dd></div>\n")
-                   .arg(html(label), html(Wording::plain(value)));
+    const bool isInSection = m_inSection || !m_opening.isEmpty();
+    QString &facts = m_isAnswered && isInSection ? m_sectionFacts : m_facts;
+    facts += QStringLiteral("<div><dt>%1:</dt><dd>%2</dd></div>\n")
+                 .arg(html(label), html(Wording::plain(value)));
 }
 
 void HtmlReport::end(ExitStatus status, const QString &verdict)
@@ -239,6 +241,11 @@ void HtmlReport::endSection()
 {
     endFindings();
     writeLeftOut();
+    if (!m_sectionFacts.isEmpty()) {
+        beginContent();
+        m_sections += QStringLiteral("<dl>\n%1</dl>\n").arg(m_sectionFacts);
+    }
+    m_sectionFacts.clear();
     if (m_inSection)
         m_sections += QStringLiteral("</section>\n");
     m_inSection = false;

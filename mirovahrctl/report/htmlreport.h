@@ -9,9 +9,10 @@ class QIODevice;
 /// A report as one self-contained web page: no network, no script, readable on a phone and in
 /// print. For somebody without a terminal.
 ///
-/// The verdict and the facts are at the top. The details of a card are closed until the reader
-/// opens them. The page is kept in memory and written by end(), so it shows only the first
-/// findings, and how many more there are.
+/// The verdict and the facts are at the top; in a report that begins with its answer, the facts of
+/// a section stay in it. The details of a card are closed until the reader opens them. The page is
+/// kept in memory and written by end(), so it shows only the first findings, and how many more
+/// there are.
 class HtmlReport : public ReportWriter {
 public:
     /// So many findings are shown.
@@ -20,7 +21,7 @@ public:
     explicit HtmlReport(QIODevice &out);
 
     void begin(const QString &subcommand, const QString &title) override;
-    void answer(const QString &) override { } // end() puts the verdict first
+    void answer(const QString &) override { m_isAnswered = true; } // end() puts the verdict first
     void section(const QString &id, const QString &heading) override;
     void sentence(const QString &text) override;
     void table(const Table &table) override;
@@ -41,7 +42,9 @@ private:
 
     QIODevice &m_out;
     QString m_title;
-    QString m_facts;
+    QString m_facts; ///< at the top
+    QString m_sectionFacts; ///< of the current section
+    bool m_isAnswered = false;
     QString m_sections;
     QString m_opening; ///< of the current section, until there is content
     bool m_inSection = false; ///< a section is open

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void thePageShowsTheFirstFindingsOnly();
     void aSectionWithoutContentHasNoHeading();
     void aVerdictThatComesFirstIsNotRepeated();
+    void anAnswerStandsAboveTheFactsOfASection();
     void aCardIsASentenceInTextAndAListOnThePage();
     void anAbbreviatedTextSaysHowMuchMoreThereIs();
     void whatIsForScriptsIsInTheJsonFormOnly();
@@ -369,6 +370,24 @@ void TestReports::aVerdictThatComesFirstIsNotRepeated()
         },
         100));
     QCOMPARE(text, QString("A <title>\n=========\n\nDone & dusted.\n\nOne\n---\nWhy.\n"));
+}
+
+void TestReports::anAnswerStandsAboveTheFactsOfASection()
+{
+    const QString page = QString::fromUtf8(written<HtmlReport>([](ReportWriter &report) {
+        report.answer("Done & dusted.");
+        report.fact("total", "Total", 7);
+        report.section("one", "One");
+        report.sentence("Why.");
+        report.section("two", "Two");
+        report.fact("lines", "Lines", 3);
+        report.fact("people", "People", 4);
+    }));
+    QVERIFY2(page.contains("<dl>\n<div><dt>Total:</dt><dd>7</dd></div>\n</dl>\n</header>"),
+             qPrintable(page));
+    QVERIFY2(page.contains("<h2>Two</h2>\n<dl>\n<div><dt>Lines:</dt><dd>3</dd></div>\n<div><dt>"
+                           "People:</dt><dd>4</dd></div>\n</dl>\n</section>"),
+             qPrintable(page));
 }
 
 void TestReports::aCardIsASentenceInTextAndAListOnThePage()
