@@ -6,6 +6,7 @@
 #include "tests/worker/faults/runs.h"
 #include "tests/worker/faults/servingworker.h"
 
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QtTest>
 
@@ -18,12 +19,9 @@ using Way = Disturbance::Way;
 
 constexpr int kDeadlock = 1213;
 
-Disturbance of(Way way)
-{
-    Disturbance disturbance;
-    disturbance.way = way;
-    return disturbance;
-}
+// Of a person who changes, by the plugin and by somebody else.
+const QString kUpdate = QStringLiteral("UPDATE people SET pamId=");
+const QString kWriterOfPerson = QStringLiteral("UPDATE people SET phone = 'other' WHERE uid = 1");
 
 } // namespace
 
@@ -35,26 +33,46 @@ private Q_SLOTS:
     void initTestCase();
     void init();
 
+    void aWriterOnAnotherNodeMakesTheCommitFailWithoutALineInTheLog_data();
+    void aWriterOnAnotherNodeMakesTheCommitFailWithoutALineInTheLog();
+    void aStatementThatLosesAgainstAnotherNodeIsRepeatedByTheServer_data();
+    void aStatementThatLosesAgainstAnotherNodeIsRepeatedByTheServer();
+    void preparedStatementsAndCallsThatLoseAreNotRepeated_data();
+    void preparedStatementsAndCallsThatLoseAreNotRepeated();
+    void withoutRetriesAStatementThatLosesFails_data();
+    void withoutRetriesAStatementThatLosesFails();
     void aNodeThatIsKilledIsSurvived_data();
     void aNodeThatIsKilledIsSurvived();
 
 private:
+    /// What the test does in a disturbed run.
+    struct Steps {
+        std::function<void()> whileHeld = [] {
+        }; ///< before the node gets the command
+        std::function<void()> meanwhile = [] {
+        }; ///< while the node carries it out
+        std::function<void()> afterwards = [] {
+        }; ///< when the command is over
+        std::function<void()> beforeTheRepetition = [] {
+        }; ///< when the synchronisation is over
+    };
+    /// What came of it.
     struct Run {
         Commands commands; ///< until the repetition
         QStringList problems; ///< until the repetition
         QStringList differences; ///< from the undisturbed state, after the repetition
     };
 
+    void addGates();
     void learnCycle();
     Commands plainCommands() const;
     int numberOf(const QString &text) const;
-    Run disturb(const Disturbance &disturbance, const std::function<void()> &whileHeld,
-                const std::function<void()> &afterwards,
-                const std::function<void()> &beforeTheRepetition);
-    void passFault(const LogCapture &log, const std::function<void()> &whileHeld,
-                   const std::function<void()> &afterwards);
+    Run disturb(Way way, const Steps &steps);
+    void passFault(const LogCapture &log, const Steps &steps);
     void repeat(const LogCapture &log);
     void checkDifferences(const Run &run) const;
+    void checkLoss(const Run &run);
+    Run conflict();
 
     AttendanceCluster m_cluster;
     FaultCycle m_cycle;
@@ -67,6 +85,7 @@ void TestClusterFaults::initTestCase()
     QVERIFY2(m_cluster.start(), qPrintable(m_cluster.errorString()));
     QVERIFY2(m_cycle.startWith(m_cluster.node(3).server(), m_cluster.proxy().socketPath()),
              qPrintable(m_cycle.errorString()));
+    addGates();
     // The first run looks up the uids, which the program then knows.
     learnCycle();
     learnCycle();
@@ -75,6 +94,22 @@ void TestClusterFaults::initTestCase()
 void TestClusterFaults::init()
 {
     QVERIFY2(m_cluster.restore(), qPrintable(m_cluster.errorString()));
+}
+
+/// Lets every change of the plugin wait before it is committed, as long as somebody else has the
+/// lock "commit".
+void TestClusterFaults::addGates()
+{
+    const TableRows tables = m_cycle.db().rows("SHOW TABLES");
+    for (const QStringList &table : tables) {
+        for (const char *event : {"INSERT", "UPDATE"}) {
+            m_cycle.db().run(
+                QStringLiteral("CREATE TRIGGER gate_%1_%2 AFTER %2 ON `%1` FOR EACH ROW"
+                               " IF USER() LIKE 'yav@%' AND GET_LOCK('commit', 60)"
+                               " THEN DO RELEASE_LOCK('commit'); END IF")
+                    .arg(table.first(), event));
+        }
+    }
 }
 
 void TestClusterFaults::learnCycle()
@@ -109,22 +144,21 @@ int TestClusterFaults::numberOf(const QString &text) const
     return command == m_commands.end() ? 0 : int(command - m_commands.begin()) + 1;
 }
 
-TestClusterFaults::Run TestClusterFaults::disturb(const Disturbance &disturbance,
-                                                  const std::function<void()> &whileHeld,
-                                                  const std::function<void()> &afterwards,
-                                                  const std::function<void()> &beforeTheRepetition)
+TestClusterFaults::Run TestClusterFaults::disturb(Way way, const Steps &steps)
 {
     Run run;
     const auto go = [&] {
         QFETCH(QString, command);
         const LogCapture log;
+        Disturbance disturbance;
+        disturbance.way = way;
         QVERIFY(m_cycle.begin());
         m_cycle.proxy().disturb(numberOf(command), disturbance);
         const ServingWorker worker(m_cycle.serverConnection(), m_cycle.exportPath());
-        passFault(log, whileHeld, afterwards);
+        passFault(log, steps);
         run.commands = firstTick(plainCommands());
         run.problems = problems(log.lines());
-        beforeTheRepetition();
+        steps.beforeTheRepetition();
         repeat(log);
     };
     go();
@@ -134,8 +168,7 @@ TestClusterFaults::Run TestClusterFaults::disturb(const Disturbance &disturbance
     return run;
 }
 
-void TestClusterFaults::passFault(const LogCapture &log, const std::function<void()> &whileHeld,
-                                  const std::function<void()> &afterwards)
+void TestClusterFaults::passFault(const LogCapture &log, const Steps &steps)
 {
     MySqlProxy &proxy = m_cycle.proxy();
     const auto freeWorker = qScopeGuard([&proxy] {
@@ -143,12 +176,16 @@ void TestClusterFaults::passFault(const LogCapture &log, const std::function<voi
         proxy.resume();
     });
     QVERIFY(proxy.waitForArrival());
-    whileHeld();
+    steps.whileHeld();
     proxy.release();
+    steps.meanwhile();
     QVERIFY(proxy.waitForEnd());
-    afterwards();
+    steps.afterwards();
     proxy.resume();
+    // The flag is reset after that, and must not be set by the repetition before.
     QVERIFY(log.waitForText("END synchronization #1 "));
+    QVERIFY(waitForNextTick(log));
+    QVERIFY(waitForNextTick(log));
 }
 
 /// Forces a synchronisation of the same export and waits until it is over. It logs no problem of a
@@ -158,7 +195,7 @@ void TestClusterFaults::repeat(const LogCapture &log)
     const QString begun = "D MHRWorker::doSync() - stack count: 4";
     const int before = log.count(begun);
     m_cycle.repeat();
-    QVERIFY(log.waitForCount(begun, before + 1));
+    QVERIFY2(log.waitForCount(begun, before + 1), qPrintable(problems(log.lines()).join('\n')));
     const QStringList lines = log.lines();
     const QStringList begins = lines.mid(0, lines.lastIndexOf(begun));
     const int number = lastNumber(begins, "BEGIN synchronization #");
@@ -182,6 +219,120 @@ void TestClusterFaults::checkDifferences(const Run &run) const
     }
 }
 
+void TestClusterFaults::aWriterOnAnotherNodeMakesTheCommitFailWithoutALineInTheLog_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("the supervisor's transaction") << "COMMIT";
+}
+
+void TestClusterFaults::aWriterOnAnotherNodeMakesTheCommitFailWithoutALineInTheLog()
+{
+    static const QRegularExpression key("VALUES\\((\\d+), (\\d+), 1\\)");
+    QStringList held;
+    Steps steps;
+    steps.whileHeld = [&] {
+        const Commands commands = m_cycle.proxy().commands();
+        held = key.match(commands.at(commands.size() - 2).text).capturedTexts().mid(1);
+        m_cycle.db().run("INSERT INTO admins_people (aid, uid) VALUES (" + held.join(',') + ')');
+        QVERIFY(m_cluster.node(1).waitUntilCaughtUp());
+    };
+    steps.beforeTheRepetition = [&] {
+        m_cycle.db().run("DELETE FROM admins_people WHERE (aid, uid) = (" + held.join(',') + ')');
+    };
+    const Run run = disturb(Way::Forward, steps);
+    QCOMPARE(run.commands.value(numberOf("COMMIT") - 1).error, kDeadlock);
+    QCOMPARE(run.problems.join('\n'), QString());
+    QCOMPARE(run.differences, QStringList{"admins_people - aid=2 uid=<uid> request=1"});
+    checkDifferences(run);
+    QCOMPARE(m_cluster.inequalities().join('\n'), QString());
+}
+
+/// The command of the row has changed its rows on node 1 and is not committed yet when another
+/// writer changes them on node 3 and is first.
+TestClusterFaults::Run TestClusterFaults::conflict()
+{
+    QFETCH(QString, writer);
+    ClusterNode &node = m_cluster.node(1);
+    TestDatabase pluginsNode;
+    if (!pluginsNode.attach(node.server()))
+        return {};
+    const auto isWaiting = [&pluginsNode] {
+        return !pluginsNode
+                    .rows("SELECT id FROM information_schema.processlist"
+                          " WHERE state = 'User lock'")
+                    .isEmpty();
+    };
+    Steps steps;
+    steps.whileHeld = [&] {
+        pluginsNode.run("DO GET_LOCK('commit', 0)");
+    };
+    steps.meanwhile = [&] {
+        QVERIFY(pollUntil(isWaiting));
+        const int before = node.status("wsrep_local_bf_aborts").toInt();
+        m_cycle.db().run(writer);
+        QVERIFY(pollUntil([&] { return node.status("wsrep_local_bf_aborts").toInt() > before; }));
+        pluginsNode.run("DO RELEASE_LOCK('commit')");
+    };
+    const auto freePlugin =
+        qScopeGuard([&pluginsNode] { pluginsNode.run("DO RELEASE_ALL_LOCKS()"); });
+    return disturb(Way::Forward, steps);
+}
+
+void TestClusterFaults::aStatementThatLosesAgainstAnotherNodeIsRepeatedByTheServer_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("writer");
+    QTest::newRow("a changed person") << kUpdate << kWriterOfPerson;
+}
+
+void TestClusterFaults::aStatementThatLosesAgainstAnotherNodeIsRepeatedByTheServer()
+{
+    const Run run = conflict();
+    QCOMPARE(run.problems.join('\n'), QString());
+    QCOMPARE(run.differences.join('\n'), QString());
+    QCOMPARE(m_cluster.inequalities().join('\n'), QString());
+}
+
+void TestClusterFaults::preparedStatementsAndCallsThatLoseAreNotRepeated_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("writer");
+    QTest::newRow("the payroll selection")
+        << "EXECUTE INSERT INTO vars "
+        << "UPDATE vars SET value = CONCAT(value, ',') WHERE name = 'exportPam.1.selPeople'";
+    QTest::newRow("the terminals of a changed person") << "CALL updateTermsSync"
+                                                       << "UPDATE term SET syn = syn | 64";
+}
+
+void TestClusterFaults::preparedStatementsAndCallsThatLoseAreNotRepeated()
+{
+    checkLoss(conflict());
+}
+
+void TestClusterFaults::withoutRetriesAStatementThatLosesFails_data()
+{
+    aStatementThatLosesAgainstAnotherNodeIsRepeatedByTheServer_data();
+}
+
+void TestClusterFaults::withoutRetriesAStatementThatLosesFails()
+{
+    TestDatabase pluginsNode;
+    QVERIFY(pluginsNode.attach(m_cluster.node(1).server()));
+    pluginsNode.run("SET GLOBAL wsrep_retry_autocommit = 0");
+    const auto allowRetries =
+        qScopeGuard([&pluginsNode] { pluginsNode.run("SET GLOBAL wsrep_retry_autocommit = 5"); });
+    checkLoss(conflict());
+}
+
+/// The command of the row failed as a deadlock's victim, and the log says so.
+void TestClusterFaults::checkLoss(const Run &run)
+{
+    QFETCH(QString, command);
+    QCOMPARE(run.commands.value(numberOf(command) - 1).error, kDeadlock);
+    const QString problems = run.problems.join('\n');
+    QVERIFY2(problems.contains("Deadlock found when trying to get lock"), qPrintable(problems));
+}
+
 void TestClusterFaults::aNodeThatIsKilledIsSurvived_data()
 {
     QTest::addColumn<QString>("command");
@@ -198,17 +349,15 @@ void TestClusterFaults::aNodeThatIsKilledIsSurvived_data()
 void TestClusterFaults::aNodeThatIsKilledIsSurvived()
 {
     QFETCH(bool, isCarriedOut);
-    const auto kill = [this] {
+    Steps steps;
+    (isCarriedOut ? steps.afterwards : steps.whileHeld) = [this] {
         m_cluster.node(1).kill();
     };
-    const auto nothing = [] {
-    };
-    const auto comeBack = [this] {
+    steps.beforeTheRepetition = [this] {
         ClusterNode &node = m_cluster.node(1);
         QVERIFY2(node.start(), qPrintable(node.errorString()));
     };
-    const Run run = isCarriedOut ? disturb(of(Way::CutAfter), nothing, kill, comeBack)
-                                 : disturb(of(Way::Forward), kill, nothing, comeBack);
+    const Run run = disturb(isCarriedOut ? Way::CutAfter : Way::Forward, steps);
     QVERIFY(!run.problems.isEmpty());
     checkDifferences(run);
     QCOMPARE(m_cluster.inequalities().join("\n"), QString());
