@@ -247,7 +247,8 @@ void TestDocuments::linksLeadToFiles_data()
 {
     QTest::addColumn<QString>("document");
     for (const char *document :
-         {"README.md", "docs/how-it-works.md", "docs/operations.md", "docs/security.md"})
+         {"README.md", "docs/cluster.md", "docs/how-it-works.md", "docs/operations.md",
+          "docs/security.md"})
         QTest::newRow(document) << document;
 }
 
