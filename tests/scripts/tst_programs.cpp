@@ -102,7 +102,6 @@ void TestPrograms::wrongUsageEndsWithTheSameStatus_data()
     addRow("mirovahr-demo", kDemo, argument);
     for (const char *name : {"check-hardening", "demo", "package", "test-packages"})
         addRow(name, script(name), argument);
-    QTest::newRow("mirovahrctl alone") << "mirovahrctl" << QStringList{MIROVAHRCTL};
     QTest::newRow("yavhost alone") << "yavhost" << QStringList{YAVHOST};
     QTest::newRow("private-mariadb alone") << "private-mariadb" << QStringList{PRIVATE_MARIADB};
     QTest::newRow("private-view alone") << "private-view" << script("private-view");
