@@ -246,9 +246,8 @@ void TestDocuments::everySubcommandIsInTheOperationsManual()
 void TestDocuments::linksLeadToFiles_data()
 {
     QTest::addColumn<QString>("document");
-    for (const char *document :
-         {"README.md", "docs/cluster.md", "docs/how-it-works.md", "docs/operations.md",
-          "docs/security.md"})
+    for (const char *document : {"README.md", "docs/cluster.md", "docs/how-it-works.md",
+                                 "docs/operations.md", "docs/reliability.md", "docs/security.md"})
         QTest::newRow(document) << document;
 }
 
