@@ -14,16 +14,11 @@ constexpr char kSelectNode[] = "SELECT VERSION(), @@SESSION.sql_mode,"
                                " @@SESSION.auto_increment_increment, @@SESSION.time_zone,"
                                " @@system_time_zone";
 
-QString stateOf(const ServerSettings &status)
-{
-    return status.value(QStringLiteral("wsrep_local_state_comment"));
-}
-
 void read(SqlSession &server, const ServerSettings &status, AskedNode &node)
 {
     node.cluster = status.value(QStringLiteral("wsrep_cluster_state_uuid"));
     node.member = status.value(QStringLiteral("wsrep_gcomm_uuid"));
-    node.state = stateOf(status);
+    node.state = nodeState(status);
     const QStringList row = server.row(QLatin1String(kSelectNode));
     node.version = row.value(0);
     node.sqlMode = row.value(1);
@@ -87,7 +82,8 @@ void ClusterNodes::askOther(const SiteDatabase &site, const QString &address)
         if (isOn(status, "wsrep_ready"))
             read(server.sql(), status, node);
         else
-            node.failure = QStringLiteral("It refuses statements (state %1)").arg(stateOf(status));
+            node.failure =
+                QStringLiteral("It refuses statements (state %1)").arg(nodeState(status));
     }
     if (node.failure.isEmpty())
         node.failure = strangeness(node);

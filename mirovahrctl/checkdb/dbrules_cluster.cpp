@@ -23,11 +23,6 @@ QString valueOf(const ServerSettings &settings, const char *name)
     return settings.value(QLatin1String(name), QStringLiteral("unknown"));
 }
 
-QString stateOf(const ServerSettings &status)
-{
-    return valueOf(status, "wsrep_local_state_comment");
-}
-
 /// Why the node refuses every statement on a table; empty when it does not.
 QString refusal(const ServerSettings &settings, const ServerSettings &status)
 {
@@ -37,7 +32,7 @@ QString refusal(const ServerSettings &settings, const ServerSettings &status)
         return QStringLiteral("wsrep_reject_queries = %1").arg(rejected);
     if (!isOn(status, "wsrep_ready"))
         return QStringLiteral("state %1, wsrep_ready = %2")
-            .arg(stateOf(status), valueOf(status, "wsrep_ready"));
+            .arg(nodeState(status), valueOf(status, "wsrep_ready"));
     return QString();
 }
 
@@ -66,7 +61,7 @@ bool checkState(DbAssessment &check, const ServerSettings &settings, const Serve
             CheckDbRules::kClusterNotSynced,
             QStringLiteral("The node is not in step with the cluster (state %1): what is read here "
                            "may lack what other nodes have committed.")
-                .arg(stateOf(status)));
+                .arg(nodeState(status)));
         finding.severity = CheckDbRules::kClusterNotSynced.otherSeverity;
         check.report(finding);
     }
@@ -163,7 +158,7 @@ bool DbRules::checkCluster(DbAssessment &check, const ServerSettings &settings,
     check.writer().fact(QStringLiteral("clusterSize"), QStringLiteral("Members of the cluster"),
                         status.value(QStringLiteral("wsrep_cluster_size")).toInt());
     check.writer().fact(QStringLiteral("nodeState"), QStringLiteral("State of this node"),
-                        stateOf(status));
+                        nodeState(status));
     const bool answers = checkState(check, settings, status);
     checkFormat(check, settings);
     checkAutomaticNumbers(check, settings);

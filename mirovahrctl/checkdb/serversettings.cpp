@@ -56,3 +56,8 @@ bool isClusterNode(const ServerSettings &settings)
     return isOn(settings, "wsrep_on")
         && settings.value(QStringLiteral("wsrep_provider")) != QLatin1String("none");
 }
+
+QString nodeState(const ServerSettings &status)
+{
+    return status.value(QStringLiteral("wsrep_local_state_comment"), QStringLiteral("unknown"));
+}

@@ -23,3 +23,6 @@ bool has(const ServerSettings &settings, const char *name, const char *word);
 
 /// Whether the server replicates as a node of a Galera cluster what the connection writes.
 bool isClusterNode(const ServerSettings &settings);
+
+/// The state of a node by its status, such as "Synced", or "unknown".
+QString nodeState(const ServerSettings &status);
