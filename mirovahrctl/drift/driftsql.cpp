@@ -16,8 +16,7 @@ constexpr char kBegin[] =
 
 constexpr char kEnd[] = "COMMIT;\n";
 
-constexpr char kEmploymentType[] =
-    "UPDATE people SET type = %4 WHERE uid = %1 AND pid = %2 AND type = %3;\n";
+constexpr char kType[] = "UPDATE people SET type = %4 WHERE uid = %1 AND pid = %2 AND type = %3;\n";
 
 // Uid (%1), pid (%2), aid (%3), the aids that were found (%4). The rows are locked when they are
 // compared, so that nobody chooses another administrator before they are written.
@@ -79,7 +78,7 @@ QString text(const char *statement)
 
 QString DriftSql::employmentType(Person person, uint found, uint type)
 {
-    return text(kEmploymentType).arg(person.uid).arg(person.pid).arg(found).arg(type);
+    return text(kType).arg(person.uid).arg(person.pid).arg(found).arg(type);
 }
 
 QString DriftSql::supervisor(Person person, quint32 aid, const QVector<quint32> &found)

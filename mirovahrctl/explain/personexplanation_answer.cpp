@@ -86,14 +86,14 @@ QString PersonExplanation::differences() const
 /// What the findings ask for, each once, HR's part first.
 QStringList PersonExplanation::duties() const
 {
-    QStringList ofHr;
-    QStringList others;
-    for (const Finding &finding : m_details.findings()) {
-        QStringList &list = finding.forHr ? ofHr : others;
-        if (finding.severity != Severity::Note && !list.contains(dutyOf(finding)))
-            list += dutyOf(finding);
+    QStringList all;
+    for (const bool isForHr : {true, false}) {
+        for (const Finding &finding : m_details.findings()) {
+            if (finding.forHr == isForHr && finding.severity != Severity::Note
+                && !all.contains(dutyOf(finding)))
+                all += dutyOf(finding);
+        }
     }
-    const QStringList all = ofHr + others;
     if (!all.isEmpty())
         return all;
     const bool isPending = m_outcome

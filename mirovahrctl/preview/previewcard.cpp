@@ -174,8 +174,12 @@ public:
             const bool isLed = sharing.cards.size() >= kFewestSharing;
             if (isLed)
                 led += leading(sharing);
-            for (const Card *const card : sharing.cards)
-                (isLed ? led : whole) += isLed ? remainder(*card) : *card;
+            for (const Card *const card : sharing.cards) {
+                if (isLed)
+                    led += remainder(*card);
+                else
+                    whole += *card;
+            }
         }
         return whole + led; // nothing shows where the last cards that are led end
     }

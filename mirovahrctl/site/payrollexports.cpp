@@ -8,14 +8,14 @@
 namespace {
 
 /// The plugin's condition, which also fits names that go on after it.
-constexpr char kSelect[] =
+constexpr char kSelectExports[] =
     "SELECT name FROM vars WHERE name LIKE 'exportPam.%.active%' ORDER BY name";
 
 } // namespace
 
 QStringList payrollExports(SqlSession &site)
 {
-    QStringList names = site.column(QLatin1String(kSelect));
+    QStringList names = site.column(QLatin1String(kSelectExports));
     names.removeDuplicates();
     return names;
 }

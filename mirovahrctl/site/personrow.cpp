@@ -6,14 +6,14 @@
 
 namespace {
 
-constexpr char kSelect[] = "SELECT uid, pamId, CONCAT_WS(' ', name, surname), status, created,"
-                           " edited, editor, `end`, lastCalc, calc FROM people WHERE pid = %1";
+constexpr char kSelectRow[] = "SELECT uid, pamId, CONCAT_WS(' ', name, surname), status, created,"
+                              " edited, editor, `end`, lastCalc, calc FROM people WHERE pid = %1";
 
 } // namespace
 
 std::optional<PersonRow> PersonRow::read(SqlSession &sql, quint32 pid)
 {
-    const QStringList columns = sql.row(QString(QLatin1String(kSelect)).arg(pid));
+    const QStringList columns = sql.row(QString(QLatin1String(kSelectRow)).arg(pid));
     if (columns.isEmpty())
         return std::nullopt;
     PersonRow row;
