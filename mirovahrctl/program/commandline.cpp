@@ -6,7 +6,6 @@
 
 namespace {
 
-
 DatabaseSources databaseSources()
 {
     return {CommandLine::kPasswordVariable, QStringLiteral("/etc/yav/mirovahrctl.ini")};
