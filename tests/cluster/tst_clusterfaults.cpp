@@ -1,4 +1,5 @@
 #include "tests/cluster/attendancecluster.h"
+#include "tests/mirovahrctl/drift/driftedsite.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/patience.h"
 #include "tests/worker/faults/expectations.h"
@@ -6,6 +7,7 @@
 #include "tests/worker/faults/runs.h"
 #include "tests/worker/faults/servingworker.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QtTest>
@@ -72,6 +74,7 @@ private:
     void repeat(const LogCapture &log);
     void checkDifferences(const Run &run) const;
     void checkLoss(const Run &run);
+    void checkThatDriftBringsTheSupervisor();
     Run conflict();
 
     AttendanceCluster m_cluster;
@@ -247,7 +250,31 @@ void TestClusterFaults::aWriterOnAnotherNodeMakesTheCommitFailWithoutALineInTheL
     QCOMPARE(run.problems.join('\n'), QString());
     QCOMPARE(run.differences, QStringList{"admins_people - aid=2 uid=<uid> request=1"});
     checkDifferences(run);
+    checkThatDriftBringsTheSupervisor();
     QCOMPARE(m_cluster.inequalities().join('\n'), QString());
+}
+
+/// What no synchronisation brings, the statements of drift do.
+void TestClusterFaults::checkThatDriftBringsTheSupervisor()
+{
+    DriftedSite site(m_cycle.db());
+    // The tool connects to the socket of a node, whose folder has no password file yet.
+    PrivateMariaDb &server = m_cycle.db().server();
+    QFile password(server.passwordFile());
+    QVERIFY(password.open(QIODevice::WriteOnly));
+    password.write(server.password().toUtf8());
+    password.close();
+    m_cycle.db().run("RENAME USER mirovahrctl@127.0.0.1 TO mirovahrctl@localhost");
+    site.unlockAccount();
+    site.configure("[MES]\n22=\"rodičovská dovolenka\"\n");
+    // The export is there once more, for drift.
+    m_cycle.repeat();
+    const ToolRun run = site.drift(m_cycle.exportPath());
+    QVERIFY2(run.findingsOf("supervisor-missing").size() == 1, run.report().constData());
+    QVERIFY2(site.mend(), qPrintable(server.errorString()));
+    const QStringList remaining = StateChanges::between(m_state, m_cycle.state());
+    QCOMPARE(remaining.filter("admins_people - ").join('\n'), QString());
+    QCOMPARE(site.drift(m_cycle.exportPath()).findingsOf("supervisor-missing").size(), 0);
 }
 
 /// The command of the row has changed its rows on node 1 and is not committed yet when another
