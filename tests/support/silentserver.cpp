@@ -1,5 +1,6 @@
 #include "tests/support/silentserver.h"
 
+#include <cerrno>
 #include <cstring>
 
 #include <netinet/in.h>
