@@ -131,7 +131,7 @@ void TestDoctor::theWorstFindingComesFirst()
 {
     // A warning of the configuration, and after it an error of the database.
     writeConfiguration("syncInterval=0\n");
-    m_db.run("DROP TABLE pzt");
+    m_db.run("DROP TABLE groups_month");
     const ToolRun run = doctor();
     COMPARE_EXIT(run, ExitStatus::Findings);
     QStringList severities;
@@ -139,6 +139,7 @@ void TestDoctor::theWorstFindingComesFirst()
     for (const QJsonValue &finding : all)
         severities << finding.toObject().value("severity").toString();
     QCOMPARE(severities.first(), QString("warning"));
+    QVERIFY2(severities.contains("error"), run.report().constData());
     const QJsonObject error = all.at(severities.indexOf("error")).toObject();
     const QString verdict = run.json().value("verdict").toString();
     QVERIFY2(verdict.startsWith("Do this first: " + error.value("message").toString()),
