@@ -480,4 +480,5 @@ void TestWholeState::aServerThatForcesPrimaryKeysTakesTablesAndSynchronisations(
 QTEST_GUILESS_MAIN(TestWholeState)
 #include "tst_wholestate.moc"
 
+#include <QScopeGuard>
 #include <QtTest>
