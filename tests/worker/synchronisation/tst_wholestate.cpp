@@ -3,6 +3,9 @@
 #include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
 
+#include <QScopeGuard>
+#include <QtTest>
+
 using namespace SampleExport;
 
 namespace {
@@ -479,6 +482,3 @@ void TestWholeState::aServerThatForcesPrimaryKeysTakesTablesAndSynchronisations(
 
 QTEST_GUILESS_MAIN(TestWholeState)
 #include "tst_wholestate.moc"
-
-#include <QScopeGuard>
-#include <QtTest>
