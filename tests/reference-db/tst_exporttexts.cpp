@@ -162,6 +162,3 @@ void TestExportTexts::whatTheAccountMayNotDoTheTextMayNotDo()
 
 QTEST_GUILESS_MAIN(TestExportTexts)
 #include "tst_exporttexts.moc"
-
-#include <QRegularExpression>
-#include <QtTest>

@@ -241,6 +241,3 @@ void TestGrants::loadingTwiceChangesNothing()
 
 QTEST_GUILESS_MAIN(TestGrants)
 #include "tst_grants.moc"
-
-#include <QRegularExpression>
-#include <QtTest>

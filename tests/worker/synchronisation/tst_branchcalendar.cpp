@@ -3,6 +3,8 @@
 #include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
 
+#include <QtTest>
+
 namespace {
 
 QDate today()
@@ -676,5 +678,3 @@ void TestBranchCalendar::theTextOfARecalculationHasTheDateInShort()
 
 QTEST_GUILESS_MAIN(TestBranchCalendar)
 #include "tst_branchcalendar.moc"
-
-#include <QtTest>

@@ -2,6 +2,7 @@
 #include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
 
+#include <QtTest>
 #include <optional>
 
 using namespace SampleExport;
@@ -511,5 +512,3 @@ void TestChanges::stopAndStartKeepWhatTheWorkerKnows()
 
 QTEST_GUILESS_MAIN(TestChanges)
 #include "tst_changes.moc"
-
-#include <QtTest>

@@ -2,6 +2,8 @@
 #include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
 
+#include <QtTest>
+
 using namespace SampleExport;
 
 namespace {
@@ -352,5 +354,3 @@ void TestCreation::anInactiveRowOfTheSamePidIsTakenUpAgain()
 
 QTEST_GUILESS_MAIN(TestCreation)
 #include "tst_creation.moc"
-
-#include <QtTest>

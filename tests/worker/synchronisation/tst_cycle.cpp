@@ -3,6 +3,8 @@
 #include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
 
+#include <QtTest>
+
 using namespace SampleExport;
 
 /// What a synchronisation does around its records: before the first, in which order it takes them,
@@ -324,5 +326,3 @@ void TestCycle::theBranchIdIsNarrowedAtTheCallOnly()
 
 QTEST_GUILESS_MAIN(TestCycle)
 #include "tst_cycle.moc"
-
-#include <QtTest>
