@@ -71,8 +71,13 @@ Checkup Checkup::run(const QStringList &command)
     checkup.command = command;
     checkup.status = runMirovahrctl(command + QStringList{QStringLiteral("--json")}, console);
     const QJsonObject report = QJsonDocument::fromJson(out.data()).object();
-    checkup.failed = report.contains(QLatin1String("error"));
-    checkup.verdict = textOf(report, checkup.failed ? "error" : "verdict");
+    checkup.verdict = textOf(report, "verdict");
+    checkup.failed = checkup.verdict.isEmpty();
+    if (checkup.failed) {
+        // Qt reads no document beyond a size that the report of a very bad export may reach.
+        checkup.verdict = report.isEmpty() ? QStringLiteral("Its report cannot be read here")
+                                           : textOf(report, "error");
+    }
     checkup.findings = firstOfEachRule(report.value(QLatin1String("findings")).toArray());
     return checkup;
 }

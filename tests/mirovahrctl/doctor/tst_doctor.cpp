@@ -1,3 +1,4 @@
+#include "mirovahrctl/doctor/checkup.h"
 #include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/testdatabase.h"
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void theWorstFindingComesFirst();
     void severalFindingsOfARuleAreCounted();
     void aCheckThatCannotBeMadeIsAFinding();
+    void anAnswerThatIsNoReportIsAFailure();
     void aConfigurationThatIsNotThereIsRefused();
     void theExportOfHrIsCheckedWhenThePluginHasNone();
     void thePasswordOfTheEnvironmentServesEveryCheck();
@@ -172,6 +174,14 @@ void TestDoctor::aCheckThatCannotBeMadeIsAFinding()
     QVERIFY2(failed.at(1).value("message").toString().startsWith(
                  "status: The database cannot be opened: "),
              run.report().constData());
+}
+
+void TestDoctor::anAnswerThatIsNoReportIsAFailure()
+{
+    const Checkup checkup = Checkup::run({"check-config", "--help"});
+    QVERIFY(checkup.failed);
+    QCOMPARE(checkup.verdict, QString("Its report cannot be read here"));
+    QVERIFY(!Checkup::run({"check-config", path("MirovaHR.ini")}).failed);
 }
 
 void TestDoctor::aConfigurationThatIsNotThereIsRefused()
