@@ -13,7 +13,7 @@ from usage import run_measured
 PERSON = "10001.1"
 
 #: In a file: the gate refuses one in which much more changes.
-MOST_CHANGES = 500
+MOST_CHANGES = 300
 
 #: The rows that a synchronisation may change, of those tables of which it changes few.
 CHANGEABLE = {
