@@ -2,6 +2,7 @@
 
 #include "cli/numberoption.h"
 #include "cli/passwordfile.h"
+#include "cli/text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,9 +33,9 @@ QString ConnectionFile::read(const QString &path)
     m_path = path;
     const QFileInfo info(path);
     if (!info.isFile())
-        return QStringLiteral("There is no file '%1'").arg(path);
+        return Text::tr("There is no file '%1'").arg(path);
     if (!info.isReadable())
-        return QStringLiteral("'%1' cannot be read").arg(path);
+        return Text::tr("'%1' cannot be read").arg(path);
     QSettings settings(path, QSettings::IniFormat);
     settings.setIniCodec("UTF-8");
     const QString error = readKeys(settings);
@@ -46,8 +47,8 @@ QString ConnectionFile::readPassword(QString &password, QString &warning) const
     if (!m_passwordFile.isEmpty())
         return readPasswordFile(m_passwordFile, password, warning);
     if (!m_password.isEmpty() && isReadableForAll(m_path)) {
-        warning = QStringLiteral("Every user of the machine can read '%1': the password in it is "
-                                 "not used. Remove the permission (chmod o-r)")
+        warning = Text::tr("Every user of the machine can read '%1': the password in it is "
+                           "not used. Remove the permission (chmod o-r)")
                       .arg(m_path);
         return {};
     }
@@ -59,7 +60,7 @@ QString ConnectionFile::readKeys(QSettings &settings)
 {
     const QStringList strays = settings.childKeys();
     if (!strays.isEmpty()) {
-        return QStringLiteral("the key '%1' belongs to no group; write [client] above it")
+        return Text::tr("the key '%1' belongs to no group; write [client] above it")
             .arg(strays.constFirst());
     }
     settings.beginGroup(QStringLiteral("client"));
@@ -70,8 +71,8 @@ QString ConnectionFile::readKeys(QSettings &settings)
             return error;
     }
     if (settings.status() != QSettings::NoError) {
-        return QStringLiteral("there are lines that are neither [group], nor key = value, nor a "
-                              "comment that begins with a semicolon");
+        return Text::tr("there are lines that are neither [group], nor key = value, nor a "
+                        "comment that begins with a semicolon");
     }
     return check();
 }
@@ -79,17 +80,17 @@ QString ConnectionFile::readKeys(QSettings &settings)
 QString ConnectionFile::take(const QString &key, const QVariant &value)
 {
     if (value.type() == QVariant::StringList)
-        return QStringLiteral("the value of '%1' has a comma; put it in quotation marks").arg(key);
+        return Text::tr("the value of '%1' has a comma; put it in quotation marks").arg(key);
     const QString text = value.toString();
     if (key == QLatin1String("port")) {
         return readNumber(text, kLargestPort, m_options.port)
             ? QString()
-            : QStringLiteral("the port is a number from 0 to %1").arg(kLargestPort);
+            : Text::tr("the port is a number from 0 to %1").arg(kLargestPort);
     }
     if (key == QLatin1String("read-timeout")) {
         return readNumber(text, kLongestReadTimeout, m_options.readTimeout)
             ? QString()
-            : QStringLiteral("the read timeout is a number of seconds from 0 to %1")
+            : Text::tr("the read timeout is a number of seconds from 0 to %1")
                   .arg(kLongestReadTimeout);
     }
     if (key == QLatin1String("password")) {
@@ -104,7 +105,7 @@ QString ConnectionFile::take(const QString &key, const QVariant &value)
         std::find_if(std::begin(kTextKeys), std::end(kTextKeys),
                      [&key](const TextKey &known) { return key == QLatin1String(known.name); });
     if (found == std::end(kTextKeys))
-        return QStringLiteral("the key '%1' is unknown").arg(key);
+        return Text::tr("the key '%1' is unknown").arg(key);
     m_options.*found->option = text;
     return {};
 }
@@ -112,8 +113,8 @@ QString ConnectionFile::take(const QString &key, const QVariant &value)
 QString ConnectionFile::check() const
 {
     if (!m_options.host.isEmpty() && !m_options.socket.isEmpty())
-        return QStringLiteral("it names both a host and a socket");
+        return Text::tr("it names both a host and a socket");
     if (!m_password.isEmpty() && !m_passwordFile.isEmpty())
-        return QStringLiteral("it names both a password and a password-file");
+        return Text::tr("it names both a password and a password-file");
     return {};
 }

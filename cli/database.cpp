@@ -1,6 +1,7 @@
 #include "cli/database.h"
 
 #include "cli/databaseoptions.h"
+#include "cli/text.h"
 
 #include <QSqlError>
 #include <QStringList>
@@ -68,7 +69,7 @@ bool Database::open()
 
 QString Database::errorString() const
 {
-    return QStringLiteral("%1 (server %2)").arg(m_connection.lastError().text(), m_server);
+    return Text::tr("%1 (server %2)").arg(m_connection.lastError().text(), m_server);
 }
 
 QSqlDatabase Database::handle() const
@@ -83,5 +84,5 @@ bool Database::isDriverAvailable()
 
 QString Database::missingDriverText()
 {
-    return QStringLiteral("Qt's MySQL driver is missing: install the package libqt5sql5-mysql");
+    return Text::tr("Qt's MySQL driver is missing: install the package libqt5sql5-mysql");
 }

@@ -3,6 +3,7 @@
 #include "cli/connectionfile.h"
 #include "cli/numberoption.h"
 #include "cli/passwordfile.h"
+#include "cli/text.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -14,17 +15,17 @@
 
 namespace {
 
-QCommandLineOption valueOption(const char *name, const QString &text, const char *valueName)
+QCommandLineOption valueOption(const char *name, const QString &text, const QString &valueName)
 {
-    return {QString::fromLatin1(name), text, QString::fromLatin1(valueName)};
+    return {QString::fromLatin1(name), text, valueName};
 }
 
 QString fileOptionText(const DatabaseSources &sources)
 {
-    QString text = QStringLiteral("A file with these options in its group [client].");
-    if (!sources.file.isEmpty())
-        text += QStringLiteral(" Default: %1, if it exists.").arg(sources.file);
-    return text;
+    if (sources.file.isEmpty())
+        return Text::tr("A file with these options in its group [client].");
+    return Text::tr("A file with these options in its group [client]. Default: %1, if it exists.")
+        .arg(sources.file);
 }
 
 /// The connection file to read; empty for none.
@@ -57,10 +58,10 @@ QString readCommandLine(const QCommandLineParser &parser, DatabaseOptions &optio
     readText(parser, "user", options.user);
     readText(parser, "connect-options", options.connectOptions);
     if (!readNumberOption(parser, QStringLiteral("port"), kLargestPort, options.port))
-        return QStringLiteral("The port is a number from 0 to %1").arg(kLargestPort);
+        return Text::tr("The port is a number from 0 to %1").arg(kLargestPort);
     if (!readNumberOption(parser, QStringLiteral("read-timeout"), kLongestReadTimeout,
                           options.readTimeout)) {
-        return QStringLiteral("The read timeout is a number of seconds from 0 to %1")
+        return Text::tr("The read timeout is a number of seconds from 0 to %1")
             .arg(kLongestReadTimeout);
     }
     return {};
@@ -70,22 +71,22 @@ QString readCommandLine(const QCommandLineParser &parser, DatabaseOptions &optio
 QString missing(const DatabaseOptions &options)
 {
     if (options.host.isEmpty() && options.socket.isEmpty())
-        return QStringLiteral("Name the database server with either --host or --socket");
+        return Text::tr("Name the database server with either --host or --socket");
     if (options.name.isEmpty())
-        return QStringLiteral("Name the attendance database with --database");
+        return Text::tr("Name the attendance database with --database");
     if (options.user.isEmpty())
-        return QStringLiteral("Name the database user with --user");
+        return Text::tr("Name the database user with --user");
     return {};
 }
 
-/// The end of an error about a missing option: the connection file that was not read.
-QString unreadFile(const QString &file, const DatabaseSources &sources)
+/// The error about a missing option, with the connection file if that was not read.
+QString withUnreadFile(const QString &error, const QString &file, const DatabaseSources &sources)
 {
     if (!file.isEmpty() || sources.file.isEmpty())
-        return {};
+        return error;
     return QFileInfo::exists(sources.file)
-        ? QStringLiteral("; the file '%1' cannot be read").arg(sources.file)
-        : QStringLiteral(", or in the file %1").arg(sources.file);
+        ? Text::tr("%1; the file '%2' cannot be read").arg(error, sources.file)
+        : Text::tr("%1, or in the file %2").arg(error, sources.file);
 }
 
 /// The value of an environment variable, which is then gone. It is also overwritten: /proc shows
@@ -124,22 +125,24 @@ QString DatabaseOptions::server() const
 
 void addDatabaseOptions(QCommandLineParser &parser, const DatabaseSources &sources)
 {
-    const auto add = [&parser](const char *name, const char *text, const char *valueName) {
-        parser.addOption(valueOption(name, QString::fromLatin1(text), valueName));
+    const auto add = [&parser](const char *name, const QString &text, const QString &valueName) {
+        parser.addOption(valueOption(name, text, valueName));
     };
-    add("host", "The database server's host.", "host");
-    add("port", "The database server's port.", "port");
-    add("socket", "The database server's UNIX socket, instead of a host.", "path");
-    add("database", "The attendance database's name.", "name");
-    add("user", "The database user.", "user");
-    add("password-file", "A file whose first line is the password.", "file");
-    add("connect-options", "Options of Qt's MySQL driver, joined by ';'.", "options");
-    parser.addOption(valueOption(
-        "read-timeout",
-        QStringLiteral("How long the server may be silent, 0 for any time. Default: %1.")
-            .arg(DatabaseOptions().readTimeout),
-        "seconds"));
-    parser.addOption(valueOption("defaults-file", fileOptionText(sources), "file"));
+    add("host", Text::tr("The database server's host."), Text::tr("host"));
+    add("port", Text::tr("The database server's port."), Text::tr("port"));
+    add("socket", Text::tr("The database server's UNIX socket, instead of a host."),
+        Text::tr("path"));
+    add("database", Text::tr("The attendance database's name."), Text::tr("name"));
+    add("user", Text::tr("The database user."), Text::tr("user"));
+    add("password-file", Text::tr("A file whose first line is the password."), Text::tr("file"));
+    add("connect-options", Text::tr("Options of Qt's MySQL driver, joined by ';'."),
+        Text::tr("options"));
+    parser.addOption(
+        valueOption("read-timeout",
+                    Text::tr("How long the server may be silent, 0 for any time. Default: %1.")
+                        .arg(DatabaseOptions().readTimeout),
+                    Text::tr("seconds")));
+    parser.addOption(valueOption("defaults-file", fileOptionText(sources), Text::tr("file")));
 }
 
 bool hasDatabaseOptions(const QCommandLineParser &parser)
@@ -163,9 +166,9 @@ QString readDatabaseOptions(const QCommandLineParser &parser, const DatabaseSour
     if (!error.isEmpty())
         return error;
     if (!options.host.isEmpty() && !options.socket.isEmpty())
-        return QStringLiteral("Name the database server with either --host or --socket, not both");
+        return Text::tr("Name the database server with either --host or --socket, not both");
     error = missing(options);
     if (!error.isEmpty())
-        return error + unreadFile(path, sources);
+        return withUnreadFile(error, path, sources);
     return readPassword(parser, sources.passwordVariable, file, options, warning);
 }

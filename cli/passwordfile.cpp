@@ -1,5 +1,7 @@
 #include "cli/passwordfile.h"
 
+#include "cli/text.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -7,16 +9,15 @@ QString readPasswordFile(const QString &path, QString &password, QString &warnin
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("The password file '%1' cannot be read: %2")
-            .arg(path, file.errorString());
+        return Text::tr("The password file '%1' cannot be read: %2").arg(path, file.errorString());
     }
     QByteArray line = file.readLine();
     if (line.endsWith('\n'))
         line.chop(1);
     password = QString::fromUtf8(line);
     if (isReadableForAll(path)) {
-        warning = QStringLiteral("Every user of the machine can read the password file '%1'. "
-                                 "Remove the permission (chmod o-r)")
+        warning = Text::tr("Every user of the machine can read the password file '%1'. "
+                           "Remove the permission (chmod o-r)")
                       .arg(path);
     }
     return {};

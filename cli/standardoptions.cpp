@@ -1,15 +1,17 @@
 #include "cli/standardoptions.h"
 
+#include "cli/text.h"
+
 #include <QCommandLineParser>
 
 namespace StandardOptions {
 
 void addTo(QCommandLineParser &parser)
 {
-    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                      QStringLiteral("Print this help and exit.")});
+    parser.addOption(
+        {{QStringLiteral("h"), QStringLiteral("help")}, Text::tr("Print this help and exit.")});
     parser.addOption({{QStringLiteral("v"), QStringLiteral("version")},
-                      QStringLiteral("Print the version and exit.")});
+                      Text::tr("Print the version and exit.")});
 }
 
 bool wantsHelp(const QCommandLineParser &parser, const QStringList &arguments)

@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/subcommand.h"
 
@@ -39,7 +40,7 @@ int main(int argc, char *argv[])
     if (!out.flush() || out.error() != QFileDevice::NoError) {
         return static_cast<int>(
             console.fail(ExitStatus::Usage,
-                         QStringLiteral("The output cannot be written: ") + out.errorString()));
+                         Text::tr("The output cannot be written: %1").arg(out.errorString())));
     }
     return static_cast<int>(status);
 }

@@ -1,7 +1,10 @@
 #include "mirovahrctl/subcommand.h"
 
 #include "cli/standardoptions.h"
+#include "cli/text.h"
 #include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/languageoption.h"
+#include "mirovahrctl/report/textlayout.h"
 
 #include <algorithm>
 
@@ -38,41 +41,88 @@ namespace {
 
 const QLatin1String kJson("--json");
 
+/// Something that can be typed, and what it is good for.
+struct Hint {
+    const char *command;
+    const char *purpose;
+};
+
+constexpr Hint kHelp[] = {
+    {QT_TRANSLATE_NOOP("Text", "mirovahrctl help SUBCOMMAND"),
+     QT_TRANSLATE_NOOP("Text", "what it does and its options")},
+    {"mirovahrctl help", QT_TRANSLATE_NOOP("Text", "this overview")},
+    {"mirovahrctl --version", QT_TRANSLATE_NOOP("Text", "the version")},
+};
+
+/// For whoever calls the program for the first time: the questions that it answers.
+constexpr Hint kQuestions[] = {
+    {"mirovahrctl doctor", QT_TRANSLATE_NOOP("Text", "Is everything set up as it should be?")},
+    {QT_TRANSLATE_NOOP("Text", "mirovahrctl check-file FILE"),
+     QT_TRANSLATE_NOOP("Text", "What is wrong with HR's file?")},
+    {QT_TRANSLATE_NOOP("Text", "mirovahrctl explain PERSON"),
+     QT_TRANSLATE_NOOP("Text", "Why did this person not arrive?")},
+    {QT_TRANSLATE_NOOP("Text", "mirovahrctl preview FILE"),
+     QT_TRANSLATE_NOOP("Text", "What will this file change?")},
+    {QT_TRANSLATE_NOOP("Text", "mirovahrctl log --since 12h LOGFILE"),
+     QT_TRANSLATE_NOOP("Text", "What did last night do?")},
+};
+
+/// Two columns, below each other in every language.
+QStringList columns(const QVector<QStringList> &rows)
+{
+    constexpr int kIndent = 2;
+    constexpr int kGap = 3;
+    int width = 0;
+    for (const QStringList &row : rows)
+        width = qMax(width, row.constFirst().size());
+    QStringList lines;
+    for (const QStringList &row : rows) {
+        lines << QString(kIndent, QLatin1Char(' ')) + row.constFirst().leftJustified(width + kGap)
+                + row.constLast();
+    }
+    return lines;
+}
+
+QStringList subcommandLines()
+{
+    QVector<QStringList> rows;
+    for (const Subcommand &subcommand : subcommands())
+        rows << QStringList{QLatin1String(subcommand.name), Text::tr(subcommand.summary)};
+    return columns(rows);
+}
+
+QStringList helpLines()
+{
+    QVector<QStringList> rows;
+    for (const Hint &hint : kHelp)
+        rows << QStringList{Text::tr(hint.command), Text::tr(hint.purpose)};
+    return columns(rows);
+}
+
 QString overview()
 {
-    QStringList lines{
-        QStringLiteral("Usage: mirovahrctl SUBCOMMAND [OPTION...] [ARGUMENT...]"),
-        QString(),
-        QStringLiteral("The operator's tool for MirovaHR, the plugin that keeps an attendance "
-                       "database in step"),
-        QStringLiteral("with the export of an HR system."),
-        QString(),
-        QStringLiteral("Subcommands:"),
-    };
-    for (const Subcommand &subcommand : subcommands()) {
-        lines << QStringLiteral("  %1 %2")
-                     .arg(QLatin1String(subcommand.name), -14)
-                     .arg(QLatin1String(subcommand.summary));
-    }
-    lines << QString()
-          << QStringLiteral("  mirovahrctl help SUBCOMMAND   what it does and its options")
-          << QStringLiteral("  mirovahrctl help              this overview")
-          << QStringLiteral("  mirovahrctl --version         the version") << QString()
-          << exitStatusHelp();
+    constexpr int kWidth = 88;
+    QStringList lines{Text::tr("Usage: mirovahrctl SUBCOMMAND [OPTION...] [ARGUMENT...]"),
+                      QString()};
+    lines += TextLayout::wrapped(
+        Text::tr("The operator's tool for MirovaHR, the plugin that keeps an attendance database "
+                 "in step with the export of an HR system."),
+        kWidth);
+    lines << QString() << Text::tr("Subcommands:") << subcommandLines() << QString() << helpLines()
+          << QString() << exitStatusHelp();
     return lines.join(QLatin1Char('\n'));
 }
 
-/// For whoever calls the program for the first time: the questions that it answers.
 QString questions()
 {
-    return QStringLiteral(
-        "mirovahrctl answers these questions:\n\n"
-        "  Is everything set up as it should be?   mirovahrctl doctor\n"
-        "  What is wrong with HR's file?           mirovahrctl check-file FILE\n"
-        "  Why did this person not arrive?         mirovahrctl explain PERSON\n"
-        "  What will this file change?             mirovahrctl preview FILE\n"
-        "  What did last night do?                 mirovahrctl log --since 12h LOGFILE\n\n"
-        "\"mirovahrctl help\" lists the other subcommands and says how to see their options.");
+    QVector<QStringList> rows;
+    for (const Hint &hint : kQuestions)
+        rows << QStringList{Text::tr(hint.purpose), Text::tr(hint.command)};
+    QStringList lines{Text::tr("mirovahrctl answers these questions:"), QString()};
+    lines << columns(rows) << QString()
+          << Text::tr("\"mirovahrctl help\" lists the other subcommands and says how to see their "
+                      "options.");
+    return lines.join(QLatin1Char('\n'));
 }
 
 ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Console &console)
@@ -87,7 +137,7 @@ ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Cons
     if (name == kJson || arguments.contains(kJson))
         console.startJson();
     return console.fail(ExitStatus::Usage,
-                        QStringLiteral("Unknown subcommand '%1'; --help lists them").arg(name));
+                        Text::tr("Unknown subcommand '%1'; --help lists them").arg(name));
 }
 
 ExitStatus runHelp(const QStringList &arguments, Console &console)
@@ -97,9 +147,8 @@ ExitStatus runHelp(const QStringList &arguments, Console &console)
         return ExitStatus::Fine;
     }
     if (arguments.size() > 1) {
-        return console.fail(
-            ExitStatus::Usage,
-            QStringLiteral("Unexpected argument '%1' for help").arg(arguments.at(1)));
+        return console.fail(ExitStatus::Usage,
+                            Text::tr("Unexpected argument '%1' for help").arg(arguments.at(1)));
     }
     return runSubcommand(arguments.constFirst(), {QStringLiteral("--help")}, console);
 }
@@ -109,27 +158,66 @@ ExitStatus runHelp(const QStringList &arguments, Console &console)
 const QVector<Subcommand> &subcommands()
 {
     static const QVector<Subcommand> all{
-        {"check-config", "Check the plugin's INI file, and show the settings in force",
+        {"check-config",
+         QT_TRANSLATE_NOOP("Text", "Check the plugin's INI file, and show the settings in force"),
          runCheckConfig},
-        {"check-file", "Check an HR export for what the plugin would drop or misread",
+        {"check-file",
+         QT_TRANSLATE_NOOP("Text", "Check an HR export for what the plugin would drop or misread"),
          runCheckFile},
-        {"diff", "Show what differs between two HR exports, as the plugin reads them", runDiff},
-        {"check-db", "Check that the attendance database is what the plugin relies on", runCheckDb},
-        {"explain", "Explain what the plugin makes of a person, step by step", runExplain},
-        {"preview", "Show what a synchronisation would change, by running it on a copy",
+        {"diff",
+         QT_TRANSLATE_NOOP("Text",
+                           "Show what differs between two HR exports, as the plugin reads them"),
+         runDiff},
+        {"check-db",
+         QT_TRANSLATE_NOOP("Text",
+                           "Check that the attendance database is what the plugin relies on"),
+         runCheckDb},
+        {"explain",
+         QT_TRANSLATE_NOOP("Text", "Explain what the plugin makes of a person, step by step"),
+         runExplain},
+        {"preview",
+         QT_TRANSLATE_NOOP("Text",
+                           "Show what a synchronisation would change, by running it on a copy"),
          runPreview},
-        {"drift", "Find what the database lacks although the plugin counts it as done", runDrift},
-        {"gate", "Publish HR's file for the plugin, or hold it back", runGate},
-        {"force", "Make the plugin synchronise everybody at its next tick", runForce},
-        {"status", "Show what is known of the plugin's work, for people and monitoring", runStatus},
-        {"log", "Show what the attendance server's log says of the plugin's work", runLog},
-        {"doctor", "Run every check that can be run here, and name what to do first", runDoctor},
-        {"rules", "List the rules behind the findings, or explain one", runRules},
+        {"drift",
+         QT_TRANSLATE_NOOP("Text",
+                           "Find what the database lacks although the plugin counts it as done"),
+         runDrift},
+        {"gate", QT_TRANSLATE_NOOP("Text", "Publish HR's file for the plugin, or hold it back"),
+         runGate},
+        {"force",
+         QT_TRANSLATE_NOOP("Text", "Make the plugin synchronise everybody at its next tick"),
+         runForce},
+        {"status",
+         QT_TRANSLATE_NOOP("Text",
+                           "Show what is known of the plugin's work, for people and monitoring"),
+         runStatus},
+        {"log",
+         QT_TRANSLATE_NOOP("Text",
+                           "Show what the attendance server's log says of the plugin's work"),
+         runLog},
+        {"doctor",
+         QT_TRANSLATE_NOOP("Text",
+                           "Run every check that can be run here, and name what to do first"),
+         runDoctor},
+        {"rules", QT_TRANSLATE_NOOP("Text", "List the rules behind the findings, or explain one"),
+         runRules},
     };
     return all;
 }
 
 ExitStatus runMirovahrctl(const QStringList &arguments, Console &console)
+{
+    QStringList others = arguments;
+    const QString error = LanguageOption::obey(others);
+    if (error.isEmpty())
+        return runInThisLanguage(others, console);
+    if (others.contains(kJson))
+        console.startJson();
+    return console.fail(ExitStatus::Usage, error);
+}
+
+ExitStatus runInThisLanguage(const QStringList &arguments, Console &console)
 {
     const QString name = arguments.value(0);
     if (name == QLatin1String("--help") || name == QLatin1String("-h")) {

@@ -69,7 +69,7 @@ Checkup Checkup::run(const QStringList &command)
 
     Checkup checkup;
     checkup.command = command;
-    checkup.status = runMirovahrctl(command + QStringList{QStringLiteral("--json")}, console);
+    checkup.status = runInThisLanguage(command + QStringList{QStringLiteral("--json")}, console);
     const QJsonObject report = QJsonDocument::fromJson(out.data()).object();
     checkup.verdict = textOf(report, "verdict");
     checkup.failed = checkup.verdict.isEmpty();

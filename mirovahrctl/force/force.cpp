@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/pluginside/forceflag.h"
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/program/commandline.h"
@@ -5,7 +6,6 @@
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/rules/forcerules.h"
-#include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/sitedatabase.h"
 #include "worker/importfile.h"
 #include "worker/schedule.h"
@@ -14,11 +14,12 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Sets the flag in the attendance database that makes the plugin synchronise at its next\n"
-    "tick, and write every person of the export, whether the line has changed or not. The\n"
-    "plugin clears the flag afterwards. Needs an account that may write to the table vars,\n"
-    "such as the plugin's.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Sets the flag in the attendance database that makes the plugin synchronise at its next tick, "
+    "and write every person of the export, whether the line has changed or not. The plugin clears "
+    "the flag afterwards. Needs an account that may write to the table vars, such as the "
+    "plugin's.");
 
 class ForceRun {
 public:
@@ -64,8 +65,8 @@ ExitStatus ForceRun::run()
     const auto after = flag.isSet();
     if (!after)
         return fail(flag);
-    m_report.begin(m_line.subcommand(), QStringLiteral("Forced synchronisation"));
-    m_report.section(QStringLiteral("flag"), QStringLiteral("Flag"));
+    m_report.begin(m_line.subcommand(), Text::tr("Forced synchronisation"));
+    m_report.section(QStringLiteral("flag"), Text::tr("Flag"));
     reportFlag(*before, *after);
     if (m_on && *after)
         reportPlugin();
@@ -74,18 +75,18 @@ ExitStatus ForceRun::run()
 
 void ForceRun::reportFlag(bool wasSet, bool isSet)
 {
-    m_report.fact(QStringLiteral("before"), QStringLiteral("Set before"), wasSet);
-    m_report.fact(QStringLiteral("now"), QStringLiteral("Set now"), isSet);
+    m_report.fact(QStringLiteral("before"), Text::tr("Set before"), wasSet);
+    m_report.fact(QStringLiteral("now"), Text::tr("Set now"), isSet);
     if (m_on && wasSet) {
-        m_report.sentence(QStringLiteral("The flag was already set: the plugin has not acted on it "
-                                         "yet, or is synchronising now."));
+        m_report.sentence(Text::tr("The flag was already set: the plugin has not acted on it "
+                                   "yet, or is synchronising now."));
     }
     if (m_on != isSet) {
         m_report.add(
             ForceRules::kChangedMeanwhile,
-            m_on ? QStringLiteral("The flag was set and is cleared again: a synchronisation that "
-                                  "was already running has just ended and cleared it.")
-                 : QStringLiteral(
+            m_on ? Text::tr("The flag was set and is cleared again: a synchronisation that "
+                            "was already running has just ended and cleared it.")
+                 : Text::tr(
                      "The flag was cleared and is set again: somebody else has just set it."));
     }
 }
@@ -93,22 +94,21 @@ void ForceRun::reportFlag(bool wasSet, bool isSet)
 void ForceRun::reportPlugin()
 {
     const Configuration &config = m_configuration.values();
-    m_report.section(QStringLiteral("plugin"), QStringLiteral("Plugin"));
+    m_report.section(QStringLiteral("plugin"), Text::tr("Plugin"));
     m_report.sentence(m_configuration.origin());
     const int seconds =
         Schedule::timerInterval(Schedule::tickPeriod(config.tickMilliseconds)) / 1000;
-    m_report.fact(QStringLiteral("tickSeconds"), QStringLiteral("Seconds between ticks"), seconds);
-    m_report.sentence(
-        QStringLiteral("The plugin sees the flag at its next tick, within %1 when it "
-                       "is not busy.")
-            .arg(Wording::counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"))));
+    m_report.fact(QStringLiteral("tickSeconds"), Text::tr("Seconds between ticks"), seconds);
+    m_report.sentence(Text::tr("The plugin sees the flag at its next tick, within %Ln second(s) "
+                               "when it is not busy.",
+                               nullptr, seconds));
     if (!config.enabled) {
         m_report.add(ForceRules::kDisabled,
-                     QStringLiteral("The configuration disables the plugin: it does not tick."));
+                     Text::tr("The configuration disables the plugin: it does not tick."));
     }
     if (config.testMode) {
         m_report.add(ForceRules::kTestMode,
-                     QStringLiteral("Test mode is on: people are only logged, not written."));
+                     Text::tr("Test mode is on: people are only logged, not written."));
     }
     if (m_configuration.exists())
         reportExport();
@@ -119,13 +119,12 @@ void ForceRun::reportExport()
     const Configuration &config = m_configuration.values();
     const QString path = ImportFile::path(config.importFile);
     if (config.runsCommand(true)) {
-        m_report.sentence(QStringLiteral("The plugin runs the export command first."));
+        m_report.sentence(Text::tr("The plugin runs the export command first."));
     } else if (!QFileInfo(path).isFile()) {
-        m_report.add(
-            ForceRules::kNoExport,
-            QStringLiteral("There is no export %1 now. Unless HR delivers one before that tick, "
-                           "nothing is synchronised, and the flag is cleared even so.")
-                .arg(path));
+        m_report.add(ForceRules::kNoExport,
+                     Text::tr("There is no export %1 now. Unless HR delivers one before that tick, "
+                              "nothing is synchronised, and the flag is cleared even so.")
+                         .arg(path));
     }
 }
 
@@ -136,8 +135,8 @@ ExitStatus ForceRun::fail(const ForceFlag &flag)
 
 QString ForceRun::verdict(bool isSet) const
 {
-    return isSet ? QStringLiteral("A forced synchronisation is pending.")
-                 : QStringLiteral("No forced synchronisation is pending.");
+    return isSet ? Text::tr("A forced synchronisation is pending.")
+                 : Text::tr("No forced synchronisation is pending.");
 }
 
 } // namespace
@@ -145,7 +144,7 @@ QString ForceRun::verdict(bool isSet) const
 ExitStatus runForce(const QStringList &arguments, Console &console)
 {
     CommandLine line("force", kDescription);
-    line.addFlag("clear", "Clear the flag instead.");
+    line.addFlag("clear", Text::tr("Clear the flag instead."));
     PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();

@@ -31,7 +31,7 @@ constexpr mode_t kPermissions = 0644;
 
 QString now()
 {
-    return Moment::text(QDateTime::currentDateTime());
+    return Moment::fileText(QDateTime::currentDateTime());
 }
 
 /// In whatever zone it was written.

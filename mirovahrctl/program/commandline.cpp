@@ -2,7 +2,10 @@
 
 #include "cli/databaseoptions.h"
 #include "cli/standardoptions.h"
+#include "cli/text.h"
 #include "mirovahrctl/program/console.h"
+#include "mirovahrctl/report/language.h"
+#include "mirovahrctl/report/textlayout.h"
 
 namespace {
 
@@ -11,64 +14,83 @@ DatabaseSources databaseSources()
     return {CommandLine::kPasswordVariable, QStringLiteral("/etc/yav/mirovahrctl.ini")};
 }
 
-QString text(const char *utf8)
+QString ascii(const char *text)
 {
-    return QString::fromUtf8(utf8);
+    return QString::fromLatin1(text);
+}
+
+/// In lines that are no wider than those of the options.
+QString wrapped(const QString &text)
+{
+    constexpr int kWidth = 88;
+    QStringList lines;
+    const QStringList paragraphs = text.split(QLatin1Char('\n'));
+    for (const QString &paragraph : paragraphs)
+        lines += TextLayout::wrapped(paragraph, kWidth);
+    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace
 
 CommandLine::CommandLine(const char *subcommand, const char *description)
-    : m_subcommand(text(subcommand))
-    , m_description(text(description))
+    : m_subcommand(ascii(subcommand))
+    , m_description(Text::tr(description))
 {
     StandardOptions::addTo(m_parser);
+    // For the help text: LanguageOption has obeyed it and taken it out of the arguments.
+    m_parser.addOption({QStringLiteral("language"),
+                        Text::tr("The language of everything for people: %1. Default: that of the "
+                                 "locale; beside --json always en.")
+                            .arg(Language::codes().join(QStringLiteral(", "))),
+                        Text::tr("language")});
 }
 
-void CommandLine::addArgument(const char *name, const char *description)
+void CommandLine::addArgument(const QString &name, const QString &description)
 {
-    m_required << text(name).toUpper();
-    m_parser.addPositionalArgument(m_required.constLast(), text(description));
+    m_required << name.toUpper();
+    m_parser.addPositionalArgument(m_required.constLast(), description);
 }
 
-void CommandLine::addOptionalArgument(const char *name, const char *description)
+void CommandLine::addOptionalArgument(const QString &name, const QString &description)
 {
-    m_optional << text(name).toUpper();
-    m_parser.addPositionalArgument(m_optional.constLast(), text(description));
+    m_optional << name.toUpper();
+    m_parser.addPositionalArgument(m_optional.constLast(), description);
 }
 
-void CommandLine::addRepeatedArgument(const char *name, const char *description)
+void CommandLine::addRepeatedArgument(const QString &name, const QString &description)
 {
-    m_repeated = text(name).toUpper();
-    m_parser.addPositionalArgument(m_repeated, text(description));
+    m_repeated = name.toUpper();
+    m_parser.addPositionalArgument(m_repeated, description);
 }
 
-void CommandLine::addFlag(const char *name, const char *description)
+void CommandLine::addFlag(const char *option, const QString &description)
 {
-    m_parser.addOption({text(name), text(description)});
+    m_parser.addOption({ascii(option), description});
 }
 
-void CommandLine::addOption(const char *name, const char *valueName, const char *description)
+void CommandLine::addOption(const char *option, const QString &valueName,
+                            const QString &description)
 {
-    m_parser.addOption({text(name), text(description), text(valueName)});
+    m_parser.addOption({ascii(option), description, valueName});
 }
 
 void CommandLine::addReportOptions(Page page)
 {
-    addFlag("json", "Write the report as JSON, for scripts.");
+    addFlag("json", Text::tr("Write the report as JSON, for scripts."));
     m_offersPage = page == Page::Offered;
     if (m_offersPage) {
-        addOption(
-            "html", "file",
-            "Also write the report as a self-contained web page, for somebody without a terminal.");
+        addOption("html", Text::tr("file"),
+                  Text::tr("Also write the report as a self-contained web page, for "
+                           "somebody without a terminal."));
     }
 }
 
 void CommandLine::addDatabaseOptions()
 {
-    m_description += QStringLiteral("\n\nThe database password is read from --password-file, from "
-                                    "the environment\nvariable %1 or from --defaults-file.")
-                         .arg(QLatin1String(kPasswordVariable));
+    m_description += QStringLiteral("\n\n")
+        + Text::tr("The database password is read from --password-file, from the environment "
+                   "variable %1 or from --defaults-file.")
+              .arg(QLatin1String(kPasswordVariable));
     ::addDatabaseOptions(m_parser, databaseSources());
 }
 
@@ -95,12 +117,12 @@ std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, Conso
 
 bool CommandLine::isSet(const char *option) const
 {
-    return m_parser.isSet(text(option));
+    return m_parser.isSet(ascii(option));
 }
 
 QString CommandLine::value(const char *option) const
 {
-    return m_parser.value(text(option));
+    return m_parser.value(ascii(option));
 }
 
 QString CommandLine::argument(int position) const
@@ -137,7 +159,7 @@ std::optional<ExitStatus> CommandLine::readDatabase(DatabaseOptions &options,
 
 QString CommandLine::usage() const
 {
-    QString usage = QStringLiteral("Usage: mirovahrctl %1 [OPTION...]").arg(m_subcommand);
+    QString usage = Text::tr("Usage: mirovahrctl %1 [OPTION...]").arg(m_subcommand);
     for (const QString &name : m_required)
         usage += QLatin1Char(' ') + name;
     for (const QString &name : m_optional)
@@ -152,7 +174,7 @@ QString CommandLine::helpText() const
     // The parser's own first line knows the program only, not the subcommand.
     const QString parserText = m_parser.helpText();
     const QString options = parserText.mid(parserText.indexOf(QLatin1Char('\n')) + 1);
-    return QStringList{usage(), QString(), m_description, options, exitStatusHelp()}.join(
+    return QStringList{usage(), QString(), wrapped(m_description), options, exitStatusHelp()}.join(
         QLatin1Char('\n'));
 }
 
@@ -160,9 +182,9 @@ QString CommandLine::argumentError() const
 {
     const int count = m_parser.positionalArguments().size();
     if (count < m_required.size())
-        return QStringLiteral("Missing argument %1; see --help").arg(m_required.at(count));
+        return Text::tr("Missing argument %1; see --help").arg(m_required.at(count));
     if (m_repeated.isEmpty() && count > m_required.size() + m_optional.size()) {
-        return QStringLiteral("Unexpected argument '%1'")
+        return Text::tr("Unexpected argument '%1'")
             .arg(argument(m_required.size() + m_optional.size()));
     }
     return {};

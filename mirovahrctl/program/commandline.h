@@ -14,8 +14,8 @@ struct DatabaseOptions;
 /// The command line of one subcommand. All subcommands use it, so that their options and help texts
 /// are consistent:
 ///
-///     CommandLine line("check-file", "Reads an HR export ...");
-///     line.addArgument("file", "The export.");
+///     CommandLine line("check-file", kDescription);
+///     line.addFlag("clear", Text::tr("Clear the flag instead."));
 ///     line.addReportOptions(CommandLine::Page::Offered);
 ///     return Report::run(line, arguments, console, [&](Report &report) { ... });
 class CommandLine {
@@ -26,20 +26,41 @@ public:
     /// and removes it.
     static inline constexpr char kPasswordVariable[] = "MIROVAHRCTL_PASSWORD";
 
-    /// \a description says in a few sentences what the subcommand does, in lines of at most 88
-    /// characters.
+    /// \a description says in a few sentences what the subcommand does, for Text::tr().
     CommandLine(const char *subcommand, const char *description);
 
     /// A required argument. Arguments come in the order in which they are added.
-    void addArgument(const char *name, const char *description);
+    void addArgument(const QString &name, const QString &description);
     /// An optional argument, after all required ones.
-    void addOptionalArgument(const char *name, const char *description);
+    void addOptionalArgument(const QString &name, const QString &description);
     /// An argument that may be missing and may be given several times, after all others.
-    void addRepeatedArgument(const char *name, const char *description);
+    void addRepeatedArgument(const QString &name, const QString &description);
     /// An option without a value.
-    void addFlag(const char *name, const char *description);
+    void addFlag(const char *option, const QString &description);
     /// An option with a value.
-    void addOption(const char *name, const char *valueName, const char *description);
+    void addOption(const char *option, const QString &valueName, const QString &description);
+    // For subcommands whose texts are not translated yet.
+    void addArgument(const char *name, const char *description)
+    {
+        addArgument(QString::fromUtf8(name), QString::fromUtf8(description));
+    }
+    void addOptionalArgument(const char *name, const char *description)
+    {
+        addOptionalArgument(QString::fromUtf8(name), QString::fromUtf8(description));
+    }
+    void addRepeatedArgument(const char *name, const char *description)
+    {
+        addRepeatedArgument(QString::fromUtf8(name), QString::fromUtf8(description));
+    }
+    void addFlag(const char *option, const char *description)
+    {
+        addFlag(option, QString::fromUtf8(description));
+    }
+    void addOption(const char *option, const char *valueName, const char *description)
+    {
+        addOption(option, QString::fromUtf8(valueName), QString::fromUtf8(description));
+    }
+
     /// --json and, where a page is offered, --html.
     void addReportOptions(Page page);
     /// The options that name the attendance database, and where else the program finds it.

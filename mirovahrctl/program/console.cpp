@@ -1,5 +1,6 @@
 #include "mirovahrctl/program/console.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/report/jsonreport.h"
 #include "mirovahrctl/report/wording.h"
 
@@ -49,7 +50,7 @@ ExitStatus Console::end(ExitStatus status, const QString &sentence)
 
 void Console::warn(const QString &sentence)
 {
-    writeMessage(QStringLiteral("Warning: ") + Wording::sentence(sentence));
+    writeMessage(Text::tr("Warning: %1").arg(Wording::sentence(sentence)));
 }
 
 void Console::writeMessage(const QString &sentence)

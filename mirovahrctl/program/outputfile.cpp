@@ -1,5 +1,6 @@
 #include "mirovahrctl/program/outputfile.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/program/console.h"
 
 #include <QDir>
@@ -37,9 +38,8 @@ std::optional<ExitStatus> OutputFile::finish(Console &console)
 
 ExitStatus OutputFile::fail(Console &console) const
 {
-    return console.fail(
-        ExitStatus::Usage,
-        QStringLiteral("'%1' cannot be written: %2").arg(fileName(), errorString()));
+    return console.fail(ExitStatus::Usage,
+                        Text::tr("'%1' cannot be written: %2").arg(fileName(), errorString()));
 }
 
 bool OutputFile::open(OpenMode mode)
@@ -72,5 +72,5 @@ std::optional<ExitStatus> refuseOverwriting(const QString &exportFile, const QSt
     if (!overwrites)
         return std::nullopt;
     return console.fail(ExitStatus::Usage,
-                        QStringLiteral("The result would overwrite the export; name another file"));
+                        Text::tr("The result would overwrite the export; name another file"));
 }

@@ -1,5 +1,7 @@
 #include "mirovahrctl/report/exitstatus.h"
 
+#include "cli/text.h"
+
 namespace {
 
 struct Description {
@@ -10,15 +12,18 @@ struct Description {
 
 /// In the order of their numbers.
 constexpr Description kDescriptions[] = {
-    {ExitStatus::Fine, "fine", "No findings"},
-    {ExitStatus::Findings, "findings", "There are findings that need attention"},
+    {ExitStatus::Fine, "fine", QT_TRANSLATE_NOOP("Text", "No findings")},
+    {ExitStatus::Findings, "findings",
+     QT_TRANSLATE_NOOP("Text", "There are findings that need attention")},
     {ExitStatus::Usage, "usage",
-     "The command line, a file that it names, or the configuration cannot be used"},
-    {ExitStatus::NoDatabase, "no-database", "The database cannot be reached or used"},
+     QT_TRANSLATE_NOOP(
+         "Text", "The command line, a file that it names, or the configuration cannot be used")},
+    {ExitStatus::NoDatabase, "no-database",
+     QT_TRANSLATE_NOOP("Text", "The database cannot be reached or used")},
     {ExitStatus::ContractBroken, "contract-broken",
-     "The database violates what the plugin relies on"},
+     QT_TRANSLATE_NOOP("Text", "The database violates what the plugin relies on")},
     {ExitStatus::GuardTripped, "guard-tripped",
-     "A safeguard refused the request; nothing was changed"},
+     QT_TRANSLATE_NOOP("Text", "A safeguard refused the request; nothing was changed")},
 };
 
 } // namespace
@@ -32,8 +37,7 @@ QString exitStatusHelp()
 {
     QMap<int, QString> sentences;
     for (const Description &description : kDescriptions) {
-        sentences.insert(static_cast<int>(description.status),
-                         QString::fromLatin1(description.sentence));
+        sentences.insert(static_cast<int>(description.status), Text::tr(description.sentence));
     }
     return CommonStatus::help(sentences);
 }

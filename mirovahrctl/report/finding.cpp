@@ -1,5 +1,6 @@
 #include "mirovahrctl/report/finding.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/report/rule.h"
 
 Finding makeFinding(const Rule &rule, const QString &message, const QString &advice)
@@ -8,12 +9,12 @@ Finding makeFinding(const Rule &rule, const QString &message, const QString &adv
     finding.severity = rule.severity;
     finding.rule = QString::fromLatin1(rule.id);
     finding.message = message;
-    finding.advice = advice.isNull() ? QString::fromUtf8(rule.advice) : advice;
+    finding.advice = advice.isNull() ? Text::tr(rule.advice) : advice;
     return finding;
 }
 
 QString findingPerson(const Finding &finding)
 {
     return finding.likely.isEmpty() ? finding.subject
-                                    : QStringLiteral("most likely ") + finding.likely;
+                                    : Text::tr("most likely %1").arg(finding.likely);
 }

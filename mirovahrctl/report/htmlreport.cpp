@@ -1,6 +1,8 @@
 #include "mirovahrctl/report/htmlreport.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/report/wording.h"
 
@@ -11,7 +13,7 @@ namespace {
 
 // The policy ensures that the page fetches nothing, whatever text of a file is in it.
 constexpr char kHead[] = R"(<!DOCTYPE html>
-<html lang="en">
+<html lang="%1">
 <head>
 <meta charset="utf-8">
 <meta name="viewport" content="width=device-width, initial-scale=1">
@@ -105,7 +107,7 @@ QString lineOf(const Finding &finding, qint64 shown)
 QString severityOf(const Finding &finding)
 {
     const QString word = severityWord(finding.severity);
-    const QString text = finding.dropped ? QStringLiteral("dropped") : word;
+    const QString text = finding.dropped ? Text::tr("dropped") : severityText(finding.severity);
     return QStringLiteral("<span class=\"%1\">%2</span>").arg(word, text);
 }
 
@@ -179,8 +181,8 @@ void HtmlReport::card(const Card &card)
         card.leads ? QStringLiteral("<article class=\"lead\">") : QStringLiteral("<article>");
     m_sections += QStringLiteral("<h3>%1</h3>\n%2").arg(html(card.who), list(card.what));
     if (!card.details.isEmpty()) {
-        m_sections += QStringLiteral("<details><summary>Details</summary>%1</details>")
-                          .arg(list(card.details));
+        m_sections += QStringLiteral("<details><summary>%1</summary>%2</details>")
+                          .arg(html(Text::tr("Details")), list(card.details));
     }
     m_sections += QStringLiteral("</article>\n");
 }
@@ -195,11 +197,11 @@ void HtmlReport::finding(const Finding &finding)
     ++m_findingCount;
     beginFindings();
     m_sections += QStringLiteral("<tr>%1%2%3%4%5</tr>\n")
-                      .arg(cell(QStringLiteral("Line"), placeOf(finding)),
-                           cell(QStringLiteral("Who"), html(findingPerson(finding))),
-                           cell(QStringLiteral("Field"), html(finding.field)),
-                           cell(QStringLiteral("Result"), severityOf(finding)),
-                           cell(QStringLiteral("What is wrong"),
+                      .arg(cell(Text::tr("Line"), placeOf(finding)),
+                           cell(Text::tr("Who"), html(findingPerson(finding))),
+                           cell(Text::tr("Field"), html(finding.field)),
+                           cell(Text::tr("Result"), severityOf(finding)),
+                           cell(Text::tr("What is wrong"),
                                 messageOf(finding) + lineOf(finding, m_shownLine)));
     if (!finding.lineText.isEmpty())
         m_shownLine = finding.line;
@@ -216,15 +218,16 @@ void HtmlReport::fact(const QString &, const QString &label, const QVariant &val
 void HtmlReport::end(ExitStatus status, const QString &verdict)
 {
     endSection();
-    const QString now = Moment::text(QDateTime::currentDateTime());
+    const QString origin =
+        Text::tr("Written by mirovahrctl %1 on %2.")
+            .arg(QStringLiteral(MIROVAHR_VERSION), Moment::text(QDateTime::currentDateTime()));
     const QString page =
         QStringLiteral("<title>%1</title>\n%2</head>\n<body>\n<header>\n<h1>%1</h1>\n"
                        "<p class=\"verdict %3\">%4</p>\n<dl>\n%5</dl>\n</header>\n<main>\n%6"
-                       "</main>\n<footer><p>Written by mirovahrctl %7 on %8.</p></footer>\n"
-                       "</body>\n</html>\n")
+                       "</main>\n<footer><p>%7</p></footer>\n</body>\n</html>\n")
             .arg(html(m_title), QLatin1String(kStyle), exitStatusWord(status), html(verdict),
-                 m_facts, m_sections, QStringLiteral(MIROVAHR_VERSION), now);
-    m_out.write(kHead);
+                 m_facts, m_sections, html(origin));
+    m_out.write(QString::fromLatin1(kHead).arg(Language::code()).toUtf8());
     m_out.write(page.toUtf8());
 }
 
@@ -256,9 +259,10 @@ void HtmlReport::beginFindings()
 {
     if (m_inFindings)
         return;
-    m_sections += QStringLiteral("<table class=\"findings\">\n<thead><tr><th>Line</th><th>Who</th>"
-                                 "<th>Field</th><th>Result</th><th>What is wrong</th></tr></thead>"
-                                 "\n<tbody>\n");
+    m_sections += QStringLiteral("<table class=\"findings\">\n<thead><tr><th>%1</th><th>%2</th>"
+                                 "<th>%3</th><th>%4</th><th>%5</th></tr></thead>\n<tbody>\n")
+                      .arg(html(Text::tr("Line")), html(Text::tr("Who")), html(Text::tr("Field")),
+                           html(Text::tr("Result")), html(Text::tr("What is wrong")));
     m_inFindings = true;
 }
 
@@ -273,8 +277,8 @@ void HtmlReport::writeLeftOut()
 {
     if (m_leftOut == 0)
         return;
-    m_sections += QStringLiteral("<p>Not shown on this page: %1.</p>\n")
-                      .arg(Wording::counted(m_leftOut, QStringLiteral("more finding"),
-                                            QStringLiteral("more findings")));
+    m_sections += QStringLiteral("<p>%1</p>\n")
+                      .arg(html(Text::tr("Not shown on this page: %Ln more finding(s).", nullptr,
+                                         Language::count(m_leftOut))));
     m_leftOut = 0;
 }

@@ -1,16 +1,22 @@
 #include "mirovahrctl/report/severity.h"
 
-#include <QtGlobal>
+#include "cli/text.h"
+
+namespace {
+
+/// By Severity.
+constexpr const char *kWords[] = {QT_TRANSLATE_NOOP("Text", "note"),
+                                  QT_TRANSLATE_NOOP("Text", "warning"),
+                                  QT_TRANSLATE_NOOP("Text", "error")};
+
+} // namespace
 
 QString severityWord(Severity severity)
 {
-    switch (severity) {
-    case Severity::Note:
-        return QStringLiteral("note");
-    case Severity::Warning:
-        return QStringLiteral("warning");
-    case Severity::Error:
-        return QStringLiteral("error");
-    }
-    Q_UNREACHABLE();
+    return QString::fromLatin1(kWords[static_cast<int>(severity)]);
+}
+
+QString severityText(Severity severity)
+{
+    return Text::tr(kWords[static_cast<int>(severity)]);
 }

@@ -9,5 +9,8 @@ enum class Severity {
     Error, ///< fails: a line is dropped, a person not written, a key without effect
 };
 
-/// "note", "warning" or "error".
+/// "note", "warning" or "error": a stable word for scripts.
 QString severityWord(Severity severity);
+
+/// The same for people.
+QString severityText(Severity severity);

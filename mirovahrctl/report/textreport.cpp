@@ -1,6 +1,8 @@
 #include "mirovahrctl/report/textreport.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/textlayout.h"
 #include "mirovahrctl/report/wording.h"
 
@@ -21,7 +23,7 @@ QString findingHead(const Finding &finding)
 {
     QStringList place;
     if (finding.line > 0)
-        place << QStringLiteral("line %1").arg(finding.line);
+        place << Text::tr("line %1").arg(finding.line);
     if (!finding.field.isEmpty())
         place << Wording::visible(finding.field);
     QString head = place.join(QStringLiteral(", "));
@@ -30,7 +32,7 @@ QString findingHead(const Finding &finding)
         head += QStringLiteral(" (%1)").arg(Wording::visible(who));
     if (!head.isEmpty())
         head = head.trimmed() + QStringLiteral(": ");
-    return head + severityWord(finding.severity) + QStringLiteral(": ");
+    return head + severityText(finding.severity) + QStringLiteral(": ");
 }
 
 QStringList cellTexts(const QVariantList &row)
@@ -127,14 +129,13 @@ void TextReport::finding(const Finding &finding)
               kIndent / 2);
     if (!finding.advice.isEmpty()) {
         const QString indent(kIndent, QLatin1Char(' '));
-        paragraph(indent + (finding.forHr ? QStringLiteral("Tell HR: ") : QString())
-                      + Wording::visible(finding.advice),
-                  kIndent);
+        const QString advice = Wording::visible(finding.advice);
+        paragraph(indent + (finding.forHr ? Text::tr("Tell HR: %1").arg(advice) : advice), kIndent);
     }
     if (!finding.lineText.isEmpty() && finding.line != m_shownLine) {
         m_shownLine = finding.line;
-        paragraph(QString(kIndent, QLatin1Char(' ')) + QStringLiteral("The line: ")
-                      + Wording::visible(finding.lineText),
+        paragraph(QString(kIndent, QLatin1Char(' '))
+                      + Text::tr("The line: %1").arg(Wording::visible(finding.lineText)),
                   kIndent);
     }
 }
@@ -178,7 +179,7 @@ void TextReport::endSection()
     }
     m_facts.clear();
     if (m_leftOut > 0)
-        paragraph(QStringLiteral("… and %1 more: %2.").arg(QString::number(m_leftOut), m_hint), 0);
+        paragraph(Text::tr("… and %1 more: %2.").arg(Language::number(m_leftOut), m_hint), 0);
     m_leftOut = 0;
     m_heading.clear();
 }

@@ -1,6 +1,10 @@
 #include "mirovahrctl/report/wording.h"
 
+#include "cli/text.h"
+#include "mirovahrctl/report/language.h"
+
 #include <algorithm>
+#include <iterator>
 
 namespace Wording {
 
@@ -10,12 +14,13 @@ constexpr int kLongest = 60;
 
 struct Unit {
     qint64 seconds;
-    const char *one;
-    const char *many;
+    const char *text;
 };
 
-constexpr Unit kUnits[] = {
-    {86400, "day", "days"}, {3600, "hour", "hours"}, {60, "minute", "minutes"}};
+constexpr Unit kUnits[] = {{86400, QT_TRANSLATE_N_NOOP("Text", "%Ln day(s)")},
+                           {3600, QT_TRANSLATE_N_NOOP("Text", "%Ln hour(s)")},
+                           {60, QT_TRANSLATE_N_NOOP("Text", "%Ln minute(s)")},
+                           {1, QT_TRANSLATE_N_NOOP("Text", "%Ln second(s)")}};
 
 bool isInvisible(QChar c)
 {
@@ -58,7 +63,7 @@ QString quoted(const QString &text)
 QString plain(const QVariant &value)
 {
     if (value.type() == QVariant::Bool)
-        return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+        return value.toBool() ? Text::tr("yes") : Text::tr("no");
     return value.toString();
 }
 
@@ -74,13 +79,10 @@ QString counted(qint64 count, const QString &one, const QString &many)
 
 QString span(qint64 seconds)
 {
-    for (const Unit &unit : kUnits) {
-        if (seconds >= 2 * unit.seconds) {
-            return counted(seconds / unit.seconds, QString::fromLatin1(unit.one),
-                           QString::fromLatin1(unit.many));
-        }
-    }
-    return counted(seconds, QStringLiteral("second"), QStringLiteral("seconds"));
+    const auto *const unit =
+        std::find_if(std::begin(kUnits), std::prev(std::end(kUnits)),
+                     [seconds](const Unit &one) { return seconds >= 2 * one.seconds; });
+    return Text::tr(unit->text, nullptr, Language::count(seconds / unit->seconds));
 }
 
 } // namespace Wording

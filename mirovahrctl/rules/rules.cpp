@@ -1,35 +1,36 @@
 #include "mirovahrctl/report/rules.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
-#include "mirovahrctl/report/wording.h"
 
 namespace {
 
-constexpr char kDescription[] =
-    "Lists the rules that the other subcommands check, with the severity of their findings,\n"
-    "grouped by subcommand. With an id, such as field-count, explains that rule: what a\n"
-    "finding means, and what to do about it.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Lists the rules that the other subcommands check, with the severity of their findings, "
+    "grouped by subcommand. With an id, such as field-count, explains that rule: what a finding "
+    "means, and what to do about it.");
 
-QString severityText(const Rule &rule)
+QString severitiesOf(const Rule &rule)
 {
-    const QString usual = severityWord(rule.severity);
+    const QString usual = severityText(rule.severity);
     return rule.otherSeverity == rule.severity
         ? usual
-        : QStringLiteral("%1 or %2").arg(usual, severityWord(rule.otherSeverity));
+        : Text::tr("%1 or %2").arg(usual, severityText(rule.otherSeverity));
 }
 
 QVariantList listedRow(const Rule &rule)
 {
-    return {QString::fromLatin1(rule.id), severityText(rule), QString::fromUtf8(rule.meaning)};
+    return {QString::fromLatin1(rule.id), severitiesOf(rule), Text::tr(rule.meaning)};
 }
 
 QVariantList explainedRow(const RuleGroup &group, const Rule &rule)
 {
-    const QString advice = QString::fromUtf8(rule.advice);
-    return {QString::fromLatin1(group.subcommand), severityText(rule),
-            QString::fromUtf8(rule.meaning), advice.isEmpty() ? QVariant() : QVariant(advice)};
+    const QString advice = Text::tr(rule.advice);
+    return {QString::fromLatin1(group.subcommand), severitiesOf(rule), Text::tr(rule.meaning),
+            advice.isEmpty() ? QVariant() : QVariant(advice)};
 }
 
 /// Writes a section with the rules of one subcommand.
@@ -38,9 +39,9 @@ void listGroup(const RuleGroup &group, Report &report)
     const QString subcommand = QString::fromLatin1(group.subcommand);
     report.section(subcommand, subcommand);
     Table table{QStringLiteral("rules"),
-                {{QStringLiteral("rule"), QStringLiteral("Rule")},
-                 {QStringLiteral("severity"), QStringLiteral("Severity")},
-                 {QStringLiteral("meaning"), QStringLiteral("Meaning")}},
+                {{QStringLiteral("rule"), Text::tr("Rule")},
+                 {QStringLiteral("severity"), Text::tr("Severity")},
+                 {QStringLiteral("meaning"), Text::tr("Meaning")}},
                 {}};
     for (const Rule *const rule : group.rules)
         table.rows.append(listedRow(*rule));
@@ -50,22 +51,19 @@ void listGroup(const RuleGroup &group, Report &report)
         others += QString::fromLatin1(other);
     if (!others.isEmpty()) {
         report.sentence(
-            QStringLiteral("Also reports rules of %1.").arg(others.join(QStringLiteral(", "))));
+            Text::tr("Also reports rules of %1.").arg(others.join(QStringLiteral(", "))));
     }
 }
 
 ExitStatus list(const CommandLine &line, Report &report)
 {
-    report.begin(line.subcommand(), QStringLiteral("Rules"));
+    report.begin(line.subcommand(), Text::tr("Rules"));
     int count = 0;
     for (const RuleGroup &group : ruleGroups()) {
         listGroup(group, report);
         count += group.rules.size();
     }
-    return report.conclude(
-        ExitStatus::Fine,
-        QStringLiteral("There are %1.")
-            .arg(Wording::counted(count, QStringLiteral("rule"), QStringLiteral("rules"))));
+    return report.conclude(ExitStatus::Fine, Text::tr("There are %Ln rule(s).", nullptr, count));
 }
 
 /// A row for each subcommand that has a rule of this id.
@@ -84,18 +82,16 @@ QVector<QVariantList> rowsOf(const QString &id)
 ExitStatus explain(const CommandLine &line, const QVector<QVariantList> &rows, Report &report)
 {
     const QString id = line.argument(0);
-    report.begin(line.subcommand(), QStringLiteral("Rule %1").arg(id));
-    report.section(QStringLiteral("rule"), QStringLiteral("What it means"));
+    report.begin(line.subcommand(), Text::tr("Rule %1").arg(id));
+    report.section(QStringLiteral("rule"), Text::tr("What it means"));
     report.table({QStringLiteral("rule"),
-                  {{QStringLiteral("subcommand"), QStringLiteral("Subcommand")},
-                   {QStringLiteral("severity"), QStringLiteral("Severity")},
-                   {QStringLiteral("meaning"), QStringLiteral("Meaning")},
-                   {QStringLiteral("advice"), QStringLiteral("What to do")}},
+                  {{QStringLiteral("subcommand"), Text::tr("Subcommand")},
+                   {QStringLiteral("severity"), Text::tr("Severity")},
+                   {QStringLiteral("meaning"), Text::tr("Meaning")},
+                   {QStringLiteral("advice"), Text::tr("What to do")}},
                   rows});
     return report.conclude(ExitStatus::Fine,
-                           QStringLiteral("%1 this rule.")
-                               .arg(Wording::counted(rows.size(), QStringLiteral("subcommand has"),
-                                                     QStringLiteral("subcommands have"))));
+                           Text::tr("%Ln subcommand(s) have this rule.", nullptr, rows.size()));
 }
 
 ExitStatus answer(const CommandLine &line, Report &report, Console &console)
@@ -107,7 +103,7 @@ ExitStatus answer(const CommandLine &line, Report &report, Console &console)
     if (!rows.isEmpty())
         return explain(line, rows, report);
     return console.fail(ExitStatus::Usage,
-                        QStringLiteral("Unknown rule '%1'; mirovahrctl rules lists them").arg(id));
+                        Text::tr("Unknown rule '%1'; mirovahrctl rules lists them").arg(id));
 }
 
 } // namespace
@@ -115,7 +111,7 @@ ExitStatus answer(const CommandLine &line, Report &report, Console &console)
 ExitStatus runRules(const QStringList &arguments, Console &console)
 {
     CommandLine line("rules", kDescription);
-    line.addOptionalArgument("id", "The rule to explain.");
+    line.addOptionalArgument(Text::tr("id"), Text::tr("The rule to explain."));
     line.addReportOptions(CommandLine::Page::NotOffered);
     return Report::run(line, arguments, console,
                        [&](Report &report) { return answer(line, report, console); });

@@ -5,8 +5,8 @@ project=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
 script=$(basename -- "$0")
 
 # What it takes to build the project and to run its tests and its demo.
-project_packages=(cmake ninja-build g++ qtbase5-dev libqt5sql5-mysql mariadb-server-core
-    mariadb-client-core mount util-linux)
+project_packages=(cmake ninja-build g++ qtbase5-dev qttools5-dev libqt5sql5-mysql
+    mariadb-server-core mariadb-client-core mount util-linux)
 
 # What the tests take besides: a browser for the pages, a clock that can be moved, readers for the
 # manual pages, compressed logs.

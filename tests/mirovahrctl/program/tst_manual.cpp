@@ -105,7 +105,7 @@ void TestManual::completion_data()
     QTest::newRow("the subcommand that help is for")
         << QStringList{"help", "check-f"} << QStringList{"check-file"};
     QTest::newRow("options") << QStringList{"check-config", "--"}
-                             << QStringList{"--help", "--json", "--version"};
+                             << QStringList{"--help", "--json", "--language", "--version"};
     QTest::newRow("the beginning of an option")
         << QStringList{"check-file", "x", "--pass"} << QStringList{"--password-file"};
     QTest::newRow("an option behind a flag")
@@ -114,6 +114,8 @@ void TestManual::completion_data()
                             << QStringList{"/etc/hostname"};
     QTest::newRow("a file behind a flag")
         << QStringList{"check-file", "--json", "/etc/hostnam"} << QStringList{"/etc/hostname"};
+    QTest::newRow("a language") << QStringList{"check-file", "--language", "s"}
+                                << QStringList{"sk"};
     QTest::newRow("an unknown subcommand") << QStringList{"nothing", "--"} << QStringList();
 }
 
@@ -127,6 +129,9 @@ static QStringList completions(const QStringList &words)
                        "\"${COMPREPLY[@]}\"")
             .arg(MIROVAHR_COMPLETION, MIROVAHRCTL);
     ProgramRun bash;
+    // bash complains of a locale that is not there in LC_ALL only.
+    bash.setVariable("LC_ALL", "");
+    bash.setVariable("LANG", "sk_SK.UTF-8");
     bash.run("bash", QStringList{"-c", script, "bash"} + words);
     return (bash.output() + bash.errors()).split('\n', Qt::SkipEmptyParts);
 }
