@@ -1,6 +1,6 @@
 #include "mirovahrctl/preview/previewcopy.h"
 
-#include "mirovahrctl/preview/previewreading.h"
+#include "mirovahrctl/preview/previewportions.h"
 #include "mirovahrctl/preview/previewschema.h"
 #include "mirovahrctl/preview/previewselection.h"
 

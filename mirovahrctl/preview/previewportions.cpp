@@ -1,4 +1,4 @@
-#include "mirovahrctl/preview/previewreading.h"
+#include "mirovahrctl/preview/previewportions.h"
 
 #include "mirovahrctl/preview/previewschema.h"
 #include "mirovahrctl/site/sqlsession.h"
