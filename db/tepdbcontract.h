@@ -82,7 +82,7 @@ struct Column {
     const char *name;
     unsigned rights; ///< the plugin's
     Written written = {};
-    const char *label = ""; ///< its name for people
+    const char *label = ""; ///< its name for people, for Text::tr()
     Shown shown = Shown::Plain;
 
     /// "people.uid"
@@ -217,47 +217,47 @@ inline constexpr Table kTables[] = {
 };
 
 inline constexpr Column kColumns[] = {
-    {"people", "uid",        S,         {}, "uid"},
-    {"people", "pid",        S | I | U, number(0, kUnsigned32), "pid"},
-    {"people", "pamId",      S | I | U, text(21), "payroll id"}, // 4294967295.4294967295
-    {"people", "title",      S | I | U, anyText(), "title"},
-    {"people", "name",       S | I | U, anyText(), "first name"},
-    {"people", "surname",    S | I | U, anyText(), "surname"},
-    {"people", "title2",     S | I | U, anyText(), "title after the name"},
-    {"people", "phone",      S | I | U, anyText(), "telephone"},
-    {"people", "begin",      S | I | U, time(0, kUnsigned32), "employed from", Shown::Day},
-    {"people", "end",        S | I | U, orNull(day()), "employed until", Shown::Day},
-    {"people", "created",    S | I | U, now(), "created", Shown::Day},
-    {"people", "edited",     S | U,     now(), "last changed", Shown::Day},
-    {"people", "editor",     U,         number(0, 0), "last changed by", Shown::Editor},
-    {"people", "rsBegin",    S | I | U, orNull(day()), "relationship state from", Shown::Day},
-    {"people", "rsEnd",      S | I | U, orNull(day()), "relationship state until", Shown::Day},
-    {"people", "rsText",     S | I | U, configured("MES", anyText(), 120), "relationship state"},
-    {"people", "type",       S | I | U, number(0, 4), "employment type"},
-    {"people", "did",        S | I | U, configured("departmentId", orNull(number(1, kUnsigned32))), "department"},
-    {"people", "calendarID", S | I | U, number(0, kUnsigned32), "HR's calendar"},
-    {"people", "bid",        S | I | U, orNull(number(0, kUnsigned16)), "home branch", Shown::Branch},
-    {"people", "status",     S | U,     number(0, 1), "active", Shown::YesNo},
-    {"people", "lastCalc",   S | U,     day(), "attendance recalculated from", Shown::DayAfter},
-    {"people", "calc",       S | U,     number(0, 0), "last calculation", Shown::CalculationDue},
-    {"people", "gid",        S,         {}, "calendar group by default", Shown::CalendarGroup},
+    {"people", "uid",        S,         {}, QT_TRANSLATE_NOOP("Text", "uid")},
+    {"people", "pid",        S | I | U, number(0, kUnsigned32), QT_TRANSLATE_NOOP("Text", "pid")},
+    {"people", "pamId",      S | I | U, text(21), QT_TRANSLATE_NOOP("Text", "payroll id")}, // 4294967295.4294967295
+    {"people", "title",      S | I | U, anyText(), QT_TRANSLATE_NOOP("Text", "title")},
+    {"people", "name",       S | I | U, anyText(), QT_TRANSLATE_NOOP("Text", "first name")},
+    {"people", "surname",    S | I | U, anyText(), QT_TRANSLATE_NOOP("Text", "surname")},
+    {"people", "title2",     S | I | U, anyText(), QT_TRANSLATE_NOOP("Text", "title after the name")},
+    {"people", "phone",      S | I | U, anyText(), QT_TRANSLATE_NOOP("Text", "telephone")},
+    {"people", "begin",      S | I | U, time(0, kUnsigned32), QT_TRANSLATE_NOOP("Text", "employed from"), Shown::Day},
+    {"people", "end",        S | I | U, orNull(day()), QT_TRANSLATE_NOOP("Text", "employed until"), Shown::Day},
+    {"people", "created",    S | I | U, now(), QT_TRANSLATE_NOOP("Text", "created"), Shown::Day},
+    {"people", "edited",     S | U,     now(), QT_TRANSLATE_NOOP("Text", "last changed"), Shown::Day},
+    {"people", "editor",     U,         number(0, 0), QT_TRANSLATE_NOOP("Text", "last changed by"), Shown::Editor},
+    {"people", "rsBegin",    S | I | U, orNull(day()), QT_TRANSLATE_NOOP("Text", "relationship state from"), Shown::Day},
+    {"people", "rsEnd",      S | I | U, orNull(day()), QT_TRANSLATE_NOOP("Text", "relationship state until"), Shown::Day},
+    {"people", "rsText",     S | I | U, configured("MES", anyText(), 120), QT_TRANSLATE_NOOP("Text", "relationship state")},
+    {"people", "type",       S | I | U, number(0, 4), QT_TRANSLATE_NOOP("Text", "employment type")},
+    {"people", "did",        S | I | U, configured("departmentId", orNull(number(1, kUnsigned32))), QT_TRANSLATE_NOOP("Text", "department")},
+    {"people", "calendarID", S | I | U, number(0, kUnsigned32), QT_TRANSLATE_NOOP("Text", "HR's calendar")},
+    {"people", "bid",        S | I | U, orNull(number(0, kUnsigned16)), QT_TRANSLATE_NOOP("Text", "home branch"), Shown::Branch},
+    {"people", "status",     S | U,     number(0, 1), QT_TRANSLATE_NOOP("Text", "active"), Shown::YesNo},
+    {"people", "lastCalc",   S | U,     day(), QT_TRANSLATE_NOOP("Text", "attendance recalculated from"), Shown::DayAfter},
+    {"people", "calc",       S | U,     number(0, 0), QT_TRANSLATE_NOOP("Text", "last calculation"), Shown::CalculationDue},
+    {"people", "gid",        S,         {}, QT_TRANSLATE_NOOP("Text", "calendar group by default"), Shown::CalendarGroup},
 
     {"people_pam", "uid", I | U,     idOf("people.uid")},
-    {"people_pam", "id",  S | I | U, number(0, 2), "settings of the payroll export"},
+    {"people_pam", "id",  S | I | U, number(0, 2), QT_TRANSLATE_NOOP("Text", "settings of the payroll export")},
 
     {"atten", "uid",  S},
     {"atten", "date", S},
-    {"atten", "ok",   S | U, number(-1, -1), "below 0: to be calculated", Shown::Calculated},
+    {"atten", "ok",   S | U, number(-1, -1), QT_TRANSLATE_NOOP("Text", "below 0: to be calculated"), Shown::Calculated},
     {"atten", "lock", S},
     {"atten", "man",  S},
 
     {"branches", "bid",    S},
-    {"branches", "number", S, {}, "cost centre"},
+    {"branches", "number", S, {}, QT_TRANSLATE_NOOP("Text", "cost centre")},
     {"branches", "mgid",   S},
 
-    {"brape", "bid",   S | I | U, number(0, kUnsigned16), "branch"},
+    {"brape", "bid",   S | I | U, number(0, kUnsigned16), QT_TRANSLATE_NOOP("Text", "branch")},
     {"brape", "uid",   S | I | U, idOf("people.uid")},
-    {"brape", "since", S | I | U, now(), "member since", Shown::Day},
+    {"brape", "since", S | I | U, now(), QT_TRANSLATE_NOOP("Text", "member since"), Shown::Day},
 
     {"bradm", "bid", S},
     {"bradm", "aid", S},
@@ -268,23 +268,23 @@ inline constexpr Column kColumns[] = {
     {"groups", "parent",     S},
     {"groups", "calendarID", S},
 
-    {"groups_plan", "gid",   S | I | U, idOf("groups.gid"), "calendar group", Shown::CalendarGroup},
+    {"groups_plan", "gid",   S | I | U, idOf("groups.gid"), QT_TRANSLATE_NOOP("Text", "calendar group"), Shown::CalendarGroup},
     {"groups_plan", "uid",   S | I | U, idOf("people.uid")},
-    {"groups_plan", "since", S | I | U, month(), "month"},
+    {"groups_plan", "since", S | I | U, month(), QT_TRANSLATE_NOOP("Text", "month")},
 
-    {"groups_month", "gid",   S | I | U, idOf("groups_plan.gid"), "calendar group", Shown::CalendarGroup},
+    {"groups_month", "gid",   S | I | U, idOf("groups_plan.gid"), QT_TRANSLATE_NOOP("Text", "calendar group"), Shown::CalendarGroup},
     {"groups_month", "uid",   S | I | U, idOf("people.uid")},
-    {"groups_month", "month", S | I | U, month(), "month"},
+    {"groups_month", "month", S | I | U, month(), QT_TRANSLATE_NOOP("Text", "month")},
 
     {"funds", "fid",  S},
     {"funds", "iid",  S},
     {"funds", "unit", S},
 
-    {"funds_move", "type",  S | I | U, number(0, 3), "kind of movement"},
-    {"funds_move", "day",   S | I | U, serverTime(), "day"},
-    {"funds_move", "month", I | U,     month(), "month"},
-    {"funds_move", "value", S | I | U, number(-2147483648.0, 2147483647.0), "hundredths of a day", Shown::Hundredths},
-    {"funds_move", "fid",   S | I | U, number(0, kUnsigned16), "fund"},
+    {"funds_move", "type",  S | I | U, number(0, 3), QT_TRANSLATE_NOOP("Text", "kind of movement")},
+    {"funds_move", "day",   S | I | U, serverTime(), QT_TRANSLATE_NOOP("Text", "day")},
+    {"funds_move", "month", I | U,     month(), QT_TRANSLATE_NOOP("Text", "month")},
+    {"funds_move", "value", S | I | U, number(-2147483648.0, 2147483647.0), QT_TRANSLATE_NOOP("Text", "hundredths of a day"), Shown::Hundredths},
+    {"funds_move", "fid",   S | I | U, number(0, kUnsigned16), QT_TRANSLATE_NOOP("Text", "fund")},
     {"funds_move", "uid",   S | I | U, idOf("people.uid")},
 
     {"admins", "aid",            S},
@@ -292,21 +292,21 @@ inline constexpr Column kColumns[] = {
 
     {"admins_people", "aid",     S | I | U, idOf("admins.aid")},
     {"admins_people", "uid",     S | I | U, idOf("people.uid")},
-    {"admins_people", "request", S | I | U | Omitted, number(0, 1), "receives the requests", Shown::YesNo},
+    {"admins_people", "request", S | I | U | Omitted, number(0, 1), QT_TRANSLATE_NOOP("Text", "receives the requests"), Shown::YesNo},
 
     {"term", "tid",    S},
     {"term", "bid",    S},
     {"term", "status", S},
     {"term", "flags",  S},
-    {"term", "syn",    S | U, number(0, 323), "kinds of data to fetch", Shown::Flags},
+    {"term", "syn",    S | U, number(0, 323), QT_TRANSLATE_NOOP("Text", "kinds of data to fetch"), Shown::Flags},
 
     {"term_sync", "tid",     I, idOf("term.tid")},
     {"term_sync", "type",    I, text(1)},
     {"term_sync", "ref",     I, text(11)}, // people_term
     {"term_sync", "ref_col", I, text(11)}, // colorGroups
     {"term_sync", "ref_id",  I, idOf("people.uid")},
-    {"term_sync", "created", I, now(), "queued"},
-    {"term_sync", "flags",   I, number(0, 256), "kind of data"},
+    {"term_sync", "created", I, now(), QT_TRANSLATE_NOOP("Text", "queued")},
+    {"term_sync", "flags",   I, number(0, 256), QT_TRANSLATE_NOOP("Text", "kind of data")},
 
     {"people_term", "tid", S | I | U, idOf("term.tid")},
     {"people_term", "uid", S | I | U, idOf("people.uid")},
@@ -376,7 +376,8 @@ inline bool getsRows(const QString &table)
     return !columnsWith(I, table).isEmpty();
 }
 
-/// The name for people of a column that the plugin uses. Does not compile for another one.
+/// The name for people of a column that the plugin uses, for Text::tr(). Does not compile for any
+/// other.
 constexpr const char *labelOf(std::string_view table, std::string_view name)
 {
     for (const Column &column : kColumns) {
