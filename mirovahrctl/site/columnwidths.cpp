@@ -1,5 +1,6 @@
 #include "mirovahrctl/site/columnwidths.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/site/sqlsession.h"
 
 namespace {
@@ -19,7 +20,7 @@ ColumnWidths readColumnWidths(SqlSession &site, QString &error)
     if (site.failed()) {
         error = site.failure();
     } else if (widths.isEmpty()) {
-        error = QStringLiteral(
+        error = Text::tr(
             "The database has no table 'people' with text columns, or the account may not see it");
     }
     return widths;

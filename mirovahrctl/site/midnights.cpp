@@ -1,5 +1,6 @@
 #include "mirovahrctl/site/midnights.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/site/sqlsession.h"
 #include "worker/recorddates.h"
 
@@ -56,7 +57,7 @@ QString Midnights::disagreement(SqlSession &server)
     const QVector<QDate> days = daysToCompare(QDate::currentDate());
     if (!differing(days, server.row(query(days))).isValid())
         return {};
-    return QStringLiteral("The site's server (time zone %1) and this program disagree about when "
-                          "days begin. Run this program with the TZ of the attendance server")
+    return Text::tr("The site's server (time zone %1) and this program disagree about when "
+                    "days begin. Run this program with the TZ of the attendance server")
         .arg(server.value(QStringLiteral("SELECT @@SESSION.time_zone")));
 }

@@ -1,6 +1,7 @@
 #include "mirovahrctl/site/sitedatabase.h"
 
 #include "cli/database.h"
+#include "cli/text.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 
@@ -43,7 +44,7 @@ std::optional<ExitStatus> SiteDatabase::open(const CommandLine &line, DatabaseAc
     if (!m_database->open()) {
         return console.fail(
             ExitStatus::NoDatabase,
-            QStringLiteral("The database cannot be opened: %1").arg(m_database->errorString()));
+            Text::tr("The database cannot be opened: %1").arg(m_database->errorString()));
     }
     m_sql.emplace(m_database->handle());
     m_console = &console;
@@ -59,8 +60,8 @@ QString SiteDatabase::loss() const
     question.run(QLatin1String(kAnswer));
     if (!question.isLost())
         return {};
-    return QStringLiteral("The database server %1 has closed the connection or did not answer in "
-                          "time (see --read-timeout)")
+    return Text::tr("The database server %1 has closed the connection or did not answer in "
+                    "time (see --read-timeout)")
         .arg(m_options.server());
 }
 

@@ -1,5 +1,7 @@
 #include "mirovahrctl/site/sqlsession.h"
 
+#include "cli/text.h"
+
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -98,7 +100,7 @@ bool SqlSession::forEachRow(const QString &sql,
 
 QString SqlSession::failure() const
 {
-    return QStringLiteral("The database cannot be used: %1").arg(m_error);
+    return Text::tr("The database cannot be used: %1").arg(m_error);
 }
 
 bool SqlSession::isLost() const
