@@ -1,5 +1,6 @@
 #include "mirovahrctl/pluginside/forceflag.h"
 
+#include "cli/text.h"
 #include "db/tepdbsettings.h"
 #include "mirovahrctl/pluginside/pluginlog.h"
 #include "worker/schedule.h"
@@ -15,7 +16,7 @@ std::optional<bool> ForceFlag::isSet()
     const bool on = TepDbSettings(m_db).variableGet(Schedule::kForceSyncKey, QVariant()).toBool();
     if (log.problems().isEmpty())
         return on;
-    m_error = QStringLiteral("The force flag cannot be read: %1").arg(log.problems());
+    m_error = Text::tr("The force flag cannot be read: %1").arg(log.problems());
     return std::nullopt;
 }
 
@@ -24,6 +25,6 @@ bool ForceFlag::set(bool on)
     const PluginLog log;
     if (TepDbSettings(m_db).variableSet(Schedule::kForceSyncKey, on ? 1 : 0))
         return true;
-    m_error = QStringLiteral("The force flag cannot be written: %1").arg(log.problems());
+    m_error = Text::tr("The force flag cannot be written: %1").arg(log.problems());
     return false;
 }

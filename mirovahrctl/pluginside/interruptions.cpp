@@ -1,6 +1,7 @@
 #include "mirovahrctl/pluginside/interruptions.h"
 
-#include "mirovahrctl/report/wording.h"
+#include "cli/text.h"
+#include "mirovahrctl/report/language.h"
 
 #include <algorithm>
 #include <iterator>
@@ -38,7 +39,7 @@ bool Interruptions::isLoggedIn(std::string_view line)
 
 QString Interruptions::sentence(qint64 count)
 {
-    return QStringLiteral("%1 through a deadlock, the timeout of a lock or a lost connection.")
-        .arg(Wording::counted(count, QStringLiteral("statement failed"),
-                              QStringLiteral("statements failed")));
+    return Text::tr("%Ln statement(s) failed through a deadlock, the timeout of a lock or a lost "
+                    "connection.",
+                    nullptr, Language::count(count));
 }

@@ -1,5 +1,7 @@
 #include "mirovahrctl/pluginside/logsource.h"
 
+#include "cli/text.h"
+
 #include <QFile>
 #include <QProcess>
 
@@ -124,7 +126,7 @@ std::unique_ptr<QIODevice> LogSource::open()
     if (program == nullptr)
         return file;
     if (m_path.isEmpty()) {
-        fail(QStringLiteral("it is compressed; unpack it with %1").arg(QLatin1String(program)));
+        fail(Text::tr("it is compressed; unpack it with %1").arg(QLatin1String(program)));
         return nullptr;
     }
     return decompress(program);
@@ -136,7 +138,7 @@ std::unique_ptr<QIODevice> LogSource::decompress(const char *program)
     process->setStandardInputFile(m_path);
     process->start(QString::fromLatin1(program), QStringList(), QIODevice::ReadOnly);
     if (!process->waitForStarted(-1)) {
-        fail(QStringLiteral("%1, which unpacks it, cannot be started: %2")
+        fail(Text::tr("%1, which unpacks it, cannot be started: %2")
                  .arg(QLatin1String(program), process->errorString()));
         return nullptr;
     }
@@ -149,8 +151,8 @@ bool LogSource::finish(QIODevice &device)
         process->waitForFinished(-1);
         if (process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0)
             return true;
-        return fail(QStringLiteral("it cannot be unpacked: ")
-                    + QString::fromLocal8Bit(process->readAllStandardError()).trimmed());
+        return fail(Text::tr("it cannot be unpacked: %1")
+                        .arg(QString::fromLocal8Bit(process->readAllStandardError()).trimmed()));
     }
     const auto &file = static_cast<const QFile &>(device);
     return file.error() == QFileDevice::NoError || fail(file.errorString());
@@ -158,8 +160,7 @@ bool LogSource::finish(QIODevice &device)
 
 bool LogSource::fail(const QString &reason)
 {
-    m_error = m_path.isEmpty()
-        ? QStringLiteral("Standard input cannot be read: ") + reason
-        : QStringLiteral("The log '%1' cannot be read: %2").arg(m_path, reason);
+    m_error = m_path.isEmpty() ? Text::tr("Standard input cannot be read: %1").arg(reason)
+                               : Text::tr("The log '%1' cannot be read: %2").arg(m_path, reason);
     return false;
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 
@@ -8,7 +9,8 @@
 
 void PluginConfiguration::addTo(CommandLine &line)
 {
-    line.addOption("config", "file", "The plugin's INI file; /etc/yav/MirovaHR.ini by default.");
+    line.addOption("config", Text::tr("file"),
+                   Text::tr("The plugin's INI file; /etc/yav/MirovaHR.ini by default."));
 }
 
 std::optional<ExitStatus> PluginConfiguration::read(const CommandLine &line, Console &console)
@@ -18,17 +20,17 @@ std::optional<ExitStatus> PluginConfiguration::read(const CommandLine &line, Con
     const QFileInfo info(m_path);
     m_exists = info.isFile();
     if (isNamed && !m_exists)
-        return console.fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(m_path));
+        return console.fail(ExitStatus::Usage, Text::tr("There is no file '%1'").arg(m_path));
     if (m_exists && !info.isReadable())
-        return console.fail(ExitStatus::Usage, QStringLiteral("'%1' cannot be read").arg(m_path));
+        return console.fail(ExitStatus::Usage, Text::tr("'%1' cannot be read").arg(m_path));
     m_values = Configuration::read(*Configuration::open(m_path));
     return std::nullopt;
 }
 
 QString PluginConfiguration::origin() const
 {
-    return m_exists ? QStringLiteral("The configuration is that of %1.").arg(m_path)
-                    : QStringLiteral("There is no file %1 here: this holds for a plugin with its "
-                                     "defaults.")
+    return m_exists ? Text::tr("The configuration is that of %1.").arg(m_path)
+                    : Text::tr("There is no file %1 here: this holds for a plugin with its "
+                               "defaults.")
                           .arg(m_path);
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/pluginside/pluginview.h"
 
+#include "cli/text.h"
 #include "plugin/workersetup.h"
 
 #include <QStringList>
@@ -43,7 +44,7 @@ bool PluginView::connect(const QSqlDatabase &site)
     }
     // A worker reuses the connection that an earlier worker of this process has left.
     if (!m_database.isValid())
-        m_error = QStringLiteral("The plugin already has a connection to another database");
+        m_error = Text::tr("The plugin already has a connection to another database");
     return m_database.isValid() && m_worker->dbCheckOpen();
 }
 
