@@ -1,5 +1,6 @@
 #include "privatedb/datafolder.h"
 
+#include "cli/text.h"
 #include "privatedb/lastlines.h"
 #include "privatedb/mariadbprocess.h"
 #include "privatedb/programs.h"
@@ -36,7 +37,7 @@ bool makeDataFolder(const ServerFolder &folder, QString &error)
         return true;
     if (install.state() != QProcess::NotRunning)
         ::kill(-static_cast<pid_t>(install.processId()), SIGKILL); // with the server in it
-    error = QStringLiteral("The data folder of the private MariaDB server could not be made.\n%1")
+    error = Text::tr("The data folder of the private MariaDB server could not be made.\n%1")
                 .arg(lastLines(QString::fromUtf8(install.readAll())));
     return false;
 }
@@ -47,7 +48,7 @@ bool copyDataFolder(const QString &from, const QString &to, QString &error)
     std::filesystem::copy(QFile::encodeName(from).constData(), QFile::encodeName(to).constData(),
                           std::filesystem::copy_options::recursive, failure);
     if (failure)
-        error = QStringLiteral("%1 could not be copied: %2")
+        error = Text::tr("%1 could not be copied: %2")
                     .arg(from, QString::fromStdString(failure.message()));
     return !failure;
 }

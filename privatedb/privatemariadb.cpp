@@ -1,5 +1,6 @@
 #include "privatedb/privatemariadb.h"
 
+#include "cli/text.h"
 #include "privatedb/datafolder.h"
 #include "privatedb/lastlines.h"
 #include "privatedb/mariadbprocess.h"
@@ -88,7 +89,7 @@ bool PrivateMariaDb::stop()
     if (m_server->waitForFinished(kStopTimeoutMs))
         return true;
     kill();
-    return fail(QStringLiteral("The private MariaDB server did not shut down and was killed.\n%1")
+    return fail(Text::tr("The private MariaDB server did not shut down and was killed.\n%1")
                     .arg(errorLogTail()));
 }
 
@@ -96,7 +97,7 @@ bool PrivateMariaDb::waitUntilEnded()
 {
     if (!isRunning() || m_server->waitForFinished(kStopTimeoutMs))
         return true;
-    return fail(QStringLiteral("The private MariaDB server goes on running."));
+    return fail(Text::tr("The private MariaDB server goes on running."));
 }
 
 bool PrivateMariaDb::restart()
@@ -130,7 +131,7 @@ bool PrivateMariaDb::load(const QStringList &sqlFiles)
             const QString reason = client.error() == QProcess::UnknownError
                 ? QString::fromUtf8(client.readAllStandardError()).trimmed()
                 : client.errorString();
-            return fail(QStringLiteral("%1 could not be loaded: %2").arg(file).arg(reason));
+            return fail(Text::tr("%1 could not be loaded: %2").arg(file).arg(reason));
         }
     }
     return true;
@@ -187,7 +188,7 @@ bool PrivateMariaDb::findPrograms()
             return fail(MariaDbPrograms::missing(program));
     }
     if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QMYSQL"))) {
-        return fail(QStringLiteral(
+        return fail(Text::tr(
             "Qt's MySQL driver (QMYSQL) is missing: install the package libqt5sql5-mysql."));
     }
     return true;
@@ -215,7 +216,7 @@ bool PrivateMariaDb::launch()
                     ServerOptions::forService(m_folder) + m_serverOptions);
     if (m_server->waitForStarted(-1))
         return true;
-    return fail(QStringLiteral("mariadbd could not be started: %1").arg(m_server->errorString()));
+    return fail(Text::tr("mariadbd could not be started: %1").arg(m_server->errorString()));
 }
 
 bool PrivateMariaDb::waitUntilReady()
@@ -229,14 +230,14 @@ bool PrivateMariaDb::waitUntilReady()
                 return true;
         }
         if (m_server->waitForFinished(kReadyProbeMs) || !isRunning()) {
-            return fail(QStringLiteral("The private MariaDB server ended while it was starting. "
-                                       "The end of its log:\n%1")
+            return fail(Text::tr("The private MariaDB server ended while it was starting. "
+                                 "The end of its log:\n%1")
                             .arg(errorLogTail()));
         }
     }
     kill();
-    return fail(QStringLiteral("The private MariaDB server did not answer within %1 s. "
-                               "The end of its log:\n%2")
+    return fail(Text::tr("The private MariaDB server did not answer within %1 s. "
+                         "The end of its log:\n%2")
                     .arg(kStartTimeoutMs / 1000)
                     .arg(errorLogTail()));
 }

@@ -1,5 +1,7 @@
 #include "privatedb/programs.h"
 
+#include "cli/text.h"
+
 #include <QStandardPaths>
 
 namespace {
@@ -41,7 +43,7 @@ QString MariaDbPrograms::find(Program program)
 QString MariaDbPrograms::missing(Program program)
 {
     const Description description = describe(program);
-    return QStringLiteral("The program %1 is missing: install the package %2.")
+    return Text::tr("The program %1 is missing: install the package %2.")
         .arg(description.name)
         .arg(description.package);
 }

@@ -1,5 +1,7 @@
 #include "privatedb/serverfolder.h"
 
+#include "cli/text.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,14 +17,14 @@ QString objectionTo(const QString &path)
 {
     const QString socket = path + QStringLiteral("/s");
     if (QFile::encodeName(socket).size() > kLongestSocketPath) {
-        return QStringLiteral("The socket path %1 is longer than %2 bytes: "
-                              "set TMPDIR to a folder with a shorter name.")
+        return Text::tr("The socket path %1 is longer than %2 bytes: "
+                        "set TMPDIR to a folder with a shorter name.")
             .arg(socket)
             .arg(kLongestSocketPath);
     }
     if (path.contains(QLatin1Char(':'))) {
-        return QStringLiteral("mariadbd would take the folder %1 for several, separated by \":\": "
-                              "set TMPDIR to a folder with another name.")
+        return Text::tr("mariadbd would take the folder %1 for several, separated by \":\": "
+                        "set TMPDIR to a folder with another name.")
             .arg(path);
     }
     return QString();
@@ -40,7 +42,7 @@ bool ServerFolder::make(const QString &baseDir, AtTheEnd atTheEnd, QString &erro
     m_folder = std::make_unique<GuardedFolder>(name, atTheEnd);
     if (m_folder->isValid() && QDir().mkdir(temporaryDir()) && QDir().mkdir(pluginDir()))
         return true;
-    error = QStringLiteral("No folder for the private MariaDB server could be made in %1: %2")
+    error = Text::tr("No folder for the private MariaDB server could be made in %1: %2")
                 .arg(base)
                 .arg(m_folder->isValid() ? qt_error_string() : m_folder->errorString());
     return false;
