@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/checkconfig/configassessment.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
@@ -7,14 +8,15 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Reads the plugin's INI file exactly as the plugin does. Shows for each key what will\n"
-    "be in force, and reports what is wrong. Needs no database, and changes nothing.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Reads the plugin's INI file exactly as the plugin does. Shows for each key what will be in "
+    "force, and reports what is wrong. Needs no database, and changes nothing.");
 
 QString verdict(ExitStatus status)
 {
-    return status == ExitStatus::Fine ? QStringLiteral("Nothing is wrong with the configuration.")
-                                      : QStringLiteral("The configuration needs attention.");
+    return status == ExitStatus::Fine ? Text::tr("Nothing is wrong with the configuration.")
+                                      : Text::tr("The configuration needs attention.");
 }
 
 ExitStatus check(const CommandLine &line, Report &report, Console &console)
@@ -23,18 +25,16 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
         line.argument(0).isEmpty() ? QString(Configuration::kPath) : line.argument(0);
     const QFileInfo info(path);
     if (info.exists() && !(info.isFile() && info.isReadable())) {
-        return console.fail(ExitStatus::Usage,
-                            QStringLiteral("'%1' is not a readable file").arg(path));
+        return console.fail(ExitStatus::Usage, Text::tr("'%1' is not a readable file").arg(path));
     }
     ConfigAssessment check(path);
-    report.begin(line.subcommand(), QStringLiteral("Configuration %1").arg(path));
-    report.section(QStringLiteral("keys"), QStringLiteral("What is in force"));
-    report.sentence(
-        QStringLiteral("The plugin reads the file once, when the attendance server loads the "
-                       "plugin. A change takes effect at the next start of the server."));
+    report.begin(line.subcommand(), Text::tr("Configuration %1").arg(path));
+    report.section(QStringLiteral("keys"), Text::tr("What is in force"));
+    report.sentence(Text::tr("The plugin reads the file once, when the attendance server loads the "
+                             "plugin. A change takes effect at the next start of the server."));
     report.table(check.keys());
 
-    report.addSection(QStringLiteral("findings"), QStringLiteral("Findings"), check.findings());
+    report.addSection(QStringLiteral("findings"), Text::tr("Findings"), check.findings());
     return report.conclude(verdict(report.findingsStatus()));
 }
 
@@ -43,7 +43,8 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
 ExitStatus runCheckConfig(const QStringList &arguments, Console &console)
 {
     CommandLine line("check-config", kDescription);
-    line.addOptionalArgument("file", "The INI file; /etc/yav/MirovaHR.ini when left out.");
+    line.addOptionalArgument(Text::tr("file"),
+                             Text::tr("The INI file; /etc/yav/MirovaHR.ini when left out."));
     line.addReportOptions(CommandLine::Page::NotOffered);
     return Report::run(line, arguments, console,
                        [&](Report &report) { return check(line, report, console); });

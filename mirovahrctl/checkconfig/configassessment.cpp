@@ -1,6 +1,8 @@
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/checkconfigrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/schedule.h"
@@ -47,14 +49,13 @@ QString meantKey(const QString &key)
 QString unknownKeyAdvice(const QString &key)
 {
     if (key.section(QLatin1Char('/'), -1).startsWith(QLatin1Char('#')))
-        return QStringLiteral("Begin comments with a semicolon, not with #.");
+        return Text::tr("Begin comments with a semicolon, not with #.");
     const QString meant = meantKey(key);
     if (meant.isEmpty()) {
-        return QStringLiteral(
-            "Remove the line, or see the sample MirovaHR.ini for the known keys.");
+        return Text::tr("Remove the line, or see the sample MirovaHR.ini for the known keys.");
     }
-    return QStringLiteral("Perhaps %1 is meant: keys are case-sensitive, and this one belongs "
-                          "before the first group.")
+    return Text::tr("Perhaps %1 is meant: keys are case-sensitive, and this one belongs "
+                    "before the first group.")
         .arg(meant);
 }
 
@@ -104,19 +105,19 @@ void ConfigAssessment::checkFile()
 {
     if (!QFileInfo::exists(m_path)) {
         add(CheckConfigRules::kFileMissing, {},
-            QStringLiteral("The file does not exist: every key has its default."));
+            Text::tr("The file does not exist: every key has its default."));
         return;
     }
     if (m_settings->status() == QSettings::FormatError) {
         add(CheckConfigRules::kFileFormat, {},
-            QStringLiteral("The file has lines that are neither key=value, nor [group], nor a "
-                           "comment; they are ignored."));
+            Text::tr("The file has lines that are neither key=value, nor [group], nor a "
+                     "comment; they are ignored."));
     }
     if (QFileInfo(m_path).permission(QFileDevice::WriteOther)) {
         add(CheckConfigRules::kFileWorldWritable, {},
-            QStringLiteral("Every user of the machine can change this file, and with syncCommand "
-                           "run programs as the attendance server."),
-            QStringLiteral("Remove the permission: chmod o-w '%1'.").arg(m_path));
+            Text::tr("Every user of the machine can change this file, and with syncCommand "
+                     "run programs as the attendance server."),
+            Text::tr("Remove the permission: chmod o-w '%1'.").arg(m_path));
     }
 }
 
@@ -127,7 +128,7 @@ void ConfigAssessment::checkKeys()
         checkLine(line);
         if (seen.contains(line.key)) {
             add(CheckConfigRules::kKeyTwice, line.key,
-                QStringLiteral("The key occurs more than once; the last line counts."));
+                Text::tr("The key occurs more than once; the last line counts."));
         }
         seen << line.key;
     }
@@ -137,12 +138,12 @@ void ConfigAssessment::checkLine(const IniLine &line)
 {
     if (!line.key.startsWith(QLatin1String("MES/")) && !knownKeys().contains(line.key)) {
         add(CheckConfigRules::kUnknownKey, line.key,
-            QStringLiteral("The plugin does not know this key; the line has no effect."),
+            Text::tr("The plugin does not know this key; the line has no effect."),
             unknownKeyAdvice(line.key));
     }
     if (hasUnquoted(line.value, QLatin1Char(';'))) {
         add(CheckConfigRules::kUnquotedSemicolon, line.key,
-            QStringLiteral("The value ends at the semicolon; the rest of the line is a comment."));
+            Text::tr("The value ends at the semicolon; the rest of the line is a comment."));
     }
 }
 
@@ -155,11 +156,10 @@ void ConfigAssessment::checkFlag(const QString &key)
         return;
     if (m_settings->value(key).toBool()) {
         add(CheckConfigRules::kFlagReadsAsTrue, key,
-            QStringLiteral(
-                "%1 is read as true, like everything except 0, false and an empty value.")
+            Text::tr("%1 is read as true, like everything except 0, false and an empty value.")
                 .arg(Wording::quoted(text)));
     } else {
-        add(CheckConfigRules::kFlagEmpty, key, QStringLiteral("An empty value is read as false."));
+        add(CheckConfigRules::kFlagEmpty, key, Text::tr("An empty value is read as false."));
     }
 }
 
@@ -172,12 +172,12 @@ void ConfigAssessment::checkNumber(const QString &key)
     const quint64 number = value.toULongLong(&isNumber);
     if (!isNumber) {
         add(CheckConfigRules::kNumberReadsAs0, key,
-            QStringLiteral("%1 is not a whole number and is read as 0.")
+            Text::tr("%1 is not a whole number and is read as 0.")
                 .arg(Wording::quoted(written(key))));
     } else if (number > std::numeric_limits<quint32>::max()) {
         add(CheckConfigRules::kNumberWraps, key,
-            QStringLiteral("%1 is too large and is read as %2.").arg(number).arg(value.toUInt()),
-            QStringLiteral("Write a number up to %1.").arg(std::numeric_limits<quint32>::max()));
+            Text::tr("%1 is too large and is read as %2.").arg(number).arg(value.toUInt()),
+            Text::tr("Write a number up to %1.").arg(std::numeric_limits<quint32>::max()));
     }
 }
 
@@ -186,7 +186,7 @@ void ConfigAssessment::checkText(const QString &key)
     if (!isList(key))
         return;
     add(CheckConfigRules::kUnquotedComma, key,
-        QStringLiteral("The text has a comma outside quotation marks and is read as empty."));
+        Text::tr("The text has a comma outside quotation marks and is read as empty."));
 }
 
 void ConfigAssessment::checkOperation()
@@ -194,20 +194,20 @@ void ConfigAssessment::checkOperation()
     const QString enabled = QStringLiteral("enabled");
     if (!m_config.enabled) {
         add(CheckConfigRules::kDisabled, enabled,
-            QStringLiteral("The plugin is switched off: it does nothing at all."));
+            Text::tr("The plugin is switched off: it does nothing at all."));
     }
     if (m_config.testMode) {
         add(CheckConfigRules::kTestMode, QStringLiteral("testMode"),
-            QStringLiteral("Test mode is on: people are neither created nor updated. Branches, "
-                           "calendars, balances, supervisors and terminals are still written."));
+            Text::tr("Test mode is on: people are neither created nor updated. Branches, "
+                     "calendars, balances, supervisors and terminals are still written."));
     }
     if (m_config.departmentId == 0) {
         add(CheckConfigRules::kNoDepartment, QStringLiteral("departmentId"),
-            QStringLiteral("New and updated people belong to no department."));
+            Text::tr("New and updated people belong to no department."));
     } else if (m_config.departmentId > kLargestEverywhere) {
         add(CheckConfigRules::kDepartmentIdLarge, QStringLiteral("departmentId"),
-            QStringLiteral("Whether the database holds the department %1 depends on the type of "
-                           "%2 there: check-db --config reports it.")
+            Text::tr("Whether the database holds the department %1 depends on the type of "
+                     "%2 there: check-db --config reports it.")
                 .arg(QString::number(m_config.departmentId),
                      TepDbContract::columnOfKey("departmentId").fullName()));
     }
@@ -220,21 +220,19 @@ void ConfigAssessment::checkPeriods()
     const quint32 tick = Schedule::tickPeriod(m_config.tickMilliseconds);
     if (quint64(seconds) * 1000 != m_config.tickMilliseconds) {
         add(CheckConfigRules::kTickOverflows, key,
-            QStringLiteral(
-                "%1 seconds exceed 32 bits of milliseconds: the plugin ticks every %2 ms.")
-                .arg(seconds)
-                .arg(tick));
+            Text::tr("%1 seconds exceed 32 bits of milliseconds: the plugin ticks every %2 ms.")
+                .arg(Language::number(seconds), Language::number(tick)));
     } else if (tick != m_config.tickMilliseconds) {
         add(CheckConfigRules::kTickTooShort, key,
-            QStringLiteral("The plugin ticks every second: the period is never shorter."));
+            Text::tr("The plugin ticks every second: the period is never shorter."));
     } else if (quint32(Schedule::timerInterval(tick)) != tick) {
         add(CheckConfigRules::kTickTooLong, key,
-            QStringLiteral("The period exceeds the limit of a timer: the plugin ticks every %1 ms.")
-                .arg(Schedule::timerInterval(tick)));
+            Text::tr("The period exceeds the limit of a timer: the plugin ticks every %1 ms.")
+                .arg(Language::number(Schedule::timerInterval(tick))));
     }
     if (Schedule::ticksPerSynchronisation(m_config.syncInterval) != m_config.syncInterval) {
         add(CheckConfigRules::kSyncIntervalZero, QStringLiteral("syncInterval"),
-            QStringLiteral("0 counts as 1: every tick synchronises."));
+            Text::tr("0 counts as 1: every tick synchronises."));
     }
 }
 

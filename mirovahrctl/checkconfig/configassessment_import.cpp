@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gateoptions.h"
 #include "mirovahrctl/report/rules/checkconfigrules.h"
 #include "worker/importfile.h"
@@ -53,17 +54,17 @@ void ConfigAssessment::checkImportFile()
     const QFileInfo info(path);
     if (info.isRelative()) {
         add(CheckConfigRules::kImportFileRelative, key,
-            QStringLiteral("The path is relative: what it names depends on the folder in which the "
-                           "attendance server was started."));
+            Text::tr("The path is relative: what it names depends on the folder in which the "
+                     "attendance server was started."));
         return;
     }
     if (info.exists() && !info.isFile()) {
         add(CheckConfigRules::kImportFileNoFile, key,
-            QStringLiteral("%1 is not a regular file: the plugin never reads it.").arg(path));
+            Text::tr("%1 is not a regular file: the plugin never reads it.").arg(path));
     } else if (info.exists() && info.permission(QFileDevice::WriteOther)) {
         add(CheckConfigRules::kImportFileWorldWritable, key,
-            QStringLiteral("Every user of the machine can change %1. Its texts enter SQL "
-                           "statements unescaped.")
+            Text::tr("Every user of the machine can change %1. Its texts enter SQL "
+                     "statements unescaped.")
                 .arg(path));
     }
     checkImportFolder(path);
@@ -75,16 +76,15 @@ void ConfigAssessment::checkImportFolder(const QString &path)
     const QString folder = QFileInfo(path).absolutePath();
     if (!QFileInfo(folder).isDir()) {
         add(CheckConfigRules::kImportFolderMissing, key,
-            QStringLiteral("The folder %1 does not exist, so there is never an export.")
-                .arg(folder));
+            Text::tr("The folder %1 does not exist, so there is never an export.").arg(folder));
         return;
     }
     const QString open = openFolder(path);
     if (!open.isEmpty()) {
         add(CheckConfigRules::kImportFolderWorldWritable, key,
-            QStringLiteral("The export is read from %1, and every user of the machine can put an "
-                           "export of their own there: %2 is writable for everybody. Its texts "
-                           "enter SQL statements unescaped.")
+            Text::tr("The export is read from %1, and every user of the machine can put an "
+                     "export of their own there: %2 is writable for everybody. Its texts "
+                     "enter SQL statements unescaped.")
                 .arg(path, open));
     }
 }
@@ -96,19 +96,19 @@ void ConfigAssessment::checkSyncCommand()
     if (m_config.syncCommand.isEmpty()) {
         if (m_config.syncCommandRun != 0) {
             add(CheckConfigRules::kSyncCommandMissing, key,
-                QStringLiteral("syncCommandRun demands a command, but there is none: the plugin "
-                               "logs a warning each time."));
+                Text::tr("syncCommandRun demands a command, but there is none: the plugin "
+                         "logs a warning each time."));
         }
         return;
     }
     if (m_config.syncCommandRun == 0) {
         add(CheckConfigRules::kSyncCommandNeverRuns, key,
-            QStringLiteral("The command is never run, because syncCommandRun is 0."));
+            Text::tr("The command is never run, because syncCommandRun is 0."));
     }
     const QString program = QProcess::splitCommand(m_config.syncCommand).value(0);
     if (!isExecutable(program)) {
         add(CheckConfigRules::kSyncCommandNotFound, key,
-            QStringLiteral("There is no executable program '%1'.").arg(program));
+            Text::tr("There is no executable program '%1'.").arg(program));
     }
 }
 
@@ -119,7 +119,7 @@ void ConfigAssessment::checkSyncCommandRun()
     if (configured == m_config.syncCommandRun)
         return;
     add(CheckConfigRules::kSyncCommandRunWraps, key,
-        QStringLiteral("Only the low 8 bits of %1 are kept: it counts as %2.")
+        Text::tr("Only the low 8 bits of %1 are kept: it counts as %2.")
             .arg(configured)
             .arg(m_config.syncCommandRun));
 }
@@ -129,29 +129,28 @@ void ConfigAssessment::checkGate()
     const QString key = QStringLiteral("syncCommand");
     if (!GateOptions::isRunBy(m_config.syncCommand)) {
         add(CheckConfigRules::kNoGate, key,
-            QStringLiteral("syncCommand runs no gate. Unless another program runs one, what HR "
-                           "exports reaches the database unexamined."));
+            Text::tr("syncCommand runs no gate. Unless another program runs one, what HR "
+                     "exports reaches the database unexamined."));
         return;
     }
     const auto gate = GateOptions::ofCommand(m_config.syncCommand);
     const QString path = ImportFile::path(m_config.importFile);
     if (!gate) {
         add(CheckConfigRules::kGateOptions, key,
-            QStringLiteral("The gate does not understand its options, so it publishes nothing."));
+            Text::tr("The gate does not understand its options, so it publishes nothing."));
         return;
     }
     if (!gate->publishesTo(path)) {
         add(CheckConfigRules::kGateElsewhere, key,
-            QStringLiteral("The gate publishes to %1, but the plugin reads %2.")
-                .arg(gate->to, path));
+            Text::tr("The gate publishes to %1, but the plugin reads %2.").arg(gate->to, path));
     } else if (!gate->texts) {
         add(CheckConfigRules::kGateTexts, key,
-            QStringLiteral("The gate publishes texts as HR wrote them: they enter SQL statements "
-                           "unescaped."));
+            Text::tr("The gate publishes texts as HR wrote them: they enter SQL statements "
+                     "unescaped."));
     }
     if (gate->accept) {
         add(CheckConfigRules::kGateAccepts, key,
-            QStringLiteral("With --accept the gate admits a file whatever is missing or has "
-                           "changed in it."));
+            Text::tr("With --accept the gate admits a file whatever is missing or has "
+                     "changed in it."));
     }
 }

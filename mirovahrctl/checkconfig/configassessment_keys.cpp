@@ -2,6 +2,8 @@
 
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "cli/text.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/importfile.h"
 #include "worker/schedule.h"
@@ -10,12 +12,15 @@
 
 namespace {
 
+/// Enough for all milliseconds of a tick.
+constexpr int kDigits = 10;
+
 QString duration(quint64 milliseconds)
 {
     const quint64 seconds = milliseconds / 1000;
-    QString text = QStringLiteral("%1 s").arg(double(milliseconds) / 1000.0);
+    QString text = QStringLiteral("%L1 s").arg(double(milliseconds) / 1000.0, 0, 'g', kDigits);
     if (seconds >= 3600)
-        text += QStringLiteral(" (%1 h %2 min)").arg(seconds / 3600).arg(seconds % 3600 / 60);
+        text += QStringLiteral(" (%L1 h %2 min)").arg(seconds / 3600).arg(seconds % 3600 / 60);
     return text;
 }
 
@@ -27,26 +32,21 @@ int tick(const Configuration &config)
 QString synchronisations(const Configuration &config)
 {
     const quint32 ticks = Schedule::ticksPerSynchronisation(config.syncInterval);
-    return QStringLiteral("a synchronisation at the first tick, then every %1, which is %2")
-        .arg(Wording::counted(ticks, QStringLiteral("tick"), QStringLiteral("ticks")),
-             duration(quint64(ticks) * quint64(tick(config))));
+    return Text::tr("a synchronisation at the first tick, then every %Ln tick(s), which is %1",
+                    nullptr, Language::count(ticks))
+        .arg(duration(quint64(ticks) * quint64(tick(config))));
 }
 
 QString commandRun(unsigned char condition)
 {
     switch (condition) {
     case 0:
-        return QStringLiteral("the command is never run");
+        return Text::tr("the command is never run");
     case 1:
-        return QStringLiteral("the command is run before a forced synchronisation only");
+        return Text::tr("the command is run before a forced synchronisation only");
     default:
-        return QStringLiteral("the command is run before every synchronisation");
+        return Text::tr("the command is run before every synchronisation");
     }
-}
-
-QString yesOrNo(bool flag, const char *yes, const char *no)
-{
-    return QString::fromLatin1(flag ? yes : no);
 }
 
 QVariant written(const QSettings &settings, const QString &key)
@@ -76,29 +76,28 @@ public:
 private:
     void addOperation()
     {
-        add("enabled", yesOrNo(m_config.enabled, "the plugin works", "the plugin does nothing"));
-        add("timerInterval",
-            QStringLiteral("a tick every %1").arg(duration(quint64(tick(m_config)))));
+        add("enabled",
+            m_config.enabled ? Text::tr("the plugin works") : Text::tr("the plugin does nothing"));
+        add("timerInterval", Text::tr("a tick every %1").arg(duration(quint64(tick(m_config)))));
         add("syncInterval", synchronisations(m_config));
         add("testMode",
-            yesOrNo(m_config.testMode, "people are only logged, not written",
-                    "people are written"));
+            m_config.testMode ? Text::tr("people are only logged, not written")
+                              : Text::tr("people are written"));
         add("departmentId",
             m_config.departmentId == 0
-                ? QStringLiteral("people have no department")
-                : QStringLiteral("people are in department %1").arg(m_config.departmentId));
+                ? Text::tr("people have no department")
+                : Text::tr("people are in department %1").arg(m_config.departmentId));
     }
 
     void addImport()
     {
         add("importFile",
-            QStringLiteral("the export is read from %1")
-                .arg(ImportFile::path(m_config.importFile)));
+            Text::tr("the export is read from %1").arg(ImportFile::path(m_config.importFile)));
         add("deleteFile",
-            yesOrNo(m_config.deleteFile, "the export is removed after it was read",
-                    "the export stays and is read again"));
+            m_config.deleteFile ? Text::tr("the export is removed after it was read")
+                                : Text::tr("the export stays and is read again"));
         add("syncCommand",
-            m_config.syncCommand.isEmpty() ? QStringLiteral("no command") : m_config.syncCommand);
+            m_config.syncCommand.isEmpty() ? Text::tr("no command") : m_config.syncCommand);
         add("syncCommandRun", commandRun(m_config.syncCommandRun));
     }
 
@@ -108,7 +107,7 @@ private:
         for (const QString &key : keys) {
             const unsigned short code = Configuration::messageCode(key);
             add(QStringLiteral("MES/") + key,
-                QStringLiteral("register state %1 is %2")
+                Text::tr("register state %1 is %2")
                     .arg(QString::number(code), Wording::quoted(m_config.messages.value(code))));
         }
     }
@@ -130,8 +129,8 @@ private:
 Table ConfigAssessment::keys() const
 {
     return {QStringLiteral("keys"),
-            {{QStringLiteral("key"), QStringLiteral("Key")},
-             {QStringLiteral("written"), QStringLiteral("In the file")},
-             {QStringLiteral("inForce"), QStringLiteral("In force")}},
+            {{QStringLiteral("key"), Text::tr("Key")},
+             {QStringLiteral("written"), Text::tr("In the file")},
+             {QStringLiteral("inForce"), Text::tr("In force")}},
             Rows(*m_settings, m_config).take()};
 }

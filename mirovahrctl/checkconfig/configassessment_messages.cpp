@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/checkconfig/configassessment.h"
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/export/sqlhazards.h"
 #include "mirovahrctl/report/rules/checkconfigrules.h"
@@ -22,7 +23,7 @@ void ConfigAssessment::checkMessages()
     const QStringList keys = Configuration::messageKeys(*m_settings);
     if (keys.isEmpty()) {
         add(CheckConfigRules::kNoMessages, QStringLiteral("MES"),
-            QStringLiteral("The group defines no relationship state: nobody gets one."));
+            Text::tr("The group defines no relationship state: nobody gets one."));
     }
     for (const QString &key : keys) {
         checkMessageKey(key);
@@ -39,11 +40,10 @@ void ConfigAssessment::checkMessageKey(const QString &key)
     const unsigned short code = Configuration::messageCode(key);
     if (!isNumber) {
         add(CheckConfigRules::kMesKeyNoNumber, settingsKey(key),
-            QStringLiteral("The key is not a register state code; it counts as code 0."));
+            Text::tr("The key is not a register state code; it counts as code 0."));
     } else if (number != code) {
         add(CheckConfigRules::kMesKeyWraps, settingsKey(key),
-            QStringLiteral("Only the low 16 bits of the code are kept: it counts as code %1.")
-                .arg(code));
+            Text::tr("Only the low 16 bits of the code are kept: it counts as code %1.").arg(code));
     }
 }
 
@@ -53,16 +53,17 @@ void ConfigAssessment::checkMessageText(const QString &key)
     constexpr const TepDbContract::Column &kColumn = TepDbContract::columnOfKey("MES");
     if (text.toUcs4().size() > kColumn.written.room) {
         add(CheckConfigRules::kMesTextTooLong, settingsKey(key),
-            QStringLiteral("The text is longer than the %1 characters that %2 has in "
-                           "reference-db/schema.sql: a column of that length refuses people in "
-                           "this state, or cuts the text.")
-                .arg(QString::number(kColumn.written.room), kColumn.fullName()));
+            Text::tr("The text is longer than the %Ln character(s) that %1 has in "
+                     "reference-db/schema.sql: a column of that length refuses people in this "
+                     "state, or cuts the text.",
+                     nullptr, kColumn.written.room)
+                .arg(kColumn.fullName()));
     }
     if (SqlHazards::breaksStatement(text)) {
         add(CheckConfigRules::kMesTextBreaksSql, settingsKey(key),
-            QStringLiteral("The text contains an apostrophe, a backslash, a percent sign followed "
-                           "by a digit, or a character above U+FFFF. It enters the SQL statement "
-                           "unescaped: nobody in this state can be written."));
+            Text::tr("The text contains an apostrophe, a backslash, a percent sign followed "
+                     "by a digit, or a character above U+FFFF. It enters the SQL statement "
+                     "unescaped: nobody in this state can be written."));
     }
 }
 
@@ -77,7 +78,7 @@ void ConfigAssessment::checkMessageCollisions(const QStringList &keys)
         if (key == winner)
             continue;
         add(CheckConfigRules::kMesKeysCollide, settingsKey(key),
-            QStringLiteral("%1 and %2 are the same code %3; the text of %2 is in force.")
+            Text::tr("%1 and %2 are the same code %3; the text of %2 is in force.")
                 .arg(settingsKey(key), settingsKey(winner), QString::number(code)));
     }
 }

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>there are lines that are neither [group], nor key = value, nor a comment that begins with a semicolon</source>
-        <translation>jsou v něm řádky, které nejsou ani [skupina], ani klíč = hodnota, ani poznámka začínající středníkem</translation>
+        <translation>jsou v něm řádky, které nejsou ani [skupina], ani klíč = hodnota, ani komentář začínající středníkem</translation>
     </message>
     <message>
         <source>the value of &apos;%1&apos; has a comma; put it in quotation marks</source>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>there are lines that are neither [group], nor key = value, nor a comment that begins with a semicolon</source>
-        <translation>sú v ňom riadky, ktoré nie sú ani [skupina], ani kľúč = hodnota, ani poznámka začínajúca sa bodkočiarkou</translation>
+        <translation>sú v ňom riadky, ktoré nie sú ani [skupina], ani kľúč = hodnota, ani komentár začínajúci sa bodkočiarkou</translation>
     </message>
     <message>
         <source>the value of &apos;%1&apos; has a comma; put it in quotation marks</source>
