@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/checkdb/clusternodes.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -5,22 +6,21 @@
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
-#include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/dbschema.h"
 #include "mirovahrctl/site/sitedatabase.h"
 
 namespace {
 
-constexpr char kDescription[] =
-    "Checks whether the attendance database meets the plugin's requirements: the server,\n"
-    "the connection, tables, columns, keys and routines, the rights of the account, and\n"
-    "some of the data. Writes nothing: the server itself refuses it.\n\n"
-    "Check twice. First connect as the plugin does: with its account, its connect options\n"
-    "and its time zone (TZ). That account sees only the columns on which it has rights. A\n"
-    "column without a default value that the site added makes every new row fail; only a\n"
-    "second check finds it, with an account that reads whole tables and --other-account.\n"
-    "With --config the check is about the department and the relationship states of that\n"
-    "configuration, and otherwise about any.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Checks whether the attendance database meets the plugin's requirements: the server, the "
+    "connection, tables, columns, keys and routines, the rights of the account, and some of the "
+    "data. Writes nothing: the server itself refuses it.\n\n"
+    "Check twice. First connect as the plugin does: with its account, its connect options and its "
+    "time zone (TZ). That account sees only the columns on which it has rights. A column without a "
+    "default value that the site added makes every new row fail; only a second check finds it, "
+    "with an account that reads whole tables and --other-account. With --config the check is about "
+    "the department and the relationship states of that configuration, and otherwise about any.");
 
 /// What the command line asks for.
 struct Request {
@@ -94,19 +94,24 @@ bool checkAll(DbAssessment &check, SiteDatabase &site, const Request &request)
 QString verdict(const DbAssessment &check)
 {
     if (check.isContractBroken()) {
-        return QStringLiteral("The plugin cannot work properly with this database: %1.")
-            .arg(Wording::counted(check.violationCount(), QStringLiteral("requirement is violated"),
-                                  QStringLiteral("requirements are violated")));
+        return Text::tr(
+            "The plugin cannot work properly with this database: %Ln requirement(s) are "
+            "violated.",
+            nullptr, check.violationCount());
     }
-    const QString begin = check.isPartlySeen()
-        ? QStringLiteral("As far as this account can see, the")
-        : QStringLiteral("The");
-    if (check.seriousCount() == 0)
-        return QStringLiteral("%1 database meets the plugin's requirements.").arg(begin);
-    return QStringLiteral("%1 plugin can work with this database; %2.")
-        .arg(begin,
-             Wording::counted(check.seriousCount(), QStringLiteral("finding needs attention"),
-                              QStringLiteral("findings need attention")));
+    const int findings = check.seriousCount();
+    if (check.isPartlySeen()) {
+        return findings == 0
+            ? Text::tr(
+                "As far as this account can see, the database meets the plugin's requirements.")
+            : Text::tr("As far as this account can see, the plugin can work with this database; "
+                       "%Ln finding(s) need attention.",
+                       nullptr, findings);
+    }
+    return findings == 0 ? Text::tr("The database meets the plugin's requirements.")
+                         : Text::tr("The plugin can work with this database; %Ln finding(s) need "
+                                    "attention.",
+                                    nullptr, findings);
 }
 
 ExitStatus check(const CommandLine &line, Report &report, Console &console)
@@ -120,7 +125,7 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
     if (const auto end = site.open(line, DatabaseAccess::ReadOnly, console))
         return *end;
     const QSqlDatabase &db = site.sql().database();
-    report.begin(line.subcommand(), QStringLiteral("Database %1").arg(db.databaseName()));
+    report.begin(line.subcommand(), Text::tr("Database %1").arg(db.databaseName()));
     DbAssessment check(db, report);
     const bool answers = checkAll(check, site, requestOf(line, configuration));
     // A statement that may fail may have been the last one.
@@ -136,9 +141,12 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
 ExitStatus runCheckDb(const QStringList &arguments, Console &console)
 {
     CommandLine line("check-db", kDescription);
-    line.addFlag("other-account", "The account is not the plugin's: do not check its rights.");
-    line.addFlag("every-node", "On a cluster: ask the other nodes, too, and report what differs.");
-    line.addOption("config", "file", "The plugin's INI file, whose values must fit the columns.");
+    line.addFlag("other-account",
+                 Text::tr("The account is not the plugin's: do not check its rights."));
+    line.addFlag("every-node",
+                 Text::tr("On a cluster: ask the other nodes, too, and report what differs."));
+    line.addOption("config", Text::tr("file"),
+                   Text::tr("The plugin's INI file, whose values must fit the columns."));
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

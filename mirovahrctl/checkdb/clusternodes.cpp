@@ -1,5 +1,6 @@
 #include "mirovahrctl/checkdb/clusternodes.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/checkdb/serversettings.h"
 #include "mirovahrctl/site/midnights.h"
 #include "mirovahrctl/site/sitedatabase.h"
@@ -82,8 +83,7 @@ void ClusterNodes::askOther(const SiteDatabase &site, const QString &address)
         if (isOn(status, "wsrep_ready"))
             read(server.sql(), status, node);
         else
-            node.failure =
-                QStringLiteral("It refuses statements (state %1)").arg(nodeState(status));
+            node.failure = Text::tr("It refuses statements (state %1)").arg(nodeState(status));
     }
     if (node.failure.isEmpty())
         node.failure = strangeness(node);
@@ -95,11 +95,11 @@ void ClusterNodes::askOther(const SiteDatabase &site, const QString &address)
 QString ClusterNodes::strangeness(const AskedNode &node) const
 {
     if (node.cluster.isEmpty() || node.cluster != m_own.cluster)
-        return QStringLiteral("The server there is not a member of this cluster");
+        return Text::tr("The server there is not a member of this cluster");
     const auto isTheSame = [&node](const AskedNode &other) {
         return other.failure.isEmpty() && other.member == node.member;
     };
     if (isTheSame(m_own) || std::any_of(m_others.cbegin(), m_others.cend(), isTheSame))
-        return QStringLiteral("The address leads to a node that was asked already");
+        return Text::tr("The address leads to a node that was asked already");
     return QString();
 }

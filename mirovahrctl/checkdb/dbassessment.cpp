@@ -15,10 +15,10 @@ SqlSession DbAssessment::attempt(const QString &sql) const
     return session;
 }
 
-void DbAssessment::begin(const char *id, const char *heading)
+void DbAssessment::begin(const char *id, const QString &heading)
 {
     m_hasFindings = false;
-    m_writer.section(QString::fromLatin1(id), QString::fromLatin1(heading));
+    m_writer.section(QString::fromLatin1(id), heading);
 }
 
 void DbAssessment::end(const QString &sentenceWithoutFindings)

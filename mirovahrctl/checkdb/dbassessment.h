@@ -22,7 +22,7 @@ public:
     SqlSession attempt(const QString &sql) const;
 
     /// Begins a section of the report. \a id: its stable name for scripts.
-    void begin(const char *id, const char *heading);
+    void begin(const char *id, const QString &heading);
     /// Ends it, with this sentence if it has no findings.
     void end(const QString &sentenceWithoutFindings);
 

@@ -1,5 +1,6 @@
 // A node of a Galera cluster: its state, its settings, and the engines of the tables.
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -20,7 +21,7 @@ constexpr int kWaitBeforeReading = 1;
 
 QString valueOf(const ServerSettings &settings, const char *name)
 {
-    return settings.value(QLatin1String(name), QStringLiteral("unknown"));
+    return settings.value(QLatin1String(name), Text::tr("unknown", "of a setting"));
 }
 
 /// Why the node refuses every statement on a table; empty when it does not.
@@ -31,7 +32,7 @@ QString refusal(const ServerSettings &settings, const ServerSettings &status)
     if (rejected != QLatin1String("NONE"))
         return QStringLiteral("wsrep_reject_queries = %1").arg(rejected);
     if (!isOn(status, "wsrep_ready"))
-        return QStringLiteral("state %1, wsrep_ready = %2")
+        return Text::tr("state %1, wsrep_ready = %2")
             .arg(nodeState(status), valueOf(status, "wsrep_ready"));
     return QString();
 }
@@ -43,24 +44,24 @@ bool checkState(DbAssessment &check, const ServerSettings &settings, const Serve
     if (component != QLatin1String("Primary")) {
         check.reportViolation(
             CheckDbRules::kClusterNotPrimary, {},
-            QStringLiteral("The node has lost the majority of its cluster (wsrep_cluster_status = "
-                           "%1): it refuses every statement on a table with error 1047")
+            Text::tr("The node has lost the majority of its cluster (wsrep_cluster_status = "
+                     "%1): it refuses every statement on a table with error 1047")
                 .arg(component));
         return false;
     }
     const QString refused = refusal(settings, status);
     if (!refused.isEmpty()) {
         check.reportViolation(CheckDbRules::kClusterNotSynced, {},
-                              QStringLiteral("The node refuses every statement on a table with "
-                                             "error 1047 (%1)")
+                              Text::tr("The node refuses every statement on a table with "
+                                       "error 1047 (%1)")
                                   .arg(refused));
         return false;
     }
     if (valueOf(status, "wsrep_local_state") != QLatin1String(kSynced)) {
         Finding finding = makeFinding(
             CheckDbRules::kClusterNotSynced,
-            QStringLiteral("The node is not in step with the cluster (state %1): what is read here "
-                           "may lack what other nodes have committed.")
+            Text::tr("The node is not in step with the cluster (state %1): what is read here "
+                     "may lack what other nodes have committed.")
                 .arg(nodeState(status)));
         finding.severity = CheckDbRules::kClusterNotSynced.otherSeverity;
         check.report(finding);
@@ -77,8 +78,8 @@ void checkFormat(DbAssessment &check, const ServerSettings &settings)
     if (format == QLatin1String("ROW"))
         return;
     check.report(CheckDbRules::kClusterBinlogFormat, {},
-                 QStringLiteral("binlog_format is %1: a Galera cluster replicates rows only, and "
-                                "other formats can leave the nodes with different data")
+                 Text::tr("binlog_format is %1: a Galera cluster replicates rows only, and "
+                          "other formats can leave the nodes with different data")
                      .arg(format));
 }
 
@@ -87,12 +88,11 @@ void checkAutomaticNumbers(DbAssessment &check, const ServerSettings &settings)
     const QString mode = valueOf(settings, "innodb_autoinc_lock_mode");
     if (mode == QLatin1String("2"))
         return;
-    check.report(
-        CheckDbRules::kClusterAutoincLockMode, {},
-        QStringLiteral("innodb_autoinc_lock_mode is %1: inserts keep their table's counter "
-                       "locked, and inserts that arrive from other nodes can block each "
-                       "other until the node stands still")
-            .arg(mode));
+    check.report(CheckDbRules::kClusterAutoincLockMode, {},
+                 Text::tr("innodb_autoinc_lock_mode is %1: inserts keep their table's counter "
+                          "locked, and inserts that arrive from other nodes can block each "
+                          "other until the node stands still")
+                     .arg(mode));
 }
 
 void checkRetries(DbAssessment &check, const ServerSettings &settings)
@@ -101,9 +101,9 @@ void checkRetries(DbAssessment &check, const ServerSettings &settings)
     if (retries.toInt() >= kEnoughRetries)
         return;
     check.report(CheckDbRules::kClusterFewRetries, {},
-                 QStringLiteral("wsrep_retry_autocommit is %1: a statement that conflicts more "
-                                "often with what other nodes write fails with error 1213 "
-                                "(deadlock), and the plugin does not repeat it")
+                 Text::tr("wsrep_retry_autocommit is %1: a statement that conflicts more "
+                          "often with what other nodes write fails with error 1213 "
+                          "(deadlock), and the plugin does not repeat it")
                      .arg(retries));
 }
 
@@ -113,9 +113,9 @@ void checkReading(DbAssessment &check, const ServerSettings &settings)
     if ((wait.toInt() & kWaitBeforeReading) != 0)
         return;
     check.report(CheckDbRules::kClusterStaleReads, {},
-                 QStringLiteral("wsrep_sync_wait is %1, without the bit 1: a query may miss what "
-                                "other nodes have committed. After a fail-over the plugin may not "
-                                "see what it has just written")
+                 Text::tr("wsrep_sync_wait is %1, without the bit 1: a query may miss what "
+                          "other nodes have committed. After a fail-over the plugin may not "
+                          "see what it has just written")
                      .arg(wait));
 }
 
@@ -129,15 +129,15 @@ QString burdenOfTransfer(const ServerSettings &settings)
                                       QStringLiteral("mysqldump")};
     const QString method = valueOf(settings, "wsrep_sst_method");
     if (isOn(settings, "wsrep_sst_donor_rejects_queries"))
-        return QStringLiteral("wsrep_sst_donor_rejects_queries is ON: a node that is being copied "
-                              "to another one refuses every query meanwhile");
+        return Text::tr("wsrep_sst_donor_rejects_queries is ON: a node that is being copied "
+                        "to another one refuses every query meanwhile");
     if (blocking.contains(method))
-        return QStringLiteral("wsrep_sst_method is %1: a node that is being copied to another one "
-                              "makes every write wait until the transfer has ended")
+        return Text::tr("wsrep_sst_method is %1: a node that is being copied to another one "
+                        "makes every write wait until the transfer has ended")
             .arg(method);
     if (!working.contains(method))
-        return QStringLiteral("wsrep_sst_method is %1, which this check does not know: a node that "
-                              "is being copied to another one may make every write wait")
+        return Text::tr("wsrep_sst_method is %1, which this check does not know: a node that "
+                        "is being copied to another one may make every write wait")
             .arg(method);
     return QString();
 }
@@ -154,10 +154,10 @@ void checkTransfer(DbAssessment &check, const ServerSettings &settings)
 bool DbRules::checkCluster(DbAssessment &check, const ServerSettings &settings,
                            const ServerSettings &status)
 {
-    check.begin("cluster", "Cluster");
-    check.writer().fact(QStringLiteral("clusterSize"), QStringLiteral("Members of the cluster"),
+    check.begin("cluster", Text::tr("Cluster"));
+    check.writer().fact(QStringLiteral("clusterSize"), Text::tr("Members of the cluster"),
                         status.value(QStringLiteral("wsrep_cluster_size")).toInt());
-    check.writer().fact(QStringLiteral("nodeState"), QStringLiteral("State of this node"),
+    check.writer().fact(QStringLiteral("nodeState"), Text::tr("State of this node"),
                         nodeState(status));
     const bool answers = checkState(check, settings, status);
     checkFormat(check, settings);
@@ -165,8 +165,8 @@ bool DbRules::checkCluster(DbAssessment &check, const ServerSettings &settings,
     checkRetries(check, settings);
     checkReading(check, settings);
     checkTransfer(check, settings);
-    check.end(QStringLiteral("The node is in step with its cluster, and its settings are suitable "
-                             "for the plugin."));
+    check.end(Text::tr("The node is in step with its cluster, and its settings are suitable "
+                       "for the plugin."));
     return answers;
 }
 
@@ -176,15 +176,14 @@ void DbRules::checkNoCluster(DbAssessment &check, const ServerSettings &settings
     const bool isPrepared = !provider.isEmpty() && provider != QLatin1String("none");
     if (!isPrepared && !nodesWanted)
         return;
-    check.begin("cluster", "Cluster");
+    check.begin("cluster", Text::tr("Cluster"));
     if (isPrepared) {
-        check.report(
-            CheckDbRules::kClusterOff, {},
-            QStringLiteral("The server has a wsrep_provider, and wsrep_on = OFF for this "
-                           "connection: what it writes stays on this server, and the other "
-                           "nodes of its cluster do not get it"));
+        check.report(CheckDbRules::kClusterOff, {},
+                     Text::tr("The server has a wsrep_provider, and wsrep_on = OFF for this "
+                              "connection: what it writes stays on this server, and the other "
+                              "nodes of its cluster do not get it"));
     }
-    check.end(QStringLiteral("The server does not belong to a cluster: there are no other nodes."));
+    check.end(Text::tr("The server does not belong to a cluster: there are no other nodes."));
 }
 
 void DbRules::checkClusterTables(DbAssessment &check, const DbSchema &schema)
@@ -196,13 +195,13 @@ void DbRules::checkClusterTables(DbAssessment &check, const DbSchema &schema)
         if (!engine.isEmpty() && engine != QLatin1String("InnoDB"))
             others += QStringLiteral("%1 (%2)").arg(table, engine);
     }
-    check.begin("cluster-tables", "Tables on the cluster");
+    check.begin("cluster-tables", Text::tr("Tables on the cluster"));
     if (!others.isEmpty()) {
         check.report(CheckDbRules::kClusterEngine, {},
-                     QStringLiteral("Only tables of the engine InnoDB are replicated with their "
-                                    "conflicts noticed. These have another one, so that their rows "
-                                    "may differ between the nodes: %1")
+                     Text::tr("Only tables of the engine InnoDB are replicated with their "
+                              "conflicts noticed. These have another one, so that their rows "
+                              "may differ between the nodes: %1")
                          .arg(others.join(QStringLiteral(", "))));
     }
-    check.end(QStringLiteral("All tables have the engine that the cluster replicates."));
+    check.end(Text::tr("All tables have the engine that the cluster replicates."));
 }

@@ -1,8 +1,11 @@
 // Columns: they can hold what the plugin writes.
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/language.h"
+#include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/site/columnrange.h"
@@ -17,30 +20,18 @@ using TepDbContract::Kind;
 
 QString shown(double number)
 {
-    return QString::number(number, 'f', 0);
+    return Language::number(number, 0);
 }
 
 QString shown(const ColumnRange &range)
 {
-    return range.from == range.to
-        ? shown(range.from)
-        : QStringLiteral("%1 to %2").arg(shown(range.from), shown(range.to));
+    return range.from == range.to ? shown(range.from)
+                                  : Text::tr("%1 to %2").arg(shown(range.from), shown(range.to));
 }
 
 QString day(double seconds)
 {
-    return QDateTime::fromSecsSinceEpoch(qint64(seconds)).date().toString(Qt::ISODate);
-}
-
-/// The times that the column can hold, in words that name the bound that is too narrow.
-QString heldTimes(const ColumnRange &held, const ColumnRange &written)
-{
-    const bool startsLate = held.from > written.from;
-    const bool endsEarly = held.to < written.to;
-    if (startsLate && endsEarly)
-        return QStringLiteral("from %1 to %2").arg(day(held.from), day(held.to));
-    return startsLate ? QStringLiteral("from %1 on").arg(day(held.from))
-                      : QStringLiteral("up to %1").arg(day(held.to));
+    return Moment::text(QDateTime::fromSecsSinceEpoch(qint64(seconds)).date());
 }
 
 bool isText(const DbColumn &column)
@@ -57,7 +48,7 @@ public:
         : m_check(check)
         , m_schema(schema)
         , m_written(need.written)
-        , m_label(QString::fromLatin1(need.label))
+        , m_label(Text::tr(need.label))
         , m_column(column)
         , m_field(need.fullName())
     {
@@ -101,31 +92,33 @@ private:
         const DbColumn *const column = m_schema.column(owner.section(QLatin1Char('.'), 0, 0),
                                                        owner.section(QLatin1Char('.'), 1));
         const auto held = column == nullptr ? std::nullopt : ColumnRange::of(*column);
-        checkNumbers({0, held.value_or(ColumnRange()).to},
-                     QStringLiteral("what %1 holds").arg(owner));
+        checkNumbers({0, held.value_or(ColumnRange()).to}, Text::tr("what %1 holds").arg(owner));
     }
 
     void checkNumbers(const ColumnRange &written, const QString &meaning)
     {
         const auto held = ColumnRange::of(m_column);
         if (!held)
-            reportWrongKind(QStringLiteral("numbers"));
+            reportWrongKind(Text::tr("The column %1 is %2; the plugin writes numbers into it"));
         else if (!held->holds(written) && m_written.kind == Kind::Time)
             reportNarrowTimes(*held, written);
         else if (!held->holds(written))
-            reportTooNarrow(
-                QStringLiteral("the plugin writes %1 into it (%2)").arg(shown(written), meaning));
+            reportTooNarrow(Text::tr("The column %1 is %2; the plugin writes %3 into it (%4).")
+                                .arg(m_field, m_column.fullType, shown(written), meaning));
     }
 
     void checkText()
     {
         if (!isText(m_column)) {
-            reportWrongKind(QStringLiteral("texts"));
+            reportWrongKind(Text::tr("The column %1 is %2; the plugin writes texts into it"));
             return;
         }
-        if (m_column.length < m_written.length)
-            reportTooNarrow(QStringLiteral("the plugin writes up to %1 characters into it")
-                                .arg(m_written.length));
+        if (m_column.length < m_written.length) {
+            reportTooNarrow(
+                Text::tr("The column %1 is %2; the plugin writes up to %Ln character(s) into it.",
+                         nullptr, m_written.length)
+                    .arg(m_field, m_column.fullType));
+        }
         checkCharset();
     }
 
@@ -134,9 +127,9 @@ private:
         if (m_column.charset.startsWith(QLatin1String("utf8")))
             return;
         m_check.report(CheckDbRules::kColumnCharset, m_field,
-                       QStringLiteral("The column %1 has the character set %2: letters that it "
-                                      "lacks are refused, or stored as question marks where no "
-                                      "strict SQL mode is on")
+                       Text::tr("The column %1 has the character set %2: letters that it "
+                                "lacks are refused, or stored as question marks where no "
+                                "strict SQL mode is on")
                            .arg(m_field, m_column.charset));
     }
 
@@ -145,8 +138,8 @@ private:
         if (m_column.nullable)
             return;
         const QString message =
-            QStringLiteral("The column %1 (%2) does not allow NULL, which the plugin writes for "
-                           "people who have none")
+            Text::tr("The column %1 (%2) does not allow NULL, which the plugin writes for "
+                     "people who have none")
                 .arg(m_field, m_label);
         // The INI file may say that everybody has one.
         if (isConfigured())
@@ -155,31 +148,45 @@ private:
             m_check.reportViolation(CheckDbRules::kColumnNotNull, m_field, message);
     }
 
-    void reportWrongKind(const QString &kind)
+    /// \a message has places for the column and its type.
+    void reportWrongKind(const QString &message)
     {
         m_check.reportViolation(CheckDbRules::kColumnKind, m_field,
-                                QStringLiteral("The column %1 is %2; the plugin writes %3 into it")
-                                    .arg(m_field, m_column.fullType, kind));
+                                message.arg(m_field, m_column.fullType));
     }
 
+    /// Names the bound that is too narrow.
     void reportNarrowTimes(const ColumnRange &held, const ColumnRange &written)
     {
-        reportTooNarrow(QStringLiteral("it holds only times %1, and the plugin may write others "
-                                       "into it (%2)")
-                            .arg(heldTimes(held, written), m_label));
+        const bool startsLate = held.from > written.from;
+        const bool endsEarly = held.to < written.to;
+        if (startsLate && endsEarly) {
+            reportTooNarrow(
+                Text::tr("The column %1 is %2; it holds only times from %3 to %4, and "
+                         "the plugin may write others into it (%5).")
+                    .arg(m_field, m_column.fullType, day(held.from), day(held.to), m_label));
+        } else if (startsLate) {
+            reportTooNarrow(Text::tr("The column %1 is %2; it holds only times from %3 on, and the "
+                                     "plugin may write others into it (%4).")
+                                .arg(m_field, m_column.fullType, day(held.from), m_label));
+        } else {
+            reportTooNarrow(Text::tr("The column %1 is %2; it holds only times up to %3, and the "
+                                     "plugin may write others into it (%4).")
+                                .arg(m_field, m_column.fullType, day(held.to), m_label));
+        }
     }
 
+    /// \a need is a whole sentence.
     void reportTooNarrow(const QString &need)
     {
-        m_check.report(CheckDbRules::kColumnTooNarrow, m_field,
-                       QStringLiteral("The column %1 is %2; %3. Values that do not fit are "
-                                      "refused, or altered where no strict SQL mode is on")
-                           .arg(m_field, m_column.fullType, need),
-                       isConfigured() ? QStringLiteral("Give the column the type of "
-                                                       "reference-db/schema.sql, or name the "
-                                                       "plugin's INI file with --config, if its "
-                                                       "own value fits.")
-                                      : QString());
+        const QString effect = Text::tr("Values that do not fit are refused, or altered where no "
+                                        "strict SQL mode is on");
+        m_check.report(CheckDbRules::kColumnTooNarrow, m_field, need + QLatin1Char(' ') + effect,
+                       isConfigured()
+                           ? Text::tr("Give the column the type of reference-db/schema.sql, or "
+                                      "name the plugin's INI file with --config, if its own value "
+                                      "fits.")
+                           : QString());
     }
 
     DbAssessment &m_check;
@@ -193,9 +200,9 @@ private:
 void reportWidths(DbAssessment &check, const DbSchema &schema)
 {
     Table table{QStringLiteral("texts"),
-                {{QStringLiteral("column"), QStringLiteral("Text column")},
-                 {QStringLiteral("length"), QStringLiteral("Characters")},
-                 {QStringLiteral("charset"), QStringLiteral("Character set")}},
+                {{QStringLiteral("column"), Text::tr("Text column")},
+                 {QStringLiteral("length"), Text::tr("Characters")},
+                 {QStringLiteral("charset"), Text::tr("Character set")}},
                 {}};
     for (const TepDbContract::Column &need : TepDbContract::kColumns) {
         const DbColumn *const column = schema.column(need);
@@ -209,7 +216,7 @@ void reportWidths(DbAssessment &check, const DbSchema &schema)
 
 void DbRules::checkColumns(DbAssessment &check, const DbSchema &schema, bool configurationIsKnown)
 {
-    check.begin("columns", "Columns");
+    check.begin("columns", Text::tr("Columns"));
     for (const TepDbContract::Column &need : TepDbContract::kColumns) {
         const DbColumn *const column = schema.column(need);
         if (column == nullptr)
@@ -220,10 +227,10 @@ void DbRules::checkColumns(DbAssessment &check, const DbSchema &schema, bool con
         columnCheck.run();
     }
     check.end(configurationIsKnown
-                  ? QStringLiteral("The columns can hold what the plugin writes, except for HR's "
-                                   "texts, which check-file checks.")
-                  : QStringLiteral("The columns can hold what the plugin writes, except for texts: "
-                                   "check-file checks HR's, and --config lets this check those of "
-                                   "the INI file."));
+                  ? Text::tr("The columns can hold what the plugin writes, except for HR's "
+                             "texts, which check-file checks.")
+                  : Text::tr("The columns can hold what the plugin writes, except for texts: "
+                             "check-file checks HR's, and --config lets this check those of "
+                             "the INI file."));
     reportWidths(check, schema);
 }

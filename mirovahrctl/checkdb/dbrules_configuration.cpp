@@ -1,5 +1,6 @@
 // The configuration: the columns can hold the values of the plugin's INI file.
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -28,15 +29,15 @@ void checkDepartment(DbAssessment &check, const DbColumn &column, uint departmen
     if (department == 0 && !column.nullable) {
         check.reportViolation(
             CheckDbRules::kColumnNotNull, field,
-            QStringLiteral("The column %1 does not allow NULL, which the plugin writes because "
-                           "departmentId is 0 in the configuration")
+            Text::tr("The column %1 does not allow NULL, which the plugin writes because "
+                     "departmentId is 0 in the configuration")
                 .arg(field));
     } else if (department != 0 && held && !held->holds({double(department), double(department)})) {
         check.reportViolation(
             CheckDbRules::kDepartmentTooLarge, field,
-            QStringLiteral("The column %1 is %2 and cannot hold the department of the "
-                           "configuration, %3: nobody is created or updated, or everybody gets "
-                           "another department where no strict SQL mode is on")
+            Text::tr("The column %1 is %2 and cannot hold the department of the "
+                     "configuration, %3: nobody is created or updated, or everybody gets "
+                     "another department where no strict SQL mode is on")
                 .arg(field, column.fullType, QString::number(department)));
     }
 }
@@ -60,21 +61,21 @@ bool isKept(DbAssessment &check, const QString &text, const QString &charset)
 void checkStateText(DbAssessment &check, const DbColumn &column, ushort code, const QString &text)
 {
     const QString field = kStateText.fullName();
-    const QString state = QStringLiteral("the text of register state %1 in the configuration")
-                              .arg(QString::number(code));
     if (isTooLong(text, column)) {
         check.reportViolation(
             CheckDbRules::kStateTextTooLong, field,
-            QStringLiteral("The column %1 is %2; %3 is longer, %4: people in this state are "
-                           "refused, or their text is cut where no strict SQL mode is on")
-                .arg(field, column.fullType, state, Wording::quoted(text)));
+            Text::tr("The column %1 is %2; the text of register state %3 in the configuration is "
+                     "longer, %4: people in this state are refused, or their text is cut where no "
+                     "strict SQL mode is on")
+                .arg(field, column.fullType, QString::number(code), Wording::quoted(text)));
     } else if (!isKept(check, text, column.charset)) {
         check.reportViolation(
             CheckDbRules::kStateTextLetters, field,
-            QStringLiteral("The column %1 has the character set %2, which lacks letters of %3, "
-                           "%4: people in this state are refused, or get question marks where no "
-                           "strict SQL mode is on")
-                .arg(field, column.charset, state, Wording::quoted(text)));
+            Text::tr(
+                "The column %1 has the character set %2, which lacks letters of the text of "
+                "register state %3 in the configuration, %4: people in this state are refused, "
+                "or get question marks where no strict SQL mode is on")
+                .arg(field, column.charset, QString::number(code), Wording::quoted(text)));
     }
 }
 
@@ -83,7 +84,7 @@ void checkStateText(DbAssessment &check, const DbColumn &column, ushort code, co
 void DbRules::checkConfiguration(DbAssessment &check, const DbSchema &schema,
                                  const PluginConfiguration &configuration)
 {
-    check.begin("configuration", "Configuration");
+    check.begin("configuration", Text::tr("Configuration"));
     check.writer().sentence(configuration.origin());
     const DbColumn *const department = schema.column(kDepartment);
     if (department != nullptr)
@@ -95,5 +96,5 @@ void DbRules::checkConfiguration(DbAssessment &check, const DbSchema &schema,
         states.insert(it.key(), it.value());
     for (auto it = states.cbegin(); text != nullptr && it != states.cend(); ++it)
         checkStateText(check, *text, it.key(), it.value());
-    check.end(QStringLiteral("The columns can hold its department and its relationship states."));
+    check.end(Text::tr("The columns can hold its department and its relationship states."));
 }

@@ -1,5 +1,6 @@
 // The connection as its options and the driver establish it.
 
+#include "cli/text.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
@@ -22,25 +23,24 @@ void checkCharset(DbAssessment &check, const QStringList &row)
 {
     if (isUnicode(row.value(1)) && isUnicode(row.value(2)) && isUnicode(row.value(3)))
         return;
-    check.report(
-        CheckDbRules::kConnectionCharset, {},
-        QStringLiteral("The connection's character set is not UTF-8 (client %1, connection %2, "
-                       "results %3): accented letters are stored wrongly")
-            .arg(row.value(1), row.value(2), row.value(3)));
+    check.report(CheckDbRules::kConnectionCharset, {},
+                 Text::tr("The connection's character set is not UTF-8 (client %1, connection %2, "
+                          "results %3): accented letters are stored wrongly")
+                     .arg(row.value(1), row.value(2), row.value(3)));
 }
 
 void checkSeveralStatements(DbAssessment &check)
 {
     const bool allowed = !check.attempt(QLatin1String(kTwoStatements)).failed();
     check.writer().fact(QStringLiteral("severalStatements"),
-                        QStringLiteral("Several statements in one text allowed"), allowed);
+                        Text::tr("Several statements in one text allowed"), allowed);
     if (allowed)
         return;
     check.report(
         CheckDbRules::kSeveralStatements, {},
-        QStringLiteral("The connection refuses several statements in one text. The plugin does not "
-                       "need them, but where the attendance server uses the same classes, a "
-                       "changed time zone does not reach the terminals"));
+        Text::tr("The connection refuses several statements in one text. The plugin does not "
+                 "need them, but where the attendance server uses the same classes, a "
+                 "changed time zone does not reach the terminals"));
 }
 
 /// Whether the options make the driver report the rows that an update matched instead of those that
@@ -63,8 +63,8 @@ void checkAffectedRows(DbAssessment &check, const QString &connectOptions)
         return;
     check.reportViolation(
         CheckDbRules::kFoundRows, {},
-        QStringLiteral("The connect options contain CLIENT_FOUND_ROWS: the plugin then counts rows "
-                       "that it left unchanged as changed"));
+        Text::tr("The connect options contain CLIENT_FOUND_ROWS: the plugin then counts rows "
+                 "that it left unchanged as changed"));
 }
 
 /// Whether the option limits a wait. Qt's driver takes the last of several; 0 is no limit.
@@ -92,10 +92,10 @@ void checkTimeouts(DbAssessment &check, const QString &connectOptions)
         return;
     check.report(
         CheckDbRules::kNoTimeout, {},
-        QStringLiteral("The connect options that this check was given lack %1. When the attendance "
-                       "server connects like this, a database server that neither answers nor "
-                       "closes the connection freezes the plugin's tick, and the attendance server "
-                       "when it unloads the plugin")
+        Text::tr("The connect options that this check was given lack %1. When the attendance "
+                 "server connects like this, a database server that neither answers nor "
+                 "closes the connection freezes the plugin's tick, and the attendance server "
+                 "when it unloads the plugin")
             .arg(missing.join(QStringLiteral(", "))));
 }
 
@@ -104,13 +104,13 @@ void checkTimeouts(DbAssessment &check, const QString &connectOptions)
 void DbRules::checkConnection(DbAssessment &check, Account account, const QString &connectOptions)
 {
     const QStringList row = check.sql().row(QLatin1String(kSelectConnection));
-    check.begin("connection", "Connection");
-    check.writer().fact(QStringLiteral("account"), QStringLiteral("Account"), row.value(0));
-    check.writer().fact(QStringLiteral("charset"), QStringLiteral("Character set"), row.value(1));
+    check.begin("connection", Text::tr("Connection"));
+    check.writer().fact(QStringLiteral("account"), Text::tr("Account"), row.value(0));
+    check.writer().fact(QStringLiteral("charset"), Text::tr("Character set"), row.value(1));
     checkCharset(check, row);
     checkSeveralStatements(check);
     checkAffectedRows(check, connectOptions);
     if (account == Account::OfThePlugin)
         checkTimeouts(check, connectOptions);
-    check.end(QStringLiteral("The connection works as the plugin requires."));
+    check.end(Text::tr("The connection works as the plugin requires."));
 }

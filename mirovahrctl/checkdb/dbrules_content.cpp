@@ -1,9 +1,10 @@
 // The data in the tables, as far as the plugin depends on it.
 
+#include "cli/text.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
-#include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/payrollexports.h"
 
 #include <QStringList>
@@ -19,7 +20,7 @@ constexpr char kSelectLargeBranches[] = "SELECT bid FROM branches WHERE number I
 constexpr char kSelectLargeAdministrators[] =
     "SELECT aid FROM admins WHERE aid > 65535 ORDER BY aid";
 constexpr char kSelectDuplicateCalendars[] =
-    "SELECT CONCAT(calendarID, ' of master group ', parent) FROM `groups`"
+    "SELECT calendarID, parent FROM `groups`"
     " WHERE parent IS NOT NULL GROUP BY parent, calendarID HAVING COUNT(*) > 1"
     " ORDER BY parent, calendarID";
 constexpr char kSelectDuplicateSupervisors[] =
@@ -42,9 +43,9 @@ constexpr uint kLargestFund = 65535;
 
 QString shown(const QStringList &values)
 {
-    QString text = QStringList(values.mid(0, kMostShown)).join(QStringLiteral(", "));
+    const QString text = QStringList(values.mid(0, kMostShown)).join(QStringLiteral(", "));
     if (values.size() > kMostShown)
-        text += QStringLiteral(" and %1 more").arg(values.size() - kMostShown);
+        return Text::tr("%1 and %Ln more", nullptr, values.size() - kMostShown).arg(text);
     return text;
 }
 
@@ -53,17 +54,17 @@ void checkVacationFund(DbAssessment &check)
     const QStringList funds = check.sql().column(QLatin1String(kSelectVacationFunds));
     if (funds.isEmpty()) {
         check.report(CheckDbRules::kVacationFundNone, QStringLiteral("funds"),
-                     QStringLiteral("There is no vacation fund (a row of funds with iid 3 and unit "
-                                    "2): vacation balances are not synchronised"));
+                     Text::tr("There is no vacation fund (a row of funds with iid 3 and unit "
+                              "2): vacation balances are not synchronised"));
     } else if (funds.size() > 1) {
         check.report(CheckDbRules::kVacationFundSeveral, QStringLiteral("funds"),
-                     QStringLiteral("There are several vacation funds (iid 3, unit 2): %1. The "
-                                    "plugin uses the first that the server happens to return")
+                     Text::tr("There are several vacation funds (iid 3, unit 2): %1. The "
+                              "plugin uses the first that the server happens to return")
                          .arg(shown(funds)));
     } else if (funds.constFirst().toUInt() > kLargestFund) {
         check.report(CheckDbRules::kVacationFundNumber, QStringLiteral("funds"),
-                     QStringLiteral("The vacation fund has the number %1; the plugin keeps 16 bits "
-                                    "of it and would write to another fund")
+                     Text::tr("The vacation fund has the number %1; the plugin keeps 16 bits "
+                              "of it and would write to another fund")
                          .arg(funds.constFirst()));
     }
 }
@@ -73,58 +74,81 @@ void checkPayrollExport(DbAssessment &check)
     const QStringList exports = payrollExports(check.sql());
     if (exports.size() == 1)
         return;
-    const QString found = exports.isEmpty()
-        ? QStringLiteral("There is no payroll export")
-        : QStringLiteral("There are several payroll exports: ") + shown(exports);
-    check.report(
-        exports.isEmpty() ? CheckDbRules::kPayrollExportNone : CheckDbRules::kPayrollExportSeveral,
-        QStringLiteral("vars"),
-        found
-            + QStringLiteral(". The plugin adds new people to one only when there is exactly "
-                             "one key exportPam.N.active in vars, whatever its value"));
+    const QString field = QStringLiteral("vars");
+    if (exports.isEmpty()) {
+        check.report(CheckDbRules::kPayrollExportNone, field,
+                     Text::tr("There is no payroll export. The plugin adds new people to one only "
+                              "when there is exactly one key exportPam.N.active in vars, whatever "
+                              "its value"));
+    } else {
+        check.report(
+            CheckDbRules::kPayrollExportSeveral, field,
+            Text::tr("There are several payroll exports: %1. The plugin adds new people to "
+                     "one only when there is exactly one key exportPam.N.active in vars, "
+                     "whatever its value")
+                .arg(shown(exports)));
+    }
 }
 
 /// A rule about rows that must not exist. \a message has one placeholder for them.
 void checkNone(DbAssessment &check, const char *sql, const Rule &rule, const char *field,
-               const char *message)
+               const QString &message)
 {
     const QStringList rows = check.sql().column(QLatin1String(sql));
-    if (rows.isEmpty())
+    if (!rows.isEmpty())
+        check.report(rule, QString::fromLatin1(field), message.arg(shown(rows)));
+}
+
+void checkCalendars(DbAssessment &check)
+{
+    QStringList calendars;
+    const QVector<QStringList> rows = check.sql().rows(QLatin1String(kSelectDuplicateCalendars));
+    for (const QStringList &row : rows)
+        calendars += Text::tr("%1 of master group %2").arg(row.at(0), row.at(1));
+    if (calendars.isEmpty())
         return;
-    check.report(rule, QString::fromLatin1(field), QString::fromLatin1(message).arg(shown(rows)));
+    check.report(
+        CheckDbRules::kCalendarTwice, QStringLiteral("groups.calendarID"),
+        Text::tr("Several calendar groups have the same calendar: %1. People are placed in "
+                 "any of them")
+            .arg(shown(calendars)));
 }
 
 void checkBranches(DbAssessment &check)
 {
-    checkNone(check, kSelectDuplicateNumbers, CheckDbRules::kBranchNumberTwice, "branches.number",
-              "Several branches have the same number: %1. People of that cost centre are placed in "
-              "any of them");
-    checkNone(check, kSelectLargeBranches, CheckDbRules::kBranchIdLarge, "branches.bid",
-              "The ids of these branches exceed 16 bits: %1. Members are added to another branch, "
-              "or to none");
     checkNone(
-        check, kSelectDuplicateCalendars, CheckDbRules::kCalendarTwice, "groups.calendarID",
-        "Several calendar groups have the same calendar: %1. People are placed in any of them");
+        check, kSelectDuplicateNumbers, CheckDbRules::kBranchNumberTwice, "branches.number",
+        Text::tr(
+            "Several branches have the same number: %1. People of that cost centre are placed in "
+            "any of them"));
+    checkNone(
+        check, kSelectLargeBranches, CheckDbRules::kBranchIdLarge, "branches.bid",
+        Text::tr(
+            "The ids of these branches exceed 16 bits: %1. Members are added to another branch, "
+            "or to none"));
 }
 
 void checkAdministrators(DbAssessment &check)
 {
     checkNone(
         check, kSelectLargeAdministrators, CheckDbRules::kAdminIdLarge, "admins.aid",
-        "The ids of these administrators exceed 16 bits: %1. The plugin writes them "
-        "correctly, but other components of the attendance server that use its repository "
-        "classes keep only 16 bits: people are assigned to another administrator, or to none");
-    checkNone(check, kSelectDuplicateSupervisors, CheckDbRules::kSupervisorTwice,
-              "admins.personalNumber",
-              "Several administrators have the same personal number: %1. Any of them gets the "
-              "requests");
+        Text::tr(
+            "The ids of these administrators exceed 16 bits: %1. The plugin writes them "
+            "correctly, but other components of the attendance server that use its repository "
+            "classes keep only 16 bits: people are assigned to another administrator, or to none"));
+    checkNone(
+        check, kSelectDuplicateSupervisors, CheckDbRules::kSupervisorTwice, "admins.personalNumber",
+        Text::tr("Several administrators have the same personal number: %1. Any of them gets the "
+                 "requests"));
 }
 
 void checkPeople(DbAssessment &check)
 {
-    checkNone(check, kSelectDisagreeingPayrollIds, CheckDbRules::kPayrollIdStrange, "people.pamId",
-              "The pid and pamId of these active people disagree: %1. The plugin looks a person up "
-              "by pamId and writes by pid: it changes nobody, or treats the person as new");
+    checkNone(
+        check, kSelectDisagreeingPayrollIds, CheckDbRules::kPayrollIdStrange, "people.pamId",
+        Text::tr(
+            "The pid and pamId of these active people disagree: %1. The plugin looks a person up "
+            "by pamId and writes by pid: it changes nobody, or treats the person as new"));
 }
 
 void checkSelectionWidth(DbAssessment &check)
@@ -135,22 +159,24 @@ void checkSelectionWidth(DbAssessment &check)
         return;
     check.report(
         CheckDbRules::kSelectionWidth, QStringLiteral("vars.value"),
-        QStringLiteral("The column vars.value holds %1; the selection of the payroll export would "
-                       "need %2 to name every active person")
-            .arg(Wording::counted(width, QStringLiteral("character"), QStringLiteral("characters")),
-                 QString::number(needed)));
+        Text::tr(
+            "The column vars.value holds %Ln character(s); the selection of the payroll export "
+            "would need %1 to name every active person",
+            nullptr, Language::count(width))
+            .arg(Language::number(needed)));
 }
 
 } // namespace
 
 void DbRules::checkContent(DbAssessment &check)
 {
-    check.begin("content", "Content");
+    check.begin("content", Text::tr("Content"));
     checkVacationFund(check);
     checkPayrollExport(check);
     checkSelectionWidth(check);
     checkBranches(check);
+    checkCalendars(check);
     checkAdministrators(check);
     checkPeople(check);
-    check.end(QStringLiteral("The data meets the plugin's requirements."));
+    check.end(Text::tr("The data meets the plugin's requirements."));
 }

@@ -1,5 +1,6 @@
 // Tables without a primary key: servers can be configured to refuse them.
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -34,13 +35,13 @@ std::optional<Refusal> refusalOfTemporaryTable(const ServerSettings &settings)
     const QString engine = enforced.isEmpty() ? chosen : enforced;
     if (engine != chosen && has(settings, "sql_mode", "NO_ENGINE_SUBSTITUTION"))
         return Refusal{QStringLiteral("enforce_storage_engine = %1").arg(enforced), 1290,
-                       QStringLiteral("Set default_tmp_storage_engine to the same engine.")};
+                       Text::tr("Set default_tmp_storage_engine to the same engine.")};
     if (isOn(settings, "innodb_force_primary_key") && engine == QLatin1String("InnoDB"))
         return Refusal{QStringLiteral("innodb_force_primary_key = ON"), 1173,
-                       QStringLiteral("Turn it off, or set default_tmp_storage_engine to Aria.")};
+                       Text::tr("Turn it off, or set default_tmp_storage_engine to Aria.")};
     if (isClusterNode(settings) && has(settings, "wsrep_mode", "REQUIRED_PRIMARY_KEY"))
         return Refusal{QStringLiteral("wsrep_mode = REQUIRED_PRIMARY_KEY"), 4165,
-                       QStringLiteral("Remove the mode from wsrep_mode.")};
+                       Text::tr("Remove the mode from wsrep_mode.")};
     return std::nullopt;
 }
 
@@ -49,13 +50,13 @@ void checkTemporaryTable(DbAssessment &check, const ServerSettings &settings)
     const auto refusal = refusalOfTemporaryTable(settings);
     if (!refusal)
         return;
-    check.report(CheckDbRules::kTemporaryTableRefused, {},
-                 QStringLiteral(
-                     "The server has %1: CREATE TEMPORARY TABLE tmptbl_updateTermsSyncTZ fails "
-                     "with error %2. The plugin does not need it, but where the attendance server "
-                     "uses the same classes, a changed time zone does not reach the terminals")
-                     .arg(refusal->setting, QString::number(refusal->error)),
-                 refusal->remedy);
+    check.report(
+        CheckDbRules::kTemporaryTableRefused, {},
+        Text::tr("The server has %1: CREATE TEMPORARY TABLE tmptbl_updateTermsSyncTZ fails "
+                 "with error %2. The plugin does not need it, but where the attendance server "
+                 "uses the same classes, a changed time zone does not reach the terminals")
+            .arg(refusal->setting, QString::number(refusal->error)),
+        refusal->remedy);
 }
 
 /// Whether the table has a primary key, or a unique key that the server takes for one: on whole
@@ -105,22 +106,20 @@ void checkReplication(DbAssessment &check, const DbSchema &schema, const ServerS
     if (!isClusterNode(settings))
         return;
     if (!isOn(settings, "wsrep_certify_nonpk")) {
-        reportWithoutKey(
-            check, CheckDbRules::kPrimaryKeyWanted,
-            QStringLiteral("The server has wsrep_certify_nonPK = OFF, and this account "
-                           "sees no primary key on these tables: %1. Without one, each "
-                           "of the plugin's writes to them fails with error 1213 "
-                           "(deadlock)."),
-            tablesWithoutKey(schema, true));
+        reportWithoutKey(check, CheckDbRules::kPrimaryKeyWanted,
+                         Text::tr("The server has wsrep_certify_nonPK = OFF, and this account "
+                                  "sees no primary key on these tables: %1. Without one, each "
+                                  "of the plugin's writes to them fails with error 1213 "
+                                  "(deadlock)."),
+                         tablesWithoutKey(schema, true));
         return;
     }
-    reportWithoutKey(
-        check, CheckDbRules::kClusterKeyless,
-        QStringLiteral("This account sees no primary key on these tables: %1. On a "
-                       "cluster, new rows of two nodes conflict in such a table though "
-                       "they differ, and one of the two is refused with error 1213 "
-                       "(deadlock)."),
-        tablesWithoutKey(schema, false));
+    reportWithoutKey(check, CheckDbRules::kClusterKeyless,
+                     Text::tr("This account sees no primary key on these tables: %1. On a "
+                              "cluster, new rows of two nodes conflict in such a table though "
+                              "they differ, and one of the two is refused with error 1213 "
+                              "(deadlock)."),
+                     tablesWithoutKey(schema, false));
 }
 
 } // namespace
@@ -128,8 +127,8 @@ void checkReplication(DbAssessment &check, const DbSchema &schema, const ServerS
 void DbRules::checkKeylessTables(DbAssessment &check, const DbSchema &schema,
                                  const ServerSettings &settings)
 {
-    check.begin("keyless-tables", "Tables without a primary key");
+    check.begin("keyless-tables", Text::tr("Tables without a primary key"));
     checkTemporaryTable(check, settings);
     checkReplication(check, schema, settings);
-    check.end(QStringLiteral("The server accepts them where they are used."));
+    check.end(Text::tr("The server accepts them where they are used."));
 }

@@ -1,5 +1,6 @@
 // Unique keys: an upsert must update the row that it means, and no other.
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -79,24 +80,27 @@ private:
 
     void missingUpsertKey(const Columns &columns)
     {
-        const QString message =
-            QStringLiteral("The table %1 has no unique key on exactly %2: %3 inserts a second row "
-                           "instead of updating the first")
-                .arg(m_table, listed(columns),
-                     TepDbContract::getsRows(m_table)
-                         ? QStringLiteral("the plugin")
-                         : QStringLiteral("another component of the attendance server"));
-        if (TepDbContract::getsRows(m_table))
-            m_check.reportViolation(CheckDbRules::kKeyMissing, m_table, message);
-        else
-            m_check.report(CheckDbRules::kKeyMissingElsewhere, m_table, message);
+        if (TepDbContract::getsRows(m_table)) {
+            m_check.reportViolation(
+                CheckDbRules::kKeyMissing, m_table,
+                Text::tr(
+                    "The table %1 has no unique key on exactly %2: the plugin inserts a second "
+                    "row instead of updating the first")
+                    .arg(m_table, listed(columns)));
+        } else {
+            m_check.report(
+                CheckDbRules::kKeyMissingElsewhere, m_table,
+                Text::tr("The table %1 has no unique key on exactly %2: another component of the "
+                         "attendance server inserts a second row instead of updating the first")
+                    .arg(m_table, listed(columns)));
+        }
     }
 
     void missingIdentity(const Columns &columns)
     {
         m_check.report(CheckDbRules::kIdentityMissing, m_table,
-                       QStringLiteral("The table %1 has no unique key on %2: of two rows with the "
-                                      "same value, either may be used")
+                       Text::tr("The table %1 has no unique key on %2: of two rows with the "
+                                "same value, either may be used")
                            .arg(m_table, listed(columns)));
     }
 
@@ -135,8 +139,8 @@ private:
     {
         m_check.report(
             CheckDbRules::kKeyUnexpected, m_table,
-            QStringLiteral("The table %1 has a unique key %2 on %3: a row that the plugin inserts "
-                           "can collide with another row in it and change that one instead")
+            Text::tr("The table %1 has a unique key %2 on %3: a row that the plugin inserts "
+                     "can collide with another row in it and change that one instead")
                 .arg(m_table, name, listed(columns)));
     }
 
@@ -154,23 +158,22 @@ void checkAutomaticNumber(DbAssessment &check, const DbSchema &schema,
     const DbColumn *const column = schema.column(name, QString::fromLatin1(table.generatedColumn));
     if (column == nullptr || column->automaticNumber || !TepDbContract::getsRows(name))
         return;
-    check.reportViolation(
-        CheckDbRules::kNotAutomatic, name + QLatin1Char('.') + column->name,
-        QStringLiteral("The column %1.%2 is not AUTO_INCREMENT: the plugin leaves its "
-                       "value to the server")
-            .arg(name, column->name));
+    check.reportViolation(CheckDbRules::kNotAutomatic, name + QLatin1Char('.') + column->name,
+                          Text::tr("The column %1.%2 is not AUTO_INCREMENT: the plugin leaves its "
+                                   "value to the server")
+                              .arg(name, column->name));
 }
 
 } // namespace
 
 void DbRules::checkKeys(DbAssessment &check, const DbSchema &schema)
 {
-    check.begin("keys", "Unique keys");
+    check.begin("keys", Text::tr("Unique keys"));
     for (const TepDbContract::Table &table : TepDbContract::kTables) {
         if (!schema.hasTable(QString::fromLatin1(table.name)))
             continue;
         KeyCheck(check, schema, table).run();
         checkAutomaticNumber(check, schema, table);
     }
-    check.end(QStringLiteral("The unique keys are as the plugin requires."));
+    check.end(Text::tr("The unique keys are as the plugin requires."));
 }

@@ -1,11 +1,11 @@
 // The other nodes of the cluster: the plugin works with each of them after a fail-over.
 
+#include "cli/text.h"
 #include "mirovahrctl/checkdb/clusternodes.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
-#include "mirovahrctl/report/wording.h"
 
 namespace {
 
@@ -23,16 +23,18 @@ public:
     {
         if (!m_node.failure.isEmpty()) {
             report(CheckDbRules::kClusterNodeNotAsked,
-                   QStringLiteral("The node %1 was not asked: %2")
-                       .arg(m_node.address, m_node.failure));
+                   Text::tr("The node %1 was not asked: %2").arg(m_node.address, m_node.failure));
             return;
         }
         checkState();
         checkMidnights();
-        compare(CheckDbRules::kClusterNodeSqlMode, "SQL mode", &AskedNode::sqlMode);
-        compare(CheckDbRules::kClusterNodeIncrement, "auto_increment_increment",
-                &AskedNode::autoIncrementIncrement);
-        compare(CheckDbRules::kClusterNodeVersion, "version", &AskedNode::version);
+        compare(CheckDbRules::kClusterNodeSqlMode, &AskedNode::sqlMode,
+                Text::tr("The node %1 differs from this one in its SQL mode: '%2', not '%3'"));
+        compare(CheckDbRules::kClusterNodeIncrement, &AskedNode::autoIncrementIncrement,
+                Text::tr("The node %1 differs from this one in its auto_increment_increment: '%2', "
+                         "not '%3'"));
+        compare(CheckDbRules::kClusterNodeVersion, &AskedNode::version,
+                Text::tr("The node %1 differs from this one in its version: '%2', not '%3'"));
     }
 
 private:
@@ -46,8 +48,8 @@ private:
         if (m_node.isSynced())
             return;
         Finding finding = makeFinding(CheckDbRules::kClusterNotSynced,
-                                      QStringLiteral("The node %1 is not in step with the cluster "
-                                                     "(state %2).")
+                                      Text::tr("The node %1 is not in step with the cluster "
+                                               "(state %2).")
                                           .arg(m_node.address, m_node.state));
         finding.field = m_node.address;
         finding.severity = CheckDbRules::kClusterNotSynced.otherSeverity;
@@ -59,21 +61,18 @@ private:
     {
         if (m_node.midnights == m_own.midnights)
             return;
-        report(
-            CheckDbRules::kClusterNodeTimeZone,
-            QStringLiteral("The node %1 (time zone %2) and this one (%3) disagree about when days "
-                           "begin. After a fail-over, days of attendance and vacation would be "
-                           "missed or duplicated")
-                .arg(m_node.address, m_node.timeZone, m_own.timeZone));
+        report(CheckDbRules::kClusterNodeTimeZone,
+               Text::tr("The node %1 (time zone %2) and this one (%3) disagree about when days "
+                        "begin. After a fail-over, days of attendance and vacation would be "
+                        "missed or duplicated")
+                   .arg(m_node.address, m_node.timeZone, m_own.timeZone));
     }
 
-    void compare(const Rule &rule, const char *name, QString AskedNode::*value)
+    /// \a message has places for the node's address, its value and that of this node.
+    void compare(const Rule &rule, QString AskedNode::*value, const QString &message)
     {
-        if (m_node.*value == m_own.*value)
-            return;
-        report(rule,
-               QStringLiteral("The node %1 differs from this one in its %2: '%3', not '%4'")
-                   .arg(m_node.address, QLatin1String(name), m_node.*value, m_own.*value));
+        if (m_node.*value != m_own.*value)
+            report(rule, message.arg(m_node.address, m_node.*value, m_own.*value));
     }
 
     DbAssessment &m_check;
@@ -86,18 +85,17 @@ private:
 void DbRules::checkNodes(DbAssessment &check, const AskedNode &own,
                          const QVector<AskedNode> &others, int unnamed)
 {
-    check.begin("nodes", "Other nodes of the cluster");
+    check.begin("nodes", Text::tr("Other nodes of the cluster"));
     for (const AskedNode &node : others)
         NodeCheck(check, own, node).run();
     if (unnamed > 0) {
-        check.report(CheckDbRules::kClusterNodeNotAsked, {},
-                     QStringLiteral("The cluster has %1 without an address, as an arbitrator is, "
-                                    "which was not asked")
-                         .arg(Wording::counted(unnamed, QStringLiteral("member"),
-                                               QStringLiteral("members"))));
+        check.report(
+            CheckDbRules::kClusterNodeNotAsked, {},
+            Text::tr("The cluster has %Ln member(s) without an address, as an arbitrator is, "
+                     "which was not asked",
+                     nullptr, unnamed));
     }
-    check.end(others.isEmpty()
-                  ? QStringLiteral("The cluster has no other nodes.")
-                  : QStringLiteral("All of them have the time zone, SQL mode, "
-                                   "auto_increment_increment and version of this one."));
+    check.end(others.isEmpty() ? Text::tr("The cluster has no other nodes.")
+                               : Text::tr("All of them have the time zone, SQL mode, "
+                                          "auto_increment_increment and version of this one."));
 }

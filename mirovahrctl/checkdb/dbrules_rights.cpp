@@ -1,5 +1,6 @@
 // The rights of the account: enough, and not far more than enough.
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -34,7 +35,7 @@ void checkRight(DbAssessment &check, const DbSchema &schema, const char *right,
         return;
     const QString verb = QString::fromLatin1(right).toUpper();
     check.reportViolation(CheckDbRules::kRightMissing, table,
-                          QStringLiteral("The account lacks %1 on %2 of the table %3")
+                          Text::tr("The account lacks %1 on %2 of the table %3")
                               .arg(verb, missing.join(QStringLiteral(", ")), table));
 }
 
@@ -46,28 +47,31 @@ void checkTable(DbAssessment &check, const DbSchema &schema, const QString &tabl
     checkRight(check, schema, "update", table, columnsWith(U, table));
 }
 
-void checkExcess(DbAssessment &check, const char *sql, const QString &where)
+/// \a message has one placeholder for the rights.
+void checkExcess(DbAssessment &check, const char *sql, const QString &message)
 {
     QStringList rights = check.sql().column(QString::fromLatin1(sql).arg(QLatin1String(kAccount)));
     rights.removeDuplicates();
-    if (rights.isEmpty())
-        return;
-    check.report(
-        CheckDbRules::kRightExcess, {},
-        QStringLiteral("The account has rights on %1 that the plugin does not need: %2. Texts of "
-                       "the export go into the plugin's statements unescaped, so whoever writes "
-                       "the export can do whatever the account may do")
-            .arg(where, rights.join(QStringLiteral(", "))));
+    if (!rights.isEmpty())
+        check.report(CheckDbRules::kRightExcess, {},
+                     message.arg(rights.join(QStringLiteral(", "))));
 }
 
 } // namespace
 
 void DbRules::checkRights(DbAssessment &check, const DbSchema &schema)
 {
-    check.begin("rights", "Rights of the account");
+    check.begin("rights", Text::tr("Rights of the account"));
     for (const TepDbContract::Table &table : TepDbContract::kTables)
         checkTable(check, schema, QString::fromLatin1(table.name));
-    checkExcess(check, kSelectOnServer, QStringLiteral("the whole server"));
-    checkExcess(check, kSelectOnDatabases, QStringLiteral("whole databases"));
-    check.end(QStringLiteral("The account has the rights that the plugin needs, and hardly more."));
+    checkExcess(
+        check, kSelectOnServer,
+        Text::tr("The account has rights on the whole server that the plugin does not need: "
+                 "%1. Texts of the export go into the plugin's statements unescaped, so "
+                 "whoever writes the export can do whatever the account may do"));
+    checkExcess(check, kSelectOnDatabases,
+                Text::tr("The account has rights on whole databases that the plugin does not need: "
+                         "%1. Texts of the export go into the plugin's statements unescaped, so "
+                         "whoever writes the export can do whatever the account may do"));
+    check.end(Text::tr("The account has the rights that the plugin needs, and hardly more."));
 }

@@ -1,6 +1,7 @@
 // The four routines: they exist, the account may call them, and they return what the plugin
 // requires.
 
+#include "cli/text.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
@@ -53,18 +54,16 @@ void reportFailure(DbAssessment &check, const QString &name, const SqlSession &c
     if (code == kNoSuchFunction || code == kDenied) {
         check.reportViolation(
             CheckDbRules::kRoutineMissing, name,
-            QStringLiteral("The routine %1 does not exist, or the account may not call it")
-                .arg(name));
+            Text::tr("The routine %1 does not exist, or the account may not call it").arg(name));
     } else if (code == kWrongArguments) {
         check.reportViolation(
             CheckDbRules::kRoutineArguments, name,
-            QStringLiteral(
+            Text::tr(
                 "The routine %1 takes a different number of arguments from what the plugin passes")
                 .arg(name));
     } else {
-        check.reportViolation(
-            CheckDbRules::kRoutineFails, name,
-            QStringLiteral("The routine %1 fails: %2").arg(name, call.errorString()));
+        check.reportViolation(CheckDbRules::kRoutineFails, name,
+                              Text::tr("The routine %1 fails: %2").arg(name, call.errorString()));
     }
 }
 
@@ -74,10 +73,9 @@ void reportWrongResult(DbAssessment &check, const QString &name, const QString &
     const auto shown = [](const QString &value) {
         return value.isNull() ? QStringLiteral("NULL") : value;
     };
-    check.reportViolation(
-        CheckDbRules::kRoutineWrong, name,
-        QStringLiteral("The function %1 returns a wrong result: %2 gives %3, not %4")
-            .arg(name, call, shown(result), shown(expected)));
+    check.reportViolation(CheckDbRules::kRoutineWrong, name,
+                          Text::tr("The function %1 returns a wrong result: %2 gives %3, not %4")
+                              .arg(name, call, shown(result), shown(expected)));
 }
 
 /// Moments of this year by the server's clock: around the beginning of each month, and every third
@@ -131,9 +129,9 @@ void checkMonthFunction(DbAssessment &check)
     if (!call.failed())
         return;
     check.report(CheckDbRules::kRoutineLateDays, function,
-                 QStringLiteral("The function %1 fails for days beyond the server's range (%2). A "
-                                "single such day of attendance, for example with a mistyped year, "
-                                "keeps every month of that person from being filled")
+                 Text::tr("The function %1 fails for days beyond the server's range (%2). A "
+                          "single such day of attendance, for example with a mistyped year, "
+                          "keeps every month of that person from being filled")
                      .arg(function, call.errorString()));
 }
 
@@ -176,7 +174,7 @@ void lookForProcedure(DbAssessment &check)
     const QString name = QStringLiteral("updateTermsSync");
     if (!check.sql().column(QLatin1String(kSelectRoutines)).contains(name)) {
         check.report(CheckDbRules::kRoutineUnseen, name,
-                     QStringLiteral("This account cannot see the routine %1").arg(name));
+                     Text::tr("This account cannot see the routine %1").arg(name));
     }
 }
 
@@ -184,7 +182,7 @@ void lookForProcedure(DbAssessment &check)
 
 void DbRules::checkRoutines(DbAssessment &check, Account account)
 {
-    check.begin("routines", "Routines");
+    check.begin("routines", Text::tr("Routines"));
     checkTimeFunction(check, "midnightFromTs", kMidnight);
     checkMonthFunction(check);
     checkGroupFunction(check);
@@ -192,5 +190,5 @@ void DbRules::checkRoutines(DbAssessment &check, Account account)
         callProcedure(check);
     else
         lookForProcedure(check);
-    check.end(QStringLiteral("The routines work as the plugin requires."));
+    check.end(Text::tr("The routines work as the plugin requires."));
 }

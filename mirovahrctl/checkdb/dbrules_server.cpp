@@ -1,5 +1,6 @@
 // The server: its version, its SQL mode, whether it accepts writes.
 
+#include "cli/text.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/report/reportwriter.h"
@@ -17,7 +18,7 @@ void checkVersion(DbAssessment &check, const ServerVersion &version)
         return;
     check.reportViolation(
         CheckDbRules::kGroupsReserved, {},
-        QStringLiteral(
+        Text::tr(
             "The server is %1. There \"groups\" is a reserved word, and the plugin's statement "
             "that looks up a calendar group, which does not quote it, fails for everybody")
             .arg(version.name()));
@@ -27,9 +28,8 @@ void checkWritable(DbAssessment &check, const QString &readOnly)
 {
     if (readOnly == QLatin1String("0") || readOnly == QLatin1String("OFF"))
         return;
-    check.reportViolation(
-        CheckDbRules::kServerReadOnly, {},
-        QStringLiteral("The server is read-only: every write of the plugin fails"));
+    check.reportViolation(CheckDbRules::kServerReadOnly, {},
+                          Text::tr("The server is read-only: every write of the plugin fails"));
 }
 
 void checkFatalModes(DbAssessment &check, const QStringList &modes)
@@ -37,14 +37,14 @@ void checkFatalModes(DbAssessment &check, const QStringList &modes)
     if (modes.contains(QLatin1String("ONLY_FULL_GROUP_BY"))) {
         check.reportViolation(
             CheckDbRules::kSqlModeGroupBy, {},
-            QStringLiteral("The SQL mode ONLY_FULL_GROUP_BY is on: the statements that rebuild "
-                           "groups_month and queue a time zone for the terminals fail"));
+            Text::tr("The SQL mode ONLY_FULL_GROUP_BY is on: the statements that rebuild "
+                     "groups_month and queue a time zone for the terminals fail"));
     }
     if (modes.contains(QLatin1String("EMPTY_STRING_IS_NULL"))) {
         check.reportViolation(
             CheckDbRules::kSqlModeEmptyNull, {},
-            QStringLiteral("The SQL mode EMPTY_STRING_IS_NULL is on: people without a title or "
-                           "telephone cannot be written to columns that do not allow NULL"));
+            Text::tr("The SQL mode EMPTY_STRING_IS_NULL is on: people without a title or "
+                     "telephone cannot be written to columns that do not allow NULL"));
     }
 }
 
@@ -54,13 +54,13 @@ void checkOtherModes(DbAssessment &check, const QStringList &modes)
         && !modes.contains(QLatin1String("STRICT_ALL_TABLES"))) {
         check.report(
             CheckDbRules::kSqlModeNotStrict, {},
-            QStringLiteral("No strict SQL mode is on: texts longer than their column are cut and "
-                           "numbers that do not fit are altered without any message"));
+            Text::tr("No strict SQL mode is on: texts longer than their column are cut and "
+                     "numbers that do not fit are altered without any message"));
     }
     if (modes.contains(QLatin1String("NO_BACKSLASH_ESCAPES"))) {
         check.report(
             CheckDbRules::kSqlModeBackslash, {},
-            QStringLiteral(
+            Text::tr(
                 "The SQL mode NO_BACKSLASH_ESCAPES is on: a backslash in a text of the export is "
                 "stored literally. Without the mode it escapes the next character"));
     }
@@ -88,12 +88,12 @@ void DbRules::checkServer(DbAssessment &check)
     const QStringList row = check.sql().row(QLatin1String(kSelectServer));
     const ServerVersion version = ServerVersion::parse(row.value(0));
     const QString modes = row.value(1);
-    check.begin("server", "Server");
-    check.writer().fact(QStringLiteral("server"), QStringLiteral("Server"), version.name());
-    check.writer().fact(QStringLiteral("sqlMode"), QStringLiteral("SQL mode"), modes);
+    check.begin("server", Text::tr("Server"));
+    check.writer().fact(QStringLiteral("server"), Text::tr("Server"), version.name());
+    check.writer().fact(QStringLiteral("sqlMode"), Text::tr("SQL mode"), modes);
     checkVersion(check, version);
     checkWritable(check, row.value(2));
     checkFatalModes(check, modes.split(QLatin1Char(',')));
     checkOtherModes(check, modes.split(QLatin1Char(',')));
-    check.end(QStringLiteral("The server and its SQL mode are suitable for the plugin."));
+    check.end(Text::tr("The server and its SQL mode are suitable for the plugin."));
 }

@@ -1,10 +1,12 @@
 // The plugin's statements for a person: whether the server finds their rows by keys.
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
 #include "mirovahrctl/checkdb/statementplan.h"
 #include "mirovahrctl/pluginside/pluginstatements.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
 #include "mirovahrctl/report/wording.h"
@@ -74,6 +76,15 @@ bool serves(const DbKey &key, const TepDbContract::Lookup &lookup)
     return false;
 }
 
+/// The columns of lookups in a sentence about what a table has no key on.
+QString listed(const QStringList &lookups)
+{
+    QString list = lookups.constFirst();
+    for (const QString &columns : lookups.mid(1))
+        list = Text::tr("%1, and none on %2").arg(list, columns);
+    return list;
+}
+
 /// The statements of one site.
 class StatementCheck {
 public:
@@ -121,6 +132,7 @@ private:
         }
     }
 
+    /// The columns of the lookups that no key serves.
     QStringList missingKeys(const QString &table) const
     {
         const QVector<DbKey> keys = m_schema.keys(table);
@@ -142,17 +154,15 @@ private:
             return; // so many rows belong to what is looked for
         m_check.report(
             CheckDbRules::kStatementScans, table,
-            QStringLiteral(
-                "The table %1 has no key on %2: for each person or branch the plugin "
-                "sends %3 up to %4 of its rows. A synchronisation in which all %5 people "
-                "have changed takes up to about %6 longer, estimated with %7 rows a "
-                "second")
-                .arg(table, missing.join(QStringLiteral(", and none on ")),
-                     Wording::counted(walk.statements, QStringLiteral("statement that walks"),
-                                      QStringLiteral("statements that walk")),
-                     QString::number(walk.most, 'f', 0), QString::number(count("people"), 'f', 0),
+            Text::tr("The table %1 has no key on %2: for each person or branch the plugin sends "
+                     "%Ln statement(s) that walk up to %3 of its rows. A synchronisation in which "
+                     "all %4 people have changed takes up to about %5 longer, estimated with %6 "
+                     "rows a second",
+                     nullptr, walk.statements)
+                .arg(table, listed(missing), Language::number(walk.most, 0),
+                     Language::number(count("people"), 0),
                      Wording::span(qint64(walk.total / kRowsPerSecond)),
-                     QString::number(kRowsPerSecond, 'f', 0)));
+                     Language::number(kRowsPerSecond, 0)));
     }
 
     DbAssessment &m_check;
@@ -167,14 +177,14 @@ private:
 
 void DbRules::checkStatements(DbAssessment &check, const DbSchema &schema)
 {
-    check.begin("statements", "Statements for a person");
+    check.begin("statements", Text::tr("Statements for a person"));
     StatementCheck statements(check, schema);
     statements.run();
     if (statements.errorString().isEmpty()) {
-        check.end(QStringLiteral("The server finds their rows without walking a large table."));
+        check.end(Text::tr("The server finds their rows without walking a large table."));
         return;
     }
     check.setPartlySeen();
-    check.writer().sentence(QStringLiteral("The server does not explain all of them: %1.")
-                                .arg(statements.errorString()));
+    check.writer().sentence(
+        Text::tr("The server does not explain all of them: %1.").arg(statements.errorString()));
 }

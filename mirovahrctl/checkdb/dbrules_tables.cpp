@@ -1,5 +1,6 @@
 // Tables and columns: they exist, and the server fills those that the plugin leaves out.
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
@@ -38,8 +39,7 @@ private:
         }
         m_check.reportViolation(
             CheckDbRules::kTableMissing, table,
-            QStringLiteral("The table %1 does not exist, or the account has no rights on it")
-                .arg(table));
+            Text::tr("The table %1 does not exist, or the account has no rights on it").arg(table));
     }
 
     void checkColumns(const QString &table, const QStringList &columns)
@@ -59,7 +59,7 @@ private:
         }
         m_check.reportViolation(
             CheckDbRules::kColumnMissing, field,
-            QStringLiteral("The column %1 does not exist, or the account has no rights on it")
+            Text::tr("The column %1 does not exist, or the account has no rights on it")
                 .arg(field));
     }
 
@@ -73,8 +73,8 @@ void reportMissingElsewhere(DbAssessment &check, const QStringList &names)
     if (names.isEmpty())
         return;
     check.report(CheckDbRules::kMissingElsewhere, {},
-                 QStringLiteral("Missing, or hidden from this account: %1. The plugin does not use "
-                                "them; other components of the attendance server may")
+                 Text::tr("Missing, or hidden from this account: %1. The plugin does not use "
+                          "them; other components of the attendance server may")
                      .arg(names.join(QStringLiteral(", "))));
 }
 
@@ -91,9 +91,8 @@ void checkLeftOutColumns(DbAssessment &check, const DbSchema &schema, const QStr
             continue;
         check.reportViolation(
             CheckDbRules::kColumnWithoutDefault, table + QLatin1Char('.') + column.name,
-            QStringLiteral(
-                "The column %1.%2 has no default value and does not allow NULL: in strict SQL "
-                "modes the plugin's new rows, which leave it out, are refused")
+            Text::tr("The column %1.%2 has no default value and does not allow NULL: in strict SQL "
+                     "modes the plugin's new rows, which leave it out, are refused")
                 .arg(table, column.name));
     }
 }
@@ -127,7 +126,7 @@ void noteHiddenColumns(DbAssessment &check, const DbSchema &schema)
     check.setPartlySeen();
     check.report(
         CheckDbRules::kColumnsHidden, {},
-        QStringLiteral(
+        Text::tr(
             "This account has rights on single columns of these tables and sees no others: %1. "
             "This check cannot find a column that the site added there without a default value, "
             "which makes every new row fail, nor a unique key on hidden columns")
@@ -140,10 +139,9 @@ void checkStatusOfNewPeople(DbAssessment &check, const DbSchema &schema)
         schema.column(QStringLiteral("people"), QStringLiteral("status"));
     if (status == nullptr || status->defaultValue == QLatin1String("1"))
         return;
-    check.reportViolation(
-        CheckDbRules::kStatusDefault, QStringLiteral("people.status"),
-        QStringLiteral("The default of people.status is not 1: people whom the plugin "
-                       "creates are inactive until their line of the export changes"));
+    check.reportViolation(CheckDbRules::kStatusDefault, QStringLiteral("people.status"),
+                          Text::tr("The default of people.status is not 1: people whom the plugin "
+                                   "creates are inactive until their line of the export changes"));
 }
 
 void checkTransactions(DbAssessment &check, const DbSchema &schema)
@@ -153,8 +151,8 @@ void checkTransactions(DbAssessment &check, const DbSchema &schema)
         return;
     check.report(
         CheckDbRules::kNotTransactional, table,
-        QStringLiteral("The table %1 does not support transactions: if a supervisor cannot be set, "
-                       "the previous one loses the person's requests all the same")
+        Text::tr("The table %1 does not support transactions: if a supervisor cannot be set, "
+                 "the previous one loses the person's requests all the same")
             .arg(table));
 }
 
@@ -162,7 +160,7 @@ void checkTransactions(DbAssessment &check, const DbSchema &schema)
 
 void DbRules::checkTables(DbAssessment &check, const DbSchema &schema)
 {
-    check.begin("tables", "Tables");
+    check.begin("tables", Text::tr("Tables"));
     NameCheck names(check, schema);
     for (const TepDbContract::Table &table : TepDbContract::kTables)
         names.checkTable(table);
@@ -171,5 +169,5 @@ void DbRules::checkTables(DbAssessment &check, const DbSchema &schema)
     noteHiddenColumns(check, schema);
     checkStatusOfNewPeople(check, schema);
     checkTransactions(check, schema);
-    check.end(QStringLiteral("All tables and columns exist, and new rows can be inserted."));
+    check.end(Text::tr("All tables and columns exist, and new rows can be inserted."));
 }

@@ -1,10 +1,12 @@
 // Time: the plugin and the server must agree on when a day begins.
 
+#include "cli/text.h"
 #include "mirovahrctl/checkdb/dbassessment.h"
 #include "mirovahrctl/checkdb/dbrules.h"
+#include "mirovahrctl/report/language.h"
+#include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/report/rules/checkdbrules.h"
-#include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/midnights.h"
 
 #include <QDateTime>
@@ -34,10 +36,10 @@ void checkMidnights(DbAssessment &check, const QString &serverZone, const QStrin
         return;
     check.reportViolation(
         CheckDbRules::kTimeZone, {},
-        QStringLiteral(
+        Text::tr(
             "The server (time zone %1) and this program (%2) disagree about when days begin, such "
             "as %3. Days of attendance and vacation would be missed or duplicated")
-            .arg(serverZone, ownZone, day.toString(Qt::ISODate)));
+            .arg(serverZone, ownZone, Moment::text(day)));
 }
 
 void checkClock(DbAssessment &check, qint64 serverNow)
@@ -45,11 +47,12 @@ void checkClock(DbAssessment &check, qint64 serverNow)
     const qint64 ahead = serverNow - QDateTime::currentSecsSinceEpoch();
     if (qAbs(ahead) <= kClockTolerance)
         return;
-    check.report(
-        CheckDbRules::kClock, {},
-        QStringLiteral("The server's clock is %1 %2 this machine's")
-            .arg(Wording::counted(qAbs(ahead), QStringLiteral("second"), QStringLiteral("seconds")),
-                 ahead > 0 ? QStringLiteral("ahead of") : QStringLiteral("behind")));
+    const int seconds = Language::count(qAbs(ahead));
+    check.report(CheckDbRules::kClock, {},
+                 ahead > 0 ? Text::tr("The server's clock is %Ln second(s) ahead of this machine's",
+                                      nullptr, seconds)
+                           : Text::tr("The server's clock is %Ln second(s) behind this machine's",
+                                      nullptr, seconds));
 }
 
 } // namespace
@@ -60,15 +63,14 @@ void DbRules::checkTime(DbAssessment &check)
     const QString setting = row.value(0);
     const QString serverZone = setting == QLatin1String("SYSTEM") ? row.value(1) : setting;
     const QString ownZone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
-    check.begin("time", "Time");
-    check.writer().fact(QStringLiteral("serverTimeZone"), QStringLiteral("Server's time zone"),
+    check.begin("time", Text::tr("Time"));
+    check.writer().fact(QStringLiteral("serverTimeZone"), Text::tr("Server's time zone"),
                         serverZone);
-    check.writer().fact(QStringLiteral("timeZone"), QStringLiteral("Time zone of this program"),
-                        ownZone);
+    check.writer().fact(QStringLiteral("timeZone"), Text::tr("Time zone of this program"), ownZone);
     check.writer().fact(QStringLiteral("timeAfter2038"),
-                        QStringLiteral("Server knows the time after 19 January 2038"),
+                        Text::tr("Server knows the time after 19 January 2038"),
                         row.value(3) == QLatin1String("1"));
     checkMidnights(check, serverZone, ownZone);
     checkClock(check, row.value(2).toLongLong());
-    check.end(QStringLiteral("The server and this program agree about time."));
+    check.end(Text::tr("The server and this program agree about time."));
 }

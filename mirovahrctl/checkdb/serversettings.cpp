@@ -1,5 +1,6 @@
 #include "mirovahrctl/checkdb/serversettings.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/site/sqlsession.h"
 
 #include <QStringList>
@@ -59,5 +60,6 @@ bool isClusterNode(const ServerSettings &settings)
 
 QString nodeState(const ServerSettings &status)
 {
-    return status.value(QStringLiteral("wsrep_local_state_comment"), QStringLiteral("unknown"));
+    return status.value(QStringLiteral("wsrep_local_state_comment"),
+                        Text::tr("unknown", "of a state"));
 }
