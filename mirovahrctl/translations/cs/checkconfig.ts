@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>Write syncCommandRun=1 for a forced synchronisation, 2 for every one.</source>
-        <translation>Nastavte syncCommandRun=1 pro vynucenou synchronizaci, 2 pro každou.</translation>
+        <translation>Nastavte syncCommandRun=1 (jen před vynucenou synchronizací) nebo 2 (před každou).</translation>
     </message>
     <message>
         <source>The program of syncCommand does not exist or is not executable.</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Write 0 for never, 1 for a forced synchronisation, 2 for every one.</source>
-        <translation>Napište 0 pro nikdy, 1 pro vynucenou synchronizaci, 2 pro každou.</translation>
+        <translation>Napište 0 (nikdy), 1 (jen před vynucenou synchronizací) nebo 2 (před každou).</translation>
     </message>
     <message>
         <source>syncInterval is 0 and counts as 1: every tick synchronises.</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Perhaps %1 is meant: keys are case-sensitive, and this one belongs before the first group.</source>
-        <translation>Možná má být %1: v klíčích se rozlišují velká a malá písmena a tento patří před první skupinu.</translation>
+        <translation>Možná má jít o %1: v klíčích se rozlišují velká a malá písmena a tento patří před první skupinu.</translation>
     </message>
     <message>
         <source>The file does not exist: every key has its default.</source>

@@ -5,7 +5,7 @@
     <name>Text</name>
     <message>
         <source>The id of an administrator exceeds 16 bits, which is all that other components keep.</source>
-        <translation>Id správce přesahuje 16 bitů, víc ostatní součásti neuchovají.</translation>
+        <translation>Id správce přesahuje 16 bitů, ostatní součásti však víc neuchovávají.</translation>
     </message>
     <message>
         <source>Give the administrators ids up to 65535.</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Synchronise both with the same time server: the plugin compares times of the two.</source>
-        <translation>Nastavujte obojí podle téhož časového serveru: zásuvný modul porovnává časy obou.</translation>
+        <translation>Hodiny obou synchronizujte s týmž časovým serverem: zásuvný modul jejich časy porovnává.</translation>
     </message>
     <message>
         <source>innodb_autoinc_lock_mode is not 2, so inserts of several nodes can block each other for good.</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>wsrep_sync_wait lacks the bit 1, so a query may miss what other nodes have committed.</source>
-        <translation>wsrep_sync_wait neobsahuje bit 1, takže dotazu může chybět to, co už potvrdily jiné uzly.</translation>
+        <translation>wsrep_sync_wait neobsahuje bit 1, takže dotaz nemusí vidět to, co už potvrdily jiné uzly.</translation>
     </message>
     <message>
         <source>Set wsrep_sync_wait = 1 on every node.</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Check for a proxy between this machine and the server that splits the statements.</source>
-        <translation>Zkontrolujte, zda mezi tímto počítačem a serverem není proxy, která příkazy rozděluje.</translation>
+        <translation>Zkontrolujte, zda mezi tímto počítačem a serverem není proxy server, který příkazy rozděluje.</translation>
     </message>
     <message>
         <source>The SQL mode NO_BACKSLASH_ESCAPES is on, so a backslash is stored literally.</source>
@@ -618,7 +618,7 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>wsrep_sync_wait is %1, without the bit 1: a query may miss what other nodes have committed. After a fail-over the plugin may not see what it has just written</source>
-        <translation>wsrep_sync_wait je %1, bez bitu 1: dotazu může chybět to, co už potvrdily jiné uzly. Po přepnutí na jiný uzel zásuvný modul nemusí vidět, co právě zapsal</translation>
+        <translation>wsrep_sync_wait je %1, bez bitu 1: dotaz nemusí vidět to, co už potvrdily jiné uzly. Po přepnutí na jiný uzel zásuvný modul nemusí vidět, co právě zapsal</translation>
     </message>
     <message>
         <source>wsrep_sst_donor_rejects_queries is ON: a node that is being copied to another one refuses every query meanwhile</source>
@@ -698,7 +698,7 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>The column %1 has the character set %2: letters that it lacks are refused, or stored as question marks where no strict SQL mode is on</source>
-        <translation>Sloupec %1 má znakovou sadu %2: písmena, která v ní chybí, budou odmítnuta, nebo pokud není zapnut striktní režim SQL, uloží se jako otazníky</translation>
+        <translation>Sloupec %1 má znakovou sadu %2: písmena, která v ní chybí, server odmítne; pokud není zapnut striktní režim SQL, uloží je jako otazníky</translation>
     </message>
     <message>
         <source>The column %1 (%2) does not allow NULL, which the plugin writes for people who have none</source>
@@ -718,7 +718,7 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>Values that do not fit are refused, or altered where no strict SQL mode is on</source>
-        <translation>Hodnoty, které se nevejdou, budou odmítnuty, nebo pokud není zapnut striktní režim SQL, pozmění se</translation>
+        <translation>Hodnoty, které se nevejdou, server odmítne; pokud není zapnut striktní režim SQL, pozmění je</translation>
     </message>
     <message>
         <source>Give the column the type of reference-db/schema.sql, or name the plugin&apos;s INI file with --config, if its own value fits.</source>
@@ -754,15 +754,15 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>The column %1 is %2 and cannot hold the department of the configuration, %3: nobody is created or updated, or everybody gets another department where no strict SQL mode is on</source>
-        <translation>Sloupec %1 je %2 a oddělení z konfigurace, %3, se do něj nevejde: nikdo se nevytvoří ani neaktualizuje, nebo pokud není zapnut striktní režim SQL, všichni dostanou jiné oddělení</translation>
+        <translation>Sloupec %1 je %2 a oddělení z konfigurace, %3, se do něj nevejde: žádná osoba se nevytvoří ani neaktualizuje; pokud není zapnut striktní režim SQL, dostanou všechny jiné oddělení</translation>
     </message>
     <message>
         <source>The column %1 is %2; the text of register state %3 in the configuration is longer, %4: people in this state are refused, or their text is cut where no strict SQL mode is on</source>
-        <translation>Sloupec %1 je %2; text evidenčního stavu %3 v konfiguraci je delší, %4: osoby v tomto stavu budou odmítnuty, nebo pokud není zapnut striktní režim SQL, jejich text se zkrátí</translation>
+        <translation>Sloupec %1 je %2; text evidenčního stavu %3 v konfiguraci je delší, %4: osoby v tomto stavu server odmítne; pokud není zapnut striktní režim SQL, jejich text zkrátí</translation>
     </message>
     <message>
         <source>The column %1 has the character set %2, which lacks letters of the text of register state %3 in the configuration, %4: people in this state are refused, or get question marks where no strict SQL mode is on</source>
-        <translation>Sloupec %1 má znakovou sadu %2, ve které chybí písmena textu evidenčního stavu %3 z konfigurace, %4: osoby v tomto stavu budou odmítnuty, nebo pokud není zapnut striktní režim SQL, dostanou místo nich otazníky</translation>
+        <translation>Sloupec %1 má znakovou sadu %2, ve které chybí písmena textu evidenčního stavu %3 z konfigurace, %4: osoby v tomto stavu server odmítne; pokud není zapnut striktní režim SQL, uloží místo těchto písmen otazníky</translation>
     </message>
     <message>
         <source>Configuration</source>
@@ -778,7 +778,7 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>Several statements in one text allowed</source>
-        <translation>Více příkazů v jednom textu povoleno</translation>
+        <translation>Povolení více příkazů v jednom textu</translation>
     </message>
     <message>
         <source>The connection refuses several statements in one text. The plugin does not need them, but where the attendance server uses the same classes, a changed time zone does not reach the terminals</source>
@@ -998,7 +998,7 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>The account has the rights that the plugin needs, and hardly more.</source>
-        <translation>Účet má oprávnění, která zásuvný modul potřebuje, a sotva víc.</translation>
+        <translation>Účet má oprávnění, která zásuvný modul potřebuje, a ne o mnoho více.</translation>
     </message>
     <message>
         <source>The routine %1 does not exist, or the account may not call it</source>
@@ -1034,7 +1034,7 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>The server is %1. There &quot;groups&quot; is a reserved word, and the plugin&apos;s statement that looks up a calendar group, which does not quote it, fails for everybody</source>
-        <translation>Server je %1. „groups“ je tam vyhrazené slovo a příkaz zásuvného modulu, který vyhledává kalendářovou skupinu a neuvádí ho v uvozovkách, selže u všech osob</translation>
+        <translation>Server je %1. „groups“ je tam vyhrazené slovo a příkaz zásuvného modulu, který vyhledává kalendářovou skupinu a neuvádí ho v uvozovkách, selže u každé osoby</translation>
     </message>
     <message>
         <source>The server is read-only: every write of the plugin fails</source>
@@ -1090,7 +1090,7 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>The server does not explain all of them: %1.</source>
-        <translation>Server je všechny nevysvětlil (EXPLAIN): %1.</translation>
+        <translation>Server nevysvětlil všechny (EXPLAIN): %1.</translation>
     </message>
     <message>
         <source>The table %1 does not exist, or the account has no rights on it</source>

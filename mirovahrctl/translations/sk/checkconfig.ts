@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>Write syncCommandRun=1 for a forced synchronisation, 2 for every one.</source>
-        <translation>Nastavte syncCommandRun=1 pre vynútenú synchronizáciu, 2 pre každú.</translation>
+        <translation>Nastavte syncCommandRun=1 (len pred vynútenou synchronizáciou) alebo 2 (pred každou).</translation>
     </message>
     <message>
         <source>The program of syncCommand does not exist or is not executable.</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Write 0 for never, 1 for a forced synchronisation, 2 for every one.</source>
-        <translation>Napíšte 0 pre nikdy, 1 pre vynútenú synchronizáciu, 2 pre každú.</translation>
+        <translation>Napíšte 0 (nikdy), 1 (len pred vynútenou synchronizáciou) alebo 2 (pred každou).</translation>
     </message>
     <message>
         <source>syncInterval is 0 and counts as 1: every tick synchronises.</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Perhaps %1 is meant: keys are case-sensitive, and this one belongs before the first group.</source>
-        <translation>Možno má byť %1: v kľúčoch sa rozlišujú veľké a malé písmená a tento patrí pred prvú skupinu.</translation>
+        <translation>Možno má ísť o %1: v kľúčoch sa rozlišujú veľké a malé písmená a tento patrí pred prvú skupinu.</translation>
     </message>
     <message>
         <source>The file does not exist: every key has its default.</source>

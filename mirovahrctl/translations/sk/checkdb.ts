@@ -5,7 +5,7 @@
     <name>Text</name>
     <message>
         <source>The id of an administrator exceeds 16 bits, which is all that other components keep.</source>
-        <translation>Id správcu presahuje 16 bitov, viac ostatné súčasti neuchovajú.</translation>
+        <translation>Id správcu presahuje 16 bitov, ostatné súčasti však viac neuchovávajú.</translation>
     </message>
     <message>
         <source>Give the administrators ids up to 65535.</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Synchronise both with the same time server: the plugin compares times of the two.</source>
-        <translation>Nastavujte oboje podľa toho istého časového servera: zásuvný modul porovnáva časy oboch.</translation>
+        <translation>Hodiny oboch synchronizujte s tým istým časovým serverom: zásuvný modul ich časy porovnáva.</translation>
     </message>
     <message>
         <source>innodb_autoinc_lock_mode is not 2, so inserts of several nodes can block each other for good.</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>wsrep_sync_wait lacks the bit 1, so a query may miss what other nodes have committed.</source>
-        <translation>wsrep_sync_wait neobsahuje bit 1, takže dotazu môže chýbať to, čo už potvrdili iné uzly.</translation>
+        <translation>wsrep_sync_wait neobsahuje bit 1, takže dotaz nemusí vidieť to, čo už potvrdili iné uzly.</translation>
     </message>
     <message>
         <source>Set wsrep_sync_wait = 1 on every node.</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Check for a proxy between this machine and the server that splits the statements.</source>
-        <translation>Skontrolujte, či medzi týmto počítačom a serverom nie je proxy, ktorá príkazy rozdeľuje.</translation>
+        <translation>Skontrolujte, či medzi týmto počítačom a serverom nie je proxy server, ktorý príkazy rozdeľuje.</translation>
     </message>
     <message>
         <source>The SQL mode NO_BACKSLASH_ESCAPES is on, so a backslash is stored literally.</source>
@@ -618,7 +618,7 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>wsrep_sync_wait is %1, without the bit 1: a query may miss what other nodes have committed. After a fail-over the plugin may not see what it has just written</source>
-        <translation>wsrep_sync_wait je %1, bez bitu 1: dotazu môže chýbať to, čo už potvrdili iné uzly. Po prepnutí na iný uzol zásuvný modul nemusí vidieť, čo práve zapísal</translation>
+        <translation>wsrep_sync_wait je %1, bez bitu 1: dotaz nemusí vidieť to, čo už potvrdili iné uzly. Po prepnutí na iný uzol zásuvný modul nemusí vidieť, čo práve zapísal</translation>
     </message>
     <message>
         <source>wsrep_sst_donor_rejects_queries is ON: a node that is being copied to another one refuses every query meanwhile</source>
@@ -698,7 +698,7 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>The column %1 has the character set %2: letters that it lacks are refused, or stored as question marks where no strict SQL mode is on</source>
-        <translation>Stĺpec %1 má znakovú sadu %2: písmená, ktoré v nej chýbajú, sa odmietnu, alebo ak nie je zapnutý striktný režim SQL, uložia sa ako otázniky</translation>
+        <translation>Stĺpec %1 má znakovú sadu %2: písmená, ktoré v nej chýbajú, server odmietne; ak nie je zapnutý striktný režim SQL, uloží ich ako otázniky</translation>
     </message>
     <message>
         <source>The column %1 (%2) does not allow NULL, which the plugin writes for people who have none</source>
@@ -718,7 +718,7 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>Values that do not fit are refused, or altered where no strict SQL mode is on</source>
-        <translation>Hodnoty, ktoré sa nezmestia, sa odmietnu, alebo ak nie je zapnutý striktný režim SQL, pozmenia sa</translation>
+        <translation>Hodnoty, ktoré sa nezmestia, server odmietne; ak nie je zapnutý striktný režim SQL, pozmení ich</translation>
     </message>
     <message>
         <source>Give the column the type of reference-db/schema.sql, or name the plugin&apos;s INI file with --config, if its own value fits.</source>
@@ -754,15 +754,15 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>The column %1 is %2 and cannot hold the department of the configuration, %3: nobody is created or updated, or everybody gets another department where no strict SQL mode is on</source>
-        <translation>Stĺpec %1 je %2 a oddelenie z konfigurácie, %3, sa doň nezmestí: nikto sa nevytvorí ani neaktualizuje, alebo ak nie je zapnutý striktný režim SQL, všetci dostanú iné oddelenie</translation>
+        <translation>Stĺpec %1 je %2 a oddelenie z konfigurácie, %3, sa doň nezmestí: žiadna osoba sa nevytvorí ani neaktualizuje; ak nie je zapnutý striktný režim SQL, dostanú všetky iné oddelenie</translation>
     </message>
     <message>
         <source>The column %1 is %2; the text of register state %3 in the configuration is longer, %4: people in this state are refused, or their text is cut where no strict SQL mode is on</source>
-        <translation>Stĺpec %1 je %2; text evidenčného stavu %3 v konfigurácii je dlhší, %4: osoby v tomto stave sa odmietnu, alebo ak nie je zapnutý striktný režim SQL, ich text sa skráti</translation>
+        <translation>Stĺpec %1 je %2; text evidenčného stavu %3 v konfigurácii je dlhší, %4: osoby v tomto stave server odmietne; ak nie je zapnutý striktný režim SQL, ich text skráti</translation>
     </message>
     <message>
         <source>The column %1 has the character set %2, which lacks letters of the text of register state %3 in the configuration, %4: people in this state are refused, or get question marks where no strict SQL mode is on</source>
-        <translation>Stĺpec %1 má znakovú sadu %2, v ktorej chýbajú písmená textu evidenčného stavu %3 z konfigurácie, %4: osoby v tomto stave sa odmietnu, alebo ak nie je zapnutý striktný režim SQL, dostanú namiesto nich otázniky</translation>
+        <translation>Stĺpec %1 má znakovú sadu %2, v ktorej chýbajú písmená textu evidenčného stavu %3 z konfigurácie, %4: osoby v tomto stave server odmietne; ak nie je zapnutý striktný režim SQL, uloží namiesto týchto písmen otázniky</translation>
     </message>
     <message>
         <source>Configuration</source>
@@ -778,7 +778,7 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>Several statements in one text allowed</source>
-        <translation>Viac príkazov v jednom texte povolených</translation>
+        <translation>Povolenie viacerých príkazov v jednom texte</translation>
     </message>
     <message>
         <source>The connection refuses several statements in one text. The plugin does not need them, but where the attendance server uses the same classes, a changed time zone does not reach the terminals</source>
@@ -998,7 +998,7 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>The account has the rights that the plugin needs, and hardly more.</source>
-        <translation>Účet má oprávnenia, ktoré zásuvný modul potrebuje, a sotva viac.</translation>
+        <translation>Účet má oprávnenia, ktoré zásuvný modul potrebuje, a nie oveľa viac.</translation>
     </message>
     <message>
         <source>The routine %1 does not exist, or the account may not call it</source>
@@ -1034,7 +1034,7 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>The server is %1. There &quot;groups&quot; is a reserved word, and the plugin&apos;s statement that looks up a calendar group, which does not quote it, fails for everybody</source>
-        <translation>Server je %1. „groups“ je tam vyhradené slovo a príkaz zásuvného modulu, ktorý vyhľadáva kalendárovú skupinu a neuvádza ho v úvodzovkách, zlyhá pri všetkých osobách</translation>
+        <translation>Server je %1. „groups“ je tam vyhradené slovo a príkaz zásuvného modulu, ktorý vyhľadáva kalendárovú skupinu a neuvádza ho v úvodzovkách, zlyhá pri každej osobe</translation>
     </message>
     <message>
         <source>The server is read-only: every write of the plugin fails</source>
@@ -1090,7 +1090,7 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>The server does not explain all of them: %1.</source>
-        <translation>Server ich všetky nevysvetlil (EXPLAIN): %1.</translation>
+        <translation>Server nevysvetlil všetky z nich (EXPLAIN): %1.</translation>
     </message>
     <message>
         <source>The table %1 does not exist, or the account has no rights on it</source>
