@@ -1,13 +1,23 @@
 #include "mirovahrctl/comparison/differencetables.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/comparison/comparedpeople.h"
 #include "mirovahrctl/comparison/exportdifferences.h"
 #include "mirovahrctl/comparison/fieldwords.h"
+#include "mirovahrctl/report/language.h"
+#include "mirovahrctl/report/moment.h"
 
 namespace {
 
-const Table::Column kPerson{QStringLiteral("person"), QStringLiteral("Person")};
-const Table::Column kName{QStringLiteral("name"), QStringLiteral("Name")};
+Table::Column personColumn()
+{
+    return {QStringLiteral("person"), Text::tr("Person")};
+}
+
+Table::Column nameColumn()
+{
+    return {QStringLiteral("name"), Text::tr("Name", "of a person")};
+}
 
 QString nameOf(const MirovaRonRecord &record)
 {
@@ -29,19 +39,19 @@ QString shownValue(int field, const QString &text)
             || field == ExportLine::KalendarPlatnostOd
         ? ExportLine::parseDate(text, QString(ExportLine::kDateFormat))
         : QDate();
-    return date.isValid() ? date.toString(Qt::ISODate) : text;
+    return date.isValid() ? Moment::text(date) : text;
 }
 
 Table fieldTable(const ExportDifferences &differences)
 {
     static const QStringList names = ExportLine::fieldNames();
     Table table{QStringLiteral("fields"),
-                {{QStringLiteral("field"), QStringLiteral("Field")},
-                 {QStringLiteral("meaning"), QStringLiteral("Meaning")},
-                 {QStringLiteral("changed"), QStringLiteral("Changed")},
-                 {QStringLiteral("emptied"), QStringLiteral("Emptied")},
-                 {QStringLiteral("misread"), QStringLiteral("Misread")},
-                 {QStringLiteral("repaired"), QStringLiteral("Repaired")}},
+                {{QStringLiteral("field"), Text::tr("Field")},
+                 {QStringLiteral("meaning"), Text::tr("Meaning")},
+                 {QStringLiteral("changed"), Text::tr("Changed")},
+                 {QStringLiteral("emptied"), Text::tr("Emptied")},
+                 {QStringLiteral("misread"), Text::tr("Misread")},
+                 {QStringLiteral("repaired"), Text::tr("Repaired")}},
                 {}};
     for (int i = 0; i < ExportLine::kFieldCount; ++i) {
         const FieldDifferences &field = differences.fields.at(size_t(i));
@@ -58,9 +68,10 @@ void DifferenceTables::people(const char *id, const QString &what, const QVector
     if (list.isEmpty())
         return;
     sentence(what, list.size());
-    Table table{QString::fromLatin1(id),
-                {kPerson, kName, {QStringLiteral("costCentre"), QStringLiteral("Cost centre")}},
-                {}};
+    Table table{
+        QString::fromLatin1(id),
+        {personColumn(), nameColumn(), {QStringLiteral("costCentre"), Text::tr("Cost centre")}},
+        {}};
     const QVector<int> people = shown(list);
     for (const int person : people) {
         const MirovaRonRecord record = m_people.latest(person);
@@ -73,12 +84,12 @@ void DifferenceTables::moving(const QVector<int> &list)
 {
     if (list.isEmpty())
         return;
-    sentence(QStringLiteral("Moving"), list.size());
+    sentence(Text::tr("Moving"), list.size());
     Table table{QStringLiteral("moving"),
-                {kPerson,
-                 kName,
-                 {QStringLiteral("from"), QStringLiteral("From cost centre")},
-                 {QStringLiteral("to"), QStringLiteral("To cost centre")}},
+                {personColumn(),
+                 nameColumn(),
+                 {QStringLiteral("from"), Text::tr("From cost centre")},
+                 {QStringLiteral("to"), Text::tr("To cost centre")}},
                 {}};
     const QVector<int> people = shown(list);
     for (const int person : people) {
@@ -97,10 +108,10 @@ void DifferenceTables::values(const QString &id, const QString &what, const QVec
         return;
     sentence(what, list.size());
     Table table{id,
-                {kPerson,
-                 kName,
-                 {QStringLiteral("before"), QStringLiteral("Before")},
-                 {QStringLiteral("now"), QStringLiteral("Now")}},
+                {personColumn(),
+                 nameColumn(),
+                 {QStringLiteral("before"), Text::tr("Before")},
+                 {QStringLiteral("now"), Text::tr("Now")}},
                 {}};
     const QVector<int> people = shown(list);
     for (const int person : people) {
@@ -116,8 +127,8 @@ void DifferenceTables::values(const QString &id, const QString &what, const QVec
 void DifferenceTables::sentence(const QString &what, int count)
 {
     if (count > m_most) {
-        m_report.sentence(QStringLiteral("%1: the first %2 of %3.")
-                              .arg(what, QString::number(m_most), QString::number(count)));
+        m_report.sentence(Text::tr("%1: the first %2 of %3.")
+                              .arg(what, Language::number(m_most), Language::number(count)));
     } else {
         m_report.sentence(what + QLatin1Char(':'));
     }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/comparison/fieldwords.h"
 
+#include "cli/text.h"
 #include "worker/exportline.h"
 
 #include <array>
@@ -9,31 +10,31 @@ namespace FieldWords {
 namespace {
 
 constexpr std::array<const char *, ExportLine::kFieldCount> kWords{
-    "personal number",
-    "relationship number",
-    "title",
-    "first name",
-    "surname",
-    "title after the name",
-    "telephone number",
-    "first day",
-    "last day",
-    "cost centre",
-    "name of the cost centre",
-    "calendar",
-    "start of the calendar",
-    "employment type",
-    "employment state",
-    "register state",
-    "vacation balance",
-    "supervisor",
+    QT_TRANSLATE_NOOP("Text", "personal number"),
+    QT_TRANSLATE_NOOP("Text", "relationship number"),
+    QT_TRANSLATE_NOOP("Text", "title"),
+    QT_TRANSLATE_NOOP("Text", "first name"),
+    QT_TRANSLATE_NOOP("Text", "surname"),
+    QT_TRANSLATE_NOOP("Text", "title after the name"),
+    QT_TRANSLATE_NOOP("Text", "telephone number"),
+    QT_TRANSLATE_NOOP("Text", "first day"),
+    QT_TRANSLATE_NOOP("Text", "last day"),
+    QT_TRANSLATE_NOOP("Text", "cost centre"),
+    QT_TRANSLATE_NOOP("Text", "name of the cost centre"),
+    QT_TRANSLATE_NOOP("Text", "calendar"),
+    QT_TRANSLATE_NOOP("Text", "start of the calendar"),
+    QT_TRANSLATE_NOOP("Text", "employment type"),
+    QT_TRANSLATE_NOOP("Text", "employment state"),
+    QT_TRANSLATE_NOOP("Text", "register state"),
+    QT_TRANSLATE_NOOP("Text", "vacation balance"),
+    QT_TRANSLATE_NOOP("Text", "supervisor"),
 };
 
 } // namespace
 
 QString of(int field)
 {
-    return QString::fromLatin1(kWords.at(size_t(field)));
+    return Text::tr(kWords.at(size_t(field)));
 }
 
 QString heading(int field)

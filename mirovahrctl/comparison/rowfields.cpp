@@ -1,7 +1,9 @@
 #include "mirovahrctl/comparison/rowfields.h"
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/export/sqltexts.h"
+#include "mirovahrctl/report/moment.h"
 #include "worker/recordcomparison.h"
 
 #include <array>
@@ -12,8 +14,8 @@ using TepDbContract::labelOf;
 
 /// In the order of the comparison. The first two are the parts of people.pamId.
 constexpr std::array kNames{
-    "personal number",
-    "relationship number",
+    QT_TRANSLATE_NOOP("Text", "personal number"),
+    QT_TRANSLATE_NOOP("Text", "relationship number"),
     labelOf("people", "title"),
     labelOf("people", "name"),
     labelOf("people", "surname"),
@@ -43,12 +45,12 @@ QVariant value(const QString &text)
 
 QVariant value(const QDate &date)
 {
-    return date.toString(Qt::ISODate);
+    return Moment::text(date);
 }
 
 QString name(const char *label)
 {
-    QString name = QString::fromLatin1(label);
+    QString name = Text::tr(label);
     name[0] = name.at(0).toUpper();
     return name;
 }

@@ -3,6 +3,8 @@
 #include "cli/text.h"
 #include "mirovahrctl/report/language.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <iterator>
 
@@ -64,6 +66,8 @@ QString plain(const QVariant &value)
 {
     if (value.type() == QVariant::Bool)
         return value.toBool() ? Text::tr("yes") : Text::tr("no");
+    if (value.type() == QVariant::Double)
+        return QLocale().toString(value.toDouble(), 'g', QLocale::FloatingPointShortest);
     return value.toString();
 }
 

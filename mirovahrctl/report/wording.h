@@ -13,7 +13,7 @@ QString visible(const QString &text);
 /// As visible(), in quotation marks and truncated to 60 characters.
 QString quoted(const QString &text);
 
-/// A fact or the cell of a table: "yes" or "no" for a flag.
+/// A fact or the cell of a table: "yes" or "no" for a flag, "12.5" or "12,5" for a fraction.
 QString plain(const QVariant &value);
 
 /// The text with a full stop at its end, added when it is missing.
