@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/comparison/comparedpeople.h"
 #include "mirovahrctl/comparison/exportdifferences.h"
 #include "mirovahrctl/diff/diffreport.h"
@@ -16,10 +17,11 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Compares two HR exports as the plugin reads them, and changes nothing. Reports who is\n"
-    "new, leaves, returns or gets another cost centre, and for each field how many values\n"
-    "changed, were emptied, or are misread by the plugin now.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Compares two HR exports as the plugin reads them, and changes nothing. Reports who is new, "
+    "leaves, returns or gets another cost centre, and for each field how many values changed, "
+    "were emptied, or are misread by the plugin now.");
 
 /// So many people of each list are shown without --all.
 constexpr int kMostShown = 20;
@@ -67,7 +69,7 @@ ExitStatus DiffRun::run()
 
 std::optional<ExitStatus> DiffRun::read(QFile &file, ComparedPeople::Side side)
 {
-    Progress progress(m_console, QStringLiteral("Reading the exports"));
+    Progress progress(m_console, Text::tr("Reading the exports"));
     const qint64 size = file.size();
     BoundedLineReader reader(file);
     while (reader.next()) {
@@ -83,9 +85,9 @@ ExitStatus DiffRun::reportAll()
 {
     const ExportDifferences differences = ExportDifferences::of(m_people, QDate::currentDate());
     const int most = m_line.isSet("all") ? std::numeric_limits<int>::max() : kMostShown;
-    m_report.begin(m_line.subcommand(),
-                   QStringLiteral("HR export %1 compared with %2")
-                       .arg(m_line.argument(1), m_line.argument(0)));
+    m_report.begin(
+        m_line.subcommand(),
+        Text::tr("HR export %1 compared with %2").arg(m_line.argument(1), m_line.argument(0)));
     DiffReport report(m_people, differences, most, m_report);
     report.write();
     return m_report.conclude(report.verdict());
@@ -97,11 +99,11 @@ ExitStatus DiffRun::reportPeople()
     const QVector<int> people = peopleNamed(m_people, id);
     if (people.isEmpty())
         return m_console.fail(ExitStatus::Usage,
-                              QStringLiteral("Neither export has a person '%1'").arg(id));
-    m_report.begin(m_line.subcommand(), QStringLiteral("Person %1 in two HR exports").arg(id));
+                              Text::tr("Neither export has a person '%1'").arg(id));
+    m_report.begin(m_line.subcommand(), Text::tr("Person %1 in two HR exports").arg(id));
     for (const int person : people)
         reportPerson(m_people, person, m_report);
-    return m_report.conclude(ExitStatus::Fine, QStringLiteral("This is what the exports say."));
+    return m_report.conclude(ExitStatus::Fine, Text::tr("This is what the exports say."));
 }
 
 } // namespace
@@ -109,12 +111,12 @@ ExitStatus DiffRun::reportPeople()
 ExitStatus runDiff(const QStringList &arguments, Console &console)
 {
     CommandLine line("diff", kDescription);
-    line.addArgument("old", "The older export.");
-    line.addArgument("new", "The newer export.");
-    line.addOption("person", "id",
-                   "Show only what differs for one person: a payroll id such as 1234.1, a personal "
-                   "number or a pid.");
-    line.addFlag("all", "Show all people of each list, not only the first 20.");
+    line.addArgument(Text::tr("old"), Text::tr("The older export."));
+    line.addArgument(Text::tr("new"), Text::tr("The newer export."));
+    line.addOption("person", Text::tr("id"),
+                   Text::tr("Show only what differs for one person: a payroll id such as 1234.1, a "
+                            "personal number or a pid."));
+    line.addFlag("all", Text::tr("Show all people of each list, not only the first 20."));
     line.addReportOptions(CommandLine::Page::Offered);
     return Report::run(line, arguments, console,
                        [&](Report &report) { return DiffRun(line, report, console).run(); });

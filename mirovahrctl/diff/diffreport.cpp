@@ -1,13 +1,16 @@
 #include "mirovahrctl/diff/diffreport.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/comparison/comparedpeople.h"
 #include "mirovahrctl/comparison/differencetables.h"
 #include "mirovahrctl/comparison/exportdifferences.h"
 #include "mirovahrctl/comparison/fieldwords.h"
 #include "mirovahrctl/export/fieldreading.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/diffrules.h"
-#include "mirovahrctl/report/wording.h"
+
+#include <QLocale>
 
 #include <algorithm>
 
@@ -18,30 +21,26 @@ constexpr double kHundredths = 100;
 /// Hundredths of a day in days.
 QString days(double hundredths)
 {
-    return QString::number(hundredths / kHundredths, 'f', 2);
-}
-
-QString counted(int count)
-{
-    return Wording::counted(count, QStringLiteral("person"), QStringLiteral("people"));
+    return Language::number(hundredths / kHundredths, 2);
 }
 
 Finding misread(int field, int count)
 {
-    Finding finding = makeFinding(
-        DiffRules::kMisread,
-        QStringLiteral("The plugin misreads the %1 of %2: %3")
-            .arg(FieldWords::of(field), counted(count), FieldReading::consequence(field)));
+    Finding finding =
+        makeFinding(DiffRules::kMisread,
+                    Text::tr("The plugin misreads the %1 of %Ln person(s): %2", nullptr, count)
+                        .arg(FieldWords::of(field), FieldReading::consequence(field)));
     finding.field = ExportLine::fieldNames().at(field);
     return finding;
 }
 
 Finding multiplied(const BalanceDifferences &balances)
 {
-    Finding finding = makeFinding(
-        DiffRules::kBalancesMultiplied,
-        QStringLiteral("The vacation balances of %1 are %2 times what they were.")
-            .arg(counted(balances.multiplied.size()), QString::number(balances.factor, 'g', 3)));
+    Finding finding =
+        makeFinding(DiffRules::kBalancesMultiplied,
+                    Text::tr("The vacation balances of %Ln person(s) are %1 times what they were.",
+                             nullptr, balances.multiplied.size())
+                        .arg(QLocale().toString(balances.factor, 'g', 3)));
     finding.field = ExportLine::fieldNames().at(ExportLine::DovolenaZustatek);
     return finding;
 }
@@ -67,7 +66,7 @@ void DiffReport::write()
 
 void DiffReport::writeFindings()
 {
-    m_report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
+    m_report.section(QStringLiteral("findings"), Text::tr("Findings"));
     bool hasFindings = false;
     for (int field = 0; field < ExportLine::kFieldCount; ++field) {
         const int count = m_differences.fields.at(size_t(field)).misread.size();
@@ -78,21 +77,21 @@ void DiffReport::writeFindings()
     if (!m_differences.balances.multiplied.isEmpty())
         m_report.finding(multiplied(m_differences.balances));
     else if (!hasFindings)
-        m_report.sentence(QStringLiteral("No value that was read before is misread now."));
+        m_report.sentence(Text::tr("No value that was read before is misread now."));
 }
 
 void DiffReport::writePeople()
 {
-    m_report.section(QStringLiteral("people"), QStringLiteral("People"));
+    m_report.section(QStringLiteral("people"), Text::tr("People"));
     if (m_differences.added.isEmpty() && m_differences.gone.isEmpty()
         && m_differences.leaving.isEmpty() && m_differences.returning.isEmpty()
         && m_differences.moving.isEmpty())
-        m_report.sentence(QStringLiteral("Nobody is new, leaves, returns or moves."));
+        m_report.sentence(Text::tr("Nobody is new, leaves, returns or moves."));
     DifferenceTables tables(m_people, m_report, m_most);
-    tables.people("new", QStringLiteral("New"), m_differences.added);
-    tables.people("gone", QStringLiteral("Missing from the newer export"), m_differences.gone);
-    tables.people("leaving", QStringLiteral("Leaving"), m_differences.leaving);
-    tables.people("returning", QStringLiteral("Returning"), m_differences.returning);
+    tables.people("new", Text::tr("New"), m_differences.added);
+    tables.people("gone", Text::tr("Missing from the newer export"), m_differences.gone);
+    tables.people("leaving", Text::tr("Leaving"), m_differences.leaving);
+    tables.people("returning", Text::tr("Returning"), m_differences.returning);
     tables.moving(m_differences.moving);
 }
 
@@ -101,7 +100,7 @@ void DiffReport::writeFields()
     const Table summary = fieldTable(m_differences);
     if (summary.rows.isEmpty())
         return;
-    m_report.section(QStringLiteral("fields"), QStringLiteral("Fields"));
+    m_report.section(QStringLiteral("fields"), Text::tr("Fields"));
     m_report.table(summary);
     for (int field = 0; field < ExportLine::kFieldCount; ++field) {
         if (m_differences.fields.at(size_t(field)).count() > 0)
@@ -116,51 +115,55 @@ void DiffReport::writeField(int field)
     if (field == ExportLine::DovolenaZustatek)
         writeBalances();
     DifferenceTables tables(m_people, m_report, m_most);
-    tables.values(QStringLiteral("misread"), QStringLiteral("Misread"), values.misread, field);
-    tables.values(QStringLiteral("emptied"), QStringLiteral("Emptied"), values.emptied, field);
-    tables.values(QStringLiteral("changed"), QStringLiteral("Changed"), values.changed, field);
-    tables.values(QStringLiteral("repaired"), QStringLiteral("Repaired"), values.repaired, field);
+    tables.values(QStringLiteral("misread"), Text::tr("Misread"), values.misread, field);
+    tables.values(QStringLiteral("emptied"), Text::tr("Emptied"), values.emptied, field);
+    tables.values(QStringLiteral("changed"), Text::tr("Changed"), values.changed, field);
+    tables.values(QStringLiteral("repaired"), Text::tr("Repaired"), values.repaired, field);
 }
 
 void DiffReport::writeBalances()
 {
     const BalanceDifferences &balances = m_differences.balances;
-    m_report.sentence(QStringLiteral("Balances that are read change by %1 days altogether, with a "
-                                     "median of %2 days.")
+    m_report.sentence(Text::tr("Balances that are read change by %1 days altogether, with a "
+                               "median of %2 days.")
                           .arg(days(double(balances.sum)), days(balances.median)));
 }
 
 void DiffReport::writeFacts()
 {
-    const auto fact = [this](const char *id, const char *label, const QVariant &value) {
-        m_report.fact(QString::fromLatin1(id), QString::fromLatin1(label), value);
+    const auto fact = [this](const char *id, const QString &label, const QVariant &value) {
+        m_report.fact(QString::fromLatin1(id), label, value);
     };
     const auto changedOf = [this](int field) {
         return m_differences.fields.at(size_t(field)).count();
     };
-    m_report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
-    fact("oldRecords", "People in the older export", m_people.lines(ComparedPeople::Before));
-    fact("newRecords", "People in the newer export", m_people.lines(ComparedPeople::Now));
-    fact("repeatedLines", "Lines about somebody of an earlier line, which is not compared",
+    m_report.section(QStringLiteral("summary"), Text::tr("Summary"));
+    fact("oldRecords", Text::tr("People in the older export"),
+         m_people.lines(ComparedPeople::Before));
+    fact("newRecords", Text::tr("People in the newer export"), m_people.lines(ComparedPeople::Now));
+    fact("repeatedLines",
+         Text::tr("Lines about somebody of an earlier line, which is not compared"),
          m_people.repetitions(ComparedPeople::Before) + m_people.repetitions(ComparedPeople::Now));
-    fact("new", "New", m_differences.added.size());
-    fact("gone", "Missing from the newer export", m_differences.gone.size());
-    fact("leaving", "Leaving", m_differences.leaving.size());
-    fact("returning", "Returning", m_differences.returning.size());
-    fact("moving", "Moving", m_differences.moving.size());
-    fact("supervisors", "With another supervisor", changedOf(ExportLine::NadrizenyOsobniCislo));
-    fact("calendars", "With another calendar", changedOf(ExportLine::Kalendar));
-    fact("balances", "With another vacation balance", changedOf(ExportLine::DovolenaZustatek));
-    fact("balanceSum", "Sum of the changes of balances, in days",
+    fact("new", Text::tr("New"), m_differences.added.size());
+    fact("gone", Text::tr("Missing from the newer export"), m_differences.gone.size());
+    fact("leaving", Text::tr("Leaving"), m_differences.leaving.size());
+    fact("returning", Text::tr("Returning"), m_differences.returning.size());
+    fact("moving", Text::tr("Moving"), m_differences.moving.size());
+    fact("supervisors", Text::tr("With another supervisor"),
+         changedOf(ExportLine::NadrizenyOsobniCislo));
+    fact("calendars", Text::tr("With another calendar"), changedOf(ExportLine::Kalendar));
+    fact("balances", Text::tr("With another vacation balance"),
+         changedOf(ExportLine::DovolenaZustatek));
+    fact("balanceSum", Text::tr("Sum of the changes of balances, in days"),
          double(m_differences.balances.sum) / kHundredths);
-    fact("balanceMedian", "Median of the changes of balances, in days",
+    fact("balanceMedian", Text::tr("Median of the changes of balances, in days"),
          m_differences.balances.median / kHundredths);
 }
 
 QString DiffReport::verdict() const
 {
-    return isDifferent() ? QStringLiteral("The exports differ.")
-                         : QStringLiteral("The plugin reads the same people from both exports.");
+    return isDifferent() ? Text::tr("The exports differ.")
+                         : Text::tr("The plugin reads the same people from both exports.");
 }
 
 bool DiffReport::isDifferent() const

@@ -1,5 +1,6 @@
 #include "mirovahrctl/diff/persondiff.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/comparison/comparedpeople.h"
 #include "mirovahrctl/comparison/differencetables.h"
 #include "mirovahrctl/comparison/fieldwords.h"
@@ -21,18 +22,18 @@ QString outcome(int field, const QString &text)
 {
     if (FieldReading::kindOf(field, text) != FieldReading::Kind::Misread)
         return {};
-    return QStringLiteral("Misread: ") + FieldReading::consequence(field);
+    return Text::tr("Misread: %1").arg(FieldReading::consequence(field));
 }
 
 Table tableOf(const ComparedPeople &people, int person)
 {
     static const QStringList names = ExportLine::fieldNames();
     Table table{QStringLiteral("fields"),
-                {{QStringLiteral("field"), QStringLiteral("Field")},
-                 {QStringLiteral("meaning"), QStringLiteral("Meaning")},
-                 {QStringLiteral("before"), QStringLiteral("Before")},
-                 {QStringLiteral("now"), QStringLiteral("Now")},
-                 {QStringLiteral("outcome"), QStringLiteral("What the plugin makes of it")}},
+                {{QStringLiteral("field"), Text::tr("Field")},
+                 {QStringLiteral("meaning"), Text::tr("Meaning")},
+                 {QStringLiteral("before"), Text::tr("Before")},
+                 {QStringLiteral("now"), Text::tr("Now")},
+                 {QStringLiteral("outcome"), Text::tr("What the plugin makes of it")}},
                 {}};
     const auto text = [&](People::Side side, int field) {
         return people.isIn(side, person) ? people.text(side, person, field) : QString();
@@ -51,11 +52,11 @@ Table tableOf(const ComparedPeople &people, int person)
 QString sentenceOf(const ComparedPeople &people, int person)
 {
     if (!people.isIn(People::Before, person))
-        return QStringLiteral("The person is new.");
+        return Text::tr("The person is new.");
     if (!people.isIn(People::Now, person))
-        return QStringLiteral("The person is missing from the newer export.");
-    return people.isUnchanged(person) ? QStringLiteral("Nothing has changed.")
-                                      : QStringLiteral("These fields differ:");
+        return Text::tr("The person is missing from the newer export.");
+    return people.isUnchanged(person) ? Text::tr("Nothing has changed.")
+                                      : Text::tr("These fields differ:");
 }
 
 } // namespace
