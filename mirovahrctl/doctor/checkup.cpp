@@ -1,7 +1,7 @@
 #include "mirovahrctl/doctor/checkup.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/program/console.h"
-#include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/subcommand.h"
 
 #include <QBuffer>
@@ -49,9 +49,8 @@ QVector<Finding> firstOfEachRule(const QJsonArray &all)
     }
     for (Finding &finding : firsts) {
         if (const int more = counts.value(finding.rule) - 1; more > 0) {
-            finding.message += QStringLiteral(" And %1 of this rule.")
-                                   .arg(Wording::counted(more, QStringLiteral("more finding"),
-                                                         QStringLiteral("more findings")));
+            finding.message +=
+                QLatin1Char(' ') + Text::tr("And %Ln more finding(s) of this rule.", nullptr, more);
         }
     }
     return firsts;
@@ -75,8 +74,8 @@ Checkup Checkup::run(const QStringList &command)
     checkup.failed = checkup.verdict.isEmpty();
     if (checkup.failed) {
         // Qt reads no document beyond a size that the report of a very bad export may reach.
-        checkup.verdict = report.isEmpty() ? QStringLiteral("Its report cannot be read here")
-                                           : textOf(report, "error");
+        checkup.verdict =
+            report.isEmpty() ? Text::tr("Its report cannot be read here") : textOf(report, "error");
     }
     checkup.findings = firstOfEachRule(report.value(QLatin1String("findings")).toArray());
     return checkup;

@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/doctor/checkup.h"
 #include "mirovahrctl/doctor/service.h"
 #include "mirovahrctl/gatestate/gateoptions.h"
@@ -17,11 +18,12 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Runs what can be checked here, and ends with the one most important thing to do: the\n"
-    "configuration, yavhost.service where it is installed, the database with the time\n"
-    "zones of this process and the server, the export that lies there, and the plugin's\n"
-    "and the gate's last work. Shows of each rule one finding. Changes nothing.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Runs what can be checked here, and ends with the one most important thing to do: the "
+    "configuration, yavhost.service where it is installed, the database with the time zones of "
+    "this process and the server, the export that lies there, and the plugin's and the gate's last "
+    "work. Shows of each rule one finding. Changes nothing.");
 
 /// Options that are of doctor only; all others that are set belong to the database.
 const QStringList kOwnOptions{QStringLiteral("config"), QStringLiteral("plugin-account"),
@@ -68,7 +70,7 @@ ExitStatus DoctorRun::run()
     if (const auto end = m_configuration.read(m_line, m_console))
         return *end;
     m_gate = GateOptions::ofCommand(m_configuration.values().syncCommand);
-    m_report.begin(m_line.subcommand(), QStringLiteral("What needs attention here"));
+    m_report.begin(m_line.subcommand(), Text::tr("What needs attention here"));
     checkConfiguration();
     checkDatabase();
     checkExport();
@@ -82,7 +84,7 @@ void DoctorRun::checkConfiguration()
     QStringList command{QStringLiteral("check-config")};
     if (m_line.isSet("config"))
         command += m_line.value("config");
-    check("configuration", QStringLiteral("Configuration"), command);
+    check("configuration", Text::tr("Configuration"), command);
 }
 
 void DoctorRun::checkService()
@@ -90,8 +92,8 @@ void DoctorRun::checkService()
     const auto service = Service::load();
     if (!service)
         return;
-    m_report.section(QStringLiteral("service"), QStringLiteral("Service"));
-    m_report.sentence(QStringLiteral("yavhost.service is %1 and %2.")
+    m_report.section(QStringLiteral("service"), Text::tr("Service"));
+    m_report.sentence(Text::tr("yavhost.service is %1 and %2.")
                           .arg(service->unitFileState, service->activeState));
     checkService(*service);
 }
@@ -99,9 +101,9 @@ void DoctorRun::checkService()
 void DoctorRun::checkService(const Service &service)
 {
     if (service.isWanted() && !service.runs()) {
-        add(makeFinding(DoctorRules::kServiceNotRunning,
-                        QStringLiteral("yavhost.service does not run; its state is %1.")
-                            .arg(service.activeState)));
+        add(makeFinding(
+            DoctorRules::kServiceNotRunning,
+            Text::tr("yavhost.service does not run; its state is %1.").arg(service.activeState)));
     }
     // The plugin removes the export there, and the gate publishes it.
     QStringList folders{QFileInfo(importFile()).absolutePath()};
@@ -121,7 +123,7 @@ void DoctorRun::checkDatabase()
         command += QStringLiteral("--other-account");
     if (m_configuration.exists())
         command << QStringLiteral("--config") << m_configuration.path();
-    checkWithDatabase("database", QStringLiteral("Database"), command);
+    checkWithDatabase("database", Text::tr("Database"), command);
 }
 
 void DoctorRun::checkExport()
@@ -132,13 +134,12 @@ void DoctorRun::checkExport()
     const auto file = std::find_if(files.cbegin(), files.cend(),
                                    [](const QString &path) { return QFileInfo(path).isFile(); });
     if (file != files.cend()) {
-        checkWithDatabase("export", QStringLiteral("Export"),
-                          {QStringLiteral("check-file"), *file});
+        checkWithDatabase("export", Text::tr("Export"), {QStringLiteral("check-file"), *file});
         return;
     }
-    m_report.section(QStringLiteral("export"), QStringLiteral("Export"));
+    m_report.section(QStringLiteral("export"), Text::tr("Export"));
     m_report.sentence(
-        QStringLiteral("No export lies here now: %1.").arg(files.join(QStringLiteral(", "))));
+        Text::tr("No export lies here now: %1.").arg(files.join(QStringLiteral(", "))));
 }
 
 void DoctorRun::checkStatus()
@@ -148,7 +149,7 @@ void DoctorRun::checkStatus()
         command << QStringLiteral("--gate-status")
                 << QDir(m_gate->stateFolder).filePath(GateStatus::fileName());
     }
-    checkWithDatabase("status", QStringLiteral("The last work"), command);
+    checkWithDatabase("status", Text::tr("The last work"), command);
 }
 
 void DoctorRun::checkWithDatabase(const char *id, const QString &heading,
@@ -200,11 +201,11 @@ QString DoctorRun::verdict() const
         m_findings.cbegin(), m_findings.cend(),
         [](const Finding &a, const Finding &b) { return a.severity < b.severity; });
     if (worst == m_findings.cend())
-        return QStringLiteral("Nothing needs to be done.");
+        return Text::tr("Nothing needs to be done.");
     const QString what = worst->advice.isEmpty()
-        ? QStringLiteral("mirovahrctl rules %1 explains it.").arg(worst->rule)
+        ? Text::tr("mirovahrctl rules %1 explains it.").arg(worst->rule)
         : worst->advice;
-    return QStringLiteral("Do this first: %1 %2").arg(worst->message, what);
+    return Text::tr("Do this first: %1 %2").arg(worst->message, what);
 }
 
 } // namespace
@@ -213,7 +214,7 @@ ExitStatus runDoctor(const QStringList &arguments, Console &console)
 {
     CommandLine line("doctor", kDescription);
     PluginConfiguration::addTo(line);
-    line.addFlag("plugin-account", "The account is the plugin's: check its rights, too.");
+    line.addFlag("plugin-account", Text::tr("The account is the plugin's: check its rights, too."));
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

@@ -1,5 +1,7 @@
 #include "mirovahrctl/doctor/service.h"
 
+#include "cli/text.h"
+
 #include <QDir>
 #include <QFile>
 #include <QHash>
@@ -107,16 +109,16 @@ QString Service::whyNotWriting(const QString &folder) const
         return isBelow(path, one);
     };
     if (isStrict && !std::any_of(writablePaths.cbegin(), writablePaths.cend(), allows))
-        return QStringLiteral("ReadWritePaths of yavhost.service does not name %1").arg(path);
+        return Text::tr("ReadWritePaths of yavhost.service does not name %1").arg(path);
     if (!QDir(path).exists())
-        return QStringLiteral("There is no folder %1").arg(path);
+        return Text::tr("There is no folder %1").arg(path);
     if (user.isEmpty() || user == QLatin1String("root"))
         return {};
     const passwd *const account = getpwnam(user.toLocal8Bit().constData());
     if (account == nullptr)
-        return QStringLiteral("There is no user %1, as which yavhost.service would run").arg(user);
+        return Text::tr("There is no user %1, as which yavhost.service would run").arg(user);
     if (!mayWrite(*account, path)) {
-        return QStringLiteral("The user %1, as which yavhost.service runs, may not write to %2")
+        return Text::tr("The user %1, as which yavhost.service runs, may not write to %2")
             .arg(user, path);
     }
     return {};

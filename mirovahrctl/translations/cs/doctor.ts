@@ -5,27 +5,111 @@
     <name>Text</name>
     <message>
         <source>A check could not be made: a file or the database cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrolu nebylo možné provést: soubor nebo databázi nelze přečíst.</translation>
     </message>
     <message>
         <source>Run that subcommand by itself until it answers; what it would find is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spouštějte tento podpříkaz samostatně, dokud neodpoví; co by zjistil, není známo.</translation>
     </message>
     <message>
         <source>yavhost.service is enabled or was started, but does not run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Služba yavhost.service je povolená nebo byla spuštěna, ale neběží.</translation>
     </message>
     <message>
         <source>See what ended it: systemctl status yavhost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjistěte, co ji ukončilo: systemctl status yavhost.</translation>
     </message>
     <message>
         <source>The user or the confinement of yavhost.service keeps it from writing to a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Služba yavhost.service kvůli svému uživateli nebo svým omezením nemůže zapisovat do složky.</translation>
     </message>
     <message>
         <source>Give the folder to that user, and name it in ReadWritePaths (systemctl edit yavhost).</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavte tohoto uživatele jako vlastníka složky a uveďte složku v ReadWritePaths (systemctl edit yavhost).</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %Ln more finding(s) of this rule.</source>
+        <translation>
+            <numerusform>A ještě %Ln nález podle tohoto pravidla.</numerusform>
+            <numerusform>A ještě %Ln nálezy podle tohoto pravidla.</numerusform>
+            <numerusform>A ještě %Ln nálezů podle tohoto pravidla.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its report cannot be read here</source>
+        <translation>Jeho zprávu zde nelze přečíst</translation>
+    </message>
+    <message>
+        <source>Runs what can be checked here, and ends with the one most important thing to do: the configuration, yavhost.service where it is installed, the database with the time zones of this process and the server, the export that lies there, and the plugin&apos;s and the gate&apos;s last work. Shows of each rule one finding. Changes nothing.</source>
+        <translation>Provede všechny kontroly, které zde lze provést, a na konci uvede jednu nejdůležitější věc, kterou je třeba udělat: kontroluje konfiguraci, službu yavhost.service, je-li nainstalována, databázi včetně časových pásem tohoto procesu a serveru, připravený export a poslední činnost zásuvného modulu a brány. Z každého pravidla ukáže jeden nález. Nic nemění.</translation>
+    </message>
+    <message>
+        <source>What needs attention here</source>
+        <translation>Co zde vyžaduje pozornost</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Konfigurace</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Služba</translation>
+    </message>
+    <message>
+        <source>yavhost.service is %1 and %2.</source>
+        <translation>Stav služby yavhost.service: %1, %2.</translation>
+    </message>
+    <message>
+        <source>yavhost.service does not run; its state is %1.</source>
+        <translation>Služba yavhost.service neběží; její stav je %1.</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Databáze</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>No export lies here now: %1.</source>
+        <translation>Export zde nyní není: %1.</translation>
+    </message>
+    <message>
+        <source>The last work</source>
+        <translation>Poslední činnost</translation>
+    </message>
+    <message>
+        <source>Nothing needs to be done.</source>
+        <translation>Není třeba nic dělat.</translation>
+    </message>
+    <message>
+        <source>mirovahrctl rules %1 explains it.</source>
+        <translation>Vysvětlení vypíše mirovahrctl rules %1.</translation>
+    </message>
+    <message>
+        <source>Do this first: %1 %2</source>
+        <translation>Jako první vyřešte toto: %1 %2</translation>
+    </message>
+    <message>
+        <source>The account is the plugin&apos;s: check its rights, too.</source>
+        <translation>Účet patří zásuvnému modulu: ověří i jeho oprávnění.</translation>
+    </message>
+    <message>
+        <source>ReadWritePaths of yavhost.service does not name %1</source>
+        <translation>ReadWritePaths služby yavhost.service neuvádí složku %1</translation>
+    </message>
+    <message>
+        <source>There is no folder %1</source>
+        <translation>Složka %1 neexistuje</translation>
+    </message>
+    <message>
+        <source>There is no user %1, as which yavhost.service would run</source>
+        <translation>Uživatel %1, pod kterým by běžela služba yavhost.service, neexistuje</translation>
+    </message>
+    <message>
+        <source>The user %1, as which yavhost.service runs, may not write to %2</source>
+        <translation>Uživatel %1, pod kterým běží služba yavhost.service, nesmí zapisovat do %2</translation>
     </message>
 </context>
 </TS>

@@ -5,27 +5,111 @@
     <name>Text</name>
     <message>
         <source>A check could not be made: a file or the database cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrola sa nedala vykonať: súbor alebo databáza sa nedá prečítať.</translation>
     </message>
     <message>
         <source>Run that subcommand by itself until it answers; what it would find is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spúšťajte tento podpríkaz samostatne, kým neodpovie; čo by zistil, nie je známe.</translation>
     </message>
     <message>
         <source>yavhost.service is enabled or was started, but does not run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Služba yavhost.service je povolená alebo bola spustená, ale nebeží.</translation>
     </message>
     <message>
         <source>See what ended it: systemctl status yavhost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zistite, čo ju ukončilo: systemctl status yavhost.</translation>
     </message>
     <message>
         <source>The user or the confinement of yavhost.service keeps it from writing to a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Služba yavhost.service pre svojho používateľa alebo svoje obmedzenia nemôže zapisovať do priečinka.</translation>
     </message>
     <message>
         <source>Give the folder to that user, and name it in ReadWritePaths (systemctl edit yavhost).</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavte tohto používateľa ako vlastníka priečinka a uveďte priečinok v ReadWritePaths (systemctl edit yavhost).</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %Ln more finding(s) of this rule.</source>
+        <translation>
+            <numerusform>A ešte %Ln nález podľa tohto pravidla.</numerusform>
+            <numerusform>A ešte %Ln nálezy podľa tohto pravidla.</numerusform>
+            <numerusform>A ešte %Ln nálezov podľa tohto pravidla.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its report cannot be read here</source>
+        <translation>Jeho správa sa tu nedá prečítať</translation>
+    </message>
+    <message>
+        <source>Runs what can be checked here, and ends with the one most important thing to do: the configuration, yavhost.service where it is installed, the database with the time zones of this process and the server, the export that lies there, and the plugin&apos;s and the gate&apos;s last work. Shows of each rule one finding. Changes nothing.</source>
+        <translation>Vykoná všetky kontroly, ktoré sa tu dajú vykonať, a na konci uvedie jednu najdôležitejšiu vec, ktorú treba urobiť: kontroluje konfiguráciu, službu yavhost.service, ak je nainštalovaná, databázu vrátane časových pásiem tohto procesu a servera, pripravený export a poslednú činnosť zásuvného modulu a brány. Z každého pravidla ukáže jeden nález. Nič nemení.</translation>
+    </message>
+    <message>
+        <source>What needs attention here</source>
+        <translation>Čo tu vyžaduje pozornosť</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Konfigurácia</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Služba</translation>
+    </message>
+    <message>
+        <source>yavhost.service is %1 and %2.</source>
+        <translation>Stav služby yavhost.service: %1, %2.</translation>
+    </message>
+    <message>
+        <source>yavhost.service does not run; its state is %1.</source>
+        <translation>Služba yavhost.service nebeží; jej stav je %1.</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Databáza</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>No export lies here now: %1.</source>
+        <translation>Export tu teraz nie je: %1.</translation>
+    </message>
+    <message>
+        <source>The last work</source>
+        <translation>Posledná činnosť</translation>
+    </message>
+    <message>
+        <source>Nothing needs to be done.</source>
+        <translation>Nie je potrebné nič urobiť.</translation>
+    </message>
+    <message>
+        <source>mirovahrctl rules %1 explains it.</source>
+        <translation>Vysvetlenie vypíše mirovahrctl rules %1.</translation>
+    </message>
+    <message>
+        <source>Do this first: %1 %2</source>
+        <translation>Ako prvé vyriešte toto: %1 %2</translation>
+    </message>
+    <message>
+        <source>The account is the plugin&apos;s: check its rights, too.</source>
+        <translation>Účet patrí zásuvnému modulu: overí aj jeho oprávnenia.</translation>
+    </message>
+    <message>
+        <source>ReadWritePaths of yavhost.service does not name %1</source>
+        <translation>ReadWritePaths služby yavhost.service neuvádza priečinok %1</translation>
+    </message>
+    <message>
+        <source>There is no folder %1</source>
+        <translation>Priečinok %1 neexistuje</translation>
+    </message>
+    <message>
+        <source>There is no user %1, as which yavhost.service would run</source>
+        <translation>Používateľ %1, pod ktorým by bežala služba yavhost.service, neexistuje</translation>
+    </message>
+    <message>
+        <source>The user %1, as which yavhost.service runs, may not write to %2</source>
+        <translation>Používateľ %1, pod ktorým beží služba yavhost.service, nesmie zapisovať do %2</translation>
     </message>
 </context>
 </TS>
