@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/drift/driftpeople.h"
 #include "mirovahrctl/drift/driftreport.h"
 #include "mirovahrctl/drift/driftrows.h"
@@ -18,12 +19,13 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Finds what the database lacks although the plugin counts it as done, after a deadlock,\n"
-    "a conflict in a cluster or a lost connection: compares the export that was synchronised\n"
-    "last with the database, and reports what a forced synchronisation brings, what the next\n"
-    "start of the attendance server brings, and what never comes by itself. Changes nothing.\n"
-    "FILE is the export; by default the one that the gate admitted last, or else importFile.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Finds what the database lacks although the plugin counts it as done, after a deadlock, a "
+    "conflict in a cluster or a lost connection: compares the export that was synchronised last "
+    "with the database, and reports what a forced synchronisation brings, what the next start of "
+    "the attendance server brings, and what never comes by itself. Changes nothing. FILE is the "
+    "export; by default the one that the gate admitted last, or else importFile.");
 
 class DriftRun {
 public:
@@ -93,8 +95,7 @@ std::optional<ExitStatus> DriftRun::readSince()
     m_since = QDate::fromString(m_line.value("since"), Qt::ISODate);
     if (m_since.isValid())
         return std::nullopt;
-    return m_console.fail(ExitStatus::Usage,
-                          QStringLiteral("--since takes a day such as 2026-03-01"));
+    return m_console.fail(ExitStatus::Usage, Text::tr("--since takes a day such as 2026-03-01"));
 }
 
 std::optional<ExitStatus> DriftRun::openExport()
@@ -105,7 +106,7 @@ std::optional<ExitStatus> DriftRun::openExport()
     if (m_source.source() == SiteExport::Source::None) {
         return m_console.fail(
             ExitStatus::Usage,
-            QStringLiteral("There is no export: name the file that was synchronised last"));
+            Text::tr("There is no export: name the file that was synchronised last"));
     }
     return refuseOverwriting(m_source.path(), {m_line.pagePath(), m_sql.fileName()}, m_console);
 }
@@ -145,10 +146,9 @@ ExitStatus DriftRun::search(PluginView &view)
 
 ExitStatus DriftRun::report(const DriftSearch &search, bool isForced)
 {
-    m_report.begin(m_line.subcommand(),
-                   QStringLiteral("Database and export %1").arg(m_source.path()));
+    m_report.begin(m_line.subcommand(), Text::tr("Database and export %1").arg(m_source.path()));
     DriftReport report(search.found(), m_report);
-    m_report.fact(QStringLiteral("compared"), QStringLiteral("People compared"),
+    m_report.fact(QStringLiteral("compared"), Text::tr("People compared"),
                   m_people.people().size() - search.unclear());
     report.writeDifferences();
     report.writeLimits(m_configuration, m_source, search.waiting(),
@@ -165,9 +165,8 @@ ExitStatus DriftRun::report(const DriftSearch &search, bool isForced)
 
 ExitStatus DriftRun::fail(const PluginView &view)
 {
-    return m_console.fail(
-        view.isConnected() ? ExitStatus::ContractBroken : ExitStatus::NoDatabase,
-        QStringLiteral("The database cannot be used: %1").arg(view.errorString()));
+    return m_console.fail(view.isConnected() ? ExitStatus::ContractBroken : ExitStatus::NoDatabase,
+                          Text::tr("The database cannot be used: %1").arg(view.errorString()));
 }
 
 } // namespace
@@ -175,16 +174,16 @@ ExitStatus DriftRun::fail(const PluginView &view)
 ExitStatus runDrift(const QStringList &arguments, Console &console)
 {
     CommandLine line("drift", kDescription);
-    line.addOptionalArgument("file", "The export that was synchronised last.");
+    line.addOptionalArgument(Text::tr("file"), Text::tr("The export that was synchronised last."));
+    line.addOption("gate-folder", Text::tr("folder"),
+                   Text::tr("The gate's own folder, whose last admitted file is compared; by "
+                            "default that of the gate in syncCommand."));
     line.addOption(
-        "gate-folder", "folder",
-        "The gate's own folder, whose last admitted file is compared; by default that of "
-        "the gate in syncCommand.");
-    line.addOption(
-        "since", "day",
-        "Leave out what is done once for each person or member, and would have been done "
-        "before this day: payroll export, terminals and administrators.");
-    line.addOption("sql", "file", "Also write statements that mend what does not come by itself.");
+        "since", Text::tr("day"),
+        Text::tr("Leave out what is done once for each person or member, and would have been done "
+                 "before this day: payroll export, terminals and administrators."));
+    line.addOption("sql", Text::tr("file"),
+                   Text::tr("Also write statements that mend what does not come by itself."));
     PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();

@@ -1,5 +1,6 @@
 #include "mirovahrctl/drift/driftpeople.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/export/exportscan.h"
 #include "mirovahrctl/program/progress.h"
 
@@ -20,7 +21,7 @@ QSet<QString> fieldsOf(const QVector<Finding> &findings)
 bool DriftPeople::read(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route,
                        Console &console)
 {
-    Progress progress(console, QStringLiteral("Reading the export"));
+    Progress progress(console, Text::tr("Reading the export"));
     ExportScan scan(file, widths, route);
     scan.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });

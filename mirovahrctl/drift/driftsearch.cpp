@@ -1,10 +1,12 @@
 #include "mirovahrctl/drift/driftsearch.h"
 
+#include "cli/text.h"
 #include "db/groupsplanrepo.h"
 #include "mirovahrctl/comparison/rowfields.h"
 #include "mirovahrctl/drift/driftsql.h"
 #include "mirovahrctl/export/personname.h"
 #include "mirovahrctl/pluginside/pluginview.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/driftrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/exportline.h"
@@ -13,6 +15,7 @@
 #include "worker/recorddecisions.h"
 #include "worker/vacationbalance.h"
 
+#include <QLocale>
 #include <QStringList>
 
 #include <limits>
@@ -31,7 +34,7 @@ constexpr int kExportFields[] = {
 QString shown(const QVariant &value)
 {
     const QString text = value.toString();
-    return text.isEmpty() ? QStringLiteral("nothing") : Wording::quoted(text);
+    return text.isEmpty() ? Text::tr("nothing", "value of a field") : Wording::quoted(text);
 }
 
 QString joined(const QVector<quint32> &ids)
@@ -86,8 +89,8 @@ void DriftSearch::examine(const DriftPerson &person)
     } else if (isActive) {
         m_found += Drift{&DriftRules::kPersonMissing, name,
                          row == m_rows.people.constEnd()
-                             ? QStringLiteral("The database does not have the person.")
-                             : QStringLiteral("The person's row is not active."),
+                             ? Text::tr("The database does not have the person.")
+                             : Text::tr("The person's row is not active."),
                          QString()};
     }
 }
@@ -95,9 +98,9 @@ void DriftSearch::examine(const DriftPerson &person)
 void DriftSearch::examineTerminals()
 {
     for (const quint32 tid : m_rows.unmarkedTerminals) {
-        m_found += Drift{&DriftRules::kTerminalNotMarked, QStringLiteral("terminal %1").arg(tid),
-                         QStringLiteral("People are queued for terminal %1, which is not marked as "
-                                        "having people to fetch.")
+        m_found += Drift{&DriftRules::kTerminalNotMarked, Text::tr("terminal %1").arg(tid),
+                         Text::tr("People are queued for terminal %1, which is not marked as "
+                                  "having people to fetch.")
                              .arg(tid),
                          DriftSql::terminalMark(tid)};
     }
@@ -110,7 +113,7 @@ void DriftSearch::examineRow(const Case &person)
         examineType(person);
     else
         add(person, DriftRules::kPersonDiffers,
-            QStringLiteral("In the database and by the export: %1.").arg(differences));
+            Text::tr("In the database and by the export: %1.").arg(differences));
 }
 
 /// The fields that differ; empty when none does that the plugin could bring in step.
@@ -128,8 +131,8 @@ QString DriftSearch::describeDifferences(const Case &person) const
         if (field.exported == field.held || person.person.doubtful.contains(names.at(exported))
             || (exported == ExportLine::Stredisko && !hasBranch))
             continue;
-        differing += QStringLiteral("%1 %2 and %3")
-                         .arg(field.name, shown(field.held), shown(field.exported));
+        differing +=
+            Text::tr("%1 %2 and %3").arg(field.name, shown(field.held), shown(field.exported));
     }
     return differing.join(QStringLiteral(", "));
 }
@@ -140,7 +143,7 @@ void DriftSearch::examineType(const Case &person)
     if (person.row.type == type)
         return;
     add(person, DriftRules::kEmploymentType,
-        QStringLiteral("The employment type is %1, by the export it is %2.")
+        Text::tr("The employment type is %1, by the export it is %2.")
             .arg(person.row.type)
             .arg(type),
         DriftSql::employmentType(person.ids, person.row.type, type));
@@ -160,9 +163,9 @@ void DriftSearch::examineBalance(const Case &person)
     if (!worker.dbCheckFundMove(person.ids.pid) || !worker.dbCheckAttendance(person.ids.pid, uid))
         return;
     add(person, DriftRules::kBalanceDiffers,
-        QStringLiteral("The balance is %1 days, by the export it is %2.")
-            .arg(QString::number(double(balance) / 100, 'f', 2),
-                 QString::number(person.record.dovolenaZustatek, 'g', 12)));
+        Text::tr("The balance is %1 days, by the export it is %2.")
+            .arg(Language::number(double(balance) / 100, 2),
+                 QLocale().toString(person.record.dovolenaZustatek, 'g', 12)));
 }
 
 void DriftSearch::examineSupervisor(const Case &person)
@@ -175,16 +178,21 @@ void DriftSearch::examineSupervisor(const Case &person)
     const QVector<quint32> receivers = m_rows.requestReceivers.value(person.row.uid);
     if (aid == 0 || receivers.contains(aid))
         return;
-    const QString named =
-        QStringLiteral("the export names %1, administrator %2").arg(number).arg(aid);
     const QString sql = DriftSql::supervisor(person.ids, aid, receivers);
     if (receivers.isEmpty()) {
         add(person, DriftRules::kSupervisorMissing,
-            QStringLiteral("Nobody receives the person's requests; %1.").arg(named), sql);
+            Text::tr("Nobody receives the person's requests; the export names %1, administrator "
+                     "%2.")
+                .arg(number)
+                .arg(aid),
+            sql);
     } else {
         add(person, DriftRules::kSupervisorOther,
-            QStringLiteral("The person's requests go to administrator %1; %2.")
-                .arg(joined(receivers), named),
+            Text::tr("The person's requests go to administrator %1; the export names %2, "
+                     "administrator %3.")
+                .arg(joined(receivers))
+                .arg(number)
+                .arg(aid),
             sql);
     }
 }
@@ -196,14 +204,13 @@ void DriftSearch::examinePayroll(const Case &person)
     const QString pid = QString::number(person.ids.pid);
     if (!m_rows.payrollSelection.isEmpty() && !m_rows.selectedPids.contains(pid)) {
         add(person, DriftRules::kPayrollSelection,
-            QStringLiteral("The person is not in %1.").arg(m_rows.payrollSelection),
+            Text::tr("The person is not in %1.").arg(m_rows.payrollSelection),
             DriftSql::payrollSelection(person.ids, m_rows.payrollSelection));
     }
     const uint settings = RecordCodes::pamSettingsIdFromTPP(person.record.typPracovnihoPomeru);
     if (settings != 0 && !m_rows.payrollBindings.contains(person.row.uid)) {
         add(person, DriftRules::kPayrollBinding,
-            QStringLiteral("The person is not bound to settings %1 of the payroll export.")
-                .arg(settings),
+            Text::tr("The person is not bound to settings %1 of the payroll export.").arg(settings),
             DriftSql::payrollBinding(person.ids, settings));
     }
 }
@@ -222,7 +229,7 @@ void DriftSearch::examinePlace(const Case &person)
     const auto since = m_rows.members.constFind({bid, person.row.uid});
     if (since == m_rows.members.constEnd()) {
         add(person, DriftRules::kNotMember,
-            QStringLiteral("The person is not a member of branch %1, cost centre %2.")
+            Text::tr("The person is not a member of branch %1, cost centre %2.")
                 .arg(bid)
                 .arg(number));
     } else {
@@ -241,16 +248,14 @@ void DriftSearch::examineMember(const Case &person, quint32 bid, qint64 since)
         if (m_rows.peopleOfTerminals.contains({tid, uid}))
             continue;
         add(person, DriftRules::kTerminalMissing,
-            QStringLiteral("The person is not on terminal %1 of branch %2.").arg(tid).arg(bid),
+            Text::tr("The person is not on terminal %1 of branch %2.").arg(tid).arg(bid),
             DriftSql::terminal(uid, bid, tid));
     }
     for (const quint32 aid : m_rows.administrators.value(bid)) {
         if (m_rows.peopleOfAdministrators.contains({aid, uid}))
             continue;
         add(person, DriftRules::kAdministratorMissing,
-            QStringLiteral("The person is not with administrator %1 of branch %2.")
-                .arg(aid)
-                .arg(bid),
+            Text::tr("The person is not with administrator %1 of branch %2.").arg(aid).arg(bid),
             DriftSql::administrator(uid, bid, aid));
     }
 }
@@ -265,7 +270,7 @@ void DriftSearch::examineCalendar(const Case &person, quint32 bid)
     const uint month = GroupsPlanRepo::monthFromDate(person.record.kalendarPlatnostOd);
     if (m_rows.plan.value({person.row.uid, month}) != gid) {
         add(person, DriftRules::kGroupNotPlanned,
-            QStringLiteral("Group %1 of calendar %2 is not planned from %3 on.")
+            Text::tr("Group %1 of calendar %2 is not planned from %3 on.")
                 .arg(gid)
                 .arg(person.record.kalendar)
                 .arg(month));
@@ -282,7 +287,7 @@ void DriftSearch::examineMonths(const Case &person, uint firstMonth)
         if (month.month < firstMonth)
             continue;
         months += month;
-        texts += QStringLiteral("%1 has group %2 instead of %3")
+        texts += Text::tr("%1 has group %2 instead of %3")
                      .arg(month.month)
                      .arg(month.gid)
                      .arg(month.plannedGid);
@@ -290,7 +295,7 @@ void DriftSearch::examineMonths(const Case &person, uint firstMonth)
     if (months.isEmpty())
         return;
     add(person, DriftRules::kMonthsDiffer,
-        QStringLiteral("Month %1.").arg(texts.join(QStringLiteral(", "))),
+        Text::tr("Month %1.").arg(texts.join(QStringLiteral(", "))),
         DriftSql::months(person.row.uid, months, person.record.kalendarPlatnostOd));
 }
 
