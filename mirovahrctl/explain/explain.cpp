@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/explain/peoplesearch.h"
 #include "mirovahrctl/explain/personexplanation.h"
 #include "mirovahrctl/explain/personid.h"
@@ -14,13 +15,13 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Explains why a person did not arrive, or not as expected: how the plugin reads the\n"
-    "person's line in the export, what the database holds, and what each step of a\n"
-    "synchronisation does with the two, in the order of the plugin's decisions.\n"
-    "PERSON is a payroll id such as 1234.1, a personal number, a pid, or a name, such as\n"
-    "novakova, whose capitals and accents do not matter. Several matches are listed.\n"
-    "Changes nothing.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Explains why a person did not arrive, or not as expected: how the plugin reads the person's "
+    "line in the export, what the database holds, and what each step of a synchronisation does "
+    "with the two, in the order of the plugin's decisions. Changes nothing.\n\n"
+    "PERSON is a payroll id such as 1234.1, a personal number, a pid, or a name, such as novakova, "
+    "whose capitals and accents do not matter. Several matches are listed.");
 
 class ExplainRun {
 public:
@@ -85,7 +86,7 @@ std::optional<ExitStatus> ExplainRun::readPerson()
         return std::nullopt;
     return m_console.fail(
         ExitStatus::Usage,
-        QStringLiteral("'%1' is neither a payroll id such as 1234.1, nor a number, nor a name")
+        Text::tr("'%1' is neither a payroll id such as 1234.1, nor a number, nor a name")
             .arg(text));
 }
 
@@ -134,7 +135,7 @@ std::optional<ExitStatus> ExplainRun::search(SqlSession &site)
         m_person = people.first().person();
     if (m_person)
         return std::nullopt;
-    m_report.begin(m_line.subcommand(), QStringLiteral("Who is %1?").arg(m_search->text()));
+    m_report.begin(m_line.subcommand(), Text::tr("Who is %1?").arg(m_search->text()));
     const QString verdict = m_search->reportPeople(m_report);
     return m_report.conclude(verdict);
 }
@@ -143,9 +144,9 @@ ExitStatus ExplainRun::explain(const SqlSession &site)
 {
     PluginView view;
     const auto failView = [&] {
-        return m_console.fail(
-            view.isConnected() ? ExitStatus::ContractBroken : ExitStatus::NoDatabase,
-            QStringLiteral("The database cannot be used: %1").arg(view.errorString()));
+        return m_console.fail(view.isConnected() ? ExitStatus::ContractBroken
+                                                 : ExitStatus::NoDatabase,
+                              Text::tr("The database cannot be used: %1").arg(view.errorString()));
     };
     if (!view.open(site.database(), m_source.configuration.values()))
         return failView();
@@ -154,7 +155,7 @@ ExitStatus ExplainRun::explain(const SqlSession &site)
     if (!forced)
         return m_console.fail(ExitStatus::ContractBroken, flag.errorString());
     m_source.isForced = *forced;
-    m_report.begin(m_line.subcommand(), QStringLiteral("What happens to %1").arg(m_person->name()));
+    m_report.begin(m_line.subcommand(), Text::tr("What happens to %1").arg(m_person->name()));
     PersonExplanation explanation(*m_person, m_source, view, m_report);
     const QString verdict = explanation.explain(m_lines ? &*m_lines : nullptr);
     if (!view.errorString().isEmpty())
@@ -186,11 +187,13 @@ ExitStatus ExplainRun::failExport(const QString &error)
 ExitStatus runExplain(const QStringList &arguments, Console &console)
 {
     CommandLine line("explain", kDescription);
-    line.addArgument("person", "A payroll id such as 1234.1, a personal number, a pid, or a name.");
-    line.addOptionalArgument("file", "The export; importFile of the INI file by default.");
-    line.addOption("gate-folder", "folder",
-                   "The gate's own folder, whose last admitted file is used when importFile is "
-                   "gone; by default that of the gate in syncCommand.");
+    line.addArgument(Text::tr("person"),
+                     Text::tr("A payroll id such as 1234.1, a personal number, a pid, or a name."));
+    line.addOptionalArgument(Text::tr("file"),
+                             Text::tr("The export; importFile of the INI file by default."));
+    line.addOption("gate-folder", Text::tr("folder"),
+                   Text::tr("The gate's own folder, whose last admitted file is used when "
+                            "importFile is gone; by default that of the gate in syncCommand."));
     PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();

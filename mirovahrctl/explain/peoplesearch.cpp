@@ -1,5 +1,6 @@
 #include "mirovahrctl/explain/peoplesearch.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/export/personname.h"
 #include "mirovahrctl/program/progress.h"
 #include "mirovahrctl/site/sqlsession.h"
@@ -57,7 +58,7 @@ std::optional<PeopleSearch> PeopleSearch::parse(const QString &text)
 
 bool PeopleSearch::searchExport(QFile &file, const SqlTexts::Route &route, Console &console)
 {
-    Progress progress(console, QStringLiteral("Searching the export"));
+    Progress progress(console, Text::tr("Searching the export"));
     BoundedLineReader reader(file);
     while (reader.next()) {
         const QByteArray line = route.atPlugin(QByteArray(reader.line(), reader.length()));

@@ -1,20 +1,16 @@
 #include "mirovahrctl/explain/personexplanation.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/export/personname.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/explainrules.h"
-#include "mirovahrctl/report/wording.h"
 
 #include <algorithm>
 
 namespace {
-
-QString lineCount(qint64 count)
-{
-    return Wording::counted(count, QStringLiteral("line"), QStringLiteral("lines"));
-}
 
 bool isSerious(const QVector<Finding> &findings)
 {
@@ -29,15 +25,23 @@ struct PersonVerdict {
 };
 
 constexpr PersonVerdict kVerdicts[] = {
-    {"created", "A synchronisation creates %1."},
-    {"merged", "A synchronisation brings the row of %1 up to date and makes it active."},
-    {"updated", "A synchronisation writes the row of %1."},
-    {"unchanged", "A synchronisation leaves the row of %1 alone."},
+    {"created", QT_TRANSLATE_NOOP("Text", "A synchronisation creates %1.")},
+    {"merged",
+     QT_TRANSLATE_NOOP("Text",
+                       "A synchronisation brings the row of %1 up to date and makes it active.")},
+    {"updated", QT_TRANSLATE_NOOP("Text", "A synchronisation writes the row of %1.")},
+    {"unchanged", QT_TRANSLATE_NOOP("Text", "A synchronisation leaves the row of %1 alone.")},
     {"never-created",
-     "%1 has left and is not in the database: the plugin never creates a row for leavers."},
-    {"uncertain", "A text in the line of %1 prevents the row from being written correctly."},
-    {"missed", "The plugin recognises somebody as %1, but finds no row to write."},
-    {"test-mode", "Test mode is on: the plugin does not write the row of %1."},
+     QT_TRANSLATE_NOOP(
+         "Text",
+         "%1 has left and is not in the database: the plugin never creates a row for leavers.")},
+    {"uncertain",
+     QT_TRANSLATE_NOOP("Text",
+                       "A text in the line of %1 prevents the row from being written correctly.")},
+    {"missed",
+     QT_TRANSLATE_NOOP("Text", "The plugin recognises somebody as %1, but finds no row to write.")},
+    {"test-mode",
+     QT_TRANSLATE_NOOP("Text", "Test mode is on: the plugin does not write the row of %1.")},
 };
 
 /// The facts that are words.
@@ -48,23 +52,24 @@ struct WordFact {
 };
 
 constexpr WordFact kWordFacts[] = {
-    {"person", "Person", &RecordOutcome::person},
-    {"payroll", "Payroll selection", &RecordOutcome::payroll},
-    {"payrollSettings", "Payroll settings", &RecordOutcome::payrollSettings},
-    {"balance", "Vacation balance", &RecordOutcome::balance},
-    {"supervisor", "Supervisor", &RecordOutcome::supervisor},
-    {"branch", "Branch", &RecordOutcome::branch},
-    {"calendar", "Calendar group", &RecordOutcome::calendar},
+    {"person", QT_TRANSLATE_NOOP("Text", "Person"), &RecordOutcome::person},
+    {"payroll", QT_TRANSLATE_NOOP("Text", "Payroll selection"), &RecordOutcome::payroll},
+    {"payrollSettings", QT_TRANSLATE_NOOP("Text", "Payroll settings"),
+     &RecordOutcome::payrollSettings},
+    {"balance", QT_TRANSLATE_NOOP("Text", "Vacation balance"), &RecordOutcome::balance},
+    {"supervisor", QT_TRANSLATE_NOOP("Text", "Supervisor"), &RecordOutcome::supervisor},
+    {"branch", QT_TRANSLATE_NOOP("Text", "Branch"), &RecordOutcome::branch},
+    {"calendar", QT_TRANSLATE_NOOP("Text", "Calendar group"), &RecordOutcome::calendar},
 };
 
 /// A table of the outcome of each line, in the words of the facts.
 Table lineTable()
 {
-    Table table{QStringLiteral("lines"), {{QStringLiteral("line"), QStringLiteral("Line")}}, {}};
+    Table table{QStringLiteral("lines"), {{QStringLiteral("line"), Text::tr("Line")}}, {}};
     for (const WordFact &fact : kWordFacts)
-        table.columns += {QString::fromLatin1(fact.id), QString::fromLatin1(fact.label)};
-    table.columns += {QStringLiteral("recalculation"), QStringLiteral("Recalculation from")};
-    table.columns += {QStringLiteral("waits"), QStringLiteral("Waits afterwards")};
+        table.columns += {QString::fromLatin1(fact.id), Text::tr(fact.label)};
+    table.columns += {QStringLiteral("recalculation"), Text::tr("Recalculation from")};
+    table.columns += {QStringLiteral("waits"), Text::tr("Waits afterwards")};
     return table;
 }
 
@@ -72,10 +77,27 @@ QVariantList lineRow(qint64 number, const RecordOutcome &outcome)
 {
     QVariantList row{number};
     for (const WordFact &fact : kWordFacts)
-        row += outcome.*fact.word;
+        row += Phrases::word(outcome.*fact.word, "outcome");
     row += outcome.recalculation.text();
     row += outcome.waits;
     return row;
+}
+
+/// Which file of the gate is explained.
+QString admittedFile(const SiteExport &file)
+{
+    const auto &status = file.gateStatus();
+    const auto admitted = status ? status->admittedTime() : std::nullopt;
+    if (!admitted) {
+        return file.isGateOfCommand()
+            ? Text::tr("What follows uses the file that the gate of syncCommand admitted last.")
+            : Text::tr("What follows uses the file that the gate admitted last.");
+    }
+    return (file.isGateOfCommand()
+                ? Text::tr("What follows uses the file that the gate of syncCommand admitted last, "
+                           "on %1.")
+                : Text::tr("What follows uses the file that the gate admitted last, on %1."))
+        .arg(Phrases::day(*admitted));
 }
 
 } // namespace
@@ -94,15 +116,15 @@ QString PersonExplanation::explain(const PersonLines *lines)
 {
     m_hasExport = lines != nullptr;
     explainConfiguration();
-    m_context.report.section(QStringLiteral("export"), QStringLiteral("Export"));
+    m_context.report.section(QStringLiteral("export"), Text::tr("Export"));
     if (m_source.file.source() != SiteExport::Source::Named
         && m_source.file.source() != SiteExport::Source::ImportFile)
         explainAbsentExport();
     if (lines)
         explainExport(*lines);
     if (m_source.isForced) {
-        m_context.report.sentence(QStringLiteral("The next synchronisation is a forced one: the "
-                                                 "plugin handles every line, changed or not."));
+        m_context.report.sentence(Text::tr("The next synchronisation is a forced one: the "
+                                           "plugin handles every line, changed or not."));
     }
     explainDatabase();
     if (!m_isFound)
@@ -120,17 +142,17 @@ void PersonExplanation::explainConfiguration()
 {
     ReportWriter &report = m_context.report;
     const Configuration &configuration = m_context.configuration;
-    report.section(QStringLiteral("configuration"), QStringLiteral("Configuration"));
+    report.section(QStringLiteral("configuration"), Text::tr("Configuration"));
     report.sentence(m_source.configuration.origin());
     if (!configuration.enabled) {
         report.add(ExplainRules::kDisabled,
-                   QStringLiteral("The plugin is disabled: nobody is synchronised. What "
-                                  "follows applies once it is enabled."));
+                   Text::tr("The plugin is disabled: nobody is synchronised. What "
+                            "follows applies once it is enabled."));
     }
     if (configuration.testMode) {
         report.add(
             ExplainRules::kTestMode,
-            QStringLiteral(
+            Text::tr(
                 "Test mode is on: rows of people are not written, only what depends on them."));
     }
 }
@@ -138,19 +160,18 @@ void PersonExplanation::explainConfiguration()
 void PersonExplanation::explainAbsentExport()
 {
     const SiteExport &file = m_source.file;
-    m_context.report.sentence(QStringLiteral("There is no export %1%2.")
-                                  .arg(file.importFile(),
-                                       m_context.configuration.deleteFile
-                                           ? QStringLiteral(": the plugin removes it after it has "
-                                                            "read it")
-                                           : QString()));
+    m_context.report.sentence(
+        (m_context.configuration.deleteFile
+             ? Text::tr("There is no export %1: the plugin removes it after it has read it.")
+             : Text::tr("There is no export %1."))
+            .arg(file.importFile()));
     if (file.source() == SiteExport::Source::Gate) {
         explainGate();
         return;
     }
     if (!file.gateError().isEmpty())
         m_context.report.sentence(file.gateError() + QLatin1Char('.'));
-    m_context.report.sentence(QStringLiteral("What follows uses the database only."));
+    m_context.report.sentence(Text::tr("What follows uses the database only."));
 }
 
 void PersonExplanation::explainGate()
@@ -158,14 +179,10 @@ void PersonExplanation::explainGate()
     ReportWriter &report = m_context.report;
     const SiteExport &file = m_source.file;
     const auto &status = file.gateStatus();
-    const auto admitted = status ? status->admittedTime() : std::nullopt;
-    report.sentence(
-        QStringLiteral("What follows uses the file that the gate%1 admitted last%2.")
-            .arg(file.isGateOfCommand() ? QStringLiteral(" of syncCommand") : QString(),
-                 admitted ? QStringLiteral(", on ") + Phrases::day(*admitted) : QString()));
+    report.sentence(admittedFile(file));
     if (status && status->isRefused()) {
         report.add(ExplainRules::kGateRefused,
-                   QStringLiteral("The gate has refused a newer file: %1.")
+                   Text::tr("The gate has refused a newer file: %1.")
                        .arg(status->reasons().join(QStringLiteral("; "))));
     }
 }
@@ -179,11 +196,11 @@ void PersonExplanation::explainExport(const PersonLines &lines)
     for (const CheckedLine &line : lines.lines())
         explainLine(line);
     if (lines.more() > 0) {
-        m_context.report.add(
-            ExplainRules::kLinesNotExplained,
-            QStringLiteral("%1 more about the same person are not explained: the facts "
-                           "are those of the first %2.")
-                .arg(lineCount(lines.more()), lineCount(PersonLines::kMost)));
+        m_context.report.add(ExplainRules::kLinesNotExplained,
+                             Text::tr("%Ln line(s) more about the same person are not explained: "
+                                      "the facts are those of the first %1 lines.",
+                                      nullptr, Language::count(lines.more()))
+                                 .arg(PersonLines::kMost));
     }
     explainOthers(lines);
 }
@@ -193,10 +210,10 @@ void PersonExplanation::explainCommand()
 {
     const Configuration &configuration = m_context.configuration;
     if (configuration.runsCommand(m_source.isForced)) {
-        m_context.report.sentence(QStringLiteral(
+        m_context.report.sentence(Text::tr(
             "The plugin runs its export command first, and may then find another file than this."));
     } else if (configuration.runsCommand(true)) {
-        m_context.report.sentence(QStringLiteral(
+        m_context.report.sentence(Text::tr(
             "A forced synchronisation runs the export command first, and may then find another "
             "file than this."));
     }
@@ -206,20 +223,21 @@ void PersonExplanation::explainNotFound(const PersonLines &lines)
 {
     const auto &row = m_context.person.row();
     const bool hasLeft = row && (!row->active || row->isOver());
-    Finding finding =
-        makeFinding(ExplainRules::kNotInExport,
-                    QStringLiteral("None of the %1 of %2 is about %3.")
-                        .arg(lineCount(lines.count()), m_source.file.path(), m_person.name()));
+    Finding finding = makeFinding(ExplainRules::kNotInExport,
+                                  Text::tr("None of the %Ln line(s) of %1 is about %2.", nullptr,
+                                           Language::count(lines.count()))
+                                      .arg(m_source.file.path(), m_person.name()));
     if (hasLeft) {
         finding.severity = ExplainRules::kNotInExport.otherSeverity;
-        finding.advice = QStringLiteral("This is fine unless the person still works: according to "
-                                        "the database the person has left.");
+        finding.advice = Text::tr("This is fine unless the person still works: according to "
+                                  "the database the person has left.");
     }
     m_context.report.finding(finding);
     if (lines.nameless() > 0) {
-        m_context.report.sentence(QStringLiteral("%1 are too broken to tell whom they are about, "
-                                                 "and the plugin drops them: see check-file.")
-                                      .arg(lineCount(lines.nameless())));
+        m_context.report.sentence(
+            Text::tr("%Ln line(s) are too broken to tell whom they are about, and the plugin drops "
+                     "them: see check-file.",
+                     nullptr, Language::count(lines.nameless())));
     }
 }
 
@@ -227,7 +245,7 @@ void PersonExplanation::explainOthers(const PersonLines &lines)
 {
     if (lines.others().isEmpty())
         return;
-    m_context.report.sentence(QStringLiteral("Personal number %1 also appears as %2.")
+    m_context.report.sentence(Text::tr("Personal number %1 also appears as %2.")
                                   .arg(QString::number(m_person.personalNumber()),
                                        lines.others().join(QStringLiteral(", "))));
 }
@@ -236,12 +254,12 @@ void PersonExplanation::explainLine(const CheckedLine &line)
 {
     ReportWriter &report = m_context.report;
     report.sentence(line.record
-                        ? QStringLiteral("Line %1 of %2 is about %3, pid %4.")
+                        ? Text::tr("Line %1 of %2 is about %3, pid %4.")
                               .arg(QString::number(line.number), m_source.file.path(),
                                    personName(SqlTexts::shown(*line.record, m_context.backslash)),
                                    QString::number(line.record->getPid()))
-                        : QStringLiteral("Line %1 of %2 is about the person, but the "
-                                         "plugin drops it.")
+                        : Text::tr("Line %1 of %2 is about the person, but the "
+                                   "plugin drops it.")
                               .arg(QString::number(line.number), m_source.file.path()));
     for (const Finding &finding : line.findings)
         report.finding(finding);
@@ -251,11 +269,11 @@ void PersonExplanation::explainAbsence()
 {
     if (!m_context.person.row()) {
         m_context.report.add(ExplainRules::kNotInDatabase,
-                             QStringLiteral("The person is not in the database either."));
+                             Text::tr("The person is not in the database either."));
     } else if (m_hasExport) {
         m_context.report.sentence(
-            QStringLiteral("The plugin leaves people alone who are missing from the export: it "
-                           "never ends or removes them."));
+            Text::tr("The plugin leaves people alone who are missing from the export: it "
+                     "never ends or removes them."));
     }
     explainRowOnly();
 }
@@ -294,69 +312,74 @@ RecordOutcome PersonExplanation::outcomeOfAll()
 void PersonExplanation::explainMemory()
 {
     ReportWriter &report = m_context.report;
-    report.section(QStringLiteral("memory"), QStringLiteral("What only the running plugin knows"));
+    report.section(QStringLiteral("memory"), Text::tr("What only the running plugin knows"));
     report.sentence(
-        QStringLiteral("This is what a plugin does with its first export after it was started. "
-                       "Later it skips people whose line has not changed since the previous "
-                       "synchronisation, unless the synchronisation is forced, the record waits "
-                       "for its branch, or the balance could not be corrected."));
+        Text::tr("This is what a plugin does with its first export after it was started. "
+                 "Later it skips people whose line has not changed since the previous "
+                 "synchronisation, unless the synchronisation is forced, the record waits "
+                 "for its branch, or the balance could not be corrected."));
     report.sentence(
-        QStringLiteral("Only its memory knows which lines it has seen. If it has seen this very "
-                       "line and a step failed, nothing happens until the line changes; "
-                       "mirovahrctl force makes it handle every line again."));
-    report.sentence(QStringLiteral("Statements that fail, for lack of rights or otherwise, are not "
-                                   "predicted here: see preview and check-db."));
+        Text::tr("Only its memory knows which lines it has seen. If it has seen this very "
+                 "line and a step failed, nothing happens until the line changes; "
+                 "mirovahrctl force makes it handle every line again."));
+    report.sentence(Text::tr("Statements that fail, for lack of rights or otherwise, are not "
+                             "predicted here: see preview and check-db."));
 }
 
 void PersonExplanation::writeFacts()
 {
     ReportWriter &report = m_context.report;
-    report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
+    report.section(QStringLiteral("summary"), Text::tr("Summary"));
     if (m_outcomes.size() > 1) {
         Table table = lineTable();
         for (int i = 0; i < m_outcomes.size(); ++i)
             table.rows += lineRow(m_lineNumbers.at(i), m_outcomes.at(i));
         report.table(table);
     }
-    report.fact(QStringLiteral("exportSource"), QStringLiteral("Export is"),
-                m_source.file.sourceWord());
+    report.fact(QStringLiteral("exportSource"), Text::tr("Export is"),
+                Phrases::word(m_source.file.sourceWord(), "export"));
     report.fact(QStringLiteral("pid"), QStringLiteral("pid"), m_context.person.pid());
     if (m_context.person.row())
         report.fact(QStringLiteral("uid"), QStringLiteral("uid"), m_context.person.uid());
     if (!m_outcome)
         return;
     for (const WordFact &fact : kWordFacts) {
-        report.fact(QString::fromLatin1(fact.id), QString::fromLatin1(fact.label),
-                    (*m_outcome).*fact.word);
+        report.fact(QString::fromLatin1(fact.id), Text::tr(fact.label),
+                    Phrases::word((*m_outcome).*fact.word, "outcome"));
     }
     writeRecalculation();
-    report.fact(QStringLiteral("waits"), QStringLiteral("Waits afterwards"), m_outcome->waits);
+    report.fact(QStringLiteral("waits"), Text::tr("Waits afterwards"), m_outcome->waits);
 }
 
 void PersonExplanation::writeRecalculation()
 {
     ReportWriter &report = m_context.report;
-    const QStringList &causes = m_outcome->recalculation.causes;
-    report.fact(QStringLiteral("recalculation"), QStringLiteral("Recalculation from"),
+    QStringList causes;
+    for (const QString &cause : m_outcome->recalculation.causes)
+        causes += Phrases::word(cause, "cause");
+    report.fact(QStringLiteral("recalculation"), Text::tr("Recalculation from"),
                 m_outcome->recalculation.text());
-    report.fact(QStringLiteral("recalculationCauses"), QStringLiteral("Recalculation because of"),
-                causes.isEmpty() ? QStringLiteral("none") : causes.join(QStringLiteral(", ")));
+    report.fact(QStringLiteral("recalculationCauses"), Text::tr("Recalculation because of"),
+                causes.isEmpty() ? Phrases::word(QStringLiteral("none"), "cause")
+                                 : causes.join(QStringLiteral(", ")));
     const auto days = m_context.person.recalculatedDays();
-    report.fact(QStringLiteral("recalculatedDays"), QStringLiteral("Days of attendance to mark"),
-                days ? QVariant(*days) : QVariant(QStringLiteral("uncertain")));
+    report.fact(QStringLiteral("recalculatedDays"), Text::tr("Days of attendance to mark"),
+                days ? QVariant(*days)
+                     : QVariant(Phrases::word(QStringLiteral("uncertain"), "recalculation")));
     const qint64 before = m_context.person.lastCalculationBefore();
     const qint64 after = m_context.person.lastCalculation();
     if (after > before && before != 0) {
         report.add(
             ExplainRules::kCalculationForward,
-            QStringLiteral("The last calculation moves forward from %1 to %2. Days in between that "
-                           "are not calculated yet stay uncalculated.")
+            Text::tr("The last calculation moves forward from %1 to %2. Days in between that "
+                     "are not calculated yet stay uncalculated.")
                 .arg(Phrases::day(before), Phrases::day(after)));
     }
-    report.fact(QStringLiteral("lastCalculation"), QStringLiteral("Last calculation is set"),
-                after == before      ? QStringLiteral("kept")
-                    : after < before ? QStringLiteral("back")
-                                     : QStringLiteral("forward"));
+    report.fact(QStringLiteral("lastCalculation"), Text::tr("Last calculation is set"),
+                Phrases::word(after == before      ? QStringLiteral("kept")
+                                  : after < before ? QStringLiteral("back")
+                                                   : QStringLiteral("forward"),
+                              "last calculation"));
 }
 
 QString PersonExplanation::verdict() const
@@ -367,23 +390,26 @@ QString PersonExplanation::verdict() const
     QString sentence;
     for (const PersonVerdict &candidate : kVerdicts) {
         if (m_outcome->person == QLatin1String(candidate.person))
-            sentence = QString::fromLatin1(candidate.sentence).arg(name);
+            sentence = Text::tr(candidate.sentence).arg(name);
     }
     if (isSerious(m_details.findings()))
-        sentence += QStringLiteral(" There are findings.");
+        sentence += QLatin1Char(' ') + Text::tr("There are findings.");
     return sentence;
 }
 
 QString PersonExplanation::verdictWithoutRecord() const
 {
     const QString name = m_person.name();
-    const QString where = m_context.person.row() ? QStringLiteral("in the database")
-                                                 : QStringLiteral("not in the database");
-    if (m_isFound)
-        return QStringLiteral("The plugin drops the line of %1, who is %2.").arg(name, where);
-    if (!m_hasExport)
-        return QStringLiteral("There is no export; %1 is %2.").arg(name, where);
-    return m_context.person.row()
-        ? QStringLiteral("%1 is in the database, but not in the export.").arg(name)
-        : QStringLiteral("%1 is neither in the export nor in the database.").arg(name);
+    const bool hasRow = m_context.person.row().has_value();
+    if (m_isFound) {
+        return hasRow
+            ? Text::tr("The plugin drops the line of %1, who is in the database.").arg(name)
+            : Text::tr("The plugin drops the line of %1, who is not in the database.").arg(name);
+    }
+    if (!m_hasExport) {
+        return hasRow ? Text::tr("There is no export; %1 is in the database.").arg(name)
+                      : Text::tr("There is no export; %1 is not in the database.").arg(name);
+    }
+    return hasRow ? Text::tr("%1 is in the database, but not in the export.").arg(name)
+                  : Text::tr("%1 is neither in the export nor in the database.").arg(name);
 }

@@ -2,8 +2,8 @@
 
 #include "mirovahrctl/explain/personexplanation.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/program/report.h"
-#include "mirovahrctl/report/wording.h"
 
 namespace {
 
@@ -15,24 +15,25 @@ struct OtherDifference {
 };
 
 constexpr OtherDifference kOthers[] = {
-    {&RecordOutcome::payroll, "joins", "the selection for the payroll export"},
-    {&RecordOutcome::payrollSettings, "set", "the settings of the payroll export"},
-    {&RecordOutcome::balance, "corrected", "the vacation balance"},
-    {&RecordOutcome::balance, "impossible", "the vacation balance"},
-    {&RecordOutcome::supervisor, "set", "who receives the requests"},
-    {&RecordOutcome::supervisor, "unknown", "who receives the requests"},
-    {&RecordOutcome::branch, "joins", "the branch"},
-    {&RecordOutcome::branch, "unknown", "the branch"},
-    {&RecordOutcome::calendar, "planned", "the calendar group"},
-    {&RecordOutcome::calendar, "unknown", "the calendar group"},
+    {&RecordOutcome::payroll, "joins",
+     QT_TRANSLATE_NOOP("Text", "the selection for the payroll export")},
+    {&RecordOutcome::payrollSettings, "set",
+     QT_TRANSLATE_NOOP("Text", "the settings of the payroll export")},
+    {&RecordOutcome::balance, "corrected", QT_TRANSLATE_NOOP("Text", "the vacation balance")},
+    {&RecordOutcome::balance, "impossible", QT_TRANSLATE_NOOP("Text", "the vacation balance")},
+    {&RecordOutcome::supervisor, "set", QT_TRANSLATE_NOOP("Text", "who receives the requests")},
+    {&RecordOutcome::supervisor, "unknown", QT_TRANSLATE_NOOP("Text", "who receives the requests")},
+    {&RecordOutcome::branch, "joins", QT_TRANSLATE_NOOP("Text", "the branch")},
+    {&RecordOutcome::branch, "unknown", QT_TRANSLATE_NOOP("Text", "the branch")},
+    {&RecordOutcome::calendar, "planned", QT_TRANSLATE_NOOP("Text", "the calendar group")},
+    {&RecordOutcome::calendar, "unknown", QT_TRANSLATE_NOOP("Text", "the calendar group")},
 };
 
 QString dutyOf(const Finding &finding)
 {
     if (finding.advice.isEmpty())
-        return QStringLiteral("Administrator: see the finding %1.").arg(finding.rule);
-    return (finding.forHr ? QStringLiteral("HR: ") : QStringLiteral("Administrator: "))
-        + finding.advice;
+        return Text::tr("Administrator: see the finding %1.").arg(finding.rule);
+    return (finding.forHr ? Text::tr("HR: %1") : Text::tr("Administrator: %1")).arg(finding.advice);
 }
 
 } // namespace
@@ -40,7 +41,7 @@ QString dutyOf(const Finding &finding)
 void PersonExplanation::writeAnswer()
 {
     m_report.answer(verdict());
-    m_report.section(QStringLiteral("answer"), QStringLiteral("In short"));
+    m_report.section(QStringLiteral("answer"), Text::tr("In short"));
     m_report.sentence(arrival());
     const QString different = differences();
     if (!different.isEmpty())
@@ -54,33 +55,32 @@ QString PersonExplanation::arrival() const
 {
     const auto &row = m_context.person.row();
     if (!row)
-        return QStringLiteral("%1 has not arrived in the attendance database.")
-            .arg(m_person.name());
+        return Text::tr("%1 has not arrived in the attendance database.").arg(m_person.name());
     return row->active
-        ? QStringLiteral("%1 has arrived: the attendance database has the person as %2, active.")
+        ? Text::tr("%1 has arrived: the attendance database has the person as %2, active.")
               .arg(m_person.name(), row->name)
-        : QStringLiteral("%1 is in the attendance database as %2, but not active.")
+        : Text::tr("%1 is in the attendance database as %2, but not active.")
               .arg(m_person.name(), row->name);
 }
 
 QString PersonExplanation::differences() const
 {
     if (!m_hasExport)
-        return QStringLiteral("Without an export nobody knows what is different from HR.");
+        return Text::tr("Without an export nobody knows what is different from HR.");
     if (!m_isFound)
-        return QStringLiteral("HR's export has no line of the person.");
+        return Text::tr("HR's export has no line of the person.");
     if (!m_outcome)
-        return QStringLiteral("HR's line is broken, so nothing of it is compared.");
+        return Text::tr("HR's line is broken, so nothing of it is compared.");
     if (!m_context.person.row())
         return QString(); // all of it
     QStringList found = m_outcome->differences;
     for (const OtherDifference &other : kOthers) {
         if ((*m_outcome).*other.fact == QLatin1String(other.word))
-            found += QString::fromLatin1(other.text);
+            found += Text::tr(other.text);
     }
     return found.isEmpty()
-        ? QStringLiteral("Nothing was found that is different from HR's line.")
-        : QStringLiteral("Different from HR's line: %1.").arg(found.join(QStringLiteral("; ")));
+        ? Text::tr("Nothing was found that is different from HR's line.")
+        : Text::tr("Different from HR's line: %1.").arg(found.join(QStringLiteral("; ")));
 }
 
 /// What the findings ask for, each once, HR's part first.
@@ -100,8 +100,8 @@ QStringList PersonExplanation::duties() const
         && (m_outcome->person == QLatin1String("created")
             || m_outcome->person == QLatin1String("merged")
             || m_outcome->person == QLatin1String("updated"));
-    return {isPending ? QStringLiteral("Nobody has to do anything: the next synchronisation writes "
-                                       "the person, or mirovahrctl force if the plugin has seen "
-                                       "this very line before.")
-                      : QStringLiteral("Nobody has to do anything.")};
+    return {isPending ? Text::tr("Nobody has to do anything: the next synchronisation writes "
+                                 "the person, or mirovahrctl force if the plugin has seen "
+                                 "this very line before.")
+                      : Text::tr("Nobody has to do anything.")};
 }

@@ -2,6 +2,7 @@
 
 #include "mirovahrctl/explain/personexplanation.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/comparison/rowfields.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/report/finding.h"
@@ -9,44 +10,59 @@
 
 namespace {
 
-/// Something else that the database holds of a person, and the query for it.
+/// Something else that the database holds of a person.
 struct Holding {
     const char *name;
+    /// The query for it: rows of an id, or of an id and what belongs to it.
     const char *select;
+    const char *both = nullptr; ///< the text for an id and what belongs to it
 };
 
 constexpr Holding kHoldings[] = {
-    {"Member of branches",
-     "SELECT GROUP_CONCAT(CONCAT_WS(' ', bid, name) ORDER BY bid SEPARATOR ', ')"
-     " FROM brape JOIN branches USING(bid) WHERE uid = %1"},
-    {"Calendar groups and their first months",
-     "SELECT GROUP_CONCAT(CONCAT(gid, ' from ', since) ORDER BY since SEPARATOR ', ')"
-     " FROM groups_plan WHERE uid = %1"},
-    {"Administrators who receive the requests",
-     "SELECT GROUP_CONCAT(CONCAT(aid, IFNULL(CONCAT(' (personal number ', personalNumber, ')'),"
-     " '')) ORDER BY aid SEPARATOR ', ')"
-     " FROM admins_people JOIN admins USING(aid) WHERE request AND uid = %1"},
-    {"Terminals",
-     "SELECT GROUP_CONCAT(tid ORDER BY tid SEPARATOR ', ') FROM people_term WHERE uid = %1"},
-    {"Settings of the payroll export",
-     "SELECT GROUP_CONCAT(id ORDER BY id SEPARATOR ', ') FROM people_pam WHERE uid = %1"},
+    {QT_TRANSLATE_NOOP("Text", "Member of branches"),
+     "SELECT bid, name FROM brape JOIN branches USING(bid) WHERE uid = %1 ORDER BY bid", "%1 %2"},
+    {QT_TRANSLATE_NOOP("Text", "Calendar groups and their first months"),
+     "SELECT gid, since FROM groups_plan WHERE uid = %1 ORDER BY since",
+     QT_TRANSLATE_NOOP("Text", "%1 from %2")},
+    {QT_TRANSLATE_NOOP("Text", "Administrators who receive the requests"),
+     "SELECT aid, personalNumber FROM admins_people JOIN admins USING(aid) WHERE request AND uid = "
+     "%1 ORDER BY aid",
+     QT_TRANSLATE_NOOP("Text", "%1 (personal number %2)")},
+    {QT_TRANSLATE_NOOP("Text", "Terminals"),
+     "SELECT tid FROM people_term WHERE uid = %1 ORDER BY tid"},
+    {QT_TRANSLATE_NOOP("Text", "Settings of the payroll export"),
+     "SELECT id FROM people_pam WHERE uid = %1 ORDER BY id"},
 };
+
+/// "1 Praha, 4 Brno"; nothing when there is none.
+QVariant held(const Holding &holding, ExplainContext &context)
+{
+    const auto rows =
+        context.view.sql().rows(QString(QLatin1String(holding.select)).arg(context.person.uid()));
+    QStringList texts;
+    for (const QStringList &row : rows) {
+        texts += row.size() == 1 || row.last().isNull()
+            ? row.first()
+            : Text::tr(holding.both).arg(row.first(), row.last());
+    }
+    return texts.isEmpty() ? QVariant() : QVariant(texts.join(QStringLiteral(", ")));
+}
 
 void reportRow(ExplainContext &context)
 {
     const PersonRow &row = *context.person.row();
     context.report.sentence(
-        QStringLiteral("The database has the person as uid %1: %2 %3, %4.")
-            .arg(QString::number(row.uid), row.payrollId, row.name,
-                 row.active ? QStringLiteral("active") : QStringLiteral("not active")));
+        (row.active ? Text::tr("The database has the person as uid %1: %2 %3, active.")
+                    : Text::tr("The database has the person as uid %1: %2 %3, not active."))
+            .arg(QString::number(row.uid), row.payrollId, row.name));
     QString history = row.created == 0
-        ? QStringLiteral("It is not known when the row was created.")
-        : QStringLiteral("The row was created on %1.").arg(Phrases::day(row.created));
+        ? Text::tr("It is not known when the row was created.")
+        : Text::tr("The row was created on %1.").arg(Phrases::day(row.created));
     if (row.edited != 0) {
-        history += QStringLiteral(" %1 changed it last, on %2.")
-                       .arg(row.editedByPlugin ? QStringLiteral("The plugin")
-                                               : QStringLiteral("An administrator"),
-                            Phrases::day(row.edited));
+        history += QLatin1Char(' ')
+            + (row.editedByPlugin ? Text::tr("The plugin changed it last, on %1.")
+                                  : Text::tr("An administrator changed it last, on %1."))
+                  .arg(Phrases::day(row.edited));
     }
     context.report.sentence(history);
 }
@@ -54,15 +70,11 @@ void reportRow(ExplainContext &context)
 void reportHoldings(ExplainContext &context)
 {
     Table table{QStringLiteral("held"),
-                {{QStringLiteral("what"), QStringLiteral("What")},
-                 {QStringLiteral("value"), QStringLiteral("In the database")}},
+                {{QStringLiteral("what"), Text::tr("What")},
+                 {QStringLiteral("value"), Text::tr("In the database")}},
                 {}};
-    for (const Holding &holding : kHoldings) {
-        const QString value = context.view.sql().value(
-            QString(QLatin1String(holding.select)).arg(context.person.uid()));
-        table.rows.append(
-            {QString::fromLatin1(holding.name), value.isNull() ? QVariant() : QVariant(value)});
-    }
+    for (const Holding &holding : kHoldings)
+        table.rows.append({Text::tr(holding.name), held(holding, context)});
     context.report.table(table);
 }
 
@@ -75,19 +87,19 @@ void reportRecognition(ExplainContext &context)
     if (known && !seesRow) {
         context.report.add(
             ExplainRules::kPayrollIdStrange,
-            QStringLiteral(
+            Text::tr(
                 "An active row with another pid has the payroll id %1. The plugin recognises it as "
                 "this person, but writes by pid: it changes nobody, or somebody else.")
                 .arg(known->getPamId()),
-            QStringLiteral("Correct pid and pamId of that row."));
+            Text::tr("Correct pid and pamId of that row."));
     } else if (seesRow && !known) {
         context.report.add(ExplainRules::kPayrollIdStrange,
-                           QStringLiteral("The payroll id of the row belongs to another pid: the "
-                                          "plugin does not recognise the person in it."),
-                           QStringLiteral("Correct pamId of the row."));
+                           Text::tr("The payroll id of the row belongs to another pid: the "
+                                    "plugin does not recognise the person in it."),
+                           Text::tr("Correct pamId of the row."));
     } else if (row && !row->active) {
         context.report.sentence(
-            QStringLiteral("The plugin sees active people only, so it does not see this row."));
+            Text::tr("The plugin sees active people only, so it does not see this row."));
     }
 }
 
@@ -95,13 +107,13 @@ void reportRecognition(ExplainContext &context)
 
 void PersonExplanation::explainDatabase()
 {
-    m_context.report.section(QStringLiteral("database"), QStringLiteral("Database"));
+    m_context.report.section(QStringLiteral("database"), Text::tr("Database"));
     const bool hasRow = m_context.person.row().has_value();
     if (hasRow)
         reportRow(m_context);
     else
         m_context.report.sentence(
-            QStringLiteral("The database has nobody with the pid %1.").arg(m_context.person.pid()));
+            Text::tr("The database has nobody with the pid %1.").arg(m_context.person.pid()));
     reportRecognition(m_context);
     if (hasRow)
         reportHoldings(m_context);
@@ -113,8 +125,8 @@ void PersonExplanation::explainRowOnly()
     if (!known)
         return;
     Table table{QStringLiteral("fields"),
-                {{QStringLiteral("field"), QStringLiteral("Field")},
-                 {QStringLiteral("database"), QStringLiteral("In the database")}},
+                {{QStringLiteral("field"), Text::tr("Field")},
+                 {QStringLiteral("database"), Text::tr("In the database")}},
                 {}};
     const QVector<RowField> fields = compareRowFields(*known, *known, m_context.backslash);
     for (const RowField &field : fields)

@@ -1,5 +1,6 @@
 #include "mirovahrctl/explain/personlines.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/program/progress.h"
 #include "worker/exportline.h"
 
@@ -31,7 +32,7 @@ PersonLines::PersonLines(const PersonId &person)
 bool PersonLines::find(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route,
                        Console &console)
 {
-    Progress progress(console, QStringLiteral("Reading the export"));
+    Progress progress(console, Text::tr("Reading the export"));
     ExportScan check(file, widths, route);
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
@@ -63,5 +64,5 @@ void PersonLines::keep(const CheckedLine &line)
 void PersonLines::note(const MirovaRonRecord &record, qint64 line)
 {
     if (m_others.size() < kMost)
-        m_others += QStringLiteral("%1 (line %2)").arg(record.getPamId()).arg(line);
+        m_others += Text::tr("%1 (line %2)").arg(record.getPamId()).arg(line);
 }

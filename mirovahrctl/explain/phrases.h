@@ -1,22 +1,23 @@
 #pragma once
 
-#include <QDate>
 #include <QString>
 #include <QStringList>
 
 /// Wording that the explanation of a person uses in several places.
 namespace Phrases {
 
-/// "2024-03-01"; "none" for an invalid date.
-QString day(const QDate &date);
-
-/// The same for a Unix time.
+/// The day of a Unix time.
 QString day(qint64 time);
 
-/// "terminal 1", "terminals 1 and 4", "terminals 1, 2 and 4"; \a none when there are none.
-QString list(const QString &one, const QString &many, const QStringList &ids, const QString &none);
+/// \a none, or a sentence with these ids in the place of its %1: "1", "1 and 4", "1, 2 and 4". \a
+/// one is the sentence for one id.
+QString list(const QStringList &ids, const QString &none, const QString &one, const QString &many);
 
 /// "17.50 days" for hundredths of a day.
 QString days(qint64 hundredths);
+
+/// A stable word for scripts, such as "never-created", as people read it. \a meaning says which
+/// fact it is of: "outcome", "recalculation", "cause", "last calculation" or "export".
+QString word(const QString &word, const char *meaning);
 
 } // namespace Phrases

@@ -2,8 +2,9 @@
 
 #include "mirovahrctl/explain/recordexplanation.h"
 
-#include "mirovahrctl/explain/phrases.h"
+#include "cli/text.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/moment.h"
 #include "worker/recordcodes.h"
 
 namespace {
@@ -70,8 +71,8 @@ void RecordExplanation::explainSteps()
 
 void RecordExplanation::explainRepetition()
 {
-    section("repetition", "The same again");
-    say(QStringLiteral("The line equals the previous one, so the plugin leaves the person alone."));
+    section("repetition", Text::tr("The same again"));
+    say(Text::tr("The line equals the previous one, so the plugin leaves the person alone."));
     m_outcome.person =
         m_person.exists() ? QStringLiteral("unchanged") : QStringLiteral("never-created");
     if (m_active && m_person.waits(m_record))
@@ -90,32 +91,32 @@ void RecordExplanation::doubtOutcome()
 
 void RecordExplanation::explainState()
 {
-    section("state", "Does the person work?");
+    section("state", Text::tr("Does the person work?"));
     const QDate today = QDate::currentDate();
     if (m_active) {
-        say(QStringLiteral("Yes: the employment state %1 is below 4, and %2.")
-                .arg(QString::number(m_record.stavPracovnihoPomeru),
-                     m_record.datumVystupu.isValid()
-                         ? QStringLiteral("the last day, %1, is not over")
-                               .arg(Phrases::day(m_record.datumVystupu))
-                         : QStringLiteral("there is no last day")));
+        const QString state = QString::number(m_record.stavPracovnihoPomeru);
+        say(m_record.datumVystupu.isValid()
+                ? Text::tr("Yes: the employment state %1 is below 4, and the last day, %2, is not "
+                           "over.")
+                      .arg(state, Moment::text(m_record.datumVystupu))
+                : Text::tr("Yes: the employment state %1 is below 4, and there is no last day.")
+                      .arg(state));
         return;
     }
     say(isOver(m_record, today)
-            ? QStringLiteral("No: the last day, %1, is over.")
-                  .arg(Phrases::day(m_record.datumVystupu))
-            : QStringLiteral("No: the employment state %1 means that it has ended, as every state "
-                             "from 4 on.")
+            ? Text::tr("No: the last day, %1, is over.").arg(Moment::text(m_record.datumVystupu))
+            : Text::tr("No: the employment state %1 means that it has ended, as every state "
+                       "from 4 on.")
                   .arg(m_record.stavPracovnihoPomeru));
 }
 
-void RecordExplanation::section(const char *id, const char *heading)
+void RecordExplanation::section(const char *id, const QString &heading)
 {
     QString name = QString::fromLatin1(id);
-    QString text = QString::fromLatin1(heading);
+    QString text = heading;
     if (m_numbered) {
         name += QStringLiteral("-line%1").arg(m_line.number);
-        text = QStringLiteral("Line %1: %2").arg(QString::number(m_line.number), text);
+        text = Text::tr("Line %1: %2").arg(QString::number(m_line.number), heading);
     }
     m_context.report.section(name, text);
 }

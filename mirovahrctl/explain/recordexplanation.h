@@ -72,7 +72,7 @@ private:
     /// Takes back what does not hold for somebody who takes over rows of a deleted person.
     void doubtOutcome();
 
-    void section(const char *id, const char *heading);
+    void section(const char *id, const QString &heading);
     void say(const QString &sentence);
     /// Whether the plugin handles the record at all.
     bool isHandled() const { return m_differences.changed || m_person.isForced(); }

@@ -1,10 +1,12 @@
 // The row of `people`: created, updated, or left alone.
 
+#include "cli/text.h"
 #include "mirovahrctl/comparison/rowfields.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
 #include "mirovahrctl/export/sqlhazards.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/report/rules/explainrules.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/site/payrollexports.h"
@@ -24,10 +26,10 @@ constexpr char kSelectTerminals[] = "SELECT tid FROM people_term JOIN term USING
 Table fieldTable(const QVector<RowField> &fields)
 {
     Table table{QStringLiteral("fields"),
-                {{QStringLiteral("field"), QStringLiteral("Field")},
-                 {QStringLiteral("export"), QStringLiteral("In the export")},
-                 {QStringLiteral("database"), QStringLiteral("In the database")},
-                 {QStringLiteral("differs"), QStringLiteral("Differs")}},
+                {{QStringLiteral("field"), Text::tr("Field")},
+                 {QStringLiteral("export"), Text::tr("In the export")},
+                 {QStringLiteral("database"), Text::tr("In the database")},
+                 {QStringLiteral("differs"), Text::tr("Differs")}},
                 {}};
     for (const RowField &field : fields) {
         table.rows.append({field.name, field.exported, field.held, field.differs});
@@ -70,9 +72,9 @@ QString differenceText(const RowField &field)
 {
     const auto shown = [](const QVariant &value) {
         const QString text = Wording::plain(value);
-        return text.isEmpty() ? QStringLiteral("none") : text;
+        return text.isEmpty() ? Text::tr("none", "value of a field") : text;
     };
-    return QStringLiteral("%1 (HR: %2, here: %3)")
+    return Text::tr("%1 (HR: %2, here: %3)")
         .arg(field.name, shown(field.exported), shown(field.held));
 }
 
@@ -80,7 +82,7 @@ QString differenceText(const RowField &field)
 
 void RecordExplanation::explainRow()
 {
-    section("row", "Is the person created or updated?");
+    section("row", Text::tr("Is the person created or updated?"));
     switch (RecordDecisions::personStep(m_person.known().has_value(), m_active)) {
     case RecordDecisions::PersonStep::Update:
         explainUpdate();
@@ -101,19 +103,17 @@ void RecordExplanation::explainLeaver()
     if (m_person.isAdded()) {
         m_context.report.add(
             ExplainRules::kLeftAlready,
-            QStringLiteral("An earlier line has created the person or made the row active. The "
-                           "plugin looks people up once in a synchronisation, so it does not "
-                           "write that the person has left."));
+            Text::tr("An earlier line has created the person or made the row active. The "
+                     "plugin looks people up once in a synchronisation, so it does not "
+                     "write that the person has left."));
     } else if (m_person.exists()) {
-        say(QStringLiteral(
-            "The person has left. The plugin does not see the row and leaves it alone."));
+        say(Text::tr("The person has left. The plugin does not see the row and leaves it alone."));
     } else {
         Finding finding = makeFinding(
             ExplainRules::kLeftAlready,
-            QStringLiteral(
+            Text::tr(
                 "The person has left and has no row. The plugin never creates rows for leavers."),
-            QStringLiteral(
-                "This is fine unless the person still works: then HR's export is wrong."));
+            Text::tr("This is fine unless the person still works: then HR's export is wrong."));
         finding.severity = ExplainRules::kLeftAlready.otherSeverity;
         m_context.report.finding(finding);
     }
@@ -122,13 +122,13 @@ void RecordExplanation::explainLeaver()
 void RecordExplanation::explainHarmfulText(const QString &stateText)
 {
     if (hasHarmfulText(m_line)) {
-        say(QStringLiteral("But a text of the line, reported above, breaks the statement: it fails "
-                           "or writes something else."));
+        say(Text::tr("But a text of the line, reported above, breaks the statement: it fails "
+                     "or writes something else."));
     } else if (m_isHarmful) {
         m_context.report.add(
             ExplainRules::kStateBreaksStatement,
-            QStringLiteral("The text of the relationship state, %1, breaks the statement: it "
-                           "fails or writes something else.")
+            Text::tr("The text of the relationship state, %1, breaks the statement: it "
+                     "fails or writes something else.")
                 .arg(Wording::quoted(stateText)));
     }
 }
@@ -146,13 +146,12 @@ void RecordExplanation::explainRelationshipState()
 {
     const ushort code = m_record.evidencniStav;
     if (!m_context.view.worker().isRS(code)) {
-        say(QStringLiteral("The register state %1 is not among the relationship states of the "
-                           "configuration: a current one ends.")
+        say(Text::tr("The register state %1 is not among the relationship states of the "
+                     "configuration: a current one ends.")
                 .arg(code));
         return;
     }
-    say(QStringLiteral(
-            "The register state %1 is a relationship state of the configuration: \"%2\".")
+    say(Text::tr("The register state %1 is a relationship state of the configuration: \"%2\".")
             .arg(QString::number(code), m_context.view.worker().es2rsText(code)));
 }
 
@@ -164,16 +163,16 @@ void RecordExplanation::explainComparison(const MirovaRonRecord &updated)
     const QStringList rewritten =
         namesOf(fields, [](const RowField &f) { return f.differsInWriting(); });
     if (m_person.last()) {
-        say(QStringLiteral("The plugin compares with the row as it was before the earlier lines "
-                           "changed it."));
+        say(Text::tr("The plugin compares with the row as it was before the earlier lines "
+                     "changed it."));
     }
-    say(differing.isEmpty() ? QStringLiteral("No field differs from the row.")
-                            : QStringLiteral("These fields differ from the row: %1.")
+    say(differing.isEmpty() ? Text::tr("No field differs from the row.")
+                            : Text::tr("These fields differ from the row: %1.")
                                   .arg(differing.join(QStringLiteral(", "))));
     if (!rewritten.isEmpty()) {
-        say(QStringLiteral("The plugin compares a text in the form that the statement needs, with "
-                           "apostrophes and backslashes doubled. Only that makes the difference "
-                           "here, and the same text is written again: %1.")
+        say(Text::tr("The plugin compares a text in the form that the statement needs, with "
+                     "apostrophes and backslashes doubled. Only that makes the difference "
+                     "here, and the same text is written again: %1.")
                 .arg(rewritten.join(QStringLiteral(", "))));
     }
     m_context.report.table(fieldTable(fields));
@@ -188,13 +187,13 @@ void RecordExplanation::explainWriting(const MirovaRonRecord &updated)
     const auto step = RecordDecisions::rowStep(updated, *m_person.known(), m_differences);
     if (step == RecordDecisions::RowStep::Keep) {
         m_outcome.person = QStringLiteral("unchanged");
-        say(QStringLiteral("The row is not written."));
+        say(Text::tr("The row is not written."));
     } else if (m_context.configuration.testMode) {
         explainTestMode("dbUpdatePerson", "update");
     } else if (!m_person.row()) {
         m_outcome.person = QStringLiteral("missed");
-        say(QStringLiteral("The plugin updates the row with the pid %1, but there is none: nothing "
-                           "is written.")
+        say(Text::tr("The plugin updates the row with the pid %1, but there is none: nothing "
+                     "is written.")
                 .arg(m_person.pid()));
     } else {
         explainWrittenRow(updated, step);
@@ -208,18 +207,17 @@ void RecordExplanation::explainWrittenRow(const MirovaRonRecord &updated,
 {
     m_outcome.person = m_isHarmful ? QStringLiteral("uncertain") : QStringLiteral("updated");
     if (step == RecordDecisions::RowStep::WriteFields) {
-        say(QStringLiteral("The row is updated."));
+        say(Text::tr("The row is updated."));
     } else if (m_person.last()) {
-        say(QStringLiteral("The row is written all the same: the employment type or the register "
-                           "state differs from the previous line."));
+        say(Text::tr("The row is written all the same: the employment type or the register "
+                     "state differs from the previous line."));
     } else {
-        say(QStringLiteral(
-            "The row is written all the same: the plugin does not know yet which codes of "
-            "employment type and register state it was last written with."));
+        say(Text::tr("The row is written all the same: the plugin does not know yet which codes of "
+                     "employment type and register state it was last written with."));
     }
     if (!m_active) {
-        say(QStringLiteral("It stays active: the plugin never deactivates people, it only writes "
-                           "their last day."));
+        say(Text::tr("It stays active: the plugin never deactivates people, it only writes "
+                     "their last day."));
     }
     if (m_differences.registerState && updated.rsFrom.isValid())
         explainStateBegin(updated.rsFrom);
@@ -232,15 +230,15 @@ void RecordExplanation::explainStateBegin(const QDate &day)
     const qint64 before = m_person.lastCalculation();
     m_person.setLastCalculation(day);
     if (before <= m_person.lastCalculation()) {
-        say(QStringLiteral("The last calculation is set to the day before %1, where the "
-                           "relationship state begins.")
-                .arg(Phrases::day(day)));
+        say(Text::tr("The last calculation is set to the day before %1, where the "
+                     "relationship state begins.")
+                .arg(Moment::text(day)));
         return;
     }
     m_outcome.recalculation.add(day, QStringLiteral("state"));
-    say(QStringLiteral("Attendance is calculated again from %1 on, where the relationship state "
-                       "begins.")
-            .arg(Phrases::day(day)));
+    say(Text::tr("Attendance is calculated again from %1 on, where the relationship state "
+                 "begins.")
+            .arg(Moment::text(day)));
 }
 
 void RecordExplanation::explainTerminalsOfPerson()
@@ -248,11 +246,10 @@ void RecordExplanation::explainTerminalsOfPerson()
     const QStringList tids = firstColumn(
         m_context.view.sql().rows(QString(QLatin1String(kSelectTerminals)).arg(m_person.uid())));
     say(Phrases::list(
-            QStringLiteral("The change is queued for terminal"),
-            QStringLiteral("The change is queued for the terminals"), tids,
-            QStringLiteral(
-                "No active terminal that handles people holds this person, so nothing is queued"))
-        + QLatin1Char('.'));
+        tids,
+        Text::tr("No active terminal that handles people holds this person, so nothing is queued."),
+        Text::tr("The change is queued for terminal %1."),
+        Text::tr("The change is queued for the terminals %1.")));
 }
 
 void RecordExplanation::explainCreation()
@@ -262,7 +259,7 @@ void RecordExplanation::explainCreation()
     else
         explainAddition();
     if (!m_person.exists())
-        say(QStringLiteral("The following steps find no row to write to, and warn."));
+        say(Text::tr("The following steps find no row to write to, and warn."));
 }
 
 void RecordExplanation::explainAddition()
@@ -274,24 +271,23 @@ void RecordExplanation::explainAddition()
         : m_person.exists()        ? QStringLiteral("merged")
                                    : QStringLiteral("created");
     if (m_person.isAdded()) {
-        say(QStringLiteral("The line is merged into the row that an earlier line has written. The "
-                           "department becomes 1."));
+        say(Text::tr("The line is merged into the row that an earlier line has written. The "
+                     "department becomes 1."));
     } else if (m_person.row()) {
-        say(QStringLiteral("The line is merged into the row with the uid %1, which becomes active. "
-                           "Relationship state, calendar and branch of the row stay unchanged, the "
-                           "department becomes 1.")
+        say(Text::tr("The line is merged into the row with the uid %1, which becomes active. "
+                     "Relationship state, calendar and branch of the row stay unchanged, the "
+                     "department becomes 1.")
                 .arg(m_person.uid()));
     } else {
-        say(QStringLiteral("The person is created."));
+        say(Text::tr("The person is created."));
     }
-    say(QStringLiteral("If this fails, the log says why behind \"MHRWorker::dbAddPerson(%1) - SQL "
-                       "ERROR:\", and the plugin does not try again until the line changes or a "
-                       "synchronisation is forced.")
+    say(Text::tr("If this fails, the log says why behind \"MHRWorker::dbAddPerson(%1) - SQL "
+                 "ERROR:\", and the plugin does not try again until the line changes or a "
+                 "synchronisation is forced.")
             .arg(m_record.getPamId()));
     explainPayroll();
     explainPayrollSettings();
-    say(QStringLiteral(
-        "The vacation balance of a new person is corrected by a later synchronisation."));
+    say(Text::tr("The vacation balance of a new person is corrected by a later synchronisation."));
     explainHarmfulText(stateText);
     if (m_isHarmful)
         return;
@@ -307,9 +303,9 @@ void RecordExplanation::explainRowsLeftBehind()
         return;
     m_context.report.add(
         ExplainRules::kRowsLeftBehind,
-        QStringLiteral("The person gets the uid %1 or a later one. Under those uids there are rows "
-                       "of %2, which somebody who was deleted has left behind. The person takes "
-                       "over those of the own uid, and what follows may turn out differently.")
+        Text::tr("The person gets the uid %1 or a later one. Under those uids there are rows "
+                 "of %2, which somebody who was deleted has left behind. The person takes "
+                 "over those of the own uid, and what follows may turn out differently.")
             .arg(QString::number(rows.nextUid()), rows.tables().join(QStringLiteral(", "))));
 }
 
@@ -319,11 +315,13 @@ void RecordExplanation::explainPayroll()
     if (exports.size() != 1 || m_record.getPid() == 0) {
         m_context.report.add(
             ExplainRules::kNoPayrollExport,
-            QStringLiteral("The person joins no payroll export, because %1. The log says: %2")
-                .arg(exports.size() == 1
-                         ? QStringLiteral("the pid is 0")
-                         : QStringLiteral("there are %1 instead of one").arg(exports.size()),
-                     QString::asprintf(RecordLog::kPayrollExportFailed,
+            (exports.size() == 1
+                 ? Text::tr("The person joins no payroll export, because the pid is 0. The log "
+                            "says: %1")
+                 : Text::tr("The person joins no payroll export, because there are %Ln instead of "
+                            "one. The log says: %1",
+                            nullptr, exports.size()))
+                .arg(QString::asprintf(RecordLog::kPayrollExportFailed,
                                        qUtf8Printable(m_record.getPamId()))));
         return;
     }
@@ -335,9 +333,8 @@ void RecordExplanation::explainPayroll()
     if (!m_isHarmful)
         m_person.select();
     say(isMember
-            ? QStringLiteral("The person is in the selection of the payroll export %1 already.")
-                  .arg(id)
-            : QStringLiteral("The person joins the selection of the payroll export %1.").arg(id));
+            ? Text::tr("The person is in the selection of the payroll export %1 already.").arg(id)
+            : Text::tr("The person joins the selection of the payroll export %1.").arg(id));
 }
 
 void RecordExplanation::explainPayrollSettings()
@@ -345,11 +342,10 @@ void RecordExplanation::explainPayrollSettings()
     const ushort type = m_record.typPracovnihoPomeru;
     const ushort settings = RecordCodes::pamSettingsIdFromTPP(type);
     if (settings == 0) {
-        say(QStringLiteral("The employment type %1 has no settings of the payroll export.")
-                .arg(type));
+        say(Text::tr("The employment type %1 has no settings of the payroll export.").arg(type));
         return;
     }
-    say(QStringLiteral("The employment type %1 means the settings %2 of the payroll export.")
+    say(Text::tr("The employment type %1 means the settings %2 of the payroll export.")
             .arg(type)
             .arg(settings));
     const bool isKept = m_person.payrollSettings() == settings;
@@ -357,9 +353,9 @@ void RecordExplanation::explainPayrollSettings()
         : m_mayNotAdd || m_isHarmful   ? QStringLiteral("uncertain")
                                        : QStringLiteral("set");
     if (m_mayNotAdd) {
-        say(QStringLiteral("An earlier line has written the same row. Within the same second the "
-                           "statement changes nothing, which the plugin treats as a failure: it "
-                           "then leaves the settings and the supervisor unchanged."));
+        say(Text::tr("An earlier line has written the same row. Within the same second the "
+                     "statement changes nothing, which the plugin treats as a failure: it "
+                     "then leaves the settings and the supervisor unchanged."));
         return;
     }
     if (!m_isHarmful)
@@ -372,7 +368,7 @@ void RecordExplanation::explainKeptSettings(ushort settings)
 {
     m_context.report.add(
         ExplainRules::kPayrollSettingsKept,
-        QStringLiteral(
+        Text::tr(
             "The person has these settings already, which the plugin treats as a failure. The log "
             "says: %1")
             .arg(QString::asprintf(RecordLog::kPayrollSettingsFailed,
@@ -383,7 +379,10 @@ void RecordExplanation::explainKeptSettings(ushort settings)
 void RecordExplanation::explainTestMode(const char *operation, const char *what)
 {
     m_outcome.person = QStringLiteral("test-mode");
-    say(QStringLiteral("In test mode nothing is written here. At debug level 1 and above the log "
-                       "says: MHRWorker::%1(%2) - Testing mode is active, person not really %3!")
-            .arg(QLatin1String(operation), m_record.getPamId(), QLatin1String(what)));
+    const QString logged =
+        QStringLiteral("MHRWorker::%1(%2) - Testing mode is active, person not really %3!")
+            .arg(QLatin1String(operation), m_record.getPamId(), QLatin1String(what));
+    say(Text::tr("In test mode nothing is written here. At debug level 1 and above the log says: "
+                 "%1")
+            .arg(logged));
 }

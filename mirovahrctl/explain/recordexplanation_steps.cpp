@@ -1,38 +1,40 @@
 // The vacation balance and the supervisor.
 
+#include "cli/text.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/explain/recordexplanation.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/explainrules.h"
 #include "worker/recordlog.h"
 #include "worker/vacationbalance.h"
 
 void RecordExplanation::explainBalance()
 {
-    section("balance", "Is the vacation balance corrected?");
+    section("balance", Text::tr("Is the vacation balance corrected?"));
     using RecordDecisions::BalanceStep;
     switch (m_differences.balance) {
     case BalanceStep::NoFund:
         m_outcome.balance = QStringLiteral("no-fund");
-        say(QStringLiteral("No: there is no vacation fund."));
+        say(Text::tr("No: there is no vacation fund."));
         break;
     case BalanceStep::CorrectedToday:
         m_outcome.balance = QStringLiteral("later");
         say(m_person.correctingLine() == 0
-                ? QStringLiteral("Not today: today's correction exists already. The plugin tries "
-                                 "again tomorrow.")
-                : QStringLiteral("Not today: line %1 has corrected it, and the plugin corrects a "
-                                 "balance once a day.")
+                ? Text::tr("Not today: today's correction exists already. The plugin tries "
+                           "again tomorrow.")
+                : Text::tr("Not today: line %1 has corrected it, and the plugin corrects a "
+                           "balance once a day.")
                       .arg(m_person.correctingLine()));
         break;
     case BalanceStep::AttendanceOpen:
         m_outcome.balance = QStringLiteral("later");
-        say(QStringLiteral("Not now: the person's attendance is being calculated, or has days that "
-                           "are not calculated yet. The plugin tries again at the next "
-                           "synchronisation that contains the person."));
+        say(Text::tr("Not now: the person's attendance is being calculated, or has days that "
+                     "are not calculated yet. The plugin tries again at the next "
+                     "synchronisation that contains the person."));
         break;
     case BalanceStep::SameAsLast:
         m_outcome.balance = QStringLiteral("kept");
-        say(QStringLiteral("No: the balance is that of the previous line."));
+        say(Text::tr("No: the balance is that of the previous line."));
         break;
     case BalanceStep::Compare:
         explainCorrection();
@@ -50,37 +52,37 @@ void RecordExplanation::explainCorrection()
         m_outcome.balance = QStringLiteral("impossible");
         m_context.report.add(
             ExplainRules::kBalanceNotWritten,
-            QStringLiteral("The fund holds %1, and no valid correction leads from there to %2 "
-                           "days. The balance stays, and the log says: %3")
-                .arg(Phrases::days(held), QString::number(m_record.dovolenaZustatek, 'f', 2),
+            Text::tr("The fund holds %1, and no valid correction leads from there to %2 "
+                     "days. The balance stays, and the log says: %3")
+                .arg(Phrases::days(held), Language::number(m_record.dovolenaZustatek, 2),
                      QString::asprintf(RecordLog::kMoveNotWritten, move, m_person.uid(),
                                        m_person.pid())));
     } else if (move == 0) {
         m_outcome.balance = QStringLiteral("equal");
-        say(QStringLiteral("No: the fund holds %1, as the export says.").arg(Phrases::days(held)));
+        say(Text::tr("No: the fund holds %1, as the export says.").arg(Phrases::days(held)));
     } else {
         m_outcome.balance = QStringLiteral("corrected");
         m_person.correctBalance(m_line.number);
-        say(QStringLiteral("Yes: the fund holds %1, and the correction of today is %2.")
+        say(Text::tr("Yes: the fund holds %1, and the correction of today is %2.")
                 .arg(Phrases::days(held), Phrases::days(move)));
     }
 }
 
 void RecordExplanation::explainSupervisor()
 {
-    section("supervisor", "Who receives the person's requests?");
+    section("supervisor", Text::tr("Who receives the person's requests?"));
     using RecordDecisions::SupervisorStep;
     switch (RecordDecisions::supervisorStep(m_record, !m_person.known(), m_differences)) {
     case SupervisorStep::NotNamed:
-        say(QStringLiteral("The line names no supervisor: nothing changes."));
+        say(Text::tr("The line names no supervisor: nothing changes."));
         break;
     case SupervisorStep::OtherEmploymentType:
-        say(QStringLiteral("The employment type %1 is not one for which the plugin sets a "
-                           "supervisor: nothing changes.")
+        say(Text::tr("The employment type %1 is not one for which the plugin sets a "
+                     "supervisor: nothing changes.")
                 .arg(m_record.typPracovnihoPomeru));
         break;
     case SupervisorStep::SameAsLast:
-        say(QStringLiteral("The supervisor is that of the previous line: nothing changes."));
+        say(Text::tr("The supervisor is that of the previous line: nothing changes."));
         break;
     case SupervisorStep::Assign:
         explainAdministrator(
@@ -99,26 +101,26 @@ void RecordExplanation::explainAdministrator(quint32 aid)
     if (!m_person.exists()) {
         m_context.report.add(
             ExplainRules::kPersonMissing,
-            QStringLiteral(
+            Text::tr(
                 "The database has nobody with the pid %1 who could be given a supervisor. The log "
                 "says: %2")
                 .arg(QString::number(m_person.pid()),
                      QString::asprintf(RecordLog::kPersonNotFound, m_person.pid())));
     } else if (m_person.administrators() == QSet<quint32>{aid}) {
         m_outcome.supervisor = QStringLiteral("kept");
-        say(QStringLiteral("Administrator %1, who has the personal number %2, as before.")
+        say(Text::tr("Administrator %1, who has the personal number %2, as before.")
                 .arg(aid)
                 .arg(supervisor));
     } else if (m_mayNotAdd) {
         m_outcome.supervisor = QStringLiteral("uncertain");
-        say(QStringLiteral("Administrator %1, who has the personal number %2, unless the plugin "
-                           "handles the line within the same second as the earlier one.")
+        say(Text::tr("Administrator %1, who has the personal number %2, unless the plugin "
+                     "handles the line within the same second as the earlier one.")
                 .arg(aid)
                 .arg(supervisor));
     } else {
         m_outcome.supervisor = QStringLiteral("set");
         m_person.setAdministrator(aid);
-        say(QStringLiteral("Administrator %1, who has the personal number %2, and nobody else.")
+        say(Text::tr("Administrator %1, who has the personal number %2, and nobody else.")
                 .arg(aid)
                 .arg(supervisor));
     }
@@ -127,12 +129,14 @@ void RecordExplanation::explainAdministrator(quint32 aid)
 void RecordExplanation::explainUnknownAdministrator()
 {
     m_outcome.supervisor = QStringLiteral("unknown");
-    QString message = QStringLiteral("No administrator has the personal number %1 of the "
-                                     "supervisor: nothing changes.")
-                          .arg(m_record.nadrizenyOsobniCislo);
+    const quint32 supervisor = m_record.nadrizenyOsobniCislo;
+    QString message = Text::tr("No administrator has the personal number %1 of the supervisor: "
+                               "nothing changes.")
+                          .arg(supervisor);
     if (!m_mayNotAdd) {
-        message += QStringLiteral(" The log says: ")
-            + QString::asprintf(RecordLog::kAdministratorNotFound, m_record.nadrizenyOsobniCislo);
+        message += QLatin1Char(' ')
+            + Text::tr("The log says: %1")
+                  .arg(QString::asprintf(RecordLog::kAdministratorNotFound, supervisor));
     }
     m_context.report.add(ExplainRules::kSupervisorUnknown, message);
 }

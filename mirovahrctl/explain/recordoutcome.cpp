@@ -1,5 +1,8 @@
 #include "mirovahrctl/explain/recordoutcome.h"
 
+#include "mirovahrctl/explain/phrases.h"
+#include "mirovahrctl/report/moment.h"
+
 #include <algorithm>
 
 namespace {
@@ -79,11 +82,12 @@ void Recalculation::add(const QDate &day, const QString &cause)
 
 QString Recalculation::text() const
 {
+    constexpr char kMeaning[] = "recalculation";
     if (!from)
-        return QStringLiteral("none");
+        return Phrases::word(QStringLiteral("none"), kMeaning);
     if (isUncertain)
-        return QStringLiteral("uncertain");
-    return from->isValid() ? from->toString(Qt::ISODate) : QStringLiteral("all");
+        return Phrases::word(QStringLiteral("uncertain"), kMeaning);
+    return from->isValid() ? Moment::text(*from) : Phrases::word(QStringLiteral("all"), kMeaning);
 }
 
 RecordOutcome RecordOutcome::none()

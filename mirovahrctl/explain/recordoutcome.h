@@ -15,7 +15,7 @@ struct Recalculation {
 
     /// Adds a cause; the earliest day counts.
     void add(const QDate &day, const QString &cause);
-    /// "2026-03-01", "all", "none" or "uncertain".
+    /// For people: "2026-03-01", "all", "none" or "uncertain".
     QString text() const;
 };
 
