@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>No value that was read before is misread now.</source>
-        <translation>Žádná hodnota, která se předtím přečetla správně, se nyní nečte nesprávně.</translation>
+        <translation>Co se předtím četlo správně, čte se správně i nyní.</translation>
     </message>
     <message>
         <source>People</source>

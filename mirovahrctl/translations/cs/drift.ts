@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The plugin selects only people whom it creates. Use --sql for those whom it should have selected; others were there before it, or somebody removed them.</source>
-        <translation>Zásuvný modul přidává do výběru jen osoby, které sám vytvoří. Použijte --sql pro ty, které měl přidat; ostatní už byly v databázi předtím nebo je někdo z výběru odebral.</translation>
+        <translation>Zásuvný modul zařazuje do výběru jen osoby, které sám vytvoří. Použijte --sql pro ty, které měl zařadit; ostatní už byly v databázi předtím nebo je někdo z výběru odebral.</translation>
     </message>
     <message>
         <source>Personal data are not those of the export.</source>
@@ -370,7 +370,7 @@
     </message>
     <message>
         <source>Group %1 of calendar %2 is not planned from %3 on.</source>
-        <translation>Skupina %1 kalendáře %2 není naplánována od %3.</translation>
+        <translation>Skupina %1 kalendáře %2 není naplánována od měsíce %3.</translation>
     </message>
     <message>
         <source>%1 has group %2 instead of %3</source>

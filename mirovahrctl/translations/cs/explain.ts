@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>The new person joins no payroll export.</source>
-        <translation>Nová osoba se nepřidá do žádného exportu pro mzdy.</translation>
+        <translation>Nová osoba se nezařadí do žádného exportu pro mzdy.</translation>
     </message>
     <message>
         <source>Add the person by hand where needed.</source>
@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>See above why the person has no row with this pid.</source>
-        <translation>Proč osoba nemá řádek s tímto pid, je uvedeno výše.</translation>
+        <translation>Podívejte se výše, proč osoba nemá řádek s tímto pid.</translation>
     </message>
     <message>
         <source>Rows of somebody who was deleted lie under a uid that the new person may get.</source>
@@ -272,7 +272,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     </message>
     <message>
         <source>Nobody is known as %1.</source>
-        <translation>Nikdo nebyl nalezen jako %1.</translation>
+        <translation>Nikdo takový nebyl nalezen: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln person(s) match: name one of them.</source>
@@ -348,7 +348,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     </message>
     <message>
         <source>Waits afterwards</source>
-        <translation>Potom čeká</translation>
+        <translation>Záznam potom čeká</translation>
     </message>
     <message>
         <source>What follows uses the file that the gate of syncCommand admitted last.</source>
@@ -488,7 +488,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     </message>
     <message>
         <source>Days of attendance to mark</source>
-        <translation>Dny docházky k označení</translation>
+        <translation>Dny docházky označené k přepočtu</translation>
     </message>
     <message>
         <source>The last calculation moves forward from %1 to %2. Days in between that are not calculated yet stay uncalculated.</source>
@@ -500,7 +500,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     </message>
     <message>
         <source>There are findings.</source>
-        <translation>Existují nálezy.</translation>
+        <translation>Zpráva obsahuje nálezy.</translation>
     </message>
     <message>
         <source>The plugin drops the line of %1, who is in the database.</source>
@@ -572,7 +572,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     </message>
     <message>
         <source>%1 has arrived: the attendance database has the person as %2, active.</source>
-        <translation>Osoba %1 v docházkové databázi je: jako %2, aktivní.</translation>
+        <translation>Osoba %1 je v docházkové databázi jako %2 a je aktivní.</translation>
     </message>
     <message>
         <source>%1 is in the attendance database as %2, but not active.</source>
@@ -730,7 +730,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     <message>
         <source>missed</source>
         <comment>outcome</comment>
-        <translation>nenajde se</translation>
+        <translation>řádek se nenajde</translation>
     </message>
     <message>
         <source>test-mode</source>
@@ -745,12 +745,12 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     <message>
         <source>joins</source>
         <comment>outcome</comment>
-        <translation>přidá se</translation>
+        <translation>zařadí se</translation>
     </message>
     <message>
         <source>member</source>
         <comment>outcome</comment>
-        <translation>už je přidána</translation>
+        <translation>už zařazena</translation>
     </message>
     <message>
         <source>set</source>
@@ -790,7 +790,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     <message>
         <source>unknown</source>
         <comment>outcome</comment>
-        <translation>neznámé</translation>
+        <translation>nenajde se</translation>
     </message>
     <message>
         <source>planned</source>
@@ -800,7 +800,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     <message>
         <source>none</source>
         <comment>outcome</comment>
-        <translation>nic</translation>
+        <translation>beze změny</translation>
     </message>
     <message>
         <source>all</source>
@@ -1060,7 +1060,7 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     <message>
         <source>none</source>
         <comment>value of a field</comment>
-        <translation>(prázdné)</translation>
+        <translation>prázdné</translation>
     </message>
     <message>
         <source>%1 (HR: %2, here: %3)</source>
@@ -1192,23 +1192,23 @@ OSOBA je identifikátor pro mzdy, například 1234.1, osobní číslo, pid nebo 
     </message>
     <message>
         <source>The person joins no payroll export, because the pid is 0. The log says: %1</source>
-        <translation>Osoba se nepřidá do žádného exportu pro mzdy, protože pid je 0. V protokolu je: %1</translation>
+        <translation>Osoba se nezařadí do žádného exportu pro mzdy, protože pid je 0. V protokolu je: %1</translation>
     </message>
     <message numerus="yes">
         <source>The person joins no payroll export, because there are %Ln instead of one. The log says: %1</source>
         <translation>
-            <numerusform>Osoba se nepřidá do žádného exportu pro mzdy, protože je jich %Ln místo jednoho. V protokolu je: %1</numerusform>
-            <numerusform>Osoba se nepřidá do žádného exportu pro mzdy, protože jsou %Ln místo jednoho. V protokolu je: %1</numerusform>
-            <numerusform>Osoba se nepřidá do žádného exportu pro mzdy, protože je jich %Ln místo jednoho. V protokolu je: %1</numerusform>
+            <numerusform>Osoba se nezařadí do žádného exportu pro mzdy, protože je jich %Ln místo jednoho. V protokolu je: %1</numerusform>
+            <numerusform>Osoba se nezařadí do žádného exportu pro mzdy, protože jsou %Ln místo jednoho. V protokolu je: %1</numerusform>
+            <numerusform>Osoba se nezařadí do žádného exportu pro mzdy, protože je jich %Ln místo jednoho. V protokolu je: %1</numerusform>
         </translation>
     </message>
     <message>
         <source>The person is in the selection of the payroll export %1 already.</source>
-        <translation>Osoba už je ve výběru exportu pro mzdy %1.</translation>
+        <translation>Osoba už je zařazena do výběru exportu pro mzdy %1.</translation>
     </message>
     <message>
         <source>The person joins the selection of the payroll export %1.</source>
-        <translation>Osoba se přidá do výběru exportu pro mzdy %1.</translation>
+        <translation>Osoba se zařadí do výběru exportu pro mzdy %1.</translation>
     </message>
     <message>
         <source>The employment type %1 has no settings of the payroll export.</source>

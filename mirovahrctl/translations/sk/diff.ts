@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>No value that was read before is misread now.</source>
-        <translation>Žiadna hodnota, ktorá sa predtým prečítala správne, sa teraz nečíta nesprávne.</translation>
+        <translation>Čo sa predtým čítalo správne, číta sa správne aj teraz.</translation>
     </message>
     <message>
         <source>People</source>

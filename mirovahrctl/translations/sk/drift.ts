@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The plugin selects only people whom it creates. Use --sql for those whom it should have selected; others were there before it, or somebody removed them.</source>
-        <translation>Zásuvný modul pridáva do výberu len osoby, ktoré sám vytvorí. Použite --sql pre tie, ktoré mal pridať; ostatné už boli v databáze predtým alebo ich niekto z výberu odobral.</translation>
+        <translation>Zásuvný modul zaraďuje do výberu len osoby, ktoré sám vytvorí. Použite --sql pre tie, ktoré mal zaradiť; ostatné už boli v databáze predtým alebo ich niekto z výberu odobral.</translation>
     </message>
     <message>
         <source>Personal data are not those of the export.</source>
@@ -370,7 +370,7 @@
     </message>
     <message>
         <source>Group %1 of calendar %2 is not planned from %3 on.</source>
-        <translation>Skupina %1 kalendára %2 nie je naplánovaná od %3.</translation>
+        <translation>Skupina %1 kalendára %2 nie je naplánovaná od mesiaca %3.</translation>
     </message>
     <message>
         <source>%1 has group %2 instead of %3</source>

@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>The new person joins no payroll export.</source>
-        <translation>Nová osoba sa nepridá do žiadneho exportu pre mzdy.</translation>
+        <translation>Nová osoba sa nezaradí do žiadneho exportu pre mzdy.</translation>
     </message>
     <message>
         <source>Add the person by hand where needed.</source>
@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>See above why the person has no row with this pid.</source>
-        <translation>Prečo osoba nemá riadok s týmto pid, je uvedené vyššie.</translation>
+        <translation>Pozrite vyššie, prečo osoba nemá riadok s týmto pid.</translation>
     </message>
     <message>
         <source>Rows of somebody who was deleted lie under a uid that the new person may get.</source>
@@ -272,7 +272,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     </message>
     <message>
         <source>Nobody is known as %1.</source>
-        <translation>Nikto sa nenašiel ako %1.</translation>
+        <translation>Nikto taký sa nenašiel: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln person(s) match: name one of them.</source>
@@ -348,7 +348,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     </message>
     <message>
         <source>Waits afterwards</source>
-        <translation>Potom čaká</translation>
+        <translation>Záznam potom čaká</translation>
     </message>
     <message>
         <source>What follows uses the file that the gate of syncCommand admitted last.</source>
@@ -488,7 +488,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     </message>
     <message>
         <source>Days of attendance to mark</source>
-        <translation>Dni dochádzky na označenie</translation>
+        <translation>Dni dochádzky označené na prepočet</translation>
     </message>
     <message>
         <source>The last calculation moves forward from %1 to %2. Days in between that are not calculated yet stay uncalculated.</source>
@@ -500,7 +500,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     </message>
     <message>
         <source>There are findings.</source>
-        <translation>Existujú nálezy.</translation>
+        <translation>Správa obsahuje nálezy.</translation>
     </message>
     <message>
         <source>The plugin drops the line of %1, who is in the database.</source>
@@ -572,7 +572,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     </message>
     <message>
         <source>%1 has arrived: the attendance database has the person as %2, active.</source>
-        <translation>Osoba %1 v dochádzkovej databáze je: ako %2, aktívna.</translation>
+        <translation>Osoba %1 je v dochádzkovej databáze ako %2 a je aktívna.</translation>
     </message>
     <message>
         <source>%1 is in the attendance database as %2, but not active.</source>
@@ -730,7 +730,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     <message>
         <source>missed</source>
         <comment>outcome</comment>
-        <translation>nenájde sa</translation>
+        <translation>riadok sa nenájde</translation>
     </message>
     <message>
         <source>test-mode</source>
@@ -745,12 +745,12 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     <message>
         <source>joins</source>
         <comment>outcome</comment>
-        <translation>pridá sa</translation>
+        <translation>zaradí sa</translation>
     </message>
     <message>
         <source>member</source>
         <comment>outcome</comment>
-        <translation>už je pridaná</translation>
+        <translation>už zaradená</translation>
     </message>
     <message>
         <source>set</source>
@@ -790,7 +790,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     <message>
         <source>unknown</source>
         <comment>outcome</comment>
-        <translation>neznáme</translation>
+        <translation>nenájde sa</translation>
     </message>
     <message>
         <source>planned</source>
@@ -800,7 +800,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     <message>
         <source>none</source>
         <comment>outcome</comment>
-        <translation>nič</translation>
+        <translation>bez zmeny</translation>
     </message>
     <message>
         <source>all</source>
@@ -1060,7 +1060,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     <message>
         <source>none</source>
         <comment>value of a field</comment>
-        <translation>(prázdne)</translation>
+        <translation>prázdne</translation>
     </message>
     <message>
         <source>%1 (HR: %2, here: %3)</source>
@@ -1192,23 +1192,23 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     </message>
     <message>
         <source>The person joins no payroll export, because the pid is 0. The log says: %1</source>
-        <translation>Osoba sa nepridá do žiadneho exportu pre mzdy, lebo pid je 0. V protokole je: %1</translation>
+        <translation>Osoba sa nezaradí do žiadneho exportu pre mzdy, lebo pid je 0. V protokole je: %1</translation>
     </message>
     <message numerus="yes">
         <source>The person joins no payroll export, because there are %Ln instead of one. The log says: %1</source>
         <translation>
-            <numerusform>Osoba sa nepridá do žiadneho exportu pre mzdy, lebo ich je %Ln namiesto jedného. V protokole je: %1</numerusform>
-            <numerusform>Osoba sa nepridá do žiadneho exportu pre mzdy, lebo sú %Ln namiesto jedného. V protokole je: %1</numerusform>
-            <numerusform>Osoba sa nepridá do žiadneho exportu pre mzdy, lebo ich je %Ln namiesto jedného. V protokole je: %1</numerusform>
+            <numerusform>Osoba sa nezaradí do žiadneho exportu pre mzdy, lebo ich je %Ln namiesto jedného. V protokole je: %1</numerusform>
+            <numerusform>Osoba sa nezaradí do žiadneho exportu pre mzdy, lebo sú %Ln namiesto jedného. V protokole je: %1</numerusform>
+            <numerusform>Osoba sa nezaradí do žiadneho exportu pre mzdy, lebo ich je %Ln namiesto jedného. V protokole je: %1</numerusform>
         </translation>
     </message>
     <message>
         <source>The person is in the selection of the payroll export %1 already.</source>
-        <translation>Osoba už je vo výbere exportu pre mzdy %1.</translation>
+        <translation>Osoba už je zaradená do výberu exportu pre mzdy %1.</translation>
     </message>
     <message>
         <source>The person joins the selection of the payroll export %1.</source>
-        <translation>Osoba sa pridá do výberu exportu pre mzdy %1.</translation>
+        <translation>Osoba sa zaradí do výberu exportu pre mzdy %1.</translation>
     </message>
     <message>
         <source>The employment type %1 has no settings of the payroll export.</source>
