@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>New</source>
-        <translation>Noví</translation>
+        <translation>Nové</translation>
     </message>
     <message>
         <source>Missing from the newer export</source>
