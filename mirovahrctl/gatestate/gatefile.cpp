@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/gatefile.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
 
 #include <QRandomGenerator>
@@ -113,6 +114,6 @@ bool GateFile::isTemporaryName(const QString &entry, const QString &name)
 
 bool GateFile::fail(const QString &reason)
 {
-    m_error = QStringLiteral("'%1' cannot be written: %2").arg(m_folder.pathOf(m_name), reason);
+    m_error = Text::tr("'%1' cannot be written: %2").arg(m_folder.pathOf(m_name), reason);
     return false;
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/gatefolder.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gatefile.h"
 
 #include <QDir>
@@ -59,7 +60,8 @@ bool GateFolder::openAgain(const GateFolder &folder)
     m_owner = folder.m_owner;
     m_group = folder.m_group;
     m_fd = ::fcntl(folder.m_fd, F_DUPFD_CLOEXEC, 0);
-    return m_fd >= 0 || fail(m_path, "cannot be opened as a folder");
+    return m_fd >= 0
+        || fail(m_path, QT_TRANSLATE_NOOP("Text", "'%1' cannot be opened as a folder: %2"));
 }
 
 bool GateFolder::openPrivate(const QString &path)
@@ -67,14 +69,14 @@ bool GateFolder::openPrivate(const QString &path)
     m_path = QDir::cleanPath(path);
     const bool made = ::mkdir(QFile::encodeName(m_path).constData(), kPrivateFolder) == 0;
     if (!made && errno != EEXIST)
-        return fail(m_path, "cannot be created");
+        return fail(m_path, QT_TRANSLATE_NOOP("Text", "'%1' cannot be created: %2"));
     struct stat status = {};
     if (!openFolder(O_NOFOLLOW, status) || !isOwnerTrusted())
         return false;
     if (isPrivate(status))
         return !made || takeOwnerOfParent();
-    m_error = QStringLiteral("The folder '%1' belongs to somebody else, or everybody may write to "
-                             "it: the gate could not trust its own files there")
+    m_error = Text::tr("The folder '%1' belongs to somebody else, or everybody may write to "
+                       "it: the gate could not trust its own files there")
                   .arg(m_path);
     return false;
 }
@@ -84,7 +86,7 @@ bool GateFolder::openFolder(int flags, struct stat &status)
     m_fd =
         ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | flags);
     if (m_fd < 0 || ::fstat(m_fd, &status) != 0)
-        return fail(m_path, "cannot be opened as a folder");
+        return fail(m_path, QT_TRANSLATE_NOOP("Text", "'%1' cannot be opened as a folder: %2"));
     m_owner = status.st_uid;
     m_group = status.st_gid;
     return true;
@@ -96,14 +98,15 @@ bool GateFolder::isOwnerTrusted()
         return true;
     struct stat parent = {};
     if (::fstatat(m_fd, "..", &parent, 0) != 0)
-        return fail(m_path, "has no parent folder that can be examined");
+        return fail(
+            m_path,
+            QT_TRANSLATE_NOOP("Text", "'%1' has no parent folder that can be examined: %2"));
     if (m_owner == parent.st_uid)
         return true;
-    m_error =
-        QStringLiteral("The folder '%1' belongs neither to root nor to the owner of its parent "
+    m_error = Text::tr("The folder '%1' belongs neither to root nor to the owner of its parent "
                        "folder, so anybody may have created it. Run the gate as its owner "
                        "if that is right, or give the folder to root")
-            .arg(m_path);
+                  .arg(m_path);
     return false;
 }
 
@@ -113,10 +116,11 @@ bool GateFolder::takeOwnerOfParent()
 {
     struct stat parent = {};
     if (::fstatat(m_fd, "..", &parent, 0) != 0)
-        return fail(m_path, "cannot be created");
+        return fail(m_path, QT_TRANSLATE_NOOP("Text", "'%1' cannot be created: %2"));
     m_owner = parent.st_uid;
     m_group = parent.st_gid;
-    return giveToOwner(m_fd) || fail(m_path, "cannot be given to its owner");
+    return giveToOwner(m_fd)
+        || fail(m_path, QT_TRANSLATE_NOOP("Text", "'%1' cannot be given to its owner: %2"));
 }
 
 GateFolder::Lock GateFolder::lock(const QString &name)
@@ -128,7 +132,7 @@ GateFolder::Lock GateFolder::lock(const QString &name)
         return Lock::Taken;
     if (m_lockFd >= 0 && errno == EWOULDBLOCK)
         return Lock::Busy;
-    fail(pathOf(name), "cannot be locked");
+    fail(pathOf(name), QT_TRANSLATE_NOOP("Text", "'%1' cannot be locked: %2"));
     return Lock::Failed;
 }
 
@@ -139,7 +143,7 @@ bool GateFolder::openForReading(const QString &name, QFile &file, bool &missing)
     missing = fd < 0 && errno == ENOENT;
     if (fd >= 0 && file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return true;
-    return fail(pathOf(name), "cannot be read");
+    return fail(pathOf(name), QT_TRANSLATE_NOOP("Text", "'%1' cannot be read: %2"));
 }
 
 std::optional<QByteArray> GateFolder::contentOf(const QString &name)
@@ -151,7 +155,7 @@ std::optional<QByteArray> GateFolder::contentOf(const QString &name)
     const QByteArray content = file.readAll();
     if (file.error() == QFileDevice::NoError)
         return content;
-    m_error = QStringLiteral("'%1' cannot be read: %2").arg(pathOf(name), file.errorString());
+    m_error = Text::tr("'%1' cannot be read: %2").arg(pathOf(name), file.errorString());
     return std::nullopt;
 }
 
@@ -160,14 +164,15 @@ std::optional<QStringList> GateFolder::names()
     const int fd = ::openat(m_fd, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     DIR *const folder = fd < 0 ? nullptr : ::fdopendir(fd);
     if (folder == nullptr) {
-        fail(m_path, "cannot be listed");
+        fail(m_path, QT_TRANSLATE_NOOP("Text", "'%1' cannot be listed: %2"));
         return std::nullopt;
     }
     QStringList names;
     errno = 0;
     while (const dirent *entry = ::readdir(folder))
         names << QFile::decodeName(entry->d_name);
-    const bool complete = errno == 0 || fail(m_path, "cannot be listed");
+    const bool complete =
+        errno == 0 || fail(m_path, QT_TRANSLATE_NOOP("Text", "'%1' cannot be listed: %2"));
     ::closedir(folder);
     std::sort(names.begin(), names.end());
     return complete ? std::make_optional(names) : std::nullopt;
@@ -178,7 +183,7 @@ bool GateFolder::link(const QString &from, const QString &to, bool &exists)
     const int result = ::linkat(m_fd, QFile::encodeName(from).constData(), m_fd,
                                 QFile::encodeName(to).constData(), 0);
     exists = result != 0 && errno == EEXIST;
-    return result == 0 || fail(pathOf(to), "cannot be created");
+    return result == 0 || fail(pathOf(to), QT_TRANSLATE_NOOP("Text", "'%1' cannot be created: %2"));
 }
 
 bool GateFolder::rename(const QString &from, const QString &to)
@@ -186,13 +191,13 @@ bool GateFolder::rename(const QString &from, const QString &to)
     return ::renameat(m_fd, QFile::encodeName(from).constData(), m_fd,
                       QFile::encodeName(to).constData())
         == 0
-        || fail(pathOf(to), "cannot be replaced");
+        || fail(pathOf(to), QT_TRANSLATE_NOOP("Text", "'%1' cannot be replaced: %2"));
 }
 
 bool GateFolder::remove(const QString &name)
 {
     return ::unlinkat(m_fd, QFile::encodeName(name).constData(), 0) == 0
-        || fail(pathOf(name), "cannot be removed");
+        || fail(pathOf(name), QT_TRANSLATE_NOOP("Text", "'%1' cannot be removed: %2"));
 }
 
 bool GateFolder::removeLeftovers(const QString &name)
@@ -217,7 +222,8 @@ bool GateFolder::isLeftover(const QString &entry, const QString &name) const
 
 bool GateFolder::sync()
 {
-    return ::fsync(m_fd) == 0 || fail(m_path, "cannot be written to the disk");
+    return ::fsync(m_fd) == 0
+        || fail(m_path, QT_TRANSLATE_NOOP("Text", "'%1' cannot be written to the disk: %2"));
 }
 
 bool GateFolder::hasFile(const QString &name) const
@@ -232,10 +238,9 @@ bool GateFolder::giveToOwner(int file) const
     return !isRoot() || ::fchown(file, m_owner, m_group) == 0;
 }
 
-bool GateFolder::fail(const QString &path, const char *whatIsNotPossible)
+bool GateFolder::fail(const QString &path, const char *text)
 {
     const int reason = errno;
-    m_error = QStringLiteral("'%1' %2: %3")
-                  .arg(path, QLatin1String(whatIsNotPossible), qt_error_string(reason));
+    m_error = Text::tr(text).arg(path, qt_error_string(reason));
     return false;
 }

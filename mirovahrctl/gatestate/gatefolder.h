@@ -73,7 +73,8 @@ private:
     bool isLeftover(const QString &entry, const QString &name) const;
     /// Nothing unless this is root.
     bool giveToOwner(int file) const;
-    bool fail(const QString &path, const char *whatIsNotPossible);
+    /// \a text: marked for Text::tr(), with places for the path and for why.
+    bool fail(const QString &path, const char *text);
 
     QString m_path;
     QString m_error;

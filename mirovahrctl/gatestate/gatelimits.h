@@ -45,35 +45,71 @@ struct GateLimits {
 struct GateLimitOption {
     const char *name;
     GateLimit GateLimits::*limit;
-    const char *refuses; ///< what a file does that exceeds the number
-    const char *whole; ///< what the percentage is of
+    const char *refuses; ///< what the number is for, with a place for the default
+    const char *percentage; ///< what the percentage is of, likewise
 };
 
 /// All of them, in the order of the help text.
 inline constexpr std::array kGateLimitOptions{
-    GateLimitOption{"max-lost-lines", &GateLimits::lostLines, "has lost more lines than this",
-                    "lines"},
+    GateLimitOption{
+        "max-lost-lines", &GateLimits::lostLines,
+        QT_TRANSLATE_NOOP("Text", "Refuse a file that has lost more lines than this; default: %1."),
+        QT_TRANSLATE_NOOP("Text", "The same in percent of the lines; default: %1.")},
     GateLimitOption{"max-repeated-lines", &GateLimits::repeatedLines,
-                    "has more lines than this about people of earlier lines", "lines"},
-    GateLimitOption{"max-leaving", &GateLimits::leaving, "lets more people leave than this",
-                    "employed people"},
-    GateLimitOption{"max-moving", &GateLimits::moving,
-                    "gives more people than this another cost centre", "employed people"},
-    GateLimitOption{"max-new", &GateLimits::added, "has more new people than this", "people"},
-    GateLimitOption{"max-returning", &GateLimits::returning,
-                    "lets more people than this return who had left", "employed people"},
-    GateLimitOption{"max-supervisors", &GateLimits::supervisors,
-                    "gives more people than this another supervisor without a visible reason",
-                    "people with a supervisor"},
-    GateLimitOption{"max-balances", &GateLimits::balances,
-                    "sets more vacation balances than this to 0, beyond what is plausible, or to "
-                    "the same multiple",
-                    "people with a balance"},
-    GateLimitOption{"max-changed", &GateLimits::changed,
-                    "changes more values than this of any other field", "people"},
-    GateLimitOption{"max-emptied", &GateLimits::emptied,
-                    "empties more values than this of any field", "people with a value"},
-    GateLimitOption{"max-misread", &GateLimits::misread,
-                    "has more values than this of any field that the plugin misreads",
-                    "people with a value"},
+                    QT_TRANSLATE_NOOP("Text",
+                                      "Refuse a file that has more lines than this about people of "
+                                      "earlier lines; default: %1."),
+                    QT_TRANSLATE_NOOP("Text", "The same in percent of the lines; default: %1.")},
+    GateLimitOption{
+        "max-leaving", &GateLimits::leaving,
+        QT_TRANSLATE_NOOP("Text",
+                          "Refuse a file that lets more people leave than this; default: %1."),
+        QT_TRANSLATE_NOOP("Text", "The same in percent of the employed people; default: %1.")},
+    GateLimitOption{
+        "max-moving", &GateLimits::moving,
+        QT_TRANSLATE_NOOP(
+            "Text",
+            "Refuse a file that gives more people than this another cost centre; default: %1."),
+        QT_TRANSLATE_NOOP("Text", "The same in percent of the employed people; default: %1.")},
+    GateLimitOption{
+        "max-new", &GateLimits::added,
+        QT_TRANSLATE_NOOP("Text", "Refuse a file that has more new people than this; default: %1."),
+        QT_TRANSLATE_NOOP("Text", "The same in percent of the people; default: %1.")},
+    GateLimitOption{
+        "max-returning", &GateLimits::returning,
+        QT_TRANSLATE_NOOP(
+            "Text",
+            "Refuse a file that lets more people than this return who had left; default: %1."),
+        QT_TRANSLATE_NOOP("Text", "The same in percent of the employed people; default: %1.")},
+    GateLimitOption{
+        "max-supervisors", &GateLimits::supervisors,
+        QT_TRANSLATE_NOOP("Text",
+                          "Refuse a file that gives more people than this another supervisor "
+                          "without a visible reason; default: %1."),
+        QT_TRANSLATE_NOOP("Text",
+                          "The same in percent of the people with a supervisor; default: %1.")},
+    GateLimitOption{
+        "max-balances", &GateLimits::balances,
+        QT_TRANSLATE_NOOP("Text",
+                          "Refuse a file that sets more vacation balances than this to 0, beyond "
+                          "what is plausible, or to the same multiple; default: %1."),
+        QT_TRANSLATE_NOOP("Text",
+                          "The same in percent of the people with a balance; default: %1.")},
+    GateLimitOption{
+        "max-changed", &GateLimits::changed,
+        QT_TRANSLATE_NOOP(
+            "Text",
+            "Refuse a file that changes more values than this of any other field; default: %1."),
+        QT_TRANSLATE_NOOP("Text", "The same in percent of the people; default: %1.")},
+    GateLimitOption{
+        "max-emptied", &GateLimits::emptied,
+        QT_TRANSLATE_NOOP(
+            "Text", "Refuse a file that empties more values than this of any field; default: %1."),
+        QT_TRANSLATE_NOOP("Text", "The same in percent of the people with a value; default: %1.")},
+    GateLimitOption{
+        "max-misread", &GateLimits::misread,
+        QT_TRANSLATE_NOOP("Text",
+                          "Refuse a file that has more values than this of any field that the "
+                          "plugin misreads; default: %1."),
+        QT_TRANSLATE_NOOP("Text", "The same in percent of the people with a value; default: %1.")},
 };

@@ -1,12 +1,15 @@
 #include "mirovahrctl/gatestate/gateoptions.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gatetexts.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/outputfile.h"
+#include "mirovahrctl/report/language.h"
 
 #include <QBuffer>
 #include <QFileInfo>
+#include <QLocale>
 #include <QProcess>
 
 namespace {
@@ -28,7 +31,7 @@ public:
         bool ok = false;
         value = m_line.value(option).toLongLong(&ok);
         if (!ok || value < 0 || double(value) > kLargestNumber)
-            reject(option, QStringLiteral("a whole number from 0"));
+            reject(Text::tr("--%1 takes a whole number from 0"), option);
     }
 
     void readPercent(const char *option, double &value)
@@ -38,16 +41,16 @@ public:
         bool ok = false;
         value = m_line.value(option).toDouble(&ok);
         if (!ok || !(value >= 0 && value <= 100))
-            reject(option, QStringLiteral("a percentage from 0 to 100"));
+            reject(Text::tr("--%1 takes a percentage from 0 to 100"), option);
     }
 
     QString problem() const { return m_problem; }
 
 private:
-    void reject(const char *option, const QString &what)
+    void reject(const QString &text, const char *option)
     {
         if (m_problem.isEmpty())
-            m_problem = QStringLiteral("--%1 takes %2").arg(QLatin1String(option), what);
+            m_problem = text.arg(QLatin1String(option));
     }
 
     const CommandLine &m_line;
@@ -81,49 +84,44 @@ QString readTexts(const CommandLine &line, GateOptions &options)
     options.texts = GateTexts::ofWord(word);
     if (GateTexts::words().contains(word))
         return {};
-    return QStringLiteral("--texts takes one of: %1")
-        .arg(GateTexts::words().join(QStringLiteral(", ")));
+    return Text::tr("--texts takes one of: %1").arg(GateTexts::words().join(QStringLiteral(", ")));
 }
 
 QString pathProblem(const GateOptions &options)
 {
     if (options.from.isEmpty())
-        return QStringLiteral("Missing option --from; see --help");
+        return Text::tr("Missing option --from; see --help");
     if (options.to.isEmpty())
-        return QStringLiteral("Missing option --to; see --help");
+        return Text::tr("Missing option --to; see --help");
     if (QFileInfo(options.to).fileName().isEmpty())
-        return QStringLiteral("--to names no file");
+        return Text::tr("--to names no file");
     if (isSameFile(options.from, options.to))
-        return QStringLiteral("--from and --to name the same file");
+        return Text::tr("--from and --to name the same file");
     if (isSameFile(options.rejects, options.from) || isSameFile(options.rejects, options.to))
-        return QStringLiteral("--rejects would overwrite the export; name another file");
+        return Text::tr("--rejects would overwrite the export; name another file");
     return {};
 }
 
 /// The default of a limit's number, in a help text.
 QString shownCount(qint64 count)
 {
-    return count == GateLimit::kAny ? QStringLiteral("any number") : QString::number(count);
+    return count == GateLimit::kAny ? Text::tr("any number") : Language::number(count);
 }
 
 void addLimits(CommandLine &line)
 {
-    const auto add = [&line](const QByteArray &name, const char *value, const QString &text) {
-        line.addOption(name.constData(), value, text.toUtf8().constData());
-    };
     const GateLimits defaults;
     for (const GateLimitOption &option : kGateLimitOptions) {
         const GateLimit &limit = defaults.*option.limit;
-        add(option.name, "number",
-            QStringLiteral("Refuse a file that %1; default: %2.")
-                .arg(QLatin1String(option.refuses), shownCount(limit.count)));
-        add(percentOption(option), "percent",
-            QStringLiteral("The same in percent of the %1; default: %2.")
-                .arg(QLatin1String(option.whole), QString::number(limit.percent)));
+        line.addOption(option.name, Text::tr("number"),
+                       Text::tr(option.refuses).arg(shownCount(limit.count)));
+        line.addOption(percentOption(option).constData(), Text::tr("percent"),
+                       Text::tr(option.percentage)
+                           .arg(Language::number(limit.percent, QLocale::FloatingPointShortest)));
     }
-    add("few", "number",
-        QStringLiteral("So many may always change, whatever percentage they are; default: %1.")
-            .arg(defaults.few));
+    line.addOption("few", Text::tr("number"),
+                   Text::tr("So many may always change, whatever percentage they are; default: %1.")
+                       .arg(Language::number(defaults.few)));
 }
 
 /// The arguments of the gate among the words of a command; nothing when it runs no gate.
@@ -141,28 +139,35 @@ std::optional<QStringList> gateArguments(const QStringList &words)
 
 void GateOptions::addTo(CommandLine &line)
 {
-    line.addOption("from", "file", "HR's file. It is only read.");
-    line.addOption("to", "file", "The file that the plugin reads: importFile of its INI file.");
-    line.addOption("state", "folder",
-                   "The folder of the gate's own files, created when it is missing; default: the "
-                   "path of --to with .gate appended.");
-    line.addOption("rejects", "file",
-                   "Where to write the lines with errors or warnings, to send to HR; default: "
-                   "rejects.txt in the gate's folder.");
+    line.addOption("from", Text::tr("file"), Text::tr("HR's file. It is only read."));
+    line.addOption("to", Text::tr("file"),
+                   Text::tr("The file that the plugin reads: importFile of its INI file."));
+    line.addOption(
+        "state", Text::tr("folder"),
+        Text::tr("The folder of the gate's own files, created when it is missing; default: the "
+                 "path of --to with .gate appended."));
+    line.addOption(
+        "rejects", Text::tr("file"),
+        Text::tr("Where to write the lines with errors or warnings, to send to HR; default: "
+                 "rejects.txt in the gate's folder."));
     addLimits(line);
-    line.addOption("keep", "number",
-                   "How many dated copies of admitted files to keep; default: 30.");
-    line.addOption("settle", "seconds",
-                   "Refuse a file that was written less than this many seconds ago; default: 0.");
-    line.addOption("texts", "form",
-                   "How to write apostrophes, backslashes and placeholders in the texts for the "
-                   "plugin's statements: escaped (default), no-backslash-escapes for a server with "
-                   "that SQL mode, or as-is.");
-    line.addFlag("may-end-open",
-                 "Accept a last line without a line feed, which otherwise counts as truncated.");
-    line.addFlag("accept",
-                 "Admit the file this once, whatever is missing or has changed in it. An empty "
-                 "file is refused even so.");
+    line.addOption("keep", Text::tr("number"),
+                   Text::tr("How many dated copies of admitted files to keep; default: 30."));
+    line.addOption(
+        "settle", Text::tr("seconds"),
+        Text::tr("Refuse a file that was written less than this many seconds ago; default: 0."));
+    line.addOption(
+        "texts", Text::tr("form"),
+        Text::tr("How to write apostrophes, backslashes and placeholders in the texts for the "
+                 "plugin's statements: escaped (default), no-backslash-escapes for a server with "
+                 "that SQL mode, or as-is."));
+    line.addFlag(
+        "may-end-open",
+        Text::tr("Accept a last line without a line feed, which otherwise counts as truncated."));
+    line.addFlag(
+        "accept",
+        Text::tr("Admit the file this once, whatever is missing or has changed in it. An empty "
+                 "file is refused even so."));
 }
 
 std::optional<ExitStatus> GateOptions::read(const CommandLine &line, Console &console)

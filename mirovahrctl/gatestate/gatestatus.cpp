@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/gatestatus.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gatefile.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
 #include "mirovahrctl/gatestate/gatetexts.h"
@@ -89,13 +90,13 @@ std::optional<GateStatus> GateStatus::read(const QString &path, QString &error)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        error = QStringLiteral("The gate's status file '%1' cannot be read: %2")
+        error = Text::tr("The gate's status file '%1' cannot be read: %2")
                     .arg(path, file.errorString());
         return std::nullopt;
     }
     const auto status = parse(file.readAll());
     if (!status)
-        error = QStringLiteral("'%1' is not a status file of the gate").arg(path);
+        error = Text::tr("'%1' is not a status file of the gate").arg(path);
     return status;
 }
 

@@ -23,8 +23,9 @@ class GateFolder;
 ///                       "texts": how they were written for the plugin, see GateTexts}}
 ///
 /// Times are texts such as "2026-11-21T05:10:00+01:00", "delivered" has milliseconds. Reasons are
-/// sentences without their full stops. The lines of a file that was not examined are not counted.
-/// Members that are missing or of another kind count as not known; further ones do not matter.
+/// sentences without their full stops, in the language of the run that wrote them. The lines of a
+/// file that was not examined are not counted. Members that are missing or of another kind count as
+/// not known; further ones do not matter.
 class GateStatus {
 public:
     /// The file's name in the gate's folder.

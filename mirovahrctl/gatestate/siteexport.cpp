@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/siteexport.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gatecopies.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
 #include "mirovahrctl/gatestate/gateoptions.h"
@@ -14,10 +15,10 @@ bool SiteExport::open(const QString &named, const QString &gateFolder,
 {
     m_importFile = ImportFile::path(configuration.importFile);
     if (!named.isEmpty() && !gateFolder.isEmpty())
-        return fail(QStringLiteral("Name either FILE or --gate-folder"));
+        return fail(Text::tr("Name either FILE or --gate-folder"));
     if (!named.isEmpty()) {
         return openFile(named, Source::Named)
-            || (m_error.isEmpty() && fail(QStringLiteral("There is no file '%1'").arg(named)));
+            || (m_error.isEmpty() && fail(Text::tr("There is no file '%1'").arg(named)));
     }
     if (preference == Preference::Admitted) {
         return openAdmitted(gateFolder, configuration)
@@ -75,7 +76,7 @@ bool SiteExport::openFile(const QString &path, Source source)
     case ImportFile::Opening::NotFound:
         return false;
     case ImportFile::Opening::Failed:
-        return fail(QStringLiteral("'%1' cannot be opened: %2").arg(path, error));
+        return fail(Text::tr("'%1' cannot be opened: %2").arg(path, error));
     }
     Q_UNREACHABLE();
 }
@@ -89,9 +90,8 @@ bool SiteExport::openGate(const QString &folder)
     m_path = gate.pathOf(GateCopies::lastAdmitted());
     if (!gate.openForReading(GateCopies::lastAdmitted(), m_file, missing)) {
         return fail(
-            missing
-                ? QStringLiteral("The gate has admitted no file yet: there is no '%1'").arg(m_path)
-                : gate.errorString());
+            missing ? Text::tr("The gate has admitted no file yet: there is no '%1'").arg(m_path)
+                    : gate.errorString());
     }
     m_source = Source::Gate;
     QString ignored;
@@ -106,12 +106,12 @@ void SiteExport::openGateOfCommand(const QString &command)
         return;
     m_isGateOfCommand = true;
     if (!gate->publishesTo(m_importFile)) {
-        m_gateError = QStringLiteral(
-                          "The gate of syncCommand publishes to %1, where the plugin does not read")
-                          .arg(gate->to);
+        m_gateError =
+            Text::tr("The gate of syncCommand publishes to %1, where the plugin does not read")
+                .arg(gate->to);
     } else if (QDir::isRelativePath(gate->stateFolder)) {
-        m_gateError = QStringLiteral("The gate of syncCommand has the folder %1, and where that is "
-                                     "depends on the attendance server")
+        m_gateError = Text::tr("The gate of syncCommand has the folder %1, and where that is "
+                               "depends on the attendance server")
                           .arg(gate->stateFolder);
     } else if (!openGate(gate->stateFolder)) {
         m_gateError = std::exchange(m_error, QString());
