@@ -1,5 +1,6 @@
 #include "mirovahrctl/export/exportscan.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
@@ -27,16 +28,16 @@ bool isSameRelationship(const RepeatedPids::First &first, const MirovaRonRecord 
 Finding &addDuplicate(CheckedLine &line, const RepeatedPids::First &first)
 {
     return line.add(CheckFileRules::kDuplicateRelationship,
-                    QStringLiteral("Line %1 has the same employment relationship. The plugin "
-                                   "processes both, and the last line wins.")
+                    Text::tr("Line %1 has the same employment relationship. The plugin "
+                             "processes both, and the last line wins.")
                         .arg(first.line));
 }
 
 Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 pid)
 {
     return line.add(CheckFileRules::kPidClash,
-                    QStringLiteral("The person in line %1, %2.%3, has the same number %4: the "
-                                   "plugin treats both as one person, and the last line wins.")
+                    Text::tr("The person in line %1, %2.%3, has the same number %4: the "
+                             "plugin treats both as one person, and the last line wins.")
                         .arg(first.line)
                         .arg(first.osobniCislo)
                         .arg(first.poradoveCisloPP)
@@ -63,17 +64,16 @@ QVector<Finding> ExportScan::fileFindings() const
     CheckedLine file;
     if (m_counts.records == 0) {
         file.add(CheckFileRules::kNoRecords,
-                 QStringLiteral("The file contains no people: the plugin would do nothing."));
+                 Text::tr("The file contains no people: the plugin would do nothing."));
     }
     if (!m_endsWithLineFeed) {
         file.add(CheckFileRules::kNoFinalLineFeed,
-                 QStringLiteral("The last line does not end with a line feed. The plugin reads it, "
-                                "but the file may be truncated."));
+                 Text::tr("The last line does not end with a line feed. The plugin reads it, "
+                          "but the file may be truncated."));
     }
     if (!m_pids.isComplete()) {
-        file.add(
-            CheckFileRules::kRepetitionsNotAllFound,
-            QStringLiteral("Too many people occur more than once: not all of them were compared."));
+        file.add(CheckFileRules::kRepetitionsNotAllFound,
+                 Text::tr("Too many people occur more than once: not all of them were compared."));
     }
     return file.findings;
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/export/fieldreading.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/export/encodedtwice.h"
 #include "worker/exportline.h"
 #include "worker/vacationbalance.h"
@@ -127,28 +128,28 @@ QString consequence(int field)
 {
     switch (field) {
     case DatumNastupu:
-        return QStringLiteral("employment counts from 1 January 2000.");
+        return Text::tr("employment counts from 1 January 2000.");
     case DatumVystupu:
-        return QStringLiteral("the person counts as not leaving.");
+        return Text::tr("the person counts as not leaving.");
     case Stredisko:
-        return QStringLiteral("the person is assigned to no branch.");
+        return Text::tr("the person is assigned to no branch.");
     case Kalendar:
-        return QStringLiteral("the person is assigned to no calendar group.");
+        return Text::tr("the person is assigned to no calendar group.");
     case KalendarPlatnostOd:
-        return QStringLiteral(
+        return Text::tr(
             "the calendar has no start date, and all attendance of the person is recalculated.");
     case TypPracovnihoPomeru:
-        return QStringLiteral("the person has no employment type and no payroll export.");
+        return Text::tr("the person has no employment type and no payroll export.");
     case StavPracovnihoPomeru:
-        return QStringLiteral("the employment counts as running.");
+        return Text::tr("the employment counts as running.");
     case EvidencniStav:
-        return QStringLiteral("the register state counts as 0.");
+        return Text::tr("the register state counts as 0.");
     case DovolenaZustatek:
-        return QStringLiteral("the vacation balance is set to 0 days.");
+        return Text::tr("the vacation balance is set to 0 days.");
     case NadrizenyOsobniCislo:
-        return QStringLiteral("the person gets no new supervisor.");
+        return Text::tr("the person gets no new supervisor.");
     default:
-        return QStringLiteral("the text arrives with wrong characters.");
+        return Text::tr("the text arrives with wrong characters.");
     }
 }
 

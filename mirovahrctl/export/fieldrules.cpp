@@ -1,8 +1,11 @@
 #include "mirovahrctl/export/fieldrules.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/export/fieldreading.h"
 #include "mirovahrctl/export/sqlhazards.h"
 #include "mirovahrctl/export/sqltexts.h"
+#include "mirovahrctl/report/language.h"
+#include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
 #include "mirovahrctl/report/wording.h"
 #include "worker/exportline.h"
@@ -21,7 +24,7 @@ QString dateAdvice(const QString &text)
 {
     const QDate day = QDate::fromString(text.trimmed().left(10), Qt::ISODate);
     if (day.isValid()) {
-        return QStringLiteral("Write the date with a time, as in %1 00:00:00.000.")
+        return Text::tr("Write the date with a time, as in %1 00:00:00.000.")
             .arg(day.toString(Qt::ISODate));
     }
     return {};
@@ -30,8 +33,13 @@ QString dateAdvice(const QString &text)
 QString balanceAdvice(const QString &text)
 {
     return text.contains(QLatin1Char(','))
-        ? QStringLiteral("Write the balance with a decimal point, as in 12.5.")
-        : QStringLiteral("Write the balance as a number of days, as in 12.5.");
+        ? Text::tr("Write the balance with a decimal point, as in 12.5.")
+        : Text::tr("Write the balance as a number of days, as in 12.5.");
+}
+
+QString twoSentences(const QString &first, const QString &second)
+{
+    return QStringLiteral("%1 %2").arg(first, second);
 }
 
 /// Whether the day survives being stored: the plugin reads Unix times as unsigned 32-bit numbers,
@@ -77,19 +85,18 @@ void FieldRules::checkIdentity()
 {
     if (m_record.osobniCislo == 0) {
         add(OsobniCislo, CheckFileRules::kNoPersonalNumber,
-            notANumber(OsobniCislo)
-                + QStringLiteral(" Without a personal number the plugin drops the line."));
+            twoSentences(notANumber(OsobniCislo),
+                         Text::tr("Without a personal number the plugin drops the line.")));
     }
     if (m_record.poradoveCisloPP == 0) {
         add(PoradoveCisloPP, CheckFileRules::kNoRelationshipNumber,
-            notANumber(PoradoveCisloPP)
-                + QStringLiteral(" Without the number of the employment relationship the plugin "
-                                 "drops the line."));
+            twoSentences(notANumber(PoradoveCisloPP),
+                         Text::tr("Without the number of the employment relationship the plugin "
+                                  "drops the line.")));
     }
     if (m_record.jmeno.isEmpty() && m_record.prijmeni.isEmpty()) {
         add(Prijmeni, CheckFileRules::kNoName,
-            QStringLiteral(
-                "The line has neither a first name nor a surname. The plugin drops it."));
+            Text::tr("The line has neither a first name nor a surname. The plugin drops it."));
     }
 }
 
@@ -98,9 +105,8 @@ void FieldRules::checkPid()
     if (!isUsable(m_record) || m_record.getPid() != 0)
         return;
     add(OsobniCislo, CheckFileRules::kPidZero,
-        QStringLiteral(
-            "Personal number and relationship number form one number, %1%2, which exceeds "
-            "4294967295: the person gets the number 0, like everybody with such a number.")
+        Text::tr("Personal number and relationship number form one number, %1%2, which exceeds "
+                 "4294967295: the person gets the number 0, like everybody with such a number.")
             .arg(QString::number(m_record.osobniCislo), QString::number(m_record.poradoveCisloPP)));
 }
 
@@ -121,9 +127,9 @@ void FieldRules::checkText(int field, const char *column)
         checkHazards(field, text);
     if (SqlHazards::hasWideCharacter(text)) {
         add(field, CheckFileRules::kWideCharacter,
-            QStringLiteral("The text %1 contains a character above U+FFFF, such as an emoji. The "
-                           "connection to the database cannot carry it: the person is not written, "
-                           "or the text is truncated there.")
+            Text::tr("The text %1 contains a character above U+FFFF, such as an emoji. The "
+                     "connection to the database cannot carry it: the person is not written, "
+                     "or the text is truncated there.")
                 .arg(Wording::quoted(meant.value_or(text))));
     }
     checkWidth(field, meant.value_or(text), column);
@@ -134,20 +140,20 @@ void FieldRules::checkHazards(int field, const QString &text)
 {
     if (text.contains(QLatin1Char('\''))) {
         add(field, CheckFileRules::kQuoteInText,
-            QStringLiteral(
+            Text::tr(
                 "The text %1 contains an apostrophe. It enters the SQL statement unescaped, and "
                 "the statement fails or does something else: the person is not written.")
                 .arg(Wording::quoted(text)));
     }
     if (m_backslash == Backslash::Escapes && text.contains(QLatin1Char('\\'))) {
         add(field, CheckFileRules::kBackslashInText,
-            QStringLiteral("The text %1 contains a backslash. It enters the SQL statement "
-                           "unescaped: the text arrives changed, or the statement fails.")
+            Text::tr("The text %1 contains a backslash. It enters the SQL statement "
+                     "unescaped: the text arrives changed, or the statement fails.")
                 .arg(Wording::quoted(text)));
     }
     if (SqlHazards::hasPlaceholder(text)) {
         add(field, CheckFileRules::kPlaceholderInText,
-            QStringLiteral(
+            Text::tr(
                 "The text %1 contains a percent sign followed by a digit. The plugin replaces the "
                 "two with another value: wrong data is written, or the statement fails.")
                 .arg(Wording::quoted(text)));
@@ -163,10 +169,10 @@ void FieldRules::checkWidth(int field, const QString &stored, const char *column
     if (length <= *width)
         return;
     add(field, CheckFileRules::kTextTooLong,
-        QStringLiteral("The text has %1 characters, but the column holds %2. Depending on its SQL "
-                       "mode, the database truncates the text or rejects the person.")
-            .arg(QString::number(length), QString::number(*width)),
-        QStringLiteral("Shorten the text to %1 characters.").arg(*width));
+        Text::tr("The text has %1 characters, but the column holds %2. Depending on its SQL "
+                 "mode, the database truncates the text or rejects the person.")
+            .arg(Language::number(length), Language::number(*width)),
+        Text::tr("Shorten the text to %Ln character(s).", nullptr, *width));
 }
 
 void FieldRules::checkDates()
@@ -179,9 +185,8 @@ void FieldRules::checkDates()
         checkDate(KalendarPlatnostOd, m_record.kalendarPlatnostOd);
     if (m_record.datumVystupu.isValid() && m_record.datumVystupu < m_record.datumNastupu) {
         add(DatumVystupu, CheckFileRules::kLeavesBeforeStart,
-            QStringLiteral("The person leaves on %1, before employment begins on %2.")
-                .arg(m_record.datumVystupu.toString(Qt::ISODate),
-                     m_record.datumNastupu.toString(Qt::ISODate)));
+            Text::tr("The person leaves on %1, before employment begins on %2.")
+                .arg(Moment::text(m_record.datumVystupu), Moment::text(m_record.datumNastupu)));
     }
 }
 
@@ -190,19 +195,19 @@ void FieldRules::checkDate(int field, const QDate &date)
     const QString text = this->text(field);
     if (text.isEmpty()) {
         add(field, CheckFileRules::kEmptyDate,
-            QStringLiteral("The date is missing: ") + consequence(field));
+            Text::tr("The date is missing: %1").arg(consequence(field)));
     } else if (!date.isValid()) {
         add(field, CheckFileRules::kBadDate,
-            QStringLiteral("The plugin cannot read %1 as a date: %2")
+            Text::tr("The plugin cannot read %1 as a date: %2")
                 .arg(Wording::quoted(text), consequence(field)),
             dateAdvice(text));
     } else if (field != KalendarPlatnostOd && !isKept(date)) {
         add(field, CheckFileRules::kDateOutOfRange,
-            QStringLiteral("The plugin can store days from 1970 to 2106; %1 comes back from the "
-                           "database as another day.")
-                .arg(date.toString(Qt::ISODate)),
+            Text::tr("The plugin can store days from 1970 to 2106; %1 comes back from the "
+                     "database as another day.")
+                .arg(Moment::text(date)),
             field == DatumVystupu
-                ? QStringLiteral("Leave the leaving date empty for a person who does not leave.")
+                ? Text::tr("Leave the leaving date empty for a person who does not leave.")
                 : QString());
     }
 }
@@ -215,7 +220,7 @@ void FieldRules::checkNumber(int field)
         return;
     add(field,
         m_parts.at(field).isEmpty() ? CheckFileRules::kEmptyNumber : CheckFileRules::kBadNumber,
-        QStringLiteral("%1 It is read as 0: %2").arg(notANumber(field), consequence(field)));
+        Text::tr("%1 It is read as 0: %2").arg(notANumber(field), consequence(field)));
 }
 
 void FieldRules::checkCode(int field, ushort code)
@@ -224,7 +229,7 @@ void FieldRules::checkCode(int field, ushort code)
     if (toNumber(m_parts.at(field)) == code)
         return;
     add(field, CheckFileRules::kCodeWraps,
-        QStringLiteral("Codes go up to 65535; %1 is read as %2.")
+        Text::tr("Codes go up to 65535; %1 is read as %2.")
             .arg(Wording::quoted(text(field)), QString::number(code)));
 }
 
@@ -237,12 +242,12 @@ void FieldRules::checkBalance()
     if (!isNumber) {
         add(DovolenaZustatek,
             text.isEmpty() ? CheckFileRules::kEmptyNumber : CheckFileRules::kBadNumber,
-            QStringLiteral("%1 It is read as 0: %2")
+            Text::tr("%1 It is read as 0: %2")
                 .arg(notANumber(DovolenaZustatek), consequence(DovolenaZustatek)),
             balanceAdvice(text));
     } else if (!VacationBalance::correction(m_record.dovolenaZustatek, 0, hundredths)) {
         add(DovolenaZustatek, CheckFileRules::kBalanceOutOfRange,
-            QStringLiteral("A balance of %1 days cannot be stored: the balance is not changed.")
+            Text::tr("A balance of %1 days cannot be stored: the balance is not changed.")
                 .arg(Wording::quoted(text)));
     }
 }
@@ -259,10 +264,9 @@ QString FieldRules::notANumber(int field) const
     bool isNumber = false;
     toNumber(text, &isNumber);
     if (text.isEmpty())
-        return QStringLiteral("The field is empty.");
-    return isNumber
-        ? QStringLiteral("The number is 0.")
-        : QStringLiteral("The plugin cannot read %1 as a number.").arg(Wording::quoted(text));
+        return Text::tr("The field is empty.");
+    return isNumber ? Text::tr("The number is 0.")
+                    : Text::tr("The plugin cannot read %1 as a number.").arg(Wording::quoted(text));
 }
 
 void FieldRules::add(int field, const Rule &rule, const QString &message, const QString &advice)

@@ -1,5 +1,6 @@
 #include "mirovahrctl/export/likelyperson.h"
 
+#include "cli/text.h"
 #include "worker/exportline.h"
 
 #include <QRegularExpression>
@@ -71,6 +72,6 @@ QString LikelyPerson::of(const QString &line)
         return name;
     if (isNumber(relationship))
         return QStringLiteral("%1.%2 %3").arg(number, relationship, name).trimmed();
-    const QString personalNumber = QStringLiteral("personal number ") + number;
+    const QString personalNumber = Text::tr("personal number %1").arg(number);
     return name.isEmpty() ? personalNumber : QStringLiteral("%1, %2").arg(name, personalNumber);
 }

@@ -1,10 +1,11 @@
 #include "mirovahrctl/export/linecheck.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/export/fieldrules.h"
 #include "mirovahrctl/export/likelyperson.h"
 #include "mirovahrctl/export/personname.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/checkfilerules.h"
-#include "mirovahrctl/report/wording.h"
 #include "worker/boundedlinereader.h"
 #include "worker/exportline.h"
 
@@ -42,28 +43,27 @@ void checkBytes(const QString &text, CheckedLine &line)
 {
     if (line.number == 1 && isUtf16(line.raw)) {
         line.add(CheckFileRules::kUtf16,
-                 QStringLiteral("The file is encoded in UTF-16; the plugin reads UTF-8 only."));
+                 Text::tr("The file is encoded in UTF-16; the plugin reads UTF-8 only."));
     }
     if (line.raw.startsWith(kByteOrderMark)) {
         line.add(CheckFileRules::kByteOrderMark,
-                 QStringLiteral("The line begins with a byte order mark, which the plugin skips."));
+                 Text::tr("The line begins with a byte order mark, which the plugin skips."));
     }
     if (line.raw.contains('\0')) {
-        line.add(
-            CheckFileRules::kNulByte,
-            QStringLiteral("The line contains a NUL byte; the plugin reads nothing after it."));
+        line.add(CheckFileRules::kNulByte,
+                 Text::tr("The line contains a NUL byte; the plugin reads nothing after it."));
     }
     if (isDamaged(text, line.raw)) {
         line.add(CheckFileRules::kNotUtf8,
-                 QStringLiteral("Some bytes are not UTF-8; each is read as the character \uFFFD."));
+                 Text::tr("Some bytes are not UTF-8; each is read as the character \uFFFD."));
     }
 }
 
 void addTooLong(CheckedLine &line)
 {
     line.add(CheckFileRules::kLineTooLong,
-             QStringLiteral("The line is longer than %1 bytes; the plugin skips it.")
-                 .arg(BoundedLineReader::kLongestLine));
+             Text::tr("The line is longer than %1 bytes; the plugin skips it.")
+                 .arg(Language::number(BoundedLineReader::kLongestLine)));
 }
 
 QString fieldCountAdvice(const ExportLine::Parts &parts, int expected)
@@ -71,12 +71,12 @@ QString fieldCountAdvice(const ExportLine::Parts &parts, int expected)
     const QStringRef &text = parts.constFirst();
     if (parts.size() == 1
         && (text.count(QLatin1Char(';')) > 1 || text.count(QLatin1Char('\t')) > 1))
-        return QStringLiteral("Separate fields with the character |, nothing else.");
+        return Text::tr("Separate fields with the character |, nothing else.");
     if (parts.size() == expected + 1 && parts.constLast().isEmpty())
-        return QStringLiteral("There must be no | after the last field.");
+        return Text::tr("There must be no | after the last field.");
     if (parts.size() > expected)
-        return QStringLiteral("No text may contain the character |.");
-    return QStringLiteral("Write empty fields too, each with its |.");
+        return Text::tr("No text may contain the character |.");
+    return Text::tr("Write empty fields too, each with its |.");
 }
 
 bool hasFindings(const QVector<Finding> &findings, Severity severity)
@@ -179,12 +179,10 @@ void LineCheck::checkText(const QString &text, CheckedLine &line) const
         checkParts(parts, line);
         return;
     }
-    line.add(
-        CheckFileRules::kFieldCount,
-        QStringLiteral("The line has %1 instead of %2.")
-            .arg(Wording::counted(parts.size(), QStringLiteral("field"), QStringLiteral("fields")),
-                 QString::number(m_fieldNames.size())),
-        fieldCountAdvice(parts, m_fieldNames.size()));
+    line.add(CheckFileRules::kFieldCount,
+             Text::tr("The line has %Ln field(s) instead of %1.", nullptr, parts.size())
+                 .arg(Language::number(m_fieldNames.size())),
+             fieldCountAdvice(parts, m_fieldNames.size()));
 }
 
 void LineCheck::checkParts(const ExportLine::Parts &parts, CheckedLine &line) const
@@ -193,9 +191,9 @@ void LineCheck::checkParts(const ExportLine::Parts &parts, CheckedLine &line) co
     if (ExportLine::isUsable(record))
         line.record = record;
     if (!line.record && isHeader(parts, m_fieldNames)) {
-        line.add(CheckFileRules::kHeaderLine,
-                 QStringLiteral(
-                     "This is a header line; the plugin reads it as a person without a number."));
+        line.add(
+            CheckFileRules::kHeaderLine,
+            Text::tr("This is a header line; the plugin reads it as a person without a number."));
         return;
     }
     FieldRules(parts, record, m_widths, m_route.server, line).check();

@@ -1,5 +1,6 @@
 #include "mirovahrctl/export/namedexport.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/program/console.h"
 #include "worker/importfile.h"
 
@@ -10,16 +11,15 @@ std::optional<ExitStatus> NamedExport::open(const QString &path, QFile &file, Co
     case ImportFile::Opening::Done:
         return std::nullopt;
     case ImportFile::Opening::NotFound:
-        return console.fail(ExitStatus::Usage, QStringLiteral("There is no file '%1'").arg(path));
+        return console.fail(ExitStatus::Usage, Text::tr("There is no file '%1'").arg(path));
     case ImportFile::Opening::Failed:
         break;
     }
-    return console.fail(ExitStatus::Usage,
-                        QStringLiteral("'%1' cannot be opened: %2").arg(path, error));
+    return console.fail(ExitStatus::Usage, Text::tr("'%1' cannot be opened: %2").arg(path, error));
 }
 
 ExitStatus NamedExport::failReading(const QString &path, const QString &reason, Console &console)
 {
     return console.fail(ExitStatus::Usage,
-                        QStringLiteral("'%1' cannot be read to its end: %2").arg(path, reason));
+                        Text::tr("'%1' cannot be read to its end: %2").arg(path, reason));
 }
