@@ -1,8 +1,9 @@
 #include "mirovahrctl/gate/gateassessment.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gate/gatevalues.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/gaterules.h"
-#include "mirovahrctl/report/wording.h"
 
 namespace GateAssessment {
 
@@ -12,7 +13,7 @@ namespace {
 
 GateReason empty()
 {
-    return {makeFinding(GateRules::kEmpty, QStringLiteral("The file contains no people.")), false};
+    return {makeFinding(GateRules::kEmpty, Text::tr("The file contains no people.")), false};
 }
 
 GateReason truncated(const QString &message)
@@ -22,19 +23,19 @@ GateReason truncated(const QString &message)
 
 GateReason noBaseline()
 {
-    return {makeFinding(GateRules::kNoBaseline,
-                        QStringLiteral("There is no admitted file to compare with.")),
-            true};
+    return {
+        makeFinding(GateRules::kNoBaseline, Text::tr("There is no admitted file to compare with.")),
+        true};
 }
 
 GateReason linesLost(const GateFacts &facts, const GateLimit &limit)
 {
     const qint64 lost = facts.lostLines();
     return {makeFinding(GateRules::kLinesLost,
-                        lines(lost, facts.oldLines) + QStringLiteral(" with people ")
-                            + (lost == 1 ? QStringLiteral("is") : QStringLiteral("are"))
-                            + QStringLiteral(" missing compared with the last admitted file")
-                            + allowance(limit)),
+                        Text::tr("%Ln line(s) (%1 %) with people are missing compared with the "
+                                 "last admitted file; %2",
+                                 nullptr, Language::count(lost))
+                            .arg(percent(lost, facts.oldLines), allowance(limit))),
             true};
 }
 
@@ -42,12 +43,11 @@ GateReason linesLost(const GateFacts &facts, const GateLimit &limit)
 GateReason linesRepeated(const GateFacts &facts, const GateLimit &limit)
 {
     const qint64 repeated = facts.repeatedLines();
-    return {makeFinding(
-                GateRules::kLinesRepeated,
-                lines(repeated, facts.oldLines)
-                    + (repeated == 1 ? QStringLiteral(" repeats a person of an earlier line")
-                                     : QStringLiteral(" repeat people of earlier lines"))
-                    + QStringLiteral(", more than in the last admitted file") + allowance(limit)),
+    return {makeFinding(GateRules::kLinesRepeated,
+                        Text::tr("%Ln line(s) (%1 %) repeat people of earlier lines, more than in "
+                                 "the last admitted file; %2",
+                                 nullptr, Language::count(repeated))
+                            .arg(percent(repeated, facts.oldLines), allowance(limit))),
             true};
 }
 
@@ -57,8 +57,7 @@ struct Kind {
     const GateLimit &limit;
     const QVector<int> &list;
     int whole;
-    const char *oneDoes;
-    const char *manyDo;
+    const char *text; ///< with places for the percentage and the allowance
 };
 
 void assessKind(const Kind &kind, const GateLimits &limits, QVector<GateReason> &reasons)
@@ -67,19 +66,17 @@ void assessKind(const Kind &kind, const GateLimits &limits, QVector<GateReason> 
     if (!limits.isExceeded(kind.limit, count, kind.whole))
         return;
     reasons << GateReason{makeFinding(kind.rule,
-                                      QStringLiteral("%1 %2%3").arg(
-                                          people(count, kind.whole),
-                                          QLatin1String(count == 1 ? kind.oneDoes : kind.manyDo),
-                                          allowance(kind.limit))),
+                                      Text::tr(kind.text, nullptr, count)
+                                          .arg(percent(count, kind.whole), allowance(kind.limit))),
                           true};
 }
 
 void assessEnd(const GateFacts &facts, bool mayEndOpen, QVector<GateReason> &reasons)
 {
     if (facts.isLastLineBroken)
-        reasons << truncated(QStringLiteral("The last line is damaged."));
+        reasons << truncated(Text::tr("The last line is damaged."));
     else if (facts.endsOpen && !mayEndOpen)
-        reasons << truncated(QStringLiteral("The last line does not end with a line feed."));
+        reasons << truncated(Text::tr("The last line does not end with a line feed."));
 }
 
 void assessPeople(const ExportDifferences &changes, const GateLimits &limits,
@@ -87,15 +84,16 @@ void assessPeople(const ExportDifferences &changes, const GateLimits &limits,
 {
     const int known = changes.inBoth + changes.gone.size();
     assessKind({GateRules::kPeopleLeaving, limits.leaving, changes.leaving, changes.working,
-                "leaves", "leave"},
+                QT_TRANSLATE_N_NOOP("Text", "%Ln person(s) (%1 %) leave; %2")},
                limits, reasons);
     assessKind({GateRules::kPeopleMoving, limits.moving, changes.moving, changes.working,
-                "gets another cost centre", "get another cost centre"},
+                QT_TRANSLATE_N_NOOP("Text", "%Ln person(s) (%1 %) get another cost centre; %2")},
                limits, reasons);
-    assessKind({GateRules::kPeopleNew, limits.added, changes.added, known, "is new", "are new"},
+    assessKind({GateRules::kPeopleNew, limits.added, changes.added, known,
+                QT_TRANSLATE_N_NOOP("Text", "%Ln person(s) (%1 %) are new; %2")},
                limits, reasons);
     assessKind({GateRules::kPeopleReturning, limits.returning, changes.returning, changes.working,
-                "returns who had left", "return who had left"},
+                QT_TRANSLATE_N_NOOP("Text", "%Ln person(s) (%1 %) return who had left; %2")},
                limits, reasons);
 }
 
@@ -127,38 +125,34 @@ QVector<GateReason> assess(const GateFacts &facts, const GateLimits &limits, boo
 
 GateReason missing(const QString &path)
 {
-    return {makeFinding(GateRules::kMissing, QStringLiteral("There is no file '%1'.").arg(path)),
-            false};
+    return {makeFinding(GateRules::kMissing, Text::tr("There is no file '%1'.").arg(path)), false};
 }
 
 GateReason tooLong()
 {
-    return {
-        makeFinding(GateRules::kFileTooLong,
-                    QStringLiteral("The file is larger than 1 GiB; the plugin reads no further.")),
-        false};
+    return {makeFinding(GateRules::kFileTooLong,
+                        Text::tr("The file is larger than 1 GiB; the plugin reads no further.")),
+            false};
 }
 
 GateReason changedMeanwhile()
 {
     return {makeFinding(GateRules::kChangedMeanwhile,
-                        QStringLiteral("The file changed while it was being read.")),
+                        Text::tr("The file changed while it was being read.")),
             false};
 }
 
 GateReason justWritten(qint64 settleSeconds)
 {
     return {makeFinding(GateRules::kJustWritten,
-                        QStringLiteral("The file was changed within the last %1.")
-                            .arg(Wording::counted(settleSeconds, QStringLiteral("second"),
-                                                  QStringLiteral("seconds")))),
+                        Text::tr("The file was changed within the last %Ln second(s).", nullptr,
+                                 Language::count(settleSeconds))),
             false};
 }
 
 GateReason busy()
 {
-    return {makeFinding(GateRules::kBusy, QStringLiteral("Another gate is using this folder.")),
-            false};
+    return {makeFinding(GateRules::kBusy, Text::tr("Another gate is using this folder.")), false};
 }
 
 } // namespace GateAssessment

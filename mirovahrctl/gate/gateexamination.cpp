@@ -1,5 +1,6 @@
 #include "mirovahrctl/gate/gateexamination.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/export/rejectswriter.h"
 #include "mirovahrctl/export/sqltexts.h"
 #include "mirovahrctl/gate/gatesource.h"
@@ -13,9 +14,6 @@
 #include <algorithm>
 
 namespace {
-
-const QLatin1String kCopy("The copy of HR's file");
-const QLatin1String kLastAdmitted("The last admitted file");
 
 bool hasRule(const QVector<Finding> &findings, const Rule &rule)
 {
@@ -89,9 +87,9 @@ bool GateExamination::compareContents(QFile &newFile, QFile &oldFile)
     }
     // Seeking resets the error.
     if (newFile.error() != QFileDevice::NoError || !newFile.seek(0))
-        return failReading(kCopy, newFile.errorString());
+        return failReadingCopy(newFile.errorString());
     if (oldFile.error() != QFileDevice::NoError || !oldFile.seek(0))
-        return failReading(kLastAdmitted, oldFile.errorString());
+        return failReadingLast(oldFile.errorString());
     return true;
 }
 
@@ -100,13 +98,13 @@ bool GateExamination::readOld(QFile &file)
     BoundedLineReader reader(file);
     while (reader.next())
         m_people.add(ComparedPeople::Before, reader.line());
-    return !reader.hasFailed() || failReading(kLastAdmitted, reader.errorString());
+    return !reader.hasFailed() || failReadingLast(reader.errorString());
 }
 
 bool GateExamination::readNew(QFile &file, RejectsWriter &rejects)
 {
     ExportScan check(file, ColumnWidths(), {m_texts, m_texts.value_or(Backslash::Escapes)});
-    Progress progress(m_console, QStringLiteral("Checking HR's file"));
+    Progress progress(m_console, Text::tr("Checking HR's file"));
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
     const bool isRead = check.run([this, &rejects](const CheckedLine &line) {
@@ -119,11 +117,17 @@ bool GateExamination::readNew(QFile &file, RejectsWriter &rejects)
     });
     m_facts.counts = check.counts();
     m_facts.endsOpen = hasRule(check.fileFindings(), CheckFileRules::kNoFinalLineFeed);
-    return isRead || failReading(kCopy, check.errorString());
+    return isRead || failReadingCopy(check.errorString());
 }
 
-bool GateExamination::failReading(const QString &what, const QString &reason)
+bool GateExamination::failReadingCopy(const QString &reason)
 {
-    m_error = QStringLiteral("%1 cannot be read to its end: %2").arg(what, reason);
+    m_error = Text::tr("The copy of HR's file cannot be read to its end: %1").arg(reason);
+    return false;
+}
+
+bool GateExamination::failReadingLast(const QString &reason)
+{
+    m_error = Text::tr("The last admitted file cannot be read to its end: %1").arg(reason);
     return false;
 }

@@ -37,7 +37,8 @@ private:
     bool compareContents(QFile &newFile, QFile &oldFile);
     bool readOld(QFile &file);
     bool readNew(QFile &file, RejectsWriter &rejects);
-    bool failReading(const QString &what, const QString &reason);
+    bool failReadingCopy(const QString &reason);
+    bool failReadingLast(const QString &reason);
 
     GateFolder &m_folder;
     const std::optional<Backslash> m_texts;

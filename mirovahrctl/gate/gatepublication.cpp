@@ -1,5 +1,6 @@
 #include "mirovahrctl/gate/gatepublication.h"
 
+#include "cli/text.h"
 #include "worker/boundedlinereader.h"
 
 #include <QFileInfo>
@@ -58,8 +59,8 @@ bool GatePublication::write(QFile &source)
         if (m_file.device().write(written) != written.size())
             return true;
     }
-    return fail(QStringLiteral("With its texts written for the plugin the file is longer than 1 "
-                               "GiB, and the plugin reads no further"));
+    return fail(Text::tr("With its texts written for the plugin the file is longer than 1 "
+                         "GiB, and the plugin reads no further"));
 }
 
 bool GatePublication::fail(const QString &error)

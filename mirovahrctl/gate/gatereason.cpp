@@ -1,7 +1,10 @@
 #include "mirovahrctl/gate/gatereason.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gatelimits.h"
-#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/report/language.h"
+
+#include <QLocale>
 
 #include <algorithm>
 
@@ -13,34 +16,17 @@ bool mayAllBeOverridden(const QVector<GateReason> &reasons)
 
 namespace GateWording {
 
-namespace {
-
-QString share(qint64 part, qint64 whole, const QString &one, const QString &many)
+QString percent(qint64 part, qint64 whole)
 {
-    const double percent = whole > 0 ? double(part) * 100 / double(whole) : 0;
-    return QStringLiteral("%1 (%2 %)")
-        .arg(Wording::counted(part, one, many), QString::number(percent, 'f', 1));
-}
-
-} // namespace
-
-QString people(qint64 part, qint64 whole)
-{
-    return share(part, whole, QStringLiteral("person"), QStringLiteral("people"));
-}
-
-QString lines(qint64 part, qint64 whole)
-{
-    return share(part, whole, QStringLiteral("line"), QStringLiteral("lines"));
+    return Language::number(whole > 0 ? double(part) * 100 / double(whole) : 0, 1);
 }
 
 QString allowance(const GateLimit &limit)
 {
-    const QString percent = QString::number(limit.percent);
+    const QString percent = Language::number(limit.percent, QLocale::FloatingPointShortest);
     if (limit.count >= GateLimit::kAny)
-        return QStringLiteral("; the limit is %1 %.").arg(percent);
-    return QStringLiteral("; the limits are %1 and %2 %.")
-        .arg(QString::number(limit.count), percent);
+        return Text::tr("the limit is %1 %.").arg(percent);
+    return Text::tr("the limits are %1 and %2 %.").arg(Language::number(limit.count), percent);
 }
 
 } // namespace GateWording

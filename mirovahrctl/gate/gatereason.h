@@ -20,11 +20,9 @@ bool mayAllBeOverridden(const QVector<GateReason> &reasons);
 /// Texts of reasons.
 namespace GateWording {
 
-/// "60 people (12.5 %)"
-QString people(qint64 part, qint64 whole);
-/// "60 lines (12.5 %)"
-QString lines(qint64 part, qint64 whole);
-/// "; the limits are 50 and 5 %."
+/// "12.5": so many percent is the part.
+QString percent(qint64 part, qint64 whole);
+/// "the limits are 50 and 5 %."
 QString allowance(const GateLimit &limit);
 
 } // namespace GateWording

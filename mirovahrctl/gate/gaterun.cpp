@@ -1,5 +1,6 @@
 #include "mirovahrctl/gate/gaterun.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/export/rejectswriter.h"
 #include "mirovahrctl/gate/gatereport.h"
 #include "mirovahrctl/gatestate/gatecopies.h"
@@ -196,7 +197,7 @@ ExitStatus GateRun::refuse(const QVector<GateReason> &reasons)
 ExitStatus GateRun::report(bool isAdmitted, const QVector<GateReason> &reasons)
 {
     m_report.begin(m_line.subcommand(),
-                   QStringLiteral("Gate from %1 to %2").arg(m_options.from, m_options.to));
+                   Text::tr("Gate from %1 to %2").arg(m_options.from, m_options.to));
     GateReport gateReport;
     gateReport.isAdmitted = isAdmitted;
     gateReport.isUnchanged = m_examination.isUnchanged();
@@ -217,12 +218,12 @@ bool GateRun::keepError(const QString &error)
 ExitStatus GateRun::fail(const QString &sentence)
 {
     const QString outcome = m_publication.isPublished()
-        ? QStringLiteral(". The file was published nevertheless")
-        : QStringLiteral(". Nothing was published");
+        ? Text::tr("The file was published nevertheless")
+        : Text::tr("Nothing was published");
     if (m_isLocked && !m_publication.isPublished()) {
         QString ignored;
         m_status.refuse({sentence});
         m_status.write(m_folder, ignored);
     }
-    return m_console.fail(ExitStatus::Usage, sentence + outcome);
+    return m_console.fail(ExitStatus::Usage, QStringLiteral("%1. %2").arg(sentence, outcome));
 }

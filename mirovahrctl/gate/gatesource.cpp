@@ -1,5 +1,6 @@
 #include "mirovahrctl/gate/gatesource.h"
 
+#include "cli/text.h"
 #include "worker/boundedlinereader.h"
 
 #include <cerrno>
@@ -37,7 +38,7 @@ GateSource::Outcome GateSource::open()
         return Outcome::Missing;
     if (fd < 0 || !m_file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)
         || ::fstat(fd, &m_opened) != 0) {
-        fail("cannot be read", qt_error_string(errno));
+        fail(QT_TRANSLATE_NOOP("Text", "'%1' cannot be read: %2"), qt_error_string(errno));
         return Outcome::Failed;
     }
     return S_ISREG(m_opened.st_mode) ? Outcome::Done : Outcome::Missing;
@@ -55,7 +56,8 @@ bool GateSource::copyTo(QIODevice &target)
     while (m_copied <= BoundedLineReader::kMostBytes) {
         const qint64 length = m_file.read(piece.data(), piece.size());
         if (length < 0)
-            return fail("cannot be read to its end", m_file.errorString());
+            return fail(QT_TRANSLATE_NOOP("Text", "'%1' cannot be read to its end: %2"),
+                        m_file.errorString());
         if (length == 0)
             break;
         if (target.write(piece.constData(), length) != length)
@@ -84,8 +86,8 @@ qint64 GateSource::age() const
     return modified().secsTo(QDateTime::currentDateTime());
 }
 
-bool GateSource::fail(const char *whatIsNotPossible, const QString &reason)
+bool GateSource::fail(const char *text, const QString &reason)
 {
-    m_error = QStringLiteral("'%1' %2: %3").arg(m_path, QLatin1String(whatIsNotPossible), reason);
+    m_error = Text::tr(text).arg(m_path, reason);
     return false;
 }

@@ -39,7 +39,8 @@ public:
     bool hasReadError() const { return !m_error.isEmpty(); }
 
 private:
-    bool fail(const char *whatIsNotPossible, const QString &reason);
+    /// \a text: marked for Text::tr(), with places for the path and the reason.
+    bool fail(const char *text, const QString &reason);
 
     const QString m_path;
     QFile m_file;

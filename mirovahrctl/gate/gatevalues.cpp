@@ -1,10 +1,14 @@
 #include "mirovahrctl/gate/gatevalues.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/comparison/exportdifferences.h"
 #include "mirovahrctl/comparison/fieldwords.h"
 #include "mirovahrctl/export/fieldreading.h"
 #include "mirovahrctl/gatestate/gatelimits.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/gaterules.h"
+
+#include <QLocale>
 
 namespace GateValues {
 
@@ -19,7 +23,9 @@ struct Case {
     int field;
     const QVector<int> &people;
     int whole;
-    QString what; ///< what the people's values do, without a full stop
+    /// With places for the field's word, the percentage, the allowance and the details.
+    const char *text;
+    QStringList details{};
 };
 
 void assess(const Case &values, const GateLimits &limits, QVector<GateReason> &reasons)
@@ -27,13 +33,20 @@ void assess(const Case &values, const GateLimits &limits, QVector<GateReason> &r
     const int count = values.people.size();
     if (!limits.isExceeded(values.limit, count, values.whole))
         return;
-    const QString message =
-        QStringLiteral("The %1 of %2 %3%4")
-            .arg(FieldWords::of(values.field), GateWording::people(count, values.whole),
-                 values.what, GateWording::allowance(values.limit));
+    QString message =
+        Text::tr(values.text, nullptr, count)
+            .arg(FieldWords::of(values.field), GateWording::percent(count, values.whole),
+                 GateWording::allowance(values.limit));
+    for (const QString &detail : values.details)
+        message = message.arg(detail);
     GateReason reason{makeFinding(values.rule, message), true, values.field, values.people};
     reason.finding.field = ExportLine::fieldNames().at(values.field);
     reasons.append(reason);
+}
+
+QString days(int hundredths)
+{
+    return Language::number(hundredths / kHundredths, QLocale::FloatingPointShortest);
 }
 
 /// The plugin uses no name of a cost centre.
@@ -53,19 +66,23 @@ void assessBalances(const ExportDifferences &changes, const GateLimits &limits,
                     QVector<GateReason> &reasons)
 {
     const BalanceDifferences &balances = changes.balances;
-    const auto assessKind = [&](const Rule &rule, const QVector<int> &people, const QString &what) {
+    const auto assessKind = [&](const Rule &rule, const QVector<int> &people, const char *text,
+                                const QStringList &details) {
         assess({rule, limits.balances, ExportLine::DovolenaZustatek, people, changes.withBalance,
-                what},
+                text, details},
                limits, reasons);
     };
-    assessKind(GateRules::kBalancesZero, balances.zeroed, QStringLiteral("becomes 0"));
+    assessKind(GateRules::kBalancesZero, balances.zeroed,
+               QT_TRANSLATE_N_NOOP("Text", "The %1 of %Ln person(s) (%2 %) becomes 0; %3"), {});
     assessKind(GateRules::kBalancesImplausible, balances.implausible,
-               QStringLiteral("is now less than %1 or more than %2 days")
-                   .arg(BalanceDifferences::kLeast / kHundredths)
-                   .arg(BalanceDifferences::kMost / kHundredths));
+               QT_TRANSLATE_N_NOOP("Text",
+                                   "The %1 of %Ln person(s) (%2 %) is now less than %4 or more "
+                                   "than %5 days; %3"),
+               {days(BalanceDifferences::kLeast), days(BalanceDifferences::kMost)});
     assessKind(
         GateRules::kBalancesMultiplied, balances.multiplied,
-        QStringLiteral("is %1 times what it was").arg(QString::number(balances.factor, 'g', 3)));
+        QT_TRANSLATE_N_NOOP("Text", "The %1 of %Ln person(s) (%2 %) is %4 times what it was; %3"),
+        {QLocale().toString(balances.factor, 'g', 3)});
 }
 
 } // namespace
@@ -78,8 +95,13 @@ QVector<GateReason> assessMisread(const ExportDifferences &changes, const GateLi
         if (!isUsed(field))
             continue;
         const int known = reasons.size();
-        assess({GateRules::kValuesMisread, limits.misread, field, values.misread, values.now,
-                QStringLiteral("is misread: ") + FieldReading::consequence(field).chopped(1)},
+        assess({GateRules::kValuesMisread,
+                limits.misread,
+                field,
+                values.misread,
+                values.now,
+                QT_TRANSLATE_N_NOOP("Text", "The %1 of %Ln person(s) (%2 %) is misread: %4; %3"),
+                {FieldReading::consequence(field).chopped(1)}},
                limits, reasons);
         // Most values of a field are never misread in a file that somebody wants.
         if (reasons.size() > known)
@@ -95,12 +117,13 @@ QVector<GateReason> assessChanged(const ExportDifferences &changes, const GateLi
         const FieldDifferences &values = changes.fields.at(size_t(field));
         if (isLimitedAsAny(field)) {
             assess({GateRules::kValuesChanged, limits.changed, field, values.changed,
-                    changes.inBoth, QStringLiteral("changes")},
+                    changes.inBoth,
+                    QT_TRANSLATE_N_NOOP("Text", "The %1 of %Ln person(s) (%2 %) changes; %3")},
                    limits, reasons);
         }
         if (isUsed(field) && field != ExportLine::NadrizenyOsobniCislo) {
             assess({GateRules::kValuesEmptied, limits.emptied, field, values.emptied, values.before,
-                    QStringLiteral("is emptied")},
+                    QT_TRANSLATE_N_NOOP("Text", "The %1 of %Ln person(s) (%2 %) is emptied; %3")},
                    limits, reasons);
         }
     }
@@ -109,7 +132,9 @@ QVector<GateReason> assessChanged(const ExportDifferences &changes, const GateLi
         changes.fields.at(size_t(ExportLine::NadrizenyOsobniCislo));
     assess({GateRules::kSupervisorsChanged, limits.supervisors, ExportLine::NadrizenyOsobniCislo,
             changes.reassigned, supervisors.before,
-            QStringLiteral("changes though the former one still works in the same place")},
+            QT_TRANSLATE_N_NOOP("Text",
+                                "The %1 of %Ln person(s) (%2 %) changes though the former one "
+                                "still works in the same place; %3")},
            limits, reasons);
     return reasons;
 }
