@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/export/exportscan.h"
 #include "mirovahrctl/export/namedexport.h"
 #include "mirovahrctl/export/rejectswriter.h"
@@ -6,7 +7,7 @@
 #include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/program/progress.h"
 #include "mirovahrctl/program/report.h"
-#include "mirovahrctl/report/wording.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/site/sitedatabase.h"
 
 #include <QFile>
@@ -15,11 +16,12 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Reads an HR export exactly as the plugin does, and changes nothing. Reports every line\n"
-    "that the plugin would drop, every field that it would misread, people who appear twice\n"
-    "or have the same number, and texts that break a statement. With a database it also\n"
-    "reports texts that are longer than its columns.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Reads an HR export exactly as the plugin does, and changes nothing. Reports every line that "
+    "the plugin would drop, every field that it would misread, people who appear twice or have the "
+    "same number, and texts that break a statement. With a database it also reports texts that are "
+    "longer than its columns.");
 
 class CheckFileRun {
 public:
@@ -51,8 +53,8 @@ private:
 Table ruleTable(const QMap<QString, qint64> &countByRule)
 {
     Table table{QStringLiteral("rules"),
-                {{QStringLiteral("rule"), QStringLiteral("Rule")},
-                 {QStringLiteral("count"), QStringLiteral("Findings")}},
+                {{QStringLiteral("rule"), Text::tr("Rule")},
+                 {QStringLiteral("count"), Text::tr("Findings")}},
                 {}};
     for (auto rule = countByRule.cbegin(); rule != countByRule.cend(); ++rule)
         table.rows.append({rule.key(), rule.value()});
@@ -62,13 +64,12 @@ Table ruleTable(const QMap<QString, qint64> &countByRule)
 QString verdict(const ExportScan::Counts &counts, ExitStatus status)
 {
     if (status == ExitStatus::Fine)
-        return QStringLiteral("The export is fine.");
+        return Text::tr("The export is fine.");
     if (counts.rejected == 0)
-        return QStringLiteral("Everybody in the export arrives, but there are findings.");
-    return QStringLiteral("The export has %1; the plugin drops %2 of them.")
-        .arg(Wording::counted(counts.rejected, QStringLiteral("line with errors"),
-                              QStringLiteral("lines with errors")),
-             QString::number(counts.dropped));
+        return Text::tr("Everybody in the export arrives, but there are findings.");
+    return Text::tr("The export has %Ln line(s) with errors; the plugin drops %1 of them.", nullptr,
+                    Language::count(counts.rejected))
+        .arg(Language::number(counts.dropped));
 }
 
 CheckFileRun::CheckFileRun(const CommandLine &line, Report &report, Console &console)
@@ -86,7 +87,7 @@ ExitStatus CheckFileRun::run()
     if (const auto end = prepare())
         return *end;
     ExportScan exportCheck(m_file, m_widths, m_texts);
-    m_report.begin(m_line.subcommand(), QStringLiteral("HR export %1").arg(m_path));
+    m_report.begin(m_line.subcommand(), Text::tr("HR export %1").arg(m_path));
     if (!check(exportCheck))
         return NamedExport::failReading(m_path, exportCheck.errorString(), m_console);
     conclude(exportCheck);
@@ -127,7 +128,7 @@ std::optional<ExitStatus> CheckFileRun::readSite()
 
 bool CheckFileRun::check(ExportScan &check)
 {
-    Progress progress(m_console, QStringLiteral("Checking the export"));
+    Progress progress(m_console, Text::tr("Checking the export"));
     check.setProgressListener(
         [&progress](qint64 done, qint64 total) { progress.update(done, total); });
     return check.run([this](const CheckedLine &line) { report(line); });
@@ -144,7 +145,7 @@ void CheckFileRun::report(const CheckedLine &line)
 void CheckFileRun::report(const Finding &finding)
 {
     if (m_countByRule.isEmpty())
-        m_report.section(QStringLiteral("findings"), QStringLiteral("Findings"));
+        m_report.section(QStringLiteral("findings"), Text::tr("Findings"));
     ++m_countByRule[finding.rule];
     m_report.finding(finding);
 }
@@ -154,15 +155,14 @@ void CheckFileRun::conclude(const ExportScan &check)
     const QVector<Finding> findings = check.fileFindings();
     for (const Finding &finding : findings)
         report(finding);
-    m_report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
+    m_report.section(QStringLiteral("summary"), Text::tr("Summary"));
     if (!m_countByRule.isEmpty())
         m_report.table(ruleTable(m_countByRule));
     const ExportScan::Counts &counts = check.counts();
-    m_report.fact(QStringLiteral("lines"), QStringLiteral("Lines"), counts.lines);
-    m_report.fact(QStringLiteral("records"), QStringLiteral("Read as people"), counts.records);
-    m_report.fact(QStringLiteral("dropped"), QStringLiteral("Dropped by the plugin"),
-                  counts.dropped);
-    m_report.fact(QStringLiteral("rejected"), QStringLiteral("Lines with errors"), counts.rejected);
+    m_report.fact(QStringLiteral("lines"), Text::tr("Lines"), counts.lines);
+    m_report.fact(QStringLiteral("records"), Text::tr("Read as people"), counts.records);
+    m_report.fact(QStringLiteral("dropped"), Text::tr("Dropped by the plugin"), counts.dropped);
+    m_report.fact(QStringLiteral("rejected"), Text::tr("Lines with errors"), counts.rejected);
 }
 
 ExitStatus CheckFileRun::commit(const ExportScan::Counts &counts)
@@ -180,10 +180,10 @@ ExitStatus CheckFileRun::commit(const ExportScan::Counts &counts)
 ExitStatus runCheckFile(const QStringList &arguments, Console &console)
 {
     CommandLine line("check-file", kDescription);
-    line.addArgument("file", "The export.");
-    line.addOption(
-        "rejects", "file",
-        "Also write the lines with errors into a file, with the reasons, to send to HR.");
+    line.addArgument(Text::tr("file"), Text::tr("The export."));
+    line.addOption("rejects", Text::tr("file"),
+                   Text::tr("Also write the lines with errors into a file, with the reasons, to "
+                            "send to HR."));
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

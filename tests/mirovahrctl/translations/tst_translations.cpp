@@ -38,7 +38,7 @@ namespace {
 const QDir kFolder(QStringLiteral(MIROVAHR_TRANSLATIONS));
 
 /// Folders whose texts are still to be translated.
-const QStringList kUnfinished{"checkfile", "gate", "status"};
+const QStringList kUnfinished{"status"};
 
 QStringList filesIn(const QDir &folder)
 {
