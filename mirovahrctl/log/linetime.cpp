@@ -3,6 +3,8 @@
 #include <QRegularExpression>
 #include <QTimeZone>
 
+#include <algorithm>
+
 namespace {
 
 constexpr char kMonths[] = "JanFebMarAprMayJunJulAugSepOctNovDec";
@@ -38,6 +40,15 @@ QDateTime withYear(const QRegularExpressionMatch &match)
     return {day, clock(match), Qt::OffsetFromUTC, offset(zone)};
 }
 
+/// What stands behind a second and its fraction, as far as it may be an offset.
+std::string_view placeOfOffset(std::string_view rest)
+{
+    constexpr size_t kLongest = sizeof " +01:00" - 1;
+    const size_t end = std::min(rest.find_first_not_of("0123456789", 1), rest.size());
+    const bool isFraction = end > 1 && (rest.front() == '.' || rest.front() == ',');
+    return rest.substr(isFraction ? end : 0, kLongest);
+}
+
 /// The last such day and time that is not more than a day after \a now.
 QDateTime withoutYear(const QRegularExpressionMatch &match, const QDateTime &now)
 {
@@ -64,13 +75,16 @@ LineTime::LineTime(const QDateTime &now)
 std::optional<QDateTime> LineTime::of(std::string_view prefix)
 {
     prefix = prefix.substr(0, kLongestPrefix);
-    const std::string_view last(m_lastText.constData(), size_t(m_lastText.size()));
-    if (!last.empty() && prefix.substr(0, last.size()) == last)
-        return m_lastTime;
-    return parsed(QString::fromUtf8(prefix.data(), int(prefix.size())));
+    return isAsLast(prefix) ? m_lastTime : parsed(prefix);
 }
 
-std::optional<QDateTime> LineTime::parsed(const QString &prefix)
+bool LineTime::isAsLast(std::string_view prefix) const
+{
+    return !m_lastText.empty() && prefix.substr(0, m_lastText.size()) == m_lastText
+        && placeOfOffset(prefix.substr(m_lastText.size())) == m_lastOffset;
+}
+
+std::optional<QDateTime> LineTime::parsed(std::string_view bytes)
 {
     static const QRegularExpression iso(
         QStringLiteral("(?<!\\d)(?<year>\\d{4})[-/](?<month>\\d\\d)[-/](?<day>\\d\\d)[T ]") + kClock
@@ -86,6 +100,7 @@ std::optional<QDateTime> LineTime::parsed(const QString &prefix)
     static const QRegularExpression seconds(
         QStringLiteral("(?<![\\d.])(?<unix>\\d{9,10})\\.\\d{3,}(?!\\d)"));
 
+    const QString prefix = QString::fromUtf8(bytes.data(), int(bytes.size()));
     QDateTime time;
     QRegularExpressionMatch match;
     if ((match = iso.match(prefix)).hasMatch() || (match = dotted.match(prefix)).hasMatch())
@@ -99,7 +114,8 @@ std::optional<QDateTime> LineTime::parsed(const QString &prefix)
         return std::nullopt;
     const int second = match.capturedEnd(QStringLiteral("second"));
     m_lastText =
-        prefix.leftRef(second > 0 ? second : match.capturedEnd(QStringLiteral("unix"))).toUtf8();
+        prefix.left(second > 0 ? second : match.capturedEnd(QStringLiteral("unix"))).toStdString();
+    m_lastOffset = placeOfOffset(bytes.substr(std::min(bytes.size(), m_lastText.size())));
     m_lastTime = time;
     return time;
 }

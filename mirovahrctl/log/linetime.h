@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QByteArray>
 #include <QDateTime>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 /// Finds the times of lines in what stands before the plugin's text: ISO 8601, days first with
@@ -21,9 +21,11 @@ public:
     std::optional<QDateTime> of(std::string_view prefix);
 
 private:
-    std::optional<QDateTime> parsed(const QString &prefix);
+    bool isAsLast(std::string_view prefix) const;
+    std::optional<QDateTime> parsed(std::string_view bytes);
 
     const QDateTime m_now;
-    QByteArray m_lastText; ///< up to the second of the last time found: many lines share it
+    std::string m_lastText; ///< up to the second of the last time found: many lines share it
+    std::string m_lastOffset; ///< what stands where the offset of that time is, or would be
     std::optional<QDateTime> m_lastTime;
 };

@@ -1,3 +1,4 @@
+#include "mirovahrctl/log/linetime.h"
 #include "mirovahrctl/log/logmatcher.h"
 #include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
@@ -53,6 +54,7 @@ class TestLog : public QObject {
 private Q_SLOTS:
     void aSynchronisationHasATimeInEveryForm_data();
     void aSynchronisationHasATimeInEveryForm();
+    void theSameSecondInAnotherZoneIsAnotherTime();
     void theLinesOfOthersAreNoMatter();
     void aProblemSaysWhatItMeansAndWhomItConcerns();
     void problemsOfOneThingAreOneFinding();
@@ -147,6 +149,20 @@ void TestLog::aSynchronisationHasATimeInEveryForm()
     QTEST(row["begin"].toString(), "time");
     QCOMPARE(row["seconds"].toInt(-1), 60);
     QCOMPARE(row["number"].toInt(), 7);
+}
+
+/// As in the night in which summer time ends.
+void TestLog::theSameSecondInAnotherZoneIsAnotherTime()
+{
+    LineTime times(QDateTime::currentDateTime());
+    const auto seconds = [&times](const char *prefix) {
+        return times.of(prefix)->toSecsSinceEpoch();
+    };
+    const qint64 summer = seconds("2021-10-31T02:30:00+02:00 ");
+    QCOMPARE(seconds("2021-10-31T02:30:00+01:00 "), summer + 3600);
+    QCOMPARE(seconds("2021-10-31T02:30:00.123+02:00 "), summer);
+    QCOMPARE(seconds("2021-10-31T02:30:00.456+01:00 "), summer + 3600);
+    QCOMPARE(seconds("2021-10-31T02:30:00Z "), summer + 7200);
 }
 
 void TestLog::theLinesOfOthersAreNoMatter()
