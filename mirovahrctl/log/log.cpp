@@ -79,7 +79,7 @@ ExitStatus LogRun::run()
     if (const auto end = readLogs(builder))
         return *end;
     LogHistory history = builder.finish();
-    if (m_since && history.lines > 0 && !history.hasTimes) {
+    if (m_since && history.lacksTimes()) {
         return m_console.fail(
             ExitStatus::Usage,
             QStringLiteral("The plugin's lines have no times, which --since needs"));

@@ -89,6 +89,7 @@ struct LogHistory {
     qint64 unknownLines = 0; ///< begin like those of the plugin and are none, or are cut
     QByteArray unknownExample;
     int debugLevel = 0; ///< the highest that a line shows
+    bool hasPluginLines = false; ///< also if all of them are left out as too old
     bool hasTimes = false; ///< a line of the plugin has one
     std::optional<QDateTime> firstTime;
     std::optional<QDateTime> lastTime;
@@ -100,6 +101,8 @@ struct LogHistory {
 
     /// Leaves only the last ones, and what was logged from then on.
     void keepLast(int count);
+    /// Nobody can tell which lines are too old.
+    bool lacksTimes() const { return hasPluginLines && !hasTimes; }
     /// All problems, those of all synchronisations together.
     LoggedProblems problems() const;
 };

@@ -43,6 +43,12 @@ qint64 countPeople(std::string_view uids)
     return people.size();
 }
 
+/// Takes one off; the line that it was counted by may be missing in the log.
+void takeBack(qint64 &count)
+{
+    count = std::max(qint64(0), count - 1);
+}
+
 QByteArray thingWord(Role role, const QByteArray &value)
 {
     switch (role) {
@@ -91,6 +97,7 @@ void LogHistoryBuilder::take(std::string_view line)
     const LogMatcher::Outcome outcome = m_matcher.find(line, message);
     if (outcome == LogMatcher::Outcome::Foreign)
         return;
+    m_history.hasPluginLines = true;
     if (m_since && isBeforeSince(message.prefix))
         return;
     if (outcome == LogMatcher::Outcome::Unknown) {
@@ -364,13 +371,13 @@ void LogHistoryBuilder::countPeopleWritten(const LoggedText &message,
         ++current.created;
         break;
     case Event::NotCreated:
-        --current.created;
+        takeBack(current.created);
         break;
     case Event::Update:
         ++current.updated;
         break;
     case Event::NotUpdated:
-        --current.updated;
+        takeBack(current.updated);
         break;
     case Event::Correct:
         current.corrections.append(number(message.values[1]));

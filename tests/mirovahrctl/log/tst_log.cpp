@@ -59,6 +59,7 @@ private Q_SLOTS:
     void aProblemSaysWhatItMeansAndWhomItConcerns();
     void problemsOfOneThingAreOneFinding();
     void whatNeedsNoActionIsANote();
+    void anErrorTakesBackOnlyWhatTheLogHasCounted();
     void anInterruptedStatementPointsToDrift_data();
     void anInterruptedStatementPointsToDrift();
     void aSynchronisationWithoutEndIsFound();
@@ -222,6 +223,19 @@ void TestLog::whatNeedsNoActionIsANote()
              + QStringList{"MHRWorker::loadAndParseData() - file '/tmp/ron.data' NOT found!"});
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.findingsOf("logged-warning").value(0)["severity"].toString(), QString("note"));
+}
+
+/// Logging may leave out lines when there are too many.
+void TestLog::anErrorTakesBackOnlyWhatTheLogHasCounted()
+{
+    const QStringList whole = synchronisation(1, "01:00", "01:01");
+    const ToolRun run =
+        read(QStringList{whole.first(), "MHRWorker::dbAddPerson(1235.1) - SQL ERROR: no",
+                         "MHRWorker::dbUpdatePerson(1236.1) - SQL ERROR: no"}
+             + whole.mid(1));
+    const QJsonObject changes = table(run, "changes").at(0).toObject();
+    QCOMPARE(changes["created"].toInt(), 0);
+    QCOMPARE(changes["updated"].toInt(), 0);
 }
 
 void TestLog::anInterruptedStatementPointsToDrift_data()
@@ -461,6 +475,10 @@ void TestLog::sinceNeedsTimes()
     const ToolRun run = read({QString(kBegin).arg(1)}, {"--since", "1h"});
     COMPARE_EXIT(run, ExitStatus::Usage);
     QVERIFY(run.failure().contains("--since"));
+
+    const ToolRun ofOthers = read({"done"}, {"--since", "1h"});
+    COMPARE_EXIT(ofOthers, ExitStatus::Findings);
+    QVERIFY(ofOthers.out.contains("no line of the plugin"));
 }
 
 void TestLog::optionsThatAreNone_data()
