@@ -17,6 +17,9 @@ public:
     /// \a now: a time without a year is the last such one before it.
     explicit LineTime(const QDateTime &now);
 
+    /// The same from now on.
+    void setNow(const QDateTime &now) { m_now = now; }
+
     /// The time of a line; nothing when it has none.
     std::optional<QDateTime> of(std::string_view prefix);
 
@@ -24,7 +27,7 @@ private:
     bool isAsLast(std::string_view prefix) const;
     std::optional<QDateTime> parsed(std::string_view bytes);
 
-    const QDateTime m_now;
+    QDateTime m_now;
     std::string m_lastText; ///< up to the second of the last time found: many lines share it
     std::string m_lastOffset; ///< what stands where the offset of that time is, or would be
     std::optional<QDateTime> m_lastTime;

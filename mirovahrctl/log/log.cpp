@@ -1,3 +1,5 @@
+#include "mirovahrctl/log/logfinding.h"
+#include "mirovahrctl/log/logfollow.h"
 #include "mirovahrctl/log/loghistorybuilder.h"
 #include "mirovahrctl/log/logreport.h"
 #include "mirovahrctl/pluginside/logsource.h"
@@ -16,7 +18,10 @@ constexpr char kDescription[] =
     "synchronisation when it ran, how long, and what it did; then every warning and error\n"
     "with what it means, whom it concerns, what was lost and what to do; and what is missing.\n"
     "Whatever stands before the plugin's texts is allowed, and so are lines of others. Reads\n"
-    "files, also those that gzip, xz or zstd has compressed, and without one standard input.";
+    "files, also those that gzip, xz or zstd has compressed, and without one standard input.\n\n"
+    "With --follow it goes on while the log is written, also when the file is rotated: each\n"
+    "synchronisation that is over, each warning and each error is one line. With --json each\n"
+    "line is an object.";
 
 /// So many synchronisations are shown without --last.
 constexpr int kMostShown = 50;
@@ -56,6 +61,7 @@ public:
     ExitStatus run();
 
 private:
+    ExitStatus follow();
     std::optional<ExitStatus> readOptions();
     std::optional<ExitStatus> readLogs(LogHistoryBuilder &builder);
     QStringList paths() const;
@@ -73,23 +79,39 @@ ExitStatus LogRun::run()
 {
     if (const auto end = readOptions())
         return *end;
+    if (m_line.isSet("follow"))
+        return follow();
     LogHistoryBuilder builder(m_now);
     if (m_since)
         builder.setSince(*m_since);
     if (const auto end = readLogs(builder))
         return *end;
     LogHistory history = builder.finish();
-    if (m_since && history.lacksTimes()) {
-        return m_console.fail(
-            ExitStatus::Usage,
-            QStringLiteral("The plugin's lines have no times, which --since needs"));
-    }
+    if (m_since && history.lacksTimes())
+        return m_console.fail(ExitStatus::Usage, LogFinding::noTimes());
     if (m_last > 0)
         history.keepLast(m_last);
     m_report.begin(m_line.subcommand(), QStringLiteral("What the log says of the plugin's work"));
     LogReport report(history, m_last > 0 ? m_last : kMostShown, m_report);
     report.write();
     return m_report.conclude(report.verdict());
+}
+
+ExitStatus LogRun::follow()
+{
+    if (m_line.arguments().size() > 1)
+        return m_console.fail(ExitStatus::Usage, QStringLiteral("--follow takes one log"));
+    if (m_line.isSet("html"))
+        return m_console.fail(ExitStatus::Usage, QStringLiteral("--follow writes no page"));
+    LogFollowOptions options{paths().constFirst(), m_last, m_since};
+    if (m_last > 0 && options.path == QLatin1String(LogSource::kStandardInput)) {
+        return m_console.fail(ExitStatus::Usage,
+                              QStringLiteral("--follow begins with what standard input gives; "
+                                             "--last needs a file"));
+    }
+    if (m_last == 0 && !m_since)
+        options.last = 1;
+    return followLog(options, m_console);
 }
 
 std::optional<ExitStatus> LogRun::readOptions()
@@ -133,10 +155,13 @@ QStringList LogRun::paths() const
 {
     QStringList paths = m_line.arguments();
     if (paths.isEmpty())
-        return {QString()};
+        return {QString::fromLatin1(LogSource::kStandardInput)};
+    // Whoever looks into standard input takes what is there.
+    if (paths.size() == 1 || paths.contains(QLatin1String(LogSource::kStandardInput)))
+        return paths;
     QHash<QString, QDateTime> begins;
     for (const QString &path : qAsConst(paths)) {
-        const auto begin = paths.size() > 1 ? firstTime(path) : std::nullopt;
+        const auto begin = firstTime(path);
         if (!begin)
             return paths;
         begins.insert(path, *begin);
@@ -164,11 +189,15 @@ std::optional<QDateTime> LogRun::firstTime(const QString &path) const
 ExitStatus runLog(const QStringList &arguments, Console &console)
 {
     CommandLine line("log", kDescription);
-    line.addRepeatedArgument("file", "The logs. Without one, standard input is read.");
+    line.addRepeatedArgument("file",
+                             "The logs; - is standard input, which is read without one, too.");
     line.addOption("since", "time",
                    "Leave out what was logged before: 2026-11-22, 2026-11-22T18:00, or so long ago "
                    "as 90min, 12h or 7d.");
     line.addOption("last", "count", "Leave out all but the last synchronisations.");
+    line.addFlag("follow",
+                 "Go on while the log is written; begins with the last synchronisation, or with "
+                 "what --since or --last says.");
     line.addReportOptions(CommandLine::Page::Offered);
     return Report::run(line, arguments, console,
                        [&](Report &report) { return LogRun(line, report, console).run(); });

@@ -79,6 +79,14 @@ void LogHistory::keepLast(int count)
     problemsBefore.clear();
 }
 
+void LogHistory::forgetPast()
+{
+    problemsBefore.clear();
+    runs = {LoggedRun()};
+    const bool goesOn = !synchronisations.isEmpty() && !synchronisations.constLast().hasEnded;
+    synchronisations.erase(synchronisations.begin(), synchronisations.end() - (goesOn ? 1 : 0));
+}
+
 LoggedProblems LogHistory::problems() const
 {
     LoggedProblems sum = problemsBefore;
@@ -87,4 +95,13 @@ LoggedProblems LogHistory::problems() const
         add(sum, synchronisation.problemsAfter);
     }
     return sum;
+}
+
+QString LogHistory::personName(const QByteArray &id) const
+{
+    const auto name = names.constFind(id);
+    if (name != names.constEnd())
+        return QString::fromUtf8(*name);
+    return id.contains('.') ? QString::fromUtf8(id)
+                            : QStringLiteral("pid ") + QString::fromUtf8(id);
 }

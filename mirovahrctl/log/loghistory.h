@@ -101,8 +101,13 @@ struct LogHistory {
 
     /// Leaves only the last ones, and what was logged from then on.
     void keepLast(int count);
+    /// Forgets what is over: all but the last synchronisation when that has not ended, and the
+    /// names.
+    void forgetPast();
     /// Nobody can tell which lines are too old.
     bool lacksTimes() const { return hasPluginLines && !hasTimes; }
     /// All problems, those of all synchronisations together.
     LoggedProblems problems() const;
+    /// A person by the payroll id or the pid of a line, with the name if the log has it.
+    QString personName(const QByteArray &id) const;
 };

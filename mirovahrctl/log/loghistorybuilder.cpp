@@ -84,8 +84,9 @@ QByteArray thingOf(const LoggedText &message)
 
 } // namespace
 
-LogHistoryBuilder::LogHistoryBuilder(const QDateTime &now)
-    : m_times(now)
+LogHistoryBuilder::LogHistoryBuilder(const QDateTime &now, LogListener *listener)
+    : m_listener(listener)
+    , m_times(now)
 {
     m_history.runs.append(LoggedRun());
 }
@@ -138,6 +139,8 @@ void LogHistoryBuilder::noteUnknown(const LoggedText &message)
 {
     if (m_history.unknownLines++ == 0)
         m_history.unknownExample = bytes(message.text);
+    if (m_listener != nullptr)
+        m_listener->unknownLogged(message);
 }
 
 void LogHistoryBuilder::noteFirstTime(std::string_view prefix)
@@ -197,27 +200,28 @@ QByteArray LogHistoryBuilder::personOf(std::string_view record)
 
 void LogHistoryBuilder::noteProblem(const LoggedText &message)
 {
-    const LogText &text = message.pattern->text();
-    const QByteArray thing = thingOf(message);
-    LoggedProblem &problem = currentProblems()[{&text, thing}];
-    const auto time = m_times.of(message.prefix);
-    if (problem.count++ == 0) {
-        problem.text = &text;
-        problem.isError = message.pattern->level() == LogPattern::Level::Critical;
-        problem.thing = thing;
-        problem.first = time;
-        problem.example = bytes(message.text);
-    }
-    if (time)
-        problem.last = time;
-    if (problem.isError && Interruptions::isIn(message.text))
-        ++problem.interruptions;
-    for (const QByteArray *person : {&m_mentioned, &m_personOfStep, &m_person}) {
-        if (!person->isEmpty()) {
-            ++problem.people[*person];
-            break;
-        }
-    }
+    LoggedProblem problem;
+    problem.text = &message.pattern->text();
+    problem.isError = message.pattern->level() == LogPattern::Level::Critical;
+    problem.thing = thingOf(message);
+    problem.count = 1;
+    problem.interruptions = problem.isError && Interruptions::isIn(message.text) ? 1 : 0;
+    problem.first = m_times.of(message.prefix);
+    problem.last = problem.first;
+    problem.example = bytes(message.text);
+    const QByteArray person = concernedPerson();
+    if (!person.isEmpty())
+        problem.people.insert(person, 1);
+    currentProblems()[{problem.text, problem.thing}].add(problem);
+    if (m_listener != nullptr)
+        m_listener->problemLogged(problem, m_history);
+}
+
+QByteArray LogHistoryBuilder::concernedPerson() const
+{
+    if (!m_mentioned.isEmpty())
+        return m_mentioned;
+    return m_personOfStep.isEmpty() ? m_person : m_personOfStep;
 }
 
 LoggedProblems &LogHistoryBuilder::currentProblems()
@@ -274,7 +278,7 @@ void LogHistoryBuilder::noteRun(Event event)
     }
     // Only a new process breaks a synchronisation off: stop and start leave it alone.
     if (event == Event::Loaded)
-        m_isWithin = false;
+        breakOff();
     m_history.runs.append(LoggedRun());
 }
 
@@ -290,6 +294,7 @@ void LogHistoryBuilder::noteTick(const LoggedText &message)
 
 void LogHistoryBuilder::noteBegin(const LoggedText &message)
 {
+    breakOff();
     LoggedSynchronisation begun;
     begun.number = quint32(number(message.values[0]));
     begun.forced = message.values[1] == "YES";
@@ -318,6 +323,8 @@ void LogHistoryBuilder::noteEnd(const LoggedText &message)
     const auto ended = quint32(number(message.values[0]));
     QVector<LoggedSynchronisation> &all = m_history.synchronisations;
     const bool hasBegun = m_isWithin && all.constLast().number == ended;
+    if (!hasBegun)
+        breakOff();
     LoggedSynchronisation current = hasBegun ? all.takeLast() : LoggedSynchronisation();
     current.number = ended;
     current.hasEnded = true;
@@ -327,6 +334,15 @@ void LogHistoryBuilder::noteEnd(const LoggedText &message)
     all.append(current);
     m_isWithin = false;
     m_person.clear();
+    if (m_listener != nullptr)
+        m_listener->synchronisationOver(current);
+}
+
+void LogHistoryBuilder::breakOff()
+{
+    if (m_isWithin && m_listener != nullptr)
+        m_listener->synchronisationOver(m_history.synchronisations.constLast());
+    m_isWithin = false;
 }
 
 void LogHistoryBuilder::count(const LoggedText &message, LoggedSynchronisation &current)

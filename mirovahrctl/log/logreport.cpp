@@ -1,5 +1,6 @@
 #include "mirovahrctl/log/logreport.h"
 
+#include "mirovahrctl/log/logfinding.h"
 #include "mirovahrctl/log/logtext.h"
 #include "mirovahrctl/log/missingticks.h"
 #include "mirovahrctl/log/synchronisationtable.h"
@@ -14,48 +15,16 @@
 
 namespace {
 
-/// So many people are named.
-constexpr int kMostNames = 10;
-
 QString moment(qint64 seconds)
 {
     return Moment::text(QDateTime::fromSecsSinceEpoch(seconds));
 }
 
-QString times(const LoggedProblem &problem)
-{
-    QString text =
-        problem.count == 1 ? QStringLiteral("once") : QStringLiteral("%1 times").arg(problem.count);
-    if (problem.first && problem.count == 1)
-        return text + QStringLiteral(" at ") + Moment::text(*problem.first);
-    if (problem.first && problem.last) {
-        text += QStringLiteral(" from %1 to %2")
-                    .arg(Moment::text(*problem.first), Moment::text(*problem.last));
-    }
-    return text;
-}
-
-Severity severityOf(const LoggedProblem &problem)
-{
-    if (problem.isError)
-        return LogRules::kLoggedError.severity;
-    const bool needsAction = *problem.text->advice != '\0';
-    return needsAction ? LogRules::kLoggedWarning.severity : LogRules::kLoggedWarning.otherSeverity;
-}
-
 /// The serious ones first, of these the frequent ones.
 bool comesBefore(const LoggedProblem &a, const LoggedProblem &b)
 {
-    return std::make_tuple(-int(severityOf(a)), -a.count, a.example)
-        < std::make_tuple(-int(severityOf(b)), -b.count, b.example);
-}
-
-QString nameOf(const LoggedSynchronisation &synchronisation)
-{
-    QString name = QStringLiteral("Synchronisation #%1").arg(synchronisation.number);
-    if (synchronisation.begin)
-        name += QStringLiteral(" of ") + Moment::text(*synchronisation.begin);
-    return name;
+    return std::make_tuple(-int(LogFinding::severityOf(a)), -a.count, a.example)
+        < std::make_tuple(-int(LogFinding::severityOf(b)), -b.count, b.example);
 }
 
 } // namespace
@@ -122,48 +91,7 @@ void LogReport::writeProblems()
     if (problems.isEmpty())
         m_report.sentence(QStringLiteral("The plugin logged none."));
     for (const LoggedProblem &problem : qAsConst(problems))
-        writeProblem(problem);
-}
-
-void LogReport::writeProblem(const LoggedProblem &problem)
-{
-    QString message = QString::fromUtf8(problem.text->meaning);
-    if (!problem.thing.isEmpty())
-        message += QStringLiteral(" It is about %1.").arg(QString::fromUtf8(problem.thing));
-    message += QStringLiteral(" Logged %1: \"%2\".")
-                   .arg(times(problem), QString::fromUtf8(problem.example));
-    if (problem.people.size() > 1)
-        message += QStringLiteral(" It concerns %1.").arg(peopleNames(problem.people));
-
-    Finding finding =
-        makeFinding(problem.isError ? LogRules::kLoggedError : LogRules::kLoggedWarning, message,
-                    QString::fromUtf8(problem.text->advice));
-    finding.severity = severityOf(problem);
-    if (problem.people.size() == 1)
-        finding.subject = personName(problem.people.cbegin().key());
-    m_report.finding(finding);
-}
-
-QString LogReport::personName(const QByteArray &id) const
-{
-    const auto name = m_history.names.constFind(id);
-    if (name != m_history.names.constEnd())
-        return QString::fromUtf8(*name);
-    return id.contains('.') ? QString::fromUtf8(id)
-                            : QStringLiteral("pid ") + QString::fromUtf8(id);
-}
-
-QString LogReport::peopleNames(const QHash<QByteArray, qint64> &people) const
-{
-    QStringList names;
-    for (auto it = people.cbegin(); it != people.cend(); ++it)
-        names << personName(it.key());
-    names.sort();
-    const int more = names.size() - kMostNames;
-    if (more <= 0)
-        return names.join(QStringLiteral(", "));
-    return QStringLiteral("%1 people, among them %2")
-        .arg(QString::number(names.size()), names.mid(0, kMostNames).join(QStringLiteral(", ")));
+        m_report.finding(LogFinding::ofProblem(problem, m_history));
 }
 
 void LogReport::writeMissing()
@@ -199,17 +127,17 @@ void LogReport::writeMissingEnds()
     for (const LoggedSynchronisation &one : m_history.synchronisations) {
         if (!one.hasBegun) {
             m_report.add(LogRules::kNoBegin,
-                         nameOf(one) + QStringLiteral(" began before the log does."));
+                         LogFinding::nameOf(one) + QStringLiteral(" began before the log does."));
             continue;
         }
         if (one.hasEnded)
             continue;
         if (!one.isLast) {
-            m_report.add(LogRules::kNoEnd, nameOf(one) + QStringLiteral(" did not end."));
+            m_report.finding(LogFinding::ofMissingEnd(one));
             continue;
         }
         Finding finding = makeFinding(LogRules::kNoEnd,
-                                      nameOf(one)
+                                      LogFinding::nameOf(one)
                                           + QStringLiteral(" has not ended where the log does: it "
                                                            "may still be running."),
                                       QStringLiteral("Look again later."));

@@ -21,7 +21,6 @@ public:
 private:
     void writeSynchronisations();
     void writeProblems();
-    void writeProblem(const LoggedProblem &problem);
     void writeMissing();
     void writeMissingEnds();
     void writeMissingTicks();
@@ -30,10 +29,6 @@ private:
     void writeUnknownLines();
     void writeKnowledge();
     void writeFacts();
-
-    /// A person by the payroll id or the pid of a line, with the name if the log has it.
-    QString personName(const QByteArray &id) const;
-    QString peopleNames(const QHash<QByteArray, qint64> &people) const;
 
     const LogHistory &m_history;
     const LoggedProblems m_problems;

@@ -25,15 +25,6 @@ constexpr struct {
     {"\x28\xb5\x2f\xfd", "zstdcat"},
 };
 
-const char *programFor(const QByteArray &beginning)
-{
-    for (const auto &compression : kCompressions) {
-        if (beginning.startsWith(compression.magic))
-            return compression.program;
-    }
-    return nullptr;
-}
-
 /// The next bytes, at most a block; empty at the end of the log.
 QByteArray nextBlock(QIODevice &device)
 {
@@ -44,62 +35,23 @@ QByteArray nextBlock(QIODevice &device)
     return block;
 }
 
-/// Cuts blocks of bytes into lines.
-class LineCutter {
-public:
-    explicit LineCutter(const LogSource::Visitor &visit)
-        : m_visit(visit)
-    {
-    }
-
-    /// False when the visitor does not want to go on.
-    bool take(std::string_view block)
-    {
-        size_t end = 0;
-        while ((end = block.find('\n')) != std::string_view::npos) {
-            if (!endLine(block.substr(0, end)))
-                return false;
-            block.remove_prefix(end + 1);
-        }
-        keep(block);
-        return true;
-    }
-
-    /// Visits the last line, which may have no line feed.
-    void finish()
-    {
-        if (!m_rest.empty())
-            endLine({});
-    }
-
-private:
-    void keep(std::string_view part)
-    {
-        m_rest.append(part.substr(0, LogSource::kLongestLine - m_rest.size()));
-    }
-
-    bool endLine(std::string_view line)
-    {
-        if (m_rest.empty())
-            return m_visit(line.substr(0, LogSource::kLongestLine));
-        keep(line);
-        const bool goesOn = m_visit(m_rest);
-        m_rest.clear();
-        return goesOn;
-    }
-
-    const LogSource::Visitor &m_visit;
-    std::string m_rest; ///< the beginning of a line that has not ended
-};
-
 } // namespace
+
+QString LogSource::unpacker(const QByteArray &beginning)
+{
+    for (const auto &compression : kCompressions) {
+        if (beginning.startsWith(compression.magic))
+            return QString::fromLatin1(compression.program);
+    }
+    return {};
+}
 
 LogSource::LogSource(QString path)
     : m_path(std::move(path))
 {
 }
 
-bool LogSource::forEachLine(const Visitor &visit)
+bool LogSource::forEachLine(const LineCutter::Visitor &visit)
 {
     const std::unique_ptr<QIODevice> device = open();
     if (!device)
@@ -116,30 +68,30 @@ bool LogSource::forEachLine(const Visitor &visit)
 std::unique_ptr<QIODevice> LogSource::open()
 {
     auto file = std::make_unique<QFile>(m_path);
-    const bool isOpen = m_path.isEmpty() ? file->open(STDIN_FILENO, QIODevice::ReadOnly)
-                                         : file->open(QIODevice::ReadOnly);
+    const bool isOpen = isStandardInput() ? file->open(STDIN_FILENO, QIODevice::ReadOnly)
+                                          : file->open(QIODevice::ReadOnly);
     if (!isOpen) {
         fail(file->errorString());
         return nullptr;
     }
-    const char *const program = programFor(file->peek(kLongestMagic));
-    if (program == nullptr)
+    const QString program = unpacker(file->peek(kLongestMagic));
+    if (program.isEmpty())
         return file;
-    if (m_path.isEmpty()) {
-        fail(Text::tr("it is compressed; unpack it with %1").arg(QLatin1String(program)));
+    if (isStandardInput()) {
+        fail(Text::tr("it is compressed; unpack it with %1").arg(program));
         return nullptr;
     }
     return decompress(program);
 }
 
-std::unique_ptr<QIODevice> LogSource::decompress(const char *program)
+std::unique_ptr<QIODevice> LogSource::decompress(const QString &program)
 {
     auto process = std::make_unique<QProcess>();
     process->setStandardInputFile(m_path);
-    process->start(QString::fromLatin1(program), QStringList(), QIODevice::ReadOnly);
+    process->start(program, QStringList(), QIODevice::ReadOnly);
     if (!process->waitForStarted(-1)) {
         fail(Text::tr("%1, which unpacks it, cannot be started: %2")
-                 .arg(QLatin1String(program), process->errorString()));
+                 .arg(program, process->errorString()));
         return nullptr;
     }
     return process;
@@ -160,7 +112,7 @@ bool LogSource::finish(QIODevice &device)
 
 bool LogSource::fail(const QString &reason)
 {
-    m_error = m_path.isEmpty() ? Text::tr("Standard input cannot be read: %1").arg(reason)
-                               : Text::tr("The log '%1' cannot be read: %2").arg(m_path, reason);
+    m_error = isStandardInput() ? Text::tr("Standard input cannot be read: %1").arg(reason)
+                                : Text::tr("The log '%1' cannot be read: %2").arg(m_path, reason);
     return false;
 }

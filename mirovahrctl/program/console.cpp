@@ -4,7 +4,7 @@
 #include "mirovahrctl/report/jsonreport.h"
 #include "mirovahrctl/report/wording.h"
 
-#include <QIODevice>
+#include <QFileDevice>
 
 Console::Console(QIODevice &out, QIODevice &err, bool interactive, int columns)
     : m_out(out)
@@ -29,6 +29,13 @@ void Console::startJson()
 void Console::print(const QString &text)
 {
     m_out.write((text + QLatin1Char('\n')).toUtf8());
+}
+
+bool Console::printNow(const QString &text)
+{
+    print(text);
+    auto *const file = qobject_cast<QFileDevice *>(&m_out);
+    return file == nullptr || file->flush();
 }
 
 ExitStatus Console::fail(ExitStatus status, const QString &sentence)

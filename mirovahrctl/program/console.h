@@ -49,6 +49,9 @@ public:
 
     /// Writes a text and a line feed to `out`.
     void print(const QString &text);
+    /// The same, for somebody who waits for it: `out` keeps nothing back. False when it cannot be
+    /// written.
+    bool printNow(const QString &text);
 
     /// Writes to `err` why the program ends, a sentence with or without its full stop, and to the
     /// JSON object if there is one. Returns the status, for `return console.fail(...)`.

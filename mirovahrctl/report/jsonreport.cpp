@@ -25,7 +25,14 @@ void insertText(QJsonObject &object, const char *name, const QString &text)
         object.insert(QLatin1String(name), text);
 }
 
-QJsonObject findingObject(const Finding &finding)
+} // namespace
+
+JsonReport::JsonReport(QIODevice &out)
+    : m_out(out)
+{
+}
+
+QJsonObject JsonReport::object(const Finding &finding)
 {
     QJsonObject object{{QStringLiteral("severity"), severityWord(finding.severity)},
                        {QStringLiteral("rule"), finding.rule},
@@ -44,19 +51,12 @@ QJsonObject findingObject(const Finding &finding)
     return object;
 }
 
-QJsonObject rowObject(const Table &table, const QVariantList &row)
+QJsonObject JsonReport::object(const Table &table, const QVariantList &row)
 {
     QJsonObject object;
     for (int i = 0; i < table.columns.size(); ++i)
         object.insert(table.columns.at(i).id, QJsonValue::fromVariant(row.at(i)));
     return object;
-}
-
-} // namespace
-
-JsonReport::JsonReport(QIODevice &out)
-    : m_out(out)
-{
 }
 
 void JsonReport::begin(const QString &subcommand, const QString &title)
@@ -84,7 +84,7 @@ void JsonReport::table(const Table &table)
 {
     QJsonArray rows;
     for (const QVariantList &row : table.rows)
-        rows.append(rowObject(table, row));
+        rows.append(object(table, row));
     m_tables.insert(table.id, rows);
 }
 
@@ -95,7 +95,7 @@ void JsonReport::data(const Table &table)
 
 void JsonReport::finding(const Finding &finding)
 {
-    m_out.write((m_hasFindings ? ",\n" : "\n") + compact(findingObject(finding)));
+    m_out.write((m_hasFindings ? ",\n" : "\n") + compact(object(finding)));
     m_hasFindings = true;
 }
 

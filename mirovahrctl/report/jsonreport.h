@@ -21,6 +21,11 @@ class JsonReport : public ReportWriter {
 public:
     explicit JsonReport(QIODevice &out);
 
+    /// A finding as the report has it.
+    static QJsonObject object(const Finding &finding);
+    /// The same of the row of a table.
+    static QJsonObject object(const Table &table, const QVariantList &row);
+
     void begin(const QString &subcommand, const QString &title) override;
     void answer(const QString &) override { } // end() has it
     void section(const QString &id, const QString &heading) override;

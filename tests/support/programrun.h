@@ -18,7 +18,7 @@ public:
     /// Sets a variable in the program's environment. Call it before start().
     void setVariable(const QString &name, const QString &value);
 
-    /// Its standard input stays open and empty.
+    /// Its standard input stays open.
     void start(const QString &program, const QStringList &arguments);
     /// Starts the program and waits for its end; as waitForEnd().
     bool run(const QString &program, const QStringList &arguments);
@@ -29,6 +29,10 @@ public:
     bool waitForText(const QString &text, int count);
     /// Waits until the program has ended. False when it does not.
     bool waitForEnd();
+
+    /// Writes to its standard input.
+    void write(const QByteArray &bytes) { m_process.write(bytes); }
+    void closeInput() { m_process.closeWriteChannel(); }
 
     void sendSignal(int signalNumber);
 

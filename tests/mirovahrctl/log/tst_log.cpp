@@ -55,6 +55,7 @@ private Q_SLOTS:
     void aSynchronisationHasATimeInEveryForm_data();
     void aSynchronisationHasATimeInEveryForm();
     void theSameSecondInAnotherZoneIsAnotherTime();
+    void aTimeWithoutAYearIsOfTheLastOne();
     void theLinesOfOthersAreNoMatter();
     void aProblemSaysWhatItMeansAndWhomItConcerns();
     void problemsOfOneThingAreOneFinding();
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void aMissingFileIsAFailure();
     void rotatedLogsAreReadInTheOrderOfTheirTimes();
     void standardInputIsRead();
+    void standardInputIsReadInItsPlace();
     void compressedStandardInputIsAFailure();
     void anyBytesAreRead();
     void everyRuleIsRaisedAndNot();
@@ -164,6 +166,15 @@ void TestLog::theSameSecondInAnotherZoneIsAnotherTime()
     QCOMPARE(seconds("2021-10-31T02:30:00.123+02:00 "), summer);
     QCOMPARE(seconds("2021-10-31T02:30:00.456+01:00 "), summer + 3600);
     QCOMPARE(seconds("2021-10-31T02:30:00Z "), summer + 7200);
+}
+
+void TestLog::aTimeWithoutAYearIsOfTheLastOne()
+{
+    LineTime times(QDateTime(QDate(2021, 11, 22), QTime(12, 0)));
+    QCOMPARE(times.of("Nov 22 11:59:00 ")->date(), QDate(2021, 11, 22));
+    QCOMPARE(times.of("Nov 24 11:59:00 ")->date(), QDate(2020, 11, 24));
+    times.setNow(QDateTime(QDate(2021, 11, 24), QTime(12, 0)));
+    QCOMPARE(times.of("Nov 24 11:59:01 ")->date(), QDate(2021, 11, 24));
 }
 
 void TestLog::theLinesOfOthersAreNoMatter()
@@ -539,10 +550,24 @@ void TestLog::rotatedLogsAreReadInTheOrderOfTheirTimes()
 void TestLog::standardInputIsRead()
 {
     const QString path = write("input", synchronisation(1, "01:00", "01:01").join('\n').toUtf8());
+    for (const char *const name : {"", "-"}) {
+        ProgramRun run;
+        QVERIFY(run.run("sh", {"-c", QString("'%1' log %2 < '%3'").arg(MIROVAHRCTL, name, path)}));
+        COMPARE_STATUS(run, 0);
+        QVERIFY2(run.output().contains("The log shows 1 synchronisation, 0 errors and 0 warnings."),
+                 run.report().constData());
+    }
+}
+
+void TestLog::standardInputIsReadInItsPlace()
+{
+    const QString input = write("input", synchronisation(2, "02:00", "02:01").join('\n').toUtf8());
+    const QString early = write("log.1", synchronisation(1, "01:00", "01:01").join('\n').toUtf8());
     ProgramRun run;
-    QVERIFY(run.run("sh", {"-c", QString("'%1' log < '%2'").arg(MIROVAHRCTL, path)}));
+    QVERIFY(
+        run.run("sh", {"-c", QString("'%1' log '%2' - < '%3'").arg(MIROVAHRCTL, early, input)}));
     COMPARE_STATUS(run, 0);
-    QVERIFY2(run.output().contains("The log shows 1 synchronisation, 0 errors and 0 warnings."),
+    QVERIFY2(run.output().contains("The log shows 2 synchronisations, 0 errors and 0 warnings."),
              run.report().constData());
 }
 
