@@ -84,12 +84,17 @@ QByteArray Metrics::text(const Sources &sources, bool complete)
 {
     MetricsText text;
     text.add("status_success",
-             "Whether the database, and the gate's status where it is named, could be read.",
+             "Whether the database, and the gate's status and the log where they are named, could "
+             "be read.",
              complete ? 1 : 0);
     if (sources.data != nullptr)
         addDatabase(text, *sources.data);
     if (sources.gate != nullptr)
         addGate(text, *sources.gate);
+    text.add("waiting_records",
+             "Records that wait for a branch or a calendar group, by the log's last "
+             "synchronisation.",
+             sources.waitingRecords);
     if (sources.assessment != nullptr)
         addFindings(text, *sources.assessment);
     return text.finished();

@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+#include <optional>
+
 class GateStatus;
 struct StatusAssessment;
 struct StatusData;
@@ -13,11 +15,12 @@ struct StatusData;
 /// of the moment of evaluation; what is not known has no sample.
 namespace Metrics {
 
-/// What was read of the database and of the gate. A null pointer says that it could not be read,
-/// or was not requested.
+/// What was read of the database, the gate and the log. What is null or nothing could not be read,
+/// is not known, or was not requested.
 struct Sources {
     const StatusData *data = nullptr;
     const GateStatus *gate = nullptr;
+    std::optional<qint64> waitingRecords; ///< see WaitingRecords
     const StatusAssessment *assessment = nullptr;
 };
 

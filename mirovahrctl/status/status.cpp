@@ -1,6 +1,7 @@
 #include "mirovahrctl/gatestate/gatestatus.h"
 #include "mirovahrctl/pluginside/interruptions.h"
 #include "mirovahrctl/pluginside/logsource.h"
+#include "mirovahrctl/pluginside/waitingrecords.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
@@ -58,6 +59,7 @@ private:
     AgeLimits m_limits;
     std::optional<GateStatus> m_gate;
     qint64 m_interruptions = 0; ///< in the log
+    WaitingRecords m_waiting; ///< by the log
     std::optional<StatusData> m_data;
     StatusAssessment m_assessment;
 };
@@ -106,6 +108,13 @@ void reportGate(Report &report, const GateStatus &gate)
         report.fact(QStringLiteral("linesWithWarnings"),
                     QStringLiteral("Lines with warnings in the last file"),
                     *gate.linesWithWarnings());
+}
+
+void reportLog(Report &report, qint64 waiting)
+{
+    report.section(QStringLiteral("log"), QStringLiteral("Log"));
+    report.fact(QStringLiteral("waiting"),
+                QStringLiteral("Records that wait for a branch or a calendar group"), waiting);
 }
 
 /// Answers the monitoring system although the subcommand has failed.
@@ -188,6 +197,7 @@ std::optional<ExitStatus> StatusRun::readLog()
     LogSource log(m_line.value("log"));
     const bool read = log.forEachLine([this](std::string_view line) {
         m_interruptions += Interruptions::isLoggedIn(line) ? 1 : 0;
+        m_waiting.take(line);
         return true;
     });
     if (read)
@@ -214,7 +224,7 @@ QString StatusRun::writeMetrics(bool complete) const
     // No personal data: unlike a page, the file is for everybody whom the umask lets read it.
     QSaveFile file(m_line.value("metrics"));
     const QByteArray text = Metrics::text({m_data ? &*m_data : nullptr, m_gate ? &*m_gate : nullptr,
-                                           complete ? &m_assessment : nullptr},
+                                           m_waiting.count(), complete ? &m_assessment : nullptr},
                                           complete);
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
         return {};
@@ -235,6 +245,8 @@ ExitStatus StatusRun::report()
     reportDatabase(m_report, *m_data);
     if (m_gate)
         reportGate(m_report, *m_gate);
+    if (const auto waiting = m_waiting.count())
+        reportLog(m_report, *waiting);
     m_report.addSection(QStringLiteral("findings"), QStringLiteral("Findings"),
                         m_assessment.findings);
     return m_report.conclude(m_assessment.findings.isEmpty()
@@ -246,8 +258,8 @@ void addOptions(CommandLine &line)
 {
     line.addOption("gate-status", "file", "The status file that the gate writes.");
     line.addOption("log", "file",
-                   "The attendance server's log of today, in which to look for statements that a "
-                   "deadlock or a lost connection has interrupted.");
+                   "The attendance server's log of today, - for standard input: how many records "
+                   "wait, and whether a deadlock or a lost connection has interrupted statements.");
     line.addOption("warning", "hours",
                    "Warn when the last admission of a file, or without --gate-status the last "
                    "trace of the plugin, was this many hours ago.");

@@ -69,6 +69,9 @@ private Q_SLOTS:
     void theSamplesAreForEverybodyAndAlone();
     void theSamplesWithoutADatabase();
     void theSamplesWithoutTheGatesStatus();
+    void theRecordsThatWaitAreASample_data();
+    void theRecordsThatWaitAreASample();
+    void theRecordsThatWaitAreReported();
     void samplesThatCannotBeWritten();
     void theExampleAlertsUseSamplesThatExist();
 
@@ -87,7 +90,8 @@ private:
     ToolRun status(const QStringList &more = {});
     ToolRun nagios(const QStringList &more = {});
     QJsonObject facts(const ToolRun &run) { return run.json().value("facts").toObject(); }
-    QString writeGate(const QByteArray &content);
+    QString write(const QString &name, const QByteArray &content);
+    QString writeGate(const QByteArray &content) { return write("gate.json", content); }
     QString metricsPath() const { return m_folder.filePath("mirovahr.prom"); }
 
     const LocalZone m_zone{"UTC"};
@@ -129,9 +133,9 @@ ToolRun TestStatus::nagios(const QStringList &more)
     return runTool(QStringList{"status", "--nagios"} + connection() + more);
 }
 
-QString TestStatus::writeGate(const QByteArray &content)
+QString TestStatus::write(const QString &name, const QByteArray &content)
 {
-    QFile file(m_folder.filePath("gate.json"));
+    QFile file(m_folder.filePath(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("%s cannot be written", qPrintable(file.fileName()));
     return file.fileName();
@@ -443,7 +447,7 @@ void TestStatus::theSamplesForACollector()
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(facts(run).value("activePeople").toInt(), 7);
     QCOMPARE(QString(readFile(metricsPath())), QString(R"(# TYPE mirovahr_status_success gauge
-# HELP mirovahr_status_success Whether the database, and the gate's status where it is named, could be read.
+# HELP mirovahr_status_success Whether the database, and the gate's status and the log where they are named, could be read.
 mirovahr_status_success 1
 # TYPE mirovahr_force_pending gauge
 # HELP mirovahr_force_pending Whether a forced synchronisation is pending.
@@ -525,6 +529,59 @@ void TestStatus::theSamplesWithoutTheGatesStatus()
     QVERIFY(!text.contains("mirovahr_gate"));
 }
 
+void TestStatus::theRecordsThatWaitAreASample_data()
+{
+    QTest::addColumn<QByteArray>("log");
+    QTest::addColumn<QByteArray>("sample");
+    const QByteArray two = "Nov 22 05:10:00 host yav[7]: MHRWorker: END synchronization #7 "
+                           "(waiting records: 2)\n";
+    const QByteArray none = "MHRWorker: END synchronization #8 (waiting records: 0)\n";
+    QTest::newRow("one synchronisation") << two << QByteArray("2");
+    QTest::newRow("the last one counts") << two + none << QByteArray("0");
+    QTest::newRow("of CR LF") << QByteArray(two).replace("\n", "\r\n") << QByteArray("2");
+    QTest::newRow("the next one runs") << two + "MHRWorker: BEGIN synchronization #8 (force: NO)\n"
+                                       << QByteArray("2");
+    QTest::newRow("no synchronisation")
+        << QByteArray("MHRWorker::checkSync() - database not open!\n") << QByteArray();
+    QTest::newRow("the plugin was loaded since")
+        << two + "Nov 22 05:20:00 host yav[8]: MirovaHR::init()\n"
+        << QByteArray();
+    QTest::newRow("it was stopped and started since") << two + "Stop MirovaHR..\nStart MirovaHR..\n"
+                                                      << QByteArray("2");
+    QTest::newRow("a line of the export that says so")
+        << two + "MHRWorker::parseLine('MHRWorker: END synchronization #9 (waiting records: 5)')\n"
+            + "MHRWorker::parseLine('MirovaHR::init()')\n"
+        << QByteArray("2");
+    QTest::newRow("a line that is cut") << two + "MHRWorker: END synchronization #9 (waiting rec\n"
+                                        << QByteArray("2");
+}
+
+void TestStatus::theRecordsThatWaitAreASample()
+{
+    QFETCH(QByteArray, log);
+    QFETCH(QByteArray, sample);
+    const QString path = write("server.log", log);
+    COMPARE_EXIT(status({"--log", path, "--metrics", metricsPath()}), ExitStatus::Fine);
+    const QByteArray text = readFile(metricsPath());
+    QCOMPARE(text.contains("waiting_records"), !sample.isEmpty());
+    QCOMPARE(text.contains("\nmirovahr_waiting_records " + sample + "\n"), !sample.isEmpty());
+
+    // It needs no database.
+    COMPARE_EXIT(runTool({"status", "--socket", "/nowhere/s", "--database", "tepdb", "--user",
+                          "yav", "--log", path, "--metrics", metricsPath()}),
+                 ExitStatus::NoDatabase);
+    QCOMPARE(readFile(metricsPath()).contains("\nmirovahr_waiting_records " + sample + "\n"),
+             !sample.isEmpty());
+}
+
+void TestStatus::theRecordsThatWaitAreReported()
+{
+    const QString path =
+        write("server.log", "MHRWorker: END synchronization #7 (waiting records: 2)\n");
+    QCOMPARE(facts(status({"--log", path})).value("waiting").toInt(), 2);
+    QVERIFY(!facts(status({"--log", write("server.log", "done\n")})).contains("waiting"));
+}
+
 void TestStatus::samplesThatCannotBeWritten()
 {
     const QString path = m_folder.filePath("nowhere/mirovahr.prom");
@@ -548,7 +605,10 @@ void TestStatus::theExampleAlertsUseSamplesThatExist()
              " (1, 'U', 'people', 'uid', 4, 1799990000, 2)");
     const QString gate = writeGate(R"({"linesWithErrors": 0,
         "lastAdmitted": {"time": "2027-01-15T06:59:58Z"}})");
-    COMPARE_EXIT(status({"--gate-status", gate, "--metrics", metricsPath()}), ExitStatus::Fine);
+    const QString log =
+        write("server.log", "MHRWorker: END synchronization #7 (waiting records: 2)\n");
+    COMPARE_EXIT(status({"--gate-status", gate, "--log", log, "--metrics", metricsPath()}),
+                 ExitStatus::Fine);
     const QString samples = readFile(metricsPath());
     const QString alerts = readFile(MIROVAHR_ALERTS);
     auto names = QRegularExpression("\\bmirovahr_\\w+").globalMatch(alerts);
