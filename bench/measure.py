@@ -29,9 +29,10 @@ FULL = {
     "serve": {1_000: (51, 20), 10_000: (15, 40), 100_000: (7, 60)},
     "load": {1_000: (9, 90), 3_000: (7, 210), 10_000: (7, 900)},
     "start": {0: (31, 30)},
-    # Years, rounds and seconds by people; rounds by lines of a file.
+    # Years, rounds and seconds by people; rounds by lines of an export or of a log.
     "site": {500: (5, 5, 300), 5_000: (10, 3, 900)},
     "files": {5_000: 9, 1_000_000: 3},
+    "logs": {1_000_000: 5},
 }
 QUICK = {
     "reading": {10_000: (5, 5)},
@@ -41,6 +42,7 @@ QUICK = {
     "start": {0: (5, 5)},
     "site": {100: (1, 1, 5)},
     "files": {1_000: 1},
+    "logs": {1_000: 1},
 }
 #: Small, and the same in both forms: the counts are compared with those kept.
 COUNTED = {"reading": 10_000, "serve": 1_000, "load": 200}
@@ -180,6 +182,8 @@ class Bench:
             site.measure_site(people, *limits)
         for lines, rounds in self.plan["files"].items():
             site.measure_files(lines, rounds)
+        for lines, rounds in self.plan["logs"].items():
+            site.measure_log(lines, rounds)
         self.sql(data.frame_sql())
 
     def instructions(self):
@@ -288,7 +292,7 @@ def main():
     with tempfile.TemporaryDirectory(prefix="bench-", dir=folder) as scratch:
         plan = QUICK if arguments.quick else FULL
         if arguments.people:
-            plan = {**plan, "site": {arguments.people: (arguments.years, 1, 1)}, "files": {}}
+            plan = {**plan, "site": {arguments.people: (arguments.years, 1, 1)}, "files": {}, "logs": {}}
         Bench(arguments.build.resolve(), pathlib.Path(scratch), plan).sql(data.frame_sql())
         for section in arguments.sections or SECTIONS:
             begin = time.monotonic()

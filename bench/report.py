@@ -72,8 +72,17 @@ class Measured:
         return {int(people): facts for people, facts in self.facts.get("site", {}).items()}
 
     def files(self):
-        """What was noted of each file, by its lines."""
+        """What was noted of each export, by its lines."""
         return {int(lines): facts for lines, facts in self.facts.get("files", {}).items()}
+
+    def logs(self):
+        """What was noted of each log, by its lines."""
+        return {int(lines): facts for lines, facts in self.facts.get("logs", {}).items()}
+
+    def log_ratio(self, lines):
+        """The times of log to those of awk, which followed it."""
+        log, awk = (self.runs["site", lines, what, "tool"] for what in ("log", "awk"))
+        return statistics.median(a[0] / b[0] for a, b in zip(log, awk))
 
 
 # ---- Texts -----------------------------------------------------------------------------------
@@ -177,6 +186,9 @@ def site_aims(measured):
            max((facts["memory"][what] / facts["bytes"], lines)
                for lines, facts in files.items() if lines > 5000))
           for what in ("check-file", "gate") if any(lines > 5000 for lines in files)),
+        ("log, seconds", 5, longest("log", measured.logs())),
+        ("log, time to awk, which only counts", 1,
+         max(((measured.log_ratio(lines), lines) for lines in measured.logs()), default=None)),
     ]
 
 
@@ -204,6 +216,10 @@ def tools_table(measured):
               duration(measured.tool(what, lines)), megabytes(facts["memory"][what]))
              for what in ("check-file", "gate", "diff")
              for lines, facts in sorted(measured.files().items())]
+    rows += [(what, f"{lines:,} lines, {megabytes(facts['bytes'])}",
+              duration(measured.tool(what, lines)), megabytes(facts["memory"][what]))
+             for what in ("log", "awk")
+             for lines, facts in sorted(measured.logs().items())]
     return table(["", "", "time", "memory"], rows)
 
 

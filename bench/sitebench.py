@@ -7,6 +7,7 @@ import time
 
 import data
 import grownsite
+import serverlog
 from usage import run_measured
 
 #: Whom explain is asked about: somebody who is moved.
@@ -166,3 +167,16 @@ class SiteBench:
             self.run_tool("gate", "--from", files[(nth + 1) % 2], *gate)
         self.bench.note("files", str(lines), self.facts)
         subprocess.run(["rm", "-r", state, *files], check=True)
+
+    def measure_log(self, lines, rounds):
+        """log with so many lines, beside awk, which only counts the plugin's by their first words."""
+        self.size = lines
+        self.facts = {}
+        log = self.bench.scratch / "log"
+        serverlog.write(log, lines)
+        self.facts["bytes"] = log.stat().st_size
+        for _ in range(rounds):
+            self.run_tool("log", log)
+            self.run_program("awk", "awk", '/MHRWorker/ { count[$6 " " $7]++ }', log)
+        self.bench.note("logs", str(lines), self.facts)
+        log.unlink()
