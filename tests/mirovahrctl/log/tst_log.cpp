@@ -58,9 +58,13 @@ private Q_SLOTS:
     void aTimeWithoutAYearIsOfTheLastOne();
     void theLinesOfOthersAreNoMatter();
     void aProblemSaysWhatItMeansAndWhomItConcerns();
+    void aTextThatEndsLikeAnotherOneIsItself();
+    void aNameWithAnApostropheIsWhole();
     void problemsOfOneThingAreOneFinding();
+    void whatComesAfterTheEndIsAboutNobody();
     void whatNeedsNoActionIsANote();
     void anErrorTakesBackOnlyWhatTheLogHasCounted();
+    void aBalanceOutOfRangeTakesBackNoCorrection();
     void anInterruptedStatementPointsToDrift_data();
     void anInterruptedStatementPointsToDrift();
     void aSynchronisationWithoutEndIsFound();
@@ -69,6 +73,9 @@ private Q_SLOTS:
     void aMissingSynchronisationIsFound();
     void aTickThatNeverCameIsFound();
     void aSynchronisationThatKeepsTheWorkerBusyMissesNoTick();
+    void forcedSynchronisationsAreNoMeasure();
+    void twoSynchronisationsAreNoMeasure();
+    void aRestartMissesNothing();
     void withoutTimesNothingIsMissed();
     void debugLevelZeroCannotTell();
     void aLogOfOthersIsAFinding();
@@ -211,6 +218,34 @@ void TestLog::aProblemSaysWhatItMeansAndWhomItConcerns()
     QCOMPARE(error["subject"].toString(), QString("1235.1 Novák Ján"));
 }
 
+void TestLog::aTextThatEndsLikeAnotherOneIsItself()
+{
+    const QStringList whole = synchronisation(1, "01:00", "01:01");
+    const ToolRun run =
+        read(QStringList{whole.first(),
+                         "MHRWorker::dbAddPerson(1235.1) - SQL ERROR: refused (see above)"}
+             + whole.mid(1));
+    QCOMPARE(run.findingsOf("logged-error").size(), 1);
+    QCOMPARE(table(run, "changes").at(0).toObject()["created"].toInt(), 0);
+}
+
+void TestLog::aNameWithAnApostropheIsWhole()
+{
+    const ToolRun run = read({"MHRWorker: Branch '150' NOT FOUND for employee: '1235.1 O'Brien "
+                              "Pat (S: 150, K: 1 from ) N-V:  - '"});
+    QCOMPARE(run.findingsOf("logged-warning").value(0)["subject"].toString(),
+             QString("1235.1 O'Brien Pat"));
+}
+
+void TestLog::whatComesAfterTheEndIsAboutNobody()
+{
+    const QStringList whole = synchronisation(1, "01:00", "01:01");
+    const QString error = "MHRWorker::dbLoadBranches() - SQL ERROR [1146]: no";
+    const ToolRun run = read(QStringList{whole.first(), "MHRWorker::dbCheckFundMove(pid: 12351)"}
+                             + whole.mid(1) + QStringList{error});
+    QCOMPARE(run.findingsOf("logged-error").value(0)["subject"].toString(), QString());
+}
+
 void TestLog::problemsOfOneThingAreOneFinding()
 {
     QStringList lines;
@@ -247,6 +282,22 @@ void TestLog::anErrorTakesBackOnlyWhatTheLogHasCounted()
     const QJsonObject changes = table(run, "changes").at(0).toObject();
     QCOMPARE(changes["created"].toInt(), 0);
     QCOMPARE(changes["updated"].toInt(), 0);
+}
+
+/// The plugin says of both that the move is not written.
+void TestLog::aBalanceOutOfRangeTakesBackNoCorrection()
+{
+    const QString notWritten = "MHRWorker::doSyncRecord() - funds_move type (type=3, valeu=%1) not "
+                               "writed for uid %2 (pid: 12341)";
+    const QStringList whole = synchronisation(1, "01:00", "01:01");
+    const ToolRun run = read(
+        QStringList{whole.first(), "MHRWorker::writeFundMove3(uid: 4, value: 150)",
+                    "MHRWorker::dbCheckFundMove(pid: 12351)", notWritten.arg(2147483647).arg(5),
+                    "MHRWorker::writeFundMove3(uid: 6, value: 300)",
+                    "MHRWorker::writeFundMove3() - SQL ERROR [1]: no", notWritten.arg(300).arg(6)}
+        + whole.mid(1));
+    QCOMPARE(table(run, "changes").at(0).toObject()["corrected"].toInt(), 1);
+    QCOMPARE(table(run, "changes").at(0).toObject()["days"].toDouble(), 1.5);
 }
 
 void TestLog::anInterruptedStatementPointsToDrift_data()
@@ -384,6 +435,38 @@ void TestLog::aSynchronisationThatKeepsTheWorkerBusyMissesNoTick()
     COMPARE_EXIT(read(lines), ExitStatus::Fine);
 }
 
+void TestLog::forcedSynchronisationsAreNoMeasure()
+{
+    QStringList lines;
+    for (const int hour : {1, 2, 3, 4})
+        lines += synchronisation(hour, QString("0%1:00").arg(hour), QString("0%1:00").arg(hour));
+    for (const int minute : {10, 11, 12, 13, 14}) {
+        const QString time = QString("04:%1").arg(minute);
+        lines += synchronisation(minute, time, time).replaceInStrings("NO", "YES");
+    }
+    lines += synchronisation(15, "05:00", "05:00");
+    COMPARE_EXIT(read(lines), ExitStatus::Fine);
+}
+
+void TestLog::twoSynchronisationsAreNoMeasure()
+{
+    COMPARE_EXIT(read(synchronisation(1, "01:00", "01:01") + synchronisation(2, "01:30", "01:31")
+                      + synchronisation(3, "09:00", "09:01")),
+                 ExitStatus::Fine);
+}
+
+/// Also where the lines of the stop and the start are missing: the plugin counts from 1 again.
+void TestLog::aRestartMissesNothing()
+{
+    QStringList lines = synchronisation(1, "01:00", "01:00");
+    int minute = 0;
+    for (const int tick : {1, 2, 3, 4, 1, 2, 3}) {
+        minute += tick == 1 ? 20 : 1;
+        lines << QString("2021-11-22 01:%1:00 MHRWorker::checkSync(): #%2").arg(minute).arg(tick);
+    }
+    COMPARE_EXIT(read(lines), ExitStatus::Fine);
+}
+
 void TestLog::withoutTimesNothingIsMissed()
 {
     QStringList lines;
@@ -427,6 +510,9 @@ void TestLog::cutLines_data()
     QTest::newRow("in the name") << QByteArray("x MHRWorker::dbAddPe") << Outcome::Unknown;
     QTest::newRow("another version")
         << QByteArray("MHRWorker::dbAddPerson(1235.1) - done") << Outcome::Unknown;
+    QTest::newRow("in a longer word")
+        << QByteArray("XMHRWorker: END synchronization #1 (waiting records: 0)")
+        << Outcome::Foreign;
     QTest::newRow("too short") << QByteArray("MirovaHR is") << Outcome::Foreign;
     QTest::newRow("whole") << QByteArray("MHRWorker::dbAddPerson(1235.1)") << Outcome::Found;
 }

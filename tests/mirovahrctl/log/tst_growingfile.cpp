@@ -1,0 +1,162 @@
+#include "mirovahrctl/log/growingfile.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+namespace {
+
+const QByteArray kText = "BEGIN #";
+
+/// In blocks of so many bytes it is searched from its end.
+constexpr int kBlock = 256 * 1024;
+
+void append(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::Append | QIODevice::Unbuffered) || file.write(bytes) != bytes.size())
+        qFatal("%s cannot be written", qPrintable(path));
+}
+
+/// What a file hands on; "|" where it begins anew.
+void collect(GrowingFile &file, QByteArray &bytes)
+{
+    QObject::connect(&file, &GrowingFile::read,
+                     [&bytes](const QByteArray &block) { bytes += block; });
+    QObject::connect(&file, &GrowingFile::begunAnew, [&bytes] { bytes += '|'; });
+}
+
+} // namespace
+
+/// The file of log --follow, step by step: what happens between two looks at it.
+class TestGrowingFile : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void theOldFileIsReadUntilTheNewOneIsWritten();
+    void aNewFileIsTakenThoughTheNameWasFree();
+    void anEmptiedFileBeginsAnew();
+    void aPipeInItsPlaceIsNotOpened();
+    void aSearchFindsWhatReachesAcrossBlocks();
+    void aLineThatIsLongerThanABlockIsWhole();
+
+private:
+    QScopedPointer<QTemporaryDir> m_folder;
+    QString m_path;
+    QString m_old;
+};
+
+void TestGrowingFile::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    m_path = m_folder->filePath("log");
+    m_old = m_folder->filePath("log.1");
+}
+
+/// As logrotate does: the server has the old file open until it is told to open the new one.
+void TestGrowingFile::theOldFileIsReadUntilTheNewOneIsWritten()
+{
+    append(m_path, "a");
+    GrowingFile file(m_path);
+    QByteArray bytes;
+    collect(file, bytes);
+    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    file.readOn();
+    QVERIFY(QFile::rename(m_path, m_old));
+    append(m_path, "");
+    file.readOn();
+    append(m_old, "b");
+    file.readOn();
+    QCOMPARE(bytes, QByteArray("ab"));
+    append(m_old, "c");
+    append(m_path, "d");
+    file.readOn();
+    QCOMPARE(bytes, QByteArray("abc|d"));
+    append(m_old, "e");
+    append(m_path, "f");
+    file.readOn();
+    QCOMPARE(bytes, QByteArray("abc|df"));
+}
+
+void TestGrowingFile::aNewFileIsTakenThoughTheNameWasFree()
+{
+    append(m_path, "a");
+    GrowingFile file(m_path);
+    QByteArray bytes;
+    collect(file, bytes);
+    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    file.readOn();
+    QVERIFY(QFile::remove(m_path));
+    file.readOn();
+    append(m_path, "b");
+    file.readOn();
+    QCOMPARE(bytes, QByteArray("a|b"));
+}
+
+void TestGrowingFile::anEmptiedFileBeginsAnew()
+{
+    append(m_path, "abc");
+    GrowingFile file(m_path);
+    QByteArray bytes;
+    collect(file, bytes);
+    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    file.readOn();
+    QVERIFY(QFile::resize(m_path, 0));
+    append(m_path, "d");
+    file.readOn();
+    append(m_path, "e");
+    file.readOn();
+    QCOMPARE(bytes, QByteArray("abc|de"));
+}
+
+/// Opening one would wait for whoever writes into it.
+void TestGrowingFile::aPipeInItsPlaceIsNotOpened()
+{
+    append(m_path, "a");
+    GrowingFile file(m_path);
+    QByteArray bytes;
+    collect(file, bytes);
+    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    QVERIFY(QFile::rename(m_path, m_old));
+    QCOMPARE(mkfifo(QFile::encodeName(m_path).constData(), 0600), 0);
+    append(m_old, "b");
+    file.readOn();
+    QCOMPARE(bytes, QByteArray("ab"));
+}
+
+void TestGrowingFile::aSearchFindsWhatReachesAcrossBlocks()
+{
+    const QByteArray begin = "x\ntime " + kText + "1\n";
+    const QByteArray wanted = "time " + kText;
+    for (int behind = kBlock - 20; behind <= kBlock + 5; ++behind) {
+        const QByteArray rest = "2\n" + QByteArray(behind - 2, 'y');
+        QVERIFY(!QFile::exists(m_path) || QFile::remove(m_path));
+        append(m_path, begin + wanted + rest);
+        GrowingFile file(m_path);
+        QByteArray bytes;
+        collect(file, bytes);
+        QVERIFY2(file.open(), qPrintable(file.errorString()));
+        file.skipToLast(kText, 1);
+        file.readOn();
+        QVERIFY2(bytes == wanted + rest, QByteArray::number(behind));
+    }
+}
+
+void TestGrowingFile::aLineThatIsLongerThanABlockIsWhole()
+{
+    const QByteArray line = QByteArray(3 * kBlock, 'x') + kText + '\n';
+    append(m_path, "a\n" + line + "b\n");
+    GrowingFile file(m_path);
+    QByteArray bytes;
+    collect(file, bytes);
+    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    file.skipToLast(kText, 1);
+    file.readOn();
+    QVERIFY(bytes == line + "b\n");
+}
+
+QTEST_GUILESS_MAIN(TestGrowingFile)
+#include "tst_growingfile.moc"
