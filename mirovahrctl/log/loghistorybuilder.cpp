@@ -15,6 +15,13 @@ constexpr std::string_view kBehindName = " (S: ";
 /// No person's name is longer; a line may hold any bytes.
 constexpr size_t kLongestName = 200;
 
+/// It takes longer to make than a short log to read, and never changes.
+const LogMatcher &matcher()
+{
+    static const LogMatcher matcher;
+    return matcher;
+}
+
 QByteArray bytes(std::string_view text)
 {
     return {text.data(), int(text.size())};
@@ -95,7 +102,7 @@ void LogHistoryBuilder::take(std::string_view line)
 {
     ++m_history.lines;
     LoggedText message;
-    const LogMatcher::Outcome outcome = m_matcher.find(line, message);
+    const LogMatcher::Outcome outcome = matcher().find(line, message);
     if (outcome == LogMatcher::Outcome::Foreign)
         return;
     m_history.hasPluginLines = true;

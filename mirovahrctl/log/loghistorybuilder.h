@@ -63,7 +63,6 @@ private:
     void countPeopleWritten(const LoggedText &message, LoggedSynchronisation &current) const;
 
     LogListener *const m_listener;
-    LogMatcher m_matcher;
     LineTime m_times;
     LogHistory m_history;
     std::optional<QDateTime> m_since;
