@@ -80,7 +80,8 @@ constexpr LogText kVacationBalance[] = {
     {RecordLog::kMoveNotWritten,
      "warning",
      Form::Whole,
-     "The correction of the balance was not written, or is out of range.",
+     "The correction of the balance was not written, is out of range, or somebody else wrote the "
+     "same first.",
      "Look at HR's figure; when an error is logged before it, mend that, and force.",
      {Role::None, Role::None, Role::Pid},
      Event::NotCorrected},
@@ -209,8 +210,10 @@ constexpr LogText kBranchCalendarRecalculation[] = {
     {RecordLog::kPlanNotAdded,
      "warning",
      Form::Whole,
-     "The calendar could not be planned, or the person is not there (not created, test mode).",
-     "See the error above, or why the person was not created; then force.",
+     "The calendar could not be planned, somebody else wrote the same first, or the person is not "
+     "there (not created, test mode).",
+     "See the error above, or why the person was not created; then force, and run mirovahrctl "
+     "drift: months may lack the calendar.",
      {Role::Person}},
     {"MHRWorker::dbCheckPersonInBranch(%u, %u)", "debug 2", Form::Whole,
      "Is the person (pid) a member of the branch?"},
