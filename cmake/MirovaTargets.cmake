@@ -97,7 +97,7 @@ endfunction()
 
 # mirovahr_test_defaults(<target> [PLAIN])
 # As mirovahr_defaults, for the tests and what they share. PLAIN: without precompiled headers, which
-# do not fit a target that is linked with Qt5::Gui.
+# do not fit a target that is linked with Qt5::Gui or Qt5::Network.
 function(mirovahr_test_defaults target)
     mirovahr_defaults(${target})
     # Without the flags of both, the precompiled headers are not those of this target.

@@ -4,8 +4,10 @@
 #include "tests/support/patience.h"
 
 #include <QFile>
+#include <QLocalSocket>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <csignal>
 
 namespace {
@@ -54,9 +56,35 @@ void HaProxy::stop()
     m_process.waitForFinished(-1);
 }
 
+QString HaProxy::administer(const QString &command) const
+{
+    QLocalSocket socket;
+    socket.connectToServer(administratorsSocketPath());
+    socket.write(command.toUtf8() + '\n');
+    QByteArray answer;
+    while (socket.waitForReadyRead(kPatienceMs))
+        answer += socket.readAll();
+    return QString::fromUtf8(answer + socket.readAll());
+}
+
+bool HaProxy::waitForState(int number, const QString &state) const
+{
+    constexpr int kName = 1;
+    constexpr int kState = 17;
+    const QString name = QStringLiteral("node%1").arg(number);
+    return pollUntil([&] {
+        const QStringList lines = administer("show stat").split('\n');
+        return std::any_of(lines.begin(), lines.end(), [&](const QString &line) {
+            const QStringList fields = line.split(',');
+            return fields.value(kName) == name && fields.value(kState) == state;
+        });
+    });
+}
+
 bool HaProxy::writeConfiguration()
 {
     QMap<QString, QString> places = {{"127.0.0.1:3306", "unix@" + socketPath()},
+                                     {"/run/haproxy/admin.sock", administratorsSocketPath()},
                                      {"/etc/haproxy/wsrep-check", checkPath()}};
     for (int number = 1; number <= m_cluster.size(); ++number) {
         const ClusterNode &node = m_cluster.node(number);

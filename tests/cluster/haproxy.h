@@ -24,12 +24,20 @@ public:
     void stop();
     QString errorString() const { return m_error; }
 
+    /// What HAProxy answers to a command of its administrator; empty when it does not answer.
+    QString administer(const QString &command) const;
+    /// Waits until HAProxy counts a node as up, or as down.
+    bool waitUntilUp(int number) const { return waitForState(number, "UP"); }
+    bool waitUntilDown(int number) const { return waitForState(number, "DOWN"); }
+
     QString socketPath() const { return m_folder.filePath("haproxy.sock"); }
     /// The check that HAProxy calls. It takes the addresses and ports of the proxy and of a node.
     QString checkPath() const { return m_folder.filePath("wsrep-check"); }
 
 private:
+    QString administratorsSocketPath() const { return m_folder.filePath("admin.sock"); }
     QString configurationPath() const { return m_folder.filePath("haproxy.cfg"); }
+    bool waitForState(int number, const QString &state) const;
     bool writeConfiguration();
     bool writeCheck();
     bool fill(const QString &sample, const QMap<QString, QString> &places, const QString &path);

@@ -1,25 +1,71 @@
+#include "privatedb/hostaccount.h"
 #include "tests/cluster/attendancecluster.h"
+#include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/programrun.h"
 #include "tests/support/testdatabase.h"
+#include "tests/worker/support/middayzone.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QUuid>
 #include <QtTest>
 
 #include <csignal>
+#include <memory>
 
 namespace {
 
 constexpr int kPeople = 60;
 constexpr char kIni[] = "/etc/yav/MirovaHR.ini";
 
+/// A connection through the proxy.
+class Client {
+public:
+    explicit Client(AttendanceCluster &cluster)
+        : m_name(QUuid::createUuid().toString())
+    {
+        QSqlDatabase database = cluster.node(1).server().addConnection(m_name);
+        database.setConnectOptions("UNIX_SOCKET=" + cluster.proxy().socketPath());
+        database.open();
+    }
+    ~Client() { QSqlDatabase::removeDatabase(m_name); }
+    Client(const Client &) = delete;
+    Client &operator=(const Client &) = delete;
+
+    /// Name of the node at its other end; empty when the connection has ended.
+    QString node() const
+    {
+        QSqlQuery query(QSqlDatabase::database(m_name, false));
+        const bool answered = query.exec("SELECT @@wsrep_node_name") && query.next();
+        return answered ? query.value(0).toString() : QString();
+    }
+
+private:
+    const QString m_name;
+};
+
+/// A time zone in which the day begins an hour later than in that of the program, as MariaDB names
+/// it. In the program's it is past one o'clock (settleProgram()).
+QString zoneOneHourWest()
+{
+    constexpr int kWesternmost = -12;
+    const int hours = QDateTime::currentDateTime().offsetFromUtc() / 3600 - 1;
+    return QString::asprintf("%+03d:00", hours < kWesternmost ? hours + 24 : hours);
+}
+
 } // namespace
 
 /// The loaded plugin in a host, with a cluster behind HAProxy and nodes in every state.
 class TestClusterService : public QObject {
     Q_OBJECT
+
+public:
+    static void initMain() { settleProgram(); }
+
 private Q_SLOTS:
     void initTestCase();
     void init();
@@ -33,18 +79,26 @@ private Q_SLOTS:
     void aNodeThatIsNotPrimaryCostsThePluginItsExport();
     void withAReadTimeoutAFrozenNodeIsLeft();
     void aLaggingNodeShowsOldRowsUnlessReadsWait();
-    void aNodeInAnotherTimeZoneComputesOtherMidnights();
+    void clientsStayOnTheNodeToWhichTheyFailedOver();
+    void theAdministratorTakesEverybodyBackToTheFirstNode();
+    void onANodeInAnotherTimeZoneABalanceIsCorrectedTwice();
+    void checkDbFindsTheNodeInAnotherTimeZone();
 
 private:
+    QString passwordFile() const { return m_folder.filePath("password"); }
     QStringList arguments(const QStringList &place) const;
     QStringList throughTheProxy();
     void setPassword(ProgramRun &host);
     int checkOf(int number);
     void isolate(int number, bool isolated);
     int people(int number);
+    std::unique_ptr<Client> clientThatFailedOver();
+    void synchroniseBalance(const QString &days);
+    ToolRun checkDb(int number);
 
     AttendanceCluster m_cluster;
     ExportFile m_export;
+    QTemporaryDir m_folder;
     int m_firstNumber = 40000;
 };
 
@@ -53,6 +107,8 @@ void TestClusterService::initTestCase()
     QVERIFY2(QFileInfo(QStringLiteral("/etc/.machine")).isDir(),
              "This test writes to /etc/yav: run it with scripts/private-view.");
     QVERIFY2(m_cluster.start(), qPrintable(m_cluster.errorString()));
+    QString error;
+    QVERIFY2(HostAccount::writePasswordFile(passwordFile(), error), qPrintable(error));
     QFile ini(kIni);
     QVERIFY(ini.open(QIODevice::WriteOnly));
     ini.write(QStringLiteral("timerInterval=1\nimportFile=\"%1\"\n").arg(m_export.path()).toUtf8());
@@ -73,7 +129,12 @@ void TestClusterService::cleanup()
 {
     for (int number = 1; number <= 3; ++number)
         m_cluster.node(number).thaw();
+    if (!m_cluster.node(1).server().isRunning())
+        return;
     isolate(1, false);
+    TestDatabase database;
+    QVERIFY(database.attach(m_cluster.node(1).server()));
+    database.run("SET GLOBAL time_zone = SYSTEM");
 }
 
 QStringList TestClusterService::arguments(const QStringList &place) const
@@ -120,6 +181,35 @@ int TestClusterService::people(int number)
                    .arg(m_firstNumber)
                    .arg(m_firstNumber + kPeople - 1))
         .toInt();
+}
+
+/// A client that got to node 2 because node 1 was gone. Node 1 is back.
+std::unique_ptr<Client> TestClusterService::clientThatFailedOver()
+{
+    ClusterNode &node = m_cluster.node(1);
+    node.kill();
+    if (!m_cluster.proxy().waitUntilDown(1))
+        return nullptr;
+    auto client = std::make_unique<Client>(m_cluster);
+    return node.start() && m_cluster.proxy().waitUntilUp(1) ? std::move(client) : nullptr;
+}
+
+/// A new plugin reads an export with Jana alone, and this balance.
+void TestClusterService::synchroniseBalance(const QString &days)
+{
+    m_export.write({SampleExport::jana().with(&ExportRow::dovolenaZustatek, days)});
+    ProgramRun host;
+    setPassword(host);
+    QVERIFY(host.run(YAVHOST, arguments(throughTheProxy()) + QStringList{"--once"}));
+    COMPARE_STATUS(host, 0);
+}
+
+ToolRun TestClusterService::checkDb(int number)
+{
+    ClusterNode &node = m_cluster.node(number);
+    return runTool({"check-db", "--json", "--other-account", "--every-node", "--host",
+                    node.address(), "--port", QString::number(node.port()), "--database", "tepdb",
+                    "--user", node.server().userName(), "--password-file", passwordFile()});
 }
 
 void TestClusterService::theFirstLoadReachesEveryNode()
@@ -217,18 +307,59 @@ void TestClusterService::aLaggingNodeShowsOldRowsUnlessReadsWait()
     QCOMPARE(reader.value(read).toString(), "new");
 }
 
-void TestClusterService::aNodeInAnotherTimeZoneComputesOtherMidnights()
+void TestClusterService::clientsStayOnTheNodeToWhichTheyFailedOver()
 {
-    const QString midnight = "SELECT midnightFromTs(1700000000)";
-    QSet<QString> midnights;
-    for (int number : {1, 2}) {
-        TestDatabase database;
-        QVERIFY(database.attach(m_cluster.node(number).server()));
-        if (number == 2)
-            database.run("SET SESSION time_zone = '-11:00'");
-        midnights += database.value(midnight).toString();
-    }
-    QCOMPARE(midnights.size(), 2);
+    const auto client = clientThatFailedOver();
+    QVERIFY(client);
+    QCOMPARE(client->node(), "node2");
+    QCOMPARE(Client(m_cluster).node(), "node2");
+    m_cluster.node(2).kill();
+    QVERIFY(m_cluster.proxy().waitUntilDown(2));
+    QCOMPARE(client->node(), QString());
+    QCOMPARE(Client(m_cluster).node(), "node1");
+}
+
+void TestClusterService::theAdministratorTakesEverybodyBackToTheFirstNode()
+{
+    const auto client = clientThatFailedOver();
+    QVERIFY(client);
+    QCOMPARE(client->node(), "node2");
+    m_cluster.proxy().administer("clear table attendance");
+    m_cluster.proxy().administer("shutdown sessions server attendance/node2");
+    QCOMPARE(client->node(), QString());
+    QCOMPARE(Client(m_cluster).node(), "node1");
+}
+
+/// The plugin corrects a balance once a day. A node of another zone has another today: it does not
+/// see the correction as today's, but as one before.
+void TestClusterService::onANodeInAnotherTimeZoneABalanceIsCorrectedTwice()
+{
+    const QString correction = "SELECT value FROM funds_move WHERE type = 3 AND uid = 4"
+                               " ORDER BY day DESC LIMIT 1";
+    TestDatabase node;
+    QVERIFY(node.attach(m_cluster.node(1).server()));
+    synchroniseBalance("20");
+    QCOMPARE(node.value(correction).toInt(), 250);
+    synchroniseBalance("21.5");
+    QCOMPARE(node.value(correction).toInt(), 250);
+    node.run("SET GLOBAL time_zone = '" + zoneOneHourWest() + '\'');
+    synchroniseBalance("21.5");
+    // The difference alone, in the place of the correction that it was to be added to.
+    QCOMPARE(node.value(correction).toInt(), 150);
+    QCOMPARE(m_cluster.inequalities().join('\n'), QString());
+}
+
+void TestClusterService::checkDbFindsTheNodeInAnotherTimeZone()
+{
+    TestDatabase node;
+    QVERIFY(node.attach(m_cluster.node(1).server()));
+    node.run("SET GLOBAL time_zone = '" + zoneOneHourWest() + '\'');
+    const ToolRun there = checkDb(1);
+    COMPARE_EXIT(there, ExitStatus::ContractBroken);
+    QCOMPARE(there.findingsOf("time-zone").size(), 1);
+    const ToolRun elsewhere = checkDb(2);
+    QCOMPARE(elsewhere.findingsOf("time-zone").size(), 0);
+    QCOMPARE(elsewhere.findingsOf("cluster-node-time-zone").size(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestClusterService)
