@@ -6,16 +6,6 @@
 
 namespace {
 
-/// Fits the whole text, in which "*" stands for any text, "#" for a uid and "&" for a terminal.
-QRegularExpression wildcard(const QString &pattern)
-{
-    QString expression = QRegularExpression::escape(pattern);
-    expression.replace("\\*", ".*");
-    expression.replace("\\#", "(?<uid>\\S+)");
-    expression.replace("\\&", "(?<tid>\\d)");
-    return QRegularExpression(QRegularExpression::anchoredPattern(expression));
-}
-
 QString pidOf(const QString &uid)
 {
     static const QMap<QString, QString> pids = {
@@ -204,6 +194,15 @@ QVector<Difference> makeDifferences()
 }
 
 } // namespace
+
+QRegularExpression wildcard(const QString &pattern)
+{
+    QString expression = QRegularExpression::escape(pattern);
+    expression.replace("\\*", ".*");
+    expression.replace("\\#", "(?<uid>\\S+)");
+    expression.replace("\\&", "(?<tid>\\d)");
+    return QRegularExpression(QRegularExpression::anchoredPattern(expression));
+}
 
 const QVector<Reaction> &reactions()
 {

@@ -5,6 +5,9 @@
 #include <QStringList>
 #include <QVector>
 
+/// Fits a whole text, in which "*" stands for any text, "#" for a uid and "&" for a terminal.
+QRegularExpression wildcard(const QString &pattern);
+
 /// What the log says when a command fails.
 struct Reaction {
     QRegularExpression command; ///< fits its text
@@ -23,10 +26,9 @@ const Reaction &reactionTo(const QString &command);
 
 /// A lasting difference from the database after an undisturbed run, and why it is inevitable.
 struct Difference {
-    // "*" stands for any text, "#" for a person's uid, "@" for the same person's pid, "&" for a
-    // terminal.
-    QString line; ///< of StateChanges::between(undisturbed, disturbed)
-    QStringList causes; ///< Commands, of which one was not carried out.
+    QString line; ///< of StateChanges::between(undisturbed, disturbed), for wildcard()
+    /// Commands, of which one was not carried out; "@" is the pid of the person with the line's uid.
+    QStringList causes;
     QString reason;
 
     bool explains(const QString &line, const QStringList &notCarriedOut) const;

@@ -126,6 +126,7 @@ DatabaseState FaultCycle::state()
 QString FaultCycle::plain(QString text) const
 {
     static const QRegularExpression newUid("\\b7\\d{4}\\b");
-    const QString number = QString::number(m_newNumber);
-    return text.replace(number + '1', "<pid>").replace(number, "<number>").replace(newUid, "<uid>");
+    return text.replace(newPid(), "<pid>")
+        .replace(QString::number(m_newNumber), "<number>")
+        .replace(newUid, "<uid>");
 }

@@ -47,6 +47,8 @@ public:
     DatabaseState state();
     /// The text of a command or of a line of the log, with the same replacements.
     QString plain(QString text) const;
+    /// Of the new employee of this run.
+    QString newPid() const { return QString::number(m_newNumber) + '1'; }
 
 private:
     QVector<ExportRow> lines() const;
