@@ -13,7 +13,7 @@ project_packages=(cmake ninja-build g++ qtbase5-dev qttools5-dev libqt5sql5-mysq
 test_packages=(chromium libfaketime man-db mandoc xz-utils zstd)
 
 # What the tests of clusters take besides: Galera, what transfers a node's state, the proxy.
-cluster_packages=(galera-4 haproxy iproute2 lsof rsync)
+cluster_packages=(galera-4 haproxy iproute2 mariadb-backup socat)
 
 # What it takes to measure the plugin.
 bench_packages=(binutils gnuplot-nox libmariadb-dev mariadb-client python3 valgrind)

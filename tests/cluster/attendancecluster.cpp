@@ -20,8 +20,7 @@ QStringList settings()
 {
     static const QRegularExpression setting("^(\\w+)\\s*=\\s*(.+)$",
                                             QRegularExpression::MultilineOption);
-    static const QRegularExpression ofThePlace(
-        "address|name|wsrep_provider|wsrep_provider_options|wsrep_sst_method");
+    static const QRegularExpression ofThePlace("address|name|wsrep_provider|wsrep_sst");
     QFile file(QStringLiteral(MIROVAHR_CLUSTER_FILES "/galera.cnf"));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s", qPrintable(file.errorString()));

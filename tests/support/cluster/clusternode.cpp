@@ -101,7 +101,7 @@ bool ClusterNode::launch(const QStringList &further)
                     "--wsrep-node-address=" + address(),
                     "--wsrep-node-incoming-address=" + m_net.endpoint(m_number, Port::Clients),
                     QStringLiteral("--wsrep-node-name=node%1").arg(m_number),
-                    "--wsrep-sst-method=rsync",
+                    "--wsrep-sst-method=private", "--wsrep-sst-auth=root:",
                     "--wsrep-sst-receive-address=" + m_net.endpoint(m_number, Port::FullTransfer),
                     "--wsrep-provider-options=" + providerOptions()}
         + m_options + further);
@@ -163,6 +163,12 @@ void ClusterNode::kill()
     m_wasKilled = m_wasKilled || m_server.isRunning();
     m_server.kill();
     m_isFrozen = false;
+}
+
+void ClusterNode::forgetPosition()
+{
+    QFile::remove(m_server.dataDir() + "/grastate.dat");
+    m_wasKilled = false;
 }
 
 void ClusterNode::freeze()

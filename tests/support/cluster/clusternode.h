@@ -36,6 +36,9 @@ public:
     bool stop();
     /// Ends the node at once (SIGKILL), as a crash would.
     void kill();
+    /// Makes a node that is not running ask for all data when it comes back, as one does that was
+    /// away for so long that nobody has what it missed.
+    void forgetPosition();
     /// Stops the process as it is (SIGSTOP): it keeps its connections and answers nothing.
     void freeze();
     void thaw(); ///< Undoes freeze().

@@ -27,6 +27,8 @@ QString newUuid()
 GaleraCluster::GaleraCluster(int nodes)
     : m_net(nodes)
 {
+    // Where the nodes find the script of their "wsrep_sst_method".
+    qputenv("PATH", qgetenv("PATH") + ":" MIROVAHR_TRANSFER_SCRIPTS);
     for (int number = 1; number <= nodes; ++number)
         m_nodes.push_back(std::make_unique<ClusterNode>(m_net, number));
 }

@@ -15,7 +15,8 @@
 ///
 /// All nodes begin with the same data and form the cluster together, as after a power failure: no
 /// state is transferred then. A node that comes back later (ClusterNode::start()) gets what it
-/// missed from another one, for which it runs the script wsrep_sst_rsync: that must be in PATH.
+/// missed from another one, for which it runs the script wsrep_sst_mariabackup: that must be in
+/// PATH.
 class GaleraCluster {
 public:
     explicit GaleraCluster(int nodes = 3);

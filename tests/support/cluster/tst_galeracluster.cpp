@@ -32,6 +32,7 @@ private Q_SLOTS:
     void everyNodeHasWhatAnotherWrites();
     void aNodeThatWasStoppedGetsWhatItMissed();
     void aNodeThatWasKilledGetsWhatItMissed();
+    void aNodeThatWasAwayTooLongGetsACopyOfAnother();
     void theAdministratorIsReachedByTheSocketOnly();
 
 private:
@@ -42,12 +43,13 @@ void TestGaleraCluster::initTestCase()
 {
     QVERIFY2(m_cluster.start({}, PrivateMariaDb::HostRights::All),
              qPrintable(m_cluster.errorString()));
-    answer(m_cluster.node(1), "CREATE TABLE t (id INT PRIMARY KEY)");
+    QCOMPARE(answer(m_cluster.node(1), "CREATE TABLE t (id INT PRIMARY KEY)"), QString());
+    QVERIFY2(m_cluster.waitUntilSettled(), qPrintable(m_cluster.errorString()));
 }
 
 void TestGaleraCluster::everyNodeHasWhatAnotherWrites()
 {
-    answer(m_cluster.node(2), "INSERT INTO t VALUES (1)");
+    QCOMPARE(answer(m_cluster.node(2), "INSERT INTO t VALUES (1)"), QString());
     QVERIFY2(m_cluster.waitUntilSettled(), qPrintable(m_cluster.errorString()));
     for (int number = 1; number <= m_cluster.size(); ++number)
         QCOMPARE(answer(m_cluster.node(number), "SELECT id FROM t WHERE id = 1"), "1");
@@ -71,6 +73,18 @@ void TestGaleraCluster::aNodeThatWasKilledGetsWhatItMissed()
     answer(m_cluster.node(2), "INSERT INTO t VALUES (3)");
     QVERIFY2(node.start(), qPrintable(node.errorString()));
     QCOMPARE(answer(node, "SELECT id FROM t WHERE id = 3"), "3");
+}
+
+void TestGaleraCluster::aNodeThatWasAwayTooLongGetsACopyOfAnother()
+{
+    ClusterNode &node = m_cluster.node(3);
+    QVERIFY2(node.stop(), qPrintable(node.errorString()));
+    QVERIFY2(m_cluster.waitUntilSettled(), qPrintable(m_cluster.errorString()));
+    answer(m_cluster.node(2), "INSERT INTO t VALUES (4)");
+    node.forgetPosition();
+    QVERIFY2(node.start(), qPrintable(node.errorString()));
+    QVERIFY2(node.log().contains("SST received"), qPrintable(node.log()));
+    QCOMPARE(answer(node, "SELECT id FROM t WHERE id = 4"), "4");
 }
 
 void TestGaleraCluster::theAdministratorIsReachedByTheSocketOnly()
