@@ -20,6 +20,7 @@ import tempfile
 import time
 
 import data
+from clusterbench import ClusterBench
 from sitebench import SiteBench
 
 #: What is measured how often and for how long at most (rounds, seconds), by size.
@@ -33,6 +34,7 @@ FULL = {
     "site": {500: (5, 5, 300), 5_000: (10, 3, 900)},
     "files": {5_000: 9, 1_000_000: 3},
     "logs": {1_000_000: 5},
+    "cluster": {500: (7, 1500)},
 }
 QUICK = {
     "reading": {10_000: (5, 5)},
@@ -43,6 +45,7 @@ QUICK = {
     "site": {100: (1, 1, 5)},
     "files": {1_000: 1},
     "logs": {1_000: 1},
+    "cluster": {50: (1, 60)},
 }
 #: Small, and the same in both forms: the counts are compared with those kept.
 COUNTED = {"reading": 10_000, "serve": 1_000, "load": 200}
@@ -186,6 +189,11 @@ class Bench:
             site.measure_log(lines, rounds)
         self.sql(data.frame_sql())
 
+    def cluster(self):
+        cluster = ClusterBench(self)
+        for people, limits in self.plan["cluster"].items():
+            cluster.measure(people, *limits)
+
     def instructions(self):
         export = self.scratch / "plain"
         data.write_export(export, COUNTED["reading"])
@@ -220,6 +228,8 @@ class Bench:
 
 
 SECTIONS = ["reading", "idle", "serve", "load", "start", "site", "instructions"]
+#: Only measured when it is named: it needs a cluster besides (private-cluster).
+NAMED_SECTIONS = ["cluster"]
 
 
 def output_of(*command):
@@ -281,8 +291,8 @@ def main():
     parser.add_argument("--people", type=int)
     parser.add_argument("--years", type=int)
     arguments = parser.parse_intermixed_args()
-    if not set(arguments.sections) <= set(SECTIONS):
-        sys.exit("sections: " + " ".join(SECTIONS))
+    if not set(arguments.sections) <= set(SECTIONS + NAMED_SECTIONS):
+        sys.exit("sections: " + " ".join(SECTIONS + NAMED_SECTIONS))
     if (arguments.people is None) != (arguments.years is None):
         sys.exit("--people and --years go together")
 

@@ -465,4 +465,5 @@ def main():
         write_page(measured, arguments.folder)
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -39,8 +39,6 @@ Site::Site()
     , m_host(connection("host", m_socket, m_user, m_password, m_database))
     , m_administrator(connection("administrator", m_socket, "root", QByteArray(), m_database))
 {
-    if (!m_administrator.open())
-        giveUp(m_administrator.lastError().text());
 }
 
 plain_account Site::plain() const
@@ -49,9 +47,17 @@ plain_account Site::plain() const
             m_database.constData()};
 }
 
+QSqlDatabase Site::administrator() const
+{
+    QSqlDatabase administrator = m_administrator;
+    if (!administrator.isOpen() && !administrator.open())
+        giveUp(administrator.lastError().text());
+    return administrator;
+}
+
 void Site::administer(const QString &sql) const
 {
-    QSqlQuery query(m_administrator);
+    QSqlQuery query(administrator());
     if (!query.exec(sql))
         giveUp(query.lastError().text() + QLatin1String(" - ") + sql);
 }

@@ -19,7 +19,8 @@ public:
 
     /// Runs a statement as the server's administrator; ends the program when it fails.
     void administer(const QString &sql) const;
-    QSqlDatabase administrator() const { return m_administrator; }
+    /// The administrator's open connection.
+    QSqlDatabase administrator() const;
 
 private:
     QByteArray m_socket;

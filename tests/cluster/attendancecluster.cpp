@@ -36,11 +36,11 @@ QStringList settings()
 
 } // namespace
 
-AttendanceCluster::AttendanceCluster()
+AttendanceCluster::AttendanceCluster(const QStringList &options)
     : m_proxy(m_nodes)
 {
     for (int number = 1; number <= m_nodes.size(); ++number)
-        node(number).setOptions(settings());
+        node(number).setOptions(settings() + options);
 }
 
 bool AttendanceCluster::start(bool withSample)

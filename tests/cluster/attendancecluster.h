@@ -3,11 +3,14 @@
 #include "tests/cluster/haproxy.h"
 #include "tests/support/cluster/galeracluster.h"
 
+#include <QStringList>
+
 /// An attendance database as docs/cluster.md describes it: three nodes with the reference database
 /// and the settings of packaging/cluster/galera.cnf, behind HAProxy. For one test program.
 class AttendanceCluster {
 public:
-    AttendanceCluster();
+    /// \a options: further ones of mariadbd for each node.
+    explicit AttendanceCluster(const QStringList &options = {});
 
     /// True once clients can work. \a withSample: sample data, or empty tables.
     bool start(bool withSample = true);
