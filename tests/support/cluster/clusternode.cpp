@@ -101,7 +101,7 @@ bool ClusterNode::launch(const QStringList &further)
                     "--wsrep-node-address=" + address(),
                     "--wsrep-node-incoming-address=" + m_net.endpoint(m_number, Port::Clients),
                     QStringLiteral("--wsrep-node-name=node%1").arg(m_number),
-                    "--wsrep-sst-method=private", "--wsrep-sst-auth=root:",
+                    "--wsrep-sst-method=private", "--wsrep-sst-auth=transfer:transfer",
                     "--wsrep-sst-receive-address=" + m_net.endpoint(m_number, Port::FullTransfer),
                     "--wsrep-provider-options=" + providerOptions()}
         + m_options + further);

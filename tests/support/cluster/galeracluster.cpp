@@ -49,15 +49,15 @@ bool GaleraCluster::start(const QStringList &sqlFiles, PrivateMariaDb::HostRight
 bool GaleraCluster::makeData(const QStringList &sqlFiles, PrivateMariaDb::HostRights hostRights)
 {
     m_origin.setHostRights(hostRights);
-    return (m_origin.start() && m_origin.load(sqlFiles) && letAccountsConnectByAddress()
-            && m_origin.stop())
+    return (m_origin.start() && m_origin.load(sqlFiles) && prepareAccounts() && m_origin.stop())
         || fail(m_origin.errorString());
 }
 
 /// The accounts of "localhost" can only connect to a node's socket. The host's and others become
 /// those of 127.0.0.1, which is where connections in the loopback range come from. The
-/// administrator, who has no password, stays at the socket.
-bool GaleraCluster::letAccountsConnectByAddress()
+/// administrator, who has no password, stays at the socket. A new one reads a node's state for
+/// another node.
+bool GaleraCluster::prepareAccounts()
 {
     const QString name = "galeracluster.accounts";
     QString error;
@@ -72,7 +72,9 @@ bool GaleraCluster::letAccountsConnectByAddress()
             " WHERE host <> 'localhost'"
             " UNION SELECT CONCAT('RENAME USER ', QUOTE(user), '@localhost TO ', QUOTE(user),"
             " '@127.0.0.1') FROM mysql.user"
-            " WHERE host = 'localhost' AND user NOT IN ('', 'root', 'mariadb.sys')");
+            " WHERE host = 'localhost' AND user NOT IN ('', 'root', 'mariadb.sys')"
+            " UNION SELECT 'GRANT RELOAD, PROCESS, LOCK TABLES, BINLOG MONITOR ON *.* TO"
+            " transfer@localhost IDENTIFIED BY ''transfer'''");
         while (changes.next() && error.isEmpty()) {
             if (!query.exec(changes.value(0).toString()))
                 error = query.lastError().text();

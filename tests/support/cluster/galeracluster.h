@@ -40,7 +40,7 @@ public:
 
 private:
     bool makeData(const QStringList &sqlFiles, PrivateMariaDb::HostRights hostRights);
-    bool letAccountsConnectByAddress();
+    bool prepareAccounts();
     bool copyData();
     bool writeSavedStates();
     bool startNodes();
