@@ -10,6 +10,8 @@
 
 // The entry points of the subcommands, each defined in the folder of its name.
 
+/// Writes an export for a support case, with other names and numbers.
+ExitStatus runAnonymise(const QStringList &arguments, Console &console);
 /// Reports what the INI file puts in force, and what is wrong with it.
 ExitStatus runCheckConfig(const QStringList &arguments, Console &console);
 /// Reports whether the attendance database is what the plugin relies on.
@@ -200,6 +202,10 @@ const QVector<Subcommand> &subcommands()
          QT_TRANSLATE_NOOP("Text",
                            "Run every check that can be run here, and name what to do first"),
          runDoctor},
+        {"anonymise",
+         QT_TRANSLATE_NOOP("Text",
+                           "Write an HR export for a support case, with other names and numbers"),
+         runAnonymise},
         {"rules", QT_TRANSLATE_NOOP("Text", "List the rules behind the findings, or explain one"),
          runRules},
     };

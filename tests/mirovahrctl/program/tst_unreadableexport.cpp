@@ -75,13 +75,13 @@ void TestUnreadableExport::init()
 void TestUnreadableExport::addSubcommands()
 {
     QTest::addColumn<QString>("subcommand");
-    for (const char *subcommand : {"check-file", "diff", "explain", "gate", "preview"})
+    for (const char *subcommand : {"anonymise", "check-file", "diff", "explain", "gate", "preview"})
         QTest::newRow(subcommand) << subcommand;
 }
 
 QStringList TestUnreadableExport::arguments(const QString &subcommand)
 {
-    if (subcommand == "check-file")
+    if (subcommand == "anonymise" || subcommand == "check-file")
         return {subcommand, exportPath()};
     if (subcommand == "diff")
         return {subcommand, m_bench.iniPath(), exportPath()};
@@ -139,7 +139,7 @@ void TestUnreadableExport::aReadErrorIsReportedWhereverItOccurs_data()
 {
     QTest::addColumn<QString>("subcommand");
     // preview reads as the worker does, and takes its time.
-    for (const char *subcommand : {"check-file", "diff", "explain", "gate"})
+    for (const char *subcommand : {"anonymise", "check-file", "diff", "explain", "gate"})
         QTest::newRow(subcommand) << subcommand;
 }
 
@@ -168,6 +168,7 @@ void TestUnreadableExport::aFileOfManyGigabytesIsRefused_data()
     QTest::addColumn<QString>("complaint");
     const QString tooLong = "'%1' cannot be read to its end: it is longer than 1 GiB, and the "
                             "plugin reads no further.";
+    QTest::newRow("anonymise") << "anonymise" << 2 << tooLong;
     QTest::newRow("check-file") << "check-file" << 2 << tooLong;
     QTest::newRow("diff") << "diff" << 2 << tooLong;
     QTest::newRow("explain") << "explain" << 2 << tooLong;
@@ -199,6 +200,7 @@ void TestUnreadableExport::aPipeThatTakesThePlaceOfTheExportIsNoFile_data()
     QTest::addColumn<QString>("subcommand");
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("complaint");
+    QTest::newRow("anonymise") << "anonymise" << 2 << "There is no file '%1'";
     QTest::newRow("check-file") << "check-file" << 2 << "There is no file '%1'";
     QTest::newRow("diff") << "diff" << 2 << "There is no file '%1'";
     QTest::newRow("explain") << "explain" << 2 << "There is no file '%1'";
