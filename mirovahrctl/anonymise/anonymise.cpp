@@ -14,10 +14,10 @@ namespace {
 
 constexpr char kDescription[] = QT_TRANSLATE_NOOP(
     "Text",
-    "Writes an HR export again for a support case: with other names, texts, phone numbers, "
-    "personal numbers and cost centres, the same people and supervisors, and every mistake where "
-    "it was. Dates, relationships, calendars, codes and vacation balances stay: the plugin decides "
-    "by them.");
+    "Writes an HR export again for a support case: with other texts, phone numbers, personal "
+    "numbers and cost centres, but the same people and supervisors, and every mistake where it "
+    "was. Dates, relationships, calendars, codes and vacation balances stay: the plugin decides by "
+    "them.");
 
 class AnonymiseRun {
 public:
@@ -95,9 +95,9 @@ ExitStatus AnonymiseRun::report(const OtherExport &other)
     m_report.begin(m_line.subcommand(), Text::tr("HR export %1").arg(m_path));
     m_report.section(QStringLiteral("summary"), Text::tr("Summary"));
     m_report.sentence(Text::tr(
-        "Texts, phone numbers, personal numbers and cost centres are others. Dates, relationships, "
-        "calendars, codes and vacation balances are those of the export: whoever knows the people "
-        "may recognise somebody by them."));
+        "All texts, phone numbers, personal numbers and cost centres were replaced. Dates, "
+        "relationships, calendars, codes and vacation balances are those of the export: whoever "
+        "knows the people may recognise somebody by them."));
     m_report.fact(QStringLiteral("lines"), Text::tr("Lines"), other.countLines());
     m_report.fact(QStringLiteral("keptNumbers"), Text::tr("Personal numbers that stay"),
                   other.countKept());

@@ -131,7 +131,7 @@ QByteArray OtherLines::ofText(int field, const QByteArray &text)
 {
     const QString original = decoded(text);
     const int reading = FieldForms::readingOf(field, original);
-    // In a text that was encoded twice, two characters are one letter.
+    // In a text that was encoded twice, two characters are one letter: hardly any other two are.
     const auto letters =
         isEncodedTwice(original) ? OtherTexts::Letters::AsciiOnly : OtherTexts::Letters::All;
     QByteArray other = m_texts.of(text, letters);

@@ -139,5 +139,9 @@
         <source>List the rules behind the findings, or explain one</source>
         <translation>Vypíše pravidla, podle nichž vznikají nálezy, nebo jedno vysvětlí</translation>
     </message>
+    <message>
+        <source>Write an HR export for a support case, with other names and numbers</source>
+        <translation>Zapíše export personálního oddělení s jinými jmény a čísly, pro účely podpory</translation>
+    </message>
 </context>
 </TS>

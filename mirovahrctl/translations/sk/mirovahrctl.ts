@@ -139,5 +139,9 @@
         <source>List the rules behind the findings, or explain one</source>
         <translation>Vypíše pravidlá, podľa ktorých vznikajú nálezy, alebo jedno vysvetlí</translation>
     </message>
+    <message>
+        <source>Write an HR export for a support case, with other names and numbers</source>
+        <translation>Zapíše export personálneho oddelenia s inými menami a číslami, na účely podpory</translation>
+    </message>
 </context>
 </TS>
