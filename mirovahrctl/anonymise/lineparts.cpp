@@ -11,7 +11,7 @@ namespace {
 
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 
-const char kSeparator = ExportLine::kSeparator.toLatin1();
+const char kBar = ExportLine::kSeparator.toLatin1();
 
 int lengthOfSpace(QVector<uint>::const_iterator begin, QVector<uint>::const_iterator end)
 {
@@ -46,14 +46,14 @@ LineParts LineParts::of(const QByteArray &line)
 
     LineParts parts;
     parts.before = visible.left(begin);
-    parts.fields = visible.mid(begin, visible.size() - begin - after).split(kSeparator);
+    parts.fields = visible.mid(begin, visible.size() - begin - after).split(kBar);
     parts.after = visible.right(after);
     if (end >= 0)
-        parts.hidden = line.mid(end).split(kSeparator);
+        parts.hidden = line.mid(end).split(kBar);
     return parts;
 }
 
 QByteArray LineParts::joined() const
 {
-    return before + fields.join(kSeparator) + after + hidden.join(kSeparator);
+    return before + fields.join(kBar) + after + hidden.join(kBar);
 }

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int kRounds = 10; // as many as FF1 has
+constexpr int kTurns = 10; // as many as FF1 has
 
 // What is kept of other texts: so many, of so many bytes, in a few MB.
 constexpr int kMostKnown = 20000;
@@ -139,7 +139,7 @@ QByteArray otherText(const QByteArray &key, const QByteArray &text, OtherTexts::
     Characters characters = Utf8Characters::of(text);
     const Places places = placesOf(characters, letters);
     const int middle = places.size() / 2;
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < kTurns; ++round) {
         if (round % 2 == 0)
             turn(key, round, places, middle, places.size(), characters);
         else
