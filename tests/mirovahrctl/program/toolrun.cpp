@@ -3,14 +3,20 @@
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/subcommand.h"
 #include "tests/mirovahrctl/program/rulefixtures.h"
+#include "tests/mirovahrctl/program/translatedtexts.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QJsonDocument>
 #include <QSet>
 
 #include <algorithm>
 
 namespace {
+
+/// Subcommands whose texts are still to be marked for translation.
+const QStringList kUnfinished{"check-config", "check-db", "diff", "doctor",  "drift",
+                              "explain",      "help",     "log",  "preview", "status"};
 
 /// So wide that no text is broken.
 constexpr int kWide = 10000;
@@ -22,6 +28,30 @@ void requireRegisteredRules(const QString &subcommand, const ToolRun &run)
     for (const QJsonValue &finding : findings) {
         if (!isRegistered(subcommand, finding.toObject()))
             qFatal("A finding that is not registered: %s", run.report().constData());
+    }
+}
+
+QString contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Ends the test program when an output has an English phrase that nobody has marked for
+/// translation.
+void requireTranslatedTexts(const QStringList &arguments, const ToolRun &run,
+                            const TranslatedTexts &texts)
+{
+    QStringList outputs{run.out, run.err};
+    for (const char *const option : {"--html", "--rejects"}) {
+        if (arguments.contains(option))
+            outputs << contentOf(arguments.value(arguments.indexOf(option) + 1));
+    }
+    for (const QString &output : qAsConst(outputs)) {
+        const QStringList missing = texts.missingIn(output);
+        if (!missing.isEmpty() && !kUnfinished.contains(arguments.value(0)))
+            fprintf(stderr, "UNTRANSLATED %s: %s\n", qPrintable(arguments.value(0)),
+                    qPrintable(missing.join(" | ")));
     }
 }
 
@@ -73,9 +103,11 @@ ToolRun runTool(const QStringList &arguments, bool interactive)
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
     Console console(out, err, interactive, kWide);
+    const TranslatedTexts texts;
     const ExitStatus status = runMirovahrctl(arguments, console);
     const ToolRun run{status, QString::fromUtf8(out.data()), QString::fromUtf8(err.data())};
     requireRegisteredRules(arguments.value(0), run);
+    requireTranslatedTexts(arguments, run, texts);
     if (!run.json().isEmpty())
         RuleFixtures::record(arguments.value(0), run.rules());
     return run;

@@ -1,0 +1,146 @@
+#include "tests/mirovahrctl/program/translatedtexts.h"
+
+#include <QCoreApplication>
+#include <QMutexLocker>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/// A phrase has one of these at least; names, values and SQL in capital letters have none.
+const QSet<QString> &functionWords()
+{
+    static const QSet<QString> words{
+        "a",    "all",    "an",    "and",   "are",   "at",    "be",   "been", "but",    "by",
+        "can",  "cannot", "does",  "for",   "from",  "has",   "have", "how",  "if",     "in",
+        "is",   "it",     "its",   "no",    "not",   "of",    "on",   "only", "or",     "so",
+        "than", "that",   "the",   "then",  "there", "these", "this", "to",   "was",    "were",
+        "what", "when",   "where", "which", "who",   "why",   "will", "with", "without"};
+    return words;
+}
+
+bool isFunctionWord(const QString &word)
+{
+    const QString rest = word.mid(1);
+    return rest == rest.toLower() && functionWords().contains(word.toLower());
+}
+
+bool isEnglish(const QString &phrase)
+{
+    const QStringList words = phrase.split(' ');
+    return words.size() > 1 && std::any_of(words.cbegin(), words.cend(), isFunctionWord);
+}
+
+/// The sequences of words that nothing but a space separates, each once. Ids and paths are no
+/// words.
+QSet<QString> phrases(const QString &text)
+{
+    static const QString word(R"((?<![-_./\\\w])\p{L}+(?:['’]\p{L}+)*+(?![-_/\\\w]))");
+    static const QRegularExpression phrase(word + "(?: " + word + ")*",
+                                           QRegularExpression::UseUnicodePropertiesOption);
+    QSet<QString> phrases;
+    auto matches = phrase.globalMatch(text);
+    while (matches.hasNext())
+        phrases << matches.next().captured();
+    return phrases;
+}
+
+/// Without the tags of a page and the escapes of JSON, and without what is quoted as it is: lines
+/// of an export and of the plugin's log.
+QString plainText(QString output)
+{
+    static const QRegularExpression style("<style>.*</style>",
+                                          QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression tag("<[^>]*>");
+    static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
+    static const QRegularExpression logLine(R"re(\w+::\w+\(\)[^"<\n]*)re");
+    output.remove(logLine);
+    if (output.startsWith("<!DOCTYPE html>"))
+        return output.remove(style).replace(tag, "\n");
+    if (output.startsWith('{'))
+        return output.remove(exportLine).replace("\\n", "\n");
+    return output;
+}
+
+QRegularExpression wholeWords(const QString &phrase)
+{
+    return QRegularExpression("\\b" + QRegularExpression::escape(phrase) + "\\b",
+                              QRegularExpression::CaseInsensitiveOption
+                                  | QRegularExpression::UseUnicodePropertiesOption);
+}
+
+/// The rest of a phrase when the known ones are removed from it, or it is a line of one.
+QString without(const QStringList &known, QString phrase)
+{
+    for (const QString &one : known) {
+        if (one.contains(phrase))
+            return {};
+        // A single word, such as the "or" of "%1 or %2", may be part of any sentence.
+        const bool isKnown = one.contains(' ') || phrase.count(' ') <= 2;
+        if (isKnown && phrase.contains(one, Qt::CaseInsensitive))
+            phrase.replace(wholeWords(one), "\n");
+    }
+    return phrase;
+}
+
+} // namespace
+
+TranslatedTexts::TranslatedTexts()
+{
+    QCoreApplication::installTranslator(this);
+}
+
+TranslatedTexts::~TranslatedTexts()
+{
+    QCoreApplication::removeTranslator(this);
+}
+
+QString TranslatedTexts::translate(const char *context, const char *source, const char *meaning,
+                                   int count) const
+{
+    const Request request{context, source, meaning, count};
+    const QMutexLocker lock(&m_mutex);
+    m_requests.insert(request.context + '\n' + request.source + '\n' + request.meaning + '\n'
+                          + QByteArray::number(count),
+                      request);
+    return {};
+}
+
+QStringList TranslatedTexts::missingIn(const QString &output) const
+{
+    QStringList missing;
+    const QStringList known = phrasesOfTexts();
+    const QSet<QString> found = phrases(plainText(output));
+    for (const QString &phrase : found) {
+        if (!isEnglish(phrase))
+            continue;
+        const QSet<QString> rest = phrases(without(known, phrase));
+        std::copy_if(rest.cbegin(), rest.cend(), std::back_inserter(missing), isEnglish);
+    }
+    missing.sort();
+    return missing;
+}
+
+/// The longest first.
+QStringList TranslatedTexts::phrasesOfTexts() const
+{
+    static const QRegularExpression place("%L?[0-9]+");
+    QMutexLocker lock(&m_mutex);
+    const QHash<QByteArray, Request> requests = m_requests;
+    lock.unlock();
+    QSet<QString> known;
+    for (const Request &request : requests) {
+        const char *const meaning =
+            request.meaning.isEmpty() ? nullptr : request.meaning.constData();
+        known += phrases(
+            QCoreApplication::translate(request.context, request.source, meaning, request.count)
+                .replace(place, "\n"));
+    }
+    QStringList sorted = known.values();
+    std::sort(sorted.begin(), sorted.end(),
+              [](const QString &a, const QString &b) { return a.size() > b.size(); });
+    return sorted;
+}
