@@ -1,5 +1,6 @@
 #include "cli/passwordfile.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 
 #include <QFile>
@@ -9,7 +10,8 @@ QString readPasswordFile(const QString &path, QString &password, QString &warnin
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return Text::tr("The password file '%1' cannot be read: %2").arg(path, file.errorString());
+        return Text::tr("The password file '%1' cannot be read: %2")
+            .arg(path, systemMessage(file.errorString()));
     }
     QByteArray line = file.readLine();
     if (line.endsWith('\n'))

@@ -1,3 +1,4 @@
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/subcommand.h"
@@ -38,9 +39,9 @@ int main(int argc, char *argv[])
     Console console(out, err, isatty(STDERR_FILENO) != 0, columns());
     const ExitStatus status = runMirovahrctl(QCoreApplication::arguments().mid(1), console);
     if (!out.flush() || out.error() != QFileDevice::NoError) {
-        return static_cast<int>(
-            console.fail(ExitStatus::Usage,
-                         Text::tr("The output cannot be written: %1").arg(out.errorString())));
+        return static_cast<int>(console.fail(
+            ExitStatus::Usage,
+            Text::tr("The output cannot be written: %1").arg(systemMessage(out.errorString()))));
     }
     return static_cast<int>(status);
 }

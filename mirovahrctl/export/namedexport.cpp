@@ -1,5 +1,6 @@
 #include "mirovahrctl/export/namedexport.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/program/console.h"
 #include "worker/importfile.h"
@@ -15,11 +16,13 @@ std::optional<ExitStatus> NamedExport::open(const QString &path, QFile &file, Co
     case ImportFile::Opening::Failed:
         break;
     }
-    return console.fail(ExitStatus::Usage, Text::tr("'%1' cannot be opened: %2").arg(path, error));
+    return console.fail(ExitStatus::Usage,
+                        Text::tr("'%1' cannot be opened: %2").arg(path, systemMessage(error)));
 }
 
 ExitStatus NamedExport::failReading(const QString &path, const QString &reason, Console &console)
 {
-    return console.fail(ExitStatus::Usage,
-                        Text::tr("'%1' cannot be read to its end: %2").arg(path, reason));
+    return console.fail(
+        ExitStatus::Usage,
+        Text::tr("'%1' cannot be read to its end: %2").arg(path, systemMessage(reason)));
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/gate/gateexamination.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/export/rejectswriter.h"
 #include "mirovahrctl/export/sqltexts.h"
@@ -122,12 +123,14 @@ bool GateExamination::readNew(QFile &file, RejectsWriter &rejects)
 
 bool GateExamination::failReadingCopy(const QString &reason)
 {
-    m_error = Text::tr("The copy of HR's file cannot be read to its end: %1").arg(reason);
+    m_error =
+        Text::tr("The copy of HR's file cannot be read to its end: %1").arg(systemMessage(reason));
     return false;
 }
 
 bool GateExamination::failReadingLast(const QString &reason)
 {
-    m_error = Text::tr("The last admitted file cannot be read to its end: %1").arg(reason);
+    m_error =
+        Text::tr("The last admitted file cannot be read to its end: %1").arg(systemMessage(reason));
     return false;
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/gate/gatepublication.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "worker/boundedlinereader.h"
 
@@ -52,7 +53,7 @@ bool GatePublication::write(QFile &source)
         // A longer line comes in pieces: the plugin skips it, whatever becomes of its texts.
         const QByteArray line = source.readLine(kLineCapacity);
         if (line.isEmpty())
-            return source.error() == QFileDevice::NoError || fail(source.errorString());
+            return source.error() == QFileDevice::NoError || failReading(source.errorString());
         const QByteArray written = m_texts.atPlugin(line);
         size += written.size();
         // finish() reports why it failed.
@@ -61,6 +62,12 @@ bool GatePublication::write(QFile &source)
     }
     return fail(Text::tr("With its texts written for the plugin the file is longer than 1 "
                          "GiB, and the plugin reads no further"));
+}
+
+bool GatePublication::failReading(const QString &reason)
+{
+    return fail(
+        Text::tr("The copy of HR's file cannot be read to its end: %1").arg(systemMessage(reason)));
 }
 
 bool GatePublication::fail(const QString &error)

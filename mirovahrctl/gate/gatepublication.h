@@ -30,6 +30,7 @@ public:
 
 private:
     bool write(QFile &source);
+    bool failReading(const QString &reason);
     bool fail(const QString &error);
 
     const QString m_path;

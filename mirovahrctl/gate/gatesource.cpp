@@ -1,5 +1,6 @@
 #include "mirovahrctl/gate/gatesource.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "worker/boundedlinereader.h"
 
@@ -88,6 +89,6 @@ qint64 GateSource::age() const
 
 bool GateSource::fail(const char *text, const QString &reason)
 {
-    m_error = Text::tr(text).arg(m_path, reason);
+    m_error = Text::tr(text).arg(m_path, systemMessage(reason));
     return false;
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/gatefile.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
 
@@ -114,6 +115,7 @@ bool GateFile::isTemporaryName(const QString &entry, const QString &name)
 
 bool GateFile::fail(const QString &reason)
 {
-    m_error = Text::tr("'%1' cannot be written: %2").arg(m_folder.pathOf(m_name), reason);
+    m_error =
+        Text::tr("'%1' cannot be written: %2").arg(m_folder.pathOf(m_name), systemMessage(reason));
     return false;
 }

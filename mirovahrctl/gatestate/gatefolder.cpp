@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/gatefolder.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/gatestate/gatefile.h"
 
@@ -155,7 +156,8 @@ std::optional<QByteArray> GateFolder::contentOf(const QString &name)
     const QByteArray content = file.readAll();
     if (file.error() == QFileDevice::NoError)
         return content;
-    m_error = Text::tr("'%1' cannot be read: %2").arg(pathOf(name), file.errorString());
+    m_error =
+        Text::tr("'%1' cannot be read: %2").arg(pathOf(name), systemMessage(file.errorString()));
     return std::nullopt;
 }
 
@@ -241,6 +243,6 @@ bool GateFolder::giveToOwner(int file) const
 bool GateFolder::fail(const QString &path, const char *text)
 {
     const int reason = errno;
-    m_error = Text::tr(text).arg(path, qt_error_string(reason));
+    m_error = Text::tr(text).arg(path, systemMessage(qt_error_string(reason)));
     return false;
 }

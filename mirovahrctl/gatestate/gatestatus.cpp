@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/gatestatus.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/gatestate/gatefile.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
@@ -91,7 +92,7 @@ std::optional<GateStatus> GateStatus::read(const QString &path, QString &error)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         error = Text::tr("The gate's status file '%1' cannot be read: %2")
-                    .arg(path, file.errorString());
+                    .arg(path, systemMessage(file.errorString()));
         return std::nullopt;
     }
     const auto status = parse(file.readAll());

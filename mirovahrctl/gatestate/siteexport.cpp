@@ -1,5 +1,6 @@
 #include "mirovahrctl/gatestate/siteexport.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/gatestate/gatecopies.h"
 #include "mirovahrctl/gatestate/gatefolder.h"
@@ -76,7 +77,7 @@ bool SiteExport::openFile(const QString &path, Source source)
     case ImportFile::Opening::NotFound:
         return false;
     case ImportFile::Opening::Failed:
-        return fail(Text::tr("'%1' cannot be opened: %2").arg(path, error));
+        return fail(Text::tr("'%1' cannot be opened: %2").arg(path, systemMessage(error)));
     }
     Q_UNREACHABLE();
 }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/pluginside/logsource.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 
 #include <QFile>
@@ -71,7 +72,7 @@ std::unique_ptr<QIODevice> LogSource::open()
     const bool isOpen = isStandardInput() ? file->open(STDIN_FILENO, QIODevice::ReadOnly)
                                           : file->open(QIODevice::ReadOnly);
     if (!isOpen) {
-        fail(file->errorString());
+        fail(systemMessage(file->errorString()));
         return nullptr;
     }
     const QString program = unpacker(file->peek(kLongestMagic));
@@ -107,7 +108,7 @@ bool LogSource::finish(QIODevice &device)
                         .arg(QString::fromLocal8Bit(process->readAllStandardError()).trimmed()));
     }
     const auto &file = static_cast<const QFile &>(device);
-    return file.error() == QFileDevice::NoError || fail(file.errorString());
+    return file.error() == QFileDevice::NoError || fail(systemMessage(file.errorString()));
 }
 
 bool LogSource::fail(const QString &reason)

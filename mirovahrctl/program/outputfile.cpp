@@ -1,5 +1,6 @@
 #include "mirovahrctl/program/outputfile.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/program/console.h"
 
@@ -38,8 +39,9 @@ std::optional<ExitStatus> OutputFile::finish(Console &console)
 
 ExitStatus OutputFile::fail(Console &console) const
 {
-    return console.fail(ExitStatus::Usage,
-                        Text::tr("'%1' cannot be written: %2").arg(fileName(), errorString()));
+    return console.fail(
+        ExitStatus::Usage,
+        Text::tr("'%1' cannot be written: %2").arg(fileName(), systemMessage(errorString())));
 }
 
 bool OutputFile::open(OpenMode mode)

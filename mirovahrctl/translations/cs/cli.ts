@@ -179,5 +179,49 @@
         <source>Print the version and exit.</source>
         <translation>Vypíše verzi a skončí.</translation>
     </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Překročena disková kvóta</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Chyba vstupu nebo výstupu</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Je to složka</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Na disku už není volné místo</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Soubor nebo složka neexistuje</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Není to složka</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Operace není povolena</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Přístup odepřen</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Souborový systém je jen pro čtení</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>Příliš mnoho úrovní symbolických odkazů</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Příliš mnoho otevřených souborů</translation>
+    </message>
 </context>
 </TS>

@@ -179,5 +179,49 @@
         <source>Print the version and exit.</source>
         <translation>Vypíše verziu a skončí.</translation>
     </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Prekročená disková kvóta</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Chyba vstupu alebo výstupu</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Je to priečinok</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Na disku už nie je voľné miesto</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Súbor alebo priečinok neexistuje</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Nie je to priečinok</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Operácia nie je povolená</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Prístup zamietnutý</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Súborový systém je len na čítanie</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>Príliš veľa úrovní symbolických odkazov</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Príliš veľa otvorených súborov</translation>
+    </message>
 </context>
 </TS>

@@ -10,6 +10,9 @@
 
 namespace {
 
+/// "INSERT on uid", "enabled and active".
+constexpr int kMostWordsBetweenValues = 4;
+
 /// A phrase has one of these at least; names, values and SQL in capital letters have none.
 const QSet<QString> &functionWords()
 {
@@ -28,10 +31,15 @@ bool isFunctionWord(const QString &word)
     return rest == rest.toLower() && functionWords().contains(word.toLower());
 }
 
-bool isEnglish(const QString &phrase)
+/// Whether words of one phrase make a text. Known single words, such as the "or" of "%1 or %2", may
+/// stand between values.
+bool isText(const QString &phrase, const QStringList &known)
 {
     const QStringList words = phrase.split(' ');
-    return words.size() > 1 && std::any_of(words.cbegin(), words.cend(), isFunctionWord);
+    const bool isShort = words.size() <= kMostWordsBetweenValues;
+    return words.size() > 1 && std::any_of(words.cbegin(), words.cend(), [&](const QString &word) {
+               return isFunctionWord(word) && !(isShort && known.contains(word));
+           });
 }
 
 /// The sequences of words that nothing but a space separates, each once. Ids and paths are no
@@ -48,8 +56,21 @@ QSet<QString> phrases(const QString &text)
     return phrases;
 }
 
+/// What the database server says, which always speaks English to the plugin as well.
+const QRegularExpression &serverMessage()
+{
+    static const QRegularExpression message(R"re((?x)
+        (\w+\ command\ denied\ to\ user
+        |Access\ denied\ for\ user
+        |Can't\ connect\ to\ local\ server
+        |Index\ for\ table
+        |isn't\ in\ GROUP\ BY)
+        [^"<\n]*)re");
+    return message;
+}
+
 /// Without the tags of a page and the escapes of JSON, and without what is quoted as it is: lines
-/// of an export and of the plugin's log.
+/// of an export and of the plugin's log, and messages of the server.
 QString plainText(QString output)
 {
     static const QRegularExpression style("<style>.*</style>",
@@ -57,7 +78,7 @@ QString plainText(QString output)
     static const QRegularExpression tag("<[^>]*>");
     static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
     static const QRegularExpression logLine(R"re(\w+::\w+\(\)[^"<\n]*)re");
-    output.remove(logLine);
+    output.remove(logLine).remove(serverMessage());
     if (output.startsWith("<!DOCTYPE html>"))
         return output.remove(style).replace(tag, "\n");
     if (output.startsWith('{'))
@@ -78,9 +99,7 @@ QString without(const QStringList &known, QString phrase)
     for (const QString &one : known) {
         if (one.contains(phrase))
             return {};
-        // A single word, such as the "or" of "%1 or %2", may be part of any sentence.
-        const bool isKnown = one.contains(' ') || phrase.count(' ') <= 2;
-        if (isKnown && phrase.contains(one, Qt::CaseInsensitive))
+        if (one.contains(' ') && phrase.contains(one, Qt::CaseInsensitive))
             phrase.replace(wholeWords(one), "\n");
     }
     return phrase;
@@ -115,10 +134,11 @@ QStringList TranslatedTexts::missingIn(const QString &output) const
     const QStringList known = phrasesOfTexts();
     const QSet<QString> found = phrases(plainText(output));
     for (const QString &phrase : found) {
-        if (!isEnglish(phrase))
+        if (!isText(phrase, {}))
             continue;
         const QSet<QString> rest = phrases(without(known, phrase));
-        std::copy_if(rest.cbegin(), rest.cend(), std::back_inserter(missing), isEnglish);
+        std::copy_if(rest.cbegin(), rest.cend(), std::back_inserter(missing),
+                     [&known](const QString &one) { return isText(one, known); });
     }
     missing.sort();
     return missing;
