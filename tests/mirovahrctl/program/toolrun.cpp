@@ -15,8 +15,7 @@
 namespace {
 
 /// Subcommands whose texts are still to be marked for translation.
-const QStringList kUnfinished{"check-config", "check-db", "diff", "doctor",  "drift",
-                              "explain",      "help",     "log",  "preview", "status"};
+const QStringList kUnfinished{"help", "log", "preview", "status"};
 
 /// So wide that no text is broken.
 constexpr int kWide = 10000;
@@ -42,6 +41,8 @@ QString contentOf(const QString &path)
 void requireTranslatedTexts(const QStringList &arguments, const ToolRun &run,
                             const TranslatedTexts &texts)
 {
+    if (kUnfinished.contains(arguments.value(0)))
+        return;
     QStringList outputs{run.out, run.err};
     for (const char *const option : {"--html", "--rejects"}) {
         if (arguments.contains(option))
@@ -49,9 +50,9 @@ void requireTranslatedTexts(const QStringList &arguments, const ToolRun &run,
     }
     for (const QString &output : qAsConst(outputs)) {
         const QStringList missing = texts.missingIn(output);
-        if (!missing.isEmpty() && !kUnfinished.contains(arguments.value(0)))
-            fprintf(stderr, "UNTRANSLATED %s: %s\n", qPrintable(arguments.value(0)),
-                    qPrintable(missing.join(" | ")));
+        if (!missing.isEmpty())
+            qFatal("Texts that are not translated: %s\n%s", qPrintable(missing.join("; ")),
+                   run.report().constData());
     }
 }
 
