@@ -6,26 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 
-#include <algorithm>
 #include <cstdio>
-#include <sys/ioctl.h>
-#include <unistd.h>
-
-namespace {
-
-/// Narrower terminals wrap the lines themselves.
-constexpr int kNarrowest = 40;
-
-/// The width of standard output in characters.
-int columns()
-{
-    winsize size = {};
-    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
-        return Console::kColumns;
-    return std::max(kNarrowest, int(size.ws_col));
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -36,7 +17,7 @@ int main(int argc, char *argv[])
         || !err.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
         return static_cast<int>(ExitStatus::Usage);
 
-    Console console(out, err, isatty(STDERR_FILENO) != 0, columns());
+    Console console(out, err, Terminal::ofProcess());
     const ExitStatus status = runMirovahrctl(QCoreApplication::arguments().mid(1), console);
     if (!out.flush() || out.error() != QFileDevice::NoError) {
         return static_cast<int>(console.fail(

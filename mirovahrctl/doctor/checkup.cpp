@@ -64,7 +64,7 @@ Checkup Checkup::run(const QStringList &command)
     QBuffer err;
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
-    Console console(out, err, false);
+    Console console(out, err);
 
     Checkup checkup;
     checkup.command = command;

@@ -198,7 +198,7 @@ std::optional<GateOptions> GateOptions::ofCommand(const QString &command)
     QBuffer err;
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
-    Console silent(out, err, false);
+    Console silent(out, err);
     CommandLine line("gate", "");
     addTo(line);
     line.addReportOptions(CommandLine::Page::NotOffered);

@@ -6,11 +6,10 @@
 
 #include <QFileDevice>
 
-Console::Console(QIODevice &out, QIODevice &err, bool interactive, int columns)
+Console::Console(QIODevice &out, QIODevice &err, const Terminal &terminal)
     : m_out(out)
     , m_err(err)
-    , m_interactive(interactive)
-    , m_columns(columns)
+    , m_terminal(terminal)
 {
 }
 

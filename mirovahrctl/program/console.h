@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mirovahrctl/program/terminal.h"
 #include "mirovahrctl/report/exitstatus.h"
 
 #include <QString>
@@ -14,18 +15,13 @@ class QIODevice;
 /// the program these are standard output and standard error, in tests two buffers.
 class Console {
 public:
-    /// The width of lines without a terminal, in characters.
-    static constexpr int kColumns = 100;
-
-    /// \a interactive: `err` is a terminal, so that progress may be shown there. \a columns: the
-    /// width of `out` in characters.
-    Console(QIODevice &out, QIODevice &err, bool interactive, int columns = kColumns);
+    /// \a terminal: what is behind the devices; none by default.
+    Console(QIODevice &out, QIODevice &err, const Terminal &terminal = Terminal());
     ~Console();
 
     QIODevice &out() { return m_out; }
     QIODevice &err() { return m_err; }
-    bool isInteractive() const { return m_interactive; }
-    int columns() const { return m_columns; }
+    const Terminal &terminal() const { return m_terminal; }
 
     /// Prints why the program ends, a whole sentence, and returns the status to end with.
     using Failure = std::function<ExitStatus(ExitStatus status, const QString &sentence)>;
@@ -66,8 +62,7 @@ private:
 
     QIODevice &m_out;
     QIODevice &m_err;
-    const bool m_interactive;
-    const int m_columns;
+    const Terminal m_terminal;
     QString m_subcommand;
     Failure m_failure;
     Loss m_loss;

@@ -27,7 +27,7 @@ Progress::~Progress()
 
 void Progress::update(qint64 done, qint64 total)
 {
-    if (!m_console.isInteractive())
+    if (!m_console.terminal().showsProgress)
         return;
     if (!m_sinceShown.isValid() || m_sinceShown.elapsed() >= kMillisecondsBetweenShows)
         show(done, total);

@@ -13,7 +13,8 @@ Report::Report(const CommandLine &line, Console &console)
     , m_main(console.json())
 {
     if (m_main == nullptr) {
-        m_text = std::make_unique<TextReport>(console.out(), console.columns());
+        m_text = std::make_unique<TextReport>(console.out(), console.terminal().columns,
+                                              console.terminal().isColoured);
         m_main = m_text.get();
     }
     m_writers.push_back(m_main);

@@ -1,5 +1,7 @@
 #include "mirovahrctl/report/textlayout.h"
 
+#include "mirovahrctl/report/textstyle.h"
+
 #include <algorithm>
 #include <numeric>
 
@@ -80,13 +82,16 @@ QStringList wrapped(const QString &text, int width, int indent)
     QStringList lines;
     const QStringList words = text.split(QLatin1Char(' '));
     QString line = words.constFirst();
+    int used = TextStyle::widthOf(line);
     for (int i = 1; i < words.size(); ++i) {
         const QString &word = words.at(i);
-        if (line.size() + 1 + word.size() <= width) {
+        used += 1 + TextStyle::widthOf(word);
+        if (used <= width) {
             line += QLatin1Char(' ') + word;
         } else {
             lines << line;
             line = QString(indent, QLatin1Char(' ')) + word;
+            used = TextStyle::widthOf(line);
         }
     }
     return lines << line;

@@ -7,8 +7,8 @@
 /// Wraps texts and tables to a width in characters, for terminals.
 namespace TextLayout {
 
-/// The lines of a text, broken at spaces. Those after the first begin with \a indent spaces. A word
-/// that is longer than a line is not broken, so that a path can be copied.
+/// The lines of a text, broken at spaces; its styles take no room. Those after the first begin with
+/// \a indent spaces. A word that is longer than a line is not broken, so that a path can be copied.
 QStringList wrapped(const QString &text, int width, int indent = 0);
 
 /// The lines of a table: its headings, dashes below them, and the rows. Each row, the headings

@@ -11,6 +11,8 @@
 
 namespace {
 
+using TextStyle::Style;
+
 /// Of the lines below a finding's or a fact's first one.
 constexpr int kIndent = 4;
 
@@ -18,8 +20,8 @@ constexpr int kIndent = 4;
 constexpr int kMostFindings = 8;
 constexpr int kMostCardLines = 10;
 
-/// "line 12, DatumNastupu (1234.1 Jana Nováková): warning: ".
-QString findingHead(const Finding &finding)
+/// "line 12, DatumNastupu (1234.1 Jana Nováková): "; empty for a finding about the whole.
+QString findingPlace(const Finding &finding)
 {
     QStringList place;
     if (finding.line > 0)
@@ -30,9 +32,7 @@ QString findingHead(const Finding &finding)
     const QString who = findingPerson(finding);
     if (!who.isEmpty())
         head += QStringLiteral(" (%1)").arg(Wording::visible(who));
-    if (!head.isEmpty())
-        head = head.trimmed() + QStringLiteral(": ");
-    return head + severityText(finding.severity) + QStringLiteral(": ");
+    return head.isEmpty() ? head : head.trimmed() + QStringLiteral(": ");
 }
 
 QStringList cellTexts(const QVariantList &row)
@@ -60,9 +60,10 @@ QStringList headings(const Table &table)
 
 } // namespace
 
-TextReport::TextReport(QIODevice &out, int columns)
+TextReport::TextReport(QIODevice &out, int columns, bool isColoured)
     : m_out(out)
     , m_columns(columns)
+    , m_isColoured(isColoured)
 {
 }
 
@@ -75,7 +76,7 @@ void TextReport::answer(const QString &verdict)
 {
     m_isAnswered = true;
     line(QString());
-    paragraph(Wording::visible(verdict), 0);
+    paragraph(Wording::visible(verdict), Style::Heading);
 }
 
 void TextReport::section(const QString &, const QString &title)
@@ -124,8 +125,9 @@ void TextReport::finding(const Finding &finding)
     }
     ++m_findings;
     beginContent();
-    paragraph(QStringLiteral("%1%2 [%3]")
-                  .arg(findingHead(finding), Wording::visible(finding.message), finding.rule),
+    paragraph(QStringLiteral("%1%2: %3 [%4]")
+                  .arg(findingPlace(finding), severity(finding.severity),
+                       Wording::visible(finding.message), finding.rule),
               kIndent / 2);
     if (!finding.advice.isEmpty()) {
         const QString indent(kIndent, QLatin1Char(' '));
@@ -152,13 +154,13 @@ void TextReport::fact(const QString &, const QString &label, const QVariant &val
     paragraph(text, kIndent);
 }
 
-void TextReport::end(ExitStatus, const QString &verdict)
+void TextReport::end(ExitStatus status, const QString &verdict)
 {
     endSection();
     if (m_isAnswered)
         return;
     line(QString());
-    paragraph(Wording::visible(verdict), 0);
+    paragraph(Wording::visible(verdict), status == ExitStatus::Fine ? Style::Good : Style::Bad);
 }
 
 /// A section without content has no heading.
@@ -189,7 +191,7 @@ void TextReport::heading(const QString &text, QChar underline)
     const QStringList lines = TextLayout::wrapped(Wording::visible(text), m_columns);
     int width = 0;
     for (const QString &part : lines) {
-        line(part);
+        line(styled(part, Style::Heading));
         width = qMax(width, part.size());
     }
     line(QString(width, underline));
@@ -203,7 +205,34 @@ int TextReport::paragraph(const QString &text, int indent)
     return lines.size();
 }
 
+void TextReport::paragraph(const QString &text, Style style)
+{
+    const QStringList lines = TextLayout::wrapped(text, m_columns);
+    for (const QString &part : lines)
+        line(styled(part, style));
+}
+
 void TextReport::line(const QString &text)
 {
     m_out.write((text + QLatin1Char('\n')).toUtf8());
+}
+
+QString TextReport::styled(const QString &text, Style style) const
+{
+    return m_isColoured ? TextStyle::styled(text, style) : text;
+}
+
+/// The word for it.
+QString TextReport::severity(Severity severity) const
+{
+    const QString word = severityText(severity);
+    switch (severity) {
+    case Severity::Note:
+        return word;
+    case Severity::Warning:
+        return styled(word, Style::Warning);
+    case Severity::Error:
+        return styled(word, Style::Bad);
+    }
+    Q_UNREACHABLE();
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "mirovahrctl/report/reportwriter.h"
+#include "mirovahrctl/report/severity.h"
+#include "mirovahrctl/report/textstyle.h"
 
 class QIODevice;
 
@@ -8,8 +10,9 @@ class QIODevice;
 /// it.
 class TextReport : public ReportWriter {
 public:
-    /// \a columns: how wide a line may be, in characters.
-    TextReport(QIODevice &out, int columns);
+    /// \a columns: how wide a line may be, in characters. \a isColoured: with escape sequences for
+    /// headings, severities and the verdict.
+    TextReport(QIODevice &out, int columns, bool isColoured = false);
 
     /// From now on shows only the beginning of what is long, on about one screen: the first
     /// findings and cards of each section, and no details of cards. Facts share lines. \a hint:
@@ -35,10 +38,15 @@ private:
     void heading(const QString &text, QChar underline);
     /// Returns the number of lines.
     int paragraph(const QString &text, int indent);
+    /// A paragraph of this style.
+    void paragraph(const QString &text, TextStyle::Style style);
     void line(const QString &text);
+    QString styled(const QString &text, TextStyle::Style style) const;
+    QString severity(Severity severity) const;
 
     QIODevice &m_out;
     const int m_columns;
+    const bool m_isColoured;
     QString m_hint; ///< where the rest is; empty: everything is shown
     QString m_heading; ///< of the section, until there is something below it
     bool m_isAnswered = false; ///< the verdict was shown

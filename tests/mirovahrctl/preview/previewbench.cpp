@@ -109,7 +109,7 @@ PreviewResult PreviewBench::preview(const QString &user, PreviewSelection::Exten
     err.open(QIODevice::WriteOnly);
     QBuffer log;
     log.open(QIODevice::WriteOnly);
-    Console console(out, err, false);
+    Console console(out, err);
     CommandLine line("preview", "");
     PluginConfiguration::addTo(line);
     line.addReportOptions(CommandLine::Page::Offered);

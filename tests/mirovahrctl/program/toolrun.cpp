@@ -103,7 +103,10 @@ ToolRun runTool(const QStringList &arguments, bool interactive)
     QBuffer err;
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
-    Console console(out, err, interactive, kWide);
+    Terminal terminal;
+    terminal.columns = kWide;
+    terminal.showsProgress = interactive;
+    Console console(out, err, terminal);
     const TranslatedTexts texts;
     const ExitStatus status = runMirovahrctl(arguments, console);
     const ToolRun run{status, QString::fromUtf8(out.data()), QString::fromUtf8(err.data())};

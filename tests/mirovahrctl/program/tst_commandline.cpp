@@ -33,6 +33,8 @@ private Q_SLOTS:
     void outputThatCannotBeWrittenIsAFailure();
     void linesAreNoWiderThanAHundredColumns();
     void linesAreNoWiderThanTheTerminal();
+    void reportsAreColouredOnATerminalOnly_data();
+    void reportsAreColouredOnATerminalOnly();
 
 private:
     void addSubcommands();
@@ -238,10 +240,12 @@ static QString wideIni(const QTemporaryDir &folder)
     return file.fileName();
 }
 
+/// Of the lines, in characters that are seen.
 static int widest(const QString &output)
 {
+    static const QRegularExpression unseen("\r|\x1b\\[[0-9]*m");
     int width = 0;
-    for (const QString &line : QString(output).remove('\r').split('\n'))
+    for (const QString &line : QString(output).remove(unseen).split('\n'))
         width = qMax(width, line.size());
     return width;
 }
@@ -262,11 +266,45 @@ void TestCommandLine::linesAreNoWiderThanTheTerminal()
     const QString command =
         QString("stty cols 72; exec '%1' check-config '%2'").arg(MIROVAHRCTL, wideIni(folder));
     ProgramRun run;
+    run.setVariable("TERM", "xterm");
     QVERIFY(run.run("script", {"--quiet", "--return", "--command", command, "/dev/null"}));
     COMPARE_STATUS(run, 1);
     QVERIFY(run.output().contains("--accept"));
     const int width = widest(run.output());
     QVERIFY2(width > 60 && width <= 72, run.report().constData());
+}
+
+void TestCommandLine::reportsAreColouredOnATerminalOnly_data()
+{
+    QTest::addColumn<QString>("environment");
+    QTest::addColumn<QString>("redirection");
+    QTest::addColumn<bool>("isColoured");
+    QTest::newRow("a terminal") << "TERM=xterm NO_COLOR="
+                                << "" << true;
+    QTest::newRow("a terminal for a reader who wants none") << "TERM=xterm NO_COLOR=1"
+                                                            << "" << false;
+    QTest::newRow("a terminal that cannot show any") << "TERM=dumb NO_COLOR="
+                                                     << "" << false;
+    QTest::newRow("an unknown terminal") << "TERM= NO_COLOR="
+                                         << "" << false;
+    QTest::newRow("a pipe") << "TERM=xterm NO_COLOR="
+                            << "| cat" << false;
+    QTest::newRow("JSON") << "TERM=xterm NO_COLOR="
+                          << "--json" << false;
+}
+
+void TestCommandLine::reportsAreColouredOnATerminalOnly()
+{
+    QFETCH(QString, environment);
+    QFETCH(QString, redirection);
+    QFETCH(bool, isColoured);
+    const QString command =
+        QString("%1 '%2' rules field-count %3").arg(environment, MIROVAHRCTL, redirection);
+    ProgramRun run;
+    QVERIFY(run.run("script", {"--quiet", "--return", "--command", command, "/dev/null"}));
+    COMPARE_STATUS(run, 0);
+    QVERIFY2(run.output().contains("field-count"), run.report().constData());
+    QVERIFY2(run.output().contains("\x1b[") == isColoured, run.report().constData());
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)

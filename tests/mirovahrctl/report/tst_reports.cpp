@@ -75,6 +75,10 @@ class TestReports : public QObject {
 
 private Q_SLOTS:
     void theTextForm();
+    void theColouredTextForm();
+    void aGoodVerdictIsGreen();
+    void anAnswerIsBold();
+    void coloursTakeNoRoom();
     void longTextIsBrokenAtBlanks();
     void aWideTableIsNarrowed();
     void aTableThatFitsIsLeftAlone();
@@ -123,6 +127,71 @@ void TestReports::theTextForm()
                      "Lines: 1200\n"
                      "\n"
                      "Done & dusted.\n"));
+}
+
+void TestReports::theColouredTextForm()
+{
+    const auto severities = [](ReportWriter &report) {
+        report.section("first", "First section");
+        report.sentence("A sentence with \x1b[31mcolours.");
+        for (const Severity severity : {Severity::Note, Severity::Warning, Severity::Error}) {
+            Finding one = finding("A message.");
+            one.severity = severity;
+            one.line = 12;
+            report.finding(one);
+        }
+    };
+    QCOMPARE(QString::fromUtf8(written<TextReport>(severities, 100, true)),
+             QString("\x1b[1mA <title>\x1b[0m\n"
+                     "=========\n"
+                     "\n"
+                     "\x1b[1mFirst section\x1b[0m\n"
+                     "-------------\n"
+                     "A sentence with \\x1b[31mcolours.\n"
+                     "line 12: note: A message. [rule-id]\n"
+                     "line 12: \x1b[33mwarning\x1b[0m: A message. [rule-id]\n"
+                     "line 12: \x1b[31merror\x1b[0m: A message. [rule-id]\n"
+                     "\n"
+                     "\x1b[31mDone & dusted.\x1b[0m\n"));
+}
+
+void TestReports::aGoodVerdictIsGreen()
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    TextReport report(buffer, 100, true);
+    report.end(ExitStatus::Fine, "All is well.");
+    QCOMPARE(buffer.data(), QByteArray("\n\x1b[32mAll is well.\x1b[0m\n"));
+}
+
+void TestReports::anAnswerIsBold()
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    TextReport report(buffer, 20, true);
+    report.answer("The person has arrived.");
+    report.end(ExitStatus::Fine, "The person has arrived.");
+    QCOMPARE(buffer.data(), QByteArray("\n\x1b[1mThe person has\x1b[0m\n\x1b[1marrived.\x1b[0m\n"));
+}
+
+void TestReports::coloursTakeNoRoom()
+{
+    static const QRegularExpression sequence("\x1b\\[[0-9]*m");
+    const auto wordy = [](ReportWriter &report) {
+        report.section("first", "A section with a heading of more than one line");
+        Finding one = finding("A message of some words, which is broken somewhere.");
+        one.subject = "1234.1 Jana Nováková";
+        for (int line = 1; line < 100000; line *= 10) {
+            one.line = line;
+            report.finding(one);
+        }
+    };
+    for (int columns = 10; columns < 90; ++columns) {
+        const QString plain = QString::fromUtf8(written<TextReport>(wordy, columns));
+        const QString coloured = QString::fromUtf8(written<TextReport>(wordy, columns, true));
+        QVERIFY(coloured != plain);
+        QCOMPARE(QString(coloured).remove(sequence), plain);
+    }
 }
 
 void TestReports::longTextIsBrokenAtBlanks()
@@ -274,7 +343,7 @@ void TestReports::aPageThatCannotBeWrittenIsAFailureInJson()
     QBuffer err;
     out.open(QIODevice::WriteOnly);
     err.open(QIODevice::WriteOnly);
-    Console console(out, err, false);
+    Console console(out, err);
     CommandLine line("preview", "Does something.");
     line.addReportOptions(CommandLine::Page::Offered);
     const QStringList arguments{"--json", "--html", folder.filePath("page.html")};
