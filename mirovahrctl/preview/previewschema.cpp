@@ -120,6 +120,14 @@ bool PreviewTable::isFoundBy(const QString &column) const
                        [&column](const QStringList &some) { return some.first() == column; });
 }
 
+bool PreviewTable::isCounted(const QString &column) const
+{
+    const QRegularExpression counted(
+        QStringLiteral("^\\s*`%1` .* AUTO_INCREMENT").arg(QRegularExpression::escape(column)),
+        QRegularExpression::MultilineOption);
+    return counted.match(definition).hasMatch();
+}
+
 int PreviewTable::indexOf(const QString &column) const
 {
     for (int i = 0; i < columns.size(); ++i) {

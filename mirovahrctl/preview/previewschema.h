@@ -43,6 +43,8 @@ struct PreviewTable {
     QVector<QStringList> uniqueKeys() const;
     /// Whether rows are found by this column: a key begins with it.
     bool isFoundBy(const QString &column) const;
+    /// Whether the server fills in the column when a row is added.
+    bool isCounted(const QString &column) const;
     /// Position of a column; -1 when there is none.
     int indexOf(const QString &column) const;
     /// The columns' names as an SQL list.
@@ -82,6 +84,7 @@ struct PreviewSchema {
     QStringList serverOptions; ///< as mariadbd takes them
     QString serverVersion;
     QString timeZone; ///< of its sessions
+    qint64 copiedAt = 0; ///< Unix time of its server, before the first row was copied
 
     /// Rows of all tables, by the server's estimate.
     qint64 rowEstimate() const;

@@ -104,15 +104,6 @@ QString listed(const QVector<quint32> &uids)
     return texts.isEmpty() ? QStringLiteral("NULL") : texts.join(QLatin1Char(','));
 }
 
-/// Whether the server fills in the column when a row is added.
-bool isCounted(const QString &definition, const QString &column)
-{
-    const QRegularExpression counted(
-        QStringLiteral("^\\s*`%1` .* AUTO_INCREMENT").arg(QRegularExpression::escape(column)),
-        QRegularExpression::MultilineOption);
-    return counted.match(definition).hasMatch();
-}
-
 /// The next value of a column that the server fills in.
 quint64 nextValue(const QString &definition)
 {
@@ -191,7 +182,7 @@ void PreviewSelection::doubtColumns(const PreviewTable &table)
 
 void PreviewSelection::noteNextUid(const PreviewTable &people)
 {
-    if (isCounted(people.definition, QStringLiteral("uid")))
+    if (people.isCounted(QStringLiteral("uid")))
         m_nextUid = nextValue(people.definition);
     else
         doubtAll(QStringLiteral("the server does not count people.uid"));
@@ -208,7 +199,7 @@ void PreviewSelection::doubtKeys(const PreviewTable &table)
                         [&key](const QString &column) { return key.contains(column); });
         // A calculated day must not collide with another that is reset.
         const bool isOfPerson = hasIdentity && !key.contains(QStringLiteral("ok"));
-        const bool isNumber = key.size() == 1 && isCounted(table.definition, key.first());
+        const bool isNumber = key.size() == 1 && table.isCounted(key.first());
         if (!isOfPerson && !isNumber) {
             doubt(table.name,
                   QStringLiteral("it has the unique key %1").arg(key.join(QStringLiteral(", "))));
