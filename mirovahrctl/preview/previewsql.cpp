@@ -1,6 +1,7 @@
 #include "mirovahrctl/preview/previewsql.h"
 
 #include "mirovahrctl/preview/previewdiff.h"
+#include "mirovahrctl/preview/previewscript.h"
 #include "mirovahrctl/report/moment.h"
 
 #include <QDateTime>
@@ -8,20 +9,12 @@
 
 namespace {
 
-// The values come from tables: the server must not convert them on their way back.
-constexpr char kBegin[] =
-    "SET NAMES utf8mb4;\n"
-    "SET @old_time_zone = @@SESSION.time_zone, SESSION time_zone = '+00:00';\n"
-    "SET @old_sql_mode = @@SESSION.sql_mode,\n"
-    "    SESSION sql_mode = 'NO_AUTO_VALUE_ON_ZERO,ALLOW_INVALID_DATES,STRICT_ALL_TABLES';\n"
-    "SET @old_foreign_key_checks = @@SESSION.foreign_key_checks,\n"
-    "    SESSION foreign_key_checks = 0;\n"
-    "START TRANSACTION;\n";
+constexpr char kBegin[] = "SET @old_foreign_key_checks = @@SESSION.foreign_key_checks,\n"
+                          "    SESSION foreign_key_checks = 0;\n"
+                          "START TRANSACTION;\n";
 
 constexpr char kEnd[] = "COMMIT;\n"
-                        "SET SESSION foreign_key_checks = @old_foreign_key_checks;\n"
-                        "SET SESSION sql_mode = @old_sql_mode;\n"
-                        "SET SESSION time_zone = @old_time_zone;\n";
+                        "SET SESSION foreign_key_checks = @old_foreign_key_checks;\n";
 
 /// The condition that finds the row. Where rows may repeat, any of them will do.
 QString condition(const PreviewChange &change)
@@ -64,10 +57,12 @@ PreviewSql::PreviewSql(const PreviewSchema &schema, const PreviewMoments &moment
 void PreviewSql::write(const QVector<PreviewChange> &changes, QIODevice &out) const
 {
     out.write(comment(m_schema).toUtf8());
+    out.write(PreviewScript::kExactValues);
     out.write(kBegin);
     for (const PreviewChange &change : changes)
         out.write((statement(change) + QStringLiteral(";\n")).toUtf8());
     out.write(kEnd);
+    out.write(PreviewScript::kOwnValues);
 }
 
 QString PreviewSql::statement(const PreviewChange &change) const
