@@ -2,6 +2,9 @@
 #include "mirovahrctl/preview/previewreport.h"
 #include "mirovahrctl/preview/previewserver.h"
 #include "mirovahrctl/preview/previewsql.h"
+#include "mirovahrctl/preview/previewundo.h"
+#include "mirovahrctl/preview/previewundolimits.h"
+#include "mirovahrctl/preview/previewundoplan.h"
 #include "mirovahrctl/preview/previewwork.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
@@ -31,6 +34,7 @@ public:
         , m_report(report)
         , m_export(line.argument(0))
         , m_sql(line.value("sql"))
+        , m_undo(line.value("undo"))
         , m_log(line.value("log"))
     {
     }
@@ -40,7 +44,9 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> copySite(PreviewWork &work);
+    std::optional<ExitStatus> writeUndo(PreviewWork &work);
     std::optional<ExitStatus> readView(PreviewWork &work, PreviewView &view);
+    void noteUndo();
     QString title() const;
     ExitStatus fail(const PreviewRefusal &refusal)
     {
@@ -52,6 +58,8 @@ private:
     Report &m_report;
     const QString m_export;
     OutputFile m_sql;
+    OutputFile m_undo;
+    QStringList m_undoLimits;
     OutputFile m_log;
     PluginConfiguration m_configuration;
 };
@@ -70,6 +78,10 @@ ExitStatus PreviewCommand::run()
         return fail(*refused);
     if (m_sql.isOpen())
         PreviewSql(work.schema(), work.moments()).write(work.changes(), m_sql);
+    if (m_undo.isOpen()) {
+        if (const auto end = writeUndo(work))
+            return *end;
+    }
     PreviewView view;
     if (const auto end = readView(work, view))
         return *end;
@@ -78,11 +90,35 @@ ExitStatus PreviewCommand::run()
         m_report.abbreviateText(QString::fromLatin1(kWhereTheRestIs));
     PreviewReport report(work, m_configuration, view, m_report);
     report.write();
-    for (OutputFile *const file : {&m_sql, &m_log}) {
+    if (m_undo.isOpen())
+        noteUndo();
+    for (OutputFile *const file : {&m_sql, &m_undo, &m_log}) {
         if (const auto end = file->finish(m_console))
             return *end;
     }
     return m_report.conclude(report.verdict());
+}
+
+std::optional<ExitStatus> PreviewCommand::writeUndo(PreviewWork &work)
+{
+    const PreviewUndoPlan plan(work.schema(), work.changes(), work.moments(), work.names());
+    const PreviewUndo undo(work.schema(), work.moments(), plan);
+    if (const auto refused = undo.refusal())
+        return fail(*refused);
+    undo.write(m_export,
+               m_line.isSet("partial") ? PreviewUndo::Extent::Partial
+                                       : PreviewUndo::Extent::AllOrNone,
+               m_undo);
+    m_undoLimits = undoLimits(work.schema(), plan);
+    return std::nullopt;
+}
+
+void PreviewCommand::noteUndo()
+{
+    m_report.section(QStringLiteral("undo"),
+                     QStringLiteral("What %1 does not take back").arg(m_undo.fileName()));
+    for (const QString &sentence : qAsConst(m_undoLimits))
+        m_report.sentence(sentence);
 }
 
 /// The people are those of the copy after the synchronisation, new ones among them.
@@ -128,11 +164,12 @@ std::optional<ExitStatus> PreviewCommand::prepare()
         return m_console.fail(ExitStatus::Usage,
                               QStringLiteral("'%1' cannot be read").arg(m_export));
     if (const auto end = refuseOverwriting(
-            m_export, {m_line.pagePath(), m_sql.fileName(), m_log.fileName()}, m_console))
+            m_export, {m_line.pagePath(), m_sql.fileName(), m_undo.fileName(), m_log.fileName()},
+            m_console))
         return end;
     if (const auto end = m_configuration.read(m_line, m_console))
         return end;
-    for (OutputFile *const file : {&m_sql, &m_log}) {
+    for (OutputFile *const file : {&m_sql, &m_undo, &m_log}) {
         if (const auto end = file->begin(m_console))
             return end;
     }
@@ -152,6 +189,12 @@ ExitStatus runPreview(const QStringList &arguments, Console &console)
                    "number or a pid.");
     line.addFlag("details", "Show everybody, not only the first, and the bookkeeping.");
     line.addOption("sql", "file", "Also write the differences as SQL statements.");
+    line.addOption("undo", "file",
+                   "Also write SQL statements that take the differences back after the "
+                   "synchronisation.");
+    line.addFlag("partial",
+                 "Let these statements take back all other rows when somebody has changed one, not "
+                 "none.");
     line.addOption("log", "file", "Also write the plugin's whole log of the synchronisation.");
     line.addFlag("all-rows", "Also copy the rows that a synchronisation does not reach.");
     line.addReportOptions(CommandLine::Page::Offered);

@@ -14,7 +14,7 @@ constexpr char kServerVariables[] =
     "'explicit_defaults_for_timestamp', 'lower_case_table_names', 'group_concat_max_len', "
     "'div_precision_increment')";
 
-constexpr char kServer[] = "SELECT VERSION(), @@SESSION.time_zone";
+constexpr char kServer[] = "SELECT VERSION(), @@SESSION.time_zone, UNIX_TIMESTAMP()";
 
 constexpr char kDatabase[] = "SELECT DATABASE(), @@character_set_database, @@collation_database";
 
@@ -125,6 +125,7 @@ void PreviewSchemaReader::readServer()
     const QStringList server = m_site.row(QLatin1String(kServer));
     m_schema.serverVersion = server.value(0);
     m_schema.timeZone = server.value(1);
+    m_schema.copiedAt = server.value(2).toLongLong();
 }
 
 void PreviewSchemaReader::readDatabase()
