@@ -1,6 +1,6 @@
 #include "mirovahrctl/preview/previewundo.h"
 
-#include "mirovahrctl/preview/previewschema.h"
+#include "mirovahrctl/preview/previewdiff.h"
 #include "mirovahrctl/preview/previewscript.h"
 #include "mirovahrctl/preview/previewundocolumns.h"
 #include "mirovahrctl/preview/previewundolimits.h"
@@ -11,6 +11,8 @@
 
 #include <QDateTime>
 #include <QIODevice>
+
+#include <algorithm>
 
 namespace {
 
@@ -37,10 +39,12 @@ constexpr char kMakeRows[] = "DROP TEMPORARY TABLE IF EXISTS mirovahr_undo_rows;
                              "    kind VARCHAR(10) NOT NULL,\n"
                              "    area VARCHAR(10) NOT NULL,\n"
                              "    copies INT UNSIGNED NOT NULL,\n"
+                             "    uid BIGINT UNSIGNED NULL,\n"
                              "    what VARCHAR(400) NOT NULL,\n"
                              "    state VARCHAR(10) NULL,\n"
                              "    is_calculated BOOLEAN NOT NULL DEFAULT FALSE,\n"
-                             "    is_fetched BOOLEAN NOT NULL DEFAULT FALSE)\n"
+                             "    is_fetched BOOLEAN NOT NULL DEFAULT FALSE,\n"
+                             "    KEY (uid))\n"
                              "    CHARACTER SET utf8mb4;\n";
 
 constexpr char kMakePeople[] = "DROP TEMPORARY TABLE IF EXISTS mirovahr_undo_people;\n"
@@ -81,7 +85,7 @@ constexpr char kDecide[] =
     "SELECT COUNT(*) INTO v_written FROM mirovahr_undo_rows r\n"
     "    WHERE r.area <> 'queue' AND r.state = 'written';\n";
 
-// Where nothing is as the synchronisation left it, there was none, and nobody has fetched anything.
+// Somebody in whom the synchronisation has changed nothing was not queued by it either.
 constexpr char kReport[] =
     "SELECT t.result AS `Result` FROM (\n"
     "    SELECT 1 AS place, 0 AS undo_row, CONCAT('Rows taken back: ', COUNT(*)) AS result\n"
@@ -95,7 +99,9 @@ constexpr char kReport[] =
     "        WHERE r.is_calculated OR r.area = 'calculated' AND r.state = 'changed' GROUP BY "
     "r.what\n"
     "    UNION ALL SELECT 5, r.undo_row, CONCAT('Left, fetched since: ', r.what)\n"
-    "        FROM mirovahr_undo_rows r WHERE v_written > 0 AND r.is_fetched\n"
+    "        FROM mirovahr_undo_rows r WHERE r.is_fetched AND EXISTS (SELECT 1\n"
+    "        FROM mirovahr_undo_rows o WHERE o.uid = r.uid AND o.area <> 'queue'\n"
+    "        AND o.state IN ('written', 'changed'))\n"
     "    UNION ALL SELECT 6, r.undo_row, CONCAT('Left, queued again since: ', r.what)\n"
     "        FROM mirovahr_undo_rows r WHERE r.area = 'queue' AND r.state = 'changed') t\n"
     "    ORDER BY t.place, t.undo_row;\n";
@@ -124,6 +130,16 @@ QString kindWord(Row::Kind kind)
         break;
     }
     return QStringLiteral("removed");
+}
+
+/// The position of the column that says whom a row concerns; the size when there is none.
+int columnOfUid(const PreviewTable &table)
+{
+    const auto found = std::find_if(
+        table.columns.cbegin(), table.columns.cend(), [&table](const PreviewColumn &column) {
+            return PreviewUndoColumns::holdsUid(table.name, column.name);
+        });
+    return static_cast<int>(found - table.columns.cbegin());
 }
 
 /// Which rows keep all others from being taken back: the plain ones.
@@ -202,15 +218,16 @@ void PreviewUndo::writeRows(QIODevice &out) const
 {
     out.write(kMakeRows);
     PreviewScript::Inserts inserts(QStringLiteral("mirovahr_undo_rows"),
-                                   QStringLiteral("undo_row, kind, area, copies, what"), out);
+                                   QStringLiteral("undo_row, kind, area, copies, uid, what"), out);
     for (const Rows &rows : m_plan.tables()) {
         const QString area = areaWord(rows.table->name);
+        const int uid = columnOfUid(*rows.table);
         for (const Row &row : rows.rows) {
-            inserts.add(QStringLiteral("(%1, '%2', '%3', %4, ")
+            inserts.add(QStringLiteral("(%1, '%2', '%3', %4, %5, %6)")
                             .arg(QString::number(row.number), kindWord(row.kind), area,
-                                 QString::number(row.copies))
-                        + SqlSession::literal(row.what.left(kLongestDescription))
-                        + QLatin1Char(')'));
+                                 QString::number(row.copies),
+                                 row.change->row().value(uid, QStringLiteral("NULL")),
+                                 SqlSession::literal(row.what.left(kLongestDescription))));
         }
     }
 }

@@ -26,6 +26,15 @@ bool contains(const NamedColumn (&list)[size], const QString &table, const QStri
 
 } // namespace
 
+bool PreviewUndoColumns::isKnown(const QString &table, const QString &column)
+{
+    return std::any_of(std::begin(TepDbContract::kTables), std::end(TepDbContract::kTables),
+                       [&](const TepDbContract::Table &known) {
+                           return table == QLatin1String(known.name)
+                               && TepDbContract::columnsOf(known).contains(column);
+                       });
+}
+
 bool PreviewUndoColumns::isMoment(const QString &table, const QString &column)
 {
     const TepDbContract::Column *const known = TepDbContract::findColumn(table, column);
@@ -57,7 +66,7 @@ bool PreviewUndoColumns::holdsUid(const QString &table, const QString &column)
 
 bool PreviewUndoColumns::isRowNumber(const PreviewTable &table, const QString &column)
 {
-    return table.isCounted(column) && TepDbContract::findColumn(table.name, column) == nullptr;
+    return table.isCounted(column) && !isKnown(table.name, column);
 }
 
 bool PreviewUndoColumns::isQueue(const QString &table)

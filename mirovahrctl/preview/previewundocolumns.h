@@ -7,6 +7,11 @@ struct PreviewTable;
 /// equal: the columns of the plugin's tables that hold no plain value.
 namespace PreviewUndoColumns {
 
+/// A column of the contract. What the site has added to its tables, nobody but the site's own
+/// programs writes: where the synchronisation changes it all the same, with a time stamp or a
+/// trigger, a real one may write anything.
+bool isKnown(const QString &table, const QString &column);
+
 /// The moment of writing. A real synchronisation writes another one than the preview, a later one.
 bool isMoment(const QString &table, const QString &column);
 

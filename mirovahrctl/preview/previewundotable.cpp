@@ -270,8 +270,8 @@ QString PreviewUndoTable::assessDays() const
 QString PreviewUndoTable::assessChanged() const
 {
     return sql(kAssessChanged)
-        .arg(joinChanged(), m_name, isSameRow(Side::After), cell(m_rows.key.first()), isAsBefore(),
-             isAsWritten(Kind::Changed));
+        .arg(joinChanged(), m_name, isSameRow(Side::After), cell(m_rows.key.first()),
+             isAsBefore(Kind::Changed), isAsWritten(Kind::Changed));
 }
 
 /// Finds rows in which something was calculated since, and so is not taken back.
@@ -294,7 +294,7 @@ QString PreviewUndoTable::assessRemoved() const
 {
     return sql(kAssessRemoved)
         .arg(joinTemporary(Side::Before), m_name, isSameRow(Side::Before), cell(m_rows.key.first()),
-             isAsBefore());
+             isAsBefore(Kind::Removed));
 }
 
 QString PreviewUndoTable::isSameRow(Side side) const
@@ -311,11 +311,14 @@ QString PreviewUndoTable::isSameRow(Side side) const
     return conditions.join(QStringLiteral(" AND "));
 }
 
-QString PreviewUndoTable::isAsBefore() const
+QString PreviewUndoTable::isAsBefore(Kind kind) const
 {
     QStringList conditions;
-    for (const PreviewColumn &column : m_table.columns)
-        conditions += isCell(column, Side::Before);
+    for (const PreviewColumn &column : m_table.columns) {
+        const bool isKnown = PreviewUndoColumns::isKnown(m_table.name, column.name);
+        conditions +=
+            isKnown || kind == Kind::Removed ? isCell(column, Side::Before) : isUntouched(column);
+    }
     return conjunction(conditions);
 }
 
@@ -323,10 +326,12 @@ QString PreviewUndoTable::isAsWritten(Kind kind) const
 {
     QStringList conditions;
     for (const PreviewColumn &column : m_table.columns) {
-        const bool isOfServer = PreviewUndoColumns::isCalculated(m_table.name, column.name)
-            || PreviewUndoColumns::isRowNumber(m_table, column.name);
-        if (!isOfServer)
+        if (PreviewUndoColumns::isCalculated(m_table.name, column.name))
+            continue;
+        if (PreviewUndoColumns::isKnown(m_table.name, column.name))
             conditions += isAsWritten(column, kind);
+        else if (kind == Kind::Changed)
+            conditions += isUntouched(column);
     }
     return conjunction(conditions);
 }
@@ -345,6 +350,13 @@ QString PreviewUndoTable::isAsWritten(const PreviewColumn &column, Kind kind) co
     }
     return ways.size() == 1 ? ways.first()
                             : QStringLiteral("(%1)").arg(ways.join(QStringLiteral(" OR ")));
+}
+
+/// The cell is as before, or the synchronisation has changed it to whatever.
+QString PreviewUndoTable::isUntouched(const PreviewColumn &column) const
+{
+    return QStringLiteral("(%1 OR NOT a.%2 <=> b.%2)")
+        .arg(isCell(column, Side::Before), SqlSession::name(column.name));
 }
 
 /// Compares texts byte by byte: by their collations, "a" and "A" may be equal.

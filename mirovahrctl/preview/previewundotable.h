@@ -66,9 +66,10 @@ private:
 
     // Conditions on a row of the site's table; "a" is a row of _after_N, "b" one of _before_N.
     QString isSameRow(Side side) const;
-    QString isAsBefore() const;
+    QString isAsBefore(Kind kind) const;
     QString isAsWritten(Kind kind) const;
     QString isAsWritten(const PreviewColumn &column, Kind kind) const;
+    QString isUntouched(const PreviewColumn &column) const;
     QString isCell(const PreviewColumn &column, Side side) const;
 
     QString temporary(Side side) const;
