@@ -2,6 +2,7 @@
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/patience.h"
 #include "tests/support/programrun.h"
+#include "tests/worker/support/middayzone.h"
 #include "tests/worker/support/sampleexport.h"
 #include "worker/schedule.h"
 
@@ -38,6 +39,9 @@ QString lineOf(const ProgramRun &client, const QString &beginning)
 /// preview --undo: what its statements take back, what not, and when they take back nothing.
 class TestPreviewUndo : public QObject {
     Q_OBJECT
+
+public:
+    static void initMain() { settleProgram(); }
 
 private Q_SLOTS:
     void initTestCase();
@@ -583,6 +587,7 @@ void TestPreviewUndo::triggersWriteTheirOwnTables()
     site().run("CREATE TABLE trail (id INT PRIMARY KEY AUTO_INCREMENT, what VARCHAR(90))");
     site().run("CREATE TRIGGER keep_trail AFTER UPDATE ON people FOR EACH ROW INSERT INTO trail "
                "(what) VALUES (CONCAT(OLD.surname, ' becomes ', NEW.surname))");
+    m_bench.writeExport({SampleExport::jana().with(&ExportRow::prijmeni, "Malá")});
     synchronise();
     QVERIFY(
         m_bench.undoText().contains("--   - What triggers and routines of the site have changed "
