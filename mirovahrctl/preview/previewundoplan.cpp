@@ -152,10 +152,13 @@ void PreviewUndoPlan::finish(const PreviewSchema &schema)
 
 QString PreviewUndoPlan::describe(const PreviewChange &change) const
 {
+    const QString &table = change.table->name;
+    if (table == QLatin1String("vars"))
+        return QStringLiteral("%1, %2").arg(table, change.cell("name"));
     const Card card = previewCard(m_words.describe(change));
-    const QString row = QStringLiteral("%1, %2").arg(change.table->name, card.who);
-    const bool saysAll = change.table->name == QLatin1String("people")
-        || PreviewUndoColumns::isCalculated(change.table->name);
+    const QString row = QStringLiteral("%1, %2").arg(table, card.who);
+    const bool saysAll =
+        table == QLatin1String("people") || PreviewUndoColumns::isCalculated(table);
     const QStringList words = card.what + card.details;
     return saysAll ? row : QStringLiteral("%1: %2").arg(row, words.join(QStringLiteral("; ")));
 }

@@ -8,8 +8,12 @@ namespace {
 
 constexpr char kCreateTemporary[] =
     "DROP TEMPORARY TABLE IF EXISTS %1;\n"
-    "CREATE TEMPORARY TABLE %1 (undo_row INT UNSIGNED NOT NULL PRIMARY KEY)\n"
+    "CREATE TEMPORARY TABLE %1 (undo_row INT UNSIGNED NOT NULL PRIMARY KEY%4)\n"
     "    SELECT 0 AS undo_row, %2 FROM %3 LIMIT 0;\n";
+
+/// By which the rows of a queue are found, in the order of the queue: of one terminal there may be
+/// thousands.
+constexpr char kQueueIndex[] = ", KEY (`tid`, `ref_id`)";
 
 // What concerns a new person whom the synchronisation has not created is as before.
 constexpr char kTranslate[] =
@@ -30,18 +34,26 @@ constexpr char kAssessNew[] = "UPDATE mirovahr_undo_rows r%1\n"
                               "        ELSE 'changed' END\n"
                               "    WHERE r.kind = 'new' AND r.state IS NULL;\n";
 
+constexpr char kLockQueue[] =
+    "SELECT COUNT(*) INTO v_locked FROM %2 STRAIGHT_JOIN %1 a ON %3 FOR UPDATE;\n";
+
 // Who has fetched a row has taken it away. Of more rows than the synchronisation has queued, nobody
 // knows which are its own.
 constexpr char kAssessQueue[] =
-    "UPDATE mirovahr_undo_rows r JOIN (\n"
-    "        SELECT a.undo_row, COUNT(%3) AS found FROM %1 a\n"
-    "        LEFT JOIN %2 ON %4 GROUP BY a.undo_row) f USING (undo_row)\n"
-    "    SET r.is_fetched = f.found < r.copies,\n"
+    "UPDATE mirovahr_undo_rows r JOIN %1 USING (undo_row) LEFT JOIN (\n"
+    "        SELECT a.undo_row, COUNT(*) AS found FROM %2 STRAIGHT_JOIN %1 a ON %3\n"
+    "        GROUP BY a.undo_row) f USING (undo_row)\n"
+    "    SET r.is_fetched = IFNULL(f.found, 0) < r.copies,\n"
     "        r.state = CASE\n"
-    "        WHEN f.found = 0 THEN 'before'\n"
+    "        WHEN f.found IS NULL THEN 'before'\n"
     "        WHEN f.found <= r.copies THEN 'written'\n"
     "        ELSE 'changed' END\n"
     "    WHERE r.state IS NULL;\n";
+
+constexpr char kDeleteQueued[] =
+    "DELETE %2 FROM %2 STRAIGHT_JOIN %1 a ON %3\n"
+    "    STRAIGHT_JOIN mirovahr_undo_rows r ON r.undo_row = a.undo_row\n"
+    "    WHERE r.state = 'written';\n";
 
 constexpr char kAssessDays[] = "UPDATE mirovahr_undo_rows r%1\n"
                                "    JOIN %2 ON %3\n"
@@ -124,7 +136,9 @@ QString PreviewUndoTable::creation() const
     QString text;
     const QVector<Side> own = sides();
     for (const Side side : own)
-        text += sql(kCreateTemporary).arg(temporary(side), m_table.columnList(), m_name);
+        text += sql(kCreateTemporary)
+                    .arg(temporary(side), m_table.columnList(), m_name,
+                         isQueue() ? sql(kQueueIndex) : QString());
     return text;
 }
 
@@ -174,6 +188,8 @@ QString PreviewUndoTable::translation() const
 
 QString PreviewUndoTable::locking() const
 {
+    if (isQueue())
+        return forQueue(kLockQueue);
     return sides().contains(Side::After)
         ? sql(kLock).arg(temporary(Side::After), m_name, isSameRow(Side::After))
         : QString();
@@ -183,8 +199,8 @@ QString PreviewUndoTable::assessment() const
 {
     if (PreviewUndoColumns::isMarks(m_table.name))
         return QString();
-    if (m_rows.key.isEmpty())
-        return assessQueue();
+    if (isQueue())
+        return forQueue(kAssessQueue);
     QString text;
     if (m_rows.has(Kind::New))
         text += assessNew() + assessDays();
@@ -197,6 +213,8 @@ QString PreviewUndoTable::assessment() const
 
 QString PreviewUndoTable::deletion() const
 {
+    if (isQueue())
+        return forQueue(kDeleteQueued);
     return m_rows.has(Kind::New)
         ? sql(kDelete).arg(m_name, joinTemporary(Side::After), isSameRow(Side::After))
         : QString();
@@ -235,12 +253,6 @@ QString PreviewUndoTable::update() const
     }
     return sql(kUpdate).arg(joinChanged(), m_name, isSameRow(Side::After),
                             assignments.join(QStringLiteral(",\n        ")));
-}
-
-QString PreviewUndoTable::assessQueue() const
-{
-    return sql(kAssessQueue)
-        .arg(temporary(Side::After), m_name, cell(QStringLiteral("tid")), isSameRow(Side::After));
 }
 
 QString PreviewUndoTable::assessNew() const
@@ -297,10 +309,18 @@ QString PreviewUndoTable::assessRemoved() const
              isAsBefore(Kind::Removed));
 }
 
+bool PreviewUndoTable::isQueue() const
+{
+    return m_rows.key.isEmpty();
+}
+
+QString PreviewUndoTable::forQueue(const char *statement) const
+{
+    return sql(statement).arg(temporary(Side::After), m_name, isAsWritten(Kind::New));
+}
+
 QString PreviewUndoTable::isSameRow(Side side) const
 {
-    if (m_rows.key.isEmpty())
-        return isAsWritten(Kind::New);
     QStringList conditions;
     for (const QString &column : m_rows.key) {
         conditions +=

@@ -57,7 +57,8 @@ private:
     void writeRows(Side side, const PreviewMoments &moments, QIODevice &out) const;
     QStringList uidColumns() const;
 
-    QString assessQueue() const;
+    bool isQueue() const;
+    QString forQueue(const char *statement) const;
     QString assessNew() const;
     QString assessDays() const;
     QString assessChanged() const;
