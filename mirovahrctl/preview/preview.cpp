@@ -167,6 +167,8 @@ std::optional<ExitStatus> PreviewCommand::prepare()
             m_export, {m_line.pagePath(), m_sql.fileName(), m_undo.fileName(), m_log.fileName()},
             m_console))
         return end;
+    if (m_line.isSet("partial") && !m_line.isSet("undo"))
+        return m_console.fail(ExitStatus::Usage, QStringLiteral("--partial belongs to --undo"));
     if (const auto end = m_configuration.read(m_line, m_console))
         return end;
     for (OutputFile *const file : {&m_sql, &m_undo, &m_log}) {

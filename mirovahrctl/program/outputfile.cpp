@@ -67,12 +67,23 @@ bool isSameFile(const QString &a, const QString &b)
 std::optional<ExitStatus> refuseOverwriting(const QString &exportFile, const QStringList &outputs,
                                             Console &console)
 {
-    const bool overwrites =
-        std::any_of(outputs.cbegin(), outputs.cend(), [&exportFile](const QString &output) {
-            return !output.isEmpty() && isSameFile(output, exportFile);
-        });
-    if (!overwrites)
-        return std::nullopt;
-    return console.fail(ExitStatus::Usage,
-                        Text::tr("The result would overwrite the export; name another file"));
+    for (int i = 0; i < outputs.size(); ++i) {
+        const QString &output = outputs.at(i);
+        if (output.isEmpty())
+            continue;
+        if (isSameFile(output, exportFile)) {
+            return console.fail(
+                ExitStatus::Usage,
+                Text::tr("The result would overwrite the export; name another file"));
+        }
+        const bool isTaken =
+            std::any_of(outputs.cbegin(), outputs.cbegin() + i,
+                        [&output](const QString &other) { return isSameFile(other, output); });
+        if (isTaken) {
+            return console.fail(
+                ExitStatus::Usage,
+                Text::tr("Two results would be written to '%1'; name another file").arg(output));
+        }
+    }
+    return std::nullopt;
 }

@@ -35,6 +35,6 @@ private:
 bool isSameFile(const QString &a, const QString &b);
 
 /// Has a status when the subcommand must end with it: one of these outputs, of which some may be
-/// empty, would overwrite the export, and the error was printed.
+/// empty, would overwrite the export or another one, and the error was printed.
 std::optional<ExitStatus> refuseOverwriting(const QString &exportFile, const QStringList &outputs,
                                             Console &console);

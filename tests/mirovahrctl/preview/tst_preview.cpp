@@ -312,7 +312,7 @@ void TestPreview::theCopyIsGoneAfterASignal()
     const auto unlock = qScopeGuard([this] { m_bench.site().run("UNLOCK TABLES"); });
     ProgramRun preview;
     preview.setVariable("TMPDIR", m_temporary.path());
-    preview.start(MIROVAHRCTL, arguments());
+    preview.start(MIROVAHRCTL, arguments({"--undo", path("interrupted.sql")}));
     // The copy's server runs when the first table is read.
     const QString waiting = "SELECT COUNT(*) FROM information_schema.PROCESSLIST WHERE USER = "
                             "'mirovahrctl' AND INFO LIKE 'SELECT % FROM `people`' AND STATE LIKE "
@@ -326,18 +326,21 @@ void TestPreview::theCopyIsGoneAfterASignal()
     QVERIFY(preview.waitForEnd());
     COMPARE_STATUS(preview, 128 + signal);
     QVERIFY(descendants.waitForEnd());
+    QVERIFY(!QFileInfo::exists(path("interrupted.sql")));
 }
 
 void TestPreview::aSynchronisationThatDoesNotTakePlaceIsNoResult()
 {
     m_bench.site().run("ALTER TABLE people DROP COLUMN title2");
-    const ToolRun tool = runTool(arguments({"--sql", path("nothing.sql")}));
+    const ToolRun tool =
+        runTool(arguments({"--sql", path("nothing.sql"), "--undo", path("nothing-undo.sql")}));
     COMPARE_EXIT(tool, ExitStatus::ContractBroken);
     QCOMPARE(tool.out, QString());
     QVERIFY2(tool.err.startsWith("mirovahrctl: preview: The plugin cannot load the people of this "
                                  "database and would synchronise nobody. It logs "),
              tool.report().constData());
     QVERIFY(!QFileInfo::exists(path("nothing.sql")));
+    QVERIFY(!QFileInfo::exists(path("nothing-undo.sql")));
 }
 
 void TestPreview::aServerProgramThatIsNotInstalledIsNamed()
@@ -389,6 +392,18 @@ void TestPreview::whatCannotBeUsedIsRefusedAtOnce_data()
     QTest::newRow("the SQL over the export")
         << arguments({"--sql", m_bench.exportFile().path()})
         << "The result would overwrite the export; name another file.\n";
+    QTest::newRow("no folder for the undo")
+        << arguments({"--undo", ending})
+        << "'" + ending + "' cannot be written: No such file or directory.\n";
+    QTest::newRow("the undo over the export")
+        << arguments({"--undo", m_bench.exportFile().path()})
+        << "The result would overwrite the export; name another file.\n";
+    QTest::newRow("the undo over the SQL")
+        << arguments({"--sql", path("one"), "--undo", m_bench.filePath("./one")})
+        << "Two results would be written to '" + m_bench.filePath("./one")
+            + "'; name another file.\n";
+    QTest::newRow("a partial undo without one")
+        << arguments({"--partial"}) << "--partial belongs to --undo.\n";
     QTest::newRow("the log over the export")
         << arguments({"--log", m_bench.exportFile().path()})
         << "The result would overwrite the export; name another file.\n";

@@ -123,7 +123,7 @@ void TestOutputFiles::everyFileOfTheCommandLineIsSuchAFile_data()
     QTest::newRow("explain") << QStringList{"explain", "1234.1", exportPath} + m_bench.arguments()
                              << QStringList{"html"};
     QTest::newRow("preview") << QStringList{"preview", exportPath} + m_bench.arguments()
-                             << QStringList{"html", "log", "sql"};
+                             << QStringList{"html", "log", "sql", "undo"};
 }
 
 void TestOutputFiles::everyFileOfTheCommandLineIsSuchAFile()
