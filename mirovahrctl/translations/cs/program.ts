@@ -55,5 +55,9 @@
         <source>The result would overwrite the export; name another file</source>
         <translation>Výsledek by přepsal export; uveďte jiný soubor</translation>
     </message>
+    <message>
+        <source>Two results would be written to &apos;%1&apos;; name another file</source>
+        <translation>Do „%1“ by se zapsaly dva výsledky; uveďte jiný soubor</translation>
+    </message>
 </context>
 </TS>

@@ -55,5 +55,9 @@
         <source>The result would overwrite the export; name another file</source>
         <translation>Výsledok by prepísal export; uveďte iný súbor</translation>
     </message>
+    <message>
+        <source>Two results would be written to &apos;%1&apos;; name another file</source>
+        <translation>Do „%1“ by sa zapísali dva výsledky; uveďte iný súbor</translation>
+    </message>
 </context>
 </TS>
