@@ -87,6 +87,7 @@ private Q_SLOTS:
     void aKilledStatementChangesNothing();
     void aKilledClientLeavesAllOrNothing();
     void aClientThatGoesOnAfterErrorsChangesNothing();
+    void anAccountOfTheDatabaseIsEnough();
 
     void theReportSaysWhatIsNotTakenBack();
 
@@ -708,6 +709,20 @@ void TestPreviewUndo::aClientThatGoesOnAfterErrorsChangesNothing()
     undo(client, {"--force"});
     QVERIFY2(client.errors().contains("refused by the test"), client.report().constData());
     QCOMPARE(TestDatabase::difference(synchronised, site().dumpAll()), QString());
+}
+
+void TestPreviewUndo::anAccountOfTheDatabaseIsEnough()
+{
+    site().run("ALTER TABLE brape ENGINE=MyISAM");
+    synchronise();
+    site().run("CREATE USER undoer@localhost");
+    site().run("GRANT SELECT, INSERT, UPDATE, DELETE, CREATE TEMPORARY TABLES, LOCK TABLES ON "
+               "tepdb.* TO undoer@localhost");
+    ProgramRun client;
+    undo(client, {"--user=undoer"});
+    site().run("DROP USER undoer@localhost");
+    COMPARE_STATUS(client, 0);
+    QCOMPARE(leftOver(), QString());
 }
 
 void TestPreviewUndo::theReportSaysWhatIsNotTakenBack()
