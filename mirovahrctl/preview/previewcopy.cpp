@@ -73,11 +73,16 @@ bool PreviewCopy::copyRows(SqlSession &site, const PreviewTable &table, const Li
         listener(++m_copied, m_schema.rowEstimate());
         return m_tuples.size() < kBatch || flush(table);
     };
-    PreviewReading reading(site, table);
+    const QString select =
+        QStringLiteral("SELECT %1 FROM %2 t")
+            .arg(table.expressions(QStringLiteral("t")), SqlSession::name(table.name));
+    PreviewPortions wholeTable(site, table, table.primaryKey(), QStringLiteral("t"));
     const QStringList portions = m_selection.portionsOf(table);
     const bool isRead =
         std::all_of(portions.cbegin(), portions.cend(), [&](const QString &condition) {
-            return condition.isEmpty() ? reading.readAll(take) : reading.readWhere(condition, take);
+            return condition.isEmpty()
+                ? wholeTable.forEachRow(select, QStringLiteral("TRUE"), take)
+                : site.forEachRow(select + QStringLiteral(" WHERE ") + condition, take);
         });
     if (isRead && flush(table))
         return true;

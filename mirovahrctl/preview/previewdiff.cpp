@@ -2,6 +2,7 @@
 
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/preview/previewcopy.h"
+#include "mirovahrctl/preview/previewportions.h"
 
 #include <QMap>
 
@@ -55,14 +56,6 @@ QString sameRow(const PreviewTable &table)
         conditions +=
             QStringLiteral("BINARY a.%1 <=> BINARY b.%1").arg(SqlSession::name(column.name));
     return conditions.join(QStringLiteral(" AND "));
-}
-
-QString order(const PreviewTable &table, const QString &owner)
-{
-    QStringList columns;
-    for (const QString &column : table.key)
-        columns += owner + QLatin1Char('.') + SqlSession::name(column);
-    return columns.join(QStringLiteral(", "));
 }
 
 /// The row, with the texts of the other one where they are equal: there may be hundreds of
@@ -119,25 +112,24 @@ void PreviewDiff::compareByKey(const PreviewTable &table)
     const QString key = sameKey(table.key);
     const QString first = SqlSession::name(table.key.first());
     const int count = table.columns.size();
-    m_server.forEachRow(
-        QStringLiteral("SELECT %1 FROM %2 b LEFT JOIN %3 a ON %4 WHERE a.%5 IS NULL ORDER BY %6")
-            .arg(table.expressions(QStringLiteral("b")), before, after, key, first,
-                 order(table, QStringLiteral("b"))),
-        [&](const QStringList &row) {
-            add(table, row, {});
-            return true;
-        });
-    m_server.forEachRow(
-        QStringLiteral("SELECT %1, %2, b.%6 IS NULL FROM %3 a LEFT JOIN %4 b ON %5 WHERE b.%6 IS "
-                       "NULL OR NOT (%7) ORDER BY %8")
-            .arg(table.expressions(QStringLiteral("a")), table.expressions(QStringLiteral("b")),
-                 table.changingRows(), before, key, first, sameRow(table),
-                 order(table, QStringLiteral("a"))),
-        [&](const QStringList &row) {
-            const bool isNew = row.last() == QLatin1String("1");
-            add(table, isNew ? QStringList() : row.mid(count, count), row.mid(0, count));
-            return true;
-        });
+    PreviewPortions(m_server, table, table.key, QStringLiteral("b"))
+        .forEachRow(QStringLiteral("SELECT %1 FROM %2 b LEFT JOIN %3 a ON %4")
+                        .arg(table.expressions(QStringLiteral("b")), before, after, key),
+                    QStringLiteral("a.%1 IS NULL").arg(first), [&](const QStringList &row) {
+                        add(table, row, {});
+                        return true;
+                    });
+    PreviewPortions(m_server, table, table.key, QStringLiteral("a"))
+        .forEachRow(
+            QStringLiteral("SELECT %1, %2, b.%6 IS NULL FROM %3 a LEFT JOIN %4 b ON %5")
+                .arg(table.expressions(QStringLiteral("a")), table.expressions(QStringLiteral("b")),
+                     table.changingRows(), before, key, first),
+            QStringLiteral("b.%1 IS NULL OR NOT (%2)").arg(first, sameRow(table)),
+            [&](const QStringList &row) {
+                const bool isNew = row.last() == QLatin1String("1");
+                add(table, isNew ? QStringList() : row.mid(count, count), row.mid(0, count));
+                return true;
+            });
 }
 
 void PreviewDiff::compareWithoutKey(const PreviewTable &table)

@@ -10,73 +10,77 @@ namespace {
 /// Rows of a portion: some megabytes.
 constexpr int kPortion = 20000;
 
-/// The columns of the primary key, if they are numbers: texts are equal and in order by collations.
-QStringList numbersOfPrimaryKey(const PreviewTable &table)
+/// Texts are equal and in order by collations, so a portion cannot begin behind one.
+bool consistsOfNumbers(const PreviewTable &table, const QStringList &key)
 {
-    const QStringList key = table.primaryKey();
-    const bool areNumbers = std::all_of(key.cbegin(), key.cend(), [&table](const QString &column) {
-        const int at = table.indexOf(column);
+    return std::all_of(key.cbegin(), key.cend(), [&table](const QString &name) {
+        const int at = table.indexOf(name);
         return at >= 0 && table.columns.at(at).kind == PreviewColumn::Kind::Number;
     });
-    return areNumbers ? key : QStringList();
 }
 
 } // namespace
 
-PreviewReading::PreviewReading(SqlSession &site, const PreviewTable &table)
-    : m_site(site)
+PreviewPortions::PreviewPortions(SqlSession &server, const PreviewTable &table,
+                                 const QStringList &key, const QString &owner)
+    : m_server(server)
     , m_table(table)
-    , m_select(QStringLiteral("SELECT %1 FROM %2 t")
-                   .arg(table.expressions(QStringLiteral("t")), SqlSession::name(table.name)))
-    , m_key(numbersOfPrimaryKey(table))
+    , m_key(key)
+    , m_owner(owner)
 {
 }
 
-bool PreviewReading::readAll(const Take &take)
+bool PreviewPortions::forEachRow(const QString &select, const QString &condition, const Take &take)
 {
+    const QString query = select + QStringLiteral(" WHERE (") + condition + QLatin1Char(')');
     if (m_key.isEmpty())
-        return m_site.forEachRow(m_select, take);
+        return m_server.forEachRow(query, take);
+    if (!consistsOfNumbers(m_table, m_key))
+        return m_server.forEachRow(query + order(), take);
+
+    const QString limit = QStringLiteral(" LIMIT %1").arg(kPortion);
     QStringList last;
     int count = 0;
     do {
         count = 0;
-        const bool isRead =
-            m_site.forEachRow(m_select + rowsAfter(last), [&](const QStringList &row) {
-                ++count;
-                last = row;
-                return take(row);
-            });
+        const bool isRead = m_server.forEachRow(query + behind(last) + order() + limit,
+                                                [&](const QStringList &row) {
+                                                    ++count;
+                                                    last = row;
+                                                    return take(row);
+                                                });
         if (!isRead)
             return false;
     } while (count == kPortion);
     return true;
 }
 
-bool PreviewReading::readWhere(const QString &condition, const Take &take)
+QString PreviewPortions::column(const QString &name) const
 {
-    return m_site.forEachRow(m_select + QStringLiteral(" WHERE ") + condition, take);
+    return m_owner + QLatin1Char('.') + SqlSession::name(name);
 }
 
-/// The end of the query for the portion that follows a row; the first portion follows none. A
-/// comparison of rows, (a, b) > (1, 2), would not use the key.
-QString PreviewReading::rowsAfter(const QStringList &row) const
+QString PreviewPortions::order() const
 {
+    QStringList columns;
+    for (const QString &name : m_key)
+        columns += column(name);
+    return QStringLiteral(" ORDER BY ") + columns.join(QStringLiteral(", "));
+}
+
+/// What else holds for the portion that follows a row; the first portion follows none. A comparison
+/// of rows, (a, b) > (1, 2), would not use the key.
+QString PreviewPortions::behind(const QStringList &row) const
+{
+    if (row.isEmpty())
+        return {};
     QStringList equal;
     QStringList later;
-    QStringList columns;
     for (const QString &name : m_key) {
-        const QString column = QStringLiteral("t.") + SqlSession::name(name);
-        columns += column;
-        if (row.isEmpty())
-            continue;
         const QString &value = row.at(m_table.indexOf(name));
-        later += (equal + QStringList(column + QStringLiteral(" > ") + value))
+        later += (equal + QStringList(column(name) + QStringLiteral(" > ") + value))
                      .join(QStringLiteral(" AND "));
-        equal += column + QStringLiteral(" = ") + value;
+        equal += column(name) + QStringLiteral(" = ") + value;
     }
-    return (later.isEmpty() ? QString()
-                            : QStringLiteral(" WHERE ") + later.join(QStringLiteral(" OR ")))
-        + QStringLiteral(" ORDER BY %1 LIMIT %2")
-              .arg(columns.join(QStringLiteral(", ")))
-              .arg(kPortion);
+    return QStringLiteral(" AND (") + later.join(QStringLiteral(" OR ")) + QLatin1Char(')');
 }

@@ -8,26 +8,28 @@
 class SqlSession;
 struct PreviewTable;
 
-/// Reads the rows of a table of the site. Qt's driver holds the whole answer to a query, so where
-/// it may be large, several queries each read a portion.
-///
-/// Both functions return false when \a take did, or when a query failed.
-class PreviewReading {
+/// Reads the answer to a query about the rows of a table. Qt's driver holds the whole answer to a
+/// query, so several queries each read a portion where the key consists of numbers.
+class PreviewPortions {
 public:
     using Take = std::function<bool(const QStringList &row)>;
 
-    PreviewReading(SqlSession &site, const PreviewTable &table);
+    /// \a key identifies a row of the table, which the queries call \a owner; it is empty where
+    /// rows may repeat. The rows of the answer begin with the columns of the table.
+    PreviewPortions(SqlSession &server, const PreviewTable &table, const QStringList &key,
+                    const QString &owner);
 
-    /// All rows: by portions where the primary key consists of numbers.
-    bool readAll(const Take &take);
-    /// The rows for which a condition holds.
-    bool readWhere(const QString &condition, const Take &take);
+    /// The rows for which \a condition holds, in the order of the key; \a select ends before WHERE.
+    /// Returns false when \a take did, or when a query failed.
+    bool forEachRow(const QString &select, const QString &condition, const Take &take);
 
 private:
-    QString rowsAfter(const QStringList &row) const;
+    QString column(const QString &name) const;
+    QString order() const;
+    QString behind(const QStringList &row) const;
 
-    SqlSession &m_site;
+    SqlSession &m_server;
     const PreviewTable &m_table;
-    const QString m_select;
-    QStringList m_key; ///< empty: not by portions
+    const QStringList m_key;
+    const QString m_owner;
 };
