@@ -3,12 +3,13 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <optional>
 
 #include <sys/stat.h>
 
 namespace {
 
-constexpr qint64 kBlock = 256 * 1024;
+constexpr int kBlock = 256 * 1024;
 
 /// Where the line begins in which this byte is.
 qint64 beginOfLine(QFile &file, qint64 place)

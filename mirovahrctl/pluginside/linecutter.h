@@ -8,7 +8,7 @@
 class LineCutter {
 public:
     /// Bytes of a line; the rest of a longer one is left out.
-    static constexpr size_t kLongestLine = 64 * 1024;
+    static constexpr size_t kLongestLine = size_t(64) * 1024;
 
     /// Gets a line without its line feed. Returns whether to go on.
     using Visitor = std::function<bool(std::string_view line)>;

@@ -1,4 +1,5 @@
 #include "mirovahrctl/log/growingfile.h"
+#include "tests/support/patience.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void aNewFileIsTakenThoughTheNameWasFree();
     void anEmptiedFileBeginsAnew();
     void aPipeInItsPlaceIsNotOpened();
+    void aNewFileBehindALinkIsNoticed();
     void aSearchFindsWhatReachesAcrossBlocks();
     void aLineThatIsLongerThanABlockIsWhole();
 
@@ -125,6 +127,27 @@ void TestGrowingFile::aPipeInItsPlaceIsNotOpened()
     append(m_old, "b");
     file.readOn();
     QCOMPARE(bytes, QByteArray("ab"));
+}
+
+/// It appears in another folder than that of the name.
+void TestGrowingFile::aNewFileBehindALinkIsNoticed()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir("logs"));
+    const QString target = m_folder->filePath("logs/log");
+    append(target, "a");
+    QVERIFY(QFile::link(target, m_path));
+    GrowingFile file(m_path);
+    QByteArray bytes;
+    collect(file, bytes);
+    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    file.readOn();
+    QVERIFY(QFile::rename(target, m_old));
+    QCoreApplication::processEvents();
+    QSignalSpy begunAnew(&file, &GrowingFile::begunAnew);
+    append(target, "b");
+    QVERIFY(begunAnew.wait(kPatienceMs));
+    file.readOn();
+    QCOMPARE(bytes, QByteArray("a|b"));
 }
 
 void TestGrowingFile::aSearchFindsWhatReachesAcrossBlocks()

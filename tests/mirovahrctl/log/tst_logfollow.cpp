@@ -59,6 +59,7 @@ private Q_SLOTS:
     void aSynchronisationThatRunsAtTheBeginIsComplete();
     void aLineWaitsForItsRest();
     void aRenamedLogIsReadToItsEnd();
+    void aLogThatComesBackIsFollowed();
     void aRemovedLogIsReplaced();
     void aLinkToAnotherLogIsFollowed();
     void aLogThatIsCopiedAndEmptiedIsFollowed();
@@ -226,6 +227,20 @@ void TestLogFollow::aRenamedLogIsReadToItsEnd()
     }
     stop(run);
     QCOMPARE(run.output(), line(1) + line(2) + line(3) + line(4) + line(5) + line(6) + line(7));
+}
+
+void TestLogFollow::aLogThatComesBackIsFollowed()
+{
+    append(synchronisation(1));
+    ProgramRun run;
+    follow(run);
+    QVERIFY2(run.waitForText(line(1)), run.report().constData());
+    QVERIFY(QFile::rename(m_path, m_path + ".1"));
+    QVERIFY(QFile::rename(m_path + ".1", m_path));
+    append(synchronisation(2));
+    QVERIFY2(run.waitForText(line(2)), run.report().constData());
+    append(synchronisation(3));
+    QVERIFY2(run.waitForText(line(3)), run.report().constData());
 }
 
 void TestLogFollow::aRemovedLogIsReplaced()
