@@ -187,9 +187,10 @@ void TestLogFollow::itBeginsAtATime()
 
 void TestLogFollow::aSynchronisationThatRunsAtTheBeginIsComplete()
 {
-    append(begin(1) + "MHRWorker::dbAddPerson(1235.1)\n");
+    append(begin(1) + "MHRWorker::dbAddPerson(1235.1)\n" + kProblem);
     ProgramRun run;
     follow(run);
+    QVERIFY2(run.waitForText("could not be loaded"), run.report().constData());
     append("MHRWorker::dbAddPerson(1236.1)\n" + end(1));
     QVERIFY2(run.waitForText("; Created: 2\n"), run.report().constData());
 }
