@@ -6,6 +6,7 @@
 #include <QChar>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 

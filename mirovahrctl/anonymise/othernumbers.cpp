@@ -5,7 +5,10 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <functional>
 #include <limits>
+#include <tuple>
+#include <utility>
 
 namespace {
 
@@ -102,7 +105,8 @@ void OtherNumbers::settle()
     QSet<int> wrong = offenders();
     for (int round = 0; !wrong.isEmpty(); ++round) {
         for (const int root : qAsConst(wrong)) {
-            if (round >= kRounds || !choose(root))
+            const bool isKept = m_kept.contains(root); // in place of another one
+            if (!isKept && (round >= kRounds || !choose(root)))
                 keep(root);
         }
         wrong = offenders();
