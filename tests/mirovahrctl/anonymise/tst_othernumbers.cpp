@@ -191,7 +191,7 @@ void TestOtherNumbers::theSamePidsComeAboutAmongRandomNumbers_data()
     QTest::newRow("few small numbers") << 120 << 120 << 12 << 1000;
     QTest::newRow("all small numbers") << 100 << 30 << 150 << 50;
     QTest::newRow("nearly all small numbers with nearly all relationships")
-        << 30 << 120 << 1500 << 20;
+        << 30 << 120 << 1500 << 3;
     QTest::newRow("large and small") << 20000 << 12 << 5000 << 5;
     QTest::newRow("long relationships") << 2000 << 2000 << 50 << 200;
 }
