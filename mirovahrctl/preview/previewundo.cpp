@@ -44,7 +44,7 @@ constexpr char kMakeRows[] = "DROP TEMPORARY TABLE IF EXISTS mirovahr_undo_rows;
                              "    state VARCHAR(10) NULL,\n"
                              "    is_calculated BOOLEAN NOT NULL DEFAULT FALSE,\n"
                              "    is_fetched BOOLEAN NOT NULL DEFAULT FALSE,\n"
-                             "    KEY (uid))\n"
+                             "    is_concerned BOOLEAN NOT NULL DEFAULT FALSE)\n"
                              "    CHARACTER SET utf8mb4;\n";
 
 constexpr char kMakePeople[] = "DROP TEMPORARY TABLE IF EXISTS mirovahr_undo_people;\n"
@@ -85,8 +85,12 @@ constexpr char kDecide[] =
     "SELECT COUNT(*) INTO v_written FROM mirovahr_undo_rows r\n"
     "    WHERE r.area <> 'queue' AND r.state = 'written';\n";
 
-// Somebody in whom the synchronisation has changed nothing was not queued by it either.
+// Of somebody in whom the synchronisation has changed nothing, nothing was fetched or calculated
+// for its sake: such people are not concerned.
 constexpr char kReport[] =
+    "UPDATE mirovahr_undo_rows r JOIN (SELECT DISTINCT o.uid FROM mirovahr_undo_rows o\n"
+    "        WHERE o.area = 'plain' AND o.state IN ('written', 'changed')) p USING (uid)\n"
+    "    SET r.is_concerned = TRUE;\n"
     "SELECT t.result AS `Result` FROM (\n"
     "    SELECT 1 AS place, 0 AS undo_row, CONCAT('Rows taken back: ', COUNT(*)) AS result\n"
     "        FROM mirovahr_undo_rows r WHERE r.state = 'written'\n"
@@ -96,12 +100,11 @@ constexpr char kReport[] =
     "        FROM mirovahr_undo_rows r WHERE r.area = 'plain' AND r.state = 'changed'\n"
     "    UNION ALL SELECT 4, MIN(r.undo_row), CONCAT('Left, calculated since: ', r.what)\n"
     "        FROM mirovahr_undo_rows r\n"
-    "        WHERE r.is_calculated OR r.area = 'calculated' AND r.state = 'changed' GROUP BY "
-    "r.what\n"
+    "        WHERE r.is_concerned\n"
+    "        AND (r.is_calculated OR r.area = 'calculated' AND r.state = 'changed')\n"
+    "        GROUP BY r.what\n"
     "    UNION ALL SELECT 5, r.undo_row, CONCAT('Left, fetched since: ', r.what)\n"
-    "        FROM mirovahr_undo_rows r WHERE r.is_fetched AND EXISTS (SELECT 1\n"
-    "        FROM mirovahr_undo_rows o WHERE o.uid = r.uid AND o.area <> 'queue'\n"
-    "        AND o.state IN ('written', 'changed'))\n"
+    "        FROM mirovahr_undo_rows r WHERE r.is_concerned AND r.is_fetched\n"
     "    UNION ALL SELECT 6, r.undo_row, CONCAT('Left, queued again since: ', r.what)\n"
     "        FROM mirovahr_undo_rows r WHERE r.area = 'queue' AND r.state = 'changed') t\n"
     "    ORDER BY t.place, t.undo_row;\n";

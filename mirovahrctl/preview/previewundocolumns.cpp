@@ -58,10 +58,11 @@ bool PreviewUndoColumns::isCalculated(const QString &table)
 
 bool PreviewUndoColumns::holdsUid(const QString &table, const QString &column)
 {
-    const QLatin1String uid("people.uid");
+    // The contract says whose ids a column holds only where the plugin writes it.
     const TepDbContract::Column *const known = TepDbContract::findColumn(table, column);
     return known != nullptr
-        && (known->fullName() == uid || QLatin1String(known->written.owner) == uid);
+        && (column == QLatin1String("uid")
+            || QLatin1String(known->written.owner) == QLatin1String("people.uid"));
 }
 
 bool PreviewUndoColumns::isRowNumber(const PreviewTable &table, const QString &column)

@@ -72,8 +72,7 @@ constexpr char kAssessChanged[] = "UPDATE mirovahr_undo_rows r%1\n"
 constexpr char kAssessCalculation[] = "UPDATE mirovahr_undo_rows r%1\n"
                                       "    JOIN %2 ON %3\n"
                                       "    SET r.is_calculated = TRUE\n"
-                                      "    WHERE r.kind = 'changed' AND r.state = 'written'\n"
-                                      "    AND (%4);\n";
+                                      "    WHERE r.kind = 'changed' AND (%4);\n";
 
 constexpr char kAssessRemoved[] = "UPDATE mirovahr_undo_rows r%1\n"
                                   "    LEFT JOIN %2 ON %3\n"
@@ -292,8 +291,9 @@ QString PreviewUndoTable::assessCalculation() const
     QStringList conditions;
     for (const PreviewColumn &column : m_table.columns) {
         if (PreviewUndoColumns::isCalculated(m_table.name, column.name)) {
-            conditions += QStringLiteral("NOT (%1) AND NOT (%2)")
-                              .arg(isCell(column, Side::After), isCell(column, Side::Before));
+            conditions += QStringLiteral("NOT %1 AND NOT %2 AND NOT a.%3 <=> b.%3")
+                              .arg(isCell(column, Side::After), isCell(column, Side::Before),
+                                   SqlSession::name(column.name));
         }
     }
     return conditions.isEmpty() ? QString()
@@ -335,9 +335,14 @@ QString PreviewUndoTable::isAsBefore(Kind kind) const
 {
     QStringList conditions;
     for (const PreviewColumn &column : m_table.columns) {
-        const bool isKnown = PreviewUndoColumns::isKnown(m_table.name, column.name);
-        conditions +=
-            isKnown || kind == Kind::Removed ? isCell(column, Side::Before) : isUntouched(column);
+        if (kind == Kind::Removed)
+            conditions += isCell(column, Side::Before);
+        else if (PreviewUndoColumns::isCalculated(m_table.name, column.name))
+            conditions += isNotWritten(column);
+        else if (PreviewUndoColumns::isKnown(m_table.name, column.name))
+            conditions += isCell(column, Side::Before);
+        else
+            conditions += isUntouched(column);
     }
     return conjunction(conditions);
 }
@@ -370,6 +375,13 @@ QString PreviewUndoTable::isAsWritten(const PreviewColumn &column, Kind kind) co
     }
     return ways.size() == 1 ? ways.first()
                             : QStringLiteral("(%1)").arg(ways.join(QStringLiteral(" OR ")));
+}
+
+/// The cell is as before, or somebody else has changed it.
+QString PreviewUndoTable::isNotWritten(const PreviewColumn &column) const
+{
+    return QStringLiteral("(%1 OR NOT %2)")
+        .arg(isCell(column, Side::Before), isCell(column, Side::After));
 }
 
 /// The cell is as before, or the synchronisation has changed it to whatever.

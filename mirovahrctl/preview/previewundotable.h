@@ -70,6 +70,7 @@ private:
     QString isAsBefore(Kind kind) const;
     QString isAsWritten(Kind kind) const;
     QString isAsWritten(const PreviewColumn &column, Kind kind) const;
+    QString isNotWritten(const PreviewColumn &column) const;
     QString isUntouched(const PreviewColumn &column) const;
     QString isCell(const PreviewColumn &column, Side side) const;
 

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void whatOthersHaveQueuedStays();
     void whatWasQueuedTwiceIsTakenBackTwice();
     void calculatedAttendanceIsNamed();
+    void otherCalculationsAreNobodysConcern();
 
     void otherFormsOfTables_data();
     void otherFormsOfTables();
@@ -448,6 +449,26 @@ void TestPreviewUndo::calculatedAttendanceIsNamed()
              QString("Nováková"));
     QVERIFY(site().value("SELECT calc > 1700000000 FROM people WHERE uid = 4").toBool());
     QCOMPARE(leftOver().count("\n+ ") + leftOver().startsWith("+ "), 2);
+}
+
+void TestPreviewUndo::otherCalculationsAreNobodysConcern()
+{
+    m_bench.writeExport({SampleExport::jana().with(&ExportRow::prijmeni, "Malá"),
+                         SampleExport::peter().with(&ExportRow::stredisko, 120)});
+    synchronise({}, [this] {
+        m_bench.writeExport({SampleExport::jana().with(&ExportRow::prijmeni, "Malá")});
+    });
+    // Of Peter the attendance server calculates what the synchronisation did not ask for.
+    site().run(
+        "UPDATE people SET calc = UNIX_TIMESTAMP(), lastCalc = UNIX_TIMESTAMP() WHERE uid IN "
+        "(2, 4)");
+    ProgramRun client;
+    undo(client);
+    COMPARE_STATUS(client, 0);
+    QCOMPARE(lineOf(client, "Left"), QString());
+    QCOMPARE(lineOf(client, "Rows taken back"), QString("Rows taken back: 2"));
+    QCOMPARE(site().value("SELECT surname FROM people WHERE uid = 4").toString(),
+             QString("Nováková"));
 }
 
 void TestPreviewUndo::otherFormsOfTables_data()
