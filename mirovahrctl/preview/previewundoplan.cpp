@@ -136,7 +136,12 @@ void PreviewUndoPlan::addRow(const PreviewChange &change)
         const bool isQueue = PreviewUndoColumns::isQueue(change.table->name);
         m_tables.append({change.table, isQueue ? QStringList() : keyOf(*change.table), {}});
     }
-    m_tables.last().rows.append({++m_rowCount, kindOf(change), &change, describe(change)});
+    QVector<Row> &rows = m_tables.last().rows;
+    QString what = describe(change);
+    // Of the days of a person there may be hundreds.
+    if (!rows.isEmpty() && rows.constLast().what == what)
+        what = rows.constLast().what;
+    rows.append({++m_rowCount, kindOf(change), &change, what});
 }
 
 void PreviewUndoPlan::finish(const PreviewSchema &schema)
@@ -155,10 +160,10 @@ QString PreviewUndoPlan::describe(const PreviewChange &change) const
     const QString &table = change.table->name;
     if (table == QLatin1String("vars"))
         return QStringLiteral("%1, %2").arg(table, change.cell("name"));
-    const Card card = previewCard(m_words.describe(change));
-    const QString row = QStringLiteral("%1, %2").arg(table, card.who);
-    const bool saysAll =
-        table == QLatin1String("people") || PreviewUndoColumns::isCalculated(table);
-    const QStringList words = card.what + card.details;
-    return saysAll ? row : QStringLiteral("%1: %2").arg(row, words.join(QStringLiteral("; ")));
+    const PreviewWords::Lines lines = m_words.describe(change);
+    const QString row = QStringLiteral("%1, %2").arg(table, lines.constFirst().who);
+    if (table == QLatin1String("people") || PreviewUndoColumns::isCalculated(table))
+        return row;
+    const Card card = previewCard(lines);
+    return QStringLiteral("%1: %2").arg(row, (card.what + card.details).join(QStringLiteral("; ")));
 }
