@@ -13,32 +13,28 @@ namespace {
 /// "INSERT on uid", "enabled and active".
 constexpr int kMostWordsBetweenValues = 4;
 
-/// A phrase has one of these at least; names, values and SQL in capital letters have none.
+/// A phrase has one of these at least; names, values and SQL in capital letters have none. Shorter
+/// ones may be left of a damaged name.
 const QSet<QString> &functionWords()
 {
-    static const QSet<QString> words{
-        "a",    "all",    "an",    "and",   "are",   "at",    "be",   "been", "but",    "by",
-        "can",  "cannot", "does",  "for",   "from",  "has",   "have", "how",  "if",     "in",
-        "is",   "it",     "its",   "no",    "not",   "of",    "on",   "only", "or",     "so",
-        "than", "that",   "the",   "then",  "there", "these", "this", "to",   "was",    "were",
-        "what", "when",   "where", "which", "who",   "why",   "will", "with", "without"};
+    static const QSet<QString> words{"all",   "and",   "are",  "been", "but",  "can",  "cannot",
+                                     "does",  "for",   "from", "has",  "have", "how",  "if",
+                                     "in",    "is",    "it",   "its",  "not",  "of",   "on",
+                                     "only",  "or",    "than", "that", "the",  "then", "there",
+                                     "these", "this",  "to",   "was",  "were", "what", "when",
+                                     "where", "which", "who",  "why",  "will", "with", "without"};
     return words;
 }
 
-bool isFunctionWord(const QString &word)
+/// Whether words of one phrase make a text. The first may have a capital letter; any other with one
+/// is a name. Known single words, such as the "or" of "%1 or %2", may stand between values.
+bool isText(QString phrase, const QStringList &known)
 {
-    const QString rest = word.mid(1);
-    return rest == rest.toLower() && functionWords().contains(word.toLower());
-}
-
-/// Whether words of one phrase make a text. Known single words, such as the "or" of "%1 or %2", may
-/// stand between values.
-bool isText(const QString &phrase, const QStringList &known)
-{
+    phrase[0] = phrase.at(0).toLower();
     const QStringList words = phrase.split(' ');
     const bool isShort = words.size() <= kMostWordsBetweenValues;
     return words.size() > 1 && std::any_of(words.cbegin(), words.cend(), [&](const QString &word) {
-               return isFunctionWord(word) && !(isShort && known.contains(word));
+               return functionWords().contains(word) && !(isShort && known.contains(word));
            });
 }
 
@@ -62,6 +58,7 @@ const QRegularExpression &serverMessage()
     static const QRegularExpression message(R"re((?x)
         (\w+\ command\ denied\ to\ user
         |Access\ denied\ for\ user
+        |Aborted\ connection
         |Can't\ connect\ to\ local\ server
         |Index\ for\ table
         |isn't\ in\ GROUP\ BY)
