@@ -13,8 +13,7 @@ namespace {
 /// "INSERT on uid", "enabled and active".
 constexpr int kMostWordsBetweenValues = 4;
 
-/// A phrase has one of these at least; names, values and SQL in capital letters have none. Shorter
-/// ones may be left of a damaged name.
+/// A phrase has one of these at least; names, values and SQL in capital letters have none.
 const QSet<QString> &functionWords()
 {
     static const QSet<QString> words{"all",   "and",   "are",  "been", "but",  "can",  "cannot",
@@ -26,16 +25,25 @@ const QSet<QString> &functionWords()
     return words;
 }
 
-/// Whether words of one phrase make a text. The first may have a capital letter; any other with one
-/// is a name. Known single words, such as the "or" of "%1 or %2", may stand between values.
-bool isText(QString phrase, const QStringList &known)
+bool isFunctionWord(QString word, bool isFirst)
 {
-    phrase[0] = phrase.at(0).toLower();
+    // "No" and "In" at the beginning may be left of a damaged name.
+    if (isFirst && word.size() > 2)
+        word[0] = word.at(0).toLower();
+    return functionWords().contains(word);
+}
+
+/// Whether words of one phrase make a text. Known single words, such as the "or" of "%1 or %2", may
+/// stand between values.
+bool isText(const QString &phrase, const QStringList &known)
+{
     const QStringList words = phrase.split(' ');
     const bool isShort = words.size() <= kMostWordsBetweenValues;
-    return words.size() > 1 && std::any_of(words.cbegin(), words.cend(), [&](const QString &word) {
-               return functionWords().contains(word) && !(isShort && known.contains(word));
-           });
+    for (int i = 0; i < words.size() && words.size() > 1; ++i) {
+        if (isFunctionWord(words.at(i), i == 0) && !(isShort && known.contains(words.at(i))))
+            return true;
+    }
+    return false;
 }
 
 /// The sequences of words that nothing but a space separates, each once. Ids and paths are no
@@ -66,23 +74,6 @@ const QRegularExpression &serverMessage()
     return message;
 }
 
-/// Without the tags of a page and the escapes of JSON, and without what is quoted as it is: lines
-/// of an export and of the plugin's log, and messages of the server.
-QString plainText(QString output)
-{
-    static const QRegularExpression style("<style>.*</style>",
-                                          QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression tag("<[^>]*>");
-    static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
-    static const QRegularExpression logLine(R"re(\w+::\w+\(\)[^"<\n]*)re");
-    output.remove(logLine).remove(serverMessage());
-    if (output.startsWith("<!DOCTYPE html>"))
-        return output.remove(style).replace(tag, "\n");
-    if (output.startsWith('{'))
-        return output.remove(exportLine).replace("\\n", "\n");
-    return output;
-}
-
 QRegularExpression wholeWords(const QString &phrase)
 {
     return QRegularExpression("\\b" + QRegularExpression::escape(phrase) + "\\b",
@@ -103,6 +94,21 @@ QString without(const QStringList &known, QString phrase)
 }
 
 } // namespace
+
+QString withoutQuotations(QString output)
+{
+    static const QRegularExpression style("<style>.*</style>",
+                                          QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression tag("<[^>]*>");
+    static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
+    static const QRegularExpression logLine(R"re(\w+::\w+\([^)\n]*\)[^"<\n]*)re");
+    output.remove(logLine).remove(serverMessage());
+    if (output.startsWith("<!DOCTYPE html>"))
+        return output.remove(style).replace(tag, "\n");
+    if (output.startsWith('{'))
+        return output.remove(exportLine).replace("\\n", "\n");
+    return output;
+}
 
 TranslatedTexts::TranslatedTexts()
 {
@@ -129,7 +135,7 @@ QStringList TranslatedTexts::missingIn(const QString &output) const
 {
     QStringList missing;
     const QStringList known = phrasesOfTexts();
-    const QSet<QString> found = phrases(plainText(output));
+    const QSet<QString> found = phrases(withoutQuotations(output));
     for (const QString &phrase : found) {
         if (!isText(phrase, {}))
             continue;

@@ -6,6 +6,10 @@
 #include <QStringList>
 #include <QTranslator>
 
+/// An output (a text, a page or JSON) without its tags and escapes, and without what it quotes as
+/// it is: lines of an export and of the plugin's log, and messages of the database server.
+QString withoutQuotations(QString output);
+
 /// Notes which texts the program takes from its translations, from its construction on.
 class TranslatedTexts : public QTranslator {
 public:
@@ -13,8 +17,7 @@ public:
     ~TranslatedTexts() override;
 
     /// The English phrases in an output that are no part of those texts: nobody has marked them for
-    /// translation. \a output: a text, a page or JSON. Values such as names and paths are no
-    /// phrases.
+    /// translation. Values such as names and paths are no phrases.
     QStringList missingIn(const QString &output) const;
 
     /// Notes the text, which another translator then translates.
@@ -32,6 +35,6 @@ private:
 
     QStringList phrasesOfTexts() const;
 
-    mutable QMutex m_mutex; ///< the plugin's threads translate nothing, but Qt's may
-    mutable QHash<QByteArray, Request> m_requests; ///< by what tells them apart
+    mutable QMutex m_mutex;
+    mutable QHash<QByteArray, Request> m_requests;
 };
