@@ -1,4 +1,5 @@
-// A whole file, anonymised: the worker drops and takes over the same lines, and the bytes are as many.
+// A whole file, anonymised: the worker drops and takes over the same lines, and the bytes are as
+// many.
 
 #include "fuzz/fuzztarget.h"
 #include "mirovahrctl/anonymise/otherlines.h"

@@ -66,9 +66,10 @@ Commands ClusterCycle::plainCommands() const
 int ClusterCycle::numberOf(const QString &pattern) const
 {
     const QRegularExpression expression = wildcard(pattern);
-    const auto command = std::find_if(
-        m_commands.begin(), m_commands.end(),
-        [&expression](const auto &each) { return expression.match(each.text).hasMatch(); });
+    const auto command =
+        std::find_if(m_commands.begin(), m_commands.end(), [&expression](const auto &each) {
+            return expression.match(each.text).hasMatch();
+        });
     return command == m_commands.end() ? 0 : int(command - m_commands.begin()) + 1;
 }
 
@@ -147,8 +148,7 @@ ClusterCycle::Run ClusterCycle::conflict(int number, const std::function<void()>
     if (!gate.attach(node.server()))
         return {};
     const auto isWaiting = [&gate] {
-        return !gate
-                    .rows("SELECT id FROM information_schema.processlist"
+        return !gate.rows("SELECT id FROM information_schema.processlist"
                           " WHERE state = 'User lock'")
                     .isEmpty();
     };
@@ -171,9 +171,9 @@ void ClusterCycle::checkDifferences(const Run &run) const
 {
     const QStringList notCarriedOut = without(carriedOut(m_commands), carriedOut(run.commands));
     for (const QString &line : run.differences) {
-        const bool explained = std::any_of(
-            ::differences().begin(), ::differences().end(),
-            [&](const Difference &each) { return each.explains(line, notCarriedOut); });
+        const bool explained =
+            std::any_of(::differences().begin(), ::differences().end(),
+                        [&](const Difference &each) { return each.explains(line, notCarriedOut); });
         QVERIFY2(explained, qPrintable(line + "\nnot carried out:\n" + notCarriedOut.join('\n')));
     }
 }

@@ -52,8 +52,8 @@ void TestClusterFaults::aNodeThatIsKilledIsSurvived()
     steps.beforeTheRepetition = [&node] {
         QVERIFY2(node.start(), qPrintable(node.errorString()));
     };
-    const ClusterCycle::Run run =
-        m_cycle.disturb(m_cycle.numberOf(command), isCarriedOut ? Way::CutAfter : Way::Forward, steps);
+    const ClusterCycle::Run run = m_cycle.disturb(
+        m_cycle.numberOf(command), isCarriedOut ? Way::CutAfter : Way::Forward, steps);
     QVERIFY(!run.problems.isEmpty());
     m_cycle.checkDifferences(run);
     QCOMPARE(m_cycle.cluster().inequalities().join("\n"), QString());

@@ -27,7 +27,8 @@ const Reaction &reactionTo(const QString &command);
 /// A lasting difference from the database after an undisturbed run, and why it is inevitable.
 struct Difference {
     QString line; ///< of StateChanges::between(undisturbed, disturbed), for wildcard()
-    /// Commands, of which one was not carried out; "@" is the pid of the person with the line's uid.
+    /// Commands, of which one was not carried out; "@" is the pid of the person with the line's
+    /// uid.
     QStringList causes;
     QString reason;
 
