@@ -119,17 +119,17 @@ constexpr char kLockTables[] =
 constexpr char kUnlockTables[] = "UNLOCK TABLES;\n"
                                  "SET SESSION autocommit = @old_autocommit;\n";
 
-using Row = PreviewUndoPlan::Row;
-using Rows = PreviewUndoPlan::Rows;
+using UndoRow = PreviewUndoPlan::Row;
+using UndoRows = PreviewUndoPlan::Rows;
 
-QString kindWord(Row::Kind kind)
+QString kindWord(UndoRow::Kind kind)
 {
     switch (kind) {
-    case Row::Kind::New:
+    case UndoRow::Kind::New:
         return QStringLiteral("new");
-    case Row::Kind::Changed:
+    case UndoRow::Kind::Changed:
         return QStringLiteral("changed");
-    case Row::Kind::Removed:
+    case UndoRow::Kind::Removed:
         break;
     }
     return QStringLiteral("removed");
@@ -189,7 +189,7 @@ void PreviewUndo::write(const QString &exportFile, Extent extent, QIODevice &out
     out.write(heading(exportFile, extent).toUtf8());
     out.write(PreviewScript::kExactValues);
     std::vector<PreviewUndoTable> tables;
-    for (const Rows &rows : m_plan.tables())
+    for (const UndoRows &rows : m_plan.tables())
         tables.emplace_back(rows, static_cast<int>(tables.size()) + 1, m_schema.copiedAt);
     writeRows(out);
     writePeople(out);
@@ -222,10 +222,10 @@ void PreviewUndo::writeRows(QIODevice &out) const
     out.write(kMakeRows);
     PreviewScript::Inserts inserts(QStringLiteral("mirovahr_undo_rows"),
                                    QStringLiteral("undo_row, kind, area, copies, uid, what"), out);
-    for (const Rows &rows : m_plan.tables()) {
+    for (const UndoRows &rows : m_plan.tables()) {
         const QString area = areaWord(rows.table->name);
         const int uid = columnOfUid(*rows.table);
-        for (const Row &row : rows.rows) {
+        for (const UndoRow &row : rows.rows) {
             inserts.add(QStringLiteral("(%1, '%2', '%3', %4, %5, %6)")
                             .arg(QString::number(row.number), kindWord(row.kind), area,
                                  QString::number(row.copies),
@@ -271,7 +271,7 @@ QString PreviewUndo::compound(const std::vector<PreviewUndoTable> &tables) const
 QString PreviewUndo::lockTables() const
 {
     QStringList locks;
-    for (const Rows &rows : m_plan.tables())
+    for (const UndoRows &rows : m_plan.tables())
         locks += QStringLiteral("%1 WRITE").arg(SqlSession::name(rows.table->name));
     if (m_plan.find("term") && !m_plan.find("term_sync"))
         locks += QStringLiteral("`term_sync` WRITE");

@@ -10,14 +10,14 @@
 
 namespace {
 
-using Row = PreviewUndoPlan::Row;
-using Rows = PreviewUndoPlan::Rows;
+using UndoRow = PreviewUndoPlan::Row;
+using UndoRows = PreviewUndoPlan::Rows;
 
-Row::Kind kindOf(const PreviewChange &change)
+UndoRow::Kind kindOf(const PreviewChange &change)
 {
     if (change.isInsert())
-        return Row::Kind::New;
-    return change.isDelete() ? Row::Kind::Removed : Row::Kind::Changed;
+        return UndoRow::Kind::New;
+    return change.isDelete() ? UndoRow::Kind::Removed : UndoRow::Kind::Changed;
 }
 
 bool isForceFlag(const PreviewChange &change)
@@ -59,10 +59,10 @@ int distance(const QString &table, const PreviewSchema &schema, QStringList way 
 
 } // namespace
 
-bool PreviewUndoPlan::Rows::has(Row::Kind kind) const
+bool PreviewUndoPlan::Rows::has(UndoRow::Kind kind) const
 {
     return std::any_of(rows.cbegin(), rows.cend(),
-                       [kind](const Row &row) { return row.kind == kind; });
+                       [kind](const UndoRow &row) { return row.kind == kind; });
 }
 
 PreviewUndoPlan::PreviewUndoPlan(const PreviewSchema &schema, const QVector<PreviewChange> &changes,
@@ -75,11 +75,12 @@ PreviewUndoPlan::PreviewUndoPlan(const PreviewSchema &schema, const QVector<Prev
     finish(schema);
 }
 
-const Rows *PreviewUndoPlan::find(const char *table) const
+const UndoRows *PreviewUndoPlan::find(const char *table) const
 {
-    const auto found = std::find_if(m_tables.cbegin(), m_tables.cend(), [table](const Rows &rows) {
-        return rows.table->name == QLatin1String(table);
-    });
+    const auto found =
+        std::find_if(m_tables.cbegin(), m_tables.cend(), [table](const UndoRows &rows) {
+            return rows.table->name == QLatin1String(table);
+        });
     return found == m_tables.cend() ? nullptr : &*found;
 }
 
@@ -136,7 +137,7 @@ void PreviewUndoPlan::addRow(const PreviewChange &change)
         const bool isQueue = PreviewUndoColumns::isQueue(change.table->name);
         m_tables.append({change.table, isQueue ? QStringList() : keyOf(*change.table), {}});
     }
-    QVector<Row> &rows = m_tables.last().rows;
+    QVector<UndoRow> &rows = m_tables.last().rows;
     QString what = describe(change);
     // Of the days of a person there may be hundreds.
     if (!rows.isEmpty() && rows.constLast().what == what)
@@ -146,13 +147,14 @@ void PreviewUndoPlan::addRow(const PreviewChange &change)
 
 void PreviewUndoPlan::finish(const PreviewSchema &schema)
 {
-    for (const Rows &rows : qAsConst(m_tables)) {
+    for (const UndoRows &rows : qAsConst(m_tables)) {
         if (schema.tablesOutsideSnapshot.contains(rows.table->name))
             m_tablesWithoutTransactions += rows.table->name;
     }
-    std::stable_sort(m_tables.begin(), m_tables.end(), [&schema](const Rows &a, const Rows &b) {
-        return distance(a.table->name, schema) < distance(b.table->name, schema);
-    });
+    std::stable_sort(m_tables.begin(), m_tables.end(),
+                     [&schema](const UndoRows &a, const UndoRows &b) {
+                         return distance(a.table->name, schema) < distance(b.table->name, schema);
+                     });
 }
 
 QString PreviewUndoPlan::describe(const PreviewChange &change) const

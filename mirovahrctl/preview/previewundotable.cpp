@@ -331,18 +331,21 @@ QString PreviewUndoTable::isSameRow(Side side) const
     return conditions.join(QStringLiteral(" AND "));
 }
 
+bool PreviewUndoTable::isPlain(const PreviewColumn &column) const
+{
+    return PreviewUndoColumns::isKnown(m_table.name, column.name)
+        && !PreviewUndoColumns::isCalculated(m_table.name, column.name);
+}
+
 QString PreviewUndoTable::isAsBefore(Kind kind) const
 {
     QStringList conditions;
     for (const PreviewColumn &column : m_table.columns) {
-        if (kind == Kind::Removed)
-            conditions += isCell(column, Side::Before);
-        else if (PreviewUndoColumns::isCalculated(m_table.name, column.name))
-            conditions += isNotWritten(column);
-        else if (PreviewUndoColumns::isKnown(m_table.name, column.name))
+        const bool isCalculated = PreviewUndoColumns::isCalculated(m_table.name, column.name);
+        if (kind == Kind::Removed || isPlain(column))
             conditions += isCell(column, Side::Before);
         else
-            conditions += isUntouched(column);
+            conditions += isCalculated ? isNotWritten(column) : isUntouched(column);
     }
     return conjunction(conditions);
 }
@@ -351,11 +354,10 @@ QString PreviewUndoTable::isAsWritten(Kind kind) const
 {
     QStringList conditions;
     for (const PreviewColumn &column : m_table.columns) {
-        if (PreviewUndoColumns::isCalculated(m_table.name, column.name))
-            continue;
-        if (PreviewUndoColumns::isKnown(m_table.name, column.name))
+        const bool isCalculated = PreviewUndoColumns::isCalculated(m_table.name, column.name);
+        if (isPlain(column))
             conditions += isAsWritten(column, kind);
-        else if (kind == Kind::Changed)
+        else if (kind == Kind::Changed && !isCalculated)
             conditions += isUntouched(column);
     }
     return conjunction(conditions);

@@ -58,6 +58,8 @@ private:
     QStringList uidColumns() const;
 
     bool isQueue() const;
+    /// A column of the contract whose cells are as they were written, or somebody has changed them.
+    bool isPlain(const PreviewColumn &column) const;
     QString forQueue(const char *statement) const;
     QString assessNew() const;
     QString assessDays() const;
