@@ -438,9 +438,9 @@ Je určena jako syncCommand v INI souboru zásuvného modulu. Spouštějte ji ja
     <message numerus="yes">
         <source>The %1 of %Ln person(s) (%2 %) is now less than %4 or more than %5 days; %3</source>
         <translation>
-            <numerusform>Hodnota pole „%1“ je u %Ln osoby (%2 %) nyní méně než %4 nebo více než %5 dní; %3</numerusform>
-            <numerusform>Hodnota pole „%1“ je u %Ln osob (%2 %) nyní méně než %4 nebo více než %5 dní; %3</numerusform>
-            <numerusform>Hodnota pole „%1“ je u %Ln osob (%2 %) nyní méně než %4 nebo více než %5 dní; %3</numerusform>
+            <numerusform>Hodnota pole „%1“ je u %Ln osoby (%2 %) nyní menší než %4 nebo větší než %5 dní; %3</numerusform>
+            <numerusform>Hodnota pole „%1“ je u %Ln osob (%2 %) nyní menší než %4 nebo větší než %5 dní; %3</numerusform>
+            <numerusform>Hodnota pole „%1“ je u %Ln osob (%2 %) nyní menší než %4 nebo větší než %5 dní; %3</numerusform>
         </translation>
     </message>
     <message numerus="yes">

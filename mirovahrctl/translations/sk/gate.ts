@@ -438,9 +438,9 @@ Je určená ako syncCommand v INI súbore zásuvného modulu. Spúšťajte ju ak
     <message numerus="yes">
         <source>The %1 of %Ln person(s) (%2 %) is now less than %4 or more than %5 days; %3</source>
         <translation>
-            <numerusform>Hodnota poľa „%1“ je u %Ln osoby (%2 %) teraz menej ako %4 alebo viac ako %5 dní; %3</numerusform>
-            <numerusform>Hodnota poľa „%1“ je u %Ln osôb (%2 %) teraz menej ako %4 alebo viac ako %5 dní; %3</numerusform>
-            <numerusform>Hodnota poľa „%1“ je u %Ln osôb (%2 %) teraz menej ako %4 alebo viac ako %5 dní; %3</numerusform>
+            <numerusform>Hodnota poľa „%1“ je u %Ln osoby (%2 %) teraz menšia ako %4 alebo väčšia ako %5 dní; %3</numerusform>
+            <numerusform>Hodnota poľa „%1“ je u %Ln osôb (%2 %) teraz menšia ako %4 alebo väčšia ako %5 dní; %3</numerusform>
+            <numerusform>Hodnota poľa „%1“ je u %Ln osôb (%2 %) teraz menšia ako %4 alebo väčšia ako %5 dní; %3</numerusform>
         </translation>
     </message>
     <message numerus="yes">
