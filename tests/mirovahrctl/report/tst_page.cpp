@@ -19,14 +19,19 @@ private Q_SLOTS:
     void whatAnExportContainsIsNoMarkup();
     void aFindingIsSeenAtOnce();
     void aGoodExportIsSeenAtOnce();
+    void aPhoneShowsCardsWithoutScrollingSideways_data();
     void aPhoneShowsCardsWithoutScrollingSideways();
+    void aWindowShowsTheWholeTable_data();
+    void aWindowShowsTheWholeTable();
     void thePageCanBePrinted();
 
 private:
-    QString page(const QByteArray &exportContent);
+    static void addLanguages();
+    QString page(const QByteArray &exportContent, const QString &language = "en");
 
     QTemporaryDir m_dir;
     Browser m_browser;
+    QByteArray m_export; ///< an export with mistakes
     QString m_findings; ///< path of a page with findings
     QString m_fine; ///< path of a page without
 };
@@ -44,15 +49,24 @@ void TestPage::initTestCase()
             .toUtf8()
         + '\n';
     m_fine = page(good);
-    m_findings = page(good + bad + "broken\n");
+    m_export = good + bad + "broken\n";
+    m_findings = page(m_export);
 }
 
-QString TestPage::page(const QByteArray &exportContent)
+void TestPage::addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *const language : {"cs", "en", "sk"})
+        QTest::newRow(language) << language;
+}
+
+QString TestPage::page(const QByteArray &exportContent, const QString &language)
 {
     ExportFile file;
     file.writeBytes(exportContent);
-    const QString path = m_dir.filePath(QString::number(exportContent.size()) + ".html");
-    runTool({"check-file", file.path(), "--html", path});
+    const QString path =
+        m_dir.filePath(QString("%1-%2.html").arg(exportContent.size()).arg(language));
+    runTool({"check-file", file.path(), "--html", path, "--language", language});
     return path;
 }
 
@@ -92,15 +106,35 @@ void TestPage::aGoodExportIsSeenAtOnce()
     QCOMPARE(count(picture, kRed), 0);
 }
 
+void TestPage::aPhoneShowsCardsWithoutScrollingSideways_data()
+{
+    addLanguages();
+}
+
 void TestPage::aPhoneShowsCardsWithoutScrollingSideways()
 {
-    const QImage picture = m_browser.picture(m_findings, 500, 1800);
+    QFETCH(QString, language);
+    const QImage picture = m_browser.picture(page(m_export, language), 500, 1800);
     QCOMPARE(picture.width(), 500);
     // No table head, and nothing in the margins.
     QCOMPARE(count(picture, kTableHead), 0);
     QVERIFY(count(picture, kRed) > 200);
     QVERIFY(isEmptyColumn(picture, 4));
     QVERIFY(isEmptyColumn(picture, 495));
+}
+
+void TestPage::aWindowShowsTheWholeTable_data()
+{
+    addLanguages();
+}
+
+void TestPage::aWindowShowsTheWholeTable()
+{
+    QFETCH(QString, language);
+    const QImage picture = m_browser.picture(page(m_export, language), 900, 1800);
+    QVERIFY(count(picture, kTableHead) > 10000);
+    QVERIFY(isEmptyColumn(picture, 4));
+    QVERIFY(isEmptyColumn(picture, 895));
 }
 
 void TestPage::thePageCanBePrinted()
