@@ -1,5 +1,7 @@
 #include "mirovahrctl/status/nagios.h"
 
+#include "cli/text.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/wording.h"
 #include "mirovahrctl/status/statusassessment.h"
 #include "mirovahrctl/status/statusdata.h"
@@ -31,16 +33,22 @@ QString performance(const StatusData &data, const StatusAssessment &assessment,
     return values.join(QLatin1Char(' '));
 }
 
+QString ageText(const StatusAssessment &assessment)
+{
+    if (!assessment.age)
+        return Text::tr("no trace of the plugin yet");
+    const QString text = assessment.isAgeOfAdmission ? Text::tr("last admission of a file %1 ago")
+                                                     : Text::tr("last trace of the plugin %1 ago");
+    return text.arg(Wording::span(*assessment.age));
+}
+
 QString summary(const StatusData &data, const StatusAssessment &assessment)
 {
-    const QString age = assessment.age
-        ? QStringLiteral("last %1 %2 ago").arg(assessment.ageOf, Wording::span(*assessment.age))
-        : QStringLiteral("no %1 yet").arg(assessment.ageOf);
-    return QStringLiteral("%1, %2, %3 in the terminal queue")
-        .arg(age,
-             Wording::counted(data.activePeople, QStringLiteral("active person"),
-                              QStringLiteral("active people")),
-             Wording::counted(data.queued, QStringLiteral("entry"), QStringLiteral("entries")));
+    const QStringList parts{
+        ageText(assessment),
+        Text::tr("%Ln active person(s)", nullptr, Language::count(data.activePeople)),
+        Text::tr("%Ln entry(s) in the terminal queue", nullptr, Language::count(data.queued))};
+    return parts.join(QStringLiteral(", "));
 }
 
 QString problems(const StatusAssessment &assessment)

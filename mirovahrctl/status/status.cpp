@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gatestatus.h"
 #include "mirovahrctl/pluginside/interruptions.h"
 #include "mirovahrctl/pluginside/logsource.h"
@@ -17,16 +18,17 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Shows what the attendance database knows of the plugin's work and, when the gate's\n"
-    "status file is named, what the gate did last. The plugin leaves no trace of a\n"
-    "synchronisation that changes nothing: without the gate, an old trace may only mean\n"
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Shows what the attendance database knows of the plugin's work and, when the gate's "
+    "status file is named, what the gate did last. The plugin leaves no trace of a "
+    "synchronisation that changes nothing: without the gate, an old trace may only mean "
     "that nothing happened. Changes nothing.\n\n"
-    "With --nagios the answer is one line for a monitoring system, and the exit status\n"
-    "follows that convention: 0 OK, 1 WARNING, 2 CRITICAL (also: no database), 3 UNKNOWN\n"
+    "With --nagios the answer is one line for a monitoring system, and the exit status "
+    "follows that convention: 0 OK, 1 WARNING, 2 CRITICAL (also: no database), 3 UNKNOWN "
     "(also: wrong usage).\n\n"
-    "With --metrics the same is written for a system that collects samples, also when\n"
-    "the database cannot be reached.";
+    "With --metrics the same is written for a system that collects samples, also when "
+    "the database cannot be reached.");
 
 constexpr double kSecondsPerHour = 3600.0;
 
@@ -64,57 +66,54 @@ private:
     StatusAssessment m_assessment;
 };
 
-void reportTime(Report &report, const char *id, const char *label,
+void reportTime(Report &report, const char *id, const QString &label,
                 const std::optional<qint64> &time)
 {
     if (time) {
-        report.fact(QString::fromLatin1(id), QString::fromLatin1(label),
+        report.fact(QString::fromLatin1(id), label,
                     Moment::text(QDateTime::fromSecsSinceEpoch(*time)));
     }
 }
 
 void reportDatabase(Report &report, const StatusData &data)
 {
-    report.section(QStringLiteral("database"), QStringLiteral("Database"));
-    report.fact(QStringLiteral("forced"), QStringLiteral("Forced synchronisation pending"),
-                data.forced);
-    report.fact(QStringLiteral("activePeople"), QStringLiteral("Active people"), data.activePeople);
-    reportTime(report, "created", "Last person created", data.created);
-    reportTime(report, "edited", "Last person changed by the plugin", data.edited);
-    report.fact(QStringLiteral("correctionsToday"),
-                QStringLiteral("Vacation balances corrected today"), data.correctionsToday);
-    report.fact(QStringLiteral("queued"), QStringLiteral("Entries in the terminal queue"),
-                data.queued);
-    reportTime(report, "oldestQueued", "Oldest entry of the terminal queue", data.oldestQueued);
+    report.section(QStringLiteral("database"), Text::tr("Database"));
+    report.fact(QStringLiteral("forced"), Text::tr("Forced synchronisation pending"), data.forced);
+    report.fact(QStringLiteral("activePeople"), Text::tr("Active people"), data.activePeople);
+    reportTime(report, "created", Text::tr("Last person created"), data.created);
+    reportTime(report, "edited", Text::tr("Last person changed by the plugin"), data.edited);
+    report.fact(QStringLiteral("correctionsToday"), Text::tr("Vacation balances corrected today"),
+                data.correctionsToday);
+    report.fact(QStringLiteral("queued"), Text::tr("Entries in the terminal queue"), data.queued);
+    reportTime(report, "oldestQueued", Text::tr("Oldest entry of the terminal queue"),
+               data.oldestQueued);
 }
 
 void reportGate(Report &report, const GateStatus &gate)
 {
-    report.section(QStringLiteral("gate"), QStringLiteral("Gate"));
-    report.fact(QStringLiteral("gateResult"), QStringLiteral("Last file"),
-                gate.isRefused() ? QStringLiteral("refused") : QStringLiteral("admitted"));
-    reportTime(report, "gateTime", "Last run", gate.time());
-    reportTime(report, "admittedTime", "Last admission", gate.admittedTime());
+    report.section(QStringLiteral("gate"), Text::tr("Gate"));
+    report.fact(QStringLiteral("gateResult"), Text::tr("Last file"),
+                gate.isRefused() ? Text::tr("refused") : Text::tr("admitted"));
+    reportTime(report, "gateTime", Text::tr("Last run"), gate.time());
+    reportTime(report, "admittedTime", Text::tr("Last admission"), gate.admittedTime());
     if (!gate.admittedFile().isEmpty())
-        report.fact(QStringLiteral("admittedFile"), QStringLiteral("Admitted file"),
-                    gate.admittedFile());
+        report.fact(QStringLiteral("admittedFile"), Text::tr("Admitted file"), gate.admittedFile());
     if (gate.admittedLines())
-        report.fact(QStringLiteral("admittedLines"), QStringLiteral("Lines in the admitted file"),
+        report.fact(QStringLiteral("admittedLines"), Text::tr("Lines in the admitted file"),
                     *gate.admittedLines());
     if (gate.linesWithErrors())
         report.fact(QStringLiteral("linesWithErrors"),
-                    QStringLiteral("Lines with errors in the last file"), *gate.linesWithErrors());
+                    Text::tr("Lines with errors in the last file"), *gate.linesWithErrors());
     if (gate.linesWithWarnings())
         report.fact(QStringLiteral("linesWithWarnings"),
-                    QStringLiteral("Lines with warnings in the last file"),
-                    *gate.linesWithWarnings());
+                    Text::tr("Lines with warnings in the last file"), *gate.linesWithWarnings());
 }
 
 void reportLog(Report &report, qint64 waiting)
 {
-    report.section(QStringLiteral("log"), QStringLiteral("Log"));
+    report.section(QStringLiteral("log"), Text::tr("Log"));
     report.fact(QStringLiteral("waiting"),
-                QStringLiteral("Records that wait for a branch or a calendar group"), waiting);
+                Text::tr("Records that wait for a branch or a calendar group"), waiting);
 }
 
 /// Answers the monitoring system although the subcommand has failed.
@@ -143,8 +142,7 @@ ExitStatus StatusRun::run()
 std::optional<ExitStatus> StatusRun::readOptions()
 {
     if (m_line.isSet("nagios") && m_line.isSet("json"))
-        return m_console.fail(ExitStatus::Usage,
-                              QStringLiteral("Give --nagios or --json, not both"));
+        return m_console.fail(ExitStatus::Usage, Text::tr("Give --nagios or --json, not both"));
     if (const auto end = readLimit("warning", m_limits.warning))
         return end;
     return readLimit("critical", m_limits.critical);
@@ -173,7 +171,7 @@ std::optional<ExitStatus> StatusRun::readLimit(const char *option, std::optional
     if (!isNumber || !(hours > 0 && hours < 1e6)) {
         return m_console.fail(
             ExitStatus::Usage,
-            QStringLiteral("--%1 takes a number of hours above 0").arg(QLatin1String(option)));
+            Text::tr("--%1 takes a number of hours above 0").arg(QLatin1String(option)));
     }
     limit = qint64(hours * kSecondsPerHour);
     return std::nullopt;
@@ -228,7 +226,7 @@ QString StatusRun::writeMetrics(bool complete) const
                                           complete);
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
         return {};
-    return QStringLiteral("'%1' cannot be written: %2").arg(file.fileName(), file.errorString());
+    return Text::tr("'%1' cannot be written: %2").arg(file.fileName(), file.errorString());
 }
 
 ExitStatus StatusRun::answer()
@@ -241,35 +239,39 @@ ExitStatus StatusRun::answer()
 
 ExitStatus StatusRun::report()
 {
-    m_report.begin(m_line.subcommand(), QStringLiteral("Status of the plugin"));
+    m_report.begin(m_line.subcommand(), Text::tr("Status of the plugin"));
     reportDatabase(m_report, *m_data);
     if (m_gate)
         reportGate(m_report, *m_gate);
     if (const auto waiting = m_waiting.count())
         reportLog(m_report, *waiting);
-    m_report.addSection(QStringLiteral("findings"), QStringLiteral("Findings"),
-                        m_assessment.findings);
+    m_report.addSection(QStringLiteral("findings"), Text::tr("Findings"), m_assessment.findings);
     return m_report.conclude(m_assessment.findings.isEmpty()
-                                 ? QStringLiteral("No findings.")
-                                 : QStringLiteral("The plugin's work needs attention."));
+                                 ? Text::tr("No findings.")
+                                 : Text::tr("The plugin's work needs attention."));
 }
 
 void addOptions(CommandLine &line)
 {
-    line.addOption("gate-status", "file", "The status file that the gate writes.");
-    line.addOption("log", "file",
-                   "The attendance server's log of today, - for standard input: how many records "
-                   "wait, and whether a deadlock or a lost connection has interrupted statements.");
-    line.addOption("warning", "hours",
-                   "Warn when the last admission of a file, or without --gate-status the last "
-                   "trace of the plugin, was this many hours ago.");
-    line.addOption("critical", "hours",
-                   "The same as an error, which --nagios reports as CRITICAL.");
-    line.addFlag("nagios",
-                 "Print one line for a monitoring system, in the convention of its plugins.");
-    line.addOption("metrics", "file",
-                   "Also write OpenMetrics text to this file, at one stroke, for a monitoring "
-                   "system that collects it.");
+    line.addOption("gate-status", Text::tr("file"),
+                   Text::tr("The status file that the gate writes."));
+    line.addOption(
+        "log", Text::tr("file"),
+        Text::tr("The attendance server's log of today, - for standard input: how many records "
+                 "wait, and whether a deadlock or a lost connection has interrupted statements."));
+    line.addOption(
+        "warning", Text::tr("hours"),
+        Text::tr("Warn when the last admission of a file, or without --gate-status the last "
+                 "trace of the plugin, was this many hours ago."));
+    line.addOption("critical", Text::tr("hours"),
+                   Text::tr("The same as an error, which --nagios reports as CRITICAL."));
+    line.addFlag(
+        "nagios",
+        Text::tr("Print one line for a monitoring system, in the convention of its plugins."));
+    line.addOption(
+        "metrics", Text::tr("file"),
+        Text::tr("Also write OpenMetrics text to this file, at one stroke, for a monitoring "
+                 "system that collects it."));
     line.addReportOptions(CommandLine::Page::NotOffered);
     line.addDatabaseOptions();
 }

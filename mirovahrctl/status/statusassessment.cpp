@@ -1,5 +1,6 @@
 #include "mirovahrctl/status/statusassessment.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/gatestate/gatestatus.h"
 #include "mirovahrctl/pluginside/interruptions.h"
 #include "mirovahrctl/report/rules/statusrules.h"
@@ -14,10 +15,9 @@ void findAge(StatusAssessment &assessment, const StatusData &data, const GateSta
     const auto admitted = gate != nullptr ? gate->admittedTime() : std::nullopt;
     if (admitted) {
         assessment.age = qMax(qint64(0), now - *admitted);
-        assessment.ageOf = QStringLiteral("admission of a file");
+        assessment.isAgeOfAdmission = true;
         return;
     }
-    assessment.ageOf = QStringLiteral("trace of the plugin");
     if (const auto trace = data.lastTrace())
         assessment.age = qMax(qint64(0), data.now - *trace);
 }
@@ -27,16 +27,22 @@ bool isBeyond(const std::optional<qint64> &age, const std::optional<qint64> &lim
     return limit && (!age || *age >= *limit);
 }
 
+QString ageSentence(const StatusAssessment &assessment)
+{
+    if (!assessment.age)
+        return Text::tr("There is no trace of the plugin yet.");
+    const QString sentence = assessment.isAgeOfAdmission
+        ? Text::tr("The last admission of a file was %1 ago.")
+        : Text::tr("The last trace of the plugin was %1 ago.");
+    return sentence.arg(Wording::span(*assessment.age));
+}
+
 void assessAge(StatusAssessment &assessment, const AgeLimits &limits)
 {
     const bool critical = isBeyond(assessment.age, limits.critical);
     if (!critical && !isBeyond(assessment.age, limits.warning))
         return;
-    const QString message = assessment.age
-        ? QStringLiteral("The last %1 was %2 ago.")
-              .arg(assessment.ageOf, Wording::span(*assessment.age))
-        : QStringLiteral("There is no %1 yet.").arg(assessment.ageOf);
-    Finding finding = makeFinding(StatusRules::kTooOld, message);
+    Finding finding = makeFinding(StatusRules::kTooOld, ageSentence(assessment));
     if (critical)
         finding.severity = StatusRules::kTooOld.otherSeverity;
     assessment.findings += finding;
@@ -46,9 +52,10 @@ void assessGate(StatusAssessment &assessment, const GateStatus &gate)
 {
     if (!gate.isRefused())
         return;
-    QString message = QStringLiteral("The gate has refused the last file");
-    if (!gate.reasons().isEmpty())
-        message += QStringLiteral(": ") + gate.reasons().join(QStringLiteral("; "));
+    const QString message = gate.reasons().isEmpty()
+        ? Text::tr("The gate has refused the last file.")
+        : Text::tr("The gate has refused the last file: %1")
+              .arg(gate.reasons().join(QStringLiteral("; ")));
     assessment.findings += makeFinding(StatusRules::kGateRefused, Wording::sentence(message));
 }
 

@@ -21,7 +21,7 @@ struct StatusAssessment {
     /// Seconds since the last admission of a file if the gate's status has one, otherwise since the
     /// plugin's last trace in the database. Nothing when there is neither.
     std::optional<qint64> age;
-    QString ageOf; ///< "admission of a file" or "trace of the plugin"
+    bool isAgeOfAdmission = false; ///< otherwise it is that of a trace
     QVector<Finding> findings; ///< an error is worse than a warning
 
     /// \a now: Unix time by this machine's clock, for the gate's times. \a gate may be null.
