@@ -1,5 +1,7 @@
 #include "mirovahrctl/log/growingfile.h"
 
+#include "cli/text.h"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -59,13 +61,13 @@ bool GrowingFile::open()
 {
     const QFileInfo info(m_path);
     if (!m_watcher.addPath(info.absolutePath()))
-        return fail(QStringLiteral("its folder cannot be watched"));
+        return fail(Text::tr("its folder cannot be watched"));
     if (!info.exists()) {
-        sayWaiting(QStringLiteral("The log '%1' is not there yet.").arg(m_path));
+        sayWaiting(Text::tr("The log '%1' is not there yet.").arg(m_path));
         return true;
     }
     if (!info.isFile())
-        return fail(QStringLiteral("it is no file; give what comes from it on standard input"));
+        return fail(Text::tr("it is no file; give what comes from it on standard input"));
     return openNamed();
 }
 
@@ -159,6 +161,6 @@ void GrowingFile::sayWaiting(const QString &reason)
 
 bool GrowingFile::fail(const QString &reason)
 {
-    m_error = QStringLiteral("The log '%1' cannot be read: %2").arg(m_path, reason);
+    m_error = Text::tr("The log '%1' cannot be read: %2").arg(m_path, reason);
     return false;
 }

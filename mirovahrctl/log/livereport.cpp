@@ -1,5 +1,6 @@
 #include "mirovahrctl/log/livereport.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/log/logfinding.h"
 #include "mirovahrctl/log/synchronisationtable.h"
 #include "mirovahrctl/program/console.h"
@@ -75,7 +76,7 @@ void LiveReport::synchronisationOver(const LoggedSynchronisation &synchronisatio
         return;
     }
     printLine(momentText(synchronisation.end),
-              QStringLiteral("Synchronisation #%1. %2")
+              Text::tr("Synchronisation #%1. %2")
                   .arg(QString::number(synchronisation.number),
                        parts(course, changes).join(QStringLiteral("; "))));
 }
@@ -85,7 +86,7 @@ void LiveReport::problemLogged(const LoggedProblem &problem, const LogHistory &h
     QString text = LogFinding::briefly(problem);
     // Why a statement failed stands in the line only.
     if (problem.isError)
-        text += QStringLiteral(" \"%1\"").arg(QString::fromUtf8(problem.example));
+        text = Text::tr("%1 \"%2\"").arg(text, QString::fromUtf8(problem.example));
     show(LogFinding::ofProblem(problem, history), text, momentText(problem.first));
 }
 
@@ -94,8 +95,8 @@ void LiveReport::unknownLogged(const LoggedText &message)
     const QString line = QString::fromUtf8(message.text.data(), int(message.text.size()));
     const Finding finding =
         makeFinding(LogRules::kUnknownLine,
-                    QStringLiteral("This line begins like the plugin's and is none that is known: "
-                                   "%1.")
+                    Text::tr("This line begins like the plugin's and is none that is known: "
+                             "%1.")
                         .arg(Wording::quoted(line)));
     show(finding, finding.message, QString());
 }
@@ -117,7 +118,7 @@ void LiveReport::show(const Finding &finding, const QString &text, const QString
     }
     const QString subject =
         finding.subject.isEmpty() ? QString() : finding.subject + QStringLiteral(": ");
-    printLine(time, severityWord(finding.severity) + QStringLiteral(": ") + subject + text);
+    printLine(time, severityText(finding.severity) + QStringLiteral(": ") + subject + text);
 }
 
 void LiveReport::printObject(const QString &kind, const QJsonObject &object)

@@ -1,3 +1,4 @@
+#include "cli/text.h"
 #include "mirovahrctl/log/logfinding.h"
 #include "mirovahrctl/log/logfollow.h"
 #include "mirovahrctl/log/loghistorybuilder.h"
@@ -13,15 +14,16 @@
 
 namespace {
 
-constexpr char kDescription[] =
-    "Shows what the log of the attendance server says of the plugin's work: for each\n"
-    "synchronisation when it ran, how long, and what it did; then every warning and error\n"
-    "with what it means, whom it concerns, what was lost and what to do; and what is missing.\n"
-    "Whatever stands before the plugin's texts is allowed, and so are lines of others. Reads\n"
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Shows what the log of the attendance server says of the plugin's work: for each "
+    "synchronisation when it ran, how long, and what it did; then every warning and error "
+    "with what it means, whom it concerns, what was lost and what to do; and what is missing. "
+    "Whatever stands before the plugin's texts is allowed, and so are lines of others. Reads "
     "files, also those that gzip, xz or zstd has compressed, and without one standard input.\n\n"
-    "With --follow it goes on while the log is written, also when the file is rotated: each\n"
-    "synchronisation that is over, each warning and each error is one line. With --json each\n"
-    "line is an object.";
+    "With --follow it goes on while the log is written, also when the file is rotated: each "
+    "synchronisation that is over, each warning and each error is one line. With --json each "
+    "line is an object.");
 
 /// So many synchronisations are shown without --last.
 constexpr int kMostShown = 50;
@@ -91,7 +93,7 @@ ExitStatus LogRun::run()
         return m_console.fail(ExitStatus::Usage, LogFinding::noTimes());
     if (m_last > 0)
         history.keepLast(m_last);
-    m_report.begin(m_line.subcommand(), QStringLiteral("What the log says of the plugin's work"));
+    m_report.begin(m_line.subcommand(), Text::tr("What the log says of the plugin's work"));
     LogReport report(history, m_last > 0 ? m_last : kMostShown, m_report);
     report.write();
     return m_report.conclude(report.verdict());
@@ -100,14 +102,14 @@ ExitStatus LogRun::run()
 ExitStatus LogRun::follow()
 {
     if (m_line.arguments().size() > 1)
-        return m_console.fail(ExitStatus::Usage, QStringLiteral("--follow takes one log"));
+        return m_console.fail(ExitStatus::Usage, Text::tr("--follow takes one log"));
     if (m_line.isSet("html"))
-        return m_console.fail(ExitStatus::Usage, QStringLiteral("--follow writes no page"));
+        return m_console.fail(ExitStatus::Usage, Text::tr("--follow writes no page"));
     LogFollowOptions options{paths().constFirst(), m_last, m_since};
     if (m_last > 0 && options.path == QLatin1String(LogSource::kStandardInput)) {
         return m_console.fail(ExitStatus::Usage,
-                              QStringLiteral("--follow begins with what standard input gives; "
-                                             "--last needs a file"));
+                              Text::tr("--follow begins with what standard input gives; "
+                                       "--last needs a file"));
     }
     if (m_last == 0 && !m_since)
         options.last = 1;
@@ -120,8 +122,8 @@ std::optional<ExitStatus> LogRun::readOptions()
         const QDateTime since = pointInTime(m_line.value("since"), m_now);
         if (!since.isValid()) {
             return m_console.fail(ExitStatus::Usage,
-                                  QStringLiteral("--since takes a time such as 2026-11-22, "
-                                                 "2026-11-22T18:00, 90min, 12h or 7d"));
+                                  Text::tr("--since takes a time such as 2026-11-22, "
+                                           "2026-11-22T18:00, 90min, 12h or 7d"));
         }
         m_since = since;
     }
@@ -129,8 +131,7 @@ std::optional<ExitStatus> LogRun::readOptions()
         bool isNumber = false;
         m_last = m_line.value("last").toInt(&isNumber);
         if (!isNumber || m_last < 1)
-            return m_console.fail(ExitStatus::Usage,
-                                  QStringLiteral("--last takes a number above 0"));
+            return m_console.fail(ExitStatus::Usage, Text::tr("--last takes a number above 0"));
     }
     return std::nullopt;
 }
@@ -189,15 +190,19 @@ std::optional<QDateTime> LogRun::firstTime(const QString &path) const
 ExitStatus runLog(const QStringList &arguments, Console &console)
 {
     CommandLine line("log", kDescription);
-    line.addRepeatedArgument("file",
-                             "The logs; - is standard input, which is read without one, too.");
-    line.addOption("since", "time",
-                   "Leave out what was logged before: 2026-11-22, 2026-11-22T18:00, or so long ago "
-                   "as 90min, 12h or 7d.");
-    line.addOption("last", "count", "Leave out all but the last synchronisations.");
-    line.addFlag("follow",
-                 "Go on while the log is written; begins with the last synchronisation, or with "
-                 "what --since or --last says.");
+    line.addRepeatedArgument(
+        Text::tr("file"),
+        Text::tr("The logs; - is standard input, which is read without one, too."));
+    line.addOption(
+        "since", Text::tr("time"),
+        Text::tr("Leave out what was logged before: 2026-11-22, 2026-11-22T18:00, or so long ago "
+                 "as 90min, 12h or 7d."));
+    line.addOption("last", Text::tr("count"),
+                   Text::tr("Leave out all but the last synchronisations."));
+    line.addFlag(
+        "follow",
+        Text::tr("Go on while the log is written; begins with the last synchronisation, or with "
+                 "what --since or --last says."));
     line.addReportOptions(CommandLine::Page::Offered);
     return Report::run(line, arguments, console,
                        [&](Report &report) { return LogRun(line, report, console).run(); });

@@ -21,10 +21,13 @@ QString briefly(const LoggedProblem &problem);
 /// A synchronisation that has begun, did not end, and does not run any more.
 Finding ofMissingEnd(const LoggedSynchronisation &synchronisation);
 
+/// The same of one that may still run: it is the last one of the log.
+Finding ofOpenEnd(const LoggedSynchronisation &synchronisation);
+
+/// A synchronisation that began before the log does.
+Finding ofMissingBegin(const LoggedSynchronisation &synchronisation);
+
 /// Why nothing can be left out of a log as too old, a sentence without its full stop.
 QString noTimes();
-
-/// "Synchronisation #7 of 2026-11-22T03:00:00+01:00".
-QString nameOf(const LoggedSynchronisation &synchronisation);
 
 } // namespace LogFinding

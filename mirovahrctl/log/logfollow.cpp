@@ -1,5 +1,6 @@
 #include "mirovahrctl/log/logfollow.h"
 
+#include "cli/text.h"
 #include "cli/unixsignals.h"
 #include "mirovahrctl/log/growingfile.h"
 #include "mirovahrctl/log/inputstream.h"
@@ -77,7 +78,7 @@ void LogFollow::followStandardInput()
         end();
     });
     QObject::connect(&input, &InputStream::failed, &m_loop, [this](const QString &reason) {
-        end(QStringLiteral("Standard input cannot be read: %1").arg(reason));
+        end(Text::tr("Standard input cannot be read: %1").arg(reason));
     });
     wait();
 }
@@ -105,7 +106,7 @@ void LogFollow::take(const QByteArray &block)
     if (!goesOn())
         return;
     if (!m_hasBegun && !LogSource::unpacker(block).isEmpty()) {
-        end(QStringLiteral("A compressed log does not grow; read it without --follow"));
+        end(Text::tr("A compressed log does not grow; read it without --follow"));
         return;
     }
     m_hasBegun = true;

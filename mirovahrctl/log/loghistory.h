@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mirovahrctl/log/logtext.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QHash>
@@ -9,13 +11,19 @@
 
 #include <optional>
 
-struct LogText;
+inline uint qHash(Role role, uint seed = 0)
+{
+    return ::qHash(static_cast<int>(role), seed);
+}
+
+/// What a text is about, such as the branch 150.
+using LoggedThings = QVector<QPair<Role, QByteArray>>;
 
 /// How often a text was logged as a warning or an error, of one thing and one error number.
 struct LoggedProblem {
     const LogText *text = nullptr;
     bool isError = false;
-    QByteArray thing; ///< such as "branch 150"; may be empty
+    LoggedThings things; ///< that it is about besides people
     qint64 count = 0;
     qint64 interruptions = 0; ///< of these: a deadlock, a lock's timeout, a lost connection
     std::optional<QDateTime> first;
@@ -26,8 +34,8 @@ struct LoggedProblem {
     void add(const LoggedProblem &other);
 };
 
-/// Problems by their text and thing.
-using LoggedProblems = QHash<QPair<const LogText *, QByteArray>, LoggedProblem>;
+/// Problems by their text and things.
+using LoggedProblems = QHash<QPair<const LogText *, LoggedThings>, LoggedProblem>;
 
 /// What the log says of one synchronisation. Counts are those of the log's lines: some of them are
 /// logged from a debug level on.

@@ -56,37 +56,34 @@ void takeBack(qint64 &count)
     count = std::max(qint64(0), count - 1);
 }
 
-QByteArray thingWord(Role role, const QByteArray &value)
+bool isThing(Role role)
 {
     switch (role) {
     case Role::Branch:
-        return "branch " + value;
     case Role::Calendar:
-        return "calendar " + value;
     case Role::Supervisor:
-        return "supervisor " + value;
     case Role::File:
-        return "file " + value;
     case Role::Code:
-        return "code " + value;
+        return true;
     default:
-        return {};
+        return false;
     }
 }
 
 /// What a problem is about besides people: of each thing it is a problem of its own.
-QByteArray thingOf(const LoggedText &message)
+LoggedThings thingsOf(const LoggedText &message)
 {
     const LogText &text = message.pattern->text();
-    QByteArrayList words;
+    LoggedThings things;
     for (size_t i = 0; i < text.roles.size(); ++i) {
-        const QByteArray word = thingWord(text.roles[i], bytes(message.values[i]));
-        if (!word.isEmpty())
-            words << word;
+        if (isThing(text.roles[i]))
+            things.append({text.roles[i], bytes(message.values[i])});
     }
-    if (text.form == Form::SqlError || text.form == Form::PlanOperation)
-        words << "error " + bytes(message.values[size_t(message.pattern->ownValues())]);
-    return words.join(", ");
+    if (text.form == Form::SqlError || text.form == Form::PlanOperation) {
+        const auto number = size_t(message.pattern->ownValues());
+        things.append({Role::ErrorNumber, bytes(message.values[number])});
+    }
+    return things;
 }
 
 } // namespace
@@ -210,7 +207,7 @@ void LogHistoryBuilder::noteProblem(const LoggedText &message)
     LoggedProblem problem;
     problem.text = &message.pattern->text();
     problem.isError = message.pattern->level() == LogPattern::Level::Critical;
-    problem.thing = thingOf(message);
+    problem.things = thingsOf(message);
     problem.count = 1;
     problem.interruptions = problem.isError && Interruptions::isIn(message.text) ? 1 : 0;
     problem.first = m_times.of(message.prefix);
@@ -219,7 +216,7 @@ void LogHistoryBuilder::noteProblem(const LoggedText &message)
     const QByteArray person = concernedPerson();
     if (!person.isEmpty())
         problem.people.insert(person, 1);
-    currentProblems()[{problem.text, problem.thing}].add(problem);
+    currentProblems()[{problem.text, problem.things}].add(problem);
     if (m_listener != nullptr)
         m_listener->problemLogged(problem, m_history);
 }

@@ -1,11 +1,13 @@
 #include "mirovahrctl/log/logreport.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/log/logfinding.h"
 #include "mirovahrctl/log/logtext.h"
 #include "mirovahrctl/log/missingticks.h"
 #include "mirovahrctl/log/synchronisationtable.h"
 #include "mirovahrctl/pluginside/interruptions.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/report/rules/logrules.h"
@@ -18,6 +20,30 @@ namespace {
 QString moment(qint64 seconds)
 {
     return Moment::text(QDateTime::fromSecsSinceEpoch(seconds));
+}
+
+QString missingTickText(const MissingTick &tick)
+{
+    const int period = Language::count(tick.period);
+    QString text;
+    if (tick.ofSynchronisation) {
+        text = tick.isOpen
+            ? Text::tr("No synchronisation came between %1 and %2, although one usually comes "
+                       "every %Ln second(s); the log ends then.",
+                       nullptr, period)
+            : Text::tr("No synchronisation came between %1 and %2, although one usually comes "
+                       "every %Ln second(s).",
+                       nullptr, period);
+    } else {
+        text = tick.isOpen
+            ? Text::tr("No tick came between %1 and %2, although one usually comes every %Ln "
+                       "second(s); the log ends then.",
+                       nullptr, period)
+            : Text::tr("No tick came between %1 and %2, although one usually comes every %Ln "
+                       "second(s).",
+                       nullptr, period);
+    }
+    return text.arg(moment(tick.last), moment(tick.next));
 }
 
 /// The serious ones first, of these the frequent ones.
@@ -48,36 +74,34 @@ void LogReport::write()
 
 QString LogReport::verdict() const
 {
-    const QString count =
-        Wording::counted(m_history.synchronisations.size(), QStringLiteral("synchronisation"),
-                         QStringLiteral("synchronisations"));
     qint64 errors = 0;
     qint64 warnings = 0;
     for (const LoggedProblem &problem : m_problems)
         (problem.isError ? errors : warnings) += problem.count;
-    return QStringLiteral("The log shows %1, %2 and %3.")
-        .arg(count, Wording::counted(errors, QStringLiteral("error"), QStringLiteral("errors")),
-             Wording::counted(warnings, QStringLiteral("warning"), QStringLiteral("warnings")));
+    const int synchronisations = m_history.synchronisations.size();
+    return Text::tr("The log shows %1, %2 and %3.")
+        .arg(Text::tr("%Ln synchronisation(s)", nullptr, synchronisations),
+             Text::tr("%Ln error(s)", nullptr, Language::count(errors)),
+             Text::tr("%Ln warning(s)", nullptr, Language::count(warnings)));
 }
 
 void LogReport::writeSynchronisations()
 {
-    m_report.section(QStringLiteral("synchronisations"), QStringLiteral("Synchronisations"));
+    m_report.section(QStringLiteral("synchronisations"), Text::tr("Synchronisations"));
     const int count = m_history.synchronisations.size();
     if (count == 0) {
-        m_report.sentence(QStringLiteral("The log shows none."));
+        m_report.sentence(Text::tr("The log shows none."));
         return;
     }
     if (count > m_most) {
-        m_report.sentence(QStringLiteral("These are the last %1 of %2; --last shows more.")
-                              .arg(m_most)
-                              .arg(count));
+        m_report.sentence(Text::tr("These are the last %1 of %2; --last shows more.")
+                              .arg(Language::number(m_most), Language::number(count)));
     }
     const auto shown = m_history.synchronisations.mid(std::max(0, count - m_most));
     m_report.table(courseTable(shown));
     m_report.sentence(
-        QStringLiteral("These are the changes. Created are also people who return; moved in are "
-                       "new members of a branch; balances are those of the vacation."));
+        Text::tr("These are the changes. Created are also people who return; moved in are "
+                 "new members of a branch; balances are those of the vacation."));
     m_report.table(changeTable(shown));
 }
 
@@ -87,19 +111,19 @@ void LogReport::writeProblems()
     for (const LoggedProblem &problem : m_problems)
         problems.append(problem);
     std::sort(problems.begin(), problems.end(), comesBefore);
-    m_report.section(QStringLiteral("problems"), QStringLiteral("Warnings and errors"));
+    m_report.section(QStringLiteral("problems"), Text::tr("Warnings and errors"));
     if (problems.isEmpty())
-        m_report.sentence(QStringLiteral("The plugin logged none."));
+        m_report.sentence(Text::tr("The plugin logged none."));
     for (const LoggedProblem &problem : qAsConst(problems))
         m_report.finding(LogFinding::ofProblem(problem, m_history));
 }
 
 void LogReport::writeMissing()
 {
-    m_report.section(QStringLiteral("missing"), QStringLiteral("What is missing"));
+    m_report.section(QStringLiteral("missing"), Text::tr("What is missing"));
     if (!m_history.hasTimes) {
-        m_report.sentence(QStringLiteral("The lines have no times: ticks that did not come cannot "
-                                         "be noticed."));
+        m_report.sentence(Text::tr("The lines have no times: ticks that did not come cannot "
+                                   "be noticed."));
     }
     writeNoSynchronisation();
     writeMissingEnds();
@@ -112,13 +136,13 @@ void LogReport::writeNoSynchronisation()
 {
     if (!m_history.synchronisations.isEmpty())
         return;
-    QString message = QStringLiteral("The log shows no synchronisation.");
+    QString message = Text::tr("The log shows no synchronisation.");
     if (m_history.pluginLines == 0)
-        message = QStringLiteral("The log has no line of the plugin.");
+        message = Text::tr("The log has no line of the plugin.");
     else if (m_history.debugLevel == 0)
-        message = QStringLiteral("The log has no line of debug level 1 or above. At debug level 0 "
-                                 "the plugin logs problems only: nobody can tell whether it "
-                                 "synchronised.");
+        message = Text::tr("The log has no line of debug level 1 or above. At debug level 0 "
+                           "the plugin logs problems only: nobody can tell whether it "
+                           "synchronised.");
     m_report.add(LogRules::kNoSynchronisation, message);
 }
 
@@ -126,23 +150,12 @@ void LogReport::writeMissingEnds()
 {
     for (const LoggedSynchronisation &one : m_history.synchronisations) {
         if (!one.hasBegun) {
-            m_report.add(LogRules::kNoBegin,
-                         LogFinding::nameOf(one) + QStringLiteral(" began before the log does."));
+            m_report.finding(LogFinding::ofMissingBegin(one));
             continue;
         }
         if (one.hasEnded)
             continue;
-        if (!one.isLast) {
-            m_report.finding(LogFinding::ofMissingEnd(one));
-            continue;
-        }
-        Finding finding = makeFinding(LogRules::kNoEnd,
-                                      LogFinding::nameOf(one)
-                                          + QStringLiteral(" has not ended where the log does: it "
-                                                           "may still be running."),
-                                      QStringLiteral("Look again later."));
-        finding.severity = LogRules::kNoEnd.otherSeverity;
-        m_report.finding(finding);
+        m_report.finding(one.isLast ? LogFinding::ofOpenEnd(one) : LogFinding::ofMissingEnd(one));
     }
 }
 
@@ -150,15 +163,8 @@ void LogReport::writeMissingTicks()
 {
     const std::vector<MissingTick> missing = missingTicks(m_history);
     for (const MissingTick &one : missing) {
-        const QString what =
-            one.ofSynchronisation ? QStringLiteral("synchronisation") : QStringLiteral("tick");
-        const QString message =
-            QStringLiteral("No %1 came between %2 and %3, although one usually comes every %4 "
-                           "seconds%5.")
-                .arg(what, moment(one.last), moment(one.next), QString::number(one.period),
-                     one.isOpen ? QStringLiteral("; the log ends then") : QString());
         m_report.add(one.ofSynchronisation ? LogRules::kNoSynchronisation : LogRules::kNoTick,
-                     message);
+                     missingTickText(one));
     }
 }
 
@@ -175,30 +181,29 @@ void LogReport::writeUnknownLines()
 {
     if (m_history.unknownLines == 0)
         return;
-    m_report.add(LogRules::kUnknownLine,
-                 QStringLiteral("%1 like the plugin's and none that is known, the first of them "
-                                "%2.")
-                     .arg(Wording::counted(m_history.unknownLines, QStringLiteral("line begins"),
-                                           QStringLiteral("lines begin")),
-                          Wording::quoted(QString::fromUtf8(m_history.unknownExample))));
+    m_report.add(
+        LogRules::kUnknownLine,
+        Text::tr("%Ln line(s) begin like the plugin's and none that is known, the first of "
+                 "them %1.",
+                 nullptr, Language::count(m_history.unknownLines))
+            .arg(Wording::quoted(QString::fromUtf8(m_history.unknownExample))));
 }
 
 void LogReport::writeKnowledge()
 {
-    m_report.section(QStringLiteral("knowledge"), QStringLiteral("What this log can tell"));
-    m_report.sentence(
-        QStringLiteral("Its lines are those of debug level %1.").arg(m_history.debugLevel));
+    m_report.section(QStringLiteral("knowledge"), Text::tr("What this log can tell"));
+    m_report.sentence(Text::tr("Its lines are those of debug level %1.").arg(m_history.debugLevel));
     if (m_history.debugLevel < 1) {
-        m_report.sentence(QStringLiteral("From debug level 1 on it would tell when the plugin "
-                                         "synchronised, and whom it created and updated."));
+        m_report.sentence(Text::tr("From debug level 1 on it would tell when the plugin "
+                                   "synchronised, and whom it created and updated."));
     }
     if (m_history.debugLevel < 2) {
-        m_report.sentence(QStringLiteral(
+        m_report.sentence(Text::tr(
             "From debug level 2 on it would tell how many people are read at a site without a "
             "vacation fund, when an export was missing, and when the plugin ticked."));
     }
     if (m_history.debugLevel < 3) {
-        m_report.sentence(QStringLiteral(
+        m_report.sentence(Text::tr(
             "From debug level 3 on it would tell which lines of the export were dropped, and whom "
             "an error concerns that names nobody."));
     }
@@ -206,24 +211,24 @@ void LogReport::writeKnowledge()
 
 void LogReport::writeFacts()
 {
-    const auto fact = [this](const char *id, const char *label, const QVariant &value) {
-        m_report.fact(QString::fromLatin1(id), QString::fromLatin1(label), value);
+    const auto fact = [this](const char *id, const QString &label, const QVariant &value) {
+        m_report.fact(QString::fromLatin1(id), label, value);
     };
-    m_report.section(QStringLiteral("summary"), QStringLiteral("Summary"));
-    fact("lines", "Lines", m_history.lines);
-    fact("pluginLines", "Lines of the plugin", m_history.pluginLines);
+    m_report.section(QStringLiteral("summary"), Text::tr("Summary"));
+    fact("lines", Text::tr("Lines"), m_history.lines);
+    fact("pluginLines", Text::tr("Lines of the plugin"), m_history.pluginLines);
     if (m_history.firstTime)
-        fact("from", "From", Moment::text(*m_history.firstTime));
+        fact("from", Text::tr("From"), Moment::text(*m_history.firstTime));
     if (m_history.lastTime)
-        fact("to", "To", Moment::text(*m_history.lastTime));
-    fact("debugLevel", "Debug level", m_history.debugLevel);
-    fact("synchronisations", "Synchronisations", m_history.synchronisations.size());
+        fact("to", Text::tr("To"), Moment::text(*m_history.lastTime));
+    fact("debugLevel", Text::tr("Debug level"), m_history.debugLevel);
+    fact("synchronisations", Text::tr("Synchronisations"), m_history.synchronisations.size());
     LoggedSynchronisation sum;
     for (const LoggedSynchronisation &one : m_history.synchronisations)
         sum.addCounts(one);
-    fact("created", "People created", sum.created);
-    fact("updated", "People updated", sum.updated);
-    fact("joined", "Memberships of branches", sum.joined);
-    fact("corrected", "Vacation balances corrected", sum.corrections.size());
-    fact("supervisors", "Supervisors set", sum.supervisors);
+    fact("created", Text::tr("People created"), sum.created);
+    fact("updated", Text::tr("People updated"), sum.updated);
+    fact("joined", Text::tr("Memberships of branches"), sum.joined);
+    fact("corrected", Text::tr("Vacation balances corrected"), sum.corrections.size());
+    fact("supervisors", Text::tr("Supervisors set"), sum.supervisors);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QVector>
+#include <QtGlobal>
 
 #include <array>
 
@@ -28,6 +29,7 @@ enum class Role {
     Supervisor, ///< a personal number
     File,
     Code, ///< how a command ended
+    ErrorNumber, ///< the database's, which the form has
 };
 
 /// What a text says about the course of a synchronisation.
@@ -60,7 +62,8 @@ enum class Event {
     Joined,
 };
 
-/// A text that the plugin logs.
+/// A text that the plugin logs. Meaning and advice of a warning and of an error are for Text::tr();
+/// those of the others stand in docs/operations.md only.
 struct LogText {
     const char *text; ///< with printf()'s placeholders "%u", "%i" and "%s"
     /// As docs/operations.md has it: "warning", "debug 2" for one that appears from debug level 2

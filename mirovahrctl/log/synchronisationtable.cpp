@@ -1,5 +1,6 @@
 #include "mirovahrctl/log/synchronisationtable.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/log/loghistory.h"
 #include "mirovahrctl/report/moment.h"
 
@@ -59,12 +60,12 @@ Table courseTable(const QVector<LoggedSynchronisation> &synchronisations)
 {
     Table table{QStringLiteral("synchronisations"),
                 {{QStringLiteral("number"), QStringLiteral("#")},
-                 {QStringLiteral("begin"), QStringLiteral("Begin")},
-                 {QStringLiteral("seconds"), QStringLiteral("Seconds")},
-                 {QStringLiteral("forced"), QStringLiteral("Forced")},
-                 {QStringLiteral("records"), QStringLiteral("People read")},
-                 {QStringLiteral("waiting"), QStringLiteral("Waiting")},
-                 {QStringLiteral("problems"), QStringLiteral("Problems")}},
+                 {QStringLiteral("begin"), Text::tr("Begin")},
+                 {QStringLiteral("seconds"), Text::tr("Seconds")},
+                 {QStringLiteral("forced"), Text::tr("Forced")},
+                 {QStringLiteral("records"), Text::tr("People read")},
+                 {QStringLiteral("waiting"), Text::tr("Waiting")},
+                 {QStringLiteral("problems"), Text::tr("Problems")}},
                 {}};
     for (const LoggedSynchronisation &one : synchronisations)
         table.rows.append(courseRow(one));
@@ -75,14 +76,14 @@ Table changeTable(const QVector<LoggedSynchronisation> &synchronisations)
 {
     Table table{QStringLiteral("changes"),
                 {{QStringLiteral("number"), QStringLiteral("#")},
-                 {QStringLiteral("begin"), QStringLiteral("Begin")},
-                 {QStringLiteral("created"), QStringLiteral("Created")},
-                 {QStringLiteral("updated"), QStringLiteral("Updated")},
-                 {QStringLiteral("joined"), QStringLiteral("Moved in")},
-                 {QStringLiteral("corrected"), QStringLiteral("Balances")},
-                 {QStringLiteral("days"), QStringLiteral("by days")},
-                 {QStringLiteral("largest"), QStringLiteral("at most")},
-                 {QStringLiteral("supervisors"), QStringLiteral("Supervisors")}},
+                 {QStringLiteral("begin"), Text::tr("Begin")},
+                 {QStringLiteral("created"), Text::tr("Created")},
+                 {QStringLiteral("updated"), Text::tr("Updated")},
+                 {QStringLiteral("joined"), Text::tr("Moved in")},
+                 {QStringLiteral("corrected"), Text::tr("Balances")},
+                 {QStringLiteral("days"), Text::tr("by days")},
+                 {QStringLiteral("largest"), Text::tr("at most")},
+                 {QStringLiteral("supervisors"), Text::tr("Supervisors")}},
                 {}};
     for (const LoggedSynchronisation &one : synchronisations) {
         if (one.hasBegun)
