@@ -1,5 +1,6 @@
 #include "mirovahrctl/log/growingfile.h"
 
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 
 #include <QFileInfo>
@@ -94,7 +95,7 @@ bool GrowingFile::openNamed()
 {
     auto file = std::make_unique<QFile>(m_path);
     if (!file->open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return fail(file->errorString());
+        return fail(systemMessage(file->errorString()));
     m_file = std::move(file);
     m_isWaiting = false;
     watch();

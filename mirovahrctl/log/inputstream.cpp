@@ -1,5 +1,7 @@
 #include "mirovahrctl/log/inputstream.h"
 
+#include "cli/systemmessage.h"
+
 #include <cerrno>
 
 #include <unistd.h>
@@ -30,5 +32,5 @@ void InputStream::readOn()
     if (length == 0)
         Q_EMIT ended();
     else
-        Q_EMIT failed(qt_error_string(errno));
+        Q_EMIT failed(systemMessage(qt_error_string(errno)));
 }

@@ -1,3 +1,4 @@
+#include "cli/systemmessage.h"
 #include "cli/text.h"
 #include "mirovahrctl/gatestate/gatestatus.h"
 #include "mirovahrctl/pluginside/interruptions.h"
@@ -226,7 +227,8 @@ QString StatusRun::writeMetrics(bool complete) const
                                           complete);
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
         return {};
-    return Text::tr("'%1' cannot be written: %2").arg(file.fileName(), file.errorString());
+    return Text::tr("'%1' cannot be written: %2")
+        .arg(file.fileName(), systemMessage(file.errorString()));
 }
 
 ExitStatus StatusRun::answer()
