@@ -14,8 +14,8 @@
 
 namespace {
 
-/// Subcommands whose texts are still to be marked for translation, and doctor, which runs status.
-const QStringList kUnfinished{"doctor", "help", "log", "preview", "status"};
+/// Subcommands whose texts are still to be marked for translation.
+const QStringList kUnfinished{"help", "preview"};
 
 /// So wide that no text is broken.
 constexpr int kWide = 10000;

@@ -60,8 +60,8 @@ QSet<QString> phrases(const QString &text)
     return phrases;
 }
 
-/// What the database server says, which always speaks English to the plugin as well.
-const QRegularExpression &serverMessage()
+/// What the database server says, which always speaks English to the plugin as well, and gzip.
+const QRegularExpression &foreignMessage()
 {
     static const QRegularExpression message(R"re((?x)
         (\w+\ command\ denied\ to\ user
@@ -69,7 +69,8 @@ const QRegularExpression &serverMessage()
         |Aborted\ connection
         |Can't\ connect\ to\ local\ server
         |Index\ for\ table
-        |isn't\ in\ GROUP\ BY)
+        |isn't\ in\ GROUP\ BY
+        |gzip:\ stdin)
         [^"<\n]*)re");
     return message;
 }
@@ -101,8 +102,8 @@ QString withoutQuotations(QString output)
                                           QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression tag("<[^>]*>");
     static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
-    static const QRegularExpression logLine(R"re(\w+::\w+\([^)\n]*\)[^"<\n]*)re");
-    output.remove(logLine).remove(serverMessage());
+    static const QRegularExpression logLine(R"re((?:\w+::\w+|MHRWorker:)[^"<\n]*)re");
+    output.remove(logLine).remove(foreignMessage());
     if (output.startsWith("<!DOCTYPE html>"))
         return output.remove(style).replace(tag, "\n");
     if (output.startsWith('{'))

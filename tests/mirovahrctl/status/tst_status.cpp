@@ -343,16 +343,15 @@ void TestStatus::everyTimeIsOfTheLocalZone()
 void TestStatus::aRefusedFileIsReported()
 {
     const QString file = writeGate(R"({"result": "refused", "reasons":
-        ["40 lines are gone", "12 people would leave"]})");
+        ["40 lines fewer", "12 leavers"]})");
     const ToolRun run = status({"--gate-status", file});
     COMPARE_EXIT(run, ExitStatus::Findings);
     QCOMPARE(run.findingsOf("gate-refused").value(0).value("message").toString(),
-             QString("The gate has refused the last file: 40 lines are gone; 12 people would "
-                     "leave."));
+             QString("The gate has refused the last file: 40 lines fewer; 12 leavers."));
     const ToolRun line = nagios({"--gate-status", file});
     QCOMPARE(line.out,
-             QString("MIROVAHR WARNING - The gate has refused the last file: 40 lines are gone; 12 "
-                     "people would leave. | age=7200s;;;0 people=7;;;0 queue=0;;;0 "
+             QString("MIROVAHR WARNING - The gate has refused the last file: 40 lines fewer; 12 "
+                     "leavers. | age=7200s;;;0 people=7;;;0 queue=0;;;0 "
                      "corrections=0;;;0 force=0;;;0;1\n"));
     QCOMPARE(static_cast<int>(line.status), 1);
 }

@@ -47,7 +47,7 @@ namespace {
 using Row = ExportRow;
 
 /// Subcommands whose texts are still to be translated.
-const QStringList kUnfinished{"log", "preview", "status"};
+const QStringList kUnfinished{"preview"};
 
 /// The words of a text in lower case. Ids, paths and SQL are none.
 QSet<QString> words(const QString &text)
