@@ -1,4 +1,6 @@
+#include "cli/text.h"
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
+#include "mirovahrctl/preview/previewnames.h"
 #include "mirovahrctl/preview/previewreport.h"
 #include "mirovahrctl/preview/previewserver.h"
 #include "mirovahrctl/preview/previewsql.h"
@@ -10,21 +12,31 @@
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/site/sitedatabase.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
 namespace {
 
-constexpr char kDescription[] =
-    "Shows what a forced synchronisation with an export would change in the attendance\n"
-    "database, by doing it: copies the rows and routines that the plugin reaches into a\n"
-    "private database server, lets the plugin's own code synchronise the copy, and reports\n"
-    "what happens to each person. Only reads the site's database, keeps the export, and\n"
-    "removes the copy afterwards. Needs MariaDB's server programs on this machine, and twice\n"
-    "the room of these rows in the folder for temporary files.";
+constexpr char kDescription[] = QT_TRANSLATE_NOOP(
+    "Text",
+    "Shows what a forced synchronisation with an export would change in the attendance database, "
+    "by doing it: copies the rows and routines that the plugin reaches into a private database "
+    "server, lets the plugin's own code synchronise the copy, and reports what happens to each "
+    "person. Only reads the site's database, keeps the export, and removes the copy afterwards. "
+    "Needs MariaDB's server programs on this machine, and twice the room of these rows in the "
+    "folder for temporary files.");
 
-constexpr char kWhereTheRestIs[] = "--details shows everything, --html a page, --person one person";
+/// Does what writes a file of statements: its words are the same in every language.
+template <typename Write> auto inEnglish(const Write &write)
+{
+    const QString language = Language::code();
+    const auto useAgain = qScopeGuard([&language] { Language::use(language); });
+    Language::use(QStringLiteral("en"));
+    return write();
+}
 
 class PreviewCommand {
 public:
@@ -44,7 +56,7 @@ public:
 private:
     std::optional<ExitStatus> prepare();
     std::optional<ExitStatus> copySite(PreviewWork &work);
-    std::optional<ExitStatus> writeUndo(PreviewWork &work);
+    std::optional<ExitStatus> writeUndo(PreviewWork &work, const PreviewServer &server);
     std::optional<ExitStatus> readView(PreviewWork &work, PreviewView &view);
     void noteUndo();
     QString title() const;
@@ -79,7 +91,7 @@ ExitStatus PreviewCommand::run()
     if (m_sql.isOpen())
         PreviewSql(work.schema(), work.moments()).write(work.changes(), m_sql);
     if (m_undo.isOpen()) {
-        if (const auto end = writeUndo(work))
+        if (const auto end = writeUndo(work, server))
             return *end;
     }
     PreviewView view;
@@ -87,7 +99,8 @@ ExitStatus PreviewCommand::run()
         return *end;
     m_report.begin(m_line.subcommand(), title());
     if (!m_line.isSet("details"))
-        m_report.abbreviateText(QString::fromLatin1(kWhereTheRestIs));
+        m_report.abbreviateText(
+            Text::tr("--details shows everything, --html a page, --person one person"));
     PreviewReport report(work, m_configuration, view, m_report);
     report.write();
     if (m_undo.isOpen())
@@ -99,16 +112,21 @@ ExitStatus PreviewCommand::run()
     return m_report.conclude(report.verdict());
 }
 
-std::optional<ExitStatus> PreviewCommand::writeUndo(PreviewWork &work)
+/// Makes names of its own: those of the report are in the reader's language.
+std::optional<ExitStatus> PreviewCommand::writeUndo(PreviewWork &work, const PreviewServer &server)
 {
-    const PreviewUndoPlan plan(work.schema(), work.changes(), work.moments(), work.names());
+    PreviewNames names(server.attendance());
+    const PreviewUndoPlan plan = inEnglish(
+        [&] { return PreviewUndoPlan(work.schema(), work.changes(), work.moments(), names); });
     const PreviewUndo undo(work.schema(), work.moments(), plan);
     if (const auto refused = undo.refusal())
         return fail(*refused);
-    undo.write(m_export,
-               m_line.isSet("partial") ? PreviewUndo::Extent::Partial
-                                       : PreviewUndo::Extent::AllOrNone,
-               m_undo);
+    inEnglish([&] {
+        undo.write(m_export,
+                   m_line.isSet("partial") ? PreviewUndo::Extent::Partial
+                                           : PreviewUndo::Extent::AllOrNone,
+                   m_undo);
+    });
     m_undoLimits = undoLimits(work.schema(), plan);
     return std::nullopt;
 }
@@ -116,7 +134,7 @@ std::optional<ExitStatus> PreviewCommand::writeUndo(PreviewWork &work)
 void PreviewCommand::noteUndo()
 {
     m_report.section(QStringLiteral("undo"),
-                     QStringLiteral("What %1 does not take back").arg(m_undo.fileName()));
+                     Text::tr("What %1 does not take back").arg(m_undo.fileName()));
     for (const QString &sentence : qAsConst(m_undoLimits))
         m_report.sentence(sentence);
 }
@@ -133,15 +151,14 @@ std::optional<ExitStatus> PreviewCommand::readView(PreviewWork &work, PreviewVie
         return std::nullopt;
     return m_console.fail(
         ExitStatus::Usage,
-        QStringLiteral("Neither the database nor the export has a person '%1'").arg(view.person));
+        Text::tr("Neither the database nor the export has a person '%1'").arg(view.person));
 }
 
 QString PreviewCommand::title() const
 {
-    const QString title = QStringLiteral("Preview of HR export %1").arg(m_export);
     return m_line.isSet("person")
-        ? title + QStringLiteral(" for person %1").arg(m_line.value("person"))
-        : title;
+        ? Text::tr("Preview of HR export %1 for person %2").arg(m_export, m_line.value("person"))
+        : Text::tr("Preview of HR export %1").arg(m_export);
 }
 
 /// The connection to the site is closed as soon as the copy exists.
@@ -158,17 +175,15 @@ std::optional<ExitStatus> PreviewCommand::prepare()
 {
     const QFileInfo info(m_export);
     if (!info.isFile())
-        return m_console.fail(ExitStatus::Usage,
-                              QStringLiteral("There is no file '%1'").arg(m_export));
+        return m_console.fail(ExitStatus::Usage, Text::tr("There is no file '%1'").arg(m_export));
     if (!info.isReadable())
-        return m_console.fail(ExitStatus::Usage,
-                              QStringLiteral("'%1' cannot be read").arg(m_export));
+        return m_console.fail(ExitStatus::Usage, Text::tr("'%1' cannot be read").arg(m_export));
     if (const auto end = refuseOverwriting(
             m_export, {m_line.pagePath(), m_sql.fileName(), m_undo.fileName(), m_log.fileName()},
             m_console))
         return end;
     if (m_line.isSet("partial") && !m_line.isSet("undo"))
-        return m_console.fail(ExitStatus::Usage, QStringLiteral("--partial belongs to --undo"));
+        return m_console.fail(ExitStatus::Usage, Text::tr("--partial belongs to --undo"));
     if (const auto end = m_configuration.read(m_line, m_console))
         return end;
     for (OutputFile *const file : {&m_sql, &m_undo, &m_log}) {
@@ -183,22 +198,26 @@ std::optional<ExitStatus> PreviewCommand::prepare()
 ExitStatus runPreview(const QStringList &arguments, Console &console)
 {
     CommandLine line("preview", kDescription);
-    line.addArgument("file", "The export.");
+    line.addArgument(Text::tr("file"), Text::tr("The export."));
     PluginConfiguration::addTo(line);
-    line.addFlag("summary", "Show only the verdict, the findings and the totals.");
-    line.addOption("person", "id",
-                   "Show only what happens to one person: a payroll id such as 1234.1, a personal "
-                   "number or a pid.");
-    line.addFlag("details", "Show everybody, not only the first, and the bookkeeping.");
-    line.addOption("sql", "file", "Also write the differences as SQL statements.");
-    line.addOption("undo", "file",
-                   "Also write SQL statements that take the differences back after the "
-                   "synchronisation.");
-    line.addFlag("partial",
-                 "Let these statements take back all other rows when somebody has changed one, not "
-                 "none.");
-    line.addOption("log", "file", "Also write the plugin's whole log of the synchronisation.");
-    line.addFlag("all-rows", "Also copy the rows that a synchronisation does not reach.");
+    line.addFlag("summary", Text::tr("Show only the verdict, the findings and the totals."));
+    line.addOption(
+        "person", Text::tr("id"),
+        Text::tr("Show only what happens to one person: a payroll id such as 1234.1, a personal "
+                 "number or a pid."));
+    line.addFlag("details", Text::tr("Show everybody, not only the first, and the bookkeeping."));
+    line.addOption("sql", Text::tr("file"),
+                   Text::tr("Also write the differences as SQL statements."));
+    line.addOption("undo", Text::tr("file"),
+                   Text::tr("Also write SQL statements that take the differences back after the "
+                            "synchronisation."));
+    line.addFlag(
+        "partial",
+        Text::tr("Let these statements take back all other rows when somebody has changed one, not "
+                 "none."));
+    line.addOption("log", Text::tr("file"),
+                   Text::tr("Also write the plugin's whole log of the synchronisation."));
+    line.addFlag("all-rows", Text::tr("Also copy the rows that a synchronisation does not reach."));
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

@@ -1,6 +1,6 @@
 #include "mirovahrctl/preview/previewcard.h"
 
-#include "db/tepdbcontract.h"
+#include "cli/text.h"
 
 #include <QHash>
 #include <QStringList>
@@ -23,7 +23,7 @@ using Lines = PreviewWords::Lines;
 
 QString orNone(const QString &value)
 {
-    return value.isEmpty() ? QStringLiteral("none") : value;
+    return value.isEmpty() ? Text::tr("none", "value of a field") : value;
 }
 
 /// The value that comes or goes, or both when it changes; empty when there is none.
@@ -38,22 +38,14 @@ QString valueOf(const PreviewLine &line)
     return QStringLiteral("%1 → %2").arg(orNone(line.before), orNone(line.after));
 }
 
-bool endsWithPreposition(const QString &text)
-{
-    static const QStringList prepositions{QStringLiteral(" since"), QStringLiteral(" by"),
-                                          QStringLiteral(" from"), QStringLiteral(" until")};
-    return std::any_of(prepositions.cbegin(), prepositions.cend(),
-                       [&text](const QString &word) { return text.endsWith(word); });
-}
-
-/// "surname: Nováková → Malá", "joins the branch Sklad, since now".
-QString withValue(const QString &what, const PreviewLine &line)
+/// "surname: Nováková → Malá", "joins the branch Sklad, since 2026-01-01".
+QString withValue(const PreviewLine &line)
 {
     const QString value = valueOf(line);
     if (value.isEmpty())
-        return what;
-    const bool isSentence = line.row != Row::Changed && endsWithPreposition(what);
-    return what + (isSentence ? QStringLiteral(" ") : QStringLiteral(": ")) + value;
+        return line.text();
+    return line.sentence.isEmpty() ? QStringLiteral("%1: %2").arg(line.text(), value)
+                                   : line.sentence.arg(line.thing, value);
 }
 
 /// Whether the line is one column of a row that comes or goes as a whole.
@@ -77,12 +69,7 @@ bool belongTogether(const PreviewLine &a, const PreviewLine &b)
 /// Whether the card's heading says it already.
 bool isInHeading(const PreviewLine &line)
 {
-    static const QStringList names{
-        QString::fromLatin1(TepDbContract::labelOf("people", "pamId")),
-        QString::fromLatin1(TepDbContract::labelOf("people", "name")),
-        QString::fromLatin1(TepDbContract::labelOf("people", "surname"))};
-    return line.kind == PreviewKind::NewPeople && names.contains(line.what)
-        && line.who.contains(line.after);
+    return line.kind == PreviewKind::NewPeople && line.isName && line.who.contains(line.after);
 }
 
 /// A column in the list of its row: "employed from 2024-05-01", "active".
@@ -90,7 +77,7 @@ QString columnText(const PreviewLine &line)
 {
     const QString name = line.thing.isEmpty() ? line.what : line.thing;
     const QString value = valueOf(line);
-    return value == QLatin1String("yes") ? name : name + QLatin1Char(' ') + orNone(value);
+    return line.isYes ? name : name + QLatin1Char(' ') + orNone(value);
 }
 
 /// "is created: employed from 2024-05-01, active", "new row: bid 1, note x".
@@ -116,7 +103,9 @@ void addThings(const Lines &lines, Card &card)
     for (const PreviewLine &line : lines)
         things += line.thing;
     const auto text = [&first](const QString &list) {
-        return withValue(QString(first.what).replace(QLatin1String("%1"), list), first);
+        PreviewLine line = first;
+        line.thing = list;
+        return withValue(line);
     };
     const QString comma = QStringLiteral(", ");
     const QString whole = text(things.join(comma));
@@ -126,8 +115,8 @@ void addThings(const Lines &lines, Card &card)
         card.what += whole;
     } else {
         const QString few = QStringList(things.mid(0, kMostThings)).join(comma);
-        card.what += text(QStringLiteral("%1 and %2 more")
-                              .arg(few, QString::number(things.size() - kMostThings)));
+        card.what +=
+            text(Text::tr("%1 and %Ln more", nullptr, things.size() - kMostThings).arg(few));
         card.details += whole;
     }
 }
@@ -202,7 +191,7 @@ private:
 
     static Card leading(const Sharing &sharing)
     {
-        return {QStringLiteral("Each of these %1 people").arg(sharing.cards.size()), sharing.what,
+        return {Text::tr("Each of these %Ln people", nullptr, sharing.cards.size()), sharing.what,
                 sharing.details, true};
     }
 

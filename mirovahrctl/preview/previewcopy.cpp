@@ -1,5 +1,6 @@
 #include "mirovahrctl/preview/previewcopy.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/preview/previewportions.h"
 #include "mirovahrctl/preview/previewschema.h"
 #include "mirovahrctl/preview/previewselection.h"
@@ -54,13 +55,13 @@ bool PreviewCopy::createDatabases()
     }
     return (m_server.run(QStringLiteral("USE ") + ownName) && m_server.prepareForCopying()
             && m_server.run(QLatin1String(kNoChecks)))
-        || fail(QStringLiteral("The copy cannot be created"), m_server);
+        || fail(Text::tr("The copy cannot be created"), m_server);
 }
 
 bool PreviewCopy::copyTable(SqlSession &site, const PreviewTable &table, const Listener &listener)
 {
     if (!m_server.run(table.definition))
-        return fail(QStringLiteral("The table %1 cannot be created in the copy").arg(table.name),
+        return fail(Text::tr("The table %1 cannot be created in the copy").arg(table.name),
                     m_server);
     return copyRows(site, table, listener) && keepBaseline(table);
 }
@@ -86,7 +87,7 @@ bool PreviewCopy::copyRows(SqlSession &site, const PreviewTable &table, const Li
         });
     if (isRead && flush(table))
         return true;
-    const QString what = QStringLiteral("The table %1 cannot be copied").arg(table.name);
+    const QString what = Text::tr("The table %1 cannot be copied").arg(table.name);
     return fail(what, site.failed() ? site : m_server);
 }
 
@@ -108,8 +109,7 @@ bool PreviewCopy::keepBaseline(const PreviewTable &table)
     return (m_server.run(QStringLiteral("CREATE TABLE %1 LIKE %2").arg(copy, name))
             && m_server.run(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM %3 t")
                                 .arg(copy, table.columnList(), table.changingRows())))
-        || fail(QStringLiteral("The table %1 cannot be kept for comparison").arg(table.name),
-                m_server);
+        || fail(Text::tr("The table %1 cannot be kept for comparison").arg(table.name), m_server);
 }
 
 bool PreviewCopy::createPrograms()
@@ -128,7 +128,7 @@ bool PreviewCopy::createProgram(const PreviewProgram &program)
     return (m_server.run(QStringLiteral("SET SESSION sql_mode = %1, collation_connection = %2")
                              .arg(SqlSession::literal(program.sqlMode), program.collation))
             && m_server.run(program.definition))
-        || fail(QStringLiteral("%1 cannot be created in the copy").arg(program.name), m_server);
+        || fail(Text::tr("%1 cannot be created in the copy").arg(program.name), m_server);
 }
 
 bool PreviewCopy::fail(const QString &what, const SqlSession &session)

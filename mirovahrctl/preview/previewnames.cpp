@@ -1,25 +1,23 @@
 #include "mirovahrctl/preview/previewnames.h"
 
+#include "cli/text.h"
+
 namespace {
 
 constexpr char kPersonOfUid[] =
     "SELECT CONCAT_WS(' ', pamId, name, surname) FROM people WHERE uid = %1";
 constexpr char kPersonOfPid[] =
     "SELECT CONCAT_WS(' ', pamId, name, surname) FROM people WHERE pid = %1";
-constexpr char kBranch[] = "SELECT IF(name = '', CONCAT('branch ', bid), name) FROM branches WHERE "
-                           "bid = %1";
-constexpr char kCalendarGroup[] =
-    "SELECT CONCAT('group ', gid, ' (calendar ', calendarID, ')') FROM groups WHERE gid = %1";
-constexpr char kAdministratorName[] =
-    "SELECT CONCAT('administrator ', aid, IFNULL(CONCAT(' (', IFNULL((SELECT CONCAT_WS(' ', "
-    "pamId, name, surname) FROM people WHERE pamId LIKE CONCAT(personalNumber, '.%') ORDER BY "
-    "status DESC, pamId LIMIT 1), CONCAT('personal number ', personalNumber)), ')'), '')) FROM "
-    "admins WHERE aid = %1";
-constexpr char kTerminal[] =
-    "SELECT CONCAT('terminal ', tid, IFNULL((SELECT CONCAT(' (', name, ')') FROM branches b WHERE "
-    "b.bid = t.bid AND name <> ''), '')) FROM term t WHERE tid = %1";
-constexpr char kFund[] = "SELECT IF(iid = 3 AND unit = 2, 'vacation', CONCAT('fund ', fid)) FROM "
-                         "funds WHERE fid = %1";
+constexpr char kBranch[] = "SELECT name FROM branches WHERE bid = %1";
+constexpr char kCalendar[] = "SELECT calendarID FROM groups WHERE gid = %1";
+// By the person of the personal number who is active, or was.
+constexpr char kAdministrator[] =
+    "SELECT (SELECT CONCAT_WS(' ', pamId, name, surname) FROM people WHERE pamId LIKE "
+    "CONCAT(personalNumber, '.%') ORDER BY status DESC, pamId LIMIT 1), personalNumber FROM admins "
+    "WHERE aid = %1";
+constexpr char kBranchOfTerminal[] =
+    "SELECT (SELECT name FROM branches b WHERE b.bid = t.bid) FROM term t WHERE tid = %1";
+constexpr char kIsVacation[] = "SELECT iid = 3 AND unit = 2 FROM funds WHERE fid = %1";
 
 } // namespace
 
@@ -31,12 +29,18 @@ PreviewNames::PreviewNames(const QSqlDatabase &copy)
 
 QString PreviewNames::personOfUid(const QString &uid)
 {
-    return nameOf(kPersonOfUid, QStringLiteral("the person with the uid"), uid);
+    return known(kPersonOfUid, uid, [](const QString &id, const QStringList &row) {
+        return row.value(0).isEmpty() ? Text::tr("the person with the uid %1").arg(id)
+                                      : row.value(0);
+    });
 }
 
 QString PreviewNames::personOfPid(const QString &pid)
 {
-    return nameOf(kPersonOfPid, QStringLiteral("the person with the pid"), pid);
+    return known(kPersonOfPid, pid, [](const QString &id, const QStringList &row) {
+        return row.value(0).isEmpty() ? Text::tr("the person with the pid %1").arg(id)
+                                      : row.value(0);
+    });
 }
 
 quint32 PreviewNames::uidOfPid(const QString &pid)
@@ -65,41 +69,58 @@ QSet<quint32> PreviewNames::uidsNamed(const QString &id)
 
 QString PreviewNames::branch(const QString &bid)
 {
-    return nameOf(kBranch, QStringLiteral("branch"), bid);
+    return known(kBranch, bid, [](const QString &id, const QStringList &row) {
+        return row.value(0).isEmpty() ? Text::tr("branch %1").arg(id) : row.value(0);
+    });
 }
 
 QString PreviewNames::calendarGroup(const QString &gid)
 {
-    return nameOf(kCalendarGroup, QStringLiteral("group"), gid);
+    return known(kCalendar, gid, [](const QString &id, const QStringList &row) {
+        return row.value(0).isEmpty() ? Text::tr("group %1").arg(id)
+                                      : Text::tr("group %1 (calendar %2)").arg(id, row.value(0));
+    });
 }
 
 QString PreviewNames::administrator(const QString &aid)
 {
-    return nameOf(kAdministratorName, QStringLiteral("administrator"), aid);
+    return known(kAdministrator, aid, [](const QString &id, const QStringList &row) {
+        if (!row.value(0).isEmpty())
+            return Text::tr("administrator %1 (%2)").arg(id, row.value(0));
+        return row.value(1).isNull()
+            ? Text::tr("administrator %1").arg(id)
+            : Text::tr("administrator %1 (personal number %2)").arg(id, row.value(1));
+    });
 }
 
 QString PreviewNames::terminal(const QString &tid)
 {
-    return nameOf(kTerminal, QStringLiteral("terminal"), tid);
+    return known(kBranchOfTerminal, tid, [](const QString &id, const QStringList &row) {
+        return row.value(0).isEmpty() ? Text::tr("terminal %1").arg(id)
+                                      : Text::tr("terminal %1 (%2)").arg(id, row.value(0));
+    });
 }
 
-QString PreviewNames::fund(const QString &fid)
+bool PreviewNames::isVacation(const QString &fid)
 {
-    return nameOf(kFund, QStringLiteral("fund"), fid);
+    const QString cell = known(
+        kIsVacation, fid, [](const QString &, const QStringList &row) { return row.value(0); });
+    return cell == QLatin1String("1");
 }
 
-QString PreviewNames::nameOf(const char *sql, const QString &kind, const QString &id)
+QString PreviewNames::known(const char *sql, const QString &id, const Namer &namer)
 {
     if (id.isEmpty())
         return QString();
-    const QString key = kind + QLatin1Char(' ') + id;
-    const auto known = m_known.constFind(key);
-    if (known != m_known.constEnd())
-        return *known;
+    const QPair<const char *, QString> key(sql, id);
+    const auto found = m_known.constFind(key);
+    if (found != m_known.constEnd())
+        return *found;
     // A place of its own, not that of arg(): a query may hold "%".
     QString filled = QLatin1String(sql);
     filled.replace(QLatin1String("%1"), SqlSession::literal(id));
-    const QString name = m_copy.value(filled).simplified();
-    m_known.insert(key, name.isEmpty() ? key : name);
-    return m_known.value(key);
+    QStringList row = m_copy.row(filled);
+    if (!row.isEmpty())
+        row.first() = row.constFirst().simplified();
+    return *m_known.insert(key, namer(id, row));
 }

@@ -3,12 +3,14 @@
 #include "mirovahrctl/site/sqlsession.h"
 
 #include <QHash>
+#include <QPair>
 #include <QSet>
 #include <QSqlDatabase>
 #include <QString>
+#include <QStringList>
 
 /// Readable names for the ids in the tables, from the copy after the synchronisation. An id that is
-/// not there gets its kind and number.
+/// not there gets its kind and number. The names are in the language in use.
 class PreviewNames {
 public:
     /// \a copy: a connection to the copied database.
@@ -25,13 +27,18 @@ public:
     QString calendarGroup(const QString &gid);
     QString administrator(const QString &aid);
     QString terminal(const QString &tid);
-    QString fund(const QString &fid);
+    /// Whether it is the fund of the vacation, counted in days.
+    bool isVacation(const QString &fid);
 
 private:
-    /// The result of a query with a placeholder for the id; \a kind and the id when there is none.
-    QString nameOf(const char *sql, const QString &kind, const QString &id);
+    /// Makes the name of an id by the row that a query has found; the row is empty when there is
+    /// none.
+    using Namer = QString (*)(const QString &id, const QStringList &row);
+
+    /// The name by the result of a query with a place for the id; empty without an id.
+    QString known(const char *sql, const QString &id, const Namer &namer);
 
     SqlSession m_copy;
-    QHash<QString, QString> m_known;
+    QHash<QPair<const char *, QString>, QString> m_known; ///< by query and id
     QHash<QString, quint32> m_uids; ///< by pid
 };

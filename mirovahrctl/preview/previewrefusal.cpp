@@ -1,5 +1,7 @@
 #include "mirovahrctl/preview/previewrefusal.h"
 
+#include "cli/text.h"
+
 namespace {
 
 struct Failure {
@@ -12,13 +14,15 @@ struct Failure {
 /// then.
 constexpr Failure kFailures[] = {
     {"MHRWorker::dbCheckOpen() - SQL ERROR", ExitStatus::NoDatabase,
-     "The plugin cannot open the copy. It logs \"%1\""},
+     QT_TRANSLATE_NOOP("Text", "The plugin cannot open the copy. It logs \"%1\"")},
     {"MHRWorker::dbLoadPeople() - SQL ERROR", ExitStatus::ContractBroken,
-     "The plugin cannot load the people of this database and would synchronise nobody. It logs "
-     "\"%1\". Run check-db for details"},
+     QT_TRANSLATE_NOOP("Text",
+                       "The plugin cannot load the people of this database and would synchronise "
+                       "nobody. It logs \"%1\". Run check-db for details")},
     {"MHRWorker::dbLoadBranches() - SQL ERROR", ExitStatus::ContractBroken,
-     "The plugin cannot load the branches of this database; everybody whom it writes would lose "
-     "the branch. It logs \"%1\". Run check-db for details"},
+     QT_TRANSLATE_NOOP("Text",
+                       "The plugin cannot load the branches of this database; everybody whom it "
+                       "writes would lose the branch. It logs \"%1\". Run check-db for details")},
 };
 
 /// A preview keeps the export, so the plugin names it only when it cannot read it.
@@ -31,12 +35,12 @@ std::optional<PreviewRefusal> PreviewRefusal::ofLog(const QString &text, const Q
     if (text.startsWith(QLatin1String(kUnreadableExport))) {
         return PreviewRefusal{
             ExitStatus::Usage,
-            QStringLiteral("'%1' cannot be read to its end: the plugin would log \"%2\"")
+            Text::tr("'%1' cannot be read to its end: the plugin would log \"%2\"")
                 .arg(exportFile, text)};
     }
     for (const Failure &failure : kFailures) {
         if (text.startsWith(QLatin1String(failure.beginning)))
-            return PreviewRefusal{failure.status, QString::fromLatin1(failure.sentence).arg(text)};
+            return PreviewRefusal{failure.status, Text::tr(failure.sentence).arg(text)};
     }
     return std::nullopt;
 }

@@ -1,13 +1,14 @@
 #include "mirovahrctl/preview/previewreport.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/preview/previewcard.h"
 #include "mirovahrctl/preview/previewwork.h"
 #include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
+#include "mirovahrctl/report/moment.h"
 #include "mirovahrctl/report/reportwriter.h"
 #include "mirovahrctl/report/rules/previewrules.h"
-#include "mirovahrctl/report/wording.h"
 
 #include <QDate>
 #include <QRegularExpression>
@@ -18,17 +19,17 @@ namespace {
 
 QString people(int count)
 {
-    return Wording::counted(count, QStringLiteral("person"), QStringLiteral("people"));
+    return Text::tr("%Ln person(s)", nullptr, count);
 }
 
 Table tableOf(const QVector<PreviewLine> &lines)
 {
     Table table{QStringLiteral("differences"),
-                {{QStringLiteral("who"), QStringLiteral("Who")},
-                 {QStringLiteral("what"), QStringLiteral("What")},
-                 {QStringLiteral("before"), QStringLiteral("Now")},
-                 {QStringLiteral("after"), QStringLiteral("Afterwards")},
-                 {QStringLiteral("bookkeeping"), QStringLiteral("Bookkeeping")}},
+                {{QStringLiteral("who"), Text::tr("Who")},
+                 {QStringLiteral("what"), Text::tr("What")},
+                 {QStringLiteral("before"), Text::tr("Now")},
+                 {QStringLiteral("after"), Text::tr("Afterwards")},
+                 {QStringLiteral("bookkeeping"), Text::tr("Bookkeeping")}},
                 {}};
     for (const PreviewLine &line : lines)
         table.rows.append({line.who, line.text(), line.before, line.after, line.isBookkeeping});
@@ -37,10 +38,31 @@ Table tableOf(const QVector<PreviewLine> &lines)
 
 Table tableOf(const QVector<Card> &cards)
 {
-    Table table{QStringLiteral("people"), {{QStringLiteral("who"), QStringLiteral("Who")}}, {}};
+    Table table{QStringLiteral("people"), {{QStringLiteral("who"), Text::tr("Who")}}, {}};
     for (const Card &card : cards)
         table.rows.append({card.who});
     return table;
+}
+
+/// People as the object of what a synchronisation does.
+QString peopleAsObject(int count)
+{
+    return Text::tr("%Ln person(s)", "whom a synchronisation would create or change", count);
+}
+
+QString verdictOn(int created, int changed, int rows)
+{
+    if (created > 0 && changed > 0) {
+        return Text::tr("A synchronisation would create %1 and change %2.")
+            .arg(peopleAsObject(created), peopleAsObject(changed));
+    }
+    if (created > 0)
+        return Text::tr("A synchronisation would create %1.").arg(peopleAsObject(created));
+    if (changed > 0)
+        return Text::tr("A synchronisation would change %1.").arg(peopleAsObject(changed));
+    return rows == 0 ? Text::tr("A synchronisation would change nothing.")
+                     : Text::tr("A synchronisation would change nobody, only %Ln row(s) besides.",
+                                nullptr, rows);
 }
 
 /// One card in the place of those that have only details.
@@ -60,11 +82,6 @@ QString release(const QString &version)
 {
     QString text = version;
     return text.remove(QRegularExpression(QStringLiteral("-log$")));
-}
-
-QString rows(int count)
-{
-    return Wording::counted(count, QStringLiteral("row"), QStringLiteral("rows"));
 }
 
 } // namespace
@@ -114,7 +131,7 @@ void PreviewReport::collect()
 
 void PreviewReport::writeWarnings()
 {
-    m_report.section(QStringLiteral("warnings"), QStringLiteral("Findings"));
+    m_report.section(QStringLiteral("warnings"), Text::tr("Findings"));
     warnOfConfiguration();
     for (const Finding &warning : m_work.warnings())
         m_report.finding(warning);
@@ -126,12 +143,12 @@ void PreviewReport::warnOfConfiguration()
     if (!m_configuration.values().enabled) {
         m_report.add(
             PreviewRules::kDisabled,
-            QStringLiteral(
+            Text::tr(
                 "The plugin is disabled in the configuration: it would not synchronise at all."));
     }
     if (m_configuration.values().testMode) {
         m_report.add(PreviewRules::kTestMode,
-                     QStringLiteral("Test mode is on: people are only logged, not written."));
+                     Text::tr("Test mode is on: people are only logged, not written."));
     }
 }
 
@@ -141,29 +158,27 @@ void PreviewReport::noteCopy()
     if (!schema.tablesWithHiddenTriggers.isEmpty()) {
         m_report.add(
             PreviewRules::kTriggersHidden,
-            QStringLiteral("This account is not allowed to see the triggers of these tables: %1. "
-                           "The preview lacks whatever triggers do there.")
+            Text::tr("This account is not allowed to see the triggers of these tables: %1. "
+                     "The preview lacks whatever triggers do there.")
                 .arg(schema.tablesWithHiddenTriggers.join(QStringLiteral(", "))));
     }
     if (!schema.tablesOutsideSnapshot.isEmpty()) {
-        m_report.add(
-            PreviewRules::kNoSnapshot,
-            QStringLiteral("The engine of these tables does not support snapshots; they were "
-                           "copied one after the other: %1.")
-                .arg(schema.tablesOutsideSnapshot.join(QStringLiteral(", "))));
+        m_report.add(PreviewRules::kNoSnapshot,
+                     Text::tr("The engine of these tables does not support snapshots; they were "
+                              "copied one after the other: %1.")
+                         .arg(schema.tablesOutsideSnapshot.join(QStringLiteral(", "))));
     }
     if (!schema.namedViews.isEmpty()) {
-        m_report.add(
-            PreviewRules::kViewNotCopied,
-            QStringLiteral("Routines or triggers seem to use views, which are not copied: %1.")
-                .arg(schema.namedViews.join(QStringLiteral(", "))));
+        m_report.add(PreviewRules::kViewNotCopied,
+                     Text::tr("Routines or triggers seem to use views, which are not copied: %1.")
+                         .arg(schema.namedViews.join(QStringLiteral(", "))));
     }
     for (const QString &doubt : m_work.doubts()) {
         m_report.finding(makeFinding(PreviewRules::kWholeTables, doubt + QLatin1Char('.')));
     }
     if (release(schema.serverVersion) != release(m_work.copyVersion())) {
         m_report.add(PreviewRules::kOtherServer,
-                     QStringLiteral("The site's server is version %1, the copy was on version %2.")
+                     Text::tr("The site's server is version %1, the copy was on version %2.")
                          .arg(schema.serverVersion, m_work.copyVersion()));
     }
 }
@@ -172,10 +187,10 @@ void PreviewReport::writeTotals()
 {
     for (const PreviewKind kind : PreviewWords::kinds())
         writeTotal(PreviewWords::idOf(kind), PreviewWords::headingOf(kind), totalOf(kind));
-    writeTotal(QStringLiteral("bookkeeping-people"), QStringLiteral("People with bookkeeping only"),
+    writeTotal(QStringLiteral("bookkeeping-people"), Text::tr("People with bookkeeping only"),
                m_subjects.count(PreviewSubjects::Group::Bookkeeping));
-    writeTotal(QStringLiteral("rows"), QStringLiteral("Rows that would change"), m_changes);
-    writeTotal(QStringLiteral("pluginWarnings"), QStringLiteral("The plugin's warnings"),
+    writeTotal(QStringLiteral("rows"), Text::tr("Rows that would change"), m_changes);
+    writeTotal(QStringLiteral("pluginWarnings"), Text::tr("The plugin's warnings"),
                m_work.warnings().size());
 }
 
@@ -222,31 +237,31 @@ void PreviewReport::writeBookkeeping()
     if (cards.isEmpty())
         return;
     m_report.section(QStringLiteral("bookkeeping-people"),
-                     QStringLiteral("People with bookkeeping only"));
+                     Text::tr("People with bookkeeping only"));
     m_report.data(tableOf(cards));
     m_report.card(allInOne(cards));
 }
 
 void PreviewReport::writeLimits()
 {
-    m_report.section(QStringLiteral("limits"), QStringLiteral("What is left out"));
+    m_report.section(QStringLiteral("limits"), Text::tr("What is left out"));
     m_report.sentence(
-        QStringLiteral(
+        Text::tr(
             "%1 This is the forced synchronisation of a plugin that was just started: an ordinary "
             "one skips people whose line has not changed, and a running plugin remembers more than "
             "the database holds. It is valid for today, %2, and for the database as it was when it "
             "was copied; moments of writing are shown as \"now\". The plugin's warnings are those "
             "of its log: check-file reports lines that it drops silently, check-db rights that its "
             "account lacks.")
-            .arg(m_configuration.origin(), QDate::currentDate().toString(Qt::ISODate)));
+            .arg(m_configuration.origin(), Moment::text(QDate::currentDate())));
     if (m_configuration.values().runsCommand(true)) {
         m_report.sentence(
-            QStringLiteral("The plugin would run its export command first. It was not run: this is "
-                           "the preview of the file as it is."));
+            Text::tr("The plugin would run its export command first. It was not run: this is "
+                     "the preview of the file as it is."));
     }
     if (m_configuration.values().deleteFile) {
-        m_report.sentence(QStringLiteral("The plugin would remove the export after reading it. It "
-                                         "was not removed."));
+        m_report.sentence(Text::tr("The plugin would remove the export after reading it. It "
+                                   "was not removed."));
     }
 }
 
@@ -254,23 +269,11 @@ QString PreviewReport::verdict() const
 {
     const int created = m_subjects.count(PreviewSubjects::Group::New);
     const int changed = m_subjects.count(PreviewSubjects::Group::Changed);
-    QStringList deeds;
-    if (created > 0)
-        deeds += QStringLiteral("create ") + people(created);
-    if (changed > 0)
-        deeds += QStringLiteral("change ") + people(changed);
-    if (deeds.isEmpty()) {
-        deeds += m_changes == 0
-            ? QStringLiteral("change nothing")
-            : QStringLiteral("change nobody, only %1 besides").arg(rows(m_changes));
-    }
-    QString text =
-        QStringLiteral("A synchronisation would %1.").arg(deeds.join(QStringLiteral(" and ")));
+    QString text = verdictOn(created, changed, m_changes);
     const int warnings = m_work.warnings().size();
     if (warnings > 0) {
         text +=
-            QStringLiteral(" The plugin would warn %1.")
-                .arg(Wording::counted(warnings, QStringLiteral("time"), QStringLiteral("times")));
+            QLatin1Char(' ') + Text::tr("The plugin would warn %Ln time(s).", nullptr, warnings);
     }
     return text;
 }

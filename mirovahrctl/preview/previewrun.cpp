@@ -1,5 +1,6 @@
 #include "mirovahrctl/preview/previewrun.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/pluginside/forceflag.h"
 #include "plugin/workersetup.h"
 #include "worker/mhrworker.h"
@@ -86,7 +87,7 @@ bool PreviewRun::synchronise(const QSqlDatabase &copy)
     // A worker reuses a connection that an earlier one of this process has left, which may be to
     // any database.
     if (QSqlDatabase::connectionNames().size() == before.size()) {
-        m_error = QStringLiteral("The plugin already has a connection to another database");
+        m_error = Text::tr("The plugin already has a connection to another database");
         return false;
     }
     configureWorker(worker, m_configuration);

@@ -1,5 +1,6 @@
 #include "mirovahrctl/preview/previewschemareader.h"
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/site/sqlsession.h"
 
@@ -79,6 +80,20 @@ QSet<QString> words(const QString &text)
     return {list.cbegin(), list.cend()};
 }
 
+/// Why a trigger or routine cannot be read, with a place for its name.
+QString unreadableProgram(const QString &kind)
+{
+    if (kind == QLatin1String("TRIGGER")) {
+        return Text::tr("This account is not allowed to read the text of the trigger %1: it lacks "
+                        "TRIGGER on its table");
+    }
+    return kind == QLatin1String("FUNCTION")
+        ? Text::tr("This account is not allowed to read the text of the function %1: it lacks "
+                   "SELECT on mysql.proc")
+        : Text::tr("This account is not allowed to read the text of the procedure %1: it lacks "
+                   "SELECT on mysql.proc");
+}
+
 bool names(const QSet<QString> &words, const QString &text, const QString &name)
 {
     static const QRegularExpression plain(QStringLiteral("^[\\w$]+$"),
@@ -109,7 +124,7 @@ std::optional<PreviewRefusal> PreviewSchemaReader::read()
         takeNext();
     if (m_site.failed()) {
         refuse(ExitStatus::NoDatabase,
-               QStringLiteral("The site's database cannot be read: %1").arg(m_site.errorString()));
+               Text::tr("The site's database cannot be read: %1").arg(m_site.errorString()));
     }
     return m_refusal;
 }
@@ -170,22 +185,26 @@ void PreviewSchemaReader::requirePlugin()
     for (const TepDbContract::Table &table : TepDbContract::kTables) {
         const QString name = QString::fromLatin1(table.name);
         if (TepDbContract::isUsed(name))
-            require(m_tables, name, QStringLiteral("table"));
+            require(m_tables, name,
+                    Text::tr("There is no table %1, or this account is not allowed to see it: it "
+                             "needs SELECT on %1. Run check-db for details")
+                        .arg(name));
     }
-    for (const TepDbContract::Routine &routine : TepDbContract::kRoutines)
-        require(m_routines, QString::fromLatin1(routine.name), QStringLiteral("routine"));
+    for (const TepDbContract::Routine &routine : TepDbContract::kRoutines) {
+        const QString name = QString::fromLatin1(routine.name);
+        require(m_routines, name,
+                Text::tr("There is no routine %1, or this account is not allowed to see it: it "
+                         "needs SELECT on mysql.proc. Run check-db for details")
+                    .arg(name));
+    }
 }
 
 void PreviewSchemaReader::require(const QHash<QString, Entry> &known, const QString &name,
-                                  const QString &what)
+                                  const QString &refusal)
 {
     const QString key = name.toLower();
     if (!known.contains(key)) {
-        const bool isTable = &known == &m_tables;
-        refuse(ExitStatus::ContractBroken,
-               QStringLiteral("There is no %1 %2, or this account is not allowed to see it: it "
-                              "needs SELECT on %3. Run check-db for details")
-                   .arg(what, name, isTable ? name : QStringLiteral("mysql.proc")));
+        refuse(ExitStatus::ContractBroken, refusal);
         return;
     }
     const QString mark = (&known == &m_tables ? QStringLiteral("t ") : QStringLiteral("r ")) + key;
@@ -208,14 +227,15 @@ void PreviewSchemaReader::takeTable(const QString &key)
     const Entry entry = m_tables.value(key);
     if (entry.kind != kBaseTable) {
         refuse(ExitStatus::ContractBroken,
-               QStringLiteral("%1 is not a table but a %2, which cannot be copied")
+               Text::tr("%1 is not a table but a %2, which cannot be copied")
                    .arg(entry.name, entry.kind.toLower()));
         return;
     }
     PreviewTable table = readTable(entry);
     if (m_site.failed()) {
-        refuseRead(QStringLiteral("the table %1").arg(entry.name),
-                   QStringLiteral("SELECT on the whole table"));
+        refuseRead(Text::tr("This account is not allowed to read the table %1: it lacks SELECT on "
+                            "the whole table")
+                       .arg(entry.name));
         return;
     }
     if (!entry.transactional)
@@ -258,13 +278,15 @@ void PreviewSchemaReader::requireReferences(PreviewTable &table)
         const QRegularExpressionMatch match = matches.next();
         if (!match.captured(1).isEmpty() && match.captured(1) != m_schema.name) {
             refuse(ExitStatus::ContractBroken,
-                   QStringLiteral("The table %1 refers to the database %2, which is not copied")
+                   Text::tr("The table %1 refers to the database %2, which is not copied")
                        .arg(table.name, match.captured(1)));
             return;
         }
         table.parents += match.captured(2);
         require(m_tables, match.captured(2),
-                QStringLiteral("table that %1 refers to,").arg(table.name));
+                Text::tr("There is no table that %1 refers to, %2, or this account is not allowed "
+                         "to see it: it needs SELECT on %2. Run check-db for details")
+                    .arg(table.name, match.captured(2)));
     }
 }
 
@@ -306,9 +328,7 @@ std::optional<PreviewProgram> PreviewSchemaReader::readProgram(const QString &ki
     const QStringList row =
         m_site.row(QStringLiteral("SHOW CREATE %1 %2").arg(kind, SqlSession::name(name)));
     if (m_site.failed() || row.value(2).isEmpty()) {
-        refuseRead(QStringLiteral("the text of the %1 %2").arg(kind.toLower(), name),
-                   kind == QLatin1String("TRIGGER") ? QStringLiteral("TRIGGER on its table")
-                                                    : QStringLiteral("SELECT on mysql.proc"));
+        refuseRead(unreadableProgram(kind).arg(name));
         return std::nullopt;
     }
     return PreviewProgram{name, withoutDefiner(row.at(2)), row.at(1), row.value(4), {}};
@@ -340,11 +360,9 @@ void PreviewSchemaReader::refuse(ExitStatus status, const QString &sentence)
         m_refusal = PreviewRefusal{status, sentence};
 }
 
-void PreviewSchemaReader::refuseRead(const QString &what, const QString &missingRight)
+void PreviewSchemaReader::refuseRead(const QString &sentence)
 {
-    QString sentence = QStringLiteral("This account is not allowed to read %1: it lacks %2")
-                           .arg(what, missingRight);
-    if (m_site.failed())
-        sentence += QStringLiteral(" (%1)").arg(m_site.errorString());
-    refuse(ExitStatus::NoDatabase, sentence);
+    const QString reason =
+        m_site.failed() ? QStringLiteral(" (%1)").arg(m_site.errorString()) : QString();
+    refuse(ExitStatus::NoDatabase, sentence + reason);
 }

@@ -40,7 +40,8 @@ private:
     void listTriggers();
 
     void requirePlugin();
-    void require(const QHash<QString, Entry> &known, const QString &name, const QString &what);
+    /// \a refusal says that it is missing.
+    void require(const QHash<QString, Entry> &known, const QString &name, const QString &refusal);
     void takeNext();
     void takeTable(const QString &key);
     void takeRoutine(const QString &key);
@@ -53,7 +54,8 @@ private:
     void noteHiddenTriggers(const QString &table);
 
     void refuse(ExitStatus status, const QString &sentence);
-    void refuseRead(const QString &what, const QString &missingRight);
+    /// The error of the server follows the sentence.
+    void refuseRead(const QString &sentence);
 
     SqlSession &m_site;
     PreviewSchema m_schema;

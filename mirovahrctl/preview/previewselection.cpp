@@ -1,5 +1,6 @@
 #include "mirovahrctl/preview/previewselection.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/preview/previewpeople.h"
 #include "mirovahrctl/preview/previewschema.h"
 #include "mirovahrctl/site/sqlsession.h"
@@ -131,27 +132,34 @@ PreviewSelection::PreviewSelection(const PreviewSchema &schema, const PreviewPeo
 void PreviewSelection::doubtStatements()
 {
     if (m_people.harmfulLine != 0) {
-        doubtAll(QStringLiteral("a text in line %1 of the export changes the plugin's statements")
+        doubtAll(Text::tr("All rows of all tables were copied, because a text in line %1 of the "
+                          "export changes the plugin's statements")
                      .arg(m_people.harmfulLine));
     }
     if (m_people.hasHarmfulState) {
-        doubtAll(QStringLiteral("a relationship state of the configuration changes the plugin's "
-                                "statements"));
+        doubtAll(Text::tr("All rows of all tables were copied, because a relationship state of the "
+                          "configuration changes the plugin's "
+                          "statements"));
     }
 }
 
 void PreviewSelection::doubtPrograms()
 {
     if (!m_schema.triggers.isEmpty()) {
-        doubtAll(QStringLiteral("the site has triggers, such as %1")
-                     .arg(m_schema.triggers.first().name));
+        doubtAll(
+            Text::tr(
+                "All rows of all tables were copied, because the site has triggers, such as %1")
+                .arg(m_schema.triggers.first().name));
     }
     for (const PreviewProgram &routine : m_schema.routines) {
         if (routine.runsTexts)
-            doubtAll(
-                QStringLiteral("the routine %1 runs statements that it makes").arg(routine.name));
+            doubtAll(Text::tr("All rows of all tables were copied, because the routine %1 runs "
+                              "statements that it makes")
+                         .arg(routine.name));
         for (const QString &table : routine.tables)
-            doubt(table, QStringLiteral("the routine %1 uses it").arg(routine.name));
+            doubt(table,
+                  Text::tr("All rows of %1 were copied, because the routine %2 uses it")
+                      .arg(table, routine.name));
     }
 }
 
@@ -175,7 +183,9 @@ void PreviewSelection::doubtColumns(const PreviewTable &table)
         for (const QString &name : names) {
             const int at = table.indexOf(name);
             if (at < 0 || table.columns.at(at).kind != PreviewColumn::Kind::Number)
-                doubtAll(QStringLiteral("%1.%2 is not a number").arg(table.name, name));
+                doubtAll(
+                    Text::tr("All rows of all tables were copied, because %1.%2 is not a number")
+                        .arg(table.name, name));
         }
     }
 }
@@ -185,7 +195,8 @@ void PreviewSelection::noteNextUid(const PreviewTable &people)
     if (people.isCounted(QStringLiteral("uid")))
         m_nextUid = nextValue(people.definition);
     else
-        doubtAll(QStringLiteral("the server does not count people.uid"));
+        doubtAll(Text::tr(
+            "All rows of all tables were copied, because the server does not count people.uid"));
 }
 
 void PreviewSelection::doubtKeys(const PreviewTable &table)
@@ -202,7 +213,8 @@ void PreviewSelection::doubtKeys(const PreviewTable &table)
         const bool isNumber = key.size() == 1 && table.isCounted(key.first());
         if (!isOfPerson && !isNumber) {
             doubt(table.name,
-                  QStringLiteral("it has the unique key %1").arg(key.join(QStringLiteral(", "))));
+                  Text::tr("All rows of %1 were copied, because it has the unique key %2")
+                      .arg(table.name, key.join(QStringLiteral(", "))));
         }
     }
 }
@@ -210,28 +222,32 @@ void PreviewSelection::doubtKeys(const PreviewTable &table)
 void PreviewSelection::doubtReferences(const PreviewTable &table)
 {
     for (const QString &parent : table.parents) {
-        doubt(parent, QStringLiteral("%1 refers to it").arg(table.name));
+        doubt(parent,
+              Text::tr("All rows of %1 were copied, because %2 refers to it")
+                  .arg(parent, table.name));
         const bool isHarmless = std::any_of(
             std::begin(kHarmlessParents), std::end(kHarmlessParents),
             [&parent](const char *harmless) { return parent == QLatin1String(harmless); });
         if (!isHarmless)
-            doubt(table.name, QStringLiteral("it refers to %1").arg(parent));
+            doubt(table.name,
+                  Text::tr("All rows of %1 were copied, because it refers to %2")
+                      .arg(table.name, parent));
     }
 }
 
-void PreviewSelection::doubt(const QString &table, const QString &reason)
+void PreviewSelection::doubt(const QString &table, const QString &sentence)
 {
     if (!reductionOf(table))
         return;
     m_whole += table;
-    note(QStringLiteral("All rows of %1 were copied, because %2").arg(table, reason));
+    note(sentence);
 }
 
-void PreviewSelection::doubtAll(const QString &reason)
+void PreviewSelection::doubtAll(const QString &sentence)
 {
     for (const Reduction &reduction : kReductions)
         m_whole += QString::fromLatin1(reduction.table);
-    note(QStringLiteral("All rows of all tables were copied, because ") + reason);
+    note(sentence);
 }
 
 void PreviewSelection::note(const QString &doubt)
@@ -294,7 +310,8 @@ quint32 PreviewSelection::numberOf(const QString &cell)
     bool isNumber = false;
     const quint32 number = cell.toUInt(&isNumber);
     if (!isNumber && !cell.isNull())
-        doubtAll(QStringLiteral("there are ids that are no whole numbers of 32 bits"));
+        doubtAll(Text::tr("All rows of all tables were copied, because there are ids that are no "
+                          "whole numbers of 32 bits"));
     return number;
 }
 

@@ -45,8 +45,8 @@ private:
     void doubtColumns(const PreviewTable &table);
     void doubtKeys(const PreviewTable &table);
     void doubtReferences(const PreviewTable &table);
-    void doubt(const QString &table, const QString &reason);
-    void doubtAll(const QString &reason);
+    void doubt(const QString &table, const QString &sentence);
+    void doubtAll(const QString &sentence);
     void note(const QString &doubt);
 
     QString rowsOfPeople(QString condition, const QVector<quint32> &uids) const;

@@ -38,7 +38,7 @@ QString comment(const PreviewSchema &schema)
     QString text =
         QStringLiteral("-- What a forced synchronisation would change in the database %1,\n"
                        "-- by a preview of %2.\n")
-            .arg(schema.name.simplified(), Moment::text(QDateTime::currentDateTime()));
+            .arg(schema.name.simplified(), Moment::fileText(QDateTime::currentDateTime()));
     if (!schema.triggers.isEmpty()) {
         text += QStringLiteral("-- The effects of triggers are included: triggers must not fire "
                                "again when this is run.\n");

@@ -1,5 +1,6 @@
 #include "mirovahrctl/preview/previewundo.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/preview/previewdiff.h"
 #include "mirovahrctl/preview/previewscript.h"
 #include "mirovahrctl/preview/previewundocolumns.h"
@@ -171,16 +172,16 @@ std::optional<PreviewRefusal> PreviewUndo::refusal() const
     if (!m_schema.serverVersion.contains(QLatin1String("MariaDB"))) {
         return PreviewRefusal{
             ExitStatus::Usage,
-            QStringLiteral("--undo writes statements of MariaDB, and the site's server is version "
-                           "%1")
+            Text::tr("--undo writes statements of MariaDB, and the site's server is version "
+                     "%1")
                 .arg(m_schema.serverVersion)};
     }
     const QStringList &keyless = m_plan.tablesWithoutKey();
     if (keyless.isEmpty())
         return std::nullopt;
     return PreviewRefusal{ExitStatus::ContractBroken,
-                          QStringLiteral("The differences cannot be taken back, since no key "
-                                         "identifies the rows of %1. Run check-db for details")
+                          Text::tr("The differences cannot be taken back, since no key "
+                                   "identifies the rows of %1. Run check-db for details")
                               .arg(keyless.join(QStringLiteral(", ")))};
 }
 
@@ -208,7 +209,7 @@ QString PreviewUndo::heading(const QString &exportFile, Extent extent) const
 {
     QString text =
         QString::fromLatin1(kHeading).arg(exportFile.simplified(), m_schema.name.simplified(),
-                                          Moment::text(QDateTime::currentDateTime()));
+                                          Moment::fileText(QDateTime::currentDateTime()));
     const QStringList sentences = undoLimits(m_schema, m_plan);
     for (const QString &sentence : sentences)
         text += QStringLiteral("--   - %1\n").arg(sentence.simplified());

@@ -1,5 +1,6 @@
 #include "mirovahrctl/preview/previewundolimits.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/preview/previewschema.h"
 #include "mirovahrctl/preview/previewundoplan.h"
 
@@ -13,7 +14,7 @@ QString joined(const QStringList &names)
 void addTerminals(const PreviewUndoPlan &plan, QStringList &sentences)
 {
     if (plan.find("term_sync")) {
-        sentences += QStringLiteral(
+        sentences += Text::tr(
             "What a terminal has fetched from its queue. The statements name the rows that are no "
             "longer in the queue: send these people to the terminals again.");
     }
@@ -22,37 +23,37 @@ void addTerminals(const PreviewUndoPlan &plan, QStringList &sentences)
 void addPeople(const PreviewUndoPlan &plan, QStringList &sentences)
 {
     if (!plan.newPeople().isEmpty()) {
-        sentences += QStringLiteral("The uids of new people: they are used up, and the next "
-                                    "person gets another one.");
-        sentences += QStringLiteral("What others have written for new people, such as days of "
-                                    "attendance.");
+        sentences += Text::tr("The uids of new people: they are used up, and the next "
+                              "person gets another one.");
+        sentences += Text::tr("What others have written for new people, such as days of "
+                              "attendance.");
     }
     if (plan.find("atten") || plan.find("people")) {
-        sentences += QStringLiteral("Attendance that was calculated with what the synchronisation "
-                                    "has written. The statements name these people: let it be "
-                                    "calculated again.");
+        sentences += Text::tr("Attendance that was calculated with what the synchronisation "
+                              "has written. The statements name these people: let it be "
+                              "calculated again.");
     }
     if (plan.find("people_pam") || plan.find("vars"))
-        sentences += QStringLiteral("A payroll export that was made in between.");
+        sentences += Text::tr("A payroll export that was made in between.");
 }
 
 void addPrograms(const PreviewSchema &schema, const PreviewUndoPlan &plan, QStringList &sentences)
 {
     if (!plan.rowsOfOthers().isEmpty()) {
-        sentences += QStringLiteral("What triggers and routines of the site have changed in %1.")
+        sentences += Text::tr("What triggers and routines of the site have changed in %1.")
                          .arg(joined(plan.rowsOfOthers().keys()));
     }
     QStringList triggers;
     for (const PreviewProgram &trigger : schema.triggers)
         triggers += trigger.name;
     if (!triggers.isEmpty()) {
-        sentences += QStringLiteral("What the site's triggers do when the rows are taken back: "
-                                    "they fire again (%1).")
+        sentences += Text::tr("What the site's triggers do when the rows are taken back: "
+                              "they fire again (%1).")
                          .arg(joined(triggers));
     }
     if (!schema.tablesWithHiddenTriggers.isEmpty()) {
-        sentences += QStringLiteral("What triggers do that this account is not allowed to see, of "
-                                    "these tables: %1.")
+        sentences += Text::tr("What triggers do that this account is not allowed to see, of "
+                              "these tables: %1.")
                          .arg(joined(schema.tablesWithHiddenTriggers));
     }
 }
@@ -66,13 +67,13 @@ QStringList undoLimits(const PreviewSchema &schema, const PreviewUndoPlan &plan)
     addPeople(plan, sentences);
     addPrograms(schema, plan, sentences);
     if (plan.hasForceFlag()) {
-        sentences += QStringLiteral("The flag that forces a synchronisation: it would force "
-                                    "another one.");
+        sentences += Text::tr("The flag that forces a synchronisation: it would force "
+                              "another one.");
     }
     if (!plan.tablesWithoutTransactions().isEmpty()) {
-        sentences += QStringLiteral("A failure in the middle: these tables have no transactions, "
-                                    "and what is written by then stays: %1. They are locked "
-                                    "meanwhile, and written only when all rows have been checked.")
+        sentences += Text::tr("A failure in the middle: these tables have no transactions, "
+                              "and what is written by then stays: %1. They are locked "
+                              "meanwhile, and written only when all rows have been checked.")
                          .arg(joined(plan.tablesWithoutTransactions()));
     }
     return sentences;

@@ -1,8 +1,10 @@
 #include "mirovahrctl/preview/previewvalues.h"
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/preview/previewdiff.h"
 #include "mirovahrctl/preview/previewnames.h"
+#include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/moment.h"
 
 #include <QDateTime>
@@ -12,15 +14,15 @@ namespace {
 
 using TepDbContract::Shown;
 
-constexpr char kDay[] = "yyyy-MM-dd";
-
 struct Flag {
     uint bit;
     const char *name;
 };
 
-constexpr Flag kFlags[] = {
-    {1, "interval types"}, {2, "people"}, {64, "time zones"}, {256, "colour groups"}};
+constexpr Flag kFlags[] = {{1, QT_TRANSLATE_NOOP("Text", "interval types")},
+                           {2, QT_TRANSLATE_NOOP("Text", "people")},
+                           {64, QT_TRANSLATE_NOOP("Text", "time zones")},
+                           {256, QT_TRANSLATE_NOOP("Text", "colour groups")}};
 
 Shown formOf(const QString &table, const QString &name)
 {
@@ -30,23 +32,30 @@ Shown formOf(const QString &table, const QString &name)
 
 QString yesOrNo(const QString &cell)
 {
-    return cell == QLatin1String("0") ? QStringLiteral("no") : QStringLiteral("yes");
+    return cell == QLatin1String("0") ? Text::tr("no") : Text::tr("yes");
 }
 
 QString dayAfter(const QString &seconds)
 {
     if (seconds == QLatin1String("0"))
-        return QStringLiteral("the beginning");
+        return Text::tr("the beginning");
     const QDate day = QDateTime::fromSecsSinceEpoch(seconds.toLongLong()).date();
-    return day.addDays(1).toString(QLatin1String(kDay));
+    return Moment::text(day.addDays(1));
 }
 
 QString hundredths(const QString &cell)
 {
-    const double days = cell.toDouble() / 100;
-    return QStringLiteral("%1%2 %3").arg(
-        days > 0 ? QStringLiteral("+") : QString(), QString::number(days, 'g', 12),
-        qAbs(days) == 1 ? QStringLiteral("day") : QStringLiteral("days"));
+    constexpr int kOfDay = 100;
+    const qint64 count = qRound64(cell.toDouble());
+    const qint64 size = qAbs(count);
+    const QString sign = count > 0 ? QStringLiteral("+")
+        : count < 0                ? QStringLiteral("-")
+                                   : QString();
+    if (size % kOfDay == 0)
+        return sign + Text::tr("%Ln day(s)", nullptr, Language::count(size / kOfDay));
+    const int digits = size % 10 == 0 ? 1 : 2;
+    return Text::tr("%1 days").arg(sign
+                                   + Language::number(static_cast<double>(size) / kOfDay, digits));
 }
 
 QString flags(const QString &cell)
@@ -55,12 +64,13 @@ QString flags(const QString &cell)
     QStringList names;
     for (const Flag &flag : kFlags) {
         if ((bits & flag.bit) != 0)
-            names += QString::fromLatin1(flag.name);
+            names += Text::tr(flag.name);
         bits &= ~flag.bit;
     }
     if (bits != 0)
         names += QString::number(bits);
-    return names.isEmpty() ? QStringLiteral("nothing") : names.join(QStringLiteral(", "));
+    return names.isEmpty() ? Text::tr("nothing", "kinds of data")
+                           : names.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -81,7 +91,7 @@ QString PreviewValues::after(const PreviewChange &change, int column) const
     if (change.isDelete())
         return QString();
     if (m_moments.isNow(change, column))
-        return QStringLiteral("now");
+        return Text::tr("now");
     return read(change, column, change.after.at(column));
 }
 
@@ -89,14 +99,14 @@ QString PreviewValues::time(const QString &seconds)
 {
     const QDateTime moment = QDateTime::fromSecsSinceEpoch(seconds.toLongLong());
     const bool isDay = moment.time() == QTime(0, 0) || moment.time() == QTime(23, 59, 59);
-    return isDay ? moment.toString(QLatin1String(kDay)) : Moment::text(moment);
+    return isDay ? Moment::text(moment.date()) : Moment::text(moment);
 }
 
 QString PreviewValues::month(const QString &number)
 {
-    if (number == QLatin1String("0"))
-        return QStringLiteral("the beginning");
-    return number.size() == 6 ? number.left(4) + QLatin1Char('-') + number.mid(4) : number;
+    return number.size() == 6
+        ? Text::tr("%1-%2", "a year and a month").arg(number.left(4), number.mid(4))
+        : number;
 }
 
 QString PreviewValues::read(const PreviewChange &change, int column, const QString &cell) const
@@ -116,16 +126,16 @@ QString PreviewValues::read(const PreviewChange &change, int column, const QStri
     case Shown::CalendarGroup:
         return m_names.calendarGroup(cell);
     case Shown::Editor:
-        return cell == zero ? QStringLiteral("HR") : m_names.administrator(cell);
+        return cell == zero ? Text::tr("HR") : m_names.administrator(cell);
     case Shown::CalculationDue:
-        return cell == zero ? QStringLiteral("due") : time(cell);
+        return cell == zero ? Text::tr("due") : time(cell);
     case Shown::Hundredths:
         return hundredths(cell);
     case Shown::Flags:
         return flags(cell);
     case Shown::Calculated:
-        return cell.startsWith(QLatin1Char('-')) ? QStringLiteral("to be calculated")
-                                                 : QStringLiteral("calculated");
+        return cell.startsWith(QLatin1Char('-')) ? Text::tr("to be calculated")
+                                                 : Text::tr("calculated");
     case Shown::YesNo:
         break;
     }

@@ -1,5 +1,6 @@
 #include "mirovahrctl/preview/previewwords.h"
 
+#include "cli/text.h"
 #include "db/tepdbcontract.h"
 #include "mirovahrctl/preview/previewdiff.h"
 #include "mirovahrctl/preview/previewnames.h"
@@ -18,17 +19,19 @@ struct KindWords {
 };
 
 constexpr KindWords kKinds[] = {
-    {PreviewKind::NewPeople, "new-people", "New people"},
-    {PreviewKind::ChangedPeople, "changed-people", "Changed people"},
-    {PreviewKind::Recalculation, "recalculation", "Attendance to be calculated again"},
-    {PreviewKind::Branches, "branches", "Members of branches"},
-    {PreviewKind::Calendars, "calendars", "Calendar groups"},
-    {PreviewKind::Balances, "balances", "Vacation balances"},
-    {PreviewKind::Supervisors, "supervisors", "Supervisors and administrators"},
-    {PreviewKind::Payroll, "payroll", "Payroll export"},
-    {PreviewKind::Terminals, "terminals", "Terminals"},
-    {PreviewKind::Settings, "settings", "Settings"},
-    {PreviewKind::Other, "other", "Other tables"},
+    {PreviewKind::NewPeople, "new-people", QT_TRANSLATE_NOOP("Text", "New people")},
+    {PreviewKind::ChangedPeople, "changed-people", QT_TRANSLATE_NOOP("Text", "Changed people")},
+    {PreviewKind::Recalculation, "recalculation",
+     QT_TRANSLATE_NOOP("Text", "Attendance to be calculated again")},
+    {PreviewKind::Branches, "branches", QT_TRANSLATE_NOOP("Text", "Members of branches")},
+    {PreviewKind::Calendars, "calendars", QT_TRANSLATE_NOOP("Text", "Calendar groups")},
+    {PreviewKind::Balances, "balances", QT_TRANSLATE_NOOP("Text", "Vacation balances")},
+    {PreviewKind::Supervisors, "supervisors",
+     QT_TRANSLATE_NOOP("Text", "Supervisors and administrators")},
+    {PreviewKind::Payroll, "payroll", QT_TRANSLATE_NOOP("Text", "Payroll export")},
+    {PreviewKind::Terminals, "terminals", QT_TRANSLATE_NOOP("Text", "Terminals")},
+    {PreviewKind::Settings, "settings", QT_TRANSLATE_NOOP("Text", "Settings")},
+    {PreviewKind::Other, "other", QT_TRANSLATE_NOOP("Text", "Other tables")},
 };
 
 const KindWords &wordsOf(PreviewKind kind)
@@ -45,6 +48,13 @@ bool isOfCalculation(const QString &column)
 bool isBookkeeping(const QString &column)
 {
     static const QStringList names = TepDbContract::names("uid pid created edited editor calc");
+    return names.contains(column);
+}
+
+/// Columns of people that PreviewNames::personOfUid() is made of.
+bool isOfName(const QString &column)
+{
+    static const QStringList names = TepDbContract::names("pamId name surname");
     return names.contains(column);
 }
 
@@ -75,13 +85,34 @@ bool changesOnly(const PreviewChange &change, int column)
 QString requestWords(PreviewLine::Row row, bool hasRequests)
 {
     if (row == PreviewLine::Row::Removed) {
-        return hasRequests ? QStringLiteral("is no longer shown to %1, who got the requests")
-                           : QStringLiteral("is no longer shown to %1");
+        return hasRequests ? Text::tr("is no longer shown to %1, who got the requests")
+                           : Text::tr("is no longer shown to %1");
     }
     if (hasRequests)
-        return QStringLiteral("requests go to %1");
-    return row == PreviewLine::Row::Added ? QStringLiteral("is shown to %1")
-                                          : QStringLiteral("requests no longer go to %1");
+        return Text::tr("requests go to %1");
+    return row == PreviewLine::Row::Added ? Text::tr("is shown to %1")
+                                          : Text::tr("requests no longer go to %1");
+}
+
+/// The words for a move of a balance, with a place for the day.
+struct MoveWords {
+    QString what; ///< with %3 for the fund
+    QString sentence; ///< with %2 for the days as well
+};
+
+MoveWords moveWords(bool isVacation, bool isCorrection)
+{
+    if (isVacation && isCorrection)
+        return {Text::tr("vacation balance corrected on %1 by"),
+                Text::tr("vacation balance corrected on %1 by %2")};
+    if (isVacation)
+        return {Text::tr("vacation balance moved on %1 by"),
+                Text::tr("vacation balance moved on %1 by %2")};
+    if (isCorrection)
+        return {Text::tr("fund %3 balance corrected on %1 by"),
+                Text::tr("fund %3 balance corrected on %1 by %2")};
+    return {Text::tr("fund %3 balance moved on %1 by"),
+            Text::tr("fund %3 balance moved on %1 by %2")};
 }
 
 QStringList entries(const QString &selection)
@@ -131,7 +162,7 @@ QString PreviewWords::idOf(PreviewKind kind)
 
 QString PreviewWords::headingOf(PreviewKind kind)
 {
-    return QString::fromLatin1(wordsOf(kind).heading);
+    return Text::tr(wordsOf(kind).heading);
 }
 
 PreviewWords::Lines PreviewWords::describe(const PreviewChange &change) const
@@ -168,7 +199,7 @@ PreviewWords::Lines PreviewWords::describePerson(const PreviewChange &change) co
         return describePlainly(change);
     Lines lines;
     if (change.isInsert())
-        lines += lineAbout(PreviewKind::NewPeople, change, QStringLiteral("is created"));
+        lines += lineAbout(PreviewKind::NewPeople, change, Text::tr("is created"));
     for (int i = 0; i < change.table->columns.size(); ++i) {
         if (change.changes(i) && !(change.isInsert() && isEmptyCell(change.after.at(i))))
             lines += describePersonColumn(change, i);
@@ -183,8 +214,10 @@ PreviewLine PreviewWords::describePersonColumn(const PreviewChange &change, int 
     const PreviewKind kind = change.isInsert() ? PreviewKind::NewPeople
         : isOfCalculation(name)                ? PreviewKind::Recalculation
                                                : PreviewKind::ChangedPeople;
-    PreviewLine line =
-        lineAbout(kind, change, known == nullptr ? name : QString::fromLatin1(known->label));
+    PreviewLine line = lineAbout(kind, change, known == nullptr ? name : Text::tr(known->label));
+    line.isName = isOfName(name);
+    line.isYes = known != nullptr && known->shown == TepDbContract::Shown::YesNo
+        && change.after.at(column) != QLatin1String("0");
     line.isBookkeeping = isBookkeeping(name);
     line.before = m_values.before(change, column);
     line.after = m_values.after(change, column);
@@ -193,7 +226,7 @@ PreviewLine PreviewWords::describePersonColumn(const PreviewChange &change, int 
 
 PreviewWords::Lines PreviewWords::describeAttendance(const PreviewChange &change) const
 {
-    return compare(lineAbout(PreviewKind::Recalculation, change, QStringLiteral("attendance of %1"),
+    return compare(lineAbout(PreviewKind::Recalculation, change, Text::tr("attendance of %1"),
                              PreviewValues::time(change.cell("date"))),
                    change, "ok");
 }
@@ -204,38 +237,48 @@ PreviewWords::Lines PreviewWords::describeBranchMember(const PreviewChange &chan
     const bool isAsUsual = change.isInsert() && since >= 0 && m_moments.isNow(change, since);
     const QString branch = m_names.branch(change.cell("bid"));
     if (isAsUsual)
-        return {lineAbout(PreviewKind::Branches, change, QStringLiteral("joins the branch %1"),
-                          branch)};
-    const QString what = change.isInsert() ? QStringLiteral("joins the branch %1, since")
-        : change.isDelete()                ? QStringLiteral("leaves the branch %1, in it since")
-                                           : QStringLiteral("is in the branch %1 since");
-    return compare(lineAbout(PreviewKind::Branches, change, what, branch), change, "since");
+        return {lineAbout(PreviewKind::Branches, change, Text::tr("joins the branch %1"), branch)};
+    PreviewLine line =
+        lineAbout(PreviewKind::Branches, change, Text::tr("is in the branch %1 since"), branch);
+    if (change.isInsert()) {
+        line.what = Text::tr("joins the branch %1, since");
+        line.sentence = Text::tr("joins the branch %1, since %2");
+    } else if (change.isDelete()) {
+        line.what = Text::tr("leaves the branch %1, in it since");
+        line.sentence = Text::tr("leaves the branch %1, in it since %2");
+    }
+    return compare(line, change, "since");
 }
 
 PreviewWords::Lines PreviewWords::describePlan(const PreviewChange &change) const
 {
-    return compare(lineAbout(PreviewKind::Calendars, change,
-                             QStringLiteral("calendar group from %1 on"),
-                             PreviewValues::month(change.cell("since"))),
-                   change, "gid");
+    const QString since = change.cell("since");
+    const PreviewLine line = since == QLatin1String("0")
+        ? lineAbout(PreviewKind::Calendars, change,
+                    Text::tr("calendar group from the beginning on"))
+        : lineAbout(PreviewKind::Calendars, change, Text::tr("calendar group from %1 on"),
+                    PreviewValues::month(since));
+    return compare(line, change, "gid");
 }
 
 PreviewWords::Lines PreviewWords::describeMonth(const PreviewChange &change) const
 {
-    return compare(lineAbout(PreviewKind::Calendars, change, QStringLiteral("calendar group in %1"),
+    return compare(lineAbout(PreviewKind::Calendars, change, Text::tr("calendar group in %1"),
                              PreviewValues::month(change.cell("month"))),
                    change, "gid");
 }
 
 PreviewWords::Lines PreviewWords::describeMove(const PreviewChange &change) const
 {
-    const QString fund = m_names.fund(change.cell("fid"));
-    const QString what = change.cell("type") == QLatin1String("3")
-        ? QStringLiteral("%1 balance corrected on %2 by")
-        : QStringLiteral("%1 balance moved on %2 by");
-    return compare(lineAbout(PreviewKind::Balances, change,
-                             what.arg(fund, PreviewValues::time(change.cell("day")))),
-                   change, "value");
+    const QString fund = change.cell("fid");
+    const MoveWords words =
+        moveWords(m_names.isVacation(fund), change.cell("type") == QLatin1String("3"));
+    const QString day = PreviewValues::time(change.cell("day"));
+    PreviewLine line = lineAbout(PreviewKind::Balances, change, words.what, day);
+    line.what.replace(QLatin1String("%3"), fund);
+    if (line.row != PreviewLine::Row::Changed)
+        line.sentence = QString(words.sentence).replace(QLatin1String("%3"), fund);
+    return compare(line, change, "value");
 }
 
 PreviewWords::Lines PreviewWords::describeAdministrator(const PreviewChange &change) const
@@ -256,13 +299,13 @@ PreviewWords::Lines PreviewWords::describeAdministrator(const PreviewChange &cha
 PreviewWords::Lines PreviewWords::describePayrollSettings(const PreviewChange &change) const
 {
     return compare(
-        lineAbout(PreviewKind::Payroll, change, QStringLiteral("settings of the payroll export")),
-        change, "id");
+        lineAbout(PreviewKind::Payroll, change, Text::tr("settings of the payroll export")), change,
+        "id");
 }
 
 PreviewWords::Lines PreviewWords::describeTerminal(const PreviewChange &change) const
 {
-    PreviewLine line = lineAbout(PreviewKind::Terminals, change, QStringLiteral("has to fetch"));
+    PreviewLine line = lineAbout(PreviewKind::Terminals, change, Text::tr("has to fetch"));
     line.isBookkeeping = true;
     line.who = m_names.terminal(change.cell("tid"));
     return compare(line, change, "syn");
@@ -271,7 +314,7 @@ PreviewWords::Lines PreviewWords::describeTerminal(const PreviewChange &change) 
 PreviewWords::Lines PreviewWords::describeTerminalPerson(const PreviewChange &change) const
 {
     const QString what =
-        change.isDelete() ? QStringLiteral("is forgotten by %1") : QStringLiteral("is known to %1");
+        change.isDelete() ? Text::tr("is forgotten by %1") : Text::tr("is known to %1");
     return {lineAbout(PreviewKind::Terminals, change, what, m_names.terminal(change.cell("tid")))};
 }
 
@@ -282,15 +325,14 @@ PreviewWords::Lines PreviewWords::describeQueue(const PreviewChange &change) con
     line.kind = PreviewKind::Terminals;
     line.row = rowOf(change);
     line.isBookkeeping = true;
-    line.what = change.isDelete() ? QStringLiteral("is no longer queued for %1")
-                                  : QStringLiteral("is queued for %1");
+    line.what =
+        change.isDelete() ? Text::tr("is no longer queued for %1") : Text::tr("is queued for %1");
     line.thing = m_names.terminal(change.cell("tid"));
     if (change.cell("ref_col") == QLatin1String("uid")) {
         line.uid = id.toUInt();
         line.who = m_names.personOfUid(id);
     } else {
-        line.who =
-            QStringLiteral("%1 %2 of %3").arg(change.cell("ref_col"), id, change.cell("ref"));
+        line.who = Text::tr("%1 %2 of %3").arg(change.cell("ref_col"), id, change.cell("ref"));
     }
     return {line};
 }
@@ -300,7 +342,7 @@ PreviewWords::Lines PreviewWords::describeSetting(const PreviewChange &change) c
     static const QRegularExpression selection(QStringLiteral("^exportPam\\..*\\.selPeople$"));
     if (selection.match(change.cell("name")).hasMatch())
         return describeSelection(change);
-    PreviewLine line = lineAbout(PreviewKind::Settings, change, QStringLiteral("value"));
+    PreviewLine line = lineAbout(PreviewKind::Settings, change, Text::tr("value", "of a setting"));
     line.who = change.cell("name");
     return compare(line, change, "value");
 }
@@ -314,17 +356,17 @@ PreviewWords::Lines PreviewWords::describeSelection(const PreviewChange &change)
     Lines lines;
     const QStringList added = missingIn(before, after);
     for (const QString &pid : added)
-        lines += lineAboutPid(pid, QStringLiteral("is selected for %1"), name);
+        lines += lineAboutPid(pid, Text::tr("is selected for %1"), name);
     const QStringList gone = missingIn(after, before);
     for (const QString &pid : gone)
-        lines += lineAboutPid(pid, QStringLiteral("is no longer selected for %1"), name);
+        lines += lineAboutPid(pid, Text::tr("is no longer selected for %1"), name);
     return lines.isEmpty() ? describePlainly(change) : lines;
 }
 
 PreviewWords::Lines PreviewWords::describePlainly(const PreviewChange &change) const
 {
-    const QString what = change.isInsert() ? QStringLiteral("new row: %1")
-        : change.isDelete()                ? QStringLiteral("removed row: %1")
+    const QString what = change.isInsert() ? Text::tr("new row: %1")
+        : change.isDelete()                ? Text::tr("removed row: %1")
                                            : QStringLiteral("%1");
     QStringList key;
     for (const QString &column : change.table->key)

@@ -40,6 +40,11 @@ struct PreviewLine {
     QString thing; ///< what belongs into the place in \a what; null: there is none
     QString before;
     QString after;
+    /// What happens when the row comes or goes, with places for the thing, "%1", and the value,
+    /// "%2". Empty: \a what, a colon and the value say it.
+    QString sentence;
+    bool isName = false; ///< a part of the name in \a who
+    bool isYes = false; ///< the value is a "yes" that goes without saying
 
     /// What happens, or what differs, with the thing in its place.
     QString text() const;

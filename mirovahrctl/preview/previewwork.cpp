@@ -1,5 +1,6 @@
 #include "mirovahrctl/preview/previewwork.h"
 
+#include "cli/text.h"
 #include "mirovahrctl/preview/previewcopy.h"
 #include "mirovahrctl/preview/previewrun.h"
 #include "mirovahrctl/preview/previewschemareader.h"
@@ -41,9 +42,8 @@ PreviewRefusal refusal(const QString &sentence)
 /// The copy's server is private, so the site's table is what prevents setting the force flag.
 PreviewRefusal cannotForce(const QString &error)
 {
-    return {
-        ExitStatus::ContractBroken,
-        QStringLiteral("The copy cannot be synchronised: %1. Run check-db for details").arg(error)};
+    return {ExitStatus::ContractBroken,
+            Text::tr("The copy cannot be synchronised: %1. Run check-db for details").arg(error)};
 }
 
 } // namespace
@@ -88,7 +88,7 @@ std::optional<PreviewRefusal> PreviewWork::copyFrom(SqlSession &site)
     m_doubts = selection.doubts();
     for (PreviewTable &table : m_schema.tables)
         table.changing = selection.changingRowsOf(table.name);
-    Progress progress(m_console, QStringLiteral("Copying the database"));
+    Progress progress(m_console, Text::tr("Copying the database"));
     PreviewCopy copy(m_schema, selection, m_server.administrator());
     if (copy.copyTables(site, [&](qint64 done, qint64 total) { progress.update(done, total); })
         && copy.createPrograms())
@@ -109,7 +109,7 @@ std::optional<PreviewRefusal> PreviewWork::synchronise(QIODevice *log)
 {
     PreviewRun run(m_configuration, m_exportFile);
     {
-        Progress progress(m_console, QStringLiteral("Synchronising the copy"));
+        Progress progress(m_console, Text::tr("Synchronising the copy"));
         if (!run.run(
                 m_server.attendance(),
                 [&](QtMsgType type, const QString &text) { take(type, text, log); },
@@ -121,7 +121,7 @@ std::optional<PreviewRefusal> PreviewWork::synchronise(QIODevice *log)
     if (!(PreviewPeople::of(m_exportFile, m_configuration) == m_people)) {
         return PreviewRefusal{
             ExitStatus::Usage,
-            QStringLiteral("'%1' was changed meanwhile. Run preview again").arg(m_exportFile)};
+            Text::tr("'%1' was changed meanwhile. Run preview again").arg(m_exportFile)};
     }
     m_moments = std::make_unique<PreviewMoments>(run.begin(), run.end());
     m_names = std::make_unique<PreviewNames>(m_server.attendance());
@@ -132,8 +132,8 @@ std::optional<PreviewRefusal> PreviewWork::compare()
 {
     PreviewDiff diff(m_schema, m_server.administrator());
     if (!diff.read()) {
-        return refusal(QStringLiteral("The changes in the copy cannot be read: ")
-                       + diff.errorString());
+        return refusal(
+            Text::tr("The changes in the copy cannot be read: %1").arg(diff.errorString()));
     }
     m_changes = diff.changes();
     return std::nullopt;
