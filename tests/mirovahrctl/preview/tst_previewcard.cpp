@@ -29,6 +29,24 @@ PreviewLine bookkeeping(PreviewLine line)
     return line;
 }
 
+PreviewLine inSentence(PreviewLine line, const char *sentence)
+{
+    line.sentence = sentence;
+    return line;
+}
+
+PreviewLine ofName(PreviewLine line)
+{
+    line.isName = true;
+    return line;
+}
+
+PreviewLine withoutSaying(PreviewLine line)
+{
+    line.isYes = true;
+    return line;
+}
+
 PreviewLine about(quint32 uid, const char *who, PreviewLine line)
 {
     line.uid = uid;
@@ -71,12 +89,16 @@ void TestPreviewCard::aCardSaysWhatHappens_data()
     QTest::newRow("a value goes") << PreviewWords::Lines{line(changed, Row::Changed, "telephone",
                                                               "", "905", "")}
                                   << QStringList{"telephone: 905 → none"};
-    QTest::newRow("a row of its own comes") << PreviewWords::Lines{line(
-        PreviewKind::Balances, Row::Added, "balance corrected by", "", "", "+2 days")}
-                                            << QStringList{"balance corrected by +2 days"};
-    QTest::newRow("a row of its own goes") << PreviewWords::Lines{line(
-        PreviewKind::Branches, Row::Removed, "leaves %1, in it since", "Sklad", "2019-04-01")}
-                                           << QStringList{"leaves Sklad, in it since 2019-04-01"};
+    QTest::newRow("a row of its own comes") << PreviewWords::Lines{inSentence(
+        line(PreviewKind::Balances, Row::Added, "balance corrected on %1 by", "03-03", "",
+             "+2 days"),
+        "balance corrected on %1 by %2")} << QStringList{"balance corrected on 03-03 by +2 days"};
+    QTest::newRow("a row of its own goes") << PreviewWords::Lines{inSentence(
+        line(PreviewKind::Branches, Row::Removed, "leaves %1, in it since", "Sklad", "2019-04-01"),
+        "leaves %1, in it since %2")} << QStringList{"leaves Sklad, in it since 2019-04-01"};
+    QTest::newRow("a row without a sentence of its own comes")
+        << PreviewWords::Lines{line(PreviewKind::Payroll, Row::Added, "settings", "", "", "2")}
+        << QStringList{"settings: 2"};
     QTest::newRow("the same of two things")
         << PreviewWords::Lines{line(terminals, Row::Added, "is known to %1", "terminal 1"),
                                line(changed, Row::Changed, "title", "", "", "Ing."),
@@ -139,12 +161,12 @@ void TestPreviewCard::aNewPersonIsCreatedInOnePart()
     const Card card =
         previewCard({line(created, Row::Added, "is created"),
                      bookkeeping(line(created, Row::Added, "uid", "", "", "9")),
-                     line(created, Row::Added, "payroll id", "", "", "1234.1"),
-                     line(created, Row::Added, "first name", "", "", "Jana"),
-                     line(created, Row::Added, "surname", "", "", "Malá"),
+                     ofName(line(created, Row::Added, "payroll id", "", "", "1234.1")),
+                     ofName(line(created, Row::Added, "first name", "", "", "Jana")),
+                     ofName(line(created, Row::Added, "surname", "", "", "Malá")),
                      line(created, Row::Added, "employed from", "", "", "2024-05-01"),
                      line(created, Row::Added, "employment type", "", "", "1"),
-                     line(created, Row::Added, "active", "", "", "yes"),
+                     withoutSaying(line(created, Row::Added, "active", "", "", "yes")),
                      line(PreviewKind::Branches, Row::Added, "joins the branch %1", "Sklad")});
     QCOMPARE(card.what,
              QStringList({"is created: employed from 2024-05-01, employment type 1, active",
