@@ -104,6 +104,6 @@ function(mirovahr_test_defaults target)
     target_link_libraries(${target} PRIVATE Qt5::Sql Qt5::Test)
     if(NOT PLAIN IN_LIST ARGN)
         mirovahr_precompile(${target} mirovahr_test_programs ${mirovahr_frequent_headers}
-            <QTemporaryDir> <QThread> <QtTest>)
+            <QTemporaryDir> <QTest>)
     endif()
 endfunction()

@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QtTest>
+#include <QTest>
 
 class TestFuzzCorpus : public QObject {
     Q_OBJECT

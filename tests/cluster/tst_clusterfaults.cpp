@@ -1,7 +1,7 @@
 #include "tests/cluster/clustercycle.h"
 #include "tests/worker/support/middayzone.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -11,8 +11,8 @@
 #include <QFileInfo>
 #include <QSqlQuery>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QUuid>
-#include <QtTest>
 
 #include <csignal>
 #include <memory>

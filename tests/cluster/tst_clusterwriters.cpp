@@ -8,7 +8,7 @@
 #include "tests/worker/support/middayzone.h"
 
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -7,7 +7,7 @@
 #include <QMetaMethod>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 using Branches = BranchesRepository;
 using Signal = void (Branches::*)(ushort, const QString &);

@@ -1,7 +1,7 @@
 #include "db/placeholders.h"
 
 #include <QRandomGenerator>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "tests/db/repositorytest.h"
 #include "tests/support/logcapture.h"
 
-#include <QtTest>
+#include <QTest>
 
 using Values = QMap<QString, QVariant>;
 

@@ -4,8 +4,8 @@
 #include "tests/support/logcapture.h"
 
 #include <QSqlQuery>
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 #include <functional>
 

@@ -12,7 +12,7 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QSettings>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "tests/support/programrun.h"
 
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "plugin/interfaces/serverinterface.h"
 #include "tests/plugin/pluginini.h"
 
-#include <QtTest>
+#include <QTest>
 
 LoadedPlugin &PluginTest::load(const QByteArray &ini, unsigned char debugLevel)
 {

@@ -1,7 +1,7 @@
 #include "plugin/buildstamp.h"
 
 #include <QLocale>
-#include <QtTest>
+#include <QTest>
 
 /// Linked with the code as it is compiled with SOURCE_DATE_EPOCH=1670454511.
 class TestBuildStamp : public QObject {

@@ -3,7 +3,7 @@
 #include "tests/plugin/plugintest.h"
 
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 class TestConfiguration : public PluginTest {
     Q_OBJECT

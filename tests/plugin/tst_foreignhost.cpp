@@ -10,7 +10,7 @@
 #include <QPluginLoader>
 #include <QPointer>
 #include <QSqlDatabase>
-#include <QtTest>
+#include <QTest>
 
 class ServerInterface {
 public:

@@ -12,7 +12,7 @@
 #include <QPointer>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 /// Before anything in this program loads the library.
 class TestPluginLibrary : public QObject {

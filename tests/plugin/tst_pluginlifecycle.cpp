@@ -8,8 +8,8 @@
 #include <QDir>
 #include <QMetaMethod>
 #include <QSqlDatabase>
+#include <QTest>
 #include <QThread>
-#include <QtTest>
 
 #include <memory>
 

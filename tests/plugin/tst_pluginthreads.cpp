@@ -5,8 +5,8 @@
 
 #include <QFile>
 #include <QPluginLoader>
+#include <QTest>
 #include <QThread>
-#include <QtTest>
 
 #include <thread>
 

@@ -13,7 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

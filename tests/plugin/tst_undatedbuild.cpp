@@ -1,7 +1,7 @@
 #include "plugin/mirovahr.h"
 #include "tests/plugin/pluginini.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TestUndatedBuild : public QObject {
     Q_OBJECT

@@ -2,7 +2,7 @@
 #include "tests/worker/support/workertest.h"
 
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

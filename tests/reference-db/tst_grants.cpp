@@ -8,7 +8,7 @@
 #include "tests/worker/support/workertest.h"
 
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "tests/support/programrun.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "tests/support/testdatabase.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QtTest>
+#include <QTest>
 
 /// Like QVERIFY, for an expression that runs SQL: a failure shows the database's own error.
 /// \a object is the QSqlQuery or QSqlDatabase that the expression uses.

@@ -8,7 +8,7 @@
 #include <QLibraryInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <csignal>
 

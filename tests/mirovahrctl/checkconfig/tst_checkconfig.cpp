@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

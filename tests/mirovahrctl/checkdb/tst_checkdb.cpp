@@ -4,7 +4,7 @@
 #include "tests/support/testdatabase.h"
 
 #include <QJsonDocument>
-#include <QtTest>
+#include <QTest>
 
 #include <ctime>
 

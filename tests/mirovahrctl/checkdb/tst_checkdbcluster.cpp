@@ -6,7 +6,7 @@
 #include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/support/testdatabase.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

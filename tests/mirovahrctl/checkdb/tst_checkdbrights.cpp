@@ -4,7 +4,7 @@
 
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QtTest>
+#include <QTest>
 
 Q_DECLARE_METATYPE(ExitStatus)
 

@@ -9,7 +9,7 @@
 
 #include <QSqlDriver>
 #include <QSqlQuery>
-#include <QtTest>
+#include <QTest>
 
 #include <dlfcn.h>
 

@@ -3,7 +3,7 @@
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/testdatabase.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

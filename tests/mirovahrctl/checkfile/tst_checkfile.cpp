@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

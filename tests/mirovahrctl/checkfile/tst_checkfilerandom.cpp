@@ -6,7 +6,7 @@
 
 #include <QRandomGenerator>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "mirovahrctl/comparison/textpool.h"
 
-#include <QtTest>
+#include <QTest>
 
 /// Texts that are kept once.
 class TestTextPool : public QObject {

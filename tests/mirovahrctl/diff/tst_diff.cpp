@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 Q_DECLARE_METATYPE(ExportRow)
 Q_DECLARE_METATYPE(QString ExportRow::*)

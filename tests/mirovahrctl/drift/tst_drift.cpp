@@ -6,7 +6,7 @@
 
 #include <QDir>
 #include <QSqlDatabase>
-#include <QtTest>
+#include <QTest>
 
 using R = ExportRow;
 

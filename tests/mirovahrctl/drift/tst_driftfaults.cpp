@@ -6,7 +6,7 @@
 #include "worker/mhrworker.h"
 
 #include <QScopeGuard>
-#include <QtTest>
+#include <QTest>
 
 #include <future>
 #include <limits>

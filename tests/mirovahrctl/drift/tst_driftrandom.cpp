@@ -5,7 +5,7 @@
 #include "worker/exportline.h"
 
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

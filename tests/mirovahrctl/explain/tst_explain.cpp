@@ -7,7 +7,7 @@
 #include "worker/recorddates.h"
 
 #include <QDir>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "tests/mirovahrctl/gate/gatesite.h"
 #include "tests/worker/support/sampleexport.h"
 
-#include <QtTest>
+#include <QTest>
 
 /// Which export explain uses when the plugin has removed its own.
 class TestExplainExport : public QObject {

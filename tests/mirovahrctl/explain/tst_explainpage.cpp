@@ -3,7 +3,7 @@
 #include "tests/mirovahrctl/report/pagepicture.h"
 #include "tests/worker/support/sampleexport.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace PagePicture;
 

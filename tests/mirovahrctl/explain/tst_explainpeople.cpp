@@ -3,7 +3,7 @@
 #include "tests/mirovahrctl/explain/explainedsite.h"
 #include "tests/worker/support/sampleexport.h"
 
-#include <QtTest>
+#include <QTest>
 
 /// Whom explain finds by a name or a number.
 class TestExplainPeople : public QObject {

@@ -7,7 +7,7 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 #include <ctime>
 #include <map>

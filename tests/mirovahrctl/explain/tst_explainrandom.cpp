@@ -8,7 +8,7 @@
 
 #include <QCoreApplication>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 #include <ctime>
 #include <map>

@@ -6,7 +6,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QSqlDatabase>
-#include <QtTest>
+#include <QTest>
 
 /// explain, compared with what the worker then does with the same export and database.
 class TestExplainWorker : public WorkerTest {

@@ -4,7 +4,7 @@
 #include "worker/exportline.h"
 
 #include <QRandomGenerator>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "worker/mhrworker.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 /// force: the flag, and when the plugin will read it.
 class TestForce : public QObject {

@@ -4,7 +4,7 @@
 #include "tests/mirovahrctl/program/rulefixtures.h"
 
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 Q_DECLARE_METATYPE(ExportRow)
 

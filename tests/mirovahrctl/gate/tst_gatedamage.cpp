@@ -1,8 +1,8 @@
 #include "tests/mirovahrctl/gate/firm.h"
 #include "tests/mirovahrctl/gate/gatesite.h"
 
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 #include <map>
 #include <memory>

@@ -3,7 +3,7 @@
 #include "tests/mirovahrctl/program/faultyrun.h"
 
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 #include <csignal>
 #include <memory>

@@ -7,7 +7,7 @@
 #include "tests/support/localzone.h"
 
 #include <QBuffer>
-#include <QtTest>
+#include <QTest>
 
 #include <functional>
 

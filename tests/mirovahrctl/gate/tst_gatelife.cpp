@@ -2,7 +2,7 @@
 #include "mirovahrctl/gate/gateassessment.h"
 #include "tests/mirovahrctl/gate/firm.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include <QRandomGenerator>
 #include <QScopeGuard>
-#include <QtTest>
+#include <QTest>
 
 Q_DECLARE_METATYPE(Backslash)
 

@@ -2,7 +2,7 @@
 #include "tests/support/patience.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <sys/stat.h>
 

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 /// log, compared with what the worker has done whose log it reads.
 class TestLogWorker : public WorkerTest {

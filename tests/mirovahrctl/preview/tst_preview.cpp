@@ -9,7 +9,7 @@
 #include "tests/worker/support/sampleexport.h"
 
 #include <QDir>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <csignal>

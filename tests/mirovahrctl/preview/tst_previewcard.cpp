@@ -1,7 +1,7 @@
 #include "mirovahrctl/preview/previewcard.h"
 #include "mirovahrctl/preview/previewsubjects.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

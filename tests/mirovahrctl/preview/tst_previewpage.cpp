@@ -5,7 +5,7 @@
 #include "tests/support/programrun.h"
 #include "tests/worker/support/sampleexport.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace PagePicture;
 

@@ -3,7 +3,7 @@
 
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 #include <ctime>
 

@@ -2,7 +2,7 @@
 #include "tests/worker/support/middayzone.h"
 #include "tests/worker/support/sampleexport.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

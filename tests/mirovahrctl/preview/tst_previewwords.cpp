@@ -5,7 +5,7 @@
 #include "tests/worker/support/sampleexport.h"
 
 #include <QCoreApplication>
-#include <QtTest>
+#include <QTest>
 
 #include <ctime>
 

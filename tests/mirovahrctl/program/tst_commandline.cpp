@@ -4,7 +4,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 /// What all subcommands have in common, and the program itself.
 class TestCommandLine : public QObject {

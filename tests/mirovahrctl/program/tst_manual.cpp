@@ -6,7 +6,7 @@
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

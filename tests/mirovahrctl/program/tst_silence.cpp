@@ -7,7 +7,7 @@
 #include "tests/support/testdatabase.h"
 
 #include <QCommandLineParser>
-#include <QtTest>
+#include <QTest>
 
 /// Database servers that neither answer nor close the connection, before the subcommands that use
 /// one. All would wait for ever without --read-timeout.

@@ -3,7 +3,7 @@
 #include "tests/worker/support/sampleexport.h"
 
 #include <QFileInfo>
-#include <QtTest>
+#include <QTest>
 
 #include <cerrno>
 

@@ -4,7 +4,7 @@
 #include "tests/support/exportfile.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace PagePicture;
 

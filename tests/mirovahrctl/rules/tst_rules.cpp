@@ -3,7 +3,7 @@
 #include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 
-#include <QtTest>
+#include <QTest>
 
 /// The registry of rules, and the subcommand that shows it.
 class TestRules : public QObject {

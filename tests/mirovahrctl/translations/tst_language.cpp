@@ -5,8 +5,8 @@
 
 #include <QDateTime>
 #include <QRegularExpression>
+#include <QTest>
 #include <QTimeZone>
-#include <QtTest>
 
 /// In which language mirovahrctl speaks, and how it writes numbers and times there.
 class TestLanguage : public QObject {

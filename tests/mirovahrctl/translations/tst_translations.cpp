@@ -5,7 +5,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 /// The files with the Slovak and Czech texts of mirovahrctl, and the English plural forms.
 class TestTranslations : public QObject {

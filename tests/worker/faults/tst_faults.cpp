@@ -11,7 +11,7 @@
 #include <QScopeGuard>
 #include <QSet>
 #include <QSqlQuery>
-#include <QtTest>
+#include <QTest>
 
 #include <chrono>
 #include <csignal>

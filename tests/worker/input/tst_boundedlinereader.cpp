@@ -2,7 +2,7 @@
 
 #include <QBuffer>
 #include <QIODevice>
-#include <QtTest>
+#include <QTest>
 
 #include <sys/resource.h>
 

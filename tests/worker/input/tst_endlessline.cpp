@@ -7,7 +7,7 @@
 #include "worker/mhrworker.h"
 
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 #include <sys/resource.h>
 #include <sys/stat.h>

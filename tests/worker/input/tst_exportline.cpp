@@ -8,7 +8,7 @@
 #include <QDateTime>
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 #include <limits>

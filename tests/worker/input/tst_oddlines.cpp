@@ -3,7 +3,7 @@
 #include "tests/support/exportfile.h"
 #include "tests/worker/input/workerreading.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "worker/exportline.h"
 
 #include <QRandomGenerator>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -2,8 +2,8 @@
 #include "tests/worker/support/sqlerrors.h"
 #include "tests/worker/support/workertest.h"
 
+#include <QTest>
 #include <QThread>
-#include <QtTest>
 
 #include <memory>
 

@@ -3,8 +3,8 @@
 #include "worker/mirovaronrecord.h"
 
 #include <QRandomGenerator>
+#include <QTest>
 #include <QVector>
-#include <QtTest>
 
 #include <limits>
 

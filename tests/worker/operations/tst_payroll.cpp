@@ -1,7 +1,7 @@
 #include "tests/worker/support/sqlerrors.h"
 #include "tests/worker/support/workertest.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "worker/peoplecache.h"
 
 #include <QSqlQuery>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -9,8 +9,8 @@
 #include "worker/vacationbalance.h"
 
 #include <QCoreApplication>
+#include <QTest>
 #include <QTranslator>
-#include <QtTest>
 
 #include <functional>
 #include <limits>

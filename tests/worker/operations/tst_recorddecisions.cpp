@@ -1,7 +1,7 @@
 #include "tests/worker/operations/samplerecord.h"
 #include "worker/recorddecisions.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace RecordDecisions;
 

@@ -3,7 +3,7 @@
 #include "tests/worker/support/sqlerrors.h"
 #include "tests/worker/support/workertest.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

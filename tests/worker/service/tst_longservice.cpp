@@ -9,7 +9,7 @@
 #include "tests/worker/support/sampleexport.h"
 
 #include <QPluginLoader>
-#include <QtTest>
+#include <QTest>
 
 #include <cstdio>
 #include <memory>

@@ -5,7 +5,7 @@
 #include "tests/support/testdatabase.h"
 #include "tests/worker/service/randomhost.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cstdio>
 #include <thread>

@@ -1,7 +1,7 @@
 #include "tests/worker/support/workertest.h"
 
 #include <QSqlDatabase>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

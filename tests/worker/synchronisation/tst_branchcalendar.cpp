@@ -3,7 +3,7 @@
 #include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "tests/worker/support/workertest.h"
 #include "tests/worker/synchronisation/sent.h"
 
-#include <QtTest>
+#include <QTest>
 #include <optional>
 
 using namespace SampleExport;

@@ -6,7 +6,7 @@
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QSqlQuery>
-#include <QtTest>
+#include <QTest>
 
 #include <ctime>
 

@@ -3,7 +3,7 @@
 #include "tests/worker/synchronisation/sent.h"
 
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 using namespace SampleExport;
 

@@ -4,7 +4,7 @@
 #include "tests/worker/synchronisation/sent.h"
 
 #include <QDateTime>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "tests/worker/support/loghook.h"
 #include "tests/worker/support/workertest.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TestDatabaseLoss : public WorkerTest {
     Q_OBJECT

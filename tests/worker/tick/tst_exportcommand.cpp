@@ -2,8 +2,8 @@
 #include "tests/worker/support/workertest.h"
 
 #include <QFile>
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 #include <thread>
 

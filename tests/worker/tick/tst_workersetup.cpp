@@ -4,8 +4,8 @@
 
 #include <QMetaEnum>
 #include <QMetaMethod>
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 
 namespace {
 

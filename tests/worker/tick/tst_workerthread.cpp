@@ -5,9 +5,9 @@
 #include "tests/worker/support/inthreadof.h"
 #include "worker/mhrworker.h"
 
+#include <QTest>
 #include <QThread>
 #include <QTimer>
-#include <QtTest>
 
 #include <memory>
 
