@@ -39,7 +39,8 @@ th, td { text-align: left; vertical-align: top; padding: .35rem .5rem;
          border-bottom: 1px solid #d5dbe3; overflow-wrap: break-word; }
 th { background: #eef1f5; white-space: nowrap; }
 td:last-child, .findings td:nth-child(2) { overflow-wrap: anywhere; }
-.findings th:last-child { width: 55%; }
+.findings th:nth-child(2) { min-width: 8rem; }
+.findings th:last-child { width: 50%; }
 .error { color: #b3261e; font-weight: 600; }
 .warning { color: #8a5300; font-weight: 600; }
 .note { color: #50596a; }
