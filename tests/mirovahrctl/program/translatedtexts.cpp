@@ -102,7 +102,7 @@ QString withoutQuotations(QString output)
                                           QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression tag("<[^>]*>");
     static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
-    static const QRegularExpression logLine(R"re((?:\w+::\w+|MHRWorker:)[^"<\n]*)re");
+    static const QRegularExpression logLine(R"re((?:\w+::\w+|\bMHRWorker:? )[^"<\n]*)re");
     output.remove(logLine).remove(foreignMessage());
     if (output.startsWith("<!DOCTYPE html>"))
         return output.remove(style).replace(tag, "\n");
