@@ -250,9 +250,8 @@ void TestSlovakReports::aHelpTextHasNoEnglishWord_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("overview") << QStringList{"help"};
     QTest::newRow("without arguments") << QStringList();
-    for (const Subcommand &subcommand : subcommands()) {
+    for (const Subcommand &subcommand : subcommands())
         QTest::newRow(subcommand.name) << QStringList{"help", subcommand.name};
-    }
 }
 
 void TestSlovakReports::aHelpTextHasNoEnglishWord()
