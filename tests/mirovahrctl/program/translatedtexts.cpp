@@ -69,6 +69,7 @@ const QRegularExpression &foreignMessage()
         |Aborted\ connection
         |Can't\ connect\ to\ local\ server
         |Index\ for\ table
+        |Lost\ connection\ to
         |isn't\ in\ GROUP\ BY
         |gzip:\ stdin)
         [^"<\n]*)re");
@@ -103,7 +104,9 @@ QString withoutQuotations(QString output)
     static const QRegularExpression tag("<[^>]*>");
     static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
     static const QRegularExpression logLine(R"re((?:\w+::\w+|\bMHRWorker:? )[^"<\n]*)re");
-    output.remove(logLine).remove(foreignMessage());
+    // In the language of the gate, which is another run.
+    static const QRegularExpression reasons(R"re((?<=The gate has refused )[^:]*:[^"<\n]*)re");
+    output.remove(logLine).remove(foreignMessage()).remove(reasons);
     if (output.startsWith("<!DOCTYPE html>"))
         return output.remove(style).replace(tag, "\n");
     if (output.startsWith('{'))
