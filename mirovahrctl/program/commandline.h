@@ -39,27 +39,6 @@ public:
     void addFlag(const char *option, const QString &description);
     /// An option with a value.
     void addOption(const char *option, const QString &valueName, const QString &description);
-    // For subcommands whose texts are not translated yet.
-    void addArgument(const char *name, const char *description)
-    {
-        addArgument(QString::fromUtf8(name), QString::fromUtf8(description));
-    }
-    void addOptionalArgument(const char *name, const char *description)
-    {
-        addOptionalArgument(QString::fromUtf8(name), QString::fromUtf8(description));
-    }
-    void addRepeatedArgument(const char *name, const char *description)
-    {
-        addRepeatedArgument(QString::fromUtf8(name), QString::fromUtf8(description));
-    }
-    void addFlag(const char *option, const char *description)
-    {
-        addFlag(option, QString::fromUtf8(description));
-    }
-    void addOption(const char *option, const char *valueName, const char *description)
-    {
-        addOption(option, QString::fromUtf8(valueName), QString::fromUtf8(description));
-    }
 
     /// --json and, where a page is offered, --html.
     void addReportOptions(Page page);

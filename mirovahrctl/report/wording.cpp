@@ -76,11 +76,6 @@ QString sentence(const QString &text)
     return text.endsWith(QLatin1Char('.')) ? text : text + QLatin1Char('.');
 }
 
-QString counted(qint64 count, const QString &one, const QString &many)
-{
-    return QStringLiteral("%1 %2").arg(QString::number(count), count == 1 ? one : many);
-}
-
 QString span(qint64 seconds)
 {
     const auto *const unit =

@@ -19,9 +19,6 @@ QString plain(const QVariant &value);
 /// The text with a full stop at its end, added when it is missing.
 QString sentence(const QString &text);
 
-/// "1 line", "2 lines".
-QString counted(qint64 count, const QString &one, const QString &many);
-
 /// "12 seconds", "3 hours".
 QString span(qint64 seconds);
 

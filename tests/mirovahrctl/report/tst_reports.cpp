@@ -100,7 +100,6 @@ private Q_SLOTS:
     void textIsMadeVisible_data();
     void textIsMadeVisible();
     void longTextIsCutWhenQuoted();
-    void countsAgreeWithTheirNoun();
 };
 
 void TestReports::theTextForm()
@@ -555,13 +554,6 @@ void TestReports::longTextIsCutWhenQuoted()
 {
     QCOMPARE(Wording::quoted(QString(60, 'x')), '"' + QString(60, 'x') + '"');
     QCOMPARE(Wording::quoted(QString(61, 'x')), '"' + QString(60, 'x') + "\"…");
-}
-
-void TestReports::countsAgreeWithTheirNoun()
-{
-    QCOMPARE(Wording::counted(0, "line", "lines"), QString("0 lines"));
-    QCOMPARE(Wording::counted(1, "line", "lines"), QString("1 line"));
-    QCOMPARE(Wording::counted(2, "line", "lines"), QString("2 lines"));
 }
 
 QTEST_GUILESS_MAIN(TestReports)
