@@ -72,7 +72,7 @@ const QRegularExpression &foreignMessage()
         |Lost\ connection\ to
         |isn't\ in\ GROUP\ BY
         |gzip:\ stdin)
-        [^"<\n]*)re");
+        [^"\n]*)re");
     return message;
 }
 
@@ -103,15 +103,14 @@ QString withoutQuotations(QString output)
                                           QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression tag("<[^>]*>");
     static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
-    static const QRegularExpression logLine(R"re((?:\w+::\w+|\bMHRWorker:? )[^"<\n]*)re");
+    static const QRegularExpression logLine(R"re((?:\w+::\w+|\bMHRWorker:? )[^"\n]*)re");
     // In the language of the gate, which is another run.
-    static const QRegularExpression reasons(R"re((?<=The gate has refused )[^:]*:[^"<\n]*)re");
-    output.remove(logLine).remove(foreignMessage()).remove(reasons);
+    static const QRegularExpression reasons(R"re((?<=The gate has refused )[^:]*:[^"\n]*)re");
     if (output.startsWith("<!DOCTYPE html>"))
-        return output.remove(style).replace(tag, "\n");
-    if (output.startsWith('{'))
-        return output.remove(exportLine).replace("\\n", "\n");
-    return output;
+        output.remove(style).replace(tag, "\n");
+    else if (output.startsWith('{'))
+        output.remove(exportLine).replace("\\n", "\n");
+    return output.remove(logLine).remove(foreignMessage()).remove(reasons);
 }
 
 TranslatedTexts::TranslatedTexts()

@@ -34,6 +34,8 @@ private Q_SLOTS:
 private:
     QString page() const { return m_site.filePath("page.html"); }
     QString rejects() const { return m_site.filePath("rejects.txt"); }
+    QString log() const { return m_site.filePath("server.log"); }
+    QString gateStatus() const { return m_site.filePath("status.json"); }
     QString oldFile() const { return m_site.filePath("old.data"); }
     QStringList pluginsConnection();
     void verify(const QStringList &arguments);
@@ -47,10 +49,10 @@ namespace {
 
 using Row = ExportRow;
 
-/// The words of a text in lower case. Ids, paths and SQL are none.
+/// The words of a text in lower case. Ids, paths, SQL and the names of values are none.
 QSet<QString> words(const QString &text)
 {
-    static const QRegularExpression word(R"((?<![-_./\\\w])\p{L}\p{Ll}{2,}(?![-_./\\\w]))",
+    static const QRegularExpression word(R"((?<![-_./\\\w])\p{L}\p{Ll}{2,}(?![-_./\\\w=]))",
                                          QRegularExpression::UseUnicodePropertiesOption);
     QSet<QString> words;
     auto matches = word.globalMatch(text);
@@ -175,6 +177,7 @@ void TestSlovakReports::aReportHasNoEnglishWord_data()
     const QStringList page{"--html", this->page()};
     const QString file = m_site.exportFile().path();
 
+    QTest::newRow("rules") << QStringList{"rules"};
     QTest::newRow("a rule") << QStringList{"rules", "field-count"};
     QTest::newRow("check-config") << QStringList{"check-config", m_site.configurationPath()};
     QTest::newRow("check-db") << QStringList{"check-db"} + m_site.connection() + page;
@@ -191,6 +194,12 @@ void TestSlovakReports::aReportHasNoEnglishWord_data()
     QTest::newRow("explain a name") << QStringList{"explain", "Nováková"} + site + page;
     QTest::newRow("explain nobody") << QStringList{"explain", "77.7"} + site + page;
     QTest::newRow("force") << QStringList{"force"} + configuration + pluginsConnection();
+    QTest::newRow("log") << QStringList{"log", log()} + page;
+    QTest::newRow("log of nothing") << QStringList{"log", "/dev/null"};
+    QTest::newRow("status") << QStringList{"status", "--gate-status", gateStatus()}
+            + m_site.connection() + page;
+    QTest::newRow("status for monitoring")
+        << QStringList{"status", "--nagios"} + m_site.connection();
     QTest::newRow("force off") << QStringList{"force", "--clear"} + pluginsConnection();
 }
 
@@ -198,6 +207,14 @@ void TestSlovakReports::aReportHasNoEnglishWord()
 {
     QFETCH(QStringList, arguments);
     m_site.exportFile().writeBytes(brokenExport());
+    writeFile(log(),
+              "2026-11-21 05:10:00 MHRWorker: BEGIN synchronization #1 (force: NO)\n"
+              "2026-11-21 05:10:01 MHRWorker::parseLine() - parts count (17) <> fields "
+              "count(18) - line skipped!\n"
+              "2026-11-21 05:10:02 MHRWorker: load people from TEPDB failed - "
+              "synchronization terminated!\n");
+    writeFile(gateStatus(), R"({"result": "refused", "time": "2026-11-21T05:10:00+01:00",
+                                "reasons": ["Posledný riadok je poškodený"]})");
     writeFile(oldFile(), GatePeople::file(GatePeople::some(40)));
     m_site.configure("enabled=maybe\ndepartmentId=a\nsyncCommandRun=1\ntestMode=1\n"
                      "neznamy=1\nsyncInterval=0\ntimerInterval=x\n[MES]\n1=It's\n");
