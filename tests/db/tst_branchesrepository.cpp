@@ -6,6 +6,7 @@
 
 #include <QMetaMethod>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 

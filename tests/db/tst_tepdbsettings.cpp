@@ -3,6 +3,7 @@
 #include "tests/db/repositorytest.h"
 #include "tests/support/logcapture.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 using Values = QMap<QString, QVariant>;

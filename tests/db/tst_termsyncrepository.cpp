@@ -3,6 +3,7 @@
 #include "tests/db/repositorytest.h"
 #include "tests/support/logcapture.h"
 
+#include <QRegularExpression>
 #include <QSqlQuery>
 #include <QTest>
 #include <QTextCodec>

@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <sys/stat.h>
 

@@ -9,7 +9,7 @@
 #include <QBuffer>
 #include <QRandomGenerator>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <QRandomGenerator>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "mirovahrctl/anonymise/othertexts.h"
 
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -4,7 +4,9 @@
 #include "tests/support/testdatabase.h"
 
 #include <QJsonDocument>
+#include <QTemporaryFile>
 #include <QTest>
+#include <QVersionNumber>
 
 #include <ctime>
 

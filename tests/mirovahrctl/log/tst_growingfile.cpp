@@ -1,6 +1,7 @@
 #include "mirovahrctl/log/growingfile.h"
 #include "tests/support/patience.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 

@@ -4,7 +4,7 @@
 #include "tests/worker/support/sampleexport.h"
 
 #include <QDir>
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 

@@ -9,6 +9,7 @@
 #include "tests/worker/support/sampleexport.h"
 
 #include <QDir>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <algorithm>

@@ -8,7 +8,7 @@
 
 #include <QDateTime>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 #include <iterator>
 #include <random>

@@ -10,7 +10,7 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 /// Reports, pages, lines for HR, help texts and errors in Slovak have no English word.
 class TestSlovakReports : public QObject {

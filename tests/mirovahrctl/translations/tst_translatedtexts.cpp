@@ -1,7 +1,7 @@
 #include "cli/text.h"
 #include "tests/mirovahrctl/program/translatedtexts.h"
 
-#include <QtTest>
+#include <QTest>
 
 /// The check that every run of the tool in the tests undergoes: an English phrase is found unless
 /// it comes from the translations.

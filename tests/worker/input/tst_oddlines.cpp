@@ -4,6 +4,7 @@
 #include "tests/worker/input/workerreading.h"
 
 #include <QTest>
+#include <QTextCodec>
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "tests/worker/support/loghook.h"
 #include "tests/worker/support/workertest.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 class TestDatabaseLoss : public WorkerTest {

@@ -5,6 +5,7 @@
 #include "tests/worker/support/inthreadof.h"
 #include "worker/mhrworker.h"
 
+#include <QRegularExpression>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
