@@ -11,7 +11,7 @@
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 /// The guide for the clerk of the HR department, against what check-file and the gate print in
 /// Slovak.

@@ -6,7 +6,7 @@
 
 namespace {
 
-QString quoted(const QString &name)
+QString inBackticks(const QString &name)
 {
     return '`' + name + '`';
 }
@@ -41,7 +41,7 @@ QVector<AccountRight> AccountRights::onTables()
                        " WHERE table_schema = DATABASE() AND grantee = \"%1\"")
             .arg(grantee(m_account)));
     for (const QStringList &row : rows)
-        rights.append({row.at(0), quoted(row.at(1))});
+        rights.append({row.at(0), inBackticks(row.at(1))});
     return rights;
 }
 
@@ -65,7 +65,7 @@ QVector<AccountRight> AccountRights::onRoutines()
                                        " FROM mysql.procs_priv WHERE user = '%1'")
                             .arg(m_account));
     for (const QStringList &row : rows)
-        rights.append({row.at(0), row.at(1) + ' ' + quoted(row.at(2))});
+        rights.append({row.at(0), row.at(1) + ' ' + inBackticks(row.at(2))});
     return rights;
 }
 

@@ -12,13 +12,13 @@ namespace {
 
 // The two threads meet in this lock and not only in Qt, whose own locks a race detector does not
 // see. Hence a function without data of its own is what passes between them.
-std::mutex g_mutex;
+std::mutex g_taskMutex;
 std::condition_variable g_done;
 const std::function<void()> *g_task = nullptr;
 
 void runTask()
 {
-    const std::lock_guard<std::mutex> lock(g_mutex);
+    const std::lock_guard<std::mutex> lock(g_taskMutex);
     (*g_task)();
     g_task = nullptr;
     g_done.notify_one();
@@ -28,7 +28,7 @@ void runTask()
 
 void runInThreadOf(QObject *object, const std::function<void()> &task)
 {
-    std::unique_lock<std::mutex> lock(g_mutex);
+    std::unique_lock<std::mutex> lock(g_taskMutex);
     g_task = &task;
     QMetaObject::invokeMethod(
         object, [] { runTask(); }, Qt::QueuedConnection);

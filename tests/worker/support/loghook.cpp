@@ -5,14 +5,14 @@
 
 namespace {
 
-std::mutex g_mutex;
+std::mutex g_hookMutex;
 QString g_text;
 std::function<void()> g_action;
 QtMessageHandler g_previous = nullptr;
 
 std::function<void()> takeAction(const QString &text)
 {
-    const std::lock_guard<std::mutex> lock(g_mutex);
+    const std::lock_guard<std::mutex> lock(g_hookMutex);
     return text == g_text ? std::exchange(g_action, nullptr) : nullptr;
 }
 
@@ -27,7 +27,7 @@ void handle(QtMsgType type, const QMessageLogContext &context, const QString &te
 
 LogHook::LogHook(const QString &text, const std::function<void()> &action)
 {
-    const std::lock_guard<std::mutex> lock(g_mutex);
+    const std::lock_guard<std::mutex> lock(g_hookMutex);
     g_text = text;
     g_action = action;
     g_previous = qInstallMessageHandler(handle);
@@ -35,7 +35,7 @@ LogHook::LogHook(const QString &text, const std::function<void()> &action)
 
 LogHook::~LogHook()
 {
-    const std::lock_guard<std::mutex> lock(g_mutex);
+    const std::lock_guard<std::mutex> lock(g_hookMutex);
     qInstallMessageHandler(g_previous);
     g_action = nullptr;
 }
