@@ -100,6 +100,10 @@ endfunction()
 # do not fit a target that is linked with Qt5::Gui or Qt5::Network.
 function(mirovahr_test_defaults target)
     mirovahr_defaults(${target})
+    get_target_property(type ${target} TYPE)
+    if(NOT type STREQUAL EXECUTABLE)
+        mirovahr_unite(${target})
+    endif()
     # Without the flags of both, the precompiled headers are not those of this target.
     target_link_libraries(${target} PRIVATE Qt5::Sql Qt5::Test)
     if(NOT PLAIN IN_LIST ARGN)
