@@ -38,9 +38,6 @@ function(mirovahr_precompile target owner)
     else()
         target_precompile_headers(${target} REUSE_FROM ${owner})
     endif()
-    # Most of what AUTOMOC makes is empty, and quickly compiled without them.
-    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/mocs_compilation.cpp"
-        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     if(CCACHE_PROGRAM AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
         # ccache must see which headers were precompiled, and takes them only when it need not mind the
         # time of the compilation. plugin/buildstamp.cpp, which holds that time, does without them.
@@ -97,7 +94,7 @@ endfunction()
 
 # mirovahr_test_defaults(<target> [PLAIN])
 # As mirovahr_defaults, for the tests and what they share. PLAIN: without precompiled headers, which
-# do not fit a target that is linked with Qt5::Gui or Qt5::Network.
+# do not fit a target that is compiled with Qt5::Gui or Qt5::Network.
 function(mirovahr_test_defaults target)
     mirovahr_defaults(${target})
     get_target_property(type ${target} TYPE)
