@@ -11,7 +11,8 @@ set(mirovahr_frequent_headers
 if(MIROVAHR_FAST_LINKER)
     find_program(LLD_PROGRAM ld.lld)
     if(LLD_PROGRAM)
-        add_link_options(-fuse-ld=lld)
+        # Its optimisations and threads take half of the time that it needs for a program of the tests.
+        add_link_options(-fuse-ld=lld LINKER:-O0 LINKER:--threads=1)
     endif()
 endif()
 
