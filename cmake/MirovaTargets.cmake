@@ -99,7 +99,11 @@ endfunction()
 function(mirovahr_test_defaults target)
     mirovahr_defaults(${target})
     get_target_property(type ${target} TYPE)
-    if(NOT type STREQUAL EXECUTABLE)
+    if(type STREQUAL EXECUTABLE)
+        # A debugger finds the other types in the libraries, where they are described once.
+        target_compile_options(${target} PRIVATE
+            $<$<CXX_COMPILER_ID:GNU>:-femit-struct-debug-baseonly>)
+    else()
         mirovahr_unite(${target})
     endif()
     # Without the flags of both, the precompiled headers are not those of this target.
