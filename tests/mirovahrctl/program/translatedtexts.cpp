@@ -102,6 +102,7 @@ QString withoutQuotations(QString output)
     static const QRegularExpression style("<style>.*</style>",
                                           QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression tag("<[^>]*>");
+    static const QRegularExpression control("\x1b\\[[0-9;]*[A-Za-z]"); // of a terminal
     static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
     static const QRegularExpression logLine(R"re((?:\w+::\w+|\bMHRWorker:? )[^"\n]*)re");
     // In the language of the gate, which is another run.
@@ -110,6 +111,7 @@ QString withoutQuotations(QString output)
         output.remove(style).replace(tag, "\n");
     else if (output.startsWith('{'))
         output.remove(exportLine).replace("\\n", "\n");
+    output.replace(control, "\n");
     return output.remove(logLine).remove(foreignMessage()).remove(reasons);
 }
 

@@ -41,6 +41,7 @@ void TestTranslatedTexts::aTextOfTheTranslationsIsNotMissing_data()
     QTest::newRow("an apostrophe") << "--host <host>  The database server's host.";
     QTest::newRow("broken into lines") << "  The database\n  server's host.";
     QTest::newRow("a name between texts") << "Eva Malá, or in the file y";
+    QTest::newRow("on a terminal") << "\r\x1b[KThe database server's host\x1b[0m";
     QTest::newRow("JSON") << "{\"error\": \"There is no file '\\\"x'.\"}";
     QTest::newRow("a page") << "<!DOCTYPE html>\n<p>There is no file '<b>x</b>'.</p>";
 }
