@@ -164,6 +164,7 @@ QString GateReport::verdict() const
 {
     if (!isAdmitted)
         return Text::tr("The file was refused. Nothing was published.");
+    Q_ASSERT(facts != nullptr); // what is admitted has been examined
     return Text::tr("The file was admitted and published: %Ln person(s).", nullptr,
                     Language::count(facts->counts.records));
 }
