@@ -118,8 +118,7 @@ void PreviewReport::collect()
         for (const PreviewLine &line : lines) {
             if (!m_view.person.isEmpty() && !m_view.uids.contains(line.uid))
                 continue;
-            m_lines[line.kind] += line;
-            m_subjects.add(line);
+            take(line);
             seen.insert(line.kind);
         }
         for (const PreviewKind kind : seen)
@@ -127,6 +126,18 @@ void PreviewReport::collect()
         m_changes += seen.empty() ? 0 : 1;
     }
     m_work.forgetChanges();
+}
+
+void PreviewReport::take(PreviewLine line)
+{
+    for (QString *const text :
+         {&line.what, &line.thing, &line.before, &line.after, &line.sentence}) {
+        if (!text->isEmpty())
+            *text = *m_texts.insert(*text);
+    }
+    if (m_report.isForScripts())
+        m_lines[line.kind] += line;
+    m_subjects.add(line);
 }
 
 void PreviewReport::writeWarnings()
@@ -213,11 +224,10 @@ int PreviewReport::totalOf(PreviewKind kind) const
 void PreviewReport::writeDifferences(PreviewKind kind)
 {
     const QVector<Card> cards = cardsOf(kind);
-    if (cards.isEmpty() && !m_lines.contains(kind))
+    if (cards.isEmpty() && !m_rows.contains(kind))
         return;
     m_report.section(PreviewWords::idOf(kind), PreviewWords::headingOf(kind));
-    const Table table = tableOf(m_lines.take(kind)); // there may be hundreds of thousands
-    m_report.data(table);
+    m_report.data(tableOf(m_lines.take(kind)));
     for (const Card &card : cards)
         m_report.card(card);
 }

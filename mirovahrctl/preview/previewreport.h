@@ -32,6 +32,7 @@ public:
 
 private:
     void collect();
+    void take(PreviewLine line);
     void writeWarnings();
     void warnOfConfiguration();
     void noteCopy();
@@ -47,7 +48,8 @@ private:
     const PluginConfiguration &m_configuration;
     const PreviewView m_view;
     Report &m_report;
-    QMap<PreviewKind, PreviewWords::Lines> m_lines;
+    QMap<PreviewKind, PreviewWords::Lines> m_lines; ///< empty when no script reads the report
+    QSet<QString> m_texts; ///< of all lines: there may be hundreds of thousands, most of them alike
     PreviewSubjects m_subjects;
     int m_changes = 0; ///< rows
     QMap<PreviewKind, int> m_rows; ///< rows with a line of that kind

@@ -41,6 +41,9 @@ public:
     void datum(const QString &id, const QVariant &value) override;
     void end(ExitStatus status, const QString &verdict) override;
 
+    /// Whether what is for scripts only is written: data() and datum().
+    bool isForScripts() const { return m_text == nullptr; }
+
     /// As TextReport::abbreviate(), if the console wants text.
     void abbreviateText(const QString &hint);
 
