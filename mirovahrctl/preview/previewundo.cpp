@@ -70,6 +70,15 @@ constexpr char kFindPeople[] =
     "UPDATE mirovahr_undo_people p JOIN `people` ON `people`.`pid` = p.pid SET p.uid = "
     "`people`.`uid`;\n";
 
+// Of somebody in whom the synchronisation has changed nothing, nothing was queued, fetched or
+// calculated for its sake: such people are not concerned.
+constexpr char kFindConcerned[] =
+    "UPDATE mirovahr_undo_rows r JOIN (SELECT DISTINCT o.uid FROM mirovahr_undo_rows o\n"
+    "        WHERE o.area = 'plain' AND o.state IN ('written', 'changed')) p USING (uid)\n"
+    "    SET r.is_concerned = TRUE;\n"
+    "UPDATE mirovahr_undo_rows r SET r.state = 'before'\n"
+    "    WHERE r.area = 'queue' AND NOT r.is_concerned;\n";
+
 // The server takes at most 128 characters for a message.
 constexpr char kDecide[] =
     "-- All or none\n"
@@ -86,12 +95,7 @@ constexpr char kDecide[] =
     "SELECT COUNT(*) INTO v_written FROM mirovahr_undo_rows r\n"
     "    WHERE r.area <> 'queue' AND r.state = 'written';\n";
 
-// Of somebody in whom the synchronisation has changed nothing, nothing was fetched or calculated
-// for its sake: such people are not concerned.
 constexpr char kReport[] =
-    "UPDATE mirovahr_undo_rows r JOIN (SELECT DISTINCT o.uid FROM mirovahr_undo_rows o\n"
-    "        WHERE o.area = 'plain' AND o.state IN ('written', 'changed')) p USING (uid)\n"
-    "    SET r.is_concerned = TRUE;\n"
     "SELECT t.result AS `Result` FROM (\n"
     "    SELECT 1 AS place, 0 AS undo_row, CONCAT('Rows taken back: ', COUNT(*)) AS result\n"
     "        FROM mirovahr_undo_rows r WHERE r.state = 'written'\n"
@@ -264,8 +268,9 @@ QString PreviewUndo::compound(const std::vector<PreviewUndoTable> &tables) const
     const QString text = QString::fromLatin1(kBeginCompound)
         + (hasTransactions ? QStringLiteral("START TRANSACTION;\n") : QString())
         + (hasNewPeople ? QString::fromLatin1(kFindPeople) : QString()) + preparations
-        + QString::fromLatin1(kDecide) + changes + QStringLiteral("COMMIT;\n")
-        + QString::fromLatin1(kReport) + QString::fromLatin1(kEndCompound);
+        + QString::fromLatin1(kFindConcerned) + QString::fromLatin1(kDecide) + changes
+        + QStringLiteral("COMMIT;\n") + QString::fromLatin1(kReport)
+        + QString::fromLatin1(kEndCompound);
     return hasTransactions ? text : lockTables() + text + QString::fromLatin1(kUnlockTables);
 }
 

@@ -68,6 +68,8 @@ private Q_SLOTS:
 
     void whatATerminalHasFetchedIsNamed();
     void whatOthersHaveQueuedStays();
+    void whatIsQueuedForPeopleWhoWereLeftAloneStays();
+    void whatIsQueuedAfterTheUndoStays();
     void whatWasQueuedTwiceIsTakenBackTwice();
     void calculatedAttendanceIsNamed();
     void otherCalculationsAreNobodysConcern();
@@ -102,6 +104,8 @@ private:
     {
         m_bench.undo(client, options);
     }
+    /// Queues somebody for the terminal of a branch, as the synchronisation would.
+    void queueJana();
     /// What differs from the state before the synchronisation.
     QString leftOver() { return TestDatabase::difference(m_before, m_bench.state()); }
     /// Makes the last statement of the undo that writes wait until the test lets it go on.
@@ -415,6 +419,44 @@ void TestPreviewUndo::whatOthersHaveQueuedStays()
         lineOf(client, "Left"),
         QString("Left, queued again since: term_sync, 1234.1 Jana Malá: is queued for terminal "
                 "1 (Sklad)"));
+}
+
+void TestPreviewUndo::queueJana()
+{
+    site().run("INSERT INTO term_sync (tid, type, ref, ref_col, ref_id, created, flags) VALUES (1, "
+               "'U', 'people', 'uid', 4, UNIX_TIMESTAMP(), 2)");
+}
+
+void TestPreviewUndo::whatIsQueuedForPeopleWhoWereLeftAloneStays()
+{
+    synchronise({}, [this] {
+        m_bench.writeExport({SampleExport::maria().with(&ExportRow::dovolenaZustatek, "3.5")});
+    });
+    queueJana();
+    ProgramRun client;
+    undo(client);
+    COMPARE_STATUS(client, 0);
+    // The row, and the mark of its terminal.
+    QVERIFY2(leftOver().contains("\n+ term_sync: tid=1 type=U ref=people "),
+             qPrintable(leftOver()));
+    QCOMPARE(leftOver().count('\n'), 2);
+    QCOMPARE(lineOf(client, "Left"), QString());
+}
+
+void TestPreviewUndo::whatIsQueuedAfterTheUndoStays()
+{
+    synchronise();
+    ProgramRun first;
+    undo(first);
+    COMPARE_STATUS(first, 0);
+    // The terminal had fetched the row, and somebody does what the first run asks for.
+    queueJana();
+    ProgramRun second;
+    undo(second);
+    COMPARE_STATUS(second, 0);
+    QCOMPARE(lineOf(second, "Rows taken back"), QString("Rows taken back: 0"));
+    QVERIFY2(leftOver().startsWith("+ term_sync: tid=1 type=U ref=people "),
+             qPrintable(leftOver()));
 }
 
 void TestPreviewUndo::whatWasQueuedTwiceIsTakenBackTwice()
