@@ -62,7 +62,8 @@ void PreviewSql::write(const QVector<PreviewChange> &changes, QIODevice &out) co
     for (const PreviewChange &change : changes)
         out.write((statement(change) + QStringLiteral(";\n")).toUtf8());
     out.write(kEnd);
-    out.write(PreviewScript::kOwnValues);
+    out.write(PreviewScript::kOwnSqlMode);
+    out.write(PreviewScript::kOwnTimeZone);
 }
 
 QString PreviewSql::statement(const PreviewChange &change) const

@@ -202,11 +202,13 @@ void PreviewUndo::write(const QString &exportFile, Extent extent, QIODevice &out
         out.write(table.creation().toUtf8());
         table.writeRows(m_moments, out);
     }
+    // From here on the values go from table to table, and triggers fire.
+    out.write(PreviewScript::kOwnTimeZone);
     out.write(compound(tables).toUtf8());
     for (const PreviewUndoTable &table : tables)
         out.write(table.disposal().toUtf8());
     out.write(kDropOwn);
-    out.write(PreviewScript::kOwnValues);
+    out.write(PreviewScript::kOwnSqlMode);
 }
 
 QString PreviewUndo::heading(const QString &exportFile, Extent extent) const

@@ -83,6 +83,7 @@ private Q_SLOTS:
     void valuesOfEveryKindAreTakenBack();
 
     void triggersWriteTheirOwnTables();
+    void triggersFireInTheTimeZoneOfTheSite();
     void whatATriggerHasRemovedComesBack();
     void aTableWithoutAKeyIsRefused();
     void anotherKindOfServerIsRefused();
@@ -663,6 +664,19 @@ void TestPreviewUndo::triggersWriteTheirOwnTables()
     QCOMPARE(leftOver(),
              QString("+ trail: id=1 what=Nováková becomes Malá\n+ trail: id=2 what=Malá becomes "
                      "Nováková"));
+}
+
+void TestPreviewUndo::triggersFireInTheTimeZoneOfTheSite()
+{
+    site().run("CREATE TABLE trail (id INT PRIMARY KEY AUTO_INCREMENT, zone VARCHAR(90))");
+    site().run("CREATE TRIGGER keep_trail AFTER UPDATE ON people FOR EACH ROW INSERT INTO trail "
+               "(zone) VALUES (@@SESSION.time_zone)");
+    m_bench.writeExport({SampleExport::jana().with(&ExportRow::prijmeni, "Malá")});
+    synchronise();
+    ProgramRun client;
+    undo(client);
+    COMPARE_STATUS(client, 0);
+    QCOMPARE(leftOver(), QString("+ trail: id=1 zone=SYSTEM\n+ trail: id=2 zone=SYSTEM"));
 }
 
 void TestPreviewUndo::whatATriggerHasRemovedComesBack()
