@@ -20,7 +20,7 @@ namespace {
 /// Characters that describe a row.
 constexpr int kLongestDescription = 400;
 
-// Export (%1), database (%2), time (%3).
+// Export (%1), database (%2), time (%3), what becomes of changed rows (%4).
 constexpr char kHeading[] =
     "-- Takes back what a synchronisation with %1\n"
     "-- changes in the database %2, by a preview of %3.\n"
@@ -28,11 +28,19 @@ constexpr char kHeading[] =
     "--\n"
     "--     mariadb %2 <this_file\n"
     "--\n"
+    "%4"
+    "-- When the file has run already, or there was no synchronisation, it changes nothing.\n";
+
+constexpr char kAllOrNone[] =
     "-- When somebody has changed one of the rows since, nothing is taken back, and the message\n"
-    "-- names the row. With TRUE in place of FALSE below, all other rows are taken back then.\n"
-    "-- When the file has run already, or there was no synchronisation, it changes nothing.\n"
-    "--\n"
-    "-- Not taken back:\n";
+    "-- names the row. With TRUE in place of FALSE below, all other rows are taken back then.\n";
+
+constexpr char kPartial[] =
+    "-- When somebody has changed one of the rows since, all others are taken back, and the\n"
+    "-- result names the row. With FALSE in place of TRUE below, nothing is taken back then.\n";
+
+constexpr char kNotTakenBack[] = "--\n"
+                                 "-- Not taken back:\n";
 
 constexpr char kMakeRows[] = "DROP TEMPORARY TABLE IF EXISTS mirovahr_undo_rows;\n"
                              "CREATE TEMPORARY TABLE mirovahr_undo_rows (\n"
@@ -213,15 +221,19 @@ void PreviewUndo::write(const QString &exportFile, Extent extent, QIODevice &out
 
 QString PreviewUndo::heading(const QString &exportFile, Extent extent) const
 {
+    const bool isPartial = extent == Extent::Partial;
     QString text =
         QString::fromLatin1(kHeading).arg(exportFile.simplified(), m_schema.name.simplified(),
-                                          Moment::fileText(QDateTime::currentDateTime()));
+                                          Moment::fileText(QDateTime::currentDateTime()),
+                                          QString::fromLatin1(isPartial ? kPartial : kAllOrNone));
     const QStringList sentences = undoLimits(m_schema, m_plan);
+    if (!sentences.isEmpty())
+        text += QString::fromLatin1(kNotTakenBack);
     for (const QString &sentence : sentences)
         text += QStringLiteral("--   - %1\n").arg(sentence.simplified());
     return text
         + QStringLiteral("SET @mirovahr_undo_partial = %1;\n")
-              .arg(extent == Extent::Partial ? QStringLiteral("TRUE") : QStringLiteral("FALSE"));
+              .arg(isPartial ? QStringLiteral("TRUE") : QStringLiteral("FALSE"));
 }
 
 void PreviewUndo::writeRows(QIODevice &out) const

@@ -58,6 +58,9 @@ private Q_SLOTS:
     void aRowThatSomebodyHasChangedKeepsAll();
     void theOthersAreTakenBackPartially_data();
     void theOthersAreTakenBackPartially();
+    void theFileSaysWhatBecomesOfChangedRows_data();
+    void theFileSaysWhatBecomesOfChangedRows();
+    void withoutLimitsTheFileAnnouncesNone();
     void allChangedRowsAreNamed();
     void whatASynchronisationHasLeftOutIsNoChange();
     void aMomentBeforeTheCopyIsSomebodyElses();
@@ -291,6 +294,35 @@ void TestPreviewUndo::theOthersAreTakenBackPartially()
     const QStringList differing = leftOver().split('\n');
     QCOMPARE(differing.size(), 2);
     QVERIFY2(differing.first().startsWith("- people: uid=4 "), qPrintable(differing.first()));
+}
+
+void TestPreviewUndo::theFileSaysWhatBecomesOfChangedRows_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("all or none") << QStringList()
+                                 << "nothing is taken back, and the message\n"
+                                    "-- names the row. With TRUE in place of FALSE below,";
+    QTest::newRow("partially") << QStringList("--partial")
+                               << "all others are taken back, and the\n"
+                                  "-- result names the row. With FALSE in place of TRUE below,";
+}
+
+void TestPreviewUndo::theFileSaysWhatBecomesOfChangedRows()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, said);
+    QCOMPARE(m_bench.writeUndo(options), QString());
+    QVERIFY2(m_bench.undoText().contains("\n-- When somebody has changed one of the rows since, "
+                                         + said),
+             qPrintable(m_bench.undoText().left(1000)));
+}
+
+void TestPreviewUndo::withoutLimitsTheFileAnnouncesNone()
+{
+    m_bench.writeExport({});
+    QCOMPARE(m_bench.writeUndo(), QString());
+    QVERIFY2(!m_bench.undoText().contains("Not taken back"), qPrintable(m_bench.undoText()));
 }
 
 void TestPreviewUndo::allChangedRowsAreNamed()
