@@ -26,6 +26,8 @@ private Q_SLOTS:
 
     void anAdmittedFileHasItsUndo();
     void aFileThatIsAdmittedAgainKeepsItsUndo();
+    void aFileHasItsUndoAfterTheClockWasWrong();
+    void theEnvironmentDoesNotMatter();
     void aRefusedFileHasNone();
     void anUndoGoesWithItsCopy();
     void aPreviewThatFailsIsReported();
@@ -114,6 +116,31 @@ void TestGateWithUndo::aFileThatIsAdmittedAgainKeepsItsUndo()
     QCOMPARE(names(".data").size(), 1);
     QVERIFY(undo.open(QIODevice::ReadOnly));
     QCOMPARE(undo.readAll(), QByteArray("the first one"));
+}
+
+void TestGateWithUndo::aFileHasItsUndoAfterTheClockWasWrong()
+{
+    QCOMPARE(run({"--accept"}), 0);
+    const QString gate = m_folder->filePath("gate/");
+    QVERIFY(QFile::rename(gate + names(".data").value(0), gate + "admitted-29991231T000000Z.data"));
+    QVERIFY(QFile::remove(gate + names(".undo.sql").value(0)));
+    m_bench.writeExport(
+        {SampleExport::jana().with(&ExportRow::prijmeni, "Malá"), SampleExport::maria()});
+    QCOMPARE(run(), 0);
+    QCOMPARE(names(".undo.sql"),
+             QStringList(names(".data").value(0).replace(".data", ".undo.sql")));
+}
+
+void TestGateWithUndo::theEnvironmentDoesNotMatter()
+{
+    ProgramRun program;
+    for (const char *name : {"to", "state", "previous"})
+        program.setVariable(name, "--state");
+    QStringList words = command({"--accept"});
+    words.removeOne("--state=" + m_folder->filePath("gate"));
+    program.run(GATE_WITH_UNDO, words);
+    COMPARE_STATUS(program, 0);
+    QCOMPARE(QDir(m_folder->filePath("ron.data.gate")).entryList({"*.undo.sql"}).size(), 1);
 }
 
 void TestGateWithUndo::aRefusedFileHasNone()
