@@ -27,12 +27,13 @@ bool isFieldName(const QString &text)
     return names.contains(text.trimmed(), Qt::CaseInsensitive);
 }
 
-/// Day, month and year in any order, with or without a time: also a date that the plugin cannot
-/// read.
+/// Day, month and year, the year first or last, with or without a time: also a date that the plugin
+/// cannot read. Not 0905-12-3456, which is a phone number.
 bool isDate(const QString &text)
 {
     static const QRegularExpression date(
-        QStringLiteral("^\\s*[0-9]{1,4}([-./])\\s?[0-9]{1,2}\\1\\s?[0-9]{1,4}"
+        QStringLiteral("^\\s*(?:[0-9]{4}([-./])[0-9]{1,2}\\1[0-9]{1,2}|"
+                       "[0-9]{1,2}([-./])\\s?[0-9]{1,2}\\2\\s?(?:[0-9]{4}|[0-9]{2}))"
                        "([ T][0-9]{1,2}:[0-9]{2}(:[0-9]{2}([.,][0-9]{1,9})?)?)?\\s*$"));
     return date.match(text).hasMatch();
 }

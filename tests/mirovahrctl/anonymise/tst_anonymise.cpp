@@ -80,6 +80,8 @@ private Q_SLOTS:
     void theLinesKeepTheirLengthsAndEnds();
     void aTextThatWasEncodedTwiceStaysSo();
     void aBrokenLineIsAboutTheSamePerson();
+    void aBrokenLineKeepsItsDatesOnly_data();
+    void aBrokenLineKeepsItsDatesOnly();
     void twoRunsDiffer();
     void theOutputGoesToAFileForItsOwnerOnly_data();
     void theOutputGoesToAFileForItsOwnerOnly();
@@ -253,6 +255,24 @@ void TestAnonymise::aBrokenLineIsAboutTheSamePerson()
     QStringList withoutTitle = after[0];
     withoutTitle.removeAt(2);
     QCOMPARE(after[1], withoutTitle);
+}
+
+void TestAnonymise::aBrokenLineKeepsItsDatesOnly_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("isDate");
+    QTest::newRow("as the export writes it") << QByteArray("2024-02-29 00:00:00.000") << true;
+    QTest::newRow("as people write it") << QByteArray("29. 2. 2024") << true;
+    QTest::newRow("of two digits") << QByteArray("29/02/24") << true;
+    QTest::newRow("the number of a mobile phone") << QByteArray("0905-12-3456") << false;
+    QTest::newRow("that of another phone") << QByteArray("048.41.5511") << false;
+}
+
+void TestAnonymise::aBrokenLineKeepsItsDatesOnly()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(bool, isDate);
+    QCOMPARE(anonymised("1|1|" + text + '\n').endsWith('|' + text + '\n'), isDate);
 }
 
 void TestAnonymise::twoRunsDiffer()
