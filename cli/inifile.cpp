@@ -1,4 +1,4 @@
-#include "mirovahrctl/checkconfig/inifile.h"
+#include "cli/inifile.h"
 
 #include <QFile>
 

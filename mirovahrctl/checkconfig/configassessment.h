@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mirovahrctl/checkconfig/inifile.h"
+#include "cli/inifile.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/reportwriter.h"
 #include "plugin/configuration.h"
