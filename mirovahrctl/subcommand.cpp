@@ -127,15 +127,21 @@ QString questions()
     return lines.join(QLatin1Char('\n'));
 }
 
-ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Console &console)
+/// Null when there is none of this name.
+const Subcommand *subcommandOf(const QString &name)
 {
     const auto &all = subcommands();
     const auto found =
         std::find_if(all.cbegin(), all.cend(), [&name](const Subcommand &subcommand) {
             return name == QLatin1String(subcommand.name);
         });
-    if (found != all.cend())
-        return found->run(arguments, console);
+    return found == all.cend() ? nullptr : &*found;
+}
+
+ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Console &console)
+{
+    if (const Subcommand *const subcommand = subcommandOf(name))
+        return subcommand->run(arguments, console);
     if (name == kJson || arguments.contains(kJson))
         console.startJson();
     return console.fail(ExitStatus::Usage,
@@ -216,7 +222,8 @@ ExitStatus runMirovahrctl(const QStringList &arguments, Console &console)
 {
     QStringList others = arguments;
     const QString error = LanguageOption::obey(others);
-    if (error.isEmpty())
+    // A subcommand refuses a language itself, in the form of its answers.
+    if (error.isEmpty() || subcommandOf(others.value(0)) != nullptr)
         return runInThisLanguage(others, console);
     if (others.contains(kJson))
         console.startJson();

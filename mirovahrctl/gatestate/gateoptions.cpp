@@ -4,6 +4,7 @@
 #include "mirovahrctl/gatestate/gatetexts.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/languageoption.h"
 #include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/report/language.h"
 
@@ -127,10 +128,13 @@ void addLimits(CommandLine &line)
 /// The arguments of the gate among the words of a command; nothing when it runs no gate.
 std::optional<QStringList> gateArguments(const QStringList &words)
 {
-    for (int i = 0; i + 1 < words.size(); ++i) {
-        if (QFileInfo(words.at(i)).fileName() == QLatin1String("mirovahrctl")
-            && words.at(i + 1) == QLatin1String("gate"))
-            return words.mid(i + 2);
+    for (int i = 0; i < words.size(); ++i) {
+        if (QFileInfo(words.at(i)).fileName() != QLatin1String("mirovahrctl"))
+            continue;
+        QStringList arguments = words.mid(i + 1);
+        LanguageOption::moveBehindSubcommand(arguments);
+        if (arguments.value(0) == QLatin1String("gate"))
+            return arguments.mid(1);
     }
     return std::nullopt;
 }

@@ -4,6 +4,7 @@
 #include "cli/standardoptions.h"
 #include "cli/text.h"
 #include "mirovahrctl/program/console.h"
+#include "mirovahrctl/program/languageoption.h"
 #include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/textlayout.h"
 
@@ -37,7 +38,7 @@ CommandLine::CommandLine(const char *subcommand, const char *description)
     , m_description(Text::tr(description))
 {
     StandardOptions::addTo(m_parser);
-    // For the help text: LanguageOption has obeyed it and taken it out of the arguments.
+    // For the help text and to refuse it: one that is known, LanguageOption has taken out.
     m_parser.addOption({QStringLiteral("language"),
                         Text::tr("The language of everything for people: %1. Default: that of the "
                                  "locale; beside --json always en.")
@@ -109,7 +110,9 @@ std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, Conso
         console.print(StandardOptions::versionText(QStringLiteral("mirovahrctl")));
         return ExitStatus::Fine;
     }
-    const QString error = understood ? argumentError() : m_parser.errorText();
+    QString error = understood ? languageError() : m_parser.errorText();
+    if (error.isEmpty())
+        error = argumentError();
     if (error.isEmpty())
         return std::nullopt;
     return console.fail(ExitStatus::Usage, error);
@@ -176,6 +179,11 @@ QString CommandLine::helpText() const
     const QString options = parserText.mid(parserText.indexOf(QLatin1Char('\n')) + 1);
     return QStringList{usage(), QString(), wrapped(m_description), options, exitStatusHelp()}.join(
         QLatin1Char('\n'));
+}
+
+QString CommandLine::languageError() const
+{
+    return isSet("language") ? LanguageOption::problem(value("language")) : QString();
 }
 
 QString CommandLine::argumentError() const

@@ -73,6 +73,7 @@ public:
 private:
     QString helpText() const;
     QString usage() const;
+    QString languageError() const;
     QString argumentError() const;
 
     QString m_subcommand;

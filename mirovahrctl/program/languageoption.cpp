@@ -3,6 +3,7 @@
 #include "cli/text.h"
 #include "mirovahrctl/report/language.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -33,19 +34,39 @@ std::optional<QString> take(QStringList &arguments)
     return value;
 }
 
+void putBehindSubcommand(const QString &language, QStringList &arguments)
+{
+    arguments.insert(std::min(1, arguments.size()), kOptionWithValue + language);
+}
+
 } // namespace
 
 QString LanguageOption::obey(QStringList &arguments)
 {
-    const QStringList codes = Language::codes();
     const std::optional<QString> requested = take(arguments);
-    const bool isKnown = requested && codes.contains(*requested);
+    const bool isKnown = requested && Language::codes().contains(*requested);
     if (arguments.contains(QLatin1String("--json")))
         Language::use(QStringLiteral("en"));
     else
         Language::use(isKnown ? *requested : Language::ofLocale());
     if (isKnown || !requested)
         return {};
+    putBehindSubcommand(*requested, arguments);
+    return problem(*requested);
+}
+
+void LanguageOption::moveBehindSubcommand(QStringList &arguments)
+{
+    const std::optional<QString> language = take(arguments);
+    if (language)
+        putBehindSubcommand(*language, arguments);
+}
+
+QString LanguageOption::problem(const QString &language)
+{
+    const QStringList codes = Language::codes();
+    if (codes.contains(language))
+        return {};
     return Text::tr("Unknown language '%1'; there are %2")
-        .arg(*requested, codes.join(QStringLiteral(", ")));
+        .arg(language, codes.join(QStringLiteral(", ")));
 }

@@ -195,6 +195,10 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
         "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in\n"
         "syncCommandRun=2",
         "no-gate", QString());
+    key("a gate with the language before the subcommand",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl --language sk gate --from /srv/hr --to "
+        "/srv/in\nsyncCommandRun=2",
+        "no-gate", QString());
     key("a gate that publishes elsewhere",
         "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/out\n"
         "syncCommandRun=2",
@@ -213,6 +217,10 @@ void TestCheckConfig::aRuleTripsOnItsFixtureOnly_data()
         "gate-accepts", QString());
     key("a gate without HR's file",
         "importFile=/srv/in\nsyncCommand=mirovahrctl gate --to /srv/in\nsyncCommandRun=2",
+        "gate-options", "syncCommand");
+    key("a gate in a language that there is not",
+        "importFile=/srv/in\nsyncCommand=mirovahrctl --language de gate --from /srv/hr --to "
+        "/srv/in\nsyncCommandRun=2",
         "gate-options", "syncCommand");
     key("a gate with its options",
         "importFile=/srv/in\nsyncCommand=mirovahrctl gate --from /srv/hr --to /srv/in\n"

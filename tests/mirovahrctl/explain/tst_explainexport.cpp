@@ -92,6 +92,14 @@ void TestExplainExport::theGateOfACommandIsFound_data()
     QTest::newRow("with its path, by way of another program")
         << "sudo -u yav /usr/bin/mirovahrctl gate --state=/var/gate --from /hr/a --to /hr/b"
         << "/var/gate";
+    QTest::newRow("in a language") << "mirovahrctl gate --language sk --from /hr/a --to /hr/b"
+                                   << "/hr/b.gate";
+    QTest::newRow("with the language before the subcommand")
+        << "mirovahrctl --language=cs gate --from /hr/a --to /hr/b"
+        << "/hr/b.gate";
+    QTest::newRow("in a language that there is not")
+        << "mirovahrctl gate --language de --from /hr/a --to /hr/b"
+        << "";
     QTest::newRow("quoted blanks")
         << R"(mirovahrctl gate --from /hr/a --to /hr/b --state "/var/my gate")"
         << "/var/my gate";

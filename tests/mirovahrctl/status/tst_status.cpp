@@ -623,6 +623,8 @@ void TestStatus::wrongUsage_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("reason");
     QTest::newRow("an unknown option") << QStringList{"--no-such"} << "Unknown option 'no-such'";
+    QTest::newRow("an unknown language")
+        << QStringList{"--language", "de"} << "Unknown language 'de'; there are cs, en, sk";
     QTest::newRow("an argument") << QStringList{"now"} << "Unexpected argument 'now'";
     QTest::newRow("two servers") << QStringList{"--host", "h"}
                                  << "Name the database server with either --host or --socket, not "

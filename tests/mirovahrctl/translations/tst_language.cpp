@@ -121,20 +121,32 @@ void TestLanguage::anUnknownLanguageIsRefused_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("language");
-    QTest::newRow("another one") << QStringList{"rules", "--language", "de"} << "de";
-    QTest::newRow("a locale") << QStringList{"rules", "--language=sk_SK"} << "sk_SK";
-    QTest::newRow("none") << QStringList{"rules", "--language"} << "";
-    QTest::newRow("an empty one") << QStringList{"--language=", "rules"} << "";
+    QTest::addColumn<QString>("subcommand"); // that refuses it; empty: the program
+    QTest::newRow("another one") << QStringList{"rules", "--language", "de"} << "de"
+                                 << "rules: ";
+    QTest::newRow("before the subcommand") << QStringList{"--language", "de", "rules"} << "de"
+                                           << "rules: ";
+    QTest::newRow("a locale") << QStringList{"rules", "--language=sk_SK"} << "sk_SK"
+                              << "rules: ";
+    QTest::newRow("none") << QStringList{"rules", "--language"} << ""
+                          << "rules: ";
+    QTest::newRow("an empty one") << QStringList{"--language=", "rules"} << ""
+                                  << "rules: ";
+    QTest::newRow("without a subcommand") << QStringList{"--language", "de"} << "de"
+                                          << "";
+    QTest::newRow("of the overview") << QStringList{"help", "--language", "de"} << "de"
+                                     << "";
 }
 
 void TestLanguage::anUnknownLanguageIsRefused()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, language);
+    QFETCH(QString, subcommand);
     const QString sentence = QString("Unknown language '%1'; there are cs, en, sk.").arg(language);
     const ToolRun run = runTool(arguments);
     COMPARE_EXIT(run, ExitStatus::Usage);
-    QCOMPARE(run.err, "mirovahrctl: " + sentence + '\n');
+    QCOMPARE(run.err, "mirovahrctl: " + subcommand + sentence + '\n');
     QCOMPARE(run.out, QString());
     QCOMPARE(runTool(QStringList("--json") + arguments).failure(), sentence);
 }
