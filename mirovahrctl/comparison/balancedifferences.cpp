@@ -3,6 +3,7 @@
 #include "mirovahrctl/comparison/comparedpeople.h"
 #include "mirovahrctl/export/fieldreading.h"
 
+#include <QLocale>
 #include <QMap>
 #include <QSet>
 
@@ -117,4 +118,11 @@ BalanceDifferences BalanceDifferences::of(const ComparedPeople &people, const QV
     findSize(changes, differences);
     findMultiplied(changes, differences);
     return differences;
+}
+
+QString BalanceDifferences::factorText() const
+{
+    // A multiple of a half is written in full; its inverse may have no end.
+    const int digits = std::abs(factor) < 1 ? 3 : 12;
+    return QLocale().toString(factor, 'g', digits);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QVector>
 
 class ComparedPeople;
@@ -21,6 +22,8 @@ struct BalanceDifferences {
     /// unless at least three different balances were.
     QVector<int> multiplied;
     double factor = 1; ///< of those
+    /// That factor for people: "7.5", "1000", "0.333".
+    QString factorText() const;
     qint64 sum = 0; ///< of all changes, in hundredths of a day
     double median = 0; ///< of all changes, in hundredths of a day
 };

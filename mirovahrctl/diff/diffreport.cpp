@@ -10,8 +10,6 @@
 #include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/diffrules.h"
 
-#include <QLocale>
-
 #include <algorithm>
 
 namespace {
@@ -40,7 +38,7 @@ Finding multiplied(const BalanceDifferences &balances)
         makeFinding(DiffRules::kBalancesMultiplied,
                     Text::tr("The vacation balances of %Ln person(s) are %1 times what they were.",
                              nullptr, balances.multiplied.size())
-                        .arg(QLocale().toString(balances.factor, 'g', 3)));
+                        .arg(balances.factorText()));
     finding.field = ExportLine::fieldNames().at(ExportLine::DovolenaZustatek);
     return finding;
 }

@@ -82,7 +82,7 @@ void assessBalances(const ExportDifferences &changes, const GateLimits &limits,
     assessKind(
         GateRules::kBalancesMultiplied, balances.multiplied,
         QT_TRANSLATE_N_NOOP("Text", "The %1 of %Ln person(s) (%2 %) is %4 times what it was; %3"),
-        {QLocale().toString(balances.factor, 'g', 3)});
+        {balances.factorText()});
 }
 
 } // namespace

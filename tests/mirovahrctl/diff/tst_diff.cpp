@@ -325,6 +325,8 @@ void TestDiff::balancesThatAreMultipliedAlikeAreReported_data()
     QTest::addColumn<QString>("factor"); // empty: nothing is reported
     QTest::newRow("hours of eight") << withBalances(9, 0.25, 1.25, 8) << "8";
     QTest::newRow("hours of seven and a half") << withBalances(9, 0.25, 1.25, 7.5) << "7.5";
+    QTest::newRow("a lost decimal point of three digits")
+        << withBalances(9, 0.25, 1.25, 1000) << "1000";
     QTest::newRow("an eighth") << withBalances(9, 0.25, 1.25, 0.125) << "0.125";
     QTest::newRow("the opposite sign") << withBalances(9, 0.25, 1.25, -1) << "-1";
     QTest::newRow("twice, as by accrual") << withBalances(9, 0.25, 1.25, 2) << "";
