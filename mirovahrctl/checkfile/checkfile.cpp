@@ -65,8 +65,11 @@ QString verdict(const ExportScan::Counts &counts, ExitStatus status)
 {
     if (status == ExitStatus::Fine)
         return Text::tr("The export is fine.");
-    if (counts.rejected == 0)
-        return Text::tr("Everybody in the export arrives, but there are findings.");
+    if (counts.rejected == 0) {
+        return counts.records == 0
+            ? Text::tr("The file contains no people.")
+            : Text::tr("Everybody in the export arrives, but there are findings.");
+    }
     return Text::tr("The export has %Ln line(s) with errors; the plugin drops %1 of them.", nullptr,
                     Language::count(counts.rejected))
         .arg(Language::number(counts.dropped));

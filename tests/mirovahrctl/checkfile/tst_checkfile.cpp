@@ -52,6 +52,8 @@ private Q_SLOTS:
     void aDroppedLineIsFlagged();
     void aGoodExportIsFine();
     void notesAloneAreFine();
+    void nobodyArrivesWithAFileWithoutPeople_data();
+    void nobodyArrivesWithAFileWithoutPeople();
     void factsCountTheLines();
     void aFindingSaysWhoAndWhere();
     void aDroppedLineSaysWhomItIsMostLikelyAbout_data();
@@ -338,6 +340,21 @@ void TestCheckFile::notesAloneAreFine()
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(run.json()["result"].toString(), QString("fine"));
     QCOMPARE(run.rules(), QStringList{"byte-order-mark"});
+}
+
+void TestCheckFile::nobodyArrivesWithAFileWithoutPeople_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("blank lines") << QByteArray("\n\r\n");
+}
+
+void TestCheckFile::nobodyArrivesWithAFileWithoutPeople()
+{
+    QFETCH(QByteArray, content);
+    const ToolRun run = check(content);
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    QCOMPARE(run.json()["verdict"].toString(), QString("The file contains no people."));
 }
 
 void TestCheckFile::factsCountTheLines()
