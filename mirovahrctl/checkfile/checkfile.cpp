@@ -185,8 +185,8 @@ ExitStatus runCheckFile(const QStringList &arguments, Console &console)
     CommandLine line("check-file", kDescription);
     line.addArgument(Text::tr("file"), Text::tr("The export."));
     line.addOption("rejects", Text::tr("file"),
-                   Text::tr("Also write the lines with errors into a file, with the reasons, to "
-                            "send to HR."));
+                   Text::tr("Also write the lines with errors or warnings into a file, with the "
+                            "reasons, to send to HR."));
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

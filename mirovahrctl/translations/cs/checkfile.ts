@@ -292,8 +292,8 @@
         <translation>Export.</translation>
     </message>
     <message>
-        <source>Also write the lines with errors into a file, with the reasons, to send to HR.</source>
-        <translation>Zapíše také řádky s chybami do souboru, s důvody, k odeslání personálnímu oddělení.</translation>
+        <source>Also write the lines with errors or warnings into a file, with the reasons, to send to HR.</source>
+        <translation>Zapíše také řádky s chybami nebo upozorněními do souboru, s důvody, k odeslání personálnímu oddělení.</translation>
     </message>
 </context>
 </TS>

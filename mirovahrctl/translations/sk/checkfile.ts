@@ -292,8 +292,8 @@
         <translation>Export.</translation>
     </message>
     <message>
-        <source>Also write the lines with errors into a file, with the reasons, to send to HR.</source>
-        <translation>Zapíše aj riadky s chybami do súboru, s dôvodmi, na odoslanie personálnemu oddeleniu.</translation>
+        <source>Also write the lines with errors or warnings into a file, with the reasons, to send to HR.</source>
+        <translation>Zapíše aj riadky s chybami alebo upozorneniami do súboru, s dôvodmi, na odoslanie personálnemu oddeleniu.</translation>
     </message>
 </context>
 </TS>
