@@ -5,11 +5,11 @@
     <name>Text</name>
     <message>
         <source>The id of an administrator exceeds 16 bits, which is all that other components keep.</source>
-        <translation>Id správce přesahuje 16 bitů, ostatní součásti však víc neuchovávají.</translation>
+        <translation>Id administrátora přesahuje 16 bitů, ostatní součásti však víc neuchovávají.</translation>
     </message>
     <message>
         <source>Give the administrators ids up to 65535.</source>
-        <translation>Přidělte správcům id nejvýše 65535.</translation>
+        <translation>Přidělte administrátorům id nejvýše 65535.</translation>
     </message>
     <message>
         <source>The id of a branch exceeds 16 bits; members are added to another branch, or to none.</source>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>Several administrators have the same personal number; any of them gets the requests.</source>
-        <translation>Více správců má stejné osobní číslo; žádosti dostane kterýkoli z nich.</translation>
+        <translation>Více administrátorů má stejné osobní číslo; žádosti dostane kterýkoli z nich.</translation>
     </message>
     <message>
         <source>Give the number to one administrator only.</source>
-        <translation>Přidělte číslo jen jednomu správci.</translation>
+        <translation>Přidělte číslo jen jednomu administrátorovi.</translation>
     </message>
     <message>
         <source>A table that the plugin uses does not exist, or the account has no rights on it.</source>
@@ -850,11 +850,11 @@ Kontrolu proveďte dvakrát. Nejprve se připojte jako zásuvný modul: s jeho �
     </message>
     <message>
         <source>The ids of these administrators exceed 16 bits: %1. The plugin writes them correctly, but other components of the attendance server that use its repository classes keep only 16 bits: people are assigned to another administrator, or to none</source>
-        <translation>Id těchto správců přesahují 16 bitů: %1. Zásuvný modul je zapisuje správně, ale ostatní součásti docházkového serveru, které používají jeho třídy pro přístup k databázi, uchovají jen 16 bitů: osoby se přidělí jinému správci nebo žádnému</translation>
+        <translation>Id těchto administrátorů přesahují 16 bitů: %1. Zásuvný modul je zapisuje správně, ale ostatní součásti docházkového serveru, které používají jeho třídy pro přístup k databázi, uchovají jen 16 bitů: osoby se přidělí jinému administrátorovi nebo žádnému</translation>
     </message>
     <message>
         <source>Several administrators have the same personal number: %1. Any of them gets the requests</source>
-        <translation>Více správců má stejné osobní číslo: %1. Žádosti dostane kterýkoli z nich</translation>
+        <translation>Více administrátorů má stejné osobní číslo: %1. Žádosti dostane kterýkoli z nich</translation>
     </message>
     <message>
         <source>The pid and pamId of these active people disagree: %1. The plugin looks a person up by pamId and writes by pid: it changes nobody, or treats the person as new</source>

@@ -443,7 +443,7 @@
     </message>
     <message>
         <source>interval types</source>
-        <translation>typy intervalů</translation>
+        <translation>druhy intervalů</translation>
     </message>
     <message>
         <source>people</source>

@@ -5,11 +5,11 @@
     <name>Text</name>
     <message>
         <source>The id of an administrator exceeds 16 bits, which is all that other components keep.</source>
-        <translation>Id správcu presahuje 16 bitov, ostatné súčasti však viac neuchovávajú.</translation>
+        <translation>Id administrátora presahuje 16 bitov, ostatné súčasti však viac neuchovávajú.</translation>
     </message>
     <message>
         <source>Give the administrators ids up to 65535.</source>
-        <translation>Prideľte správcom id najviac 65535.</translation>
+        <translation>Prideľte administrátorom id najviac 65535.</translation>
     </message>
     <message>
         <source>The id of a branch exceeds 16 bits; members are added to another branch, or to none.</source>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>Several administrators have the same personal number; any of them gets the requests.</source>
-        <translation>Viac správcov má to isté osobné číslo; žiadosti dostane ktorýkoľvek z nich.</translation>
+        <translation>Viac administrátorov má to isté osobné číslo; žiadosti dostane ktorýkoľvek z nich.</translation>
     </message>
     <message>
         <source>Give the number to one administrator only.</source>
-        <translation>Prideľte číslo len jednému správcovi.</translation>
+        <translation>Prideľte číslo len jednému administrátorovi.</translation>
     </message>
     <message>
         <source>A table that the plugin uses does not exist, or the account has no rights on it.</source>
@@ -850,11 +850,11 @@ Kontrolu vykonajte dvakrát. Najprv sa pripojte ako zásuvný modul: s jeho úč
     </message>
     <message>
         <source>The ids of these administrators exceed 16 bits: %1. The plugin writes them correctly, but other components of the attendance server that use its repository classes keep only 16 bits: people are assigned to another administrator, or to none</source>
-        <translation>Id týchto správcov presahujú 16 bitov: %1. Zásuvný modul ich zapisuje správne, ale ostatné súčasti dochádzkového servera, ktoré používajú jeho triedy na prístup k databáze, uchovajú len 16 bitov: osoby sa pridelia inému správcovi alebo žiadnemu</translation>
+        <translation>Id týchto administrátorov presahujú 16 bitov: %1. Zásuvný modul ich zapisuje správne, ale ostatné súčasti dochádzkového servera, ktoré používajú jeho triedy na prístup k databáze, uchovajú len 16 bitov: osoby sa pridelia inému administrátorovi alebo žiadnemu</translation>
     </message>
     <message>
         <source>Several administrators have the same personal number: %1. Any of them gets the requests</source>
-        <translation>Viac správcov má to isté osobné číslo: %1. Žiadosti dostane ktorýkoľvek z nich</translation>
+        <translation>Viac administrátorov má to isté osobné číslo: %1. Žiadosti dostane ktorýkoľvek z nich</translation>
     </message>
     <message>
         <source>The pid and pamId of these active people disagree: %1. The plugin looks a person up by pamId and writes by pid: it changes nobody, or treats the person as new</source>

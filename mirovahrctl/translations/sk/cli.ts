@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Exit status:</source>
-        <translation>Návratová hodnota:</translation>
+        <translation>Návratový kód:</translation>
     </message>
     <message>
         <source>The password file &apos;%1&apos; cannot be read: %2</source>

@@ -1116,7 +1116,7 @@ OSOBA je identifikátor pre mzdy, napríklad 1234.1, osobné číslo, pid alebo 
     </message>
     <message>
         <source>The plugin compares a text in the form that the statement needs, with apostrophes and backslashes doubled. Only that makes the difference here, and the same text is written again: %1.</source>
-        <translation>Zásuvný modul porovnáva text v tvare, ktorý vyžaduje príkaz, so zdvojenými apostrofmi a spätnými lomkami. Rozdiel je tu iba v tom a znova sa zapíše ten istý text: %1.</translation>
+        <translation>Zásuvný modul porovnáva text v tvare, ktorý vyžaduje príkaz, so zdvojenými apostrofmi a opačnými lomkami. Rozdiel je tu iba v tom a znova sa zapíše ten istý text: %1.</translation>
     </message>
     <message>
         <source>The row is not written.</source>

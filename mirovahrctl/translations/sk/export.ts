@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>the person has no employment type and no payroll export.</source>
-        <translation>osoba nemá typ pracovného pomeru ani export pre mzdy.</translation>
+        <translation>osoba nemá druh pracovného pomeru ani export pre mzdy.</translation>
     </message>
     <message>
         <source>the employment counts as running.</source>

@@ -443,7 +443,7 @@
     </message>
     <message>
         <source>interval types</source>
-        <translation>typy intervalov</translation>
+        <translation>druhy intervalov</translation>
     </message>
     <message>
         <source>people</source>

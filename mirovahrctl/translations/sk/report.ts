@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>… and %1 more: %2.</source>
-        <translation>… a ďalších %1: %2.</translation>
+        <translation>… a ešte %1: %2.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln day(s)</source>

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void everyCountIsAsTheLanguageWritesIt();
     void theSameTextIsTranslatedTheSameWayEverywhere_data();
     void theSameTextIsTranslatedTheSameWayEverywhere();
+    void theWordsOfTheGlossaryAreUsed_data();
+    void theWordsOfTheGlossaryAreUsed();
 
 private:
     void addFiles();
@@ -191,6 +193,61 @@ void TestTranslations::theSameTextIsTranslatedTheSameWayEverywhere()
             forms = text.forms;
         }
     }
+}
+
+/// Words that are easily taken for others.
+void TestTranslations::theWordsOfTheGlossaryAreUsed_data()
+{
+    QTest::addColumn<QString>("english");
+    QTest::addColumn<QString>("slovak");
+    QTest::addColumn<QString>("czech");
+
+    const auto term = [](const char *name, const char *english, const char *slovak,
+                         const char *czech) {
+        QTest::newRow(name) << QString(english) << QString(slovak) << QString(czech);
+    };
+    term("an administrator in the database, not of the programs", "\\badministrators?\\b",
+         "administrátor", "administrát");
+    term("the employment type", "employment type", "druh\\w* pracovného pomeru",
+         "druh\\w* pracovního poměru");
+    term("the employment state", "employment state", "stav\\w* pracovného pomeru",
+         "stav\\w* pracovního poměru");
+    term("the relationship state", "relationship state", "stav\\w* pomeru", "stav\\w* poměru");
+    term("the register state", "register state", "evidenčn\\w+ stav", "evidenčn\\w+ stav");
+    term("the last admitted file", "last admitted", "naposledy prijat", "naposledy přijat");
+    term("the payroll export", "payroll export", "export\\w* pre mzdy", "export\\w* pro mzdy");
+    term("the payroll id", "payroll id", "identifikátor\\w* pre mzdy",
+         "identifikátor\\w* pro mzdy");
+    term("a supervisor", "supervisor", "nadriaden", "nadřízen");
+    term("an interval type", "interval type", "druh\\w* interval", "druh\\w* interval");
+    term("a backslash", "backslash", "opačn\\w+ lomk", "zpětn\\w+ lomít");
+}
+
+void TestTranslations::theWordsOfTheGlossaryAreUsed()
+{
+    QFETCH(QString, english);
+    QFETCH(QString, slovak);
+    QFETCH(QString, czech);
+    const auto pattern = [](const QString &text) {
+        return QRegularExpression(text,
+                                  QRegularExpression::CaseInsensitiveOption
+                                      | QRegularExpression::UseUnicodePropertiesOption);
+    };
+    const QRegularExpression term(english);
+    int count = 0;
+    for (const QString &file : qAsConst(m_files)) {
+        if (file.startsWith("en/"))
+            continue;
+        const QRegularExpression word = pattern(file.startsWith("sk/") ? slovak : czech);
+        for (const Translation &text : readTranslations(kFolder.filePath(file))) {
+            if (!text.source.contains(term))
+                continue;
+            ++count;
+            for (const QString &form : text.forms)
+                QVERIFY2(form.contains(word), qPrintable(file + ": " + form));
+        }
+    }
+    QVERIFY(count > 0);
 }
 
 QTEST_GUILESS_MAIN(TestTranslations)
