@@ -1,5 +1,6 @@
 #include "cli/connectionfile.h"
 
+#include "cli/inifile.h"
 #include "cli/numberoption.h"
 #include "cli/passwordfile.h"
 #include "cli/text.h"
@@ -25,6 +26,18 @@ constexpr TextKey kTextKeys[] = {
     {"socket", &DatabaseOptions::socket},
     {"user", &DatabaseOptions::user},
 };
+
+/// The key whose value ends at a semicolon outside quotation marks: QSettings takes the rest for a
+/// comment, without an error. Empty when there is none.
+QString keyOfCutValue(const QString &path)
+{
+    const QVector<IniLine> lines = readIniLines(path);
+    const auto cut = std::find_if(lines.cbegin(), lines.cend(), [](const IniLine &line) {
+        return line.key.startsWith(QLatin1String("client/"))
+            && hasUnquoted(line.value, QLatin1Char(';'));
+    });
+    return cut == lines.cend() ? QString() : cut->key.section(QLatin1Char('/'), 1);
+}
 
 } // namespace
 
@@ -63,6 +76,9 @@ QString ConnectionFile::readKeys(QSettings &settings)
         return Text::tr("the key '%1' belongs to no group; write [client] above it")
             .arg(strays.constFirst());
     }
+    const QString cut = keyOfCutValue(m_path);
+    if (!cut.isEmpty())
+        return Text::tr("the value of '%1' has a semicolon; put it in quotation marks").arg(cut);
     settings.beginGroup(QStringLiteral("client"));
     const QStringList keys = settings.childKeys();
     for (const QString &key : keys) {

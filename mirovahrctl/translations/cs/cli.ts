@@ -20,6 +20,10 @@
         <translation>klíč „%1“ nepatří do žádné skupiny; napište nad něj [client]</translation>
     </message>
     <message>
+        <source>the value of &apos;%1&apos; has a semicolon; put it in quotation marks</source>
+        <translation>hodnota klíče „%1“ obsahuje středník; dejte ji do uvozovek</translation>
+    </message>
+    <message>
         <source>there are lines that are neither [group], nor key = value, nor a comment that begins with a semicolon</source>
         <translation>jsou v něm řádky, které nejsou ani [skupina], ani klíč = hodnota, ani komentář začínající středníkem</translation>
     </message>

@@ -20,6 +20,10 @@
         <translation>kľúč „%1“ nepatrí do žiadnej skupiny; napíšte nad neho [client]</translation>
     </message>
     <message>
+        <source>the value of &apos;%1&apos; has a semicolon; put it in quotation marks</source>
+        <translation>hodnota kľúča „%1“ obsahuje bodkočiarku; dajte ju do úvodzoviek</translation>
+    </message>
+    <message>
         <source>there are lines that are neither [group], nor key = value, nor a comment that begins with a semicolon</source>
         <translation>sú v ňom riadky, ktoré nie sú ani [skupina], ani kľúč = hodnota, ani komentár začínajúci sa bodkočiarkou</translation>
     </message>

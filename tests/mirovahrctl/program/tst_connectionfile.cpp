@@ -267,6 +267,9 @@ void TestConnectionFile::anUnusableFileIsAFailure_data()
     QTest::newRow("an unquoted comma")
         << "password = a,b"
         << "the value of 'password' has a comma; put it in quotation marks";
+    QTest::newRow("an unquoted semicolon")
+        << "connect-options = SSL_CA=/ca.pem;SSL_CERT=/cert.pem"
+        << "the value of 'connect-options' has a semicolon; put it in quotation marks";
     QTest::newRow("a port that is none") << "port = 65536"
                                          << "the port is a number from 0 to 65535";
     QTest::newRow("a timeout that is none")
