@@ -2,9 +2,9 @@
 
 #include "cli/standardoptions.h"
 #include "cli/text.h"
+#include "mirovahrctl/overview.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/languageoption.h"
-#include "mirovahrctl/report/textlayout.h"
 
 #include <algorithm>
 
@@ -43,90 +43,6 @@ namespace {
 
 const QLatin1String kJson("--json");
 
-/// Something that can be typed, and what it is good for.
-struct Hint {
-    const char *command;
-    const char *purpose;
-};
-
-constexpr Hint kHelp[] = {
-    {QT_TRANSLATE_NOOP("Text", "mirovahrctl help SUBCOMMAND"),
-     QT_TRANSLATE_NOOP("Text", "what it does and its options")},
-    {"mirovahrctl help", QT_TRANSLATE_NOOP("Text", "this overview")},
-    {"mirovahrctl --version", QT_TRANSLATE_NOOP("Text", "the version")},
-};
-
-/// For whoever calls the program for the first time: the questions that it answers.
-constexpr Hint kQuestions[] = {
-    {"mirovahrctl doctor", QT_TRANSLATE_NOOP("Text", "Is everything set up as it should be?")},
-    {QT_TRANSLATE_NOOP("Text", "mirovahrctl check-file FILE"),
-     QT_TRANSLATE_NOOP("Text", "What is wrong with HR's file?")},
-    {QT_TRANSLATE_NOOP("Text", "mirovahrctl explain PERSON"),
-     QT_TRANSLATE_NOOP("Text", "Why did this person not arrive?")},
-    {QT_TRANSLATE_NOOP("Text", "mirovahrctl preview FILE"),
-     QT_TRANSLATE_NOOP("Text", "What will this file change?")},
-    {QT_TRANSLATE_NOOP("Text", "mirovahrctl log --since 12h LOGFILE"),
-     QT_TRANSLATE_NOOP("Text", "What did last night do?")},
-};
-
-/// Two columns, below each other in every language.
-QStringList columns(const QVector<QStringList> &rows)
-{
-    constexpr int kIndent = 2;
-    constexpr int kGap = 3;
-    int width = 0;
-    for (const QStringList &row : rows)
-        width = qMax(width, row.constFirst().size());
-    QStringList lines;
-    for (const QStringList &row : rows) {
-        lines << QString(kIndent, QLatin1Char(' ')) + row.constFirst().leftJustified(width + kGap)
-                + row.constLast();
-    }
-    return lines;
-}
-
-QStringList subcommandLines()
-{
-    QVector<QStringList> rows;
-    for (const Subcommand &subcommand : subcommands())
-        rows << QStringList{QLatin1String(subcommand.name), Text::tr(subcommand.summary)};
-    return columns(rows);
-}
-
-QStringList helpLines()
-{
-    QVector<QStringList> rows;
-    for (const Hint &hint : kHelp)
-        rows << QStringList{Text::tr(hint.command), Text::tr(hint.purpose)};
-    return columns(rows);
-}
-
-QString overview()
-{
-    constexpr int kWidth = 88;
-    QStringList lines{Text::tr("Usage: mirovahrctl SUBCOMMAND [OPTION...] [ARGUMENT...]"),
-                      QString()};
-    lines += TextLayout::wrapped(
-        Text::tr("The operator's tool for MirovaHR, the plugin that keeps an attendance database "
-                 "in step with the export of an HR system."),
-        kWidth);
-    lines << QString() << Text::tr("Subcommands:") << subcommandLines() << QString() << helpLines()
-          << QString() << exitStatusHelp();
-    return lines.join(QLatin1Char('\n'));
-}
-
-QString questions()
-{
-    QVector<QStringList> rows;
-    for (const Hint &hint : kQuestions)
-        rows << QStringList{Text::tr(hint.purpose), Text::tr(hint.command)};
-    QStringList lines{Text::tr("mirovahrctl answers these questions:"), QString()};
-    lines << columns(rows) << QString()
-          << Text::tr("\"mirovahrctl help\" lists the other subcommands and says how to see their "
-                      "options.");
-    return lines.join(QLatin1Char('\n'));
-}
-
 /// Null when there is none of this name.
 const Subcommand *subcommandOf(const QString &name)
 {
@@ -151,7 +67,7 @@ ExitStatus runSubcommand(const QString &name, const QStringList &arguments, Cons
 ExitStatus runHelp(const QStringList &arguments, Console &console)
 {
     if (arguments.isEmpty()) {
-        console.print(overview());
+        console.print(Overview::ofSubcommands());
         return ExitStatus::Fine;
     }
     if (arguments.size() > 1) {
@@ -234,7 +150,7 @@ ExitStatus runInThisLanguage(const QStringList &arguments, Console &console)
 {
     const QString name = arguments.value(0);
     if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
-        console.print(overview());
+        console.print(Overview::ofSubcommands());
         return ExitStatus::Fine;
     }
     if (name == QLatin1String("help"))
@@ -244,7 +160,7 @@ ExitStatus runInThisLanguage(const QStringList &arguments, Console &console)
         return ExitStatus::Fine;
     }
     if (arguments.isEmpty()) {
-        console.print(questions());
+        console.print(Overview::ofQuestions());
         return ExitStatus::Usage;
     }
     return runSubcommand(name, arguments.mid(1), console);
