@@ -1,11 +1,45 @@
-// The answer: did the person arrive, what is different from HR, who must do what.
+// The verdict and the answer: did the person arrive, what is different from HR, who must do what.
 
 #include "mirovahrctl/explain/personexplanation.h"
 
 #include "cli/text.h"
 #include "mirovahrctl/program/report.h"
 
+#include <algorithm>
+
 namespace {
+
+bool isSerious(const QVector<Finding> &findings)
+{
+    return std::any_of(findings.cbegin(), findings.cend(),
+                       [](const Finding &finding) { return finding.severity != Severity::Note; });
+}
+
+/// The verdict for each outcome of the person.
+struct PersonVerdict {
+    const char *person;
+    const char *sentence;
+};
+
+constexpr PersonVerdict kVerdicts[] = {
+    {"created", QT_TRANSLATE_NOOP("Text", "A synchronisation creates %1.")},
+    {"merged",
+     QT_TRANSLATE_NOOP("Text",
+                       "A synchronisation brings the row of %1 up to date and makes it active.")},
+    {"updated", QT_TRANSLATE_NOOP("Text", "A synchronisation writes the row of %1.")},
+    {"unchanged", QT_TRANSLATE_NOOP("Text", "A synchronisation leaves the row of %1 alone.")},
+    {"never-created",
+     QT_TRANSLATE_NOOP(
+         "Text",
+         "%1 has left and is not in the database: the plugin never creates a row for leavers.")},
+    {"uncertain",
+     QT_TRANSLATE_NOOP("Text",
+                       "A text in the line of %1 prevents the row from being written correctly.")},
+    {"missed",
+     QT_TRANSLATE_NOOP("Text", "The plugin recognises somebody as %1, but finds no row to write.")},
+    {"test-mode",
+     QT_TRANSLATE_NOOP("Text", "Test mode is on: the plugin does not write the row of %1.")},
+};
 
 /// A difference that is not in the person's row.
 struct OtherDifference {
@@ -104,4 +138,36 @@ QStringList PersonExplanation::duties() const
                                  "the person, or mirovahrctl force if the plugin has seen "
                                  "this very line before.")
                       : Text::tr("Nobody has to do anything.")};
+}
+
+QString PersonExplanation::verdict() const
+{
+    const QString name = m_person.name();
+    if (!m_outcome)
+        return verdictWithoutRecord();
+    QString sentence;
+    for (const PersonVerdict &candidate : kVerdicts) {
+        if (m_outcome->person == QLatin1String(candidate.person))
+            sentence = Text::tr(candidate.sentence).arg(name);
+    }
+    if (isSerious(m_details.findings()))
+        sentence += QLatin1Char(' ') + Text::tr("There are findings.");
+    return sentence;
+}
+
+QString PersonExplanation::verdictWithoutRecord() const
+{
+    const QString name = m_person.name();
+    const bool hasRow = m_context.person.row().has_value();
+    if (m_isFound) {
+        return hasRow
+            ? Text::tr("The plugin drops the line of %1, who is in the database.").arg(name)
+            : Text::tr("The plugin drops the line of %1, who is not in the database.").arg(name);
+    }
+    if (!m_hasExport) {
+        return hasRow ? Text::tr("There is no export; %1 is in the database.").arg(name)
+                      : Text::tr("There is no export; %1 is not in the database.").arg(name);
+    }
+    return hasRow ? Text::tr("%1 is in the database, but not in the export.").arg(name)
+                  : Text::tr("%1 is neither in the export nor in the database.").arg(name);
 }
