@@ -14,7 +14,7 @@ struct GateReport {
     bool isUnchanged = false; ///< the file equals the last admitted one
     bool wasTaken = false; ///< a published file was still there
     const GateFacts *facts = nullptr; ///< null when the file was not examined
-    const ComparedPeople *people = nullptr; ///< of both files; null when it was not examined
+    const ComparedPeople *people = nullptr; ///< of both files, once these are examined
     QString rejects; ///< path of the file with the lines that have errors
     QVector<GateReason> reasons; ///< to refuse the file, also when they were overridden
 
