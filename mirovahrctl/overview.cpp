@@ -69,13 +69,12 @@ QStringList helpLines()
 
 QString Overview::ofSubcommands()
 {
-    constexpr int kWidth = 88;
     QStringList lines{Text::tr("Usage: mirovahrctl SUBCOMMAND [OPTION...] [ARGUMENT...]"),
                       QString()};
     lines += TextLayout::wrapped(
         Text::tr("The operator's tool for MirovaHR, the plugin that keeps an attendance database "
                  "in step with the export of an HR system."),
-        kWidth);
+        TextLayout::kHelpWidth);
     lines << QString() << Text::tr("Subcommands:") << subcommandLines() << QString() << helpLines()
           << QString() << exitStatusHelp();
     return lines.join(QLatin1Char('\n'));

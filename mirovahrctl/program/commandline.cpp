@@ -20,14 +20,12 @@ QString ascii(const char *text)
     return QString::fromLatin1(text);
 }
 
-/// In lines that are no wider than those of the options.
 QString wrapped(const QString &text)
 {
-    constexpr int kWidth = 88;
     QStringList lines;
     const QStringList paragraphs = text.split(QLatin1Char('\n'));
     for (const QString &paragraph : paragraphs)
-        lines += TextLayout::wrapped(paragraph, kWidth);
+        lines += TextLayout::wrapped(paragraph, TextLayout::kHelpWidth);
     return lines.join(QLatin1Char('\n'));
 }
 

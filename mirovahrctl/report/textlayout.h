@@ -7,6 +7,9 @@
 /// Wraps texts and tables to a width in characters, for terminals.
 namespace TextLayout {
 
+/// The width of help texts: no more than that of the options, which Qt lays out.
+constexpr int kHelpWidth = 88;
+
 /// The lines of a text, broken at spaces; its styles take no room. Those after the first begin with
 /// \a indent spaces. A word that is longer than a line is not broken, so that a path can be copied.
 QStringList wrapped(const QString &text, int width, int indent = 0);
