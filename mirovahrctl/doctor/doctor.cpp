@@ -45,6 +45,7 @@ private:
     void checkConfiguration();
     void checkService();
     void checkService(const Service &service);
+    bool checkSight(const Service &service, const QString &path);
     void checkDatabase();
     void checkExport();
     void checkStatus();
@@ -107,13 +108,26 @@ void DoctorRun::checkService(const Service &service)
     }
     // The plugin removes the export there, and the gate publishes it.
     QStringList folders{QFileInfo(importFile()).absolutePath()};
-    if (m_gate)
+    if (m_gate) {
         folders += m_gate->stateFolder;
+        checkSight(service, m_gate->from);
+    }
     for (const QString &folder : qAsConst(folders)) {
+        if (!checkSight(service, folder))
+            continue;
         const QString reason = service.whyNotWriting(folder);
         if (!reason.isEmpty())
             add(makeFinding(DoctorRules::kServiceCannotWrite, Wording::sentence(reason)));
     }
+}
+
+/// Whether the service finds under the path what everybody does; reports it when not.
+bool DoctorRun::checkSight(const Service &service, const QString &path)
+{
+    const QString reason = service.whyNotSeeing(path);
+    if (!reason.isEmpty())
+        add(makeFinding(DoctorRules::kServiceCannotSee, Wording::sentence(reason)));
+    return reason.isEmpty();
 }
 
 void DoctorRun::checkDatabase()

@@ -24,7 +24,8 @@ QHash<QString, QString> properties()
     systemctl.start(QStringLiteral("systemctl"),
                     {QStringLiteral("show"), QStringLiteral("yavhost.service"),
                      QStringLiteral("--property=LoadState,ActiveState,UnitFileState,User,"
-                                    "ProtectSystem,ReadWritePaths")});
+                                    "ProtectSystem,ReadWritePaths,PrivateTmp,ProtectHome,BindPaths,"
+                                    "BindReadOnlyPaths")});
     systemctl.closeWriteChannel();
     systemctl.waitForFinished();
     QHash<QString, QString> all;
@@ -76,6 +77,14 @@ bool isBelow(const QString &folder, const QString &path)
     return (folder + QLatin1Char('/')).startsWith(QDir::cleanPath(path) + QLatin1Char('/'));
 }
 
+/// The first of the folders that the path is in; empty when it is in none.
+QString folderOf(const QString &path, const QStringList &folders)
+{
+    const auto found = std::find_if(folders.cbegin(), folders.cend(),
+                                    [&path](const QString &one) { return isBelow(path, one); });
+    return found == folders.cend() ? QString() : *found;
+}
+
 } // namespace
 
 std::optional<Service> Service::load()
@@ -94,6 +103,13 @@ std::optional<Service> Service::load()
         // A "-" says that the path may be missing.
         service.writablePaths += path.startsWith(QLatin1Char('-')) ? path.mid(1) : path;
     }
+    service.hasOwnTmp = all.value(QStringLiteral("PrivateTmp")) == QLatin1String("yes");
+    service.hidesHomes = all.value(QStringLiteral("ProtectHome")) == QLatin1String("yes");
+    const QStringList bound = (all.value(QStringLiteral("BindPaths")) + QLatin1Char(' ')
+                               + all.value(QStringLiteral("BindReadOnlyPaths")))
+                                  .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &one : bound)
+        service.boundPaths += one.section(QLatin1Char(':'), 1, 1);
     return service;
 }
 
@@ -102,13 +118,31 @@ bool Service::isWanted() const
     return activeState == QLatin1String("failed") || unitFileState == QLatin1String("enabled");
 }
 
+QString Service::whyNotSeeing(const QString &file) const
+{
+    static const QStringList temporary{QStringLiteral("/tmp"), QStringLiteral("/var/tmp")};
+    static const QStringList homes{QStringLiteral("/home"), QStringLiteral("/root"),
+                                   QStringLiteral("/run/user")};
+    const QString path = QDir::cleanPath(file);
+    if (!folderOf(path, boundPaths).isEmpty())
+        return {};
+    QString folder = hasOwnTmp ? folderOf(path, temporary) : QString();
+    if (!folder.isEmpty()) {
+        return Text::tr("yavhost.service has a %1 of its own (PrivateTmp) and does not see %2")
+            .arg(folder, path);
+    }
+    folder = hidesHomes ? folderOf(path, homes) : QString();
+    if (!folder.isEmpty()) {
+        return Text::tr("yavhost.service sees nothing in %1 (ProtectHome), and so not %2")
+            .arg(folder, path);
+    }
+    return {};
+}
+
 QString Service::whyNotWriting(const QString &folder) const
 {
     const QString path = QDir::cleanPath(folder);
-    const auto allows = [&path](const QString &one) {
-        return isBelow(path, one);
-    };
-    if (isStrict && !std::any_of(writablePaths.cbegin(), writablePaths.cend(), allows))
+    if (isStrict && folderOf(path, writablePaths).isEmpty())
         return Text::tr("ReadWritePaths of yavhost.service does not name %1").arg(path);
     if (!QDir(path).exists())
         return Text::tr("There is no folder %1").arg(path);

@@ -17,6 +17,11 @@ inline constexpr Rule kServiceNotRunning{
     QT_TRANSLATE_NOOP("Text", "yavhost.service is enabled or was started, but does not run."),
     QT_TRANSLATE_NOOP("Text", "See what ended it: systemctl status yavhost.")};
 
+inline constexpr Rule kServiceCannotSee{
+    "service-cannot-see", Severity::Error,
+    QT_TRANSLATE_NOOP("Text", "The confinement of yavhost.service hides a file or folder from it."),
+    QT_TRANSLATE_NOOP("Text", "Choose another place, such as the folders in /var/lib/yav.")};
+
 inline constexpr Rule kServiceCannotWrite{
     "service-cannot-write", Severity::Error,
     QT_TRANSLATE_NOOP(
@@ -30,6 +35,7 @@ inline constexpr Rule kServiceCannotWrite{
 inline constexpr const Rule *kAll[] = {
     &kCheckFailed,
     &kServiceNotRunning,
+    &kServiceCannotSee,
     &kServiceCannotWrite,
 };
 

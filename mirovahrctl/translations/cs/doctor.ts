@@ -20,6 +20,14 @@
         <translation>Zjistěte, co ji ukončilo: systemctl status yavhost.</translation>
     </message>
     <message>
+        <source>The confinement of yavhost.service hides a file or folder from it.</source>
+        <translation>Omezení služby yavhost.service před ní skrývají soubor nebo složku.</translation>
+    </message>
+    <message>
+        <source>Choose another place, such as the folders in /var/lib/yav.</source>
+        <translation>Zvolte jiné místo, například složky v /var/lib/yav.</translation>
+    </message>
+    <message>
         <source>The user or the confinement of yavhost.service keeps it from writing to a folder.</source>
         <translation>Služba yavhost.service kvůli svému uživateli nebo svým omezením nemůže zapisovat do složky.</translation>
     </message>
@@ -94,6 +102,14 @@
     <message>
         <source>The account is the plugin&apos;s: check its rights, too.</source>
         <translation>Účet patří zásuvnému modulu: ověří i jeho oprávnění.</translation>
+    </message>
+    <message>
+        <source>yavhost.service has a %1 of its own (PrivateTmp) and does not see %2</source>
+        <translation>Služba yavhost.service má vlastní složku %1 (PrivateTmp) a nevidí %2</translation>
+    </message>
+    <message>
+        <source>yavhost.service sees nothing in %1 (ProtectHome), and so not %2</source>
+        <translation>Služba yavhost.service nevidí nic ve složce %1 (ProtectHome), a tedy ani %2</translation>
     </message>
     <message>
         <source>ReadWritePaths of yavhost.service does not name %1</source>

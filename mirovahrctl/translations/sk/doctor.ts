@@ -20,6 +20,14 @@
         <translation>Zistite, čo ju ukončilo: systemctl status yavhost.</translation>
     </message>
     <message>
+        <source>The confinement of yavhost.service hides a file or folder from it.</source>
+        <translation>Obmedzenia služby yavhost.service pred ňou skrývajú súbor alebo priečinok.</translation>
+    </message>
+    <message>
+        <source>Choose another place, such as the folders in /var/lib/yav.</source>
+        <translation>Zvoľte iné miesto, napríklad priečinky v /var/lib/yav.</translation>
+    </message>
+    <message>
         <source>The user or the confinement of yavhost.service keeps it from writing to a folder.</source>
         <translation>Služba yavhost.service pre svojho používateľa alebo svoje obmedzenia nemôže zapisovať do priečinka.</translation>
     </message>
@@ -94,6 +102,14 @@
     <message>
         <source>The account is the plugin&apos;s: check its rights, too.</source>
         <translation>Účet patrí zásuvnému modulu: overí aj jeho oprávnenia.</translation>
+    </message>
+    <message>
+        <source>yavhost.service has a %1 of its own (PrivateTmp) and does not see %2</source>
+        <translation>Služba yavhost.service má vlastný priečinok %1 (PrivateTmp) a nevidí %2</translation>
+    </message>
+    <message>
+        <source>yavhost.service sees nothing in %1 (ProtectHome), and so not %2</source>
+        <translation>Služba yavhost.service nevidí nič v priečinku %1 (ProtectHome), a teda ani %2</translation>
     </message>
     <message>
         <source>ReadWritePaths of yavhost.service does not name %1</source>

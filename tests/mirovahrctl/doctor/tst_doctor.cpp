@@ -32,6 +32,8 @@ private Q_SLOTS:
     void theService_data();
     void theService();
     void theServicesUserMustAlsoReachTheFolder();
+    void theServiceMustSeeTheFiles_data();
+    void theServiceMustSeeTheFiles();
     void aMachineWithoutTheServiceHasNoSection();
     void nothingIsWritten();
     void everyRuleHasItsFixtures();
@@ -281,6 +283,50 @@ void TestDoctor::theServicesUserMustAlsoReachTheFolder()
     QCOMPARE(doctor().findingsOf("service-cannot-write").size(), 2);
     QVERIFY(QFile::setPermissions(m_folder->path(), QFileDevice::Permissions(0x7711)));
     QCOMPARE(doctor().findingsOf("service-cannot-write").size(), 0);
+}
+
+void TestDoctor::theServiceMustSeeTheFiles_data()
+{
+    QTest::addColumn<QByteArray>("properties");
+    QTest::addColumn<QStringList>("messages");
+
+    const QByteArray confined = "ProtectSystem=strict\nReadWritePaths=/tmp /root\n";
+    const QString import = "yavhost.service has a /tmp of its own (PrivateTmp) and does not see "
+                           "/tmp.";
+    const QString state = "yavhost.service sees nothing in /root (ProtectHome), and so not "
+                          "/root/gate.";
+    const QString delivery = "yavhost.service sees nothing in /home (ProtectHome), and so not "
+                             "/home/hr/export.txt.";
+    QTest::newRow("not confined") << QByteArray() << QStringList();
+    QTest::newRow("may write there, and sees another folder") << confined
+            + "PrivateTmp=yes\nProtectHome=no\n" << QStringList{import};
+    QTest::newRow("no homes") << confined + "PrivateTmp=no\nProtectHome=yes\n"
+                              << QStringList{delivery, state};
+    QTest::newRow("may not write to homes") << confined + "PrivateTmp=no\nProtectHome=read-only\n"
+                                            << QStringList();
+    QTest::newRow("a folder in place of its own")
+        << confined + "PrivateTmp=yes\nBindPaths=/srv/import:/tmp:rbind /srv/a:/a:rbind\n"
+        << QStringList();
+    QTest::newRow("HR's folder in the homes")
+        << confined + "ProtectHome=yes\nBindReadOnlyPaths=/srv/hr:/home/hr:rbind\n"
+        << QStringList{state};
+}
+
+void TestDoctor::theServiceMustSeeTheFiles()
+{
+    QFETCH(QByteArray, properties);
+    QFETCH(QStringList, messages);
+    write("MirovaHR.ini",
+          "importFile=/tmp/ron.data\nsyncCommandRun=2\n"
+          "syncCommand=\"mirovahrctl gate --from /home/hr/export.txt --to /tmp/ron.data "
+          "--state /root/gate\"\n");
+    setService("LoadState=loaded\nActiveState=active\nUnitFileState=enabled\n" + properties);
+    const ToolRun run = doctor();
+    QStringList reported;
+    const auto findings = run.findingsOf("service-cannot-see");
+    for (const QJsonObject &finding : findings)
+        reported << finding.value("message").toString();
+    QCOMPARE(reported, messages);
 }
 
 void TestDoctor::aMachineWithoutTheServiceHasNoSection()
