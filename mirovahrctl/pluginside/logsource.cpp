@@ -36,6 +36,16 @@ QByteArray nextBlock(QIODevice &device)
     return block;
 }
 
+/// Ends the program that still unpacks: a QProcess that goes away before it complains on standard
+/// error.
+void abandon(QIODevice &device)
+{
+    if (auto *const process = qobject_cast<QProcess *>(&device)) {
+        process->kill();
+        process->waitForFinished(-1);
+    }
+}
+
 } // namespace
 
 QString LogSource::unpacker(const QByteArray &beginning)
@@ -59,8 +69,10 @@ bool LogSource::forEachLine(const LineCutter::Visitor &visit)
         return false;
     LineCutter lines(visit);
     for (QByteArray block = nextBlock(*device); !block.isEmpty(); block = nextBlock(*device)) {
-        if (!lines.take({block.constData(), size_t(block.size())}))
+        if (!lines.take({block.constData(), size_t(block.size())})) {
+            abandon(*device);
             return true;
+        }
     }
     lines.finish();
     return finish(*device);

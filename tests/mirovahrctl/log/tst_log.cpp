@@ -6,6 +6,7 @@
 #include "tests/support/programrun.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -90,6 +91,7 @@ private Q_SLOTS:
     void optionsThatAreNone();
     void compressedLogsAreRead_data();
     void compressedLogsAreRead();
+    void aCompressedLogAmongOthersIsReadInItsPlace();
     void aDamagedArchiveIsAFailure();
     void aMissingFileIsAFailure();
     void rotatedLogsAreReadInTheOrderOfTheirTimes();
@@ -102,6 +104,7 @@ private Q_SLOTS:
 private:
     QString write(const QString &name, const QByteArray &content);
     ToolRun read(const QStringList &lines, const QStringList &options = {});
+    QString pack(const QString &program, const QStringList &lines);
 
     const LocalZone m_zone{"Europe/Bratislava"};
     QTemporaryDir m_folder;
@@ -119,6 +122,16 @@ ToolRun TestLog::read(const QStringList &lines, const QStringList &options)
 {
     const QString path = write("server.log", lines.join('\n').toUtf8());
     return runTool(QStringList{"log", "--json"} + options + QStringList{path});
+}
+
+/// Writes a log that this program has compressed.
+QString TestLog::pack(const QString &program, const QStringList &lines)
+{
+    const QString plain = write("plain", lines.join('\n').toUtf8());
+    const QString packed = m_folder.filePath("packed");
+    if (QProcess::execute("sh", {"-c", program + " -c < \"$0\" > \"$1\"", plain, packed}) != 0)
+        qFatal("%s cannot compress", qPrintable(program));
+    return packed;
 }
 
 void TestLog::aSynchronisationHasATimeInEveryForm_data()
@@ -604,14 +617,23 @@ void TestLog::compressedLogsAreRead_data()
 void TestLog::compressedLogsAreRead()
 {
     QFETCH(QString, program);
-    const QString path = write("plain", synchronisation(1, "01:00", "01:01").join('\n').toUtf8());
-    const QString packed = m_folder.filePath("packed");
-    ProgramRun pack;
-    QVERIFY(pack.run("sh", {"-c", program + " -c < \"$0\" > \"$1\"", path, packed}));
-    COMPARE_STATUS(pack, 0);
-    const ToolRun run = runTool({"log", "--json", packed});
+    const ToolRun run =
+        runTool({"log", "--json", pack(program, synchronisation(1, "01:00", "01:01"))});
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(numbers(run), QVector<int>{1});
+}
+
+/// Its beginning, which is looked at first, is all that is unpacked then.
+void TestLog::aCompressedLogAmongOthersIsReadInItsPlace()
+{
+    const QString late = write("log", synchronisation(2, "02:00", "02:01").join('\n').toUtf8());
+    const QString early = pack("gzip", synchronisation(1, "01:00", "01:01"));
+    ProgramRun run;
+    QVERIFY(run.run(MIROVAHRCTL, {"log", late, early}));
+    COMPARE_STATUS(run, 0);
+    QVERIFY2(run.output().contains("The log shows 2 synchronisations, 0 errors and 0 warnings."),
+             run.report().constData());
+    QCOMPARE(run.errors(), QString());
 }
 
 void TestLog::aDamagedArchiveIsAFailure()
