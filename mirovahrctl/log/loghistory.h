@@ -101,6 +101,7 @@ struct LogHistory {
     bool hasTimes = false; ///< a line of the plugin has one
     std::optional<QDateTime> firstTime;
     std::optional<QDateTime> lastTime;
+    std::optional<QDateTime> endTime; ///< of the log, whoever wrote its last line
     LoggedProblems problemsBefore; ///< before the first synchronisation
     QVector<LoggedSynchronisation> synchronisations;
     QVector<LoggedRun> runs;

@@ -98,6 +98,7 @@ LogHistoryBuilder::LogHistoryBuilder(const QDateTime &now, LogListener *listener
 void LogHistoryBuilder::take(std::string_view line)
 {
     ++m_history.lines;
+    m_lastLine.assign(line.substr(0, LineTime::kLongestPrefix));
     LoggedText message;
     const LogMatcher::Outcome outcome = matcher().find(line, message);
     if (outcome == LogMatcher::Outcome::Foreign)
@@ -123,7 +124,11 @@ void LogHistoryBuilder::take(std::string_view line)
 
 LogHistory LogHistoryBuilder::finish()
 {
-    m_history.lastTime = m_times.of({m_lastPrefix.constData(), size_t(m_lastPrefix.size())});
+    const auto length = size_t(m_lastPrefix.size());
+    m_history.lastTime = m_times.of({m_lastPrefix.constData(), length});
+    // No further than the plugin's lines have theirs: the texts of others may name any time.
+    const auto lastOfAll = m_times.of(std::string_view(m_lastLine).substr(0, length));
+    m_history.endTime = std::max(m_history.lastTime, lastOfAll);
     if (m_isWithin)
         m_history.synchronisations.last().isLast = true;
     return m_history;

@@ -4,6 +4,8 @@
 #include "mirovahrctl/log/loghistory.h"
 #include "mirovahrctl/log/logmatcher.h"
 
+#include <string>
+
 /// Learns what a line shows while the log is read.
 class LogListener {
 public:
@@ -72,4 +74,5 @@ private:
     QByteArray m_mentioned; ///< whom the current line names; empty for nobody
     bool m_correctionPending = false; ///< the last line is about a correction that is written
     QByteArray m_lastPrefix; ///< of the last line of the plugin
+    std::string m_lastLine; ///< the beginning of the last line, whoever wrote it
 };

@@ -88,8 +88,8 @@ private:
     void searchEnd()
     {
         const LoggedRun &last = m_history.runs.last();
-        if (!last.hasStopped && m_history.lastTime && !ticksOf(last).isEmpty())
-            note(ticksOf(last).last().time, m_history.lastTime->toSecsSinceEpoch(), true);
+        if (!last.hasStopped && m_history.endTime && !ticksOf(last).isEmpty())
+            note(ticksOf(last).last().time, m_history.endTime->toSecsSinceEpoch(), true);
     }
 
     void note(qint64 last, qint64 next, bool isOpen)

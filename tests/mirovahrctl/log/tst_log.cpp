@@ -72,6 +72,8 @@ private Q_SLOTS:
     void aSynchronisationThatStillRunsIsANote();
     void anEndWithoutBeginIsANote();
     void aMissingSynchronisationIsFound();
+    void whenOnlyOthersGoOnASynchronisationIsMissing_data();
+    void whenOnlyOthersGoOnASynchronisationIsMissing();
     void aTickThatNeverCameIsFound();
     void aSynchronisationThatKeepsTheWorkerBusyMissesNoTick();
     void forcedSynchronisationsAreNoMeasure();
@@ -421,6 +423,41 @@ void TestLog::aMissingSynchronisationIsFound()
     const ToolRun stopped =
         read(lines.mid(0, 12) + QStringList{"2021-11-22 09:00:00 Stop MirovaHR.."});
     COMPARE_EXIT(stopped, ExitStatus::Fine);
+}
+
+void TestLog::whenOnlyOthersGoOnASynchronisationIsMissing_data()
+{
+    QTest::addColumn<QString>("last");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("for hours")
+        << "2021-11-22 09:00:00 host cron[1]: done"
+        << QStringList{"No synchronisation came between 2021-11-22T04:00:00+01:00 and "
+                       "2021-11-22T09:00:00+01:00, although one usually comes every 3600 seconds; "
+                       "the log ends then."};
+    QTest::newRow("for a while") << "2021-11-22 05:10:00 host cron[1]: done" << QStringList();
+    QTest::newRow("in a line with a time in its text")
+        << "2021-11-22 05:10:00 host cron[1]: next at 2021-11-22 09:00:00" << QStringList();
+    QTest::newRow("in a text with a time and none before it")
+        << "the next job of the night begins at 2021-11-22 09:00:00" << QStringList();
+    QTest::newRow("in a line without a time") << "done" << QStringList();
+    QTest::newRow("in a line of an earlier time")
+        << "2021-11-22 03:00:00 host cron[1]: done" << QStringList();
+}
+
+/// The plugin cannot log that it has hung or died.
+void TestLog::whenOnlyOthersGoOnASynchronisationIsMissing()
+{
+    QFETCH(QString, last);
+    QStringList lines;
+    for (const int hour : {1, 2, 3, 4})
+        lines += synchronisation(hour, QString("0%1:00").arg(hour), QString("0%1:01").arg(hour));
+    const ToolRun run = read(lines + QStringList{last});
+    QStringList messages;
+    const auto findings = run.findingsOf("no-synchronisation");
+    for (const QJsonObject &finding : findings)
+        messages << finding["message"].toString();
+    QTEST(messages, "messages");
+    QCOMPARE(fact(run)["to"].toString(), QString("2021-11-22T04:01:00+01:00"));
 }
 
 void TestLog::aTickThatNeverCameIsFound()
