@@ -50,6 +50,8 @@ QString thingText(Role role)
         return Text::tr("supervisor %1");
     case Role::File:
         return Text::tr("file %1");
+    case Role::Command:
+        return Text::tr("command %1");
     case Role::Code:
         return Text::tr("code %1");
     default:

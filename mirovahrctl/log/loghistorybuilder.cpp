@@ -63,6 +63,7 @@ bool isThing(Role role)
     case Role::Calendar:
     case Role::Supervisor:
     case Role::File:
+    case Role::Command:
     case Role::Code:
         return true;
     default:

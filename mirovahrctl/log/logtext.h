@@ -28,6 +28,7 @@ enum class Role {
     Calendar,
     Supervisor, ///< a personal number
     File,
+    Command,
     Code, ///< how a command ended
     ErrorNumber, ///< the database's, which the form has
 };

@@ -119,7 +119,7 @@ constexpr LogText kTicksCommandAndFile[] = {
      QT_TRANSLATE_NOOP("Text",
                        "The code says why: -2 it could not be started, -1 it crashed, otherwise it "
                        "is its own status (5 of the gate: refused)."),
-     {Role::File, Role::Code}},
+     {Role::Command, Role::Code}},
     {"MHRWorker: isql process %s", "critical", Form::Whole,
      QT_TRANSLATE_NOOP("Text", "A helper process failed. The plugin starts none itself."),
      QT_TRANSLATE_NOOP("Text", "Look for the component of the server that starts it.")},

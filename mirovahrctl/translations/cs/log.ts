@@ -144,6 +144,10 @@ S volbou --follow pokračuje, dokud se protokol zapisuje, i když se soubor rotu
         <translation>soubor %1</translation>
     </message>
     <message>
+        <source>command %1</source>
+        <translation>příkaz %1</translation>
+    </message>
+    <message>
         <source>code %1</source>
         <translation>kód %1</translation>
     </message>

@@ -144,6 +144,10 @@ S voľbou --follow pokračuje, kým sa protokol zapisuje, aj keď sa súbor rotu
         <translation>súbor %1</translation>
     </message>
     <message>
+        <source>command %1</source>
+        <translation>príkaz %1</translation>
+    </message>
+    <message>
         <source>code %1</source>
         <translation>kód %1</translation>
     </message>

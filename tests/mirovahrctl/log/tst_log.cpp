@@ -63,6 +63,7 @@ private Q_SLOTS:
     void aNameWithAnApostropheIsWhole();
     void problemsOfOneThingAreOneFinding();
     void whatComesAfterTheEndIsAboutNobody();
+    void aCommandThatFailedIsNamedWithItsCode();
     void whatNeedsNoActionIsANote();
     void anErrorTakesBackOnlyWhatTheLogHasCounted();
     void aBalanceOutOfRangeTakesBackNoCorrection();
@@ -259,6 +260,16 @@ void TestLog::whatComesAfterTheEndIsAboutNobody()
     const ToolRun run = read(QStringList{whole.first(), "MHRWorker::dbCheckFundMove(pid: 12351)"}
                              + whole.mid(1) + QStringList{error});
     QCOMPARE(run.findingsOf("logged-error").value(0)["subject"].toString(), QString());
+}
+
+void TestLog::aCommandThatFailedIsNamedWithItsCode()
+{
+    const ToolRun run = read({"MHRWorker::runCommand() - command: 'mirovahrctl gate --from "
+                              "/var/lib/yav/hr/export.txt' exit with code: 5"});
+    const QString message = run.findingsOf("logged-warning").value(0)["message"].toString();
+    QVERIFY2(message.contains("It is about command mirovahrctl gate --from "
+                              "/var/lib/yav/hr/export.txt, code 5."),
+             qPrintable(message));
 }
 
 void TestLog::problemsOfOneThingAreOneFinding()
