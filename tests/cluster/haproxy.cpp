@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <csignal>
 
+#include <unistd.h>
+
 namespace {
 
 bool write(const QString &path, const QString &content)
@@ -85,7 +87,10 @@ bool HaProxy::writeConfiguration()
 {
     QMap<QString, QString> places = {{"127.0.0.1:3306", "unix@" + socketPath()},
                                      {"/run/haproxy/admin.sock", administratorsSocketPath()},
-                                     {"/etc/haproxy/wsrep-check", checkPath()}};
+                                     {"/etc/haproxy/wsrep-check", checkPath()},
+                                     // The program's own, whose folder nobody else may enter.
+                                     {"user haproxy", QStringLiteral("uid %1").arg(geteuid())},
+                                     {"group haproxy", QStringLiteral("gid %1").arg(getegid())}};
     for (int number = 1; number <= m_cluster.size(); ++number) {
         const ClusterNode &node = m_cluster.node(number);
         places.insert(QStringLiteral("192.0.2.%1:3306").arg(number),
