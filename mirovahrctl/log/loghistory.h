@@ -25,7 +25,7 @@ struct LoggedProblem {
     bool isError = false;
     LoggedThings things; ///< that it is about besides people
     qint64 count = 0;
-    qint64 interruptions = 0; ///< of these: a deadlock, a lock's timeout, a lost connection
+    qint64 interruptions = 0; ///< of these: see Interruptions
     std::optional<QDateTime> first;
     std::optional<QDateTime> last;
     QHash<QByteArray, qint64> people; ///< how often for whom: payroll ids or pids

@@ -9,7 +9,8 @@
 namespace {
 
 constexpr std::string_view kMessages[] = {"Deadlock found", "Lock wait timeout exceeded",
-                                          "gone away", "Lost connection"};
+                                          "gone away", "Lost connection",
+                                          "WSREP has not yet prepared node"};
 
 /// What the texts of the plugin's operations begin with, and the word of every error.
 constexpr std::string_view kClasses[] = {
@@ -39,7 +40,7 @@ bool Interruptions::isLoggedIn(std::string_view line)
 
 QString Interruptions::sentence(qint64 count)
 {
-    return Text::tr("%Ln statement(s) failed through a deadlock, the timeout of a lock or a lost "
-                    "connection.",
+    return Text::tr("%Ln statement(s) failed through a deadlock, the timeout of a lock, a lost "
+                    "connection or a cluster node that was not ready.",
                     nullptr, Language::count(count));
 }

@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// Errors in the plugin's log that pass by themselves, and with them what the statement was to
-/// write: deadlocks, timeouts of locks, lost connections.
+/// write: deadlocks, timeouts of locks, lost connections, refusals of a cluster's node.
 namespace Interruptions {
 
 /// Whether a text of the plugin has such an error. Not every text has the server's number.

@@ -7,8 +7,9 @@ namespace LogRules {
 
 inline constexpr Rule kInterrupted{
     "interrupted", Severity::Warning,
-    QT_TRANSLATE_NOOP(
-        "Text", "Statements failed through a deadlock, a lock's timeout or a lost connection."),
+    QT_TRANSLATE_NOOP("Text",
+                      "Statements failed through a deadlock, a lock's timeout, a lost connection "
+                      "or a cluster node that was not ready."),
     QT_TRANSLATE_NOOP(
         "Text",
         "What they were to write may be missing for good: force a synchronisation with the same "

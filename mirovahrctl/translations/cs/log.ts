@@ -1013,8 +1013,8 @@ S volbou --follow pokračuje, dokud se protokol zapisuje, i když se soubor rotu
         <translation>Nadřízení</translation>
     </message>
     <message>
-        <source>Statements failed through a deadlock, a lock&apos;s timeout or a lost connection.</source>
-        <translation>Příkazy selhaly kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku nebo ztrátě spojení.</translation>
+        <source>Statements failed through a deadlock, a lock&apos;s timeout, a lost connection or a cluster node that was not ready.</source>
+        <translation>Příkazy selhaly kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku, ztrátě spojení nebo nepřipravenému uzlu clusteru.</translation>
     </message>
     <message>
         <source>What they were to write may be missing for good: force a synchronisation with the same export, then run mirovahrctl drift. Look out for more: a failed COMMIT is not logged.</source>

@@ -12,11 +12,11 @@
         <translation>Příznak vynucení nelze zapsat: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%Ln statement(s) failed through a deadlock, the timeout of a lock or a lost connection.</source>
+        <source>%Ln statement(s) failed through a deadlock, the timeout of a lock, a lost connection or a cluster node that was not ready.</source>
         <translation>
-            <numerusform>%Ln příkaz selhal kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku nebo ztrátě spojení.</numerusform>
-            <numerusform>%Ln příkazy selhaly kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku nebo ztrátě spojení.</numerusform>
-            <numerusform>%Ln příkazů selhalo kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku nebo ztrátě spojení.</numerusform>
+            <numerusform>%Ln příkaz selhal kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku, ztrátě spojení nebo nepřipravenému uzlu clusteru.</numerusform>
+            <numerusform>%Ln příkazy selhaly kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku, ztrátě spojení nebo nepřipravenému uzlu clusteru.</numerusform>
+            <numerusform>%Ln příkazů selhalo kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku, ztrátě spojení nebo nepřipravenému uzlu clusteru.</numerusform>
         </translation>
     </message>
     <message>

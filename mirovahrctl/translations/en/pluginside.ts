@@ -4,10 +4,10 @@
 <context>
     <name>Text</name>
     <message numerus="yes">
-        <source>%Ln statement(s) failed through a deadlock, the timeout of a lock or a lost connection.</source>
+        <source>%Ln statement(s) failed through a deadlock, the timeout of a lock, a lost connection or a cluster node that was not ready.</source>
         <translation>
-            <numerusform>%Ln statement failed through a deadlock, the timeout of a lock or a lost connection.</numerusform>
-            <numerusform>%Ln statements failed through a deadlock, the timeout of a lock or a lost connection.</numerusform>
+            <numerusform>%Ln statement failed through a deadlock, the timeout of a lock, a lost connection or a cluster node that was not ready.</numerusform>
+            <numerusform>%Ln statements failed through a deadlock, the timeout of a lock, a lost connection or a cluster node that was not ready.</numerusform>
         </translation>
     </message>
 </context>

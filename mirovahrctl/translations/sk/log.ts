@@ -1013,8 +1013,8 @@ S voľbou --follow pokračuje, kým sa protokol zapisuje, aj keď sa súbor rotu
         <translation>Nadriadení</translation>
     </message>
     <message>
-        <source>Statements failed through a deadlock, a lock&apos;s timeout or a lost connection.</source>
-        <translation>Príkazy zlyhali kvôli vzájomnému zablokovaniu (deadlock), vypršaniu časového limitu zámku alebo strate spojenia.</translation>
+        <source>Statements failed through a deadlock, a lock&apos;s timeout, a lost connection or a cluster node that was not ready.</source>
+        <translation>Príkazy zlyhali kvôli vzájomnému zablokovaniu (deadlock), vypršaniu časového limitu zámku, strate spojenia alebo nepripravenému uzlu klastra.</translation>
     </message>
     <message>
         <source>What they were to write may be missing for good: force a synchronisation with the same export, then run mirovahrctl drift. Look out for more: a failed COMMIT is not logged.</source>

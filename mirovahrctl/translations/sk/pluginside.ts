@@ -12,11 +12,11 @@
         <translation>Príznak vynútenia sa nedá zapísať: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%Ln statement(s) failed through a deadlock, the timeout of a lock or a lost connection.</source>
+        <source>%Ln statement(s) failed through a deadlock, the timeout of a lock, a lost connection or a cluster node that was not ready.</source>
         <translation>
-            <numerusform>%Ln príkaz zlyhal pre vzájomné zablokovanie (deadlock), vypršanie časového limitu zámku alebo stratu spojenia.</numerusform>
-            <numerusform>%Ln príkazy zlyhali pre vzájomné zablokovanie (deadlock), vypršanie časového limitu zámku alebo stratu spojenia.</numerusform>
-            <numerusform>%Ln príkazov zlyhalo pre vzájomné zablokovanie (deadlock), vypršanie časového limitu zámku alebo stratu spojenia.</numerusform>
+            <numerusform>%Ln príkaz zlyhal pre vzájomné zablokovanie (deadlock), vypršanie časového limitu zámku, stratu spojenia alebo nepripravený uzol klastra.</numerusform>
+            <numerusform>%Ln príkazy zlyhali pre vzájomné zablokovanie (deadlock), vypršanie časového limitu zámku, stratu spojenia alebo nepripravený uzol klastra.</numerusform>
+            <numerusform>%Ln príkazov zlyhalo pre vzájomné zablokovanie (deadlock), vypršanie časového limitu zámku, stratu spojenia alebo nepripravený uzol klastra.</numerusform>
         </translation>
     </message>
     <message>

@@ -353,6 +353,11 @@ void TestLog::anInterruptedStatementPointsToDrift_data()
         << true;
     QTest::newRow("a server that is gone")
         << "MHRWorker::dbLoadBranches() - SQL ERROR [2006]: Server has gone away" + execute << true;
+    QTest::newRow("a node that has lost its cluster")
+        << "MHRWorker::dbSetAdminPeopleRequest() - SQL ERROR [1047]: WSREP has not yet prepared "
+           "node for application use"
+            + execute
+        << true;
     QTest::newRow("another error")
         << "MHRWorker::dbUpdatePerson(1235.1) - SQL ERROR: Data too long" + execute << false;
     QTest::newRow("a name that says so")
@@ -373,8 +378,8 @@ void TestLog::anInterruptedStatementPointsToDrift()
     if (!isInterruption)
         return;
     QCOMPARE(found.first()["message"].toString(),
-             QString("2 statements failed through a deadlock, the timeout of a lock or a lost "
-                     "connection."));
+             QString("2 statements failed through a deadlock, the timeout of a lock, a lost "
+                     "connection or a cluster node that was not ready."));
     QVERIFY(found.first()["advice"].toString().contains("mirovahrctl drift"));
 }
 

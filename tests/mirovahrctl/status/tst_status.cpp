@@ -743,8 +743,8 @@ void TestStatus::aLogWithAnInterruptionPointsToDrift()
     const QJsonObject finding = run.findingsOf("interrupted").value(0);
     QCOMPARE(finding.value("message").toString(),
              isInterruption
-                 ? QString("1 statement failed through a deadlock, the timeout of a lock "
-                           "or a lost connection.")
+                 ? QString("1 statement failed through a deadlock, the timeout of a lock, a lost "
+                           "connection or a cluster node that was not ready.")
                  : QString());
     QCOMPARE(finding.value("advice").toString().contains("mirovahrctl drift"), isInterruption);
 }
