@@ -75,6 +75,7 @@ private Q_SLOTS:
     void theCheckPassesASyncedNode();
     void theCheckRefusesANodeThatIsNotPrimary();
     void theCheckRefusesANodeThatLagsBehind();
+    void theCheckRefusesANodeThatRefusesQueries();
     void theCheckRefusesAFrozenNode();
     void aNodeThatIsNotPrimaryCostsThePluginItsExport();
     void withAReadTimeoutAFrozenNodeIsLeft();
@@ -243,6 +244,16 @@ void TestClusterService::theCheckRefusesANodeThatLagsBehind()
     database.run("SET GLOBAL wsrep_desync = ON");
     QCOMPARE(checkOf(1), 1);
     database.run("SET GLOBAL wsrep_desync = OFF");
+}
+
+/// As its administrator tells it to before maintenance. It still answers SHOW.
+void TestClusterService::theCheckRefusesANodeThatRefusesQueries()
+{
+    TestDatabase database;
+    QVERIFY(database.attach(m_cluster.node(1).server()));
+    database.run("SET GLOBAL wsrep_reject_queries = ALL");
+    QCOMPARE(checkOf(1), 1);
+    database.run("SET GLOBAL wsrep_reject_queries = NONE");
 }
 
 void TestClusterService::theCheckRefusesAFrozenNode()
