@@ -46,6 +46,7 @@ bool HaProxy::start()
         return false;
     QFile::remove(socketPath());
     m_process.start(program, {"-db", "-f", configurationPath()});
+    m_process.waitForStarted(-1);
     const bool listens =
         pollUntil([this] { return QFile::exists(socketPath()) || m_process.waitForFinished(0); });
     return (listens && m_process.state() == QProcess::Running)
