@@ -105,6 +105,7 @@ QString withoutQuotations(QString output)
     static const QRegularExpression control("\x1b\\[[0-9;]*[A-Za-z]"); // of a terminal
     static const QRegularExpression exportLine(R"re("lineText": ?"(?:[^"\\]|\\.)*")re");
     static const QRegularExpression logLine(R"re((?:\w+::\w+|\bMHRWorker:? )[^"\n]*)re");
+    static const QRegularExpression serverVersion(R"re(\S+-MariaDB\S* from Debian)re");
     // In the language of the gate, which is another run.
     static const QRegularExpression reasons(R"re((?<=The gate has refused )[^:]*:[^"\n]*)re");
     if (output.startsWith("<!DOCTYPE html>"))
@@ -112,7 +113,8 @@ QString withoutQuotations(QString output)
     else if (output.startsWith('{'))
         output.remove(exportLine).replace("\\n", "\n");
     output.replace(control, "\n");
-    return output.remove(logLine).remove(foreignMessage()).remove(reasons);
+    output.remove(logLine).remove(foreignMessage()).remove(serverVersion);
+    return output.remove(reasons);
 }
 
 TranslatedTexts::TranslatedTexts()

@@ -7,8 +7,8 @@
 #include <QTranslator>
 
 /// An output (a text, a page or JSON) without its tags and escapes, and without what it quotes as
-/// it is: lines of an export and of the plugin's log, messages of the database server, and reasons
-/// of the gate.
+/// it is: lines of an export and of the plugin's log, messages and version of the database server,
+/// and reasons of the gate.
 QString withoutQuotations(QString output);
 
 /// Notes which texts the program takes from its translations, from its construction on.

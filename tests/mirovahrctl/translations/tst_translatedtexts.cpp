@@ -98,6 +98,7 @@ void TestTranslatedTexts::whatIsQuotedIsNotMissing_data()
     QTest::newRow("a name") << "1234.1 Jana Nováková";
     QTest::newRow("the plugin's log") << "MHRWorker::checkSync(): this is the tick";
     QTest::newRow("the server") << "SELECT command denied to user 'a'@'b' for table `vars`";
+    QTest::newRow("its version") << "11.8.6-MariaDB-0+deb13u1 from Debian.";
     QTest::newRow("a line of an export") << "{\"lineText\": \"x|of the export\"}";
 }
 
