@@ -155,11 +155,12 @@ ExitStatus ExplainRun::explain(const SqlSession &site)
     if (!forced)
         return m_console.fail(ExitStatus::ContractBroken, flag.errorString());
     m_source.isForced = *forced;
-    m_report.begin(m_line.subcommand(), Text::tr("What happens to %1").arg(m_person->name()));
-    PersonExplanation explanation(*m_person, m_source, view, m_report);
-    const QString verdict = explanation.explain(m_lines ? &*m_lines : nullptr);
+    PersonExplanation explanation(*m_person, m_source, view);
+    explanation.assess(m_lines ? &*m_lines : nullptr);
     if (!view.errorString().isEmpty())
         return failView();
+    m_report.begin(m_line.subcommand(), Text::tr("What happens to %1").arg(m_person->name()));
+    const QString verdict = explanation.writeTo(m_report);
     return m_report.conclude(verdict);
 }
 

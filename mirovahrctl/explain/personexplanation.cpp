@@ -3,7 +3,6 @@
 #include "cli/text.h"
 #include "mirovahrctl/explain/phrases.h"
 #include "mirovahrctl/export/personname.h"
-#include "mirovahrctl/program/report.h"
 #include "mirovahrctl/report/finding.h"
 #include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/rules/explainrules.h"
@@ -32,16 +31,15 @@ QString admittedFile(const SiteExport &file)
 } // namespace
 
 PersonExplanation::PersonExplanation(const PersonId &person, const ExplainedSource &source,
-                                     PluginView &view, Report &report)
+                                     PluginView &view)
     : m_person(person)
     , m_source(source)
-    , m_report(report)
     , m_context{source.configuration.values(), view, m_details, source.texts.server,
                 PersonState(view, person.pid(), source.isForced)}
 {
 }
 
-QString PersonExplanation::explain(const PersonLines *lines)
+void PersonExplanation::assess(const PersonLines *lines)
 {
     m_hasExport = lines != nullptr;
     explainConfiguration();
@@ -61,9 +59,13 @@ QString PersonExplanation::explain(const PersonLines *lines)
     else
         explainRecords(lines->lines());
     explainMemory();
-    writeFacts();
-    writeAnswer();
-    m_details.replay(m_report);
+    recordFacts();
+}
+
+QString PersonExplanation::writeTo(ReportWriter &report) const
+{
+    writeAnswer(report);
+    m_details.replay(report);
     return verdict();
 }
 

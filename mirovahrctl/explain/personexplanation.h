@@ -9,8 +9,6 @@
 
 #include <QString>
 
-class Report;
-
 /// What a person's explanation is based on, besides the database.
 struct ExplainedSource {
     PluginConfiguration configuration;
@@ -23,13 +21,15 @@ struct ExplainedSource {
 /// the answer, although that depends on everything after it.
 class PersonExplanation {
 public:
-    /// \a source must live longer than this object.
-    PersonExplanation(const PersonId &person, const ExplainedSource &source, PluginView &view,
-                      Report &report);
+    /// \a source and \a view must live longer than this object.
+    PersonExplanation(const PersonId &person, const ExplainedSource &source, PluginView &view);
 
-    /// \a lines: the person's lines; null when there is no export. Returns the verdict in one
-    /// sentence.
-    QString explain(const PersonLines *lines);
+    /// Reads the database and assesses everything. \a lines: the person's lines; null when there is
+    /// no export. Where a statement fails, which the view's errorString() then says, nothing of it
+    /// is true of the person.
+    void assess(const PersonLines *lines);
+    /// Writes what assess() has found. Returns the verdict in one sentence.
+    QString writeTo(ReportWriter &report) const;
 
 private:
     void explainConfiguration();
@@ -47,10 +47,10 @@ private:
     void explainRecords(const QVector<CheckedLine> &lines);
     void explainMemory();
     RecordOutcome outcomeOfAll();
-    void writeFacts();
-    void writeRecalculation();
+    void recordFacts();
+    void recordRecalculation();
     /// Did the person arrive, what is different from HR, who must do what.
-    void writeAnswer();
+    void writeAnswer(ReportWriter &report) const;
     QString arrival() const;
     QString differences() const;
     QStringList duties() const;
@@ -59,7 +59,6 @@ private:
 
     const PersonId m_person;
     const ExplainedSource &m_source;
-    Report &m_report;
     RecordedReport m_details; ///< everything but the answer
     ExplainContext m_context;
     bool m_hasExport = false;

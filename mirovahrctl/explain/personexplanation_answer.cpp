@@ -3,7 +3,6 @@
 #include "mirovahrctl/explain/personexplanation.h"
 
 #include "cli/text.h"
-#include "mirovahrctl/program/report.h"
 
 #include <algorithm>
 
@@ -72,17 +71,17 @@ QString dutyOf(const Finding &finding)
 
 } // namespace
 
-void PersonExplanation::writeAnswer()
+void PersonExplanation::writeAnswer(ReportWriter &report) const
 {
-    m_report.answer(verdict());
-    m_report.section(QStringLiteral("answer"), Text::tr("In short"));
-    m_report.sentence(arrival());
+    report.answer(verdict());
+    report.section(QStringLiteral("answer"), Text::tr("In short"));
+    report.sentence(arrival());
     const QString different = differences();
     if (!different.isEmpty())
-        m_report.sentence(different);
+        report.sentence(different);
     const QStringList all = duties();
     for (const QString &duty : all)
-        m_report.sentence(duty);
+        report.sentence(duty);
 }
 
 QString PersonExplanation::arrival() const

@@ -49,7 +49,7 @@ QVariantList lineRow(qint64 number, const RecordOutcome &outcome)
 
 } // namespace
 
-void PersonExplanation::writeFacts()
+void PersonExplanation::recordFacts()
 {
     ReportWriter &report = m_context.report;
     report.section(QStringLiteral("summary"), Text::tr("Summary"));
@@ -70,11 +70,11 @@ void PersonExplanation::writeFacts()
         report.fact(QString::fromLatin1(fact.id), Text::tr(fact.label),
                     Phrases::word((*m_outcome).*fact.word, "outcome"));
     }
-    writeRecalculation();
+    recordRecalculation();
     report.fact(QStringLiteral("waits"), Text::tr("Waits afterwards"), m_outcome->waits);
 }
 
-void PersonExplanation::writeRecalculation()
+void PersonExplanation::recordRecalculation()
 {
     ReportWriter &report = m_context.report;
     QStringList causes;

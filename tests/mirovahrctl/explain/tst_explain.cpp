@@ -102,10 +102,12 @@ private Q_SLOTS:
     void aServerInAnotherTimeZoneIsRefused();
     void aDatabaseWithoutATableBreaksTheContract_data();
     void aDatabaseWithoutATableBreaksTheContract();
+    void anAccountThatMayNotReadTheRowLearnsNothingOfThePerson();
     void everyRuleHasItsFixtures();
 
 private:
     ToolRun explain(const ExportRow &line, const QStringList &more = {});
+    ToolRun explainAsText(const QString &person, const QStringList &more = {});
     void run(const QStringList &changes);
 
     TestDatabase m_db;
@@ -129,6 +131,12 @@ ToolRun TestExplain::explain(const ExportRow &line, const QStringList &more)
 {
     m_site.exportFile().write({line.text()});
     return m_site.explain(line.osobniCislo + "." + line.poradoveCisloPP, more);
+}
+
+ToolRun TestExplain::explainAsText(const QString &person, const QStringList &more)
+{
+    return runTool(QStringList{"explain", person, "--config", m_site.configurationPath()}
+                   + m_site.connection() + more);
 }
 
 void TestExplain::run(const QStringList &changes)
@@ -231,9 +239,7 @@ void TestExplain::theTextForPeopleIsPlain()
                                    .with(&ExportRow::datumNastupu, QDate(2026, 1, 1))
                                    .with(&ExportRow::kalendarPlatnostOd, QDate(2026, 1, 1))
                                    .text()});
-    const ToolRun run =
-        runTool(QStringList{"explain", "3301.1", "--config", m_site.configurationPath()}
-                + m_site.connection());
+    const ToolRun run = explainAsText("3301.1");
     COMPARE_EXIT(run, ExitStatus::Findings);
     const QString file = m_site.exportFile().path();
     QVERIFY2(run.out.startsWith("What happens to 3301.1\n======================\n\n"
@@ -1271,6 +1277,18 @@ void TestExplain::aDatabaseWithoutATableBreaksTheContract()
     COMPARE_EXIT(run, ExitStatus::ContractBroken);
     QVERIFY2(run.err.startsWith("mirovahrctl: explain: The database "), run.report().constData());
     QVERIFY2(run.failure().startsWith("The database "), run.report().constData());
+    QCOMPARE(ExplainedSite::sections(run), QStringList());
+    QCOMPARE(explainAsText("1234.1").out, QString());
+}
+
+/// The plugin itself does not read all of the row.
+void TestExplain::anAccountThatMayNotReadTheRowLearnsNothingOfThePerson()
+{
+    m_site.exportFile().write({SampleExport::jana().text()});
+    const ToolRun run = explainAsText("1234.1", {"--user", "yav"});
+    COMPARE_EXIT(run, ExitStatus::ContractBroken);
+    QVERIFY2(run.err.contains("SELECT command denied to user 'yav'"), run.report().constData());
+    QCOMPARE(run.out, QString());
 }
 
 void TestExplain::everyRuleHasItsFixtures()
