@@ -6,6 +6,7 @@
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
 #include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/recordedreport.h"
 #include "mirovahrctl/site/dbschema.h"
 #include "mirovahrctl/site/sitedatabase.h"
 
@@ -125,12 +126,15 @@ ExitStatus check(const CommandLine &line, Report &report, Console &console)
     if (const auto end = site.open(line, DatabaseAccess::ReadOnly, console))
         return *end;
     const QSqlDatabase &db = site.sql().database();
-    report.begin(line.subcommand(), Text::tr("Database %1").arg(db.databaseName()));
-    DbAssessment check(db, report);
+    // On a lost connection statements that may fail fail for no reason of the database's.
+    RecordedReport assessed;
+    DbAssessment check(db, assessed);
     const bool answers = checkAll(check, site, requestOf(line, configuration));
-    // A statement that may fail may have been the last one.
+    // Such a statement may have been the last one.
     if (check.sql().failed() || (answers && !site.loss().isEmpty()))
         return console.fail(ExitStatus::NoDatabase, check.sql().failure());
+    report.begin(line.subcommand(), Text::tr("Database %1").arg(db.databaseName()));
+    assessed.replay(report);
     return report.conclude(check.isContractBroken() ? ExitStatus::ContractBroken
                                                     : report.findingsStatus(),
                            verdict(check));

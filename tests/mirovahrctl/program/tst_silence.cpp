@@ -167,6 +167,7 @@ void TestSilence::aLossAtTheLastStatementIsNoFinding()
     const ToolRun run = runUntilSilence(proxy, {"check-db"}, "CALL updateTermsSync");
     m_db.restoreTable("term");
     COMPARE_EXIT(run, ExitStatus::NoDatabase);
+    QCOMPARE(run.out, QString());
 }
 
 /// A node that has lost its cluster refuses the question whether it answers.
