@@ -97,11 +97,13 @@ ExitStatus PreviewCommand::run()
     PreviewView view;
     if (const auto end = readView(work, view))
         return *end;
+    PreviewReport report(work, m_configuration, view, m_report);
+    if (const auto refused = work.names().refusal())
+        return fail(*refused);
     m_report.begin(m_line.subcommand(), title());
     if (!m_line.isSet("details"))
         m_report.abbreviateText(
             Text::tr("--details shows everything, --html a page, --person one person"));
-    PreviewReport report(work, m_configuration, view, m_report);
     report.write();
     if (m_undo.isOpen())
         noteUndo();
@@ -118,6 +120,8 @@ std::optional<ExitStatus> PreviewCommand::writeUndo(PreviewWork &work, const Pre
     PreviewNames names(server.attendance());
     const PreviewUndoPlan plan = inEnglish(
         [&] { return PreviewUndoPlan(work.schema(), work.changes(), work.moments(), names); });
+    if (const auto refused = names.refusal())
+        return fail(*refused);
     const PreviewUndo undo(work.schema(), work.moments(), plan);
     if (const auto refused = undo.refusal())
         return fail(*refused);
@@ -147,6 +151,8 @@ std::optional<ExitStatus> PreviewCommand::readView(PreviewWork &work, PreviewVie
     if (!m_line.isSet("person"))
         return std::nullopt;
     view.uids = work.names().uidsNamed(view.person);
+    if (const auto refused = work.names().refusal())
+        return fail(*refused);
     if (!view.uids.isEmpty())
         return std::nullopt;
     return m_console.fail(

@@ -108,6 +108,16 @@ bool PreviewNames::isVacation(const QString &fid)
     return cell == QLatin1String("1");
 }
 
+std::optional<PreviewRefusal> PreviewNames::refusal() const
+{
+    if (!m_copy.failed())
+        return std::nullopt;
+    return PreviewRefusal{m_copy.isLost() ? ExitStatus::NoDatabase : ExitStatus::ContractBroken,
+                          Text::tr("The names in the copy cannot be read: %1. Run check-db for "
+                                   "details")
+                              .arg(m_copy.errorString())};
+}
+
 QString PreviewNames::known(const char *sql, const QString &id, const Namer &namer)
 {
     if (id.isEmpty())

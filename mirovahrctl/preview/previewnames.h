@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mirovahrctl/preview/previewrefusal.h"
 #include "mirovahrctl/site/sqlsession.h"
 
 #include <QHash>
@@ -8,6 +9,8 @@
 #include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 /// Readable names for the ids in the tables, from the copy after the synchronisation. An id that is
 /// not there gets its kind and number. The names are in the language in use.
@@ -29,6 +32,9 @@ public:
     QString terminal(const QString &tid);
     /// Whether it is the fund of the vacation, counted in days.
     bool isVacation(const QString &fid);
+
+    /// Why names are missing although the copy may have them; nothing when all could be read.
+    std::optional<PreviewRefusal> refusal() const;
 
 private:
     /// Makes the name of an id by the row that a query has found; the row is empty when there is

@@ -776,5 +776,9 @@
         <source>Something may let the plugin reach more rows than by itself, so all were copied: it took longer.</source>
         <translation>Zásuvný modul může z nějakého důvodu pracovat s více řádky než sám od sebe, proto se zkopírovaly všechny: trvalo to déle.</translation>
     </message>
+    <message>
+        <source>The names in the copy cannot be read: %1. Run check-db for details</source>
+        <translation>Jména a názvy v kopii nelze přečíst: %1. Podrobnosti zjistí check-db</translation>
+    </message>
 </context>
 </TS>

@@ -776,5 +776,9 @@
         <source>Something may let the plugin reach more rows than by itself, so all were copied: it took longer.</source>
         <translation>Zásuvný modul môže z nejakého dôvodu pracovať s viac riadkami než sám od seba, preto sa skopírovali všetky: trvalo to dlhšie.</translation>
     </message>
+    <message>
+        <source>The names in the copy cannot be read: %1. Run check-db for details</source>
+        <translation>Mená a názvy v kópii sa nedajú prečítať: %1. Podrobnosti zistí check-db</translation>
+    </message>
 </context>
 </TS>

@@ -50,6 +50,8 @@ private Q_SLOTS:
     void aViewThatARoutineUsesIsReported();
     void aSiteOfAnotherVersionIsReported();
     void aStatementThatFailsIsReported();
+    void namesThatCannotBeReadAreNoMissingPeople_data();
+    void namesThatCannotBeReadAreNoMissingPeople();
     void theCopyIsGoneAfterASignal_data();
     void theCopyIsGoneAfterASignal();
     void aSynchronisationThatDoesNotTakePlaceIsNoResult();
@@ -295,6 +297,27 @@ void TestPreview::aStatementThatFailsIsReported()
     QCOMPARE(tool.findingsOf("plugin-error").constFirst().value("advice").toString(),
              QString("The text is that of the plugin's log: docs/operations.md says what it means "
                      "and what to do."));
+}
+
+void TestPreview::namesThatCannotBeReadAreNoMissingPeople_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("report") << QStringList{};
+    QTest::newRow("undo") << QStringList{"--undo", path("nameless.sql")};
+}
+
+/// After a statement that fails, no other name is read either.
+void TestPreview::namesThatCannotBeReadAreNoMissingPeople()
+{
+    QFETCH(QStringList, options);
+    m_bench.site().run("ALTER TABLE branches DROP COLUMN name");
+    const ToolRun tool = runTool(arguments(options));
+    COMPARE_EXIT(tool, ExitStatus::ContractBroken);
+    QCOMPARE(tool.out, QString());
+    QVERIFY2(tool.err.startsWith("mirovahrctl: preview: The names in the copy cannot be read: "
+                                 "Unknown column 'name' "),
+             tool.report().constData());
+    QVERIFY(!QFileInfo::exists(path("nameless.sql")));
 }
 
 void TestPreview::theCopyIsGoneAfterASignal_data()
