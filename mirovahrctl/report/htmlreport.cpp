@@ -9,6 +9,9 @@
 #include <QDateTime>
 #include <QIODevice>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 // The policy ensures that the page fetches nothing, whatever text of a file is in it.
@@ -38,8 +41,8 @@ table { border-collapse: collapse; width: 100%; margin: .6rem 0; }
 th, td { text-align: left; vertical-align: top; padding: .35rem .5rem;
          border-bottom: 1px solid #d5dbe3; overflow-wrap: break-word; }
 th { background: #eef1f5; white-space: nowrap; }
-td:last-child, .findings td:nth-child(2) { overflow-wrap: anywhere; }
-.findings th:nth-child(2) { min-width: 8rem; }
+td:last-child, td.who { overflow-wrap: anywhere; }
+th.who { min-width: 8rem; }
 .findings th:last-child { width: 50%; }
 .error { color: #b3261e; font-weight: 600; }
 .warning { color: #8a5300; font-weight: 600; }
@@ -79,10 +82,24 @@ QString html(const QString &text)
     return Wording::visible(text).toHtmlEscaped();
 }
 
-QString cell(const QString &label, const QString &content)
+QString cell(const QString &label, const QString &content, const char *attributes = "")
 {
-    return QStringLiteral("<td data-label=\"%1\">%2</td>").arg(html(label), content);
+    return QStringLiteral("<td data-label=\"%1\"%2>%3</td>")
+        .arg(html(label), QLatin1String(attributes), content);
 }
+
+struct FindingColumn {
+    const char *heading;
+    const char *attributes; ///< of its cells
+};
+
+constexpr FindingColumn kFindingColumns[] = {
+    {QT_TRANSLATE_NOOP("Text", "Line"), ""},
+    {QT_TRANSLATE_NOOP("Text", "Who"), " class=\"who\""},
+    {QT_TRANSLATE_NOOP("Text", "Field"), ""},
+    {QT_TRANSLATE_NOOP("Text", "Result"), ""},
+    {QT_TRANSLATE_NOOP("Text", "What is wrong"), ""},
+};
 
 QString placeOf(const Finding &finding)
 {
@@ -110,6 +127,47 @@ QString severityOf(const Finding &finding)
     const QString word = severityWord(finding.severity);
     const QString text = finding.dropped ? Text::tr("dropped") : severityText(finding.severity);
     return QStringLiteral("<span class=\"%1\">%2</span>").arg(word, text);
+}
+
+/// What is in each of the columns.
+QStringList cellsOf(const Finding &finding, qint64 shownLine)
+{
+    return {placeOf(finding), html(findingPerson(finding)), html(finding.field),
+            severityOf(finding), messageOf(finding) + lineOf(finding, shownLine)};
+}
+
+/// The columns in which a row has something: most findings about a database have neither a line nor
+/// a person.
+QVector<int> usedColumns(const QVector<QStringList> &rows)
+{
+    QVector<int> used;
+    for (int column = 0; column < int(std::size(kFindingColumns)); ++column) {
+        if (std::any_of(rows.cbegin(), rows.cend(),
+                        [column](const QStringList &row) { return !row.at(column).isEmpty(); }))
+            used.append(column);
+    }
+    return used;
+}
+
+QString findingsTable(const QVector<QStringList> &rows)
+{
+    const QVector<int> columns = usedColumns(rows);
+    QString text = QStringLiteral("<table class=\"findings\">\n<thead><tr>");
+    for (const int column : columns) {
+        const FindingColumn &head = kFindingColumns[column];
+        text += QStringLiteral("<th%1>%2</th>")
+                    .arg(QLatin1String(head.attributes), html(Text::tr(head.heading)));
+    }
+    text += QStringLiteral("</tr></thead>\n<tbody>\n");
+    for (const QStringList &row : rows) {
+        text += QStringLiteral("<tr>");
+        for (const int column : columns) {
+            const FindingColumn &head = kFindingColumns[column];
+            text += cell(Text::tr(head.heading), row.at(column), head.attributes);
+        }
+        text += QStringLiteral("</tr>\n");
+    }
+    return text + QStringLiteral("</tbody>\n</table>\n");
 }
 
 QString tableHead(const Table &table)
@@ -196,14 +254,7 @@ void HtmlReport::finding(const Finding &finding)
         return;
     }
     ++m_findingCount;
-    beginFindings();
-    m_sections += QStringLiteral("<tr>%1%2%3%4%5</tr>\n")
-                      .arg(cell(Text::tr("Line"), placeOf(finding)),
-                           cell(Text::tr("Who"), html(findingPerson(finding))),
-                           cell(Text::tr("Field"), html(finding.field)),
-                           cell(Text::tr("Result"), severityOf(finding)),
-                           cell(Text::tr("What is wrong"),
-                                messageOf(finding) + lineOf(finding, m_shownLine)));
+    m_findings.append(cellsOf(finding, m_shownLine));
     if (!finding.lineText.isEmpty())
         m_shownLine = finding.line;
 }
@@ -256,22 +307,11 @@ void HtmlReport::endSection()
     m_opening.clear();
 }
 
-void HtmlReport::beginFindings()
-{
-    if (m_inFindings)
-        return;
-    m_sections += QStringLiteral("<table class=\"findings\">\n<thead><tr><th>%1</th><th>%2</th>"
-                                 "<th>%3</th><th>%4</th><th>%5</th></tr></thead>\n<tbody>\n")
-                      .arg(html(Text::tr("Line")), html(Text::tr("Who")), html(Text::tr("Field")),
-                           html(Text::tr("Result")), html(Text::tr("What is wrong")));
-    m_inFindings = true;
-}
-
 void HtmlReport::endFindings()
 {
-    if (m_inFindings)
-        m_sections += QStringLiteral("</tbody>\n</table>\n");
-    m_inFindings = false;
+    if (!m_findings.isEmpty())
+        m_sections += findingsTable(m_findings);
+    m_findings.clear();
 }
 
 void HtmlReport::writeLeftOut()

@@ -3,6 +3,8 @@
 #include "mirovahrctl/report/reportwriter.h"
 
 #include <QString>
+#include <QStringList>
+#include <QVector>
 
 class QIODevice;
 
@@ -10,9 +12,9 @@ class QIODevice;
 /// print. For somebody without a terminal.
 ///
 /// The verdict and the facts are at the top; in a report that begins with its answer, the facts of
-/// a section stay in it. The details of a card are closed until the reader opens them. The page is
-/// kept in memory and written by end(), so it shows only the first findings, and how many more
-/// there are.
+/// a section stay in it. A table of findings has no column that is empty in all of its rows. The
+/// details of a card are closed until the reader opens them. The page is kept in memory and written
+/// by end(), so it shows only the first findings, and how many more there are.
 class HtmlReport : public ReportWriter {
 public:
     /// So many findings are shown.
@@ -36,7 +38,6 @@ private:
     /// Opens the section that section() began: one without content is not on the page.
     void beginContent();
     void endSection();
-    void beginFindings();
     void endFindings();
     void writeLeftOut();
 
@@ -48,7 +49,7 @@ private:
     QString m_sections;
     QString m_opening; ///< of the current section, until there is content
     bool m_inSection = false; ///< a section is open
-    bool m_inFindings = false;
+    QVector<QStringList> m_findings; ///< the cells of the table that is not written yet
     qint64 m_shownLine = 0; ///< the line of the checked file that was shown last
     int m_findingCount = 0; ///< in the whole report
     qint64 m_leftOut = 0; ///< findings of the current section that are not shown

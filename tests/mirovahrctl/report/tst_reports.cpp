@@ -12,6 +12,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -89,6 +90,7 @@ private Q_SLOTS:
     void aFailureEndsTheJsonObject();
     void aPageThatCannotBeWrittenIsAFailureInJson();
     void thePageHoldsEverythingEscaped();
+    void thePageLeavesOutColumnsWithoutContent();
     void thePageNeedsNothingButItself();
     void thePageShowsTheFirstFindingsOnly();
     void aSectionWithoutContentHasNoHeading();
@@ -370,7 +372,7 @@ void TestReports::thePageHoldsEverythingEscaped()
           "<p>A sentence with &lt;tags&gt; &amp; \\x1b[31mcolours.</p>",
           "<th>Number</th><th>Name</th>",
           "<td data-label=\"Number\"></td><td data-label=\"Name\">&lt;b&gt;&amp;&quot;x&quot;</td>",
-          "<td data-label=\"Line\">12</td>", "<td data-label=\"Who\">1.1 Ján</td>",
+          "<td data-label=\"Line\">12</td>", "<td data-label=\"Who\" class=\"who\">1.1 Ján</td>",
           "<td data-label=\"Field\">Titul</td>", "<span class=\"error\">dropped</span>",
           "Wrong.<p class=\"advice\">Do better.</p>", "<span class=\"error\">error</span>"}) {
         QVERIFY2(page.contains(part), part);
@@ -379,6 +381,38 @@ void TestReports::thePageHoldsEverythingEscaped()
     QCOMPARE(page.count("<table class=\"findings\">"), 2);
     QCOMPARE(page.count("<section"), page.count("</section>"));
     QVERIFY(page.indexOf("Done &amp; dusted.") < page.indexOf("First section"));
+}
+
+void TestReports::thePageLeavesOutColumnsWithoutContent()
+{
+    const auto headings = [](const std::function<void(ReportWriter &)> &write) {
+        static const QRegularExpression heading("<th[^>]*>([^<]*)</th>");
+        QStringList texts;
+        auto all = heading.globalMatch(QString::fromUtf8(written<HtmlReport>(write)));
+        while (all.hasNext())
+            texts << all.next().captured(1);
+        return texts;
+    };
+    Finding ofLine = finding("Wrong.");
+    ofLine.line = 12;
+    Finding ofPerson = finding("Wrong.");
+    ofPerson.subject = "1.1 Ján";
+    QCOMPARE(headings([](ReportWriter &report) { report.finding(finding("Bare.")); }),
+             QStringList({"Result", "What is wrong"}));
+    QCOMPARE(headings([&](ReportWriter &report) {
+                 report.finding(finding("Bare."));
+                 report.finding(ofLine);
+                 report.finding(ofPerson);
+             }),
+             QStringList({"Line", "Who", "Result", "What is wrong"}));
+    // A table of its own for each section.
+    QCOMPARE(headings([&](ReportWriter &report) {
+                 report.section("first", "First section");
+                 report.finding(ofLine);
+                 report.section("second", "Second section");
+                 report.finding(ofPerson);
+             }),
+             QStringList({"Line", "Result", "What is wrong", "Who", "Result", "What is wrong"}));
 }
 
 void TestReports::thePageNeedsNothingButItself()
