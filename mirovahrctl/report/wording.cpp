@@ -57,9 +57,8 @@ QString visible(const QString &text)
 
 QString quoted(const QString &text)
 {
-    const bool cut = text.size() > kLongest;
-    return QStringLiteral("\"%1\"%2")
-        .arg(visible(text.left(kLongest)), cut ? QStringLiteral("…") : QString());
+    const QString shown = QLocale().quoteString(visible(text.left(kLongest)));
+    return text.size() > kLongest ? shown + QStringLiteral("…") : shown;
 }
 
 QString plain(const QVariant &value)

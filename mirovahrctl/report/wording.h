@@ -10,7 +10,7 @@ namespace Wording {
 /// export must not control a terminal or break a line.
 QString visible(const QString &text);
 
-/// As visible(), in quotation marks and truncated to 60 characters.
+/// As visible(), in the quotation marks of the language and truncated to 60 characters.
 QString quoted(const QString &text);
 
 /// A fact or the cell of a table: "yes" or "no" for a flag, "12.5" or "12,5" for a fraction.

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void countsHaveTheFormsOfTheLanguage_data();
     void countsHaveTheFormsOfTheLanguage();
     void numbersAreWrittenAsInTheLanguage();
+    void quotationMarksAreThoseOfTheLanguage();
     void timesAreWrittenAsInTheLanguage();
     void timesInFilesAreTheSameInEveryLanguage();
 };
@@ -202,6 +203,16 @@ void TestLanguage::numbersAreWrittenAsInTheLanguage()
         QCOMPARE(Language::number(1234567), QString("1\u00a0234\u00a0567"));
         QCOMPARE(Language::number(12.5, 1), QString("12,5"));
         QVERIFY(Wording::span(86400 * qint64(12345)).startsWith("12\u00a0345 "));
+    }
+}
+
+void TestLanguage::quotationMarksAreThoseOfTheLanguage()
+{
+    QCOMPARE(Wording::quoted("12,5"), QString("\"12,5\""));
+    for (const char *const language : {"sk", "cs"}) {
+        Language::use(language);
+        QCOMPARE(Wording::quoted("12,5"), QString("„12,5“"));
+        QCOMPARE(Wording::quoted(QString(61, 'x')), "„" + QString(60, 'x') + "“…");
     }
 }
 
