@@ -4,8 +4,11 @@
 #include "mirovahrctl/comparison/comparedpeople.h"
 #include "mirovahrctl/comparison/exportdifferences.h"
 #include "mirovahrctl/comparison/fieldwords.h"
+#include "mirovahrctl/export/fieldreading.h"
 #include "mirovahrctl/report/language.h"
 #include "mirovahrctl/report/moment.h"
+
+#include <QLocale>
 
 namespace {
 
@@ -24,22 +27,42 @@ QString nameOf(const MirovaRonRecord &record)
     return QStringLiteral("%1 %2").arg(record.jmeno, record.prijmeni).simplified();
 }
 
-QVariant valueOf(const ComparedPeople &people, ComparedPeople::Side side, int person, int field)
+QString shownDate(const QString &text)
 {
-    return people.isIn(side, person) ? shownValue(field, people.text(side, person, field))
-                                     : QVariant();
+    const QDate date = ExportLine::parseDate(text, QString(ExportLine::kDateFormat));
+    return date.isValid() ? Moment::text(date) : text;
+}
+
+QString shownBalance(QString text)
+{
+    return text.replace(QLatin1Char('.'), QLocale().decimalPoint());
+}
+
+bool isMisread(int field, const QString &text)
+{
+    return FieldReading::kindOf(field, text) == FieldReading::Kind::Misread;
 }
 
 } // namespace
 
-QString shownValue(int field, const QString &text)
+FieldTexts fieldTexts(const ComparedPeople &people, int person, int field)
+{
+    const auto text = [&](ComparedPeople::Side side) {
+        return people.isIn(side, person) ? people.text(side, person, field) : QString();
+    };
+    return {text(ComparedPeople::Before), text(ComparedPeople::Now)};
+}
+
+FieldTexts shownTexts(int field, const FieldTexts &texts)
 {
     static const QStringList names = ExportLine::fieldNames();
-    const QDate date = names.at(field).startsWith(QLatin1String("Datum"))
-            || field == ExportLine::KalendarPlatnostOd
-        ? ExportLine::parseDate(text, QString(ExportLine::kDateFormat))
-        : QDate();
-    return date.isValid() ? Moment::text(date) : text;
+    if (names.at(field).startsWith(QLatin1String("Datum"))
+        || field == ExportLine::KalendarPlatnostOd)
+        return {shownDate(texts.before), shownDate(texts.now)};
+    if (field == ExportLine::DovolenaZustatek && !isMisread(field, texts.before)
+        && !isMisread(field, texts.now))
+        return {shownBalance(texts.before), shownBalance(texts.now)};
+    return texts;
 }
 
 Table fieldTable(const ExportDifferences &differences)
@@ -116,9 +139,13 @@ void DifferenceTables::values(const QString &id, const QString &what, const QVec
     const QVector<int> people = shown(list);
     for (const int person : people) {
         const MirovaRonRecord record = m_people.latest(person);
+        const FieldTexts texts = shownTexts(field, fieldTexts(m_people, person, field));
+        const auto cell = [&](ComparedPeople::Side side, const QString &text) {
+            return m_people.isIn(side, person) ? QVariant(text) : QVariant();
+        };
         table.rows.append({record.getPamId(), nameOf(record),
-                           valueOf(m_people, ComparedPeople::Before, person, field),
-                           valueOf(m_people, ComparedPeople::Now, person, field)});
+                           cell(ComparedPeople::Before, texts.before),
+                           cell(ComparedPeople::Now, texts.now)});
     }
     m_report.table(table);
 }

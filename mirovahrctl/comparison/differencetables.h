@@ -8,8 +8,18 @@
 class ComparedPeople;
 struct ExportDifferences;
 
-/// The text of a field as people read it: a date without its time, everything else as it is.
-QString shownValue(int field, const QString &text);
+/// The texts of a field of one person; empty for the export that the person is missing from.
+struct FieldTexts {
+    QString before;
+    QString now;
+};
+
+FieldTexts fieldTexts(const ComparedPeople &people, int person, int field);
+
+/// The texts as people read them: a date without its time, a balance in the form of the language,
+/// everything else as it is. Beside a balance that is misread the other stays as it is, too: in
+/// most languages the comma that is wrong in an export is right.
+FieldTexts shownTexts(int field, const FieldTexts &texts);
 
 /// The fields in which something differs, and how many values of each.
 Table fieldTable(const ExportDifferences &differences);

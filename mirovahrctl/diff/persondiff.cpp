@@ -35,16 +35,13 @@ Table tableOf(const ComparedPeople &people, int person)
                  {QStringLiteral("now"), Text::tr("Now")},
                  {QStringLiteral("outcome"), Text::tr("What the plugin makes of it")}},
                 {}};
-    const auto text = [&](People::Side side, int field) {
-        return people.isIn(side, person) ? people.text(side, person, field) : QString();
-    };
     for (int field = ExportLine::Titul; field < ExportLine::kFieldCount; ++field) {
-        const QString before = text(People::Before, field);
-        const QString now = text(People::Now, field);
-        if (before == now)
+        const FieldTexts texts = fieldTexts(people, person, field);
+        if (texts.before == texts.now)
             continue;
-        table.rows.append({names.at(field), FieldWords::of(field), shownValue(field, before),
-                           shownValue(field, now), outcome(field, now)});
+        const FieldTexts shown = shownTexts(field, texts);
+        table.rows.append({names.at(field), FieldWords::of(field), shown.before, shown.now,
+                           outcome(field, texts.now)});
     }
     return table;
 }

@@ -95,6 +95,8 @@ private Q_SLOTS:
     void onePersonIsShownOnDemand_data();
     void onePersonIsShownOnDemand();
     void whatThePluginMakesOfAValueIsShown();
+    void aBalanceIsShownAsInTheLanguage_data();
+    void aBalanceIsShownAsInTheLanguage();
     void theTextReport();
     void equalExportsDifferInNothing();
     void aPageIsWritten();
@@ -399,6 +401,60 @@ void TestDiff::whatThePluginMakesOfAValueIsShown()
     QVERIFY2(run.out.contains("DovolenaZustatek  vacation balance  12.5        12,5        "
                               "Misread: the vacation balance is set to 0 days."),
              run.report().constData());
+}
+
+void TestDiff::aBalanceIsShownAsInTheLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("now");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("English") << "en"
+                             << "12.5"
+                             << "13.50"
+                             << "12.5 13.50";
+    QTest::newRow("Slovak") << "sk"
+                            << "12.5"
+                            << "13.50"
+                            << "12,5 13,50";
+    QTest::newRow("Czech") << "cs"
+                           << "-0.25"
+                           << "3"
+                           << "-0,25 3";
+    // The comma is the mistake.
+    QTest::newRow("misread now") << "sk"
+                                 << "12.5"
+                                 << "12,5"
+                                 << "12.5 12,5";
+    QTest::newRow("misread before") << "sk"
+                                    << "12,5"
+                                    << "12.5"
+                                    << "12,5 12.5";
+    QTest::newRow("misread, of a new person") << "sk"
+                                              << ""
+                                              << "12,5"
+                                              << "12,5";
+}
+
+void TestDiff::aBalanceIsShownAsInTheLanguage()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, before);
+    QFETCH(QString, now);
+    QFETCH(QString, shown);
+    const QVector<Row> one{Row().with(&Row::dovolenaZustatek, before)};
+    const QVector<Row> other{Row().with(&Row::dovolenaZustatek, now)};
+    const QStringList words = diff(before.isEmpty() ? QVector<Row>() : one, other,
+                                   {"--language", language, "--person", "1234.1"})
+                                  .out.simplified()
+                                  .split(' ');
+    const QString row = words.mid(words.indexOf("DovolenaZustatek")).join(' ');
+    QVERIFY2(row.contains(' ' + shown + ' ') || row.endsWith(' ' + shown), qPrintable(row));
+    const QStringList list =
+        diff(before.isEmpty() ? QVector<Row>() : one, other, {"--language", language})
+            .out.split('\n')
+            .filter("1234.1 ");
+    QVERIFY2(list.last().simplified().endsWith(' ' + shown), qPrintable(list.join('\n')));
 }
 
 void TestDiff::theTextReport()
