@@ -45,6 +45,16 @@ QString Markdown::code(const QString &cell)
     return span.match(cell).captured(2);
 }
 
+QString Markdown::block(const QString &document, const QString &before)
+{
+    const QRegularExpression block(QRegularExpression::escape(before) + "\n+```\n(.*?)\n```\n",
+                                   QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = block.match(text(document));
+    if (!match.hasMatch())
+        qFatal("%s has no block after \"%s\"", qPrintable(document), qPrintable(before));
+    return match.captured(1);
+}
+
 QStringList Markdown::links(const QString &document)
 {
     static const QRegularExpression link("\\]\\(([^):#]+)(?:#[^)]*)?\\)");

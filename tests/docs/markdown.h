@@ -16,6 +16,9 @@ QVector<QStringList> rows(const QString &document, const QString &heading);
 /// The text of a cell that is one code span, without its backticks; empty for any other cell.
 QString code(const QString &cell);
 
+/// The content of the first code block behind this text; the test program ends when there is none.
+QString block(const QString &document, const QString &before);
+
 /// The targets of the links that lead into the project, without their anchors.
 QStringList links(const QString &document);
 

@@ -1,3 +1,4 @@
+#include "tests/docs/markdown.h"
 #include "tests/support/programrun.h"
 
 #include <QTest>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void theFirstSynchronisationShowsEveryKindOfChange();
     void theSecondSynchronisationShowsWhatHrChanged_data();
     void theSecondSynchronisationShowsWhatHrChanged();
+    void theExcerptInTheReadmeIsPrinted();
 
 private:
     static void addRows(const QVector<QByteArray> &texts);
@@ -98,6 +100,19 @@ void TestDemo::theSecondSynchronisationShowsWhatHrChanged()
 {
     QFETCH(QByteArray, text);
     QVERIFY2(m_second.contains(QString::fromUtf8(text)), m_demo.report().constData());
+}
+
+/// Line by line, in the same order.
+void TestDemo::theExcerptInTheReadmeIsPrinted()
+{
+    const QStringList excerpt = Markdown::block("README.md", "An excerpt:").split('\n');
+    const QStringList printed = m_demo.output().split('\n');
+    QVERIFY(excerpt.size() > 10);
+    int at = -1;
+    for (const QString &line : excerpt) {
+        at = printed.indexOf(line, at + 1);
+        QVERIFY2(at >= 0, qPrintable(line));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestDemo)
