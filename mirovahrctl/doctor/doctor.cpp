@@ -3,6 +3,7 @@
 #include "mirovahrctl/doctor/service.h"
 #include "mirovahrctl/gatestate/gateoptions.h"
 #include "mirovahrctl/gatestate/gatestatus.h"
+#include "mirovahrctl/gatestate/siteexport.h"
 #include "mirovahrctl/pluginside/pluginconfiguration.h"
 #include "mirovahrctl/program/commandline.h"
 #include "mirovahrctl/program/console.h"
@@ -22,12 +23,14 @@ constexpr char kDescription[] = QT_TRANSLATE_NOOP(
     "Text",
     "Runs what can be checked here, and ends with the one most important thing to do: the "
     "configuration, yavhost.service where it is installed, the database with the time zones of "
-    "this process and the server, the export that lies there, and the plugin's and the gate's last "
-    "work. Shows of each rule one finding. Changes nothing.");
+    "this process and the server, the export that lies there, the plugin's and the gate's last "
+    "work, and what the database lacks of the file that the gate admitted last. Shows of each rule "
+    "one finding. Changes nothing.");
 
 /// Options that are of doctor only; all others that are set belong to the database.
 const QStringList kOwnOptions{QStringLiteral("config"), QStringLiteral("plugin-account"),
-                              QStringLiteral("json"), QStringLiteral("html")};
+                              QStringLiteral("since"), QStringLiteral("json"),
+                              QStringLiteral("html")};
 
 class DoctorRun {
 public:
@@ -49,6 +52,7 @@ private:
     void checkDatabase();
     void checkExport();
     void checkStatus();
+    void checkDrift();
 
     void check(const char *id, const QString &heading, const QStringList &command);
     void add(const Finding &finding);
@@ -77,6 +81,7 @@ ExitStatus DoctorRun::run()
     checkExport();
     checkService();
     checkStatus();
+    checkDrift();
     return m_report.conclude(verdict());
 }
 
@@ -166,6 +171,29 @@ void DoctorRun::checkStatus()
     checkWithDatabase("status", Text::tr("The last work"), command);
 }
 
+/// Only the gate keeps what was synchronised last.
+void DoctorRun::checkDrift()
+{
+    const Configuration &configuration = m_configuration.values();
+    SiteExport admitted;
+    if (!admitted.open({}, {}, configuration, SiteExport::Preference::Admitted)
+        || admitted.source() != SiteExport::Source::Gate)
+        return;
+    const QString heading = Text::tr("What the database lacks");
+    if (configuration.deleteFile && QFileInfo::exists(importFile())) {
+        m_report.section(QStringLiteral("drift"), heading);
+        m_report.sentence(Text::tr("The plugin has not read the export %1 yet: run drift when it "
+                                   "has synchronised.")
+                              .arg(importFile()));
+        return;
+    }
+    QStringList command{QStringLiteral("drift"), QStringLiteral("--config"),
+                        m_configuration.path()};
+    if (m_line.isSet("since"))
+        command << QStringLiteral("--since") << m_line.value("since");
+    checkWithDatabase("drift", heading, command);
+}
+
 void DoctorRun::checkWithDatabase(const char *id, const QString &heading,
                                   const QStringList &command)
 {
@@ -229,6 +257,10 @@ ExitStatus runDoctor(const QStringList &arguments, Console &console)
     CommandLine line("doctor", kDescription);
     PluginConfiguration::addTo(line);
     line.addFlag("plugin-account", Text::tr("The account is the plugin's: check its rights, too."));
+    line.addOption(
+        "since", Text::tr("day"),
+        Text::tr("Leave out what is done once for each person or member, and would have been done "
+                 "before this day: payroll export, terminals and administrators."));
     line.addReportOptions(CommandLine::Page::Offered);
     line.addDatabaseOptions();
     return Report::run(line, arguments, console,

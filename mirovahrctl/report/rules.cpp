@@ -38,7 +38,9 @@ const QVector<RuleGroup> &ruleGroups()
         {"force", listOf(ForceRules::kAll)},
         {"status", listOf(StatusRules::kAll)},
         {"log", listOf(LogRules::kAll)},
-        {"doctor", listOf(DoctorRules::kAll), {"check-config", "check-db", "check-file", "status"}},
+        {"doctor",
+         listOf(DoctorRules::kAll),
+         {"check-config", "check-db", "check-file", "status", "drift"}},
     };
     return groups;
 }

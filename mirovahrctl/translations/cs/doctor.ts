@@ -48,10 +48,6 @@
         <translation>Jeho zprávu zde nelze přečíst</translation>
     </message>
     <message>
-        <source>Runs what can be checked here, and ends with the one most important thing to do: the configuration, yavhost.service where it is installed, the database with the time zones of this process and the server, the export that lies there, and the plugin&apos;s and the gate&apos;s last work. Shows of each rule one finding. Changes nothing.</source>
-        <translation>Provede všechny kontroly, které zde lze provést, a na konci uvede jednu nejdůležitější věc, kterou je třeba udělat: kontroluje konfiguraci, službu yavhost.service, je-li nainstalována, databázi včetně časových pásem tohoto procesu a serveru, připravený export a poslední činnost zásuvného modulu a brány. Z každého pravidla ukáže jeden nález. Nic nemění.</translation>
-    </message>
-    <message>
         <source>What needs attention here</source>
         <translation>Co zde vyžaduje pozornost</translation>
     </message>
@@ -126,6 +122,26 @@
     <message>
         <source>The user %1, as which yavhost.service runs, may not write to %2</source>
         <translation>Uživatel %1, pod kterým běží služba yavhost.service, nesmí zapisovat do %2</translation>
+    </message>
+    <message>
+        <source>Runs what can be checked here, and ends with the one most important thing to do: the configuration, yavhost.service where it is installed, the database with the time zones of this process and the server, the export that lies there, the plugin&apos;s and the gate&apos;s last work, and what the database lacks of the file that the gate admitted last. Shows of each rule one finding. Changes nothing.</source>
+        <translation>Provede všechny kontroly, které zde lze provést, a na konci uvede jednu nejdůležitější věc, kterou je třeba udělat: kontroluje konfiguraci, službu yavhost.service, je-li nainstalována, databázi včetně časových pásem tohoto procesu a serveru, připravený export, poslední činnost zásuvného modulu a brány a to, co v databázi chybí ze souboru, který brána naposledy přijala. Z každého pravidla ukáže jeden nález. Nic nemění.</translation>
+    </message>
+    <message>
+        <source>What the database lacks</source>
+        <translation>Co v databázi chybí</translation>
+    </message>
+    <message>
+        <source>The plugin has not read the export %1 yet: run drift when it has synchronised.</source>
+        <translation>Zásuvný modul export %1 ještě nepřečetl: drift spusťte až po synchronizaci.</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>den</translation>
+    </message>
+    <message>
+        <source>Leave out what is done once for each person or member, and would have been done before this day: payroll export, terminals and administrators.</source>
+        <translation>Vynechá to, co se u každé osoby nebo člena dělá jednou a bylo by se udělalo před tímto dnem: export pro mzdy, terminály a administrátory.</translation>
     </message>
 </context>
 </TS>

@@ -48,10 +48,6 @@
         <translation>Jeho správa sa tu nedá prečítať</translation>
     </message>
     <message>
-        <source>Runs what can be checked here, and ends with the one most important thing to do: the configuration, yavhost.service where it is installed, the database with the time zones of this process and the server, the export that lies there, and the plugin&apos;s and the gate&apos;s last work. Shows of each rule one finding. Changes nothing.</source>
-        <translation>Vykoná všetky kontroly, ktoré sa tu dajú vykonať, a na konci uvedie jednu najdôležitejšiu vec, ktorú treba urobiť: kontroluje konfiguráciu, službu yavhost.service, ak je nainštalovaná, databázu vrátane časových pásiem tohto procesu a servera, pripravený export a poslednú činnosť zásuvného modulu a brány. Z každého pravidla ukáže jeden nález. Nič nemení.</translation>
-    </message>
-    <message>
         <source>What needs attention here</source>
         <translation>Čo tu vyžaduje pozornosť</translation>
     </message>
@@ -126,6 +122,26 @@
     <message>
         <source>The user %1, as which yavhost.service runs, may not write to %2</source>
         <translation>Používateľ %1, pod ktorým beží služba yavhost.service, nesmie zapisovať do %2</translation>
+    </message>
+    <message>
+        <source>Runs what can be checked here, and ends with the one most important thing to do: the configuration, yavhost.service where it is installed, the database with the time zones of this process and the server, the export that lies there, the plugin&apos;s and the gate&apos;s last work, and what the database lacks of the file that the gate admitted last. Shows of each rule one finding. Changes nothing.</source>
+        <translation>Vykoná všetky kontroly, ktoré sa tu dajú vykonať, a na konci uvedie jednu najdôležitejšiu vec, ktorú treba urobiť: kontroluje konfiguráciu, službu yavhost.service, ak je nainštalovaná, databázu vrátane časových pásiem tohto procesu a servera, pripravený export, poslednú činnosť zásuvného modulu a brány a to, čo v databáze chýba zo súboru, ktorý brána naposledy prijala. Z každého pravidla ukáže jeden nález. Nič nemení.</translation>
+    </message>
+    <message>
+        <source>What the database lacks</source>
+        <translation>Čo v databáze chýba</translation>
+    </message>
+    <message>
+        <source>The plugin has not read the export %1 yet: run drift when it has synchronised.</source>
+        <translation>Zásuvný modul export %1 ešte neprečítal: drift spustite až po synchronizácii.</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>deň</translation>
+    </message>
+    <message>
+        <source>Leave out what is done once for each person or member, and would have been done before this day: payroll export, terminals and administrators.</source>
+        <translation>Vynechá to, čo sa pri každej osobe alebo členovi robí raz a bolo by sa urobilo pred týmto dňom: export pre mzdy, terminály a administrátorov.</translation>
     </message>
 </context>
 </TS>

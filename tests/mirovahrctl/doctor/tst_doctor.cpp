@@ -2,6 +2,7 @@
 #include "tests/mirovahrctl/program/rulefixtures.h"
 #include "tests/mirovahrctl/program/toolrun.h"
 #include "tests/support/testdatabase.h"
+#include "tests/worker/support/sampleexport.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -9,6 +10,15 @@
 
 #include <pwd.h>
 #include <unistd.h>
+
+namespace {
+
+QString tomorrow()
+{
+    return QDate::currentDate().addDays(1).toString(Qt::ISODate);
+}
+
+} // namespace
 
 /// doctor: every check at once, and what to do first. systemctl is a script of the test, which
 /// prints what a file holds.
@@ -21,6 +31,10 @@ private Q_SLOTS:
 
     void aSoundSiteNeedsNothing();
     void everyCheckIsMade();
+    void whatTheDatabaseLacksIsReported();
+    void anExportThatThePluginIsAboutToReadIsNoLoss();
+    void whatWasNotDoneBeforeThePluginCanBeLeftOut();
+    void withoutAnAdmittedFileNothingIsCompared();
     void theWorstFindingComesFirst();
     void severalFindingsOfARuleAreCounted();
     void aCheckThatCannotBeMadeIsAFinding();
@@ -42,6 +56,8 @@ private:
     QString path(const char *name) const { return m_folder->filePath(name); }
     void write(const char *name, const QByteArray &content) const;
     void writeConfiguration(const QByteArray &more = {}) const;
+    /// The file that the gate has admitted last.
+    void admit(const QVector<ExportRow> &lines) const;
     void setService(const QByteArray &properties) const { write("unit", properties); }
     QStringList connection(const QString &user = "mirovahrctl");
     ToolRun doctor(const QStringList &more = {});
@@ -92,6 +108,14 @@ void TestDoctor::writeConfiguration(const QByteArray &more) const
     write("gate/status.json", R"({"result": "admitted"})");
 }
 
+void TestDoctor::admit(const QVector<ExportRow> &lines) const
+{
+    QByteArray content;
+    for (const ExportRow &line : lines)
+        content += line.text().toUtf8() + '\n';
+    write("gate/admitted.data", content);
+}
+
 QStringList TestDoctor::connection(const QString &user)
 {
     return {"--socket",        m_db.server().socketPath(),
@@ -125,10 +149,49 @@ void TestDoctor::aSoundSiteNeedsNothing()
 void TestDoctor::everyCheckIsMade()
 {
     setService("LoadState=loaded\nActiveState=active\nUnitFileState=enabled\n");
-    const ToolRun run = doctor();
+    admit({SampleExport::tomas()});
+    const ToolRun run = doctor({"--since", tomorrow()});
     COMPARE_EXIT(run, ExitStatus::Fine);
     QCOMPARE(sections(run),
-             QStringList({"configuration", "database", "export", "service", "status"}));
+             QStringList({"configuration", "database", "export", "service", "status", "drift"}));
+}
+
+void TestDoctor::whatTheDatabaseLacksIsReported()
+{
+    admit({SampleExport::newcomer(4711), SampleExport::newcomer(4712)});
+    const ToolRun run = doctor();
+    COMPARE_EXIT(run, ExitStatus::Findings);
+    const auto missing = run.findingsOf("person-missing");
+    QCOMPARE(missing.size(), 1);
+    QVERIFY2(
+        missing.first().value("message").toString().endsWith(" And 1 more finding of this rule."),
+        run.report().constData());
+}
+
+void TestDoctor::anExportThatThePluginIsAboutToReadIsNoLoss()
+{
+    admit({SampleExport::newcomer(4711)});
+    write("import/ron.data", SampleExport::newcomer(4711).text().toUtf8() + '\n');
+    const ToolRun pending = doctor();
+    QVERIFY2(sections(pending).contains("drift"), pending.report().constData());
+    QVERIFY2(pending.findingsOf("person-missing").isEmpty(), pending.report().constData());
+    // One that the plugin does not remove is always there.
+    writeConfiguration("deleteFile=0\n");
+    QCOMPARE(doctor().findingsOf("person-missing").size(), 1);
+}
+
+/// Nobody has put him into the payroll export.
+void TestDoctor::whatWasNotDoneBeforeThePluginCanBeLeftOut()
+{
+    admit({SampleExport::tomas()});
+    QCOMPARE(doctor().findingsOf("payroll-selection").size(), 1);
+    COMPARE_EXIT(doctor({"--since", tomorrow()}), ExitStatus::Fine);
+}
+
+void TestDoctor::withoutAnAdmittedFileNothingIsCompared()
+{
+    write("import/ron.data", SampleExport::newcomer(4711).text().toUtf8() + '\n');
+    QVERIFY(!sections(doctor()).contains("drift"));
 }
 
 void TestDoctor::theWorstFindingComesFirst()
