@@ -44,6 +44,7 @@ th { background: #eef1f5; white-space: nowrap; }
 td:last-child, td.who { overflow-wrap: anywhere; }
 th.who { min-width: 8rem; }
 .findings th:last-child { width: 50%; }
+.findings th:nth-child(2):last-child { width: 100%; }
 .error { color: #b3261e; font-weight: 600; }
 .warning { color: #8a5300; font-weight: 600; }
 .note { color: #50596a; }
