@@ -85,7 +85,7 @@ int runBesideServer(const QCommandLineParser &parser, const Options &options)
         std::fprintf(stderr, "private-mariadb: %s\n", qPrintable(server.folder()));
     const int status =
         run.interrupted() ? run.interruptedStatus() : run.run(parser.positionalArguments(), server);
-    return server.stop() ? status : complain(kServerFailed, server.errorString());
+    return server.end() ? status : complain(kServerFailed, server.errorString());
 }
 
 } // namespace

@@ -62,7 +62,7 @@ PrivateMariaDb::PrivateMariaDb()
 
 PrivateMariaDb::~PrivateMariaDb()
 {
-    stop();
+    end();
 }
 
 bool PrivateMariaDb::start()
@@ -91,6 +91,14 @@ bool PrivateMariaDb::stop()
     kill();
     return fail(Text::tr("The private MariaDB server did not shut down and was killed.\n%1")
                     .arg(errorLogTail()));
+}
+
+bool PrivateMariaDb::end()
+{
+    if (m_keepFiles)
+        return stop();
+    kill(); // what a shutdown writes would be removed at once
+    return true;
 }
 
 bool PrivateMariaDb::waitUntilEnded()

@@ -35,7 +35,7 @@ public:
     using HostRights = HostAccount::Rights;
 
     PrivateMariaDb();
-    ~PrivateMariaDb(); ///< Stops the server and removes its folder.
+    ~PrivateMariaDb(); ///< end(), and removes the folder.
     PrivateMariaDb(const PrivateMariaDb &) = delete;
     PrivateMariaDb &operator=(const PrivateMariaDb &) = delete;
 
@@ -69,6 +69,8 @@ public:
     bool waitUntilEnded();
     /// Asks the server to shut down and waits until it has. True also when it was not running.
     bool stop();
+    /// Ends the server for good: by stop() when its files are kept, else by kill().
+    bool end();
     /// stop() and start().
     bool restart();
     /// Ends the server at once (SIGKILL), as a crash would.
