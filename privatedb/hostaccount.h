@@ -14,8 +14,8 @@ enum class Rights {
     None ///< only what the administrator grants
 };
 
-/// Makes the database and the account, over an open connection of the administrator. False when
-/// that fails, with the database's error in \a error.
+/// Makes the database and the account where they are not there yet, over an open connection of the
+/// administrator. False when that fails, with the database's error in \a error.
 bool make(const QSqlDatabase &administrator, const QString &databaseName, Rights rights,
           QString &error);
 

@@ -56,6 +56,7 @@ private:
 
 PrivateMariaDb::PrivateMariaDb()
     : m_baseDir(folderForTemporaryFiles())
+    , m_madeDataFolder(qEnvironmentVariable(kDataFolderVariable))
     , m_databaseName(QStringLiteral("tepdb"))
 {
 }

@@ -34,6 +34,10 @@ public:
 
     using HostRights = HostAccount::Rights;
 
+    /// The environment variable that names a data folder for setMadeDataFolder(), for programs that
+    /// this one starts, too.
+    static constexpr char kDataFolderVariable[] = "MIROVAHR_DATA_FOLDER";
+
     PrivateMariaDb();
     ~PrivateMariaDb(); ///< end(), and removes the folder.
     PrivateMariaDb(const PrivateMariaDb &) = delete;
@@ -49,7 +53,8 @@ public:
     void setHostRights(HostRights rights) { m_hostRights = rights; }
     /// Copies this data folder at the first start() instead of making one: that of
     /// makeDataFolder(), for programs that start so many servers that it matters, or that of a
-    /// server that does not run, with its database and accounts.
+    /// server that does not run, with its database and accounts. By default the one that
+    /// kDataFolderVariable names.
     void setMadeDataFolder(const QString &folder) { m_madeDataFolder = folder; }
     /// Keeps the folder, to examine the data and the error log. To be called before the first
     /// start().

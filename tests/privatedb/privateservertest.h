@@ -53,3 +53,13 @@ private:
     const char *m_name;
     const QByteArray m_before;
 };
+
+/// Lets private servers make their own data folder for the rest of the block, as at a site, after
+/// MadeData::use().
+class OwnInstallation : public ScopedVariable {
+public:
+    OwnInstallation()
+        : ScopedVariable(PrivateMariaDb::kDataFolderVariable, QByteArray())
+    {
+    }
+};

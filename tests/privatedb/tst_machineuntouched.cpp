@@ -1,4 +1,5 @@
 #include "tests/privatedb/privateservertest.h"
+#include "tests/support/madedata.h"
 
 #include <QDir>
 #include <QFile>
@@ -137,6 +138,7 @@ void TestMachineUntouched::initTestCase()
 {
     QVERIFY2(!QFileInfo::exists(QStringLiteral("/tmp/.machine")),
              "This test must see the machine's /tmp: run it without scripts/private-view.");
+    MadeData::use();
 }
 
 void TestMachineUntouched::init()
@@ -158,6 +160,7 @@ void TestMachineUntouched::temporaryFilesOfOtherServersStay()
 {
     QFETCH(bool, isTmpdirSet);
     QFETCH(QString, folder);
+    const OwnInstallation installation;
     QVERIFY(QDir(m_temp->path()).mkdir("base"));
     const ScopedVariable tmpdir("TMPDIR", isTmpdirSet ? m_temp->path().toUtf8() : kUnset);
     QTemporaryFile table(QDir(m_temp->path()).filePath(folder) + "/#sql-temptable-XXXXXX.MAD");
@@ -231,6 +234,7 @@ void TestMachineUntouched::nobodyElseMayEnterTheFolder()
 
 void TestMachineUntouched::aFolderMayHaveBlanksInItsName()
 {
+    const OwnInstallation installation;
     const QString folder = m_temp->filePath("a 'folder' * of \"mine\"");
     QVERIFY(QDir().mkdir(folder));
     PrivateMariaDb server;
@@ -275,6 +279,7 @@ void TestMachineUntouched::optionFilesAreNotRead()
 {
     QFETCH(QString, variable);
     QFETCH(QString, file);
+    const OwnInstallation installation;
     writeFile(m_temp->filePath(file),
               "[mariadbd]\nno-such-option=1\n[mariadb-install-db]\nuser=nobody\n"
               "[client]\nuser=nobody\nno-such-option=1\n");
@@ -314,6 +319,7 @@ void TestMachineUntouched::settingsForOtherServersDoNotCount()
 
 void TestMachineUntouched::theServiceManagerHearsNothing()
 {
+    const OwnInstallation installation;
     const ServiceManager manager(path("notify"));
     const ScopedVariable notifySocket("NOTIFY_SOCKET", path("notify"));
     PrivateMariaDb server;
@@ -408,6 +414,7 @@ void TestMachineUntouched::theInstallationRunsNoProgramThatLiesAround()
 {
     QFETCH(QString, program);
     QFETCH(QByteArray, bootstrap);
+    const OwnInstallation installation;
     QVERIFY(QDir(m_temp->path()).mkdir("extra"));
     writeProgram(m_temp->filePath(program), "touch '" + path("mark") + "'\n");
     const ScopedVariable variable("MYSQLD_BOOTSTRAP", bootstrap);
@@ -424,6 +431,7 @@ void TestMachineUntouched::theInstallationRunsNoProgramThatLiesAround()
 /// machine's server.
 void TestMachineUntouched::theInstallationGivesNothingToAnotherUser()
 {
+    const OwnInstallation installation;
     writeProgram(m_temp->filePath("chown"), "echo \"$*\" >>'" + path("given") + "'\n");
     const ScopedVariable programs("PATH", m_temp->path().toUtf8() + ':' + qgetenv("PATH"));
     PrivateMariaDb server;

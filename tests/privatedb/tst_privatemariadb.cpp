@@ -1,5 +1,6 @@
 #include "tests/privatedb/privateservertest.h"
 #include "tests/support/descendants.h"
+#include "tests/support/madedata.h"
 #include "tests/support/patience.h"
 
 #include <QDeadlineTimer>
@@ -55,6 +56,7 @@ private:
 class TestPrivateMariaDb : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase();
     void init();
 
     void aStartedServerAnswersBothAccounts();
@@ -68,6 +70,7 @@ private Q_SLOTS:
     void furtherOptionsReachTheServer();
     void aSocketPathThatIsTooLongFailsEarlyAndIsNamed();
     void aFolderThatCannotBeCreatedIsNamed();
+    void aDataFolderThatCannotBeCopiedIsNamed();
     void aServerThatCannotStartShowsTheEndOfItsLog();
     void aFileWithDelimitersIsLoaded();
     void aLoadErrorShowsTheFileAndTheDatabasesMessage();
@@ -97,6 +100,11 @@ private:
     QScopedPointer<QTemporaryDir> m_temp;
 };
 
+void TestPrivateMariaDb::initTestCase()
+{
+    MadeData::use();
+}
+
 void TestPrivateMariaDb::init()
 {
     m_temp.reset(new QTemporaryDir);
@@ -121,6 +129,7 @@ void TestPrivateMariaDb::runProgram(QProcess &program, const QStringList &argume
 
 void TestPrivateMariaDb::aStartedServerAnswersBothAccounts()
 {
+    const OwnInstallation installation;
     PrivateMariaDb server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     QVERIFY(server.isRunning());
@@ -246,6 +255,16 @@ void TestPrivateMariaDb::aFolderThatCannotBeCreatedIsNamed()
     server.setBaseDir(m_temp->filePath("missing"));
     QVERIFY(!server.start());
     QVERIFY2(server.errorString().contains(m_temp->filePath("missing")),
+             qPrintable(server.errorString()));
+}
+
+void TestPrivateMariaDb::aDataFolderThatCannotBeCopiedIsNamed()
+{
+    const QString missing = m_temp->filePath("missing");
+    const ScopedVariable folder(PrivateMariaDb::kDataFolderVariable, missing.toUtf8());
+    PrivateMariaDb server;
+    QVERIFY(!server.start());
+    QVERIFY2(server.errorString().startsWith(missing + " could not be copied: "),
              qPrintable(server.errorString()));
 }
 
@@ -441,6 +460,7 @@ void TestPrivateMariaDb::serverCommandAndFolderGoWithAKilledProgram()
 
 void TestPrivateMariaDb::aProgramThatIsKilledWhileItStartsLeavesNothingBehind()
 {
+    const OwnInstallation installation;
     Descendants descendants;
     QProcess program;
     startProgram(program, {"--", "true"});
@@ -474,6 +494,7 @@ void TestPrivateMariaDb::aKilledProgramLeavesAFolderThatIsToBeKept()
 
 void TestPrivateMariaDb::aMachineNeedNotResolveItsOwnName()
 {
+    const OwnInstallation installation;
     // In a private view, which only hides the machine's files.
     QProcess program;
     program.start(PRIVATE_VIEW,

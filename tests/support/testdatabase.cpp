@@ -1,6 +1,7 @@
 #include "tests/support/testdatabase.h"
 
 #include "db/tepdbcontract.h"
+#include "tests/support/madedata.h"
 #include "tests/support/sqlscript.h"
 
 #include <QFile>
@@ -115,13 +116,14 @@ bool TestDatabase::start(const QStringList &serverOptions)
                                            "--lock-wait-timeout=60", "--automatic-sp-privileges=0"}
                                + serverOptions);
     m_server->setHostRights(PrivateMariaDb::HostRights::None);
-    m_server->setMadeDataFolder(MIROVAHR_MADE_DATA_FOLDER);
+    MadeData::use(); // for the other private servers of the test, such as that of a preview
+    m_server->setMadeDataFolder(MadeData::referenceDatabase());
     if (!m_server->start() || !openAdministrator())
         return false;
-    loadSchema();
+    takeSchema();
+    // Its days are those of the server's time zone.
     loadFiles({referenceFile("sample.sql")});
     check(m_baseline.takeRows(m_administrator), "The baseline has no rows", __FILE__, __LINE__);
-    grant("grants.sql");
     return !QTest::currentTestFailed();
 }
 
@@ -153,6 +155,11 @@ void TestDatabase::loadSchema()
     run(QStringLiteral("CREATE DATABASE `%1` CHARACTER SET utf8mb4").arg(m_server->databaseName()));
     run(QStringLiteral("USE `%1`").arg(m_server->databaseName()));
     loadFiles({referenceFile("schema.sql"), referenceFile("routines.sql")});
+    takeSchema();
+}
+
+void TestDatabase::takeSchema()
+{
     const bool taken =
         m_baseline.takeEmpty(m_administrator, m_server->dataDir() + '/' + m_server->databaseName());
     check(taken, "The database cannot be read", __FILE__, __LINE__);

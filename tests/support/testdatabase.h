@@ -140,6 +140,8 @@ private:
     TableRows tableRows(const QString &table, const char *file, int line);
     /// Drops the whole database and loads it anew, empty, and takes it as the baseline.
     void loadSchema();
+    /// Takes the database, which is empty, as the baseline.
+    void takeSchema();
     void loadFiles(const QStringList &files);
     bool openAdministrator();
     void closeAdministrator();

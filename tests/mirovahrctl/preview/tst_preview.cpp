@@ -117,6 +117,7 @@ void TestPreview::run(ProgramRun &program, const QStringList &more)
 void TestPreview::thePluginItselfDoesWhatWasPredicted()
 {
     ProgramRun preview;
+    preview.setVariable(PrivateMariaDb::kDataFolderVariable, QString()); // as at a site
     run(preview, {"--sql", path("preview.sql"), "--log", path("preview.log")});
     COMPARE_STATUS(preview, 1);
     QVERIFY2(preview.output().contains("1234.1 Jana Malá"), preview.report().constData());
