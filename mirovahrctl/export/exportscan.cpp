@@ -46,11 +46,12 @@ Finding &addClash(CheckedLine &line, const RepeatedPids::First &first, quint32 p
 
 } // namespace
 
-ExportScan::ExportScan(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route)
+ExportScan::ExportScan(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route,
+                       int mostRepeated)
     : m_file(file)
     , m_lineCheck(widths, route)
     , m_size(file.size())
-    , m_pids(m_size)
+    , m_pids(m_size, mostRepeated)
 {
 }
 

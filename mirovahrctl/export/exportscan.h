@@ -25,7 +25,9 @@ public:
     using ProgressListener = std::function<void(qint64 done, qint64 total)>;
 
     /// The file must be open and at its beginning. \a route: how its texts get into the database.
-    ExportScan(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route);
+    /// \a mostRepeated: of how many people repetitions are found.
+    ExportScan(QFile &file, const ColumnWidths &widths, const SqlTexts::Route &route,
+               int mostRepeated = RepeatedPids::kMostCandidates);
 
     /// Without a listener no progress is reported.
     void setProgressListener(const ProgressListener &listener) { m_progress = listener; }

@@ -18,8 +18,9 @@ int indexBits(qint64 bytes)
 
 } // namespace
 
-RepeatedPids::RepeatedPids(qint64 bytes)
+RepeatedPids::RepeatedPids(qint64 bytes, int mostCandidates)
     : m_indexBits(indexBits(bytes))
+    , m_mostCandidates(mostCandidates)
     , m_seen(1 << m_indexBits)
     , m_seenTwice(1 << m_indexBits)
 {
@@ -42,7 +43,7 @@ std::optional<RepeatedPids::First> RepeatedPids::first(const MirovaRonRecord &re
     const auto found = m_candidates.constFind(pid);
     if (found != m_candidates.constEnd())
         return *found;
-    if (m_candidates.size() < kMostCandidates)
+    if (m_candidates.size() < m_mostCandidates)
         m_candidates.insert(pid, {line, record.osobniCislo, record.poradoveCisloPP});
     else
         m_complete = false;

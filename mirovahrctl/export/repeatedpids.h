@@ -14,8 +14,8 @@ class MirovaRonRecord;
 /// a few that do not. The second keeps those candidates and compares them exactly.
 class RepeatedPids {
 public:
-    /// So many candidates are kept at most. Of further ones no repetition is found; see
-    /// isComplete().
+    /// So many candidates are kept at most, unless the caller wants fewer. Of further ones no
+    /// repetition is found; see isComplete().
     static constexpr int kMostCandidates = 200000;
 
     /// The first line with a pid.
@@ -26,7 +26,7 @@ public:
     };
 
     /// \a bytes: the size of the export, which determines that of the bit arrays.
-    explicit RepeatedPids(qint64 bytes);
+    explicit RepeatedPids(qint64 bytes, int mostCandidates = kMostCandidates);
 
     /// First pass: this pid is in the export.
     void note(quint32 pid);
@@ -35,13 +35,14 @@ public:
     /// is the first.
     std::optional<First> first(const MirovaRonRecord &record, qint64 line);
 
-    /// False when there were more than kMostCandidates.
+    /// False when there were more candidates than are kept.
     bool isComplete() const { return m_complete; }
 
 private:
     int indexOf(quint32 pid) const;
 
     const int m_indexBits;
+    const int m_mostCandidates;
     QBitArray m_seen;
     QBitArray m_seenTwice;
     QHash<quint32, First> m_candidates;
