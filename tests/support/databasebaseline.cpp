@@ -6,6 +6,8 @@
 #include <QSqlRecord>
 #include <QVariant>
 
+#include <algorithm>
+
 #include <sys/stat.h>
 
 namespace {
@@ -72,21 +74,23 @@ bool DatabaseBaseline::takeEmpty(const QSqlDatabase &administrator, const QStrin
     m_folder = folder;
     m_tables = lines(administrator, QStringLiteral("SHOW TABLES"));
     m_definitions = definitions(administrator);
-    m_empty = content(administrator);
+    m_empty = content(administrator, m_tables);
     return m_empty.size() == m_tables.size();
 }
 
 bool DatabaseBaseline::takeRows(const QSqlDatabase &administrator)
 {
-    m_full = content(administrator);
+    m_full = content(administrator, m_tables);
     bool done = run(administrator, QStringLiteral("CREATE DATABASE IF NOT EXISTS ") + kRows);
     for (const QString &table : qAsConst(m_tables)) {
-        if (m_full.value(table) != m_empty.value(table)) {
-            done = done
-                && run(administrator,
-                       QStringLiteral("CREATE OR REPLACE TABLE %1.%2 AS SELECT %3 FROM %2")
-                           .arg(kRows, quoted(table), columns(administrator, table)));
-        }
+        if (m_full.value(table) == m_empty.value(table))
+            continue;
+        const QString names = columns(administrator, table);
+        m_columns.insert(table, names);
+        done = done
+            && run(administrator,
+                   QStringLiteral("CREATE OR REPLACE TABLE %1.%2 AS SELECT %3 FROM %2")
+                       .arg(kRows, quoted(table), names));
     }
     return done && m_full.size() == m_tables.size();
 }
@@ -112,47 +116,64 @@ bool DatabaseBaseline::restore(const QSqlDatabase &administrator, const Content 
     if (!run(administrator, QStringLiteral("LOCK TABLES ") + names.join(QStringLiteral(", ")))
         || !run(administrator, QStringLiteral("UNLOCK TABLES")))
         return false;
-    const Content present = content(administrator);
-    bool changed = false;
+    const Content present = content(administrator, m_tables);
+    QStringList changed;
     for (const QString &table : m_tables) {
-        if (present.value(table) == wanted.value(table))
+        const TableContent before = present.value(table);
+        const TableContent after = wanted.value(table);
+        if (before == after)
             continue;
-        changed = true;
-        if (!fill(administrator, table, wanted))
+        changed += table;
+        if (!clear(administrator, table, before.nextNumber != after.nextNumber)
+            || (after.checksum != m_empty.value(table).checksum && !fill(administrator, table)))
             return false;
     }
-    return !changed || content(administrator) == wanted;
+    const Content restored = changed.isEmpty() ? Content() : content(administrator, changed);
+    return std::all_of(changed.cbegin(), changed.cend(), [&](const QString &table) {
+        return restored.value(table) == wanted.value(table);
+    });
 }
 
-bool DatabaseBaseline::fill(const QSqlDatabase &administrator, const QString &table,
-                            const Content &wanted) const
+/// Only TRUNCATE lets the automatic numbers begin again, and it costs ten times as much.
+bool DatabaseBaseline::clear(const QSqlDatabase &administrator, const QString &table,
+                             bool restartsNumbers)
 {
-    return run(administrator, QStringLiteral("TRUNCATE TABLE ") + quoted(table))
-        && (wanted.value(table) == m_empty.value(table)
-            || run(administrator,
-                   QStringLiteral("INSERT INTO %2 (%3) SELECT %3 FROM %1.%2")
-                       .arg(kRows, quoted(table), columns(administrator, table))));
+    return run(administrator,
+               (restartsNumbers ? QStringLiteral("TRUNCATE TABLE ")
+                                : QStringLiteral("DELETE FROM "))
+                   + quoted(table));
 }
 
-DatabaseBaseline::Content DatabaseBaseline::content(const QSqlDatabase &administrator) const
+bool DatabaseBaseline::fill(const QSqlDatabase &administrator, const QString &table) const
+{
+    return run(administrator,
+               QStringLiteral("INSERT INTO %2 (%3) SELECT %3 FROM %1.%2")
+                   .arg(kRows, quoted(table), m_columns.value(table)));
+}
+
+DatabaseBaseline::Content DatabaseBaseline::content(const QSqlDatabase &administrator,
+                                                    const QStringList &tables)
 {
     Content result;
     QStringList names;
-    for (const QString &table : m_tables)
+    for (const QString &table : tables)
         names += quoted(table);
     QSqlQuery query(administrator);
     if (!query.exec(QStringLiteral("CHECKSUM TABLE ") + names.join(QStringLiteral(", "))))
         return {};
     while (query.next()) {
         const QString table = query.value(0).toString().section('.', 1);
-        result.insert(table, query.value(1).toString());
+        result[table].checksum = query.value(1).toString();
     }
     if (!query.exec(QStringLiteral("SELECT table_name, auto_increment FROM"
                                    " information_schema.tables WHERE table_schema = DATABASE()"
                                    " AND auto_increment IS NOT NULL")))
         return {};
-    while (query.next())
-        result[query.value(0).toString()] += ' ' + query.value(1).toString();
+    while (query.next()) {
+        const auto table = result.find(query.value(0).toString());
+        if (table != result.end())
+            table->nextNumber = query.value(1).toString();
+    }
     return result;
 }
 

@@ -24,16 +24,27 @@ public:
     bool restoreRows(const QSqlDatabase &administrator) const;
 
 private:
-    /// Checksum and next automatic number, by table.
-    using Content = QMap<QString, QString>;
+    struct TableContent {
+        QString checksum;
+        QString nextNumber; ///< the next automatic one, if there is one
 
+        bool operator==(const TableContent &other) const
+        {
+            return checksum == other.checksum && nextNumber == other.nextNumber;
+        }
+    };
+    using Content = QMap<QString, TableContent>; ///< by table
+
+    static Content content(const QSqlDatabase &administrator, const QStringList &tables);
     bool restore(const QSqlDatabase &administrator, const Content &wanted) const;
-    bool fill(const QSqlDatabase &administrator, const QString &table, const Content &wanted) const;
-    Content content(const QSqlDatabase &administrator) const;
+    static bool clear(const QSqlDatabase &administrator, const QString &table,
+                      bool restartsNumbers);
+    bool fill(const QSqlDatabase &administrator, const QString &table) const;
     QStringList definitions(const QSqlDatabase &administrator) const;
 
     QString m_folder;
     QStringList m_tables;
+    QMap<QString, QString> m_columns; ///< of the tables with rows, as SQL lists
     QStringList m_definitions;
     Content m_empty;
     Content m_full;
