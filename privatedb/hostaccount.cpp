@@ -10,7 +10,8 @@ bool HostAccount::make(const QSqlDatabase &administrator, const QString &databas
 {
     const QString name = QLatin1String(kName);
     QStringList statements{
-        QStringLiteral("CREATE DATABASE IF NOT EXISTS `%1` CHARACTER SET utf8mb4").arg(databaseName),
+        QStringLiteral("CREATE DATABASE IF NOT EXISTS `%1` CHARACTER SET utf8mb4")
+            .arg(databaseName),
         QStringLiteral("CREATE USER IF NOT EXISTS '%1'@'localhost' IDENTIFIED BY '%2'")
             .arg(name)
             .arg(QLatin1String(kPassword))};

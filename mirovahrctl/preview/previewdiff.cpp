@@ -11,11 +11,9 @@ namespace {
 // The columns of each unique key of a table of the copy, in order, and what keeps a key from
 // identifying rows: columns that may be NULL, and prefixes.
 constexpr char kKeys[] =
-    "SELECT s.INDEX_NAME, s.COLUMN_NAME, c.IS_NULLABLE, s.SUB_PART FROM "
-    "information_schema.STATISTICS s JOIN information_schema.COLUMNS c ON c.TABLE_SCHEMA = "
-    "s.TABLE_SCHEMA AND c.TABLE_NAME = s.TABLE_NAME AND c.COLUMN_NAME = s.COLUMN_NAME WHERE "
-    "s.NON_UNIQUE = 0 AND s.TABLE_SCHEMA = DATABASE() AND s.TABLE_NAME = %1 ORDER BY s.INDEX_NAME "
-    "<> 'PRIMARY', s.INDEX_NAME, s.SEQ_IN_INDEX";
+    "SELECT INDEX_NAME, COLUMN_NAME, NULLABLE, SUB_PART FROM information_schema.STATISTICS WHERE "
+    "NON_UNIQUE = 0 AND TABLE_SCHEMA = DATABASE() AND TABLE_NAME = %1 ORDER BY INDEX_NAME <> "
+    "'PRIMARY', INDEX_NAME, SEQ_IN_INDEX";
 
 /// The columns of the primary key, or else of a unique key; none when rows may repeat.
 QStringList keyOf(SqlSession &server, const PreviewTable &table)
@@ -30,8 +28,8 @@ QStringList keyOf(SqlSession &server, const PreviewTable &table)
         if (!columns.contains(name))
             names += name;
         columns[name] += row.at(1);
-        isUsable[name] = isUsable.value(name, true) && row.at(2) == QLatin1String("NO")
-            && row.at(3).isNull() && table.indexOf(row.at(1)) >= 0;
+        isUsable[name] = isUsable.value(name, true) && row.at(2).isEmpty() && row.at(3).isNull()
+            && table.indexOf(row.at(1)) >= 0;
     }
     for (const QString &name : qAsConst(names)) {
         if (isUsable.value(name))

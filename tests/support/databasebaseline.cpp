@@ -138,10 +138,10 @@ bool DatabaseBaseline::restore(const QSqlDatabase &administrator, const Content 
 bool DatabaseBaseline::clear(const QSqlDatabase &administrator, const QString &table,
                              bool restartsNumbers)
 {
-    return run(administrator,
-               (restartsNumbers ? QStringLiteral("TRUNCATE TABLE ")
-                                : QStringLiteral("DELETE FROM "))
-                   + quoted(table));
+    return run(
+        administrator,
+        (restartsNumbers ? QStringLiteral("TRUNCATE TABLE ") : QStringLiteral("DELETE FROM "))
+            + quoted(table));
 }
 
 bool DatabaseBaseline::fill(const QSqlDatabase &administrator, const QString &table) const

@@ -1,6 +1,6 @@
-// makedatafolder FOLDER SQLFILE...: makes the data folders that the servers of the tests begin with,
-// in FOLDER, which has none yet: "system" has the system tables, "reference" besides the attendance
-// server's database and account, and what the files create.
+// makedatafolder FOLDER SQLFILE...: makes the data folders that the servers of the tests begin
+// with, in FOLDER, which has none yet: "system" has the system tables, "reference" besides the
+// attendance server's database and account, and what the files create.
 
 #include "privatedb/datafolder.h"
 #include "privatedb/privatemariadb.h"
