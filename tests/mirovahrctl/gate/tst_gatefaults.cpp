@@ -42,14 +42,14 @@ QVector<ExportRow> longPeople(int count)
 
 QByteArray lastFile()
 {
-    return GatePeople::file(longPeople(80));
+    return GatePeople::file(longPeople(40));
 }
 
 QByteArray newFile(const Scenario &scenario)
 {
     if (scenario.isRefused)
         return QByteArray();
-    return scenario.isUnchanged ? lastFile() : "broken\n" + GatePeople::file(longPeople(70));
+    return scenario.isUnchanged ? lastFile() : "broken\n" + GatePeople::file(longPeople(35));
 }
 
 std::unique_ptr<GateSite> prepare(const Scenario &scenario)
