@@ -88,6 +88,7 @@ private Q_SLOTS:
     void triggersWriteTheirOwnTables();
     void triggersFireInTheTimeZoneOfTheSite();
     void whatATriggerHasRemovedComesBack();
+    void aTableWithoutAKeyIsRefused_data();
     void aTableWithoutAKeyIsRefused();
     void anotherKindOfServerIsRefused();
 
@@ -724,9 +725,21 @@ void TestPreviewUndo::whatATriggerHasRemovedComesBack()
     QCOMPARE(leftOver(), QString());
 }
 
+void TestPreviewUndo::aTableWithoutAKeyIsRefused_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::newRow("none") << "DROP PRIMARY KEY";
+    QTest::newRow("of a column without a value")
+        << "DROP PRIMARY KEY, MODIFY uid INT UNSIGNED NULL, ADD UNIQUE KEY (bid, uid)";
+    QTest::newRow("of the beginning of a text")
+        << "DROP PRIMARY KEY, ADD note VARCHAR(9) NOT NULL DEFAULT '', ADD UNIQUE KEY (bid, uid, "
+           "note(3))";
+}
+
 void TestPreviewUndo::aTableWithoutAKeyIsRefused()
 {
-    site().run("ALTER TABLE brape DROP PRIMARY KEY");
+    QFETCH(QString, keys);
+    site().run("ALTER TABLE brape " + keys);
     const ToolRun tool = runTool(
         QStringList{"preview", m_bench.exportFile().path(), "--undo", m_bench.filePath("none.sql")}
         + m_bench.arguments());
