@@ -7,14 +7,14 @@ namespace LogRules {
 
 inline constexpr Rule kInterrupted{
     "interrupted", Severity::Warning,
-    QT_TRANSLATE_NOOP("Text",
-                      "Statements failed through a deadlock, a lock's timeout, a lost connection "
-                      "or a cluster node that was not ready."),
+    QT_TRANSLATE_NOOP(
+        "Text",
+        "Statements failed by a deadlock, a lock's timeout, a lost connection or a node "
+        "that was not ready."),
     QT_TRANSLATE_NOOP(
         "Text",
         "What they were to write may be missing for good: force a synchronisation with the same "
-        "export, "
-        "then run mirovahrctl drift. Look out for more: a failed COMMIT is not logged.")};
+        "export, then run mirovahrctl drift. Look out for more: a failed COMMIT is not logged.")};
 
 inline constexpr Rule kLoggedError{
     "logged-error", Severity::Error, QT_TRANSLATE_NOOP("Text", "The plugin logged an error."),

@@ -12,14 +12,14 @@ inline constexpr Rule kGateRefused{
 
 inline constexpr Rule kInterrupted{
     "interrupted", Severity::Warning,
-    QT_TRANSLATE_NOOP("Text",
-                      "Statements of the plugin failed through a deadlock, a lock's timeout, a "
-                      "lost connection or a cluster node that was not ready."),
+    QT_TRANSLATE_NOOP(
+        "Text",
+        "Statements failed by a deadlock, a lock's timeout, a lost connection or a node "
+        "that was not ready."),
     QT_TRANSLATE_NOOP(
         "Text",
         "What they were to write may be missing for good: force a synchronisation with the same "
-        "export, "
-        "then run mirovahrctl drift.")};
+        "export, then run mirovahrctl drift.")};
 
 inline constexpr Rule kTooOld{
     "too-old", Severity::Warning,

@@ -1013,7 +1013,7 @@ S volbou --follow pokračuje, dokud se protokol zapisuje, i když se soubor rotu
         <translation>Nadřízení</translation>
     </message>
     <message>
-        <source>Statements failed through a deadlock, a lock&apos;s timeout, a lost connection or a cluster node that was not ready.</source>
+        <source>Statements failed by a deadlock, a lock&apos;s timeout, a lost connection or a node that was not ready.</source>
         <translation>Příkazy selhaly kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku, ztrátě spojení nebo nepřipravenému uzlu clusteru.</translation>
     </message>
     <message>

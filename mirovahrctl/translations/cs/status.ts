@@ -12,8 +12,8 @@
         <translation>Dokud není přijat další soubor, k zásuvnému modulu se nedostane nic nového.</translation>
     </message>
     <message>
-        <source>Statements of the plugin failed through a deadlock, a lock&apos;s timeout, a lost connection or a cluster node that was not ready.</source>
-        <translation>Příkazy zásuvného modulu selhaly kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku, ztrátě spojení nebo nepřipravenému uzlu clusteru.</translation>
+        <source>Statements failed by a deadlock, a lock&apos;s timeout, a lost connection or a node that was not ready.</source>
+        <translation>Příkazy selhaly kvůli vzájemnému zablokování (deadlock), vypršení časového limitu zámku, ztrátě spojení nebo nepřipravenému uzlu clusteru.</translation>
     </message>
     <message>
         <source>What they were to write may be missing for good: force a synchronisation with the same export, then run mirovahrctl drift.</source>

@@ -1013,7 +1013,7 @@ S voľbou --follow pokračuje, kým sa protokol zapisuje, aj keď sa súbor rotu
         <translation>Nadriadení</translation>
     </message>
     <message>
-        <source>Statements failed through a deadlock, a lock&apos;s timeout, a lost connection or a cluster node that was not ready.</source>
+        <source>Statements failed by a deadlock, a lock&apos;s timeout, a lost connection or a node that was not ready.</source>
         <translation>Príkazy zlyhali kvôli vzájomnému zablokovaniu (deadlock), vypršaniu časového limitu zámku, strate spojenia alebo nepripravenému uzlu klastra.</translation>
     </message>
     <message>

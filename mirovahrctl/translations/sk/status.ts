@@ -12,8 +12,8 @@
         <translation>Kým sa neprijme ďalší súbor, k zásuvnému modulu sa nedostane nič nové.</translation>
     </message>
     <message>
-        <source>Statements of the plugin failed through a deadlock, a lock&apos;s timeout, a lost connection or a cluster node that was not ready.</source>
-        <translation>Príkazy zásuvného modulu zlyhali kvôli vzájomnému zablokovaniu (deadlock), vypršaniu časového limitu zámku, strate spojenia alebo nepripravenému uzlu klastra.</translation>
+        <source>Statements failed by a deadlock, a lock&apos;s timeout, a lost connection or a node that was not ready.</source>
+        <translation>Príkazy zlyhali kvôli vzájomnému zablokovaniu (deadlock), vypršaniu časového limitu zámku, strate spojenia alebo nepripravenému uzlu klastra.</translation>
     </message>
     <message>
         <source>What they were to write may be missing for good: force a synchronisation with the same export, then run mirovahrctl drift.</source>
