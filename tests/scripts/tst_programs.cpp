@@ -100,7 +100,7 @@ void TestPrograms::wrongUsageEndsWithTheSameStatus_data()
     addRow("yavhost", {YAVHOST}, argument);
     addRow("private-mariadb", {PRIVATE_MARIADB}, argument);
     addRow("mirovahr-demo", kDemo, argument);
-    for (const char *name : {"check-hardening", "demo", "package", "test-packages"})
+    for (const char *name : {"check-hardening", "demo", "nightly", "package", "test-packages"})
         addRow(name, script(name), argument);
     QTest::newRow("yavhost alone") << "yavhost" << QStringList{YAVHOST};
     QTest::newRow("private-mariadb alone") << "private-mariadb" << QStringList{PRIVATE_MARIADB};
