@@ -75,6 +75,20 @@ with_progress()
     return "$built"
 }
 
+# in_parallel FUNCTION ARGUMENT...: calls the function with each argument, in this order and as many at a
+# time as there are processors, and shows in one piece what each call prints. Each has a shell of its own:
+# whatever the function uses must be exported. Fails if any call does.
+in_parallel()
+{
+    local call=$1
+    shift
+    printf '%s\0' "$@" | xargs -0 --max-args=1 --max-procs="$(nproc)" bash -c '
+        output=$("$2" "$3" 2>&1) || failed=1
+        exec {turn}<"$1" && flock "$turn"
+        [[ -z $output ]] || printf "%s\n" "$output"
+        exit "${failed:-0}"' -- "$project" "$call"
+}
+
 is_installed()
 {
     [[ $(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
