@@ -6,6 +6,7 @@
 #include "mirovahrctl/program/outputfile.h"
 #include "mirovahrctl/program/progress.h"
 #include "mirovahrctl/program/report.h"
+#include "mirovahrctl/report/language.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -98,6 +99,12 @@ ExitStatus AnonymiseRun::report(const OtherExport &other)
         "All texts, phone numbers, personal numbers and cost centres were replaced. Dates, "
         "relationships, calendars, codes and vacation balances are those of the export: whoever "
         "knows the people may recognise somebody by them."));
+    if (const qint64 broken = other.countBroken(); broken > 0) {
+        m_report.sentence(
+            Text::tr("%Ln line(s) have too few or too many fields: there all dates and "
+                     "all numbers below 1000 stay, whatever they are.",
+                     nullptr, Language::count(broken)));
+    }
     m_report.fact(QStringLiteral("lines"), Text::tr("Lines"), other.countLines());
     m_report.fact(QStringLiteral("keptNumbers"), Text::tr("Personal numbers that stay"),
                   other.countKept());

@@ -29,6 +29,8 @@ public:
     qint64 countLines() const { return m_lineCount; }
     /// How many numbers of people stay, as OtherNumbers::countKept() says.
     int countKept() const { return m_lines.countKept(); }
+    /// How many lines were written that have too few or too many fields.
+    qint64 countBroken() const { return m_lines.countBroken(); }
 
 private:
     bool noteLines();

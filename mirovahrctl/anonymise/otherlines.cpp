@@ -90,6 +90,7 @@ QByteArray OtherLines::ofPiece(const QByteArray &piece)
 void OtherLines::replaceFields(QList<QByteArray> &fields)
 {
     if (fields.size() != kFieldCount) {
+        ++m_brokenCount;
         for (QByteArray &field : fields)
             field = ofPart(field);
         return;

@@ -25,6 +25,8 @@ public:
 
     /// How many numbers of people stay, as OtherNumbers::countKept() says.
     int countKept() const { return m_people.countKept(); }
+    /// How many lines so far have too few or too many fields: nobody knows which is which.
+    qint64 countBroken() const { return m_brokenCount; }
 
 private:
     void replaceFields(QList<QByteArray> &fields);
@@ -36,4 +38,5 @@ private:
     OtherNumbers m_people;
     OtherNumbers m_costCentres;
     OtherTexts m_texts;
+    qint64 m_brokenCount = 0;
 };

@@ -59,5 +59,13 @@
         <source>All texts, phone numbers, personal numbers and cost centres were replaced. Dates, relationships, calendars, codes and vacation balances are those of the export: whoever knows the people may recognise somebody by them.</source>
         <translation>Všechny texty, telefonní čísla, osobní čísla a střediska byly nahrazeny. Data, poměry, kalendáře, kódy a zůstatky dovolené jsou z exportu: kdo lidi zná, může podle nich někoho poznat.</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln line(s) have too few or too many fields: there all dates and all numbers below 1000 stay, whatever they are.</source>
+        <translation>
+            <numerusform>%Ln řádek má příliš málo nebo příliš mnoho polí: v něm zůstávají všechna data a všechna čísla menší než 1000, ať znamenají cokoli.</numerusform>
+            <numerusform>%Ln řádky mají příliš málo nebo příliš mnoho polí: v nich zůstávají všechna data a všechna čísla menší než 1000, ať znamenají cokoli.</numerusform>
+            <numerusform>%Ln řádků má příliš málo nebo příliš mnoho polí: v nich zůstávají všechna data a všechna čísla menší než 1000, ať znamenají cokoli.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -10,5 +10,12 @@
             <numerusform>%Ln personal numbers stay as they are: with other numbers, other people would have the same pid</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln line(s) have too few or too many fields: there all dates and all numbers below 1000 stay, whatever they are.</source>
+        <translation>
+            <numerusform>%Ln line has too few or too many fields: there all dates and all numbers below 1000 stay, whatever they are.</numerusform>
+            <numerusform>%Ln lines have too few or too many fields: there all dates and all numbers below 1000 stay, whatever they are.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -59,5 +59,13 @@
         <source>All texts, phone numbers, personal numbers and cost centres were replaced. Dates, relationships, calendars, codes and vacation balances are those of the export: whoever knows the people may recognise somebody by them.</source>
         <translation>Všetky texty, telefónne čísla, osobné čísla a strediská boli nahradené. Dátumy, pomery, kalendáre, kódy a zostatky dovolenky sú z exportu: kto ľudí pozná, môže podľa nich niekoho spoznať.</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln line(s) have too few or too many fields: there all dates and all numbers below 1000 stay, whatever they are.</source>
+        <translation>
+            <numerusform>%Ln riadok má príliš málo alebo príliš veľa polí: v ňom zostávajú všetky dátumy a všetky čísla menšie ako 1000, nech znamenajú čokoľvek.</numerusform>
+            <numerusform>%Ln riadky majú príliš málo alebo príliš veľa polí: v nich zostávajú všetky dátumy a všetky čísla menšie ako 1000, nech znamenajú čokoľvek.</numerusform>
+            <numerusform>%Ln riadkov má príliš málo alebo príliš veľa polí: v nich zostávajú všetky dátumy a všetky čísla menšie ako 1000, nech znamenajú čokoľvek.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void twoRunsDiffer();
     void theOutputGoesToAFileForItsOwnerOnly_data();
     void theOutputGoesToAFileForItsOwnerOnly();
+    void theReportCountsTheLinesOfWhichMoreStays();
     void numbersThatStayAreWarnedOf();
     void theExportIsNotWrittenOver();
     void anExportThatIsAppendedToItselfEnds();
@@ -308,6 +309,19 @@ void TestAnonymise::theOutputGoesToAFileForItsOwnerOnly()
     QCOMPARE(run.json()["facts"].toObject()["lines"].toInt(), 2);
     QCOMPARE(run.json()["facts"].toObject()["keptNumbers"].toInt(), 0);
     QCOMPARE(run.err, QString());
+}
+
+void TestAnonymise::theReportCountsTheLinesOfWhichMoreStays()
+{
+    m_export.write({ExportRow()});
+    const QString path = m_folder->filePath("case.data");
+    const ToolRun whole = runTool({"anonymise", m_export.path(), "--output", path});
+    QVERIFY2(!whole.out.contains("too few or too many"), whole.report().constData());
+
+    m_export.write(QStringList{ExportRow().text(), "7|Ema", "8|Eva|305"});
+    const ToolRun run = runTool({"anonymise", m_export.path(), "--output", path});
+    COMPARE_EXIT(run, ExitStatus::Fine);
+    QVERIFY2(run.out.contains("2 lines have too few or too many fields"), run.report().constData());
 }
 
 void TestAnonymise::numbersThatStayAreWarnedOf()
