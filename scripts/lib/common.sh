@@ -10,13 +10,13 @@ project_packages=(cmake ninja-build g++ qtbase5-dev qttools5-dev libqt5sql5-mysq
 
 # What the tests take besides: a browser for the pages, a clock that can be moved, readers for the
 # manual pages, compressed logs.
-test_packages=(chromium libfaketime lld man-db mandoc xz-utils zstd)
+test_packages=(chromium libfaketime lld man-db mandoc tzdata xz-utils zstd)
 
 # What the tests of clusters take besides: Galera, what transfers a node's state, the proxy.
 cluster_packages=(galera-4 haproxy iproute2 mariadb-backup socat)
 
 # What it takes to measure the plugin.
-bench_packages=(binutils gnuplot-nox libmariadb-dev mariadb-client python3 valgrind)
+bench_packages=(binutils gnuplot-nox libmariadb-dev mariadb-client python3 tzdata valgrind)
 
 # What it takes to make the Debian packages.
 package_packages=(dpkg-dev git)
