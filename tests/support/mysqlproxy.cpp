@@ -218,9 +218,12 @@ bool MySqlProxy::passCommand(const MySqlPacket &request, MySqlWire &client, MySq
     Command command;
     command.hasAnswer = sent.hasAnswer();
     command.text = textOf(sent, request);
-    return treat(command, request, client, server, [&](MySqlWire *answered, MySqlPacket &first) {
-        return passAnswer(sent, server, answered, first);
-    });
+    const bool goesOn =
+        treat(command, request, client, server, [&](MySqlWire *answered, MySqlPacket &first) {
+            return passAnswer(sent, server, answered, first);
+        });
+    // A program that was started meanwhile has inherited the client's end of the socket.
+    return goesOn && sent.code != MySqlCommand::Quit;
 }
 
 QString MySqlProxy::textOf(const MySqlCommand &sent, const MySqlPacket &request) const

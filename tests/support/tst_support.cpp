@@ -1,5 +1,7 @@
+#include "privatedb/boundprocess.h"
 #include "tests/support/exportfile.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/mysqlproxy.h"
 #include "tests/support/testdatabase.h"
 #include "tests/support/verifysql.h"
 
@@ -7,6 +9,7 @@
 #include <QLoggingCategory>
 #include <QThread>
 
+#include <csignal>
 #include <thread>
 
 class TestSupport : public QObject {
@@ -32,6 +35,7 @@ private Q_SLOTS:
     void aHiddenTableFailsEveryStatementOnIt();
     void aRefusedEventFailsForTheRowsOfItsCondition();
     void dataSurvivesARestartAndACrash();
+    void theProxyLetsGoOfAClientWhoseSocketAProgramHasInherited();
 
     void linesCarryTheirLevel();
     void messagesKnowTheirThreadAndCategory();
@@ -240,6 +244,22 @@ void TestSupport::dataSurvivesARestartAndACrash()
     QVERIFY(!m_db.pluginConnection("killed").open());
     m_db.startServer();
     QCOMPARE(TestDatabase::difference(before, m_db.dumpAll()), QString());
+}
+
+void TestSupport::theProxyLetsGoOfAClientWhoseSocketAProgramHasInherited()
+{
+    MySqlProxy proxy(m_db.server().socketPath());
+    QSqlDatabase database = m_db.pluginConnection();
+    database.setConnectOptions("UNIX_SOCKET=" + proxy.socketPath());
+    QVERIFY(database.open());
+    BoundProcess program(SIGKILL, BoundProcess::Group::OfItsOwn);
+    program.start("sleep", {"infinity"});
+    QVERIFY(program.waitForStarted(-1));
+    database.close();
+    const bool isIdle = proxy.waitUntilIdle();
+    program.kill();
+    program.waitForFinished(-1);
+    QVERIFY(isIdle);
 }
 
 void TestSupport::linesCarryTheirLevel()
