@@ -85,7 +85,7 @@ ClusterCycle::Run ClusterCycle::disturb(int number, Disturbance::Way way, const 
         const ServingWorker worker(m_cycle.serverConnection(), m_cycle.exportPath());
         passFault(log, steps);
         run.commands = firstTick(plainCommands());
-        run.problems = problems(log.lines());
+        run.problems = problems(firstTick(log.lines()));
         steps.beforeTheRepetition();
         waitUntilFlagIsReset();
         run.lost = differences();
@@ -112,7 +112,8 @@ void ClusterCycle::passFault(const LogCapture &log, const Steps &steps)
     QVERIFY(proxy.waitForEnd());
     steps.afterwards();
     proxy.resume();
-    QVERIFY(log.waitForText("END synchronization #1 "));
+    // The flag is reset after the last line of the synchronisation.
+    QVERIFY(log.waitForText("END synchronization #1 ") && waitForNextTick(log));
 }
 
 /// A flag that is still to be reset would take a new one along.

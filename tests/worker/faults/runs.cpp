@@ -42,6 +42,11 @@ Commands firstTick(const Commands &commands)
     return first;
 }
 
+QStringList firstTick(const QStringList &lines)
+{
+    return lines.mid(0, lines.indexOf(lines.filter(kTick).value(1)));
+}
+
 bool waitForNextTick(const LogCapture &log)
 {
     return log.waitForText(kTick + QString::number(lastNumber(log.lines(), kTick) + 1));

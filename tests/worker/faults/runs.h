@@ -24,4 +24,6 @@ QStringList without(QStringList texts, const QStringList &others);
 int lastNumber(const QStringList &lines, const QString &text);
 /// Up to the first closing of the connection.
 Commands firstTick(const Commands &commands);
+/// Up to the line of the second tick, which must be there.
+QStringList firstTick(const QStringList &lines);
 bool waitForNextTick(const LogCapture &log);
