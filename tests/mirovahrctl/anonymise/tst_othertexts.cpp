@@ -1,5 +1,6 @@
 #include "mirovahrctl/anonymise/othertexts.h"
 
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 

@@ -2,6 +2,7 @@
 #include "tests/mirovahrctl/preview/previewbench.h"
 #include "tests/worker/support/sampleexport.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 /// Which databases preview refuses to copy, and what it reports about things that it cannot see.
