@@ -42,6 +42,7 @@ private Q_SLOTS:
     void aNewFileIsTakenThoughTheNameWasFree();
     void anEmptiedFileBeginsAnew();
     void aPipeInItsPlaceIsNotOpened();
+    void aFileThatComesBackIsWatchedAgain();
     void aNewFileBehindALinkIsNoticed();
     void aSearchFindsWhatReachesAcrossBlocks();
     void aLineThatIsLongerThanABlockIsWhole();
@@ -127,6 +128,23 @@ void TestGrowingFile::aPipeInItsPlaceIsNotOpened()
     QCOMPARE(mkfifo(QFile::encodeName(m_path).constData(), 0600), 0);
     append(m_old, "b");
     file.readOn();
+    QCOMPARE(bytes, QByteArray("ab"));
+}
+
+void TestGrowingFile::aFileThatComesBackIsWatchedAgain()
+{
+    append(m_path, "a");
+    GrowingFile file(m_path);
+    QByteArray bytes;
+    collect(file, bytes);
+    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    file.readOn();
+    QVERIFY(QFile::rename(m_path, m_old));
+    QVERIFY(QFile::rename(m_old, m_path));
+    QCoreApplication::processEvents();
+    QSignalSpy read(&file, &GrowingFile::read);
+    append(m_path, "b");
+    QVERIFY(read.wait(kPatienceMs));
     QCOMPARE(bytes, QByteArray("ab"));
 }
 
