@@ -161,10 +161,11 @@ LogPattern::Fit LogPattern::findValue(size_t piece, std::string_view rest,
 {
     const char kind = m_pieces[piece].value;
     if (kind != 's') {
-        value = rest.substr(0, lengthOfNumber(rest, kind == 'i'));
+        const bool isSigned = kind == 'i';
+        value = rest.substr(0, lengthOfNumber(rest, isSigned));
         if (!value.empty())
             return Fit::Whole;
-        return rest.empty() || rest == "-" ? Fit::Cut : Fit::None;
+        return rest.empty() || (isSigned && rest == "-") ? Fit::Cut : Fit::None;
     }
     const Piece &next = m_pieces[piece + 1];
     const std::string_view literal = view(next.literal);

@@ -582,6 +582,11 @@ void TestLog::cutLines_data()
         << QByteArray("XMHRWorker: END synchronization #1 (waiting records: 0)")
         << Outcome::Foreign;
     QTest::newRow("too short") << QByteArray("MirovaHR is") << Outcome::Foreign;
+    QTest::newRow("before a number") << QByteArray("MHRWorker::checkSync(): #") << Outcome::Found;
+    QTest::newRow("behind the sign of a number that has none")
+        << QByteArray("MHRWorker::checkSync(): #-") << Outcome::Unknown;
+    QTest::newRow("behind the sign of a number")
+        << QByteArray("MHRWorker: END synchronization #1 (waiting records: -") << Outcome::Found;
     QTest::newRow("whole") << QByteArray("MHRWorker::dbAddPerson(1235.1)") << Outcome::Found;
 }
 
