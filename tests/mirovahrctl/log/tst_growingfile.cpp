@@ -21,13 +21,21 @@ void append(const QString &path, const QByteArray &bytes)
         qFatal("%s cannot be written", qPrintable(path));
 }
 
-/// What a file hands on; "|" where it begins anew.
-void collect(GrowingFile &file, QByteArray &bytes)
-{
-    QObject::connect(&file, &GrowingFile::read,
-                     [&bytes](const QByteArray &block) { bytes += block; });
-    QObject::connect(&file, &GrowingFile::begunAnew, [&bytes] { bytes += '|'; });
-}
+/// An open file, with what it has handed on.
+class CollectedFile : public GrowingFile {
+public:
+    explicit CollectedFile(const QString &path)
+        : GrowingFile(path)
+    {
+        connect(this, &GrowingFile::read, [this](const QByteArray &block) { bytes += block; });
+        connect(this, &GrowingFile::begunAnew, [this] { bytes += '|'; });
+        if (!open())
+            qFatal("%s", qPrintable(errorString()));
+    }
+
+    /// "|" where it begins anew.
+    QByteArray bytes;
+};
 
 } // namespace
 
@@ -64,80 +72,65 @@ void TestGrowingFile::init()
 void TestGrowingFile::theOldFileIsReadUntilTheNewOneIsWritten()
 {
     append(m_path, "a");
-    GrowingFile file(m_path);
-    QByteArray bytes;
-    collect(file, bytes);
-    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    CollectedFile file(m_path);
     file.readOn();
     QVERIFY(QFile::rename(m_path, m_old));
     append(m_path, "");
     file.readOn();
     append(m_old, "b");
     file.readOn();
-    QCOMPARE(bytes, QByteArray("ab"));
+    QCOMPARE(file.bytes, QByteArray("ab"));
     append(m_old, "c");
     append(m_path, "d");
     file.readOn();
-    QCOMPARE(bytes, QByteArray("abc|d"));
+    QCOMPARE(file.bytes, QByteArray("abc|d"));
     append(m_old, "e");
     append(m_path, "f");
     file.readOn();
-    QCOMPARE(bytes, QByteArray("abc|df"));
+    QCOMPARE(file.bytes, QByteArray("abc|df"));
 }
 
 void TestGrowingFile::aNewFileIsTakenThoughTheNameWasFree()
 {
     append(m_path, "a");
-    GrowingFile file(m_path);
-    QByteArray bytes;
-    collect(file, bytes);
-    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    CollectedFile file(m_path);
     file.readOn();
     QVERIFY(QFile::remove(m_path));
     file.readOn();
     append(m_path, "b");
     file.readOn();
-    QCOMPARE(bytes, QByteArray("a|b"));
+    QCOMPARE(file.bytes, QByteArray("a|b"));
 }
 
 void TestGrowingFile::anEmptiedFileBeginsAnew()
 {
     append(m_path, "abc");
-    GrowingFile file(m_path);
-    QByteArray bytes;
-    collect(file, bytes);
-    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    CollectedFile file(m_path);
     file.readOn();
     QVERIFY(QFile::resize(m_path, 0));
     append(m_path, "d");
     file.readOn();
     append(m_path, "e");
     file.readOn();
-    QCOMPARE(bytes, QByteArray("abc|de"));
+    QCOMPARE(file.bytes, QByteArray("abc|de"));
 }
 
 /// Opening one would wait for whoever writes into it.
 void TestGrowingFile::aPipeInItsPlaceIsNotOpened()
 {
     append(m_path, "a");
-    GrowingFile file(m_path);
-    QByteArray bytes;
-    collect(file, bytes);
-    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    CollectedFile file(m_path);
     QVERIFY(QFile::rename(m_path, m_old));
     QCOMPARE(mkfifo(QFile::encodeName(m_path).constData(), 0600), 0);
     append(m_old, "b");
     file.readOn();
-    QCOMPARE(bytes, QByteArray("ab"));
+    QCOMPARE(file.bytes, QByteArray("ab"));
 }
 
 void TestGrowingFile::aFileThatComesBackIsWatchedAgain()
 {
     append(m_path, "a");
-    GrowingFile file(m_path);
-    QByteArray bytes;
-    collect(file, bytes);
-    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    CollectedFile file(m_path);
     file.readOn();
     QVERIFY(QFile::rename(m_path, m_old));
     QVERIFY(QFile::rename(m_old, m_path));
@@ -145,7 +138,7 @@ void TestGrowingFile::aFileThatComesBackIsWatchedAgain()
     QSignalSpy read(&file, &GrowingFile::read);
     append(m_path, "b");
     QVERIFY(read.wait(kPatienceMs));
-    QCOMPARE(bytes, QByteArray("ab"));
+    QCOMPARE(file.bytes, QByteArray("ab"));
 }
 
 /// It appears in another folder than that of the name.
@@ -155,10 +148,7 @@ void TestGrowingFile::aNewFileBehindALinkIsNoticed()
     const QString target = m_folder->filePath("logs/log");
     append(target, "a");
     QVERIFY(QFile::link(target, m_path));
-    GrowingFile file(m_path);
-    QByteArray bytes;
-    collect(file, bytes);
-    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    CollectedFile file(m_path);
     file.readOn();
     QVERIFY(QFile::rename(target, m_old));
     QCoreApplication::processEvents();
@@ -166,7 +156,7 @@ void TestGrowingFile::aNewFileBehindALinkIsNoticed()
     append(target, "b");
     QVERIFY(begunAnew.wait(kPatienceMs));
     file.readOn();
-    QCOMPARE(bytes, QByteArray("a|b"));
+    QCOMPARE(file.bytes, QByteArray("a|b"));
 }
 
 void TestGrowingFile::aSearchFindsWhatReachesAcrossBlocks()
@@ -177,13 +167,10 @@ void TestGrowingFile::aSearchFindsWhatReachesAcrossBlocks()
         const QByteArray rest = "2\n" + QByteArray(behind - 2, 'y');
         QVERIFY(!QFile::exists(m_path) || QFile::remove(m_path));
         append(m_path, begin + wanted + rest);
-        GrowingFile file(m_path);
-        QByteArray bytes;
-        collect(file, bytes);
-        QVERIFY2(file.open(), qPrintable(file.errorString()));
+        CollectedFile file(m_path);
         file.skipToLast(kText, 1);
         file.readOn();
-        QVERIFY2(bytes == wanted + rest, QByteArray::number(behind));
+        QVERIFY2(file.bytes == wanted + rest, QByteArray::number(behind));
     }
 }
 
@@ -191,13 +178,10 @@ void TestGrowingFile::aLineThatIsLongerThanABlockIsWhole()
 {
     const QByteArray line = QByteArray(3 * kBlock, 'x') + kText + '\n';
     append(m_path, "a\n" + line + "b\n");
-    GrowingFile file(m_path);
-    QByteArray bytes;
-    collect(file, bytes);
-    QVERIFY2(file.open(), qPrintable(file.errorString()));
+    CollectedFile file(m_path);
     file.skipToLast(kText, 1);
     file.readOn();
-    QVERIFY(bytes == line + "b\n");
+    QVERIFY(file.bytes == line + "b\n");
 }
 
 QTEST_GUILESS_MAIN(TestGrowingFile)
